@@ -1,0 +1,15 @@
+#include "norvik/base/errores.hpp"
+
+#include "norvik/base/texto.hpp"
+
+namespace norvik {
+
+ErrorNorvik::ErrorNorvik(std::u16string_view texto) : std::runtime_error(aUtf8(texto)), texto_(texto) {}
+Desbordamiento::Desbordamiento(std::u16string_view texto) : ErrorNorvik(texto) {}
+SubindiceFueraDeIntervalo::SubindiceFueraDeIntervalo(std::u16string_view texto) : ErrorNorvik(texto) {}
+IndiceNoValido::IndiceNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
+NoCoincidenLosTipos::NoCoincidenLosTipos(std::u16string_view texto) : ErrorNorvik(texto) {}
+ArgumentoNoValido::ArgumentoNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
+ErrorDeFichero::ErrorDeFichero(std::u16string_view texto) : ErrorNorvik(texto) {}
+
+} // namespace norvik

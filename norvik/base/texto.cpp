@@ -1,0 +1,167 @@
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cwctype>
+#include <locale.h>
+#include <memory>
+
+namespace norvik {
+
+namespace {
+
+// Characters of the bytes 0x80 to 0x9F; the others have the code of their byte.
+constexpr std::array<char16_t, 32> bytes80a9F = {
+    u'\u20AC', u'\x81',   u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
+    u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', u'\x8D',   u'\u017D', u'\x8F',
+    u'\x90',   u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
+    u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', u'\x9D',   u'\u017E', u'\u0178'};
+
+constexpr bool esSustitutoAlto(char16_t c) {
+    return c >= 0xD800 && c <= 0xDBFF;
+}
+
+constexpr bool esSustitutoBajo(char16_t c) {
+    return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+void aniadeUtf8(std::string& salida, char32_t c) {
+    const auto byte = [&](char32_t valor) { salida.push_back(static_cast<char>(valor)); };
+    if (c < 0x80) return byte(c);
+    if (c < 0x800) {
+        byte(0xC0 | (c >> 6));
+    } else if (c < 0x10000) {
+        byte(0xE0 | (c >> 12));
+        byte(0x80 | ((c >> 6) & 0x3F));
+    } else {
+        byte(0xF0 | (c >> 18));
+        byte(0x80 | ((c >> 12) & 0x3F));
+        byte(0x80 | ((c >> 6) & 0x3F));
+    }
+    byte(0x80 | (c & 0x3F));
+}
+
+struct Secuencia {
+    char32_t punto = 0;
+    std::size_t longitud = 0; // 0: not valid
+};
+
+// The shortest-form rule, the surrogate gap and the upper bound, by the first byte's class.
+Secuencia leeSecuencia(std::string_view bytes) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    const unsigned char primero = byte(0);
+    if (primero < 0x80) return {primero, 1};
+    const std::size_t longitud = primero >= 0xF0 ? 4 : primero >= 0xE0 ? 3 : 2;
+    if (primero < 0xC2 || primero > 0xF4 || bytes.size() < longitud) return {};
+    char32_t punto = primero & (0xFFU >> (longitud + 1));
+    for (std::size_t i = 1; i < longitud; ++i) {
+        if ((byte(i) & 0xC0) != 0x80) return {};
+        punto = (punto << 6) | (byte(i) & 0x3FU);
+    }
+    constexpr std::array<char32_t, 5> minimo = {0, 0, 0x80, 0x800, 0x10000};
+    if (punto < minimo[longitud] || punto > 0x10FFFF || (punto >= 0xD800 && punto <= 0xDFFF)) return {};
+    return {punto, longitud};
+}
+
+struct LiberaLocal {
+    using pointer = locale_t;
+    void operator()(locale_t local) const { freelocale(local); }
+};
+
+// The simple case mapping of the C library's Unicode locale, independent of the user's.
+locale_t localUnicode() {
+    static const std::unique_ptr<locale_t, LiberaLocal> local(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr));
+    return local.get();
+}
+
+template <typename Conversion>
+std::u16string convierte(std::u16string_view texto, Conversion conversion) {
+    std::u16string resultado(texto);
+    for (char16_t& c : resultado) {
+        const auto otra = conversion(static_cast<std::wint_t>(c));
+        if (otra <= 0xFFFF) c = static_cast<char16_t>(otra);
+    }
+    return resultado;
+}
+
+} // namespace
+
+std::string aUtf8(std::u16string_view texto) {
+    std::string salida;
+    salida.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const char16_t c = texto[i];
+        if (esSustitutoAlto(c) && i + 1 < texto.size() && esSustitutoBajo(texto[i + 1])) {
+            const char32_t alto = c - 0xD800U;
+            const char32_t bajo = texto[++i] - 0xDC00U;
+            aniadeUtf8(salida, 0x10000 + (alto << 10) + bajo);
+        } else {
+            aniadeUtf8(salida, esSustitutoAlto(c) || esSustitutoBajo(c) ? 0xFFFD : c);
+        }
+    }
+    return salida;
+}
+
+std::optional<std::u16string> desdeUtf8(std::string_view bytes) {
+    std::u16string texto;
+    texto.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const Secuencia secuencia = leeSecuencia(bytes);
+        if (secuencia.longitud == 0) return std::nullopt;
+        bytes.remove_prefix(secuencia.longitud);
+        if (secuencia.punto < 0x10000) {
+            texto.push_back(static_cast<char16_t>(secuencia.punto));
+        } else {
+            const char32_t resto = secuencia.punto - 0x10000;
+            texto.push_back(static_cast<char16_t>(0xD800 + (resto >> 10)));
+            texto.push_back(static_cast<char16_t>(0xDC00 + (resto & 0x3FF)));
+        }
+    }
+    return texto;
+}
+
+std::optional<std::string> aWindows1252(std::u16string_view texto) {
+    std::string bytes;
+    bytes.reserve(texto.size());
+    for (const char16_t c : texto) {
+        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+            bytes.push_back(static_cast<char>(c));
+            continue;
+        }
+        const auto* const sitio = std::find(bytes80a9F.begin(), bytes80a9F.end(), c);
+        if (sitio == bytes80a9F.end()) return std::nullopt;
+        bytes.push_back(static_cast<char>(0x80 + (sitio - bytes80a9F.begin())));
+    }
+    return bytes;
+}
+
+std::u16string desdeWindows1252(std::string_view bytes) {
+    std::u16string texto;
+    texto.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        texto.push_back(byte >= 0x80 && byte <= 0x9F ? bytes80a9F[byte - 0x80U] : char16_t{byte});
+    }
+    return texto;
+}
+
+std::u16string_view recorta(std::u16string_view texto) {
+    const auto inicio = texto.find_first_not_of(u' ');
+    if (inicio == std::u16string_view::npos) return {};
+    return texto.substr(inicio, texto.find_last_not_of(u' ') - inicio + 1);
+}
+
+std::u16string aTexto(std::int64_t numero) {
+    const std::string digitos = std::to_string(numero);
+    return {digitos.begin(), digitos.end()};
+}
+
+std::u16string aMayusculas(std::u16string_view texto) {
+    return convierte(texto, [](std::wint_t c) { return towupper_l(c, localUnicode()); });
+}
+
+std::u16string aMinusculas(std::u16string_view texto) {
+    return convierte(texto, [](std::wint_t c) { return towlower_l(c, localUnicode()); });
+}
+
+} // namespace norvik

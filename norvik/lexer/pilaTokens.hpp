@@ -1,0 +1,64 @@
+#pragma once
+
+#include "norvik/lexer/expresionRegular.hpp"
+#include "norvik/lexer/mapaTokens.hpp"
+#include "norvik/lexer/parLT.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// The lexer: the definitions of a language in registration order, their colours, and recognition.
+class pilaTokens {
+public:
+    std::int32_t colorPalabrasReservadas = 0;
+    std::int32_t ColorOperadores = 0;
+    std::int32_t ColorComentarios = 0;
+    std::int32_t ColorEtiquetas = 0;
+    std::int32_t ColorNumeros = 0;
+    std::int32_t ColorError = 0;
+    std::int32_t ColorCadena = 0;
+    std::int32_t ColorCaracter = 0;
+    std::int32_t ColorFechas = 0;
+    bool autoNumber = false;
+
+    /// Forgets every definition and the token map; the colours stay.
+    void Inicializa();
+
+    /// Number of token definitions (auxiliary ones do not count); raises `Desbordamiento`.
+    std::int16_t getNumTokensLenguaje() const;
+    /// Definition at a 1-based position; raises `IndiceNoValido`.
+    const expresionRegular& getTokenLenguaje(std::int16_t numToken) const;
+
+    /// Registers a definition. Returns the message of the first error, empty on success; on error nothing is
+    /// registered. The colour comes from the kind, `colorOpcional` has no effect.
+    std::u16string SetER(std::u16string_view expresionRegular, std::u16string_view nomER, bool esToken,
+                         bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
+                         std::int32_t base, std::int32_t colorOpcional);
+    std::u16string SetPalabraReservada(std::u16string_view lexema, std::u16string_view token,
+                                       bool sensibleTamanio, std::u16string_view pseudoToken);
+    std::u16string SetOperador(std::u16string_view lexema, std::u16string_view token, bool sensibleTamanio,
+                               std::u16string_view pseudoToken);
+
+    /// Recognises the tokens of positions `TextStart` … `TextEnd` − 1 (1-based, −1: from the first, to the
+    /// last). The map belongs to the lexer and is refilled by the next call. Raises `Desbordamiento`, also
+    /// when a definition's search runs away (the text then names it).
+    MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
+                               std::int16_t TextEnd = -1);
+
+    /// How a token may be written, for lists of expected tokens.
+    std::u16string toStringLexemasPorToken(std::u16string_view token) const;
+    /// How a token that was read is named in messages.
+    std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const;
+
+private:
+    std::vector<std::unique_ptr<expresionRegular>> expresionesRegulares_;
+    std::vector<const expresionRegular*> tokensLenguaje_;
+    MapaTokens mapaTokens_;
+};
+
+} // namespace norvik

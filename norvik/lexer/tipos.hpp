@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+
+namespace norvik {
+
+/// Token kinds.
+enum TipoExpReg : std::int16_t {
+    Norvik_ExpReg = 0,
+    Norvik_PalabraReservada = 1,
+    Norvik_Operador = 2,
+    Norvik_ComentarioBloque = 3,
+    Norvik_ComentarioLinea = 4,
+    Norvik_Cadena = 5,
+    Norvik_Caracter = 6,
+    Norvik_Numero = 7,
+    Norvik_Etiqueta = 8,
+    Norvik_AutoExpReg = 9,
+    Norvik_Fecha = 10,
+};
+
+/// Number bases; 0 means none.
+enum baseNumerica : std::int16_t {
+    Norvik_SinBase = 0,
+    Norvik_BaseBinaria = 2,
+    Norvik_BaseOctal = 8,
+    Norvik_BaseDecimal = 10,
+    Norvik_BaseHexadecimal = 16,
+};
+
+/// The colour that means none; others are 0x00BBGGRR.
+inline constexpr std::int32_t sinColor = -1;
+
+} // namespace norvik

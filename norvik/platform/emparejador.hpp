@@ -1,0 +1,61 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// One match: 0-based first index in the subject and length, in characters.
+struct Coincidencia {
+    std::int32_t indice = 0;
+    std::int32_t longitud = 0;
+
+    bool operator==(const Coincidencia&) const = default;
+};
+
+/// Time that a whole operation (a recognition, a search) may spend in matchers.
+class Presupuesto {
+public:
+    explicit Presupuesto(std::chrono::milliseconds plazo = std::chrono::milliseconds(3000))
+        : fin_(std::chrono::steady_clock::now() + plazo) {}
+    bool agotado() const { return std::chrono::steady_clock::now() > fin_; }
+
+private:
+    std::chrono::steady_clock::time_point fin_;
+};
+
+/// Raised by a search that exceeds the matcher's limits or its time; the caller knows the pattern's name.
+class BusquedaDesbocada {};
+
+/// A compiled pattern of the editor's dialect. Searches are always global.
+class Emparejador {
+public:
+    /// Nothing when the pattern is malformed.
+    static std::optional<Emparejador> compila(std::u16string_view patron, bool ignoraMayusculas);
+
+    Emparejador(Emparejador&&) noexcept;
+    Emparejador& operator=(Emparejador&&) noexcept;
+    Emparejador(const Emparejador&) = delete;
+    Emparejador& operator=(const Emparejador&) = delete;
+    ~Emparejador();
+
+    /// Every non-overlapping match, left to right; after an empty match the search goes on one character
+    /// further. The subject alone is seen. Raises `BusquedaDesbocada`.
+    std::vector<Coincidencia> ejecuta(std::u16string_view sujeto, const Presupuesto& presupuesto) const;
+
+    /// The word that the pattern is, when it is a plain word: then its matches are its occurrences.
+    const std::optional<std::u16string>& palabra() const;
+    bool ignoraMayusculas() const;
+
+private:
+    struct Compilado;
+    explicit Emparejador(std::unique_ptr<Compilado> compilado);
+    std::unique_ptr<Compilado> compilado_;
+};
+
+} // namespace norvik
