@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -15,14 +16,20 @@ std::string codifica(std::u16string_view texto);
 /// The lines of a text (ended by CR LF, CR or LF) joined by CR LF, without the last line end.
 std::u16string normalizaLineas(std::u16string_view texto);
 
-/// A whole file's bytes; raises `ErrorDeFichero` (missing, a folder, unreadable …).
+/// A greater file is refused: no text of that size can be edited, and an endless one must not fill memory.
+inline constexpr std::size_t maximoDeFichero = std::size_t{64} << 20;
+
+/// A whole file's bytes; raises `ErrorDeFichero` (missing, a folder, unreadable, too large …).
 std::string leeBytes(const std::filesystem::path& fichero);
+/// The same of standard input, from where it stands to its end.
+std::string leeEntradaEstandar();
 /// A text as the editor loads it: decoded, lines normalised.
 std::u16string leeTexto(const std::filesystem::path& fichero);
 
 enum class Durabilidad { Normal, EnDisco };
 /// Writes a whole file beside its place and renames it over it: a failure at any step (`ErrorDeFichero`)
-/// leaves the old one. Permissions stay, a link is followed; `EnDisco` flushes file and folder.
+/// leaves the old one. Permissions stay, a link is followed; `EnDisco` flushes file and folder. What is no
+/// regular file (a device, a pipe) has no place beside it and is written directly.
 void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes, Durabilidad durabilidad);
 void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto, Durabilidad durabilidad);
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cwctype>
-#include <locale.h>
 #include <memory>
 
 namespace norvik {

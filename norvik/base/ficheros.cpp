@@ -1,0 +1,254 @@
+// Whole files, read and written at once.
+//
+// A file is written under a name of its own in the same folder and renamed over its place: the rename is the
+// only step that others see, and it either happens or does not. The bytes reach the disk before the rename
+// and the folder's entry after it when that is asked for.
+
+#include "norvik/base/ficheros.hpp"
+
+#include "norvik/base/causas.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
+
+class Descriptor {
+public:
+    explicit Descriptor(int numero) : numero_(numero) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { cierra(); }
+
+    int numero() const { return numero_; }
+    bool abierto() const { return numero_ >= 0; }
+    bool cierra() {
+        if (!abierto()) return true;
+        const bool bien = close(numero_) == 0;
+        numero_ = -1;
+        return bien;
+    }
+
+private:
+    int numero_;
+};
+
+[[noreturn]] void falla(std::u16string_view accion, std::u16string_view nombre, std::u16string_view causa) {
+    std::u16string texto(u"No se puede ");
+    texto.append(accion).append(u" ").append(nombre).append(u": ").append(causa);
+    throw ErrorDeFichero(texto);
+}
+
+std::u16string entreComillas(const fs::path& fichero) {
+    return u"«" + decodifica(fichero.native()) + u"»";
+}
+
+// A missing file is no obstacle to writing one: what is missing then is its folder.
+[[noreturn]] void fallaEscritura(const fs::path& fichero, int codigo) {
+    falla(u"escribir", entreComillas(fichero),
+          codigo == ENOENT ? u"la carpeta no existe" : causaDelSistema(codigo));
+}
+
+// The system would take a name up to its first NUL, and so another file.
+bool tieneNombreImposible(const fs::path& fichero) {
+    return fichero.native().find('\0') != std::string::npos;
+}
+
+std::string leeTodo(int descriptor, std::u16string_view nombre) {
+    std::string bytes;
+    std::array<char, 65536> trozo{};
+    for (;;) {
+        const ssize_t leidos = read(descriptor, trozo.data(), trozo.size());
+        if (leidos == 0) return bytes;
+        if (leidos < 0 && errno == EINTR) continue;
+        if (leidos < 0) falla(u"leer", nombre, causaDelSistema(errno));
+        bytes.append(trozo.data(), static_cast<std::size_t>(leidos));
+        if (bytes.size() > maximoDeFichero) falla(u"leer", nombre, causaDelSistema(EFBIG));
+    }
+}
+
+bool escribeTodo(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t escritos = write(descriptor, bytes.data(), bytes.size());
+        if (escritos < 0 && errno == EINTR) continue;
+        if (escritos < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(escritos));
+    }
+    return true;
+}
+
+// The file that a chain of links leads to, which need not exist.
+std::optional<fs::path> sigueEnlaces(fs::path fichero) {
+    constexpr int maximo = 40;
+    std::error_code error;
+    for (int i = 0; i < maximo; ++i) {
+        if (!fs::is_symlink(fs::symlink_status(fichero, error))) return fichero;
+        const fs::path destino = fs::read_symlink(fichero, error);
+        if (error) return std::nullopt;
+        fichero = fichero.parent_path() / destino;
+    }
+    return std::nullopt;
+}
+
+// A new file in the folder of another one; it disappears unless it takes that one's place.
+class FicheroProvisional {
+public:
+    explicit FicheroProvisional(fs::path destino) : destino_(std::move(destino)), descriptor_(crea()) {}
+    FicheroProvisional(const FicheroProvisional&) = delete;
+    FicheroProvisional& operator=(const FicheroProvisional&) = delete;
+    ~FicheroProvisional() {
+        const int codigo = errno; // the caller still reads why it failed
+        if (descriptor_.abierto() || pendiente_) unlink(nombre_.c_str());
+        errno = codigo;
+    }
+
+    bool creado() const { return descriptor_.abierto(); }
+
+    bool llena(std::string_view bytes, const struct stat* antiguo, Durabilidad durabilidad) {
+        if (antiguo != nullptr && !copiaPermisos(*antiguo)) return false;
+        if (!escribeTodo(descriptor_.numero(), bytes)) return false;
+        if (durabilidad == Durabilidad::EnDisco && fsync(descriptor_.numero()) != 0) return false;
+        pendiente_ = true;
+        return descriptor_.cierra();
+    }
+
+    bool ocupaSuPuesto() {
+        if (rename(nombre_.c_str(), destino_.c_str()) != 0) return false;
+        pendiente_ = false;
+        return true;
+    }
+
+private:
+    int crea() {
+        constexpr int maximo = 1000;
+        for (int i = 0; i < maximo; ++i) {
+            nombre_ = destino_.parent_path() /
+                      (".norvik-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp");
+            const int numero = open(nombre_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            if (numero >= 0 || errno != EEXIST) return numero;
+        }
+        return -1;
+    }
+
+    // Only the superuser gives files away: for others the owner is the same already, or stays theirs.
+    bool copiaPermisos(const struct stat& antiguo) const {
+        if (fchown(descriptor_.numero(), antiguo.st_uid, antiguo.st_gid) != 0 && errno != EPERM) return false;
+        return fchmod(descriptor_.numero(), antiguo.st_mode & 07777U) == 0;
+    }
+
+    fs::path destino_;
+    fs::path nombre_;
+    Descriptor descriptor_;
+    bool pendiente_ = false;
+};
+
+// Some file systems have no way to flush a folder, and say so.
+bool vuelcaCarpeta(const Descriptor& carpeta) {
+    return fsync(carpeta.numero()) == 0 || errno == EINVAL;
+}
+
+bool reemplaza(const fs::path& destino, std::string_view bytes, const struct stat* antiguo,
+               Durabilidad durabilidad) {
+    FicheroProvisional provisional(destino);
+    if (!provisional.creado() || !provisional.llena(bytes, antiguo, durabilidad)) return false;
+    if (durabilidad == Durabilidad::Normal) return provisional.ocupaSuPuesto();
+    const fs::path carpeta = destino.has_parent_path() ? destino.parent_path() : fs::path(".");
+    const Descriptor abierta(open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return abierta.abierto() && provisional.ocupaSuPuesto() && vuelcaCarpeta(abierta);
+}
+
+bool escribeDirecto(const fs::path& destino, std::string_view bytes) {
+    Descriptor descriptor(open(destino.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC));
+    return descriptor.abierto() && escribeTodo(descriptor.numero(), bytes) && descriptor.cierra();
+}
+
+bool escribeRegular(const fs::path& fichero, std::string_view bytes, const struct stat* antiguo,
+                    Durabilidad durabilidad) {
+    const auto destino = sigueEnlaces(fichero);
+    if (!destino) errno = ELOOP;
+    return destino && reemplaza(*destino, bytes, antiguo, durabilidad);
+}
+
+bool escribe(const fs::path& fichero, std::string_view bytes, Durabilidad durabilidad) {
+    struct stat antiguo {};
+    if (stat(fichero.c_str(), &antiguo) != 0)
+        return errno == ENOENT && escribeRegular(fichero, bytes, nullptr, durabilidad);
+    if (S_ISDIR(antiguo.st_mode)) {
+        errno = EISDIR;
+        return false;
+    }
+    if (!S_ISREG(antiguo.st_mode)) return escribeDirecto(fichero, bytes);
+    // The rename would ask for the folder's permission alone.
+    return faccessat(AT_FDCWD, fichero.c_str(), W_OK, AT_EACCESS) == 0 &&
+           escribeRegular(fichero, bytes, &antiguo, durabilidad);
+}
+
+} // namespace
+
+std::u16string decodifica(std::string_view bytes) {
+    const bool marcado = bytes.substr(0, marcaUtf8.size()) == marcaUtf8;
+    if (auto texto = desdeUtf8(marcado ? bytes.substr(marcaUtf8.size()) : bytes)) return *std::move(texto);
+    return desdeWindows1252(bytes);
+}
+
+std::string codifica(std::u16string_view texto) {
+    if (auto bytes = aWindows1252(texto); bytes && decodifica(*bytes) == texto) return *std::move(bytes);
+    std::string bytes = std::string(marcaUtf8) + aUtf8(texto);
+    if (decodifica(bytes) != texto)
+        throw ErrorDeFichero(
+            u"El texto contiene medio carácter (un sustituto suelto), que no se puede guardar");
+    return bytes;
+}
+
+std::u16string normalizaLineas(std::u16string_view texto) {
+    std::u16string resultado;
+    resultado.reserve(texto.size());
+    while (!texto.empty()) {
+        const std::size_t fin = texto.find_first_of(saltoDeLinea);
+        resultado.append(texto.substr(0, fin));
+        if (fin == std::u16string_view::npos) return resultado;
+        texto.remove_prefix(fin + (texto.substr(fin, 2) == saltoDeLinea ? 2 : 1));
+        if (!texto.empty()) resultado.append(saltoDeLinea);
+    }
+    return resultado;
+}
+
+std::string leeBytes(const fs::path& fichero) {
+    const std::u16string nombre = entreComillas(fichero);
+    if (tieneNombreImposible(fichero)) falla(u"leer", nombre, causaDelSistema(EINVAL));
+    const Descriptor descriptor(open(fichero.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC));
+    if (!descriptor.abierto()) falla(u"leer", nombre, causaDelSistema(errno));
+    return leeTodo(descriptor.numero(), nombre);
+}
+
+std::string leeEntradaEstandar() {
+    return leeTodo(STDIN_FILENO, u"la entrada estándar");
+}
+
+std::u16string leeTexto(const fs::path& fichero) {
+    return normalizaLineas(decodifica(leeBytes(fichero)));
+}
+
+void escribeBytes(const fs::path& fichero, std::string_view bytes, Durabilidad durabilidad) {
+    if (tieneNombreImposible(fichero)) fallaEscritura(fichero, EINVAL);
+    if (!escribe(fichero, bytes, durabilidad)) fallaEscritura(fichero, errno);
+}
+
+void escribeTexto(const fs::path& fichero, std::u16string_view texto, Durabilidad durabilidad) {
+    escribeBytes(fichero, codifica(texto), durabilidad);
+}
+
+} // namespace norvik

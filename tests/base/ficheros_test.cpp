@@ -1,0 +1,168 @@
+#include "norvik/base/ficheros.hpp"
+
+#include "apoyo/carpetaTemporal.hpp"
+#include "norvik/base/errores.hpp"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <functional>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+
+namespace norvik {
+namespace {
+
+namespace fs = std::filesystem;
+using apoyo::bytesDe;
+using apoyo::CarpetaTemporal;
+
+std::u16string mensajeDe(const std::function<void()>& accion) {
+    try {
+        accion();
+    } catch (const ErrorDeFichero& error) {
+        return error.texto();
+    }
+    return u"(ningún error)";
+}
+
+struct FilaCodificacion {
+    const char* nombre;
+    std::u16string texto;
+    std::string bytes;
+};
+
+TEST(Ficheros, EligeLaCodificacionQueDevuelveElTexto) {
+    const std::string marca = "\xEF\xBB\xBF";
+    const FilaCodificacion filas[] = {
+        {"vacío", u"", ""},
+        {"ASCII con NUL", std::u16string{u'a', 0, u'b'}, std::string("a\0b", 3)},
+        {"byte suelto", u"año €", "a\xF1o \x80"},
+        {"fuera de Windows-1252", u"Δ", marca + "\xCE\x94"},
+        {"se leería como UTF-8", u"Ã±", marca + "\xC3\x83\xC2\xB1"},
+        {"se leería como una marca", u"ï»¿", marca + "\xC3\xAF\xC2\xBB\xC2\xBF"},
+        {"empieza por la marca", u"\uFEFFa", marca + marca + "a"},
+        {"par de sustitutos", u"\U0001F600", marca + "\xF0\x9F\x98\x80"},
+    };
+    for (const auto& [nombre, texto, bytes] : filas) {
+        EXPECT_EQ(codifica(texto), bytes) << nombre;
+        EXPECT_EQ(decodifica(bytes), texto) << nombre;
+    }
+    EXPECT_EQ(decodifica("a\xC3\xB1o"), u"año");
+    EXPECT_EQ(decodifica(marca + "\xFF"), u"ï»¿ÿ");
+    EXPECT_THROW(codifica(std::u16string{u'a', 0xDC00}), ErrorDeFichero);
+}
+
+TEST(Ficheros, NormalizaLosFinalesDeLinea) {
+    const std::pair<std::u16string_view, std::u16string_view> filas[] = {
+        {u"", u""},
+        {u"\n", u""},
+        {u"a", u"a"},
+        {u"a\r\n", u"a"},
+        {u"a\rb\nc\r\n", u"a\r\nb\r\nc"},
+        {u"\n\r", u"\r\n"},
+        {u"a\n\n", u"a\r\n"},
+        {u"\r\r\n", u"\r\n"},
+        {u"\r\n\r\n\r\n", u"\r\n\r\n"},
+    };
+    for (const auto& [entrada, salida] : filas)
+        EXPECT_EQ(normalizaLineas(entrada), salida) << testing::PrintToString(entrada);
+}
+
+TEST(Ficheros, LosErroresDeLecturaNombranElFicheroYLaCausa) {
+    const CarpetaTemporal carpeta;
+    carpeta.pon("texto", "x");
+    fs::create_symlink("bucle", carpeta / "bucle");
+    const std::pair<std::string, std::u16string> filas[] = {
+        {"ñandú.txt", u"no existe"},
+        {".", u"es una carpeta"},
+        {"texto/otro", u"una parte de la ruta no es una carpeta"},
+        {"bucle", u"demasiados enlaces simbólicos"},
+        {std::string(300, 'n'), u"el nombre es demasiado largo"},
+        {std::string("texto\0b", 7), u"el nombre o la operación no son válidos"},
+    };
+    for (const auto& [nombre, causa] : filas) {
+        const fs::path fichero = carpeta / nombre;
+        EXPECT_EQ(mensajeDe([&] { leeBytes(fichero); }),
+                  u"No se puede leer «" + decodifica(fichero.native()) + u"»: " + causa);
+    }
+    EXPECT_EQ(mensajeDe([] { leeBytes("/dev/zero"); }),
+              u"No se puede leer «/dev/zero»: el fichero es demasiado grande");
+}
+
+TEST(Ficheros, LosErroresDeEscrituraDejanElAntiguoYNadaMas) {
+    const CarpetaTemporal carpeta;
+    const fs::path antiguo = carpeta.pon("antiguo", "antes");
+    fs::create_directory(carpeta / "carpeta");
+    fs::create_symlink("bucle", carpeta / "bucle");
+    const std::pair<const char*, std::u16string> filas[] = {
+        {"no/hay", u"la carpeta no existe"},
+        {"carpeta", u"es una carpeta"},
+        {"antiguo/x", u"una parte de la ruta no es una carpeta"},
+        {"bucle", u"demasiados enlaces simbólicos"},
+    };
+    for (const auto durabilidad : {Durabilidad::Normal, Durabilidad::EnDisco})
+        for (const auto& [nombre, causa] : filas) {
+            const fs::path fichero = carpeta / nombre;
+            EXPECT_EQ(mensajeDe([&] { escribeBytes(fichero, "después", durabilidad); }),
+                      u"No se puede escribir «" + decodifica(fichero.native()) + u"»: " + causa);
+        }
+    EXPECT_THROW(escribeTexto(antiguo, std::u16string(1, 0xD800), Durabilidad::EnDisco), ErrorDeFichero);
+    EXPECT_EQ(bytesDe(antiguo), "antes");
+    EXPECT_EQ(carpeta.entradas(), 3U);
+    EXPECT_EQ(mensajeDe([] { escribeBytes("/dev/full", "x", Durabilidad::Normal); }),
+              u"No se puede escribir «/dev/full»: no queda espacio en el disco");
+}
+
+TEST(Ficheros, SinSitioParaElNuevoQuedaElAntiguo) {
+    const CarpetaTemporal carpeta;
+    const fs::path antiguo = carpeta.pon("antiguo", "antes");
+    rlimit limite{};
+    getrlimit(RLIMIT_FSIZE, &limite);
+    const rlimit pequeno{4096, limite.rlim_max};
+    auto* const manejador = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &pequeno);
+    const std::u16string mensaje =
+        mensajeDe([&] { escribeBytes(antiguo, std::string(5000, 'x'), Durabilidad::EnDisco); });
+    setrlimit(RLIMIT_FSIZE, &limite);
+    std::signal(SIGXFSZ, manejador);
+    EXPECT_EQ(mensaje, u"No se puede escribir «" + decodifica(antiguo.native()) +
+                           u"»: el fichero es demasiado grande");
+    EXPECT_EQ(bytesDe(antiguo), "antes");
+    EXPECT_EQ(carpeta.entradas(), 1U);
+}
+
+TEST(Ficheros, ConservaPermisosYSigueEnlaces) {
+    const CarpetaTemporal carpeta;
+    const fs::path fichero = carpeta.pon("fichero", "antes");
+    fs::create_directory(carpeta / "otra");
+    fs::create_symlink("../fichero", carpeta / "otra/enlace");
+    fs::create_symlink("nuevo", carpeta / "colgado");
+    chmod(fichero.c_str(), 0640);
+
+    escribeTexto(carpeta / "otra/enlace", u"año", Durabilidad::EnDisco);
+    escribeBytes(carpeta / "colgado", "x", Durabilidad::Normal);
+
+    EXPECT_EQ(leeTexto(fichero), u"año");
+    EXPECT_EQ(fs::status(fichero).permissions(), fs::perms(0640));
+    EXPECT_TRUE(fs::is_symlink(carpeta / "otra/enlace"));
+    EXPECT_EQ(bytesDe(carpeta / "nuevo"), "x");
+    EXPECT_EQ(carpeta.entradas(), 4U);
+}
+
+TEST(Ficheros, UnaTuberiaSeEscribeDirectamente) {
+    const CarpetaTemporal carpeta;
+    const fs::path tuberia = carpeta / "tuberia";
+    ASSERT_EQ(mkfifo(tuberia.c_str(), 0600), 0);
+    std::string leido;
+    fs::create_symlink("tuberia", carpeta / "enlace");
+    std::thread lector([&] { leido = leeBytes(tuberia); });
+    escribeBytes(carpeta / "enlace", "hola", Durabilidad::EnDisco);
+    lector.join();
+    EXPECT_EQ(leido, "hola");
+    EXPECT_TRUE(fs::is_fifo(tuberia));
+}
+
+} // namespace
+} // namespace norvik
