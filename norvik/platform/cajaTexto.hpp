@@ -25,39 +25,19 @@ public:
     virtual std::int32_t numeroDeLineas() const = 0;
 };
 
-/// The attributes of a font, as the saved state has them.
-struct Fuente {
-    std::u16string nombre = u"Courier New";
-    std::int64_t tamanioDiezmilesimas = 100000; ///< points × 10 000
-    bool negrita = false;
-    bool cursiva = false;
-    bool tachada = false;
-    bool subrayada = false;
-    std::int16_t juegoDeCaracteres = 0;
-    std::int16_t peso = 400;
-
-    bool operator==(const Fuente&) const = default;
-};
-
 /// What the control needs of a rich-text box. Positions 0-based, in characters, a line break counts as two;
-/// colours 0x00BBGGRR, lengths in twips. Setters raise `change` / `selection change` as a user's edit would.
+/// colours 0x00BBGGRR. Programmatic edits raise the events as a user's would: first `cambio`, then, when the
+/// selection is another one, `cambioDeSeleccion`. Colours raise nothing.
 class CajaTexto : public FuenteTexto {
 public:
-    /// Receives the box's events. Handlers may change arguments given by reference.
+    /// Receives the box's events.
     struct Eventos {
         std::function<void()> cambio;
         std::function<void()> cambioDeSeleccion;
-        std::function<void(std::int16_t& codigo, std::int16_t& mayus)> teclaAbajo;
-        std::function<void(std::int16_t& codigo)> teclaPulsada;
-        std::function<void(std::int16_t& codigo, std::int16_t& mayus)> teclaArriba;
-        std::function<void(std::int16_t& boton, std::int16_t& mayus, float& x, float& y)> ratonAbajo;
-        std::function<void(std::int16_t& boton, std::int16_t& mayus, float& x, float& y)> ratonMovido;
-        std::function<void(std::int16_t& boton, std::int16_t& mayus, float& x, float& y)> ratonArriba;
-        std::function<void()> clic;
-        std::function<void()> pierdeEnfoque;
     };
     Eventos eventos;
 
+    /// Another text, all of it in colour 0, the caret at its start, not modified.
     virtual void ponTexto(std::u16string_view texto) = 0;
 
     virtual std::int32_t inicioSeleccion() const = 0;
@@ -65,17 +45,22 @@ public:
     /// Selects; both bounds are brought inside the text. The caret stands at the start.
     virtual void selecciona(std::int32_t inicio, std::int32_t longitud) = 0;
     virtual std::u16string textoSeleccionado() const = 0;
-    /// Replaces the selection; the caret ends after the inserted text.
+    /// Replaces the selection; the caret ends after the inserted text, which has the colour of the first
+    /// character replaced, or the one of what is typed next.
     virtual void reemplazaSeleccion(std::u16string_view texto) = 0;
-    /// Colour of the selection's characters; for an empty one, of what is typed next.
+    /// Colour of the selection's characters; for an empty one, of what is typed next until the selection
+    /// changes.
     virtual void ponColorSeleccion(std::int32_t color) = 0;
+    /// Colour of the selection's first character; for an empty one, of what is typed next: that of the
+    /// character before the caret unless another was set.
     virtual std::int32_t colorSeleccion() const = 0;
 
+    /// Edited since the text was set or the mark was taken away.
     virtual bool modificado() const = 0;
     virtual void ponModificado(bool modificado) = 0;
+    /// The selection is not shown while the box lacks the focus.
     virtual bool ocultaSeleccion() const = 0;
     virtual void ponOcultaSeleccion(bool oculta) = 0;
-    virtual std::int32_t primeraLineaVisible() const = 0;
 
     /// Between the two calls (they nest) the box is not redrawn.
     virtual void bloqueaDibujo() = 0;

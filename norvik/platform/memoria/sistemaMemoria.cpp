@@ -1,0 +1,16 @@
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
+
+#include "norvik/base/errores.hpp"
+
+namespace norvik {
+
+Respuesta SistemaMemoria::muestraMensaje(const Mensaje& mensaje) {
+    if (mensajes_) mensajes_(mensaje);
+    return Respuesta::Aceptar;
+}
+
+void SistemaMemoria::imprime(std::u16string_view /*texto*/) {
+    throw ErrorNorvik(u"No hay ninguna impresora");
+}
+
+} // namespace norvik
