@@ -1,0 +1,49 @@
+#pragma once
+
+#include "norvik/platform/cajaTexto.hpp"
+
+namespace norvik {
+
+/// The control's busy mark: while it lives, the box's events are ignored.
+class MarcaOcupado {
+public:
+    explicit MarcaOcupado(bool& ocupado) : ocupado_(ocupado), antes_(ocupado) { ocupado_ = true; }
+    MarcaOcupado(const MarcaOcupado&) = delete;
+    MarcaOcupado& operator=(const MarcaOcupado&) = delete;
+    ~MarcaOcupado() { ocupado_ = antes_; }
+
+private:
+    bool& ocupado_;
+    bool antes_;
+};
+
+/// The box is not redrawn while it lives.
+class DibujoBloqueado {
+public:
+    explicit DibujoBloqueado(CajaTexto& caja) : caja_(caja) { caja_.bloqueaDibujo(); }
+    DibujoBloqueado(const DibujoBloqueado&) = delete;
+    DibujoBloqueado& operator=(const DibujoBloqueado&) = delete;
+    ~DibujoBloqueado() { caja_.desbloqueaDibujo(); }
+
+private:
+    CajaTexto& caja_;
+};
+
+/// The hidden edit: the box hides its selection while it lives, whatever the host wished.
+class EdicionSilenciosa {
+public:
+    explicit EdicionSilenciosa(CajaTexto& caja) : caja_(caja), antes_(caja.ocultaSeleccion()) {
+        if (!antes_) caja_.ponOcultaSeleccion(true);
+    }
+    EdicionSilenciosa(const EdicionSilenciosa&) = delete;
+    EdicionSilenciosa& operator=(const EdicionSilenciosa&) = delete;
+    ~EdicionSilenciosa() {
+        if (!antes_) caja_.ponOcultaSeleccion(false);
+    }
+
+private:
+    CajaTexto& caja_;
+    bool antes_;
+};
+
+} // namespace norvik
