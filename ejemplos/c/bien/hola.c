@@ -1,0 +1,6 @@
+extern int printf(const char *formato, ...);
+
+int main(void) {
+  printf("Hola, %s\n", "mundo");
+  return 0;
+}

@@ -1,0 +1,1 @@
+char *s = "sin cerrar;

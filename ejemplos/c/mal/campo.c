@@ -1,0 +1,4 @@
+struct punto {
+  int x;
+  int 3;
+};

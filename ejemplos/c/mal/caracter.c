@@ -1,0 +1,4 @@
+int main(void) {
+  int a = 3 @ 4;
+  return a;
+}

@@ -1,0 +1,3 @@
+int f(void) {
+  goto 10;
+}

@@ -1,0 +1,4 @@
+int f(int a) {
+  if a > 0
+    return 1;
+}

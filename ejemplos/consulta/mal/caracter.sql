@@ -1,0 +1,3 @@
+SELECT nombre
+FROM clientes
+WHERE saldo > 100€;

@@ -1,0 +1,3 @@
+SELECT *
+FROM clientes
+WHERE saldo IS 0;

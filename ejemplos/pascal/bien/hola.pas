@@ -1,0 +1,4 @@
+programa hola;
+inicio
+  escribir('Hola, mundo');
+fin.

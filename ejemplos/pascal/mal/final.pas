@@ -1,0 +1,3 @@
+programa mal;
+inicio
+fin

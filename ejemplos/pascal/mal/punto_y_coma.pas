@@ -1,0 +1,4 @@
+programa mal;
+inicio
+  escribir('hola')
+fin.
