@@ -1,0 +1,56 @@
+#pragma once
+
+#include <bitset>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// Units from `desde` to `hasta`, both included.
+struct RangoUnidades {
+    char16_t desde = 0;
+    char16_t hasta = 0;
+
+    bool operator==(const RangoUnidades&) const = default;
+};
+
+/// The sets of units that escapes name.
+enum class Propiedad : std::uint8_t { Digito, Palabra, Espacio, Letra };
+
+/// The units with a property, by Unicode: ranges in order, with gaps between them.
+const std::vector<RangoUnidades>& rangosDe(Propiedad propiedad);
+
+/// A class as it is written.
+struct ClaseLeida {
+    struct Escape {
+        Propiedad propiedad;
+        bool negado;
+    };
+    std::vector<RangoUnidades> rangos;
+    std::vector<Escape> escapes;
+    bool negada = false;
+};
+
+/// A set of units, ready to be asked.
+class ClaseUnidades {
+public:
+    ClaseUnidades() = default;
+    explicit ClaseUnidades(std::vector<RangoUnidades> rangos);
+    ClaseUnidades(const ClaseLeida& leida, bool ignoraMayusculas);
+    static ClaseUnidades deUnidad(char16_t unidad, bool ignoraMayusculas);
+
+    bool contiene(char16_t unidad) const { return unidad < 256 ? bajas_[unidad] : contieneAlta(unidad); }
+    /// In order, with gaps between them.
+    const std::vector<RangoUnidades>& rangos() const { return rangos_; }
+    bool esDisjunta(const ClaseUnidades& otra) const;
+    void une(const ClaseUnidades& otra);
+
+private:
+    bool contieneAlta(char16_t unidad) const;
+
+    std::vector<RangoUnidades> rangos_;
+    std::bitset<256> bajas_;
+};
+
+} // namespace norvik
