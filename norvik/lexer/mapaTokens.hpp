@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,28 +12,56 @@ namespace norvik {
 class expresionRegular;
 
 /// The tokens of a text by their 1-based start position: at most one a position. Look-ups take constant time.
+/// The map keeps the text that it was made of.
 class MapaTokens {
 public:
-    struct Entrada {
-        const expresionRegular* definicion = nullptr; ///< null: no token starts here
+    /// What starts at a position, in compact form: the token definition by its place in registration order.
+    struct Celda {
+        std::int32_t definicion = -1; ///< 0-based; -1: no token starts here
         std::int32_t longitud = 0;
     };
+    struct Entrada {
+        const expresionRegular* definicion = nullptr;
+        std::int32_t longitud = 0;
+        std::u16string_view texto; ///< what was matched; holds until the next recognition
+    };
+
+    explicit MapaTokens(const std::vector<const expresionRegular*>& definiciones)
+        : definiciones_(&definiciones) {}
 
     void vacia();
-    /// Empties the map and makes room for positions `inicio` … `inicio + longitud` (a token of length 0 may
-    /// stand at the very end).
-    void reinicia(std::int32_t inicio, std::int32_t longitud);
-    /// The entry at a position, or null. Positions outside the recognised range have none.
-    const Entrada* en(std::int32_t posicion) const;
+    /// Empties the map for a text that starts at a position. A token of length 0 may stand at its very end.
+    void reinicia(std::int32_t inicio, std::u16string_view texto);
+    /// The entry at a position, or nothing. Positions outside the recognised range have none.
+    std::optional<Entrada> en(std::int32_t posicion) const;
+    /// The same in compact form, null instead of nothing.
+    const Celda* celda(std::int32_t posicion) const {
+        const auto indice = static_cast<std::size_t>(static_cast<std::uint32_t>(posicion - inicio_));
+        return indice < celdas_.size() && celdas_[indice].definicion >= 0 ? &celdas_[indice] : nullptr;
+    }
+    /// Matched text of a compact entry, which must be the map's.
+    std::u16string_view texto(const Celda& celda) const {
+        const auto indice = static_cast<std::size_t>(&celda - celdas_.data());
+        return std::u16string_view(texto_).substr(indice, static_cast<std::size_t>(celda.longitud));
+    }
     void borra(std::int32_t posicion);
-    /// Stores unless a match of the same or greater length is there. Definitions must come in priority order
-    /// (or `prioridad` decide between equal lengths); see pilaTokens.
-    void guarda(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion);
+    /// Stores a match at a 0-based index of the text, unless one that is longer, or as long and of an earlier
+    /// definition, is there.
+    void guarda(std::int32_t indice, Celda nueva) {
+        Celda& vieja = celdas_[static_cast<std::size_t>(indice)];
+        const bool gana = vieja.definicion < 0 || nueva.longitud > vieja.longitud ||
+                          (nueva.longitud == vieja.longitud && nueva.definicion < vieja.definicion);
+        if (gana) vieja = nueva;
+    }
     bool esVacio() const;
+    /// One line an entry, "position length token", in order of position.
+    std::u16string toString() const;
 
 private:
+    const std::vector<const expresionRegular*>* definiciones_;
     std::int32_t inicio_ = 1;
-    std::vector<Entrada> entradas_;
+    std::u16string texto_;
+    std::vector<Celda> celdas_;
 };
 
 } // namespace norvik

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "norvik/lexer/expresionRegular.hpp"
+#include "norvik/lexer/indicePalabras.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/lexer/parLT.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace norvik {
@@ -15,6 +19,11 @@ namespace norvik {
 /// The lexer: the definitions of a language in registration order, their colours, and recognition.
 class pilaTokens {
 public:
+    pilaTokens() = default;
+    pilaTokens(const pilaTokens&) = delete;
+    pilaTokens& operator=(const pilaTokens&) = delete;
+    ~pilaTokens() = default;
+
     std::int32_t colorPalabrasReservadas = 0;
     std::int32_t ColorOperadores = 0;
     std::int32_t ColorComentarios = 0;
@@ -33,6 +42,11 @@ public:
     std::int16_t getNumTokensLenguaje() const;
     /// Definition at a 1-based position; raises `IndiceNoValido`.
     const expresionRegular& getTokenLenguaje(std::int16_t numToken) const;
+    /// Every definition, auxiliary ones too, and the token definitions alone, in registration order.
+    const std::vector<std::unique_ptr<expresionRegular>>& expresionesRegulares() const {
+        return expresionesRegulares_;
+    }
+    const std::vector<const expresionRegular*>& tokensLenguaje() const { return tokensLenguaje_; }
 
     /// Registers a definition. Returns the message of the first error, empty on success; on error nothing is
     /// registered. The colour comes from the kind, `colorOpcional` has no effect.
@@ -43,12 +57,18 @@ public:
                                        bool sensibleTamanio, std::u16string_view pseudoToken);
     std::u16string SetOperador(std::u16string_view lexema, std::u16string_view token, bool sensibleTamanio,
                                std::u16string_view pseudoToken);
+    /// The definitions of a name in registration order, null when none bears it.
+    const std::vector<const expresionRegular*>* definicionesLlamadas(std::u16string_view nombre) const;
 
     /// Recognises the tokens of positions `TextStart` … `TextEnd` − 1 (1-based, −1: from the first, to the
-    /// last). The map belongs to the lexer and is refilled by the next call. Raises `Desbordamiento`, also
-    /// when a definition's search runs away (the text then names it).
+    /// last); a range that passes the text's end is clipped. The map belongs to the lexer and is refilled by
+    /// the next call. Raises `Desbordamiento` for a text or range beyond 16 bits, and when a definition's
+    /// search runs away (the text then names it); `ArgumentoNoValido` for a start below 1 or an end before
+    /// the start. After a failure the map is empty.
     MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
                                std::int16_t TextEnd = -1);
+    /// The map of the last recognition.
+    MapaTokens& mapaTokens() { return mapaTokens_; }
 
     /// How a token may be written, for lists of expected tokens.
     std::u16string toStringLexemasPorToken(std::u16string_view token) const;
@@ -56,9 +76,15 @@ public:
     std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const;
 
 private:
+    std::int32_t colorDeTipo(std::int16_t tipo) const;
+    void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
+    void reconoce(std::u16string_view rango);
+
     std::vector<std::unique_ptr<expresionRegular>> expresionesRegulares_;
     std::vector<const expresionRegular*> tokensLenguaje_;
-    MapaTokens mapaTokens_;
+    std::unordered_map<std::u16string_view, std::vector<const expresionRegular*>> porNombre_;
+    std::optional<IndicePalabras> palabras_; ///< made at the first recognition of a language
+    MapaTokens mapaTokens_{tokensLenguaje_};
 };
 
 } // namespace norvik

@@ -1,28 +1,119 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace norvik {
 
+class ArbolSintactico;
+
+/// Which child a descent takes: always the first, or always the last.
 enum Direccion : std::int16_t { Norvik_Izquierda = 0, Norvik_Derecha = 1 };
 
-/// A node of a syntax tree. Contract for callers; the owner of this folder completes it (one arena a tree,
-/// texts by reference, no recursion).
+/// Head and body of the rule that produced a node; one record serves all the nodes of a rule.
+struct TextosRegla {
+    std::u16string_view nombre;
+    std::u16string_view cuerpo;
+};
+
+/// A node of a syntax tree: a token of the text (a leaf) or an application of a rule. Nodes belong to their
+/// `ArbolSintactico`; references and texts hold until its next parse.
 class Arbol {
 public:
-    std::u16string_view GetLexema() const;
+    /// Only a tree makes nodes.
+    class Clave {
+        friend class ArbolSintactico;
+        Clave() = default;
+    };
+    Arbol(Clave, ArbolSintactico& propietario) : propietario_(&propietario) {}
+    Arbol(const Arbol&) = delete;
+    Arbol& operator=(const Arbol&) = delete;
+    ~Arbol() = default;
+
+    std::u16string_view GetLexema() const { return {lexema_, largoLexema_}; }
+    /// The lexeme in upper case.
     std::u16string GetULexema() const;
-    std::int32_t GetLinea() const;
-    std::int32_t GetColumna() const;
-    std::u16string_view GetNomRegla() const;
-    std::u16string_view GetRegla() const;
-    std::int16_t GetNumRegla() const;
+    /// 1-based; 0 when never set.
+    std::int32_t GetLinea() const { return linea_; }
+    std::int32_t GetColumna() const { return columna_; }
+    /// Head of the node's rule.
+    std::u16string_view GetNomRegla() const { return textos_->nombre; }
+    /// Body of the node's rule.
+    std::u16string_view GetRegla() const { return textos_->cuerpo; }
+    /// Number of the node's rule, -1 for a node that no rule produced.
+    std::int16_t GetNumRegla() const { return numRegla_; }
+    /// Raises `Desbordamiento` beyond 32 767 children.
     std::int16_t GetNumHijos() const;
-    bool GetEsHoja() const;
+    bool GetEsHoja() const { return hijos().empty(); }
     /// Child at a 1-based position, null beyond the last; raises `IndiceNoValido` below 1.
     Arbol* GetHijo(std::int16_t numHijo) const;
+
+    void SetLexema(std::u16string_view datoNodo);
+    void SetLinea(std::int32_t nLinea) { linea_ = nLinea; }
+    void SetColumna(std::int32_t nColumna) { columna_ = nColumna; }
+    void SetNomRegla(std::u16string_view reglaNodo);
+    void SetRegla(std::u16string_view reglaNodo);
+    /// The number in decimal, blanks around it allowed. Raises `NoCoincidenLosTipos` when the text is no
+    /// number, `Desbordamiento` when it does not fit 16 bits.
+    void SetNumRegla(std::u16string_view numeroRegla);
+
+    /// Attaches a node as the first child. A node that hangs from a parent already, or belongs to another
+    /// tree, stays where it is and a copy of its subtree is attached. Raises `ArgumentoNoValido` for the node
+    /// itself and for those above it.
+    void SetHijo(Arbol& hijo);
+    /// The same, as the last child.
+    void SetHijoIzquierda(Arbol& hijo);
+    /// Empties the node and each of its descendants, which are then without parent. Line and column stay.
+    void Inicializa();
+
+    /// The node reached after `ordenDescendencia` steps, or the leaf met before.
+    Arbol& GetNDescendienteEnDireccion(std::int16_t ordenDescendencia, Direccion direccion);
+    /// The leaf at the end of a direction. A direction other than the two stays on this node.
+    Arbol& GetUltimoDescendienteEnDireccion(Direccion direccion);
+    /// First node with children of a rule, in pre-order from this one; null when there is none.
+    Arbol* GetDescendienteConRegla(std::int16_t numReglaBusqueda);
+    /// First node of a rule on the way in a direction, this one included; null when there is none, and for a
+    /// direction other than the two.
+    Arbol* GetDescendienteConReglaEnDireccion(std::int16_t numReglaBusqueda, Direccion direccion);
+
+    /// All children, from the leftmost.
+    std::span<Arbol* const> hijos() const {
+        if (hijos_ == nullptr) return {};
+        return {hijos_->primero, hijos_->numero};
+    }
+    /// The whole subtree in one canonical text, a node a line, two blanks a level: `head -> body [number]` or
+    /// `'lexeme' (line, column)`.
+    std::u16string toString() const;
+
+private:
+    friend class ArbolSintactico;
+
+    /// A stretch of a table with free places before and after it, so that both ends grow in constant time.
+    struct Hijos {
+        Arbol** primero = nullptr;
+        std::uint32_t numero = 0;
+        std::uint32_t libresDelante = 0;
+        std::uint32_t libresDetras = 0;
+    };
+
+    void limpia();
+    bool tieneEncima(const Arbol& nodo) const;
+    Arbol& adopta(Arbol& hijo);
+    Arbol* paso(Direccion direccion) const;
+
+    static const TextosRegla sinRegla;
+
+    ArbolSintactico* propietario_;
+    Arbol* padre_ = nullptr;
+    Hijos* hijos_ = nullptr; ///< null: no children
+    const TextosRegla* textos_ = &sinRegla;
+    const char16_t* lexema_ = u"";
+    std::uint32_t largoLexema_ = 0;
+    std::int32_t linea_ = 0;
+    std::int32_t columna_ = 0;
+    std::int16_t numRegla_ = -1;
 };
 
 } // namespace norvik

@@ -1,0 +1,115 @@
+// Expansion of a definition text, in one pass from left to right with one character of memory (the escape
+// flag). A reference is replaced by the patterns of all the definitions that bear its name, textually. Since
+// definitions that refer to each other can double a dozen times, what grows past the limit stops growing; the
+// scan goes on, because an error of form further on has precedence over the length.
+#include "norvik/lexer/expansion.hpp"
+
+#include "norvik/base/texto.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+
+#include <optional>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+using Causa = ErrorExpansion::Causa;
+
+class Expansor {
+public:
+    Expansor(std::u16string_view texto, const pilaTokens& lexico) : texto_(texto), lexico_(lexico) {}
+
+    std::variant<Expansion, ErrorExpansion> expande() {
+        for (i_ = 0; i_ < texto_.size(); ++i_)
+            if (const auto error = avanza(texto_[i_])) return *error;
+        if (demasiado_) return ErrorExpansion{Causa::Incorrecta, {}};
+        return std::move(resultado_);
+    }
+
+private:
+    using Error = std::optional<ErrorExpansion>;
+
+    Error avanza(char16_t c) {
+        if (c == u'\\') {
+            escape_ = true;
+            return {};
+        }
+        if (c == u'c' && escape_) return codigo();
+        if (c == u'<' && !referencia_ && !escape_) {
+            referencia_.emplace();
+            return {};
+        }
+        if (c == u'>' && referencia_ && !escape_) return resuelve();
+        copia(c);
+        return {};
+    }
+
+    // Into the name of the reference being read, or into pattern and reading.
+    void copia(char16_t c) {
+        std::u16string pieza = escape_ ? u"\\" : u"";
+        pieza += c;
+        escape_ = false;
+        if (referencia_) {
+            referencia_->append(pieza);
+        } else {
+            aniade(resultado_.patron, pieza);
+            aniade(resultado_.lectura, {&c, 1});
+        }
+    }
+
+    void aniade(std::u16string& destino, std::u16string_view pieza) {
+        if (destino.size() + pieza.size() > maximoPatron)
+            demasiado_ = true;
+        else
+            destino.append(pieza);
+    }
+
+    bool siguienteEs(char16_t c) {
+        ++i_;
+        return i_ < texto_.size() && texto_[i_] == c;
+    }
+
+    // The character-code operator, with the position on its "c".
+    Error codigo() {
+        const ErrorExpansion malEscrito{Causa::CodigoMalEscrito, {}};
+        if (!siguienteEs(u'(')) return malEscrito;
+        const std::size_t inicio = ++i_;
+        unsigned valor = 0;
+        for (; i_ < texto_.size() && texto_[i_] >= u'0' && texto_[i_] <= u'9'; ++i_)
+            if (valor <= 255) valor = valor * 10 + (texto_[i_] - unsigned{u'0'});
+        if (i_ == inicio || i_ >= texto_.size() || texto_[i_] != u')') return malEscrito;
+        if (valor > 255) return ErrorExpansion{Causa::Incorrecta, {}};
+        aniade(resultado_.patron, desdeWindows1252(std::string(1, static_cast<char>(valor))));
+        escape_ = false;
+        return {};
+    }
+
+    Error resuelve() {
+        const auto* const definiciones = lexico_.definicionesLlamadas(*referencia_);
+        if (definiciones == nullptr) return ErrorExpansion{Causa::ReferenciaDesconocida, *referencia_};
+        for (const expresionRegular* const definicion : *definiciones) {
+            if (demasiado_) break;
+            aniade(resultado_.patron, definicion->expresion);
+            aniade(resultado_.lectura, definicion->pseudoToken);
+        }
+        referencia_.reset();
+        return {};
+    }
+
+    std::u16string_view texto_;
+    const pilaTokens& lexico_;
+    std::size_t i_ = 0;
+    bool escape_ = false;
+    bool demasiado_ = false;
+    std::optional<std::u16string> referencia_;
+    Expansion resultado_;
+};
+
+} // namespace
+
+std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto, const pilaTokens& lexico) {
+    return Expansor(texto, lexico).expande();
+}
+
+} // namespace norvik

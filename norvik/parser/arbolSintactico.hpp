@@ -1,0 +1,47 @@
+#pragma once
+
+#include "norvik/parser/arbol.hpp"
+#include "norvik/parser/arena.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace norvik {
+
+/// A syntax tree: its root, the same node for its whole life, and the memory of all its other nodes and
+/// texts.
+class ArbolSintactico {
+public:
+    ArbolSintactico() : raiz_(Arbol::Clave{}, *this) {}
+    ArbolSintactico(const ArbolSintactico&) = delete;
+    ArbolSintactico& operator=(const ArbolSintactico&) = delete;
+    ~ArbolSintactico() = default;
+
+    Arbol& raiz() { return raiz_; }
+    /// Drops the tree: the root is initialised, the memory of the other nodes is used again.
+    void reinicia();
+    /// An initialised node without parent.
+    Arbol& nuevoNodo();
+
+    /// A copy of a text, as long-lived as the tree.
+    std::u16string_view guardaTexto(std::u16string_view texto);
+    const TextosRegla& guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo);
+    /// Makes a node a leaf; the lexeme must be as long-lived as the tree.
+    static void hazHoja(Arbol& nodo, std::u16string_view lexema, std::int32_t linea, std::int32_t columna);
+    /// Makes a node without children the application of a rule, with `numHijos` initialised children.
+    std::span<Arbol* const> hazRegla(Arbol& nodo, std::int16_t numRegla, const TextosRegla& textos,
+                                     std::size_t numHijos);
+
+private:
+    friend class Arbol;
+
+    Arbol& copia(const Arbol& original);
+    Arbol::Hijos& amplia(Arbol& nodo);
+
+    Arena arena_;
+    Arbol raiz_;
+};
+
+} // namespace norvik

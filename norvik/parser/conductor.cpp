@@ -1,0 +1,144 @@
+// The SLR driver: a stack of states, one action of the table a step. A shift reads the next token, a
+// reduction pops its rule's body and goes on from the state below over the rule's head. No tree is built
+// meanwhile: the parse leaves a trace, and only an accepted text gets a tree.
+#include "norvik/parser/conductor.hpp"
+
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/parser/constructorArbol.hpp"
+#include "norvik/parser/lectorTokens.hpp"
+#include "norvik/parser/lenguajeAnalisis.hpp"
+#include "norvik/parser/pilaSLR.hpp"
+
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+enum class Desenlace { Aceptado, ErrorLexico, ErrorSintactico };
+
+// One parse. The reader keeps the last token as its own, however the parse ends.
+class Analisis {
+public:
+    Analisis(LectorTokens& lector, const FuenteTexto& fuente, const gramatica& gramatica,
+             LenguajeAnalisis lenguaje, Traza& traza, bool conLineas)
+        : lector_(lector), fuente_(fuente), gramatica_(gramatica), lenguaje_(std::move(lenguaje)),
+          traza_(traza), conLineas_(conLineas) {}
+
+    Desenlace ejecuta() {
+        pila_.PUSH(0, 0, 0);
+        lee();
+        try {
+            const Desenlace desenlace = recorre();
+            lector_.recuerda(token_);
+            return desenlace;
+        } catch (...) {
+            lector_.recuerda(token_);
+            throw;
+        }
+    }
+    /// The state in which the parse ended.
+    std::int16_t estado() const { return pila_.cima(); }
+
+private:
+    Desenlace recorre() {
+        for (;;) {
+            const std::int16_t columna = columna_;
+            if (columna == LenguajeAnalisis::columnaError) return Desenlace::ErrorLexico;
+            if (columna == LenguajeAnalisis::columnaDesconocida) return Desenlace::ErrorSintactico;
+            const std::int16_t accion = gramatica_.GetElementoTablaSLR(pila_.cima(), columna);
+            if (accion == gramatica::aceptar) return Desenlace::Aceptado;
+            if (accion == 0) return Desenlace::ErrorSintactico;
+            if (accion > 0)
+                desplaza(accion);
+            else if (!reduce(a16(-accion)))
+                return Desenlace::ErrorSintactico;
+        }
+    }
+
+    void desplaza(std::int16_t estado) {
+        pila_.PUSH(estado, posicion_.linea, posicion_.columna);
+        const bool fin = token_.definicion == TokenLeido::fin;
+        traza_.registraDesplazamiento(token_.lexema, posicion_.linea, posicion_.columna,
+                                      fin ? Traza::Procedencia::FinDeTexto : Traza::Procedencia::Texto);
+        lee();
+    }
+
+    // False when the table has no way on over the rule's head.
+    bool reduce(std::int16_t numRegla) {
+        traza_.registraReduccion(numRegla);
+        const auto& regla = lenguaje_.regla(numRegla);
+        pila_.POP(regla.numElementos);
+        const std::int16_t estado = gramatica_.GetElementoTablaSLR(pila_.cima(), regla.columnaCabeza);
+        if (estado != 0) pila_.PUSH(estado, posicion_.linea, posicion_.columna);
+        return estado != 0;
+    }
+
+    void lee() {
+        token_ = lector_.lee(fuente_);
+        columna_ = lenguaje_.columna(token_);
+        if (conLineas_) posicion_ = lector_.posicionToken();
+    }
+
+    LectorTokens& lector_;
+    const FuenteTexto& fuente_;
+    const gramatica& gramatica_;
+    LenguajeAnalisis lenguaje_;
+    Traza& traza_;
+    bool conLineas_;
+    pilaSLR pila_;
+    TokenLeido token_;
+    std::int16_t columna_ = 0;
+    Posicion posicion_;
+};
+
+} // namespace
+
+bool ConductorSLR::ConstruyeArbolSintactico() {
+    return analiza(lector_.editor(), Lineas::DelTexto);
+}
+
+bool ConductorSLR::ConstruyeArbolSintacticoTextoInvisible() {
+    return analiza(lector_.textoInvisible(), Lineas::Ninguna);
+}
+
+bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
+    mensajeError_.clear();
+    codigoError_ = sinError;
+    lector_.inicializa(fuente);
+    arbol_.reinicia();
+    traza_.vaciaTraza();
+    Analisis analisis(lector_, fuente, gramatica_, LenguajeAnalisis(lexico_, gramatica_), traza_,
+                      lineas == Lineas::DelTexto);
+    Mensaje mensaje;
+    switch (analisis.ejecuta()) {
+    case Desenlace::Aceptado:
+        construyeArbol(arbol_, traza_, gramatica_);
+        return true;
+    case Desenlace::ErrorLexico:
+        mensaje = informaErrorLexico();
+        break;
+    case Desenlace::ErrorSintactico:
+        mensaje = informaErrorSintactico(analisis.estado());
+        break;
+    }
+    if (alFallar) alFallar(mensaje);
+    return false;
+}
+
+Mensaje ConductorSLR::informaErrorLexico() {
+    codigoError_ = errorLexico;
+    mensajeError_ = u"Error " + lector_.DameStringLineaColumnaToken() + u": caracter '" +
+                    lector_.ultimoLexema() + u"' incorrecto.";
+    return {mensajeError_, u"ERROR Léxico", Icono::Exclamacion, Botones::Aceptar};
+}
+
+Mensaje ConductorSLR::informaErrorSintactico(std::int16_t estado) {
+    codigoError_ = errorSintactico;
+    mensajeError_ = u"Error: " + lector_.DameStringTokenLeido() + u". Se esperaba " +
+                    gramatica_.toStringEsperados(estado, lexico_) + u".";
+    return {mensajeError_, u"ERROR de Sintaxis", Icono::Exclamacion, Botones::Aceptar};
+}
+
+} // namespace norvik

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "norvik/parser/arbolSintactico.hpp"
+#include "norvik/parser/traza.hpp"
+#include "norvik/platform/sistema.hpp"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+class FuenteTexto;
+class gramatica;
+class LectorTokens;
+class pilaTokens;
+
+/// Error codes of a parse.
+inline constexpr std::int16_t sinError = 0;
+inline constexpr std::int16_t errorLexico = 1;
+inline constexpr std::int16_t errorSintactico = 2;
+
+/// Runs the SLR table of the loaded language over the tokens of a text and builds the tree. The first error
+/// ends the parse.
+class ConductorSLR {
+public:
+    /// Receives the message of a parse that failed, when the parse is over; shows and marks as its owner
+    /// wants.
+    using AvisoError = std::function<void(const Mensaje&)>;
+
+    /// All must outlive the driver.
+    ConductorSLR(LectorTokens& lector, const pilaTokens& lexico, const gramatica& gramatica)
+        : lector_(lector), lexico_(lexico), gramatica_(gramatica) {}
+
+    AvisoError alFallar;
+
+    /// Parses the editor's text, or the invisible text; true when it was accepted. Raises what the reader
+    /// raises at its initialisation (the tree then stays), `SubindiceFueraDeIntervalo` for a cell of the
+    /// table that names no state or rule, and `Desbordamiento` when the table never stops reducing.
+    bool ConstruyeArbolSintactico();
+    bool ConstruyeArbolSintacticoTextoInvisible();
+    /// Root of the last tree; the same node for the driver's whole life, without children after a failure.
+    Arbol& GetArbolSintactico() { return arbol_.raiz(); }
+    std::int16_t GetCodigoError() const { return codigoError_; }
+    const std::u16string& GetmensajeError() const { return mensajeError_; }
+    void SetmensajeError(std::u16string_view mensaje) { mensajeError_ = mensaje; }
+    /// Every shift and reduction of the last parse; empty after an accepted one, which consumed it.
+    const Traza& traza() const { return traza_; }
+
+private:
+    enum class Lineas { DelTexto, Ninguna };
+
+    bool analiza(const FuenteTexto& fuente, Lineas lineas);
+    Mensaje informaErrorLexico();
+    Mensaje informaErrorSintactico(std::int16_t estado);
+
+    LectorTokens& lector_;
+    const pilaTokens& lexico_;
+    const gramatica& gramatica_;
+    ArbolSintactico arbol_;
+    Traza traza_;
+    std::int16_t codigoError_ = sinError;
+    std::u16string mensajeError_;
+};
+
+} // namespace norvik

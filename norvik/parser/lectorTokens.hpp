@@ -1,0 +1,92 @@
+#pragma once
+
+#include "norvik/lexer/parLT.hpp"
+#include "norvik/parser/textoInvisible.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+class FuenteTexto;
+class pilaTokens;
+
+/// The token names that the reader itself makes.
+inline constexpr std::u16string_view tokenFin = u"EOF";
+inline constexpr std::u16string_view tokenError = u"Norvik_ERROR";
+
+/// A token in the form that costs nothing: the definition by its place in registration order, and a view of
+/// the lexeme that holds until the next recognition or change of the text.
+struct TokenLeido {
+    static constexpr std::int32_t fin = -1;         ///< the end of the text
+    static constexpr std::int32_t desconocido = -2; ///< a character that starts no token
+
+    std::int32_t definicion = fin;
+    std::u16string_view lexema;
+};
+
+/// Where in the text a token starts; both are 1-based.
+struct Posicion {
+    std::int32_t linea = 0;
+    std::int32_t columna = 0;
+};
+
+/// Hands out the tokens of the editor's text, or of the invisible text, one at a time. Both readers share one
+/// state: initialising either restarts it.
+class LectorTokens {
+public:
+    /// Both must outlive the reader.
+    LectorTokens(pilaTokens& lexico, const FuenteTexto& editor);
+    LectorTokens(const LectorTokens&) = delete;
+    LectorTokens& operator=(const LectorTokens&) = delete;
+    ~LectorTokens() = default;
+
+    /// Recognises the whole text and goes to its start. Both raise `Desbordamiento` for a text of 32 767
+    /// characters or more, and when the search of a definition runs away.
+    void InicializaLecturaTokens() { inicializa(editor_); }
+    void inicializaLecturaTokensTextoInvisible() { inicializa(textoInvisible_); }
+    /// The next token: ("EOF", "EOF") at the end, a character that starts no token as "Norvik_ERROR" again
+    /// and again.
+    parLT Lex() { return devuelve(editor_); }
+    parLT LexTextoInvisible() { return devuelve(textoInvisible_); }
+
+    /// 1-based line and column of the last token, in the text that it was read from.
+    std::int16_t LineaToken() const;
+    std::int32_t ColumnaToken() const;
+    /// "(Línea l, Columna c)" of the last token.
+    std::u16string DameStringLineaColumnaToken() const;
+    /// "Se ha encontrado … (Línea l, Columna c)" for the last token.
+    std::u16string DameStringTokenLeido() const;
+
+    TextoInvisible& textoInvisible() { return textoInvisible_; }
+    const TextoInvisible& textoInvisible() const { return textoInvisible_; }
+    const FuenteTexto& editor() const { return editor_; }
+    /// 1-based positions: where reading continues, and where the last token starts.
+    std::int32_t posLectura() const { return posLectura_; }
+    std::int32_t inicioToken() const { return inicioToken_; }
+    const std::u16string& ultimoToken() const { return ultimoToken_; }
+    const std::u16string& ultimoLexema() const { return ultimoLexema_; }
+
+    /// The readers for a driver, which reads many tokens and needs the name of few. A driver that stops tells
+    /// with `recuerda` which token was the last.
+    void inicializa(const FuenteTexto& fuente);
+    TokenLeido lee(const FuenteTexto& fuente);
+    void recuerda(const TokenLeido& token);
+    Posicion posicionToken() const;
+
+private:
+    parLT devuelve(const FuenteTexto& fuente);
+    std::u16string_view nombre(const TokenLeido& token) const;
+
+    pilaTokens& lexico_;
+    const FuenteTexto& editor_;
+    TextoInvisible textoInvisible_;
+    const FuenteTexto* ultimaFuente_;
+    std::int32_t posLectura_ = 1;
+    std::int32_t inicioToken_ = 1;
+    std::u16string ultimoToken_;
+    std::u16string ultimoLexema_;
+};
+
+} // namespace norvik

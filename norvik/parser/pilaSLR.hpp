@@ -1,0 +1,46 @@
+#pragma once
+
+#include "norvik/base/numeros.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace norvik {
+
+/// The stack of automaton states of a parse, each with the line and column of the token then current.
+class pilaSLR {
+public:
+    void PUSH(std::int16_t estado, std::int32_t linea, std::int32_t columna) {
+        entradas_.push_back({linea, columna, estado});
+    }
+    /// Removes the top and returns its state; 0 from an empty stack.
+    std::int16_t POP() {
+        const std::int16_t estado = cima();
+        POP(1);
+        return estado;
+    }
+    /// Removes `veces` entries, or all when there are fewer.
+    void POP(std::int16_t veces) {
+        const auto n = static_cast<std::size_t>(std::max<std::int16_t>(veces, 0));
+        entradas_.resize(entradas_.size() - std::min(n, entradas_.size()));
+    }
+    /// State, line and column of the top, 0 when the stack is empty; line and column raise `Desbordamiento`.
+    std::int16_t cima() const { return esVacia() ? std::int16_t{0} : entradas_.back().estado; }
+    std::int16_t cimaLineas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().linea); }
+    std::int16_t cimaColumnas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().columna); }
+    bool esVacia() const { return entradas_.empty(); }
+    void Vaciar() { entradas_.clear(); }
+
+private:
+    struct Entrada {
+        std::int32_t linea = 0;
+        std::int32_t columna = 0;
+        std::int16_t estado = 0;
+    };
+
+    std::vector<Entrada> entradas_;
+};
+
+} // namespace norvik

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "norvik/base/lineas.hpp"
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+/// A text that is read without being shown, with lines of its own.
+class TextoInvisible final : public FuenteTexto {
+public:
+    void ponTexto(std::u16string_view texto) {
+        texto_ = texto;
+        lineas_.reconstruye(texto_);
+    }
+    std::u16string_view texto() const override { return texto_; }
+    std::int32_t lineaDeCaracter(std::int32_t posicion) const override { return lineas_.lineaDe(posicion); }
+    std::int32_t inicioDeLinea(std::int32_t linea) const override { return lineas_.inicioDe(linea); }
+    std::int32_t numeroDeLineas() const override { return lineas_.numLineas(); }
+
+private:
+    std::u16string texto_;
+    IndiceLineas lineas_;
+};
+
+} // namespace norvik

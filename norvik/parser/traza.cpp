@@ -1,0 +1,68 @@
+#include "norvik/parser/traza.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+
+namespace norvik {
+
+void Traza::vaciaTraza() {
+    pasos_.clear();
+    desplazamientos_.clear();
+    textos_.clear();
+}
+
+void Traza::apunta(std::int16_t regla) {
+    if (pasos_.size() == maximo)
+        throw Desbordamiento(u"El análisis supera los 10 000 000 de pasos: el árbol sintáctico no cabe en la "
+                             u"memoria, o la tabla SLR no deja nunca de reducir.");
+    pasos_.push_back(regla);
+}
+
+void Traza::registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
+                                   Procedencia procedencia) {
+    apunta(0);
+    desplazamientos_.push_back({static_cast<std::uint32_t>(textos_.size()),
+                                static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
+    textos_.append(lexema);
+}
+
+void Traza::registraReduccion(std::int16_t numRegla) {
+    apunta(numRegla);
+}
+
+std::int16_t Traza::reglaCima() const {
+    if (pasos_.empty()) throw IndiceNoValido();
+    return pasos_.back();
+}
+
+Traza::Desplazamiento Traza::desplazamientoCima() const {
+    return reglaCima() == 0 ? desplazamientos_.back() : Desplazamiento{};
+}
+
+std::u16string_view Traza::tipoCimaTraza() const {
+    return reglaCima() == 0 ? u"desplazamiento" : u"reduccion";
+}
+
+std::u16string Traza::valorCimaTraza() const {
+    const std::int16_t regla = reglaCima();
+    if (regla != 0) return aTexto(regla);
+    return textos_.substr(desplazamientos_.back().inicio, desplazamientos_.back().longitud);
+}
+
+std::u16string Traza::lineaCimaTraza() const {
+    return aTexto(desplazamientoCima().linea);
+}
+
+std::u16string Traza::columnaCimaTraza() const {
+    return aTexto(desplazamientoCima().columna);
+}
+
+void Traza::sacaTraza() {
+    if (reglaCima() == 0) {
+        textos_.resize(desplazamientos_.back().inicio);
+        desplazamientos_.pop_back();
+    }
+    pasos_.pop_back();
+}
+
+} // namespace norvik

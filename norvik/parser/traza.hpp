@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// What a parse did, in order: every shift with its token, every reduction with its rule. A reduction takes
+/// two bytes, the texts of the tokens stand one after the other in one buffer.
+class Traza {
+public:
+    /// Entries that a trace holds at most: a tree of more nodes does not fit in memory, and a table that
+    /// never stops reducing comes to its end here.
+    static constexpr std::size_t maximo = 10'000'000;
+
+    enum class Procedencia : std::uint8_t { Texto, FinDeTexto };
+
+    struct Desplazamiento {
+        std::uint32_t inicio = 0; ///< of the lexeme in the buffer
+        std::uint32_t longitud = 0;
+        std::int32_t linea = 0;
+        std::int32_t columna = 0;
+        Procedencia procedencia = Procedencia::Texto;
+    };
+
+    void vaciaTraza();
+    /// Both raise `Desbordamiento` when the trace is full.
+    void registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
+                                Procedencia procedencia = Procedencia::Texto);
+    void registraReduccion(std::int16_t numRegla);
+    std::size_t numElementosTraza() const { return pasos_.size(); }
+
+    /// The last entry, as text: "desplazamiento" or "reduccion", the lexeme or the rule number, line and
+    /// column in decimal. They and `sacaTraza` raise `IndiceNoValido` on an empty trace.
+    std::u16string_view tipoCimaTraza() const;
+    std::u16string valorCimaTraza() const;
+    std::u16string lineaCimaTraza() const;
+    std::u16string columnaCimaTraza() const;
+    void sacaTraza();
+
+    /// The last entry: its rule, 0 when it is a shift; its shift, empty when it is a reduction.
+    std::int16_t reglaCima() const;
+    Desplazamiento desplazamientoCima() const;
+    /// All lexemes, one after the other.
+    const std::u16string& textos() const { return textos_; }
+
+private:
+    void apunta(std::int16_t regla);
+
+    std::vector<std::int16_t> pasos_; ///< rule of a reduction, 0 for a shift
+    std::vector<Desplazamiento> desplazamientos_;
+    std::u16string textos_;
+};
+
+} // namespace norvik
