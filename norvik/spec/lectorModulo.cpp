@@ -1,0 +1,240 @@
+// Reads the loading modules that `GuardaModuloGramatica` writes. Their shape is fixed, so that reading one is
+// a single pass with one line expected at each place, and whatever else stands there is named with its line:
+// a module cannot call itself or jump about. The text is first read into a list of calls and then replayed,
+// definitions and rules first although their procedures come last, as the calls of the main procedure say.
+// Time and memory grow with the length of the text.
+
+#include "norvik/spec/lectorModulo.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/spec/cargadorLenguaje.hpp"
+#include "norvik/spec/lineasModulo.hpp"
+
+#include <variant>
+#include <vector>
+
+namespace norvik {
+
+namespace {
+
+struct LlamadaSetER {
+    std::u16string expresion;
+    std::u16string_view nombre;
+    std::int32_t tipo = 0;
+    std::u16string_view pseudoToken;
+    std::int32_t base = 0;
+    std::int32_t color = 0;
+};
+struct LlamadaSetRegla {
+    std::u16string_view regla;
+};
+struct LlamadaDimension {
+    std::int16_t filas = 0;
+    std::int16_t columnas = 0;
+};
+struct LlamadaElemento {
+    std::int16_t fila = 0;
+    std::int16_t columna = 0;
+    std::int16_t valor = 0;
+};
+struct LlamadaSimbolo {
+    std::u16string_view simbolo;
+};
+
+/// A call and the line where it stands.
+template <typename T>
+struct Llamada {
+    std::int32_t linea = 0;
+    T datos;
+};
+
+/// All the calls of a module; texts without quotes are views of the module.
+struct Modulo {
+    std::vector<Llamada<LlamadaSetER>> definiciones;
+    std::vector<Llamada<LlamadaSetRegla>> reglas;
+    Llamada<LlamadaDimension> dimension;
+    std::vector<Llamada<LlamadaElemento>> elementos;
+    std::vector<Llamada<LlamadaSimbolo>> simbolos;
+};
+
+/// The module's lines, in their order.
+class LectorModulo {
+public:
+    explicit LectorModulo(std::u16string_view texto) : lineas_(texto) {}
+
+    Modulo lee() {
+        cabecera();
+        procedimientosPrincipales();
+        procedimientoDeTokens();
+        procedimientoDeReglas();
+        lineas_.fin();
+        return std::move(modulo_);
+    }
+
+private:
+    static constexpr std::u16string_view parametro = u"(NorvikRefParam As Norvik)";
+    static constexpr std::u16string_view rayado = u"'////////////////////////////////////////////////////////"
+                                                  u"//////////////////////////////////////////////////////";
+
+    void cabecera() {
+        lineas_.empieza(u"Attribute VB_Name = ");
+        nombre_ = lineas_.cadena();
+        if (nombre_.empty()) lineas_.falla(u"el nombre del módulo está vacío");
+        lineas_.acaba();
+        lineas_.linea(u"Option Explicit");
+        lineas_.linea(rayado);
+        lineas_.linea(u"' Módulo de carga del lenguaje ", nombre_);
+        lineas_.linea(u"'");
+        lineas_.linea(u"'\tpara ejecutar escriba ", nombre_, u".CargaLenguaje(NorvikControl)");
+        lineas_.linea(u"'\tsiendo NorvikControl en control Norvik donde desea inyectar el lenguaje.");
+        lineas_.linea(u"'");
+        lineas_.linea(rayado);
+    }
+
+    void procedimientosPrincipales() {
+        lineas_.linea(u"Public Sub CargaLenguaje", parametro);
+        lineas_.linea(u"'Esta función carga la tabla SLR en un control Norvik");
+        lineas_.linea(u"'que ha sido pasado por referencia como parámetro.");
+        lineas_.linea(nombre_, u".CargaTokensLenguaje NorvikRefParam");
+        lineas_.linea(nombre_, u".CargaGramaticaLenguaje NorvikRefParam");
+        dimension();
+        for (std::int32_t siguiente = 1;; ++siguiente) {
+            while (lineas_.es(u"NorvikRefParam.SetElementoTablaSLR ")) elemento();
+            if (!lineas_.es(nombre_, u".CargaLenguaje")) break;
+            const std::u16string numero = aTexto(siguiente);
+            lineas_.acaba(numero, u" NorvikRefParam");
+            lineas_.linea(u"End Sub");
+            lineas_.linea(u"Public Sub CargaLenguaje", numero, parametro);
+        }
+        while (lineas_.es(u"NorvikRefParam.InsertarSimboloGramatica ")) {
+            modulo_.simbolos.push_back({lineas_.numeroDeLinea(), {lineas_.cadena()}});
+            lineas_.acaba();
+        }
+        lineas_.linea(u"End Sub");
+    }
+
+    void dimension() {
+        lineas_.empieza(u"NorvikRefParam.SetDimensionTablaSLR ");
+        modulo_.dimension.linea = lineas_.numeroDeLinea();
+        modulo_.dimension.datos.filas = lineas_.numero16();
+        lineas_.sigue(u", ");
+        modulo_.dimension.datos.columnas = lineas_.numero16();
+        lineas_.acaba();
+    }
+
+    void elemento() {
+        Llamada<LlamadaElemento> llamada{lineas_.numeroDeLinea(), {}};
+        llamada.datos.fila = lineas_.numero16();
+        lineas_.sigue(u", ");
+        llamada.datos.columna = lineas_.numero16();
+        lineas_.sigue(u", ");
+        llamada.datos.valor = lineas_.numero16();
+        lineas_.acaba();
+        modulo_.elementos.push_back(llamada);
+    }
+
+    void procedimientoDeTokens() {
+        lineas_.linea(u"Public Sub CargaTokensLenguaje", parametro);
+        lineas_.linea(u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
+        while (lineas_.es(u"NorvikRefParam.SetER ")) definicion();
+        lineas_.linea(u"End Sub");
+    }
+
+    void definicion() {
+        Llamada<LlamadaSetER> llamada{lineas_.numeroDeLinea(), {}};
+        llamada.datos.expresion = lineas_.cadenaConComillas();
+        lineas_.sigue(u", ");
+        llamada.datos.nombre = lineas_.cadena();
+        lineas_.sigue(u", True, ");
+        llamada.datos.tipo = lineas_.numero32();
+        lineas_.sigue(u", ");
+        llamada.datos.pseudoToken = lineas_.cadena();
+        lineas_.sigue(u", ");
+        llamada.datos.base = lineas_.numero32();
+        lineas_.sigue(u", ");
+        llamada.datos.color = lineas_.numero32();
+        lineas_.acaba();
+        modulo_.definiciones.push_back(std::move(llamada));
+    }
+
+    void procedimientoDeReglas() {
+        lineas_.linea(u"Public Sub CargaGramaticaLenguaje", parametro);
+        lineas_.linea(u"'Función para cargar las reglas del lenguaje ", nombre_);
+        while (lineas_.es(u"NorvikRefParam.SetRegla ")) {
+            modulo_.reglas.push_back({lineas_.numeroDeLinea(), {lineas_.cadena()}});
+            lineas_.acaba();
+        }
+        lineas_.linea(u"End Sub");
+    }
+
+    LineasModulo lineas_;
+    std::u16string_view nombre_;
+    Modulo modulo_;
+};
+
+void llama(CargadorLenguaje& control, const LlamadaSetER& l) {
+    control.SetER(l.expresion, l.nombre, true, l.tipo, l.pseudoToken, l.base, l.color);
+}
+void llama(CargadorLenguaje& control, const LlamadaSetRegla& l) {
+    control.SetRegla(l.regla);
+}
+void llama(CargadorLenguaje& control, const LlamadaDimension& l) {
+    control.SetDimensionTablaSLR(l.filas, l.columnas);
+}
+void llama(CargadorLenguaje& control, const LlamadaElemento& l) {
+    control.SetElementoTablaSLR(l.fila, l.columna, l.valor);
+}
+void llama(CargadorLenguaje& control, const LlamadaSimbolo& l) {
+    control.InsertarSimboloGramatica(l.simbolo);
+}
+
+/// Makes calls and remembers the line of the one under way, for when it fails.
+class Ejecucion {
+public:
+    explicit Ejecucion(CargadorLenguaje& control) : control_(control) {}
+
+    void ejecuta(const Modulo& modulo) {
+        todas(modulo.definiciones);
+        todas(modulo.reglas);
+        una(modulo.dimension);
+        todas(modulo.elementos);
+        todas(modulo.simbolos);
+    }
+    std::int32_t linea() const { return linea_; }
+
+private:
+    template <typename T>
+    void una(const Llamada<T>& llamada) {
+        linea_ = llamada.linea;
+        llama(control_, llamada.datos);
+    }
+    template <typename T>
+    void todas(const std::vector<Llamada<T>>& llamadas) {
+        for (const auto& llamada : llamadas) una(llamada);
+    }
+
+    CargadorLenguaje& control_;
+    std::int32_t linea_ = 0;
+};
+
+} // namespace
+
+std::u16string ErrorModulo::mensaje() const {
+    return u"Línea " + aTexto(linea) + u" del módulo: " + texto;
+}
+
+std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control) {
+    Ejecucion ejecucion(control);
+    try {
+        ejecucion.ejecuta(LectorModulo(texto).lee());
+    } catch (const ErrorModulo& error) {
+        return error;
+    } catch (const ErrorNorvik& error) {
+        return ErrorModulo{ejecucion.linea(), error.texto()};
+    }
+    return std::nullopt;
+}
+
+} // namespace norvik

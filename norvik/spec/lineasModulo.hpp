@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+/// The lines of a loading module, taken one by one: each is asked for in pieces, literal ones and values.
+/// What is not as asked is raised as an `ErrorModulo` with its line.
+class LineasModulo {
+public:
+    explicit LineasModulo(std::u16string_view texto) : texto_(texto) {}
+
+    /// The next line starts with these pieces, which are consumed; false, with nothing consumed, when not.
+    bool es(std::u16string_view trozo, std::u16string_view otro = {});
+    void empieza(std::u16string_view trozo);
+    /// The line goes on with a piece.
+    void sigue(std::u16string_view trozo);
+    /// The line ends after these pieces.
+    void acaba(std::u16string_view trozo = {}, std::u16string_view otro = {});
+    /// The whole next line.
+    void linea(std::u16string_view trozo, std::u16string_view otro = {}, std::u16string_view ultimo = {});
+    /// The text ends here.
+    void fin();
+
+    /// A text between quotes, which holds none; it may hold line ends.
+    std::u16string_view cadena();
+    /// The same, with quotes written as `" & Chr$(34) & "`.
+    std::u16string cadenaConComillas();
+    std::int16_t numero16();
+    std::int32_t numero32();
+
+    /// 1-based number of the line under way.
+    std::int32_t numeroDeLinea() const { return linea_; }
+    [[noreturn]] void falla(std::u16string texto) const;
+
+private:
+    void saltaBlancos();
+    bool consume(std::u16string_view trozo);
+    std::int64_t numero(std::int64_t minimo, std::int64_t maximo);
+
+    std::u16string_view texto_;
+    std::size_t pos_ = 0;
+    std::int32_t linea_ = 1;
+};
+
+} // namespace norvik
