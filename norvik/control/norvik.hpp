@@ -8,11 +8,14 @@
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/arbol.hpp"
+#include "norvik/parser/conductor.hpp"
+#include "norvik/parser/lectorTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/sistema.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -94,9 +97,9 @@ public:
     /// Empties the text, the colour of what is typed next included.
     void BorraTodo();
     /// Replaces the text by a file's and colours it. True, or raises `ErrorDeFichero` with the text emptied.
-    bool CargarFichero(std::u16string_view nomFichero);
+    bool CargarFichero(const std::filesystem::path& nomFichero);
     /// Writes the text and a line end; false when that failed.
-    bool SalvarFichero(std::u16string_view nomFichero);
+    bool SalvarFichero(const std::filesystem::path& nomFichero);
 
     // Properties of the text box. Positions and lengths are 16-bit: reading larger ones raises
     // `Desbordamiento`.
@@ -154,7 +157,10 @@ public:
 
 private:
     void alCambiarElTexto();
+    void alFallarElAnalisis(const Mensaje& mensaje);
     void muestraErrorLexico(const std::u16string& mensaje);
+    bool analizaEspecificacion(std::u16string_view codGramatica);
+    void generaTabla();
 
     CajaTexto& caja_;
     Sistema& sistema_;
@@ -162,6 +168,8 @@ private:
     EstadoEdicion estado_;
     pilaTokens lexico_;
     gramatica gramatica_;
+    LectorTokens lector_;
+    ConductorSLR conductor_;
     Coloreado coloreado_;
     Marcas marcas_;
 };
