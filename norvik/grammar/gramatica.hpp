@@ -1,8 +1,13 @@
 #pragma once
 
 #include "norvik/grammar/conjunto.hpp"
+#include "norvik/grammar/conjuntosNumerados.hpp"
+#include "norvik/grammar/estadoAutomata.hpp"
+#include "norvik/grammar/reglasPartidas.hpp"
+#include "norvik/grammar/tablaSLR.hpp"
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -13,22 +18,40 @@ namespace norvik {
 class pilaTokens;
 class Sistema;
 
-/// The grammar of a language and all that is derived from it. Contract for callers (the owner of this
-/// folder completes it with the whole table of operations and its private parts).
+/// The grammar of a language and all that is derived from it: rules, FIRST, FOLLOW and PREDICT sets, LR(0)
+/// automaton and SLR table. Rule indexes are 1-based. A symbol that begins with A … Z is a non-terminal
+/// ("variable"), any other but Ø a terminal.
 class gramatica {
 public:
-    static constexpr std::int16_t aceptar = 1000;
+    static constexpr std::int16_t aceptar = 1000; ///< table entry that means acceptance
+    static constexpr std::int16_t maximoReglas = 1000;
 
+    gramatica() { inicializaGramatica(); }
+    // Views into the rules are handed out and kept.
+    gramatica(const gramatica&) = delete;
+    gramatica& operator=(const gramatica&) = delete;
+    ~gramatica() = default;
+
+    /// Accepts a text and does nothing with it.
+    std::u16string compila(std::u16string_view texto) const;
+
+    // Rules and symbols ------------------------------------------------------------------------------------
+
+    /// Forgets rules, symbols, sets and automaton; the table stays.
     void inicializaGramatica();
-    void inicializaConjuntos();
-    /// Raises `SubindiceFueraDeIntervalo` at rule 1001.
+    /// Stores one rule for each alternative of the body (separated by "|"). The code has no effect.
+    /// Raises `SubindiceFueraDeIntervalo` at rule 1001; those stored before stay.
     void SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t codigo = 0);
+    /// Adds a table symbol, in column order; "" is ignored.
     void SetSimbolo(std::u16string_view simbolo);
-    /// Rule indexes are 1-based, 1..1000; others raise `SubindiceFueraDeIntervalo`.
+    /// Head and body of a rule, trimmed; valid while the rules stay.
+    /// Rules are 1..1000, unused ones ""; others raise `SubindiceFueraDeIntervalo` (here and below).
     std::u16string_view GetLeftRegla(std::int16_t regla) const;
     std::u16string_view GetRightRegla(std::int16_t regla) const;
     std::int16_t getNumReglas() const;
+    /// Number of symbols of the body; a Ø at its end does not count.
     std::int16_t GetNumElementosRegla(std::int16_t regla) const;
+    /// Symbol of the body at a 0-based position, clamped to the first and the last.
     std::u16string GetElementoRegla(std::int16_t regla, std::int16_t posicion) const;
     std::int16_t GetNumSimbolos() const;
     /// 0-based column of a terminal, "EOF" being "$"; -1 when unknown.
@@ -37,19 +60,76 @@ public:
     std::int16_t GetCodigoVariable(std::int16_t regla) const;
     /// Empty when every non-terminal used has a rule, else the message.
     std::u16string chequeaGramatica() const;
+    /// 1-based position of a symbol in a body, 0 when it is not found. The last symbol of a body is missed
+    /// when an earlier one, not the first, has the same beginning.
+    static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo);
+    /// A body with a dot before its symbol at a 0-based position.
+    static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto);
 
+    const conjunto& terminales() const { return terminales_; }
+    const conjunto& variables() const { return variables_; }
+    /// The table's symbols in column order.
+    const conjunto& simbolos() const { return simbolos_; }
+
+    // FIRST, FOLLOW and PREDICT ----------------------------------------------------------------------------
+
+    /// Forgets sets, symbols and automaton.
+    void inicializaConjuntos();
+    /// Computes all sets. Raises `SubindiceFueraDeIntervalo` when FOLLOW needs an undefined non-terminal.
     void creaConjuntos();
-    void creaAutomata();
-    void creaTablaSLR();
+    /// Adds FIRST of a string of symbols, on behalf of a rule (0: of none).
+    void creaPrimeros(std::u16string_view cadena, conjunto& conj, bool recursivo, std::int16_t regla);
+    /// Adds FOLLOW of a non-terminal; a recursive call takes the set as it stands when it is finished.
+    void creaSiguientes(std::u16string_view variable, conjunto& conj, bool recursivo);
+    /// True when a rule of this head begins with Ø.
+    bool contieneCadenaVacia(std::u16string_view variable) const;
+    bool estaPendientePrimeros(std::u16string_view nombre) const;
+    bool estaPendienteSiguientes(std::u16string_view nombre) const;
+    /// 1-based position of the first set of this name, 0 when there is none.
+    std::int16_t numItemPrimeros(std::u16string_view nombre) const;
+    std::int16_t numItemSiguientes(std::u16string_view nombre) const;
+    bool quedanPrimerosPendientes() const;
+    bool quedanSiguientesPendientes() const;
 
+    std::vector<conjunto> primeros() const;
+    std::vector<conjunto> siguientes() const;
+    /// One set a rule.
+    std::vector<conjunto> predict() const;
+
+    // Automaton --------------------------------------------------------------------------------------------
+
+    /// Builds the automaton. Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo`
+    /// at a state's item 1001; either leaves neither automaton nor table.
+    void creaAutomata();
+    void aniadeReglaAEstado(std::u16string_view variable, estadoAutomata& estado) const;
+    void aniadeReglasImplicitasAEstado(const Nucleo& nucleo, estadoAutomata& estado) const;
+    /// Appends a state, and all that are reached from it, to the list.
+    void construyeTransiciones(const estadoAutomata& estado);
+    /// Number of the first state in the list that contains the kernel, -1 when there is none.
+    std::int16_t existeEstadoCon(const Nucleo& nucleo) const;
+    /// Symbol after the dot of a 1-based item.
+    std::u16string dameSimboloSiguiente(const estadoAutomata& estado, std::int16_t item) const;
+    const std::vector<estadoAutomata>& estadosAutomata() const { return estadosAutomata_; }
+
+    // Table ------------------------------------------------------------------------------------------------
+
+    /// Fills the table from rules, automaton and FOLLOW sets. A failure leaves no table
+    /// (`SubindiceFueraDeIntervalo`: a Ø beside other symbols has no column).
+    void creaTablaSLR();
     /// 0-based state and column; raises `SubindiceFueraDeIntervalo`.
     std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const;
+    /// A new table, all 0. Raises `SubindiceFueraDeIntervalo` for negative dimensions.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
-    /// 1-based row and column.
+    /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
     void SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor);
-    std::int16_t GetDimensionFilasSLR() const;
-    std::int16_t GetDimensionColumnasSLR() const;
+    std::int16_t GetDimensionFilasSLR() const { return tabla_.filas(); }
+    std::int16_t GetDimensionColumnasSLR() const { return tabla_.columnas(); }
+    /// Rule that lost a conflict in a cell (1-based), 0 when there was none or the table was loaded.
+    std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const;
+    /// The terminals that a state (0-based) accepts, as the lexer describes them.
     std::u16string toStringEsperados(std::int16_t estado, const pilaTokens& lexico) const;
+
+    // Report -----------------------------------------------------------------------------------------------
 
     /// The conflict message, and the same shown in a message box titled "Conflictos".
     std::u16string textoProblemas() const;
@@ -57,10 +137,109 @@ public:
     /// The report's text, and the same written to "informeGramatica.txt" in a folder.
     std::u16string textoInforme() const;
     void GuardaInforme(const std::filesystem::path& carpeta) const;
-    /// The loading module's text, and the same written to `nombre`.bas in a folder.
+    /// What a report window shows: rules and sets; the automaton; header and cells of the table (1-based).
+    std::u16string textoInformeGeneral() const;
+    std::u16string textoAutomata() const;
+    std::u16string_view encabezadoColumna(std::int16_t columna) const;
+    std::u16string celdaTabla(std::int16_t fila, std::int16_t columna) const;
+
+    // Loading module ---------------------------------------------------------------------------------------
+
+    /// The module's text, and the same written to `nombre`.bas in a folder.
     std::u16string textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                const std::filesystem::path& carpeta) const;
+    /// The same calls as a C++ function, and the same written to `nombre`.hpp.
+    std::u16string textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const;
+    void GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
+                         const std::filesystem::path& carpeta) const;
+
+private:
+    /// Columns that the parse asks for again and again.
+    struct Columnas {
+        bool calculadas = false;
+        std::int16_t inicial = -1; ///< of the start symbol, 0-based
+        std::int16_t fin = -1;     ///< of "$"
+        std::vector<std::int16_t> cabezas;
+    };
+
+    static void compruebaRegla(std::int16_t regla) {
+        if (regla < 1 || regla > maximoReglas) throw SubindiceFueraDeIntervalo();
+    }
+    const Regla& reglaEn(std::int16_t regla) const;
+    bool hayReglaInicial() const { return !reglas_.empty() && !reglas_.front().cabeza.empty(); }
+    /// The rules split so far, completed.
+    ReglasPartidas& partidas() const;
+    const Columnas& columnas() const { return columnas_.calculadas ? columnas_ : calculaColumnas(); }
+    const Columnas& calculaColumnas() const;
+    void olvidaGenerado();
+    std::vector<conjunto> conTextos(const std::vector<ConjuntoNumerado>& conjuntos) const;
+    void insertaTextos(const std::vector<Simbolo>& simbolos, conjunto& conj) const;
+    void construyeAutomata();
+    Nucleo nucleoInicial() const;
+    void reuneSimbolos();
+    std::vector<int> columnasDeSimbolos() const;
+    void rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const;
+    bool esColumnaDeVariable(std::int16_t columna) const;
+
+    // Parts of the report, appended to a text.
+    void escribeReglas(std::u16string& texto) const;
+    void escribeConjuntos(std::u16string_view titulo, std::u16string_view nombre,
+                          const std::vector<ConjuntoNumerado>& conjuntos, std::u16string& texto) const;
+    void escribePredict(std::u16string& texto) const;
+    std::u16string listaDe(const ConjuntoNumerado& conjunto) const;
+    void escribeEstado(const estadoAutomata& estado, std::u16string& texto) const;
+    std::u16string transiciones(const estadoAutomata& estado) const;
+    void escribeTabla(std::u16string& texto) const;
+    std::u16string entradaTabla(std::int16_t fila, std::int16_t columna) const;
+    std::u16string accion(std::int16_t fila, std::int16_t columna) const;
+    std::u16string problemasFila(std::int16_t fila) const;
+
+    // Parts of the modules.
+    struct Celda {
+        std::int16_t fila = 0;
+        std::int16_t columna = 0;
+        std::int16_t valor = 0;
+    };
+    std::vector<Celda> celdas() const;
+    void escribeTablaCpp(std::u16string& texto) const;
+    void escribeEntradasFijas(std::u16string& texto) const;
+    void escribeEntradas(std::u16string& texto, std::u16string_view nombre) const;
+    void escribeSimbolos(std::u16string& texto) const;
+    void escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const;
+
+    std::deque<Regla> reglas_;
+    mutable ReglasPartidas partidas_; // cache of `reglas_`, completed when it is asked for
+    conjunto terminales_;
+    conjunto variables_;
+    conjunto simbolos_;
+    mutable Columnas columnas_; // cache of `simbolos_` and `reglas_`
+    ConjuntosGramatica conjuntos_;
+    std::vector<estadoAutomata> estadosAutomata_;
+    std::int16_t numEstados_ = 0;
+    TablaSLR tabla_;
+    TablaSLR conflictos_;
 };
+
+inline std::int16_t gramatica::GetCodigoVariable(std::int16_t regla) const {
+    compruebaRegla(regla);
+    const auto& cabezas = columnas().cabezas;
+    const auto i = static_cast<std::size_t>(regla) - 1;
+    return i < cabezas.size() ? cabezas[i] : std::int16_t{-1};
+}
+
+inline std::int16_t gramatica::GetNumElementosRegla(std::int16_t regla) const {
+    compruebaRegla(regla);
+    const auto i = static_cast<std::size_t>(regla) - 1;
+    return i < reglas_.size() ? reglas_[i].elementos : std::int16_t{0};
+}
+
+inline std::int16_t gramatica::GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {
+    const std::int16_t guardado = tabla_.en(estado + 1, columna + 1);
+    if (columna >= simbolos_.totalElementos()) throw SubindiceFueraDeIntervalo();
+    if (estado == 0 && columna == columnas().inicial) return 1;
+    if (estado == 1 && columna == columnas().fin) return aceptar;
+    return guardado;
+}
 
 } // namespace norvik

@@ -1,0 +1,231 @@
+#include "norvik/grammar/automata.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/numeros.hpp"
+
+#include <algorithm>
+#include <numeric>
+
+// The LR(0) automaton (Knuth 1965), depth first, with two departures that decide which states exist. A target
+// is any state that contains the kernel sought, not only one with that very kernel; and of several the one
+// that stands first in a list in which a state is put when it is begun and moved to the end when it is
+// finished. Items that share their next symbol search again one by one, in between the states that the
+// others brought about, and the last answer holds.
+//
+// A state's place in the list is the moment of its last appending, so the first of several is the one with
+// the smallest. Only kernel items have a dot beyond the start, so a state contains a kernel when its own
+// kernel does; the candidates are the states that have the kernel's rarest item. The recursion over states
+// runs on a stack of its own, and so does the closure, which takes up each head once a state: a head met
+// again inside its own rules goes on where the outer visit stands.
+namespace norvik {
+
+namespace {
+
+std::uint64_t bit(int item) {
+    return std::uint64_t{1} << ((static_cast<std::uint64_t>(item) * 0x9E3779B97F4A7C15U) >> 58U);
+}
+
+template <typename T>
+std::size_t indice(T valor) {
+    return static_cast<std::size_t>(valor);
+}
+
+} // namespace
+
+ConstructorAutomata::ConstructorAutomata(const ReglasPartidas& reglas, std::vector<estadoAutomata> estados,
+                                         std::int16_t numEstados)
+    : reglas_(reglas), numEstados_(numEstados), primerItem_(indice(reglas.numReglas()) + 2),
+      turnoCabeza_(reglas.numSimbolos()), siguienteRegla_(reglas.numSimbolos()),
+      grupoDeSimbolo_(reglas.numSimbolos(), -1) {
+    for (int regla = 1; regla <= reglas.numReglas(); ++regla)
+        primerItem_[indice(regla) + 1] = primerItem_[indice(regla)] + longitud(regla) + 1;
+    poseedores_.resize(indice(primerItem_.back()));
+    presentes_.resize(indice(primerItem_.back()));
+    for (estadoAutomata& estado : estados) {
+        anota(estado);
+        estados_.push_back(std::move(estado));
+    }
+}
+
+/// Symbols of a body over which a dot can move.
+int ConstructorAutomata::longitud(int regla) const {
+    return reglas_.esVacia(regla) ? 0 : a16(reglas_.cuerpo(regla).size());
+}
+
+void ConstructorAutomata::compruebaItem(Item item) const {
+    const bool valido = item.regla >= 1 && item.regla <= reglas_.numReglas() && item.punto >= 0 &&
+                        item.punto <= longitud(item.regla);
+    if (!valido) throw SubindiceFueraDeIntervalo();
+}
+
+/// Gets ready to add to a state, which may have items already.
+void ConstructorAutomata::abre(const estadoAutomata& estado) {
+    ++turno_;
+    for (const Item item : estado.items()) {
+        compruebaItem(item);
+        presentes_[indice(numero(item))] = turno_;
+    }
+}
+
+bool ConstructorAutomata::aniadeNuevo(Item item, estadoAutomata& estado) {
+    std::uint32_t& presente = presentes_[indice(numero(item))];
+    if (presente == turno_) return false;
+    presente = turno_;
+    estado.aniade(item, item.punto < longitud(item.regla));
+    return true;
+}
+
+void ConstructorAutomata::cierra(Simbolo variable, estadoAutomata& estado) {
+    pendientes_.assign(1, variable);
+    while (!pendientes_.empty()) {
+        const Simbolo cabeza = pendientes_.back();
+        int& siguiente = siguienteRegla_[indice(cabeza)];
+        if (turnoCabeza_[indice(cabeza)] != turno_) {
+            turnoCabeza_[indice(cabeza)] = turno_;
+            siguiente = reglas_.primera(cabeza);
+        }
+        if (siguiente == reglas_.fin(cabeza)) {
+            pendientes_.pop_back();
+            continue;
+        }
+        const int regla = siguiente++;
+        if (!aniadeNuevo({static_cast<std::int16_t>(regla), 0}, estado)) continue;
+        const Simbolo primero = reglas_.cuerpo(regla).front();
+        if (reglas_.esVariable(primero)) pendientes_.push_back(primero);
+    }
+}
+
+void ConstructorAutomata::aniadeRegla(Simbolo variable, estadoAutomata& estado) {
+    abre(estado);
+    cierra(variable, estado);
+}
+
+void ConstructorAutomata::aniadeNucleo(const Nucleo& nucleo, estadoAutomata& estado) {
+    abre(estado);
+    for (const Item item : nucleo) {
+        compruebaItem(item);
+        aniadeNuevo(item, estado);
+        if (item.punto == longitud(item.regla)) continue;
+        const Simbolo siguiente = reglas_.cuerpo(item.regla)[indice(item.punto)];
+        if (reglas_.esVariable(siguiente)) cierra(siguiente, estado);
+    }
+}
+
+void ConstructorAutomata::construyeTransiciones(estadoAutomata estado) {
+    pila_.clear();
+    apila(std::move(estado));
+    while (!pila_.empty()) {
+        Marco& marco = pila_.back();
+        if (marco.item < marco.grupoDe.size()) {
+            avanza();
+            continue;
+        }
+        enLista_[marco.estado].momento = ++reloj_;
+        pila_.pop_back();
+    }
+}
+
+void ConstructorAutomata::apila(estadoAutomata estado) {
+    anota(estado);
+    estados_.push_back(std::move(estado));
+    Marco& marco = pila_.emplace_back();
+    marco.estado = estados_.size() - 1;
+    agrupa(marco);
+}
+
+/// Enters a state that is about to be appended into the search for targets.
+void ConstructorAutomata::anota(const estadoAutomata& estado) {
+    EnLista& ficha = enLista_.emplace_back();
+    for (const Item item : estado.items()) {
+        if (item.punto == 0) continue;
+        compruebaItem(item);
+        ficha.nucleo.push_back(numero(item));
+        ficha.firma |= bit(numero(item));
+        poseedores_[indice(numero(item))].push_back(static_cast<int>(enLista_.size()) - 1);
+    }
+    std::sort(ficha.nucleo.begin(), ficha.nucleo.end());
+    ficha.momento = ++reloj_;
+}
+
+void ConstructorAutomata::agrupa(Marco& marco) {
+    const estadoAutomata& estado = estados_[marco.estado];
+    for (std::size_t i = 0; i < estado.items().size(); ++i) {
+        const Item item = estado.items()[i];
+        marco.grupoDe.push_back(-1);
+        if (estado.adyacentes()[i] == estadoAutomata::sinTransicion) continue;
+        int& grupo = grupoDeSimbolo_[indice(reglas_.cuerpo(item.regla)[indice(item.punto)])];
+        if (grupo < 0) {
+            grupo = static_cast<int>(marco.grupos.size());
+            marco.grupos.emplace_back();
+        }
+        Grupo& suyo = marco.grupos[indice(grupo)];
+        suyo.miembros.push_back(i);
+        suyo.nucleo.push_back(numero(item) + 1);
+        suyo.firma |= bit(suyo.nucleo.back());
+        marco.grupoDe.back() = grupo;
+    }
+    for (const Grupo& grupo : marco.grupos) {
+        const Item item = estado.items()[grupo.miembros.front()];
+        grupoDeSimbolo_[indice(reglas_.cuerpo(item.regla)[indice(item.punto)])] = -1;
+    }
+}
+
+/// Finds or builds the target of the next item of the innermost state.
+void ConstructorAutomata::avanza() {
+    Marco& marco = pila_.back();
+    const int numeroGrupo = marco.grupoDe[marco.item++];
+    if (numeroGrupo < 0) return;
+    Grupo& grupo = marco.grupos[indice(numeroGrupo)];
+    if (grupo.momento == reloj_) return;
+    grupo.momento = reloj_;
+    if (const auto destino = busca(grupo)) return fija(grupo, *destino, estados_[marco.estado]);
+    if (numEstados_ >= maximoEstados) throw Desbordamiento(u"El autómata tiene demasiados estados");
+    fija(grupo, numEstados_, estados_[marco.estado]);
+    Nucleo nucleo;
+    for (const std::size_t miembro : grupo.miembros) {
+        const auto [regla, punto] = estados_[marco.estado].items()[miembro];
+        nucleo.push_back({regla, static_cast<std::int16_t>(punto + 1)});
+    }
+    apila(creaEstado(nucleo));
+}
+
+estadoAutomata ConstructorAutomata::creaEstado(const Nucleo& nucleo) {
+    estadoAutomata estado;
+    estado.setNumEstado(numEstados_++);
+    aniadeNucleo(nucleo, estado);
+    return estado;
+}
+
+void ConstructorAutomata::fija(const Grupo& grupo, std::int16_t destino, estadoAutomata& estado) {
+    for (const std::size_t miembro : grupo.miembros)
+        estado.setTransicionIndividual(static_cast<std::int16_t>(miembro + 1), destino);
+}
+
+/// The first state in the list's present order that contains the group's kernel.
+std::optional<std::int16_t> ConstructorAutomata::busca(const Grupo& grupo) const {
+    const auto candidatos = [this](int item) { return poseedores_[indice(item)].size(); };
+    const int raro = *std::ranges::min_element(grupo.nucleo, {}, candidatos);
+    const int* mejor = nullptr;
+    for (const int& candidato : poseedores_[indice(raro)]) {
+        const EnLista& ficha = enLista_[indice(candidato)];
+        if ((grupo.firma & ~ficha.firma) != 0) continue;
+        if (mejor != nullptr && enLista_[indice(*mejor)].momento < ficha.momento) continue;
+        const bool contiene = std::ranges::all_of(
+            grupo.nucleo, [&](int item) { return std::ranges::binary_search(ficha.nucleo, item); });
+        if (contiene) mejor = &candidato;
+    }
+    if (mejor == nullptr) return std::nullopt;
+    return estados_[indice(*mejor)].getNumEstado();
+}
+
+std::vector<estadoAutomata> ConstructorAutomata::estados() && {
+    std::vector<std::size_t> orden(estados_.size());
+    std::iota(orden.begin(), orden.end(), std::size_t{0});
+    std::ranges::sort(orden, {}, [this](std::size_t i) { return enLista_[i].momento; });
+    std::vector<estadoAutomata> lista;
+    lista.reserve(orden.size());
+    for (const std::size_t i : orden) lista.push_back(std::move(estados_[i]));
+    return lista;
+}
+
+} // namespace norvik

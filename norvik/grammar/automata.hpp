@@ -1,0 +1,85 @@
+#pragma once
+
+#include "norvik/grammar/estadoAutomata.hpp"
+#include "norvik/grammar/reglasPartidas.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace norvik {
+
+/// Builds the LR(0) automaton state by state.
+class ConstructorAutomata {
+public:
+    /// The highest number of states: the value 1000 of the table means acceptance.
+    static constexpr std::int16_t maximoEstados = 999;
+
+    /// Goes on from a list of states, `numEstados` being the next free number.
+    ConstructorAutomata(const ReglasPartidas& reglas, std::vector<estadoAutomata> estados,
+                        std::int16_t numEstados);
+
+    /// Adds to a state the items of a head's rules, and of the heads these begin with.
+    void aniadeRegla(Simbolo variable, estadoAutomata& estado);
+    /// Adds the kernel's items, each with what follows from it.
+    void aniadeNucleo(const Nucleo& nucleo, estadoAutomata& estado);
+    /// Adds a state and all that are reached from it. Raises `Desbordamiento` at the thousandth state.
+    void construyeTransiciones(estadoAutomata estado);
+
+    /// The states in the list's present order.
+    std::vector<estadoAutomata> estados() &&;
+    std::int16_t numEstados() const { return numEstados_; }
+
+private:
+    /// What the search for a target needs to know of a state in the list.
+    struct EnLista {
+        std::vector<int> nucleo; ///< numbers of its items with a dot beyond the start, ascending
+        std::uint64_t firma = 0; ///< one bit for each of them, hashed
+        std::uint32_t momento = 0;
+    };
+    /// Items of a state with the same next symbol.
+    struct Grupo {
+        std::vector<std::size_t> miembros;
+        std::vector<int> nucleo; ///< their numbers once the dot has moved on
+        std::uint64_t firma = 0;
+        std::uint32_t momento = 0; ///< of the last search; the list has not changed while it equals the clock
+    };
+    /// A state whose transitions are being built.
+    struct Marco {
+        std::size_t estado = 0;
+        std::size_t item = 0;
+        std::vector<Grupo> grupos;
+        std::vector<int> grupoDe; ///< by item; −1 without transition
+    };
+
+    int numero(Item item) const { return primerItem_[static_cast<std::size_t>(item.regla)] + item.punto; }
+    int longitud(int regla) const;
+    void compruebaItem(Item item) const;
+    void abre(const estadoAutomata& estado);
+    void cierra(Simbolo variable, estadoAutomata& estado);
+    bool aniadeNuevo(Item item, estadoAutomata& estado);
+    void apila(estadoAutomata estado);
+    void anota(const estadoAutomata& estado);
+    void agrupa(Marco& marco);
+    void avanza();
+    std::optional<std::int16_t> busca(const Grupo& grupo) const;
+    static void fija(const Grupo& grupo, std::int16_t destino, estadoAutomata& estado);
+    estadoAutomata creaEstado(const Nucleo& nucleo);
+
+    const ReglasPartidas& reglas_;
+    std::int16_t numEstados_ = 0;
+    std::uint32_t reloj_ = 0; // ticks whenever a state is appended to the list
+    std::vector<estadoAutomata> estados_;
+    std::vector<EnLista> enLista_;             // parallel to `estados_`
+    std::vector<int> primerItem_;              // by rule: number of its item with dot 0
+    std::vector<std::vector<int>> poseedores_; // by number of item: states that have it in their kernel
+    std::vector<std::uint32_t> presentes_;     // by number of item: turn in which it was added
+    std::vector<std::uint32_t> turnoCabeza_;   // by symbol: turn in which its rules were taken up …
+    std::vector<int> siguienteRegla_;          // … and the next of them
+    std::vector<int> grupoDeSimbolo_;          // by symbol, −1 outside `agrupa`
+    std::vector<Simbolo> pendientes_;
+    std::uint32_t turno_ = 0;
+    std::vector<Marco> pila_;
+};
+
+} // namespace norvik

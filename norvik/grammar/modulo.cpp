@@ -1,0 +1,158 @@
+#include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/lineas.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+
+#include <algorithm>
+
+// The loading module as Visual Basic source: the definitions, the rules, the table and its symbols as calls
+// on a control. A procedure takes 2000 entries of the table; the next entry opens another, which the first
+// calls as its last statement.
+namespace norvik {
+
+namespace {
+
+constexpr int maximoEntradas = 2000;
+constexpr std::u16string_view llamada = u"\tNorvikRefParam.";
+
+std::u16string entreComillas(std::u16string_view texto) {
+    return u'"' + std::u16string(texto) + u'"';
+}
+
+/// A literal in which every quote is joined in by its code.
+std::u16string literal(std::u16string_view texto) {
+    std::u16string resultado = u"\"";
+    for (const char16_t c : texto) {
+        if (c == u'"')
+            resultado += u"\" & Chr$(34) & \"";
+        else
+            resultado += c;
+    }
+    return resultado + u'"';
+}
+
+void abreProcedimiento(std::u16string& texto, std::u16string_view nombre) {
+    escribeLinea(texto);
+    escribeLinea(texto, u"Public Sub ", nombre, u"(NorvikRefParam As Norvik)");
+    escribeLinea(texto);
+}
+
+void cierraProcedimiento(std::u16string& texto) {
+    escribeLinea(texto);
+    escribeLinea(texto, u"End Sub");
+}
+
+void escribeCabecera(std::u16string& texto, std::u16string_view nombre) {
+    const std::u16string raya = u'\'' + std::u16string(110, u'/');
+    escribeLinea(texto, u"Attribute VB_Name = ", entreComillas(nombre));
+    escribeLinea(texto, u"Option Explicit");
+    escribeLinea(texto, raya);
+    escribeLinea(texto, u"' Módulo de carga del lenguaje ", nombre);
+    escribeLinea(texto, u"'");
+    escribeLinea(texto, u"'\tpara ejecutar escriba ", nombre, u".CargaLenguaje(NorvikControl)");
+    escribeLinea(texto, u"'\tsiendo NorvikControl en control Norvik donde desea inyectar el lenguaje.");
+    escribeLinea(texto, u"'");
+    escribeLinea(texto, raya);
+    abreProcedimiento(texto, u"CargaLenguaje");
+    escribeLinea(texto, u"\t'Esta función carga la tabla SLR en un control Norvik");
+    escribeLinea(texto, u"\t'que ha sido pasado por referencia como parámetro.");
+    escribeLinea(texto);
+    escribeLinea(texto, u"\t", nombre, u".CargaTokensLenguaje NorvikRefParam");
+    escribeLinea(texto, u"\t", nombre, u".CargaGramaticaLenguaje NorvikRefParam");
+}
+
+void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
+    abreProcedimiento(texto, u"CargaTokensLenguaje");
+    escribeLinea(texto);
+    escribeLinea(texto, u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
+    escribeLinea(texto);
+    for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
+        const expresionRegular& token = lexico.getTokenLenguaje(i);
+        escribeLinea(texto, llamada, u"SetER ", literal(token.getExpReg()), u", ",
+                     entreComillas(token.GetToken()), u", True, ", token.GetTipo(), u", ",
+                     entreComillas(token.GetPseudoToken()), u", ", token.base, u", ", token.GetColor());
+    }
+    cierraProcedimiento(texto);
+    escribeLinea(texto);
+    escribeLinea(texto);
+}
+
+} // namespace
+
+/// The two entries that reading the table makes up.
+void gramatica::escribeEntradasFijas(std::u16string& texto) const {
+    for (std::int16_t k = 1; k <= simbolos_.totalElementos(); ++k) {
+        if (k == columnas().inicial + 1)
+            escribeLinea(texto, llamada, u"SetElementoTablaSLR 1, ", k, u", 1");
+        else if (k == columnas().fin + 1)
+            escribeLinea(texto, llamada, u"SetElementoTablaSLR 2, ", k, u", 1000");
+    }
+}
+
+void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre) const {
+    int entradas = 0;
+    int procedimiento = 0;
+    for (const auto& [fila, columna, valor] : celdas()) {
+        if (entradas == maximoEntradas) {
+            const std::u16string otro = u"CargaLenguaje" + aTexto(++procedimiento);
+            escribeLinea(texto);
+            escribeLinea(texto, u"\t", nombre, u".", otro, u" NorvikRefParam");
+            cierraProcedimiento(texto);
+            abreProcedimiento(texto, otro);
+            entradas = 0;
+        }
+        escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
+        ++entradas;
+    }
+}
+
+/// The stored entries other than 0, by rows.
+std::vector<gramatica::Celda> gramatica::celdas() const {
+    std::vector<Celda> lista;
+    const std::int16_t ancho = std::min(simbolos_.totalElementos(), tabla_.columnas());
+    for (std::int16_t f = 1; f <= tabla_.filas(); ++f)
+        for (std::int16_t c = 1; c <= ancho; ++c)
+            if (const std::int16_t valor = tabla_.en(f, c); valor != 0) lista.push_back({f, c, valor});
+    return lista;
+}
+
+void gramatica::escribeSimbolos(std::u16string& texto) const {
+    escribeLinea(texto);
+    for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
+        escribeLinea(texto, llamada, u"InsertarSimboloGramatica ", entreComillas(encabezadoColumna(c)));
+}
+
+void gramatica::escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const {
+    abreProcedimiento(texto, u"CargaGramaticaLenguaje");
+    escribeLinea(texto);
+    escribeLinea(texto, u"'Función para cargar las reglas del lenguaje ", nombre);
+    escribeLinea(texto);
+    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
+        escribeLinea(texto, llamada, u"SetRegla \"", GetLeftRegla(r), u" -> ", GetRightRegla(r), u"\"");
+    cierraProcedimiento(texto);
+    escribeLinea(texto);
+    escribeLinea(texto);
+}
+
+std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
+    std::u16string texto;
+    escribeCabecera(texto, nombre);
+    escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", tabla_.filas(), u", ", simbolos_.totalElementos());
+    escribeLinea(texto);
+    escribeEntradasFijas(texto);
+    escribeEntradas(texto, nombre);
+    escribeSimbolos(texto);
+    cierraProcedimiento(texto);
+    escribeLinea(texto);
+    escribeTokens(texto, lexico);
+    escribeCargaReglas(texto, nombre);
+    return texto;
+}
+
+void gramatica::GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
+                                      const std::filesystem::path& carpeta) const {
+    const std::filesystem::path fichero = carpeta / (aUtf8(nombre) + ".bas");
+    escribeTexto(fichero, textoModulo(nombre, lexico), Durabilidad::Normal);
+}
+
+} // namespace norvik

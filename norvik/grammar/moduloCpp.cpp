@@ -1,0 +1,126 @@
+#include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/lineas.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+
+// The loading module as a C++ header: the calls of the Visual Basic module in the same order, those of one
+// kind as a table and a loop. The source is plain ASCII, whatever the language's texts are.
+namespace norvik {
+
+namespace {
+
+std::u16string enBase(unsigned valor, unsigned base, std::size_t cifras) {
+    std::u16string texto(cifras, u'0');
+    for (auto cifra = texto.rbegin(); cifra != texto.rend(); ++cifra, valor /= base)
+        *cifra = u"0123456789ABCDEF"[valor % base];
+    return texto;
+}
+
+constexpr bool esSustituto(char16_t c) {
+    return c >= 0xD800 && c <= 0xDFFF;
+}
+
+/// One character of a literal. Octal escapes end by themselves; a hexadecimal one (a half of a surrogate
+/// pair, which has no other) needs the literal to be closed behind it. "?" could begin a trigraph.
+std::u16string escapa(char16_t c) {
+    if (c == u'"' || c == u'\\' || c == u'?') return {u'\\', c};
+    if (esSustituto(c)) return u"\\x" + enBase(c, 16, 4) + u"\" u\"";
+    if (c >= 0xA0) return u"\\u" + enBase(c, 16, 4);
+    if (c < 0x20 || c >= 0x7F) return u'\\' + enBase(c, 8, 3);
+    return {c};
+}
+
+std::u16string literal(std::u16string_view texto) {
+    std::u16string resultado = u"u\"";
+    for (const char16_t c : texto) resultado += escapa(c);
+    return resultado + u"\"sv";
+}
+
+std::u16string identificador(std::u16string_view nombre) {
+    std::u16string resultado;
+    for (const char16_t c : nombre) resultado += c < 0x80 ? std::u16string(1, c) : escapa(c);
+    return resultado;
+}
+
+/// A table of texts and the loop that passes them on. An array has at least one element: none, no loop.
+void escribeTextos(std::u16string& texto, std::u16string_view tabla, std::u16string_view operacion,
+                   const std::vector<std::u16string>& textos) {
+    if (textos.empty()) return;
+    escribeLinea(texto);
+    escribeLinea(texto, u"    static constexpr std::u16string_view ", tabla, u"[] = {");
+    for (const std::u16string& elemento : textos) escribeLinea(texto, u"        ", literal(elemento), u",");
+    escribeLinea(texto, u"    };");
+    escribeLinea(texto, u"    for (const auto elemento : ", tabla, u") control.", operacion, u"(elemento);");
+}
+
+void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
+    for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
+        const expresionRegular& token = lexico.getTokenLenguaje(i);
+        escribeLinea(texto, u"    control.SetER(", literal(token.getExpReg()), u", ",
+                     literal(token.GetToken()), u", true, norvik::TipoExpReg{", token.GetTipo(), u"}, ",
+                     literal(token.GetPseudoToken()), u", norvik::baseNumerica{", token.base, u"}, ",
+                     token.GetColor(), u");");
+    }
+}
+
+} // namespace
+
+void gramatica::escribeTablaCpp(std::u16string& texto) const {
+    std::vector<Celda> entradas;
+    const Columnas& fijas = columnas();
+    for (std::int16_t k = 0; k < simbolos_.totalElementos(); ++k) {
+        const auto columna = static_cast<std::int16_t>(k + 1);
+        if (k == fijas.inicial)
+            entradas.push_back({1, columna, 1});
+        else if (k == fijas.fin)
+            entradas.push_back({2, columna, aceptar});
+    }
+    for (const Celda& celda : celdas()) entradas.push_back(celda);
+    escribeLinea(texto);
+    escribeLinea(texto, u"    control.SetDimensionTablaSLR(", tabla_.filas(), u", ",
+                 simbolos_.totalElementos(), u");");
+    if (entradas.empty()) return;
+    escribeLinea(texto, u"    static constexpr short entradas[][3] = {");
+    for (const auto& [fila, columna, valor] : entradas)
+        escribeLinea(texto, u"        {", fila, u", ", columna, u", ", valor, u"},");
+    escribeLinea(texto, u"    };");
+    escribeLinea(texto, u"    for (const auto& [fila, columna, valor] : entradas)");
+    escribeLinea(texto, u"        control.SetElementoTablaSLR(fila, columna, valor);");
+}
+
+std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
+    std::vector<std::u16string> reglas;
+    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
+        reglas.push_back(std::u16string(GetLeftRegla(r)).append(u" -> ").append(GetRightRegla(r)));
+    std::vector<std::u16string> simbolos;
+    for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
+        simbolos.emplace_back(encabezadoColumna(c));
+
+    std::u16string texto;
+    escribeLinea(texto, u"// Carga del lenguaje ", identificador(nombre), u": llame a ",
+                 identificador(nombre), u"::CargaLenguaje(control).");
+    escribeLinea(texto, u"#pragma once");
+    escribeLinea(texto);
+    escribeLinea(texto, u"#include \"norvik/control/norvik.hpp\"");
+    escribeLinea(texto);
+    escribeLinea(texto, u"namespace ", identificador(nombre), u" {");
+    escribeLinea(texto);
+    escribeLinea(texto, u"inline void CargaLenguaje(norvik::Norvik& control) {");
+    escribeLinea(texto, u"    using namespace std::string_view_literals;");
+    escribeTokens(texto, lexico);
+    escribeTextos(texto, u"reglas", u"SetRegla", reglas);
+    escribeTablaCpp(texto);
+    escribeTextos(texto, u"simbolos", u"InsertarSimboloGramatica", simbolos);
+    escribeLinea(texto, u"}");
+    escribeLinea(texto);
+    escribeLinea(texto, u"} // namespace ", identificador(nombre));
+    return texto;
+}
+
+void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
+                                const std::filesystem::path& carpeta) const {
+    const std::filesystem::path fichero = carpeta / (aUtf8(nombre) + ".hpp");
+    escribeTexto(fichero, textoModuloCpp(nombre, lexico), Durabilidad::Normal);
+}
+
+} // namespace norvik

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "norvik/grammar/conjuntosNumerados.hpp"
+
+#include <vector>
+
+namespace norvik {
+
+/// FIRST sets: of every head (`calcula`), and of a string of symbols (`recorre`).
+class CalculoPrimeros {
+public:
+    CalculoPrimeros(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos);
+
+    /// Computes the FIRST set of every head.
+    void calcula();
+
+    /// Empties the set that `recorre` fills.
+    void abre();
+    /// Adds FIRST of a string on behalf of a rule (0: of none); false when the recursion never ends.
+    /// Raises `SubindiceFueraDeIntervalo` when a string of no rule ends on a symbol that heads no rule.
+    bool recorre(Cuerpo cuerpo, bool recursivo, int indice);
+    ConjuntoDeTrabajo& trabajo() { return trabajo_; }
+    /// True when FIRST of a string that begins with this symbol contains Ø. All sets must be finished.
+    bool empiezaVacia(Simbolo simbolo) const;
+
+private:
+    /// One call of the recursion: the scan of a string.
+    struct Marco {
+        Cuerpo cuerpo;
+        int indice = 0;
+        bool recursivo = false;
+        std::size_t situacion = 0; ///< slot in `situaciones_`, 0 for the outermost call
+        std::size_t posicion = 0;
+        int hijo = 0; ///< rules `hijo` … `finHijos` − 1 of a pending symbol are still to be entered
+        int finHijos = 0;
+        bool enPendiente = false; ///< the symbol at `posicion` is pending and its rules have been taken up
+        bool limpio = true;
+        bool marca = false; ///< this call, or one below, has set the flag of the current index
+
+        bool esUltimo() const { return posicion + 1 == cuerpo.size(); }
+    };
+    enum class Progreso : std::uint8_t { Nueva, EnCurso, Hecha, HechaConMarca };
+    struct Situacion {
+        std::uint32_t turno = 0;
+        Progreso progreso = Progreso::Nueva;
+    };
+
+    bool pasada();
+    bool noPuedeAcabar(int indice) const;
+    bool procesa(int indice);
+    void termina(Simbolo cabeza);
+    void indexa();
+    void anotaVacia(Simbolo nombre);
+    bool entra(Marco& padre);
+    bool avanza(Marco& marco);
+    bool dejaPendiente(Marco& marco);
+    void acaba(const Marco& marco);
+    void cierra();
+    void marca(Marco& marco, int indice);
+    void sumaPrimeros(Simbolo simbolo);
+
+    const ReglasPartidas& reglas_;
+    ConjuntosGramatica& conjuntos_;
+    IndiceDeConjuntos terminados_;
+    std::vector<bool> conVacia_; // FIRST is finished and contains Ø
+    bool enteras_ = true;        // no index may be passed over
+    ConjuntoDeTrabajo trabajo_;
+    ConjuntoDeTrabajo sumados_; // symbols whose FIRST has been added to `trabajo_`
+    std::vector<Situacion> situaciones_;
+    std::uint32_t turno_ = 0;
+    std::vector<Marco> pila_;
+};
+
+/// The textbook FIRST sets (least fixpoint), one for every run of rules, in order of first rule.
+void creaPrimerosDeLibro(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos);
+
+/// True when entering the rules of the symbols that a string may begin with can come back to a head through
+/// others. It errs on the side of true.
+bool hayRecursionIndirectaAlPrincipio(const ReglasPartidas& reglas);
+
+} // namespace norvik

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "norvik/grammar/primeros.hpp"
+
+#include <vector>
+
+namespace norvik {
+
+/// FOLLOW sets: of every head (`calcula`), and of one (`recorre`). FIRST must be finished.
+class CalculoSiguientes {
+public:
+    CalculoSiguientes(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos, CalculoPrimeros& primeros);
+
+    /// Computes the FOLLOW set of every head; `fin` is the symbol "$".
+    /// Raises `SubindiceFueraDeIntervalo` when a symbol that heads no rule has to be looked into.
+    void calcula(Simbolo fin);
+
+    /// Adds FOLLOW of a head, without Ø, to the set under construction.
+    void recorre(Simbolo variable);
+    ConjuntoDeTrabajo& trabajo() { return trabajo_; }
+    const IndiceDeConjuntos& terminados() const { return terminados_; }
+
+private:
+    /// An occurrence of a symbol in a body.
+    struct Aparicion {
+        int regla = 0;
+        std::size_t posicion = 0;
+    };
+    /// What a head takes from the bodies in which it stands: symbols that follow it, and heads whose FOLLOW
+    /// is its own too.
+    struct Aportacion {
+        bool hecha = false;
+        std::vector<Simbolo> elementos;
+        std::vector<Simbolo> cabezas;
+    };
+    struct Marco {
+        const Aportacion* aportacion = nullptr;
+        std::size_t siguiente = 0;
+    };
+
+    void buscaApariciones(int regla);
+    bool tapada(Cuerpo cuerpo, std::size_t desde, Simbolo simbolo) const;
+    const Aportacion& aportacion(Simbolo variable);
+    void aporta(Simbolo variable, Aportacion& aportacion);
+    void entra(Simbolo variable);
+
+    const ReglasPartidas& reglas_;
+    ConjuntosGramatica& conjuntos_;
+    CalculoPrimeros& primeros_;
+    IndiceDeConjuntos terminados_;
+    std::vector<std::vector<Aparicion>> apariciones_; // by symbol, in rule order
+    std::vector<Aportacion> aportaciones_;            // by symbol
+    ConjuntoDeTrabajo trabajo_;
+    ConjuntoDeTrabajo visitados_;
+    std::vector<Marco> pila_;
+};
+
+/// PREDICT of every rule with a head.
+void calculaPredict(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos, CalculoPrimeros& primeros,
+                    const IndiceDeConjuntos& siguientes);
+
+} // namespace norvik
