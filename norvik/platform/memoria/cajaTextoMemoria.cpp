@@ -1,6 +1,7 @@
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
 
 #include <algorithm>
 
@@ -24,15 +25,37 @@ std::int32_t CajaTextoMemoria::numeroDeLineas() const {
     return lineas().numLineas();
 }
 
+/// The text as it enters between two positions: a break of one character is doubled, unless its other half
+/// stands there.
+std::u16string CajaTextoMemoria::conSaltosDobles(std::u16string_view texto, std::int32_t inicio,
+                                                 std::int32_t fin) const {
+    const bool trasCR = inicio > 0 && texto_[static_cast<std::size_t>(inicio - 1)] == u'\r';
+    const bool anteLF =
+        static_cast<std::size_t>(fin) < texto_.size() && texto_[static_cast<std::size_t>(fin)] == u'\n';
+    std::u16string doble;
+    doble.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const char16_t c = texto[i];
+        const bool acaba = i + 1 == texto.size();
+        const bool sigueLF = acaba ? anteLF : texto[i + 1] == u'\n';
+        const bool precedeCR = i == 0 ? trasCR : texto[i - 1] == u'\r';
+        if (c == u'\n' && !precedeCR) doble += u'\r';
+        doble += c;
+        if (c == u'\r' && !sigueLF) doble += u'\n';
+    }
+    return doble;
+}
+
 void CajaTextoMemoria::ponTexto(std::u16string_view texto) {
-    a32(texto.size());
-    std::vector<std::int32_t> colores(texto.size(), 0);
-    texto_ = texto;
-    colores_ = std::move(colores);
-    const bool otraSeleccion = inicio_ != 0 || longitud_ != 0;
+    std::u16string nuevo = conSaltosDobles(texto, 0, static_cast<std::int32_t>(texto_.size()));
+    const Sustitucion sustitucion{0, static_cast<std::int32_t>(texto_.size()), a32(nuevo.size())};
+    std::vector<Estilo> estilos(nuevo.size());
+    texto_ = std::move(nuevo);
+    estilos_ = std::move(estilos);
+    const Seleccion antes{inicio_, longitud_};
     inicio_ = longitud_ = 0;
     modificado_ = false;
-    avisaDelCambio(otraSeleccion);
+    avisaDelCambio(sustitucion, antes);
 }
 
 void CajaTextoMemoria::selecciona(std::int32_t inicio, std::int32_t longitud) {
@@ -42,7 +65,8 @@ void CajaTextoMemoria::selecciona(std::int32_t inicio, std::int32_t longitud) {
     if (desde == inicio_ && cuantos == longitud_) return;
     inicio_ = desde;
     longitud_ = cuantos;
-    colorDeEscritura_.reset();
+    estiloDeEscritura_.reset();
+    alSeleccionar();
     if (eventos.cambioDeSeleccion) eventos.cambioDeSeleccion();
 }
 
@@ -52,55 +76,119 @@ std::u16string CajaTextoMemoria::textoSeleccionado() const {
 
 void CajaTextoMemoria::reemplazaSeleccion(std::u16string_view texto) {
     if (texto.empty() && longitud_ == 0) return;
-    const std::u16string nuevo(texto); // the view may be of this very text
-    const std::int32_t color = colorSeleccion();
-    const auto cuantos = a32(nuevo.size());
-    texto_.reserve(static_cast<std::size_t>(a32(texto_.size() + nuevo.size()))); // below, nothing fails
-
-    const auto comunes = std::min(cuantos, longitud_);
-    const auto desde = colores_.begin() + inicio_;
-    std::fill(desde, desde + comunes, color);
-    if (cuantos > comunes)
-        colores_.insert(desde + comunes, static_cast<std::size_t>(cuantos - comunes), color);
-    if (longitud_ > comunes) colores_.erase(desde + comunes, desde + longitud_);
-    texto_.replace(static_cast<std::size_t>(inicio_), static_cast<std::size_t>(longitud_), nuevo);
-
-    const bool otraSeleccion = cuantos != 0 || longitud_ != 0;
-    inicio_ += cuantos;
+    const std::u16string nuevo = conSaltosDobles(texto, inicio_, inicio_ + longitud_);
+    const Seleccion antes{inicio_, longitud_};
+    const Sustitucion sustitucion{inicio_, longitud_, a32(nuevo.size())};
+    sustituye(sustitucion, nuevo);
+    inicio_ += sustitucion.puestos;
     longitud_ = 0;
-    modificado_ = true;
-    avisaDelCambio(otraSeleccion);
+    avisaDelCambio(sustitucion, antes);
 }
 
-void CajaTextoMemoria::avisaDelCambio(bool otraSeleccion) {
+void CajaTextoMemoria::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
+                             std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
+    const Seleccion antes{inicio_, longitud_};
+    const Sustitucion sustitucion{inicio, quitados, a32(texto.size())};
+    sustituye(sustitucion, texto);
+    inicio_ = inicioSeleccion;
+    longitud_ = longitudSeleccion;
+    avisaDelCambio(sustitucion, antes);
+}
+
+void CajaTextoMemoria::sustituye(const Sustitucion& s, std::u16string_view nuevo) {
+    const Estilo estilo = estiloEn(s.inicio, s.quitados);
+    texto_.reserve(static_cast<std::size_t>(a32(texto_.size() + nuevo.size()))); // below, nothing fails
+    const auto comunes = std::min(s.puestos, s.quitados);
+    const auto desde = estilos_.begin() + s.inicio;
+    std::fill(desde, desde + comunes, estilo);
+    if (s.puestos > comunes) {
+        estilos_.insert(desde + comunes, static_cast<std::size_t>(s.puestos - comunes), estilo);
+    } else {
+        estilos_.erase(desde + comunes, desde + s.quitados);
+    }
+    texto_.replace(static_cast<std::size_t>(s.inicio), static_cast<std::size_t>(s.quitados), nuevo);
+    modificado_ = true;
+}
+
+void CajaTextoMemoria::avisaDelCambio(const Sustitucion& sustitucion, const Seleccion& antes) {
     lineasAlDia_ = false;
-    colorDeEscritura_.reset();
+    estiloDeEscritura_.reset();
+    const bool otraSeleccion = antes != Seleccion{inicio_, longitud_};
+    alSustituir(sustitucion);
     if (eventos.cambio) eventos.cambio();
     if (otraSeleccion && eventos.cambioDeSeleccion) eventos.cambioDeSeleccion();
 }
 
-void CajaTextoMemoria::ponColorSeleccion(std::int32_t color) {
-    if (longitud_ == 0) {
-        colorDeEscritura_ = color;
-        return;
-    }
-    const auto desde = colores_.begin() + inicio_;
-    std::fill(desde, desde + longitud_, color);
+/// Of a range its first character's; of none, that of what is written there.
+CajaTextoMemoria::Estilo CajaTextoMemoria::estiloEn(std::int32_t inicio, std::int32_t longitud) const {
+    if (longitud > 0) return estilos_[static_cast<std::size_t>(inicio)];
+    if (estiloDeEscritura_ && longitud_ == 0 && inicio == inicio_) return *estiloDeEscritura_;
+    if (estilos_.empty()) return {};
+    return estilos_[static_cast<std::size_t>(std::max(inicio - 1, 0))];
 }
 
-std::int32_t CajaTextoMemoria::colorSeleccion() const {
-    if (longitud_ > 0) return colores_[static_cast<std::size_t>(inicio_)];
-    if (colorDeEscritura_) return *colorDeEscritura_;
-    if (colores_.empty()) return 0;
-    return colores_[static_cast<std::size_t>(std::max(inicio_ - 1, 0))];
+template <typename Cambio>
+void CajaTextoMemoria::cambiaEstilo(Cambio cambio) {
+    if (longitud_ == 0) {
+        Estilo estilo = estiloSeleccion();
+        cambio(estilo);
+        estiloDeEscritura_ = estilo;
+        return;
+    }
+    std::for_each(estilos_.begin() + inicio_, estilos_.begin() + inicio_ + longitud_, cambio);
+    alPintar(inicio_, longitud_);
+}
+
+void CajaTextoMemoria::ponColorSeleccion(std::int32_t color) {
+    cambiaEstilo([color](Estilo& e) { e.color = color; });
+}
+
+const std::u16string& CajaTextoMemoria::nombreFuenteSeleccion() const {
+    const std::int32_t numero = estiloSeleccion().letra;
+    return numero == 0 ? fuente_.nombre : letra(numero).nombre;
+}
+
+std::int32_t CajaTextoMemoria::tamanoFuenteSeleccion() const {
+    const std::int32_t numero = estiloSeleccion().letra;
+    return numero == 0 ? fuente_.tamano : letra(numero).tamano;
+}
+
+std::int32_t CajaTextoMemoria::numeroDeLetra(const Letra& letra) {
+    const auto igual = std::find(letras_.begin(), letras_.end(), letra);
+    const auto numero = static_cast<std::int32_t>(igual - letras_.begin()) + 1;
+    if (igual == letras_.end()) letras_.push_back(letra);
+    return numero;
+}
+
+std::int32_t CajaTextoMemoria::conNombre(std::int32_t numero, std::u16string_view nombre) {
+    return numeroDeLetra({std::u16string(nombre), numero == 0 ? fuente_.tamano : letra(numero).tamano});
+}
+
+std::int32_t CajaTextoMemoria::conTamano(std::int32_t numero, std::int32_t tamano) {
+    return numeroDeLetra({numero == 0 ? fuente_.nombre : letra(numero).nombre, tamano});
+}
+
+void CajaTextoMemoria::ponNombreFuenteSeleccion(std::u16string_view nombre) {
+    cambiaEstilo([&](Estilo& e) { e.letra = conNombre(e.letra, nombre); });
+}
+
+void CajaTextoMemoria::ponTamanoFuenteSeleccion(std::int32_t tamano) {
+    cambiaEstilo([&](Estilo& e) { e.letra = conTamano(e.letra, tamano); });
+}
+
+/// A font of s points is about 1.2 s points high.
+std::int32_t CajaTextoMemoria::altoDeLinea() const {
+    constexpr std::int64_t twipsPorPunto = 20;
+    return a32(std::int64_t{fuente_.tamano} * twipsPorPunto * 12 / 10 / 10000);
 }
 
 std::vector<TramoDeColor> CajaTextoMemoria::colores() const {
     std::vector<TramoDeColor> tramos;
-    for (auto desde = colores_.begin(); desde != colores_.end();) {
-        const auto hasta = std::find_if(desde, colores_.end(), [&](std::int32_t c) { return c != *desde; });
-        tramos.push_back({static_cast<std::int32_t>(desde - colores_.begin()),
-                          static_cast<std::int32_t>(hasta - desde), *desde});
+    for (auto desde = estilos_.begin(); desde != estilos_.end();) {
+        const auto hasta =
+            std::find_if(desde, estilos_.end(), [&](const Estilo& e) { return e.color != desde->color; });
+        tramos.push_back({static_cast<std::int32_t>(desde - estilos_.begin()),
+                          static_cast<std::int32_t>(hasta - desde), desde->color});
         desde = hasta;
     }
     return tramos;

@@ -17,8 +17,8 @@ struct TramoDeColor {
     bool operator==(const TramoDeColor&) const = default;
 };
 
-/// The text box kept in memory, for hosts without windows. Each character has its colour beside it, so that
-/// painting a range costs the range.
+/// The text box kept in memory, for hosts without windows, and the model of those that show it in a window.
+/// Each character has its colour and font beside it, so that painting a range costs the range.
 class CajaTextoMemoria : public CajaTexto {
 public:
     std::u16string_view texto() const override { return texto_; }
@@ -33,28 +33,96 @@ public:
     std::u16string textoSeleccionado() const override;
     void reemplazaSeleccion(std::u16string_view texto) override;
     void ponColorSeleccion(std::int32_t color) override;
-    std::int32_t colorSeleccion() const override;
+    std::int32_t colorSeleccion() const override { return estiloSeleccion().color; }
+    const Fuente& fuente() const override { return fuente_; }
+    void ponFuente(const Fuente& fuente) override { fuente_ = fuente; }
+    const std::u16string& nombreFuenteSeleccion() const override;
+    void ponNombreFuenteSeleccion(std::u16string_view nombre) override;
+    std::int32_t tamanoFuenteSeleccion() const override;
+    void ponTamanoFuenteSeleccion(std::int32_t tamano) override;
     bool modificado() const override { return modificado_; }
     void ponModificado(bool modificado) override { modificado_ = modificado; }
     bool ocultaSeleccion() const override { return ocultaSeleccion_; }
     void ponOcultaSeleccion(bool oculta) override { ocultaSeleccion_ = oculta; }
+    std::int32_t margenDerecho() const override { return margenDerecho_; }
+    void ponMargenDerecho(std::int32_t twips) override { margenDerecho_ = twips; }
+    std::int32_t primeraLineaVisible() const override { return primeraLineaVisible_; }
+    std::int32_t altoDeLinea() const override;
+    std::int32_t izquierda() const override { return izquierda_; }
+    void ponIzquierda(std::int32_t twips) override { izquierda_ = twips; }
+    void enfoca() override {}
     void bloqueaDibujo() override {}
     void desbloqueaDibujo() override {}
 
+    /// Where the box is scrolled to.
+    void ponPrimeraLineaVisible(std::int32_t linea) { primeraLineaVisible_ = linea; }
     /// The colours of the whole text: runs of one colour, in order, without gaps.
     std::vector<TramoDeColor> colores() const;
 
+protected:
+    /// A font name and size given to characters; number 0 stands for those of the box's font.
+    struct Letra {
+        std::u16string nombre;
+        std::int32_t tamano = 0;
+
+        bool operator==(const Letra&) const = default;
+    };
+    struct Estilo {
+        std::int32_t color = 0;
+        std::int32_t letra = 0;
+
+        bool operator==(const Estilo&) const = default;
+    };
+    /// Characters [inicio, inicio + quitados) of the old text became [inicio, inicio + puestos) of the new
+    /// one.
+    struct Sustitucion {
+        std::int32_t inicio = 0;
+        std::int32_t quitados = 0;
+        std::int32_t puestos = 0;
+    };
+
+    // What a box that shows this one must know, told before the events.
+    virtual void alSustituir(const Sustitucion& /*sustitucion*/) {}
+    virtual void alSeleccionar() {}
+    virtual void alPintar(std::int32_t /*inicio*/, std::int32_t /*longitud*/) {}
+
+    /// A user's edit, after which the selection is the one given.
+    void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
+               std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
+    const std::vector<Estilo>& estilos() const { return estilos_; }
+    const Letra& letra(std::int32_t numero) const { return letras_[static_cast<std::size_t>(numero - 1)]; }
+
 private:
+    struct Seleccion {
+        std::int32_t inicio = 0;
+        std::int32_t longitud = 0;
+        bool operator==(const Seleccion&) const = default;
+    };
+
     const IndiceLineas& lineas() const;
-    void avisaDelCambio(bool otraSeleccion);
+    std::u16string conSaltosDobles(std::u16string_view texto, std::int32_t inicio, std::int32_t fin) const;
+    void sustituye(const Sustitucion& sustitucion, std::u16string_view nuevo);
+    void avisaDelCambio(const Sustitucion& sustitucion, const Seleccion& antes);
+    Estilo estiloEn(std::int32_t inicio, std::int32_t longitud) const;
+    Estilo estiloSeleccion() const { return estiloEn(inicio_, longitud_); }
+    template <typename Cambio>
+    void cambiaEstilo(Cambio cambio);
+    std::int32_t numeroDeLetra(const Letra& letra);
+    std::int32_t conNombre(std::int32_t numero, std::u16string_view nombre);
+    std::int32_t conTamano(std::int32_t numero, std::int32_t tamano);
 
     std::u16string texto_;
-    std::vector<std::int32_t> colores_; ///< one a character
+    std::vector<Estilo> estilos_; ///< one a character
+    std::vector<Letra> letras_;   ///< number 1 and up
+    Fuente fuente_;
     std::int32_t inicio_ = 0;
     std::int32_t longitud_ = 0;
-    std::optional<std::int32_t> colorDeEscritura_; ///< set for an empty selection
+    std::optional<Estilo> estiloDeEscritura_; ///< set for an empty selection
     bool modificado_ = false;
     bool ocultaSeleccion_ = true;
+    std::int32_t margenDerecho_ = 0;
+    std::int32_t primeraLineaVisible_ = 0;
+    std::int32_t izquierda_ = 0;
     mutable IndiceLineas lineas_;
     mutable bool lineasAlDia_ = true; ///< the index is made when first asked after a change
 };
