@@ -1,0 +1,143 @@
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+
+namespace norvik {
+namespace {
+
+struct Patron {
+    std::u16string nombre, texto;
+    bool sensible = true;
+};
+
+void registra(pilaTokens& lexico, const std::vector<Patron>& patrones) {
+    for (const Patron& patron : patrones)
+        ASSERT_EQ(
+            lexico.SetER(patron.texto, patron.nombre, true, patron.sensible, u"", Norvik_ExpReg, 0, sinColor),
+            u"");
+}
+
+TEST(Reconocimiento, GanaElMasLargoYLuegoElPrimero) {
+    struct Caso {
+        std::vector<Patron> patrones;
+        std::u16string texto, mapa;
+    };
+    const std::vector<Patron> palabras = {{u"if", u"if"}, {u"in", u"in"}, {u"id", u"[a-z]+"}};
+    const Caso casos[] = {
+        {palabras, u"if ifx print", u"1 2 if\n4 3 id\n8 5 id\n10 2 in\n"},
+        {{{u"id", u"[a-z]+"}, {u"if", u"if"}}, u"if", u"1 2 id\n"},
+        {{{u"menos", u"\\-"}, {u"flecha", u"\\-\\>"}}, u"->-", u"1 2 flecha\n3 1 menos\n"},
+        {{{u"flecha", u"\\-\\>"}, {u"menos", u"\\-"}}, u"->-", u"1 2 flecha\n3 1 menos\n"},
+        {{{u"a", u"x"}, {u"b", u"x"}}, u"x", u"1 1 a\n"},
+        {{{u"b", u"[x]"}, {u"a", u"x"}}, u"x", u"1 1 b\n"},
+        {{{u"doble", u"=="}}, u"===== =", u"1 2 doble\n3 2 doble\n"},
+        {{{u"doble", u"aba", false}, {u"una", u"b"}},
+         u"aBAbAba",
+         u"1 3 doble\n4 1 una\n5 3 doble\n6 1 una\n"},
+        {{{u"enie", u"año", false}}, u"AÑO AñO aÑ", u"1 3 enie\n5 3 enie\n"},
+        {{{u"vacio", u"a*"}}, u"baa", u"1 0 vacio\n2 2 vacio\n4 0 vacio\n"},
+        {{{u"vacio", u""}, {u"b", u"b"}}, u"ab", u"1 0 vacio\n2 1 b\n3 0 vacio\n"},
+        {{{u"largo", u"ab"}, {u"otro", u"bc"}}, u"abc", u"1 2 largo\n2 2 otro\n"},
+        {palabras, u"", u""},
+        {palabras, u"123 \r\n", u""},
+        {{}, u"abc", u""},
+    };
+    for (const Caso& caso : casos) {
+        pilaTokens lexico;
+        registra(lexico, caso.patrones);
+        EXPECT_EQ(lexico.ReconoceTokens(caso.texto).toString(), caso.mapa) << aUtf8(caso.texto);
+    }
+}
+
+TEST(Reconocimiento, SoloVeElTramoPedido) {
+    pilaTokens lexico;
+    registra(lexico, {{u"id", u"[a-z]+"}, {u"fin", u"[0-9]$"}});
+    struct Caso {
+        std::int16_t inicio, fin;
+        std::u16string mapa;
+    };
+    const Caso casos[] = {
+        {5, 9, u"5 3 id\n8 1 fin\n"}, {2, 4, u"2 2 id\n"}, {4, 4, u""},
+        {8, 100, u"10 1 fin\n"},      {50, 60, u""},       {-1, 3, u"1 2 id\n"},
+        {9, -1, u"10 1 fin\n"},
+    };
+    for (const Caso& caso : casos)
+        EXPECT_EQ(lexico.ReconoceTokens(u"abc efg1 2", caso.inicio, caso.fin).toString(), caso.mapa)
+            << caso.inicio << " " << caso.fin;
+    EXPECT_FALSE(lexico.mapaTokens().en(-5) || lexico.mapaTokens().en(1) || lexico.mapaTokens().en(1000));
+    EXPECT_THROW(lexico.ReconoceTokens(u"abc", 0, 2), ArgumentoNoValido);
+    EXPECT_THROW(lexico.ReconoceTokens(u"abc", 3, 2), ArgumentoNoValido);
+    EXPECT_THROW(lexico.ReconoceTokens(u"abc", -32768, 32767), Desbordamiento);
+    EXPECT_THROW(lexico.ReconoceTokens(std::u16string(32767, u'a')), Desbordamiento);
+    EXPECT_TRUE(lexico.mapaTokens().esVacio());
+    EXPECT_EQ(lexico.ReconoceTokens(std::u16string(32766, u'a')).toString(), u"1 32766 id\n");
+}
+
+TEST(Reconocimiento, ElMapaGuardaElTextoYSusDefiniciones) {
+    pilaTokens lexico;
+    registra(lexico, {{u"id", u"[a-z]+"}});
+    std::u16string texto = u" abc";
+    MapaTokens& mapa = lexico.ReconoceTokens(texto);
+    texto = u"xxxxxxx";
+    registra(lexico, {{u"otro", u"b"}});
+    const auto entrada = mapa.en(2);
+    ASSERT_TRUE(entrada);
+    EXPECT_EQ(entrada->texto, u"abc");
+    EXPECT_EQ(entrada->definicion, &lexico.getTokenLenguaje(1));
+    mapa.borra(2);
+    EXPECT_FALSE(mapa.en(2));
+    EXPECT_EQ(lexico.ReconoceTokens(u"b").toString(), u"1 1 id\n");
+}
+
+TEST(Reconocimiento, UnaBusquedaDesbocadaNombraSuDefinicion) {
+    pilaTokens lexico;
+    registra(lexico, {{u"buena", u"x"}, {u"mala", u"(x+x+)+y"}});
+    try {
+        lexico.ReconoceTokens(std::u16string(30000, u'x'));
+        FAIL();
+    } catch (const Desbordamiento& error) {
+        EXPECT_NE(error.texto().find(u"'mala'"), std::u16string::npos);
+    }
+    EXPECT_TRUE(lexico.mapaTokens().esVacio());
+    EXPECT_EQ(lexico.ReconoceTokens(u"xxy").toString(), u"1 3 mala\n2 1 buena\n");
+}
+
+// The rule of recognition, written down plainly: each definition alone, in order.
+std::u16string mapaIngenuo(const pilaTokens& lexico, std::u16string_view texto) {
+    std::map<std::int32_t, std::pair<std::int32_t, std::u16string>> mapa;
+    for (const auto* const definicion : lexico.tokensLenguaje()) {
+        for (const auto [inicio, longitud] : definicion->expReg->ejecuta(texto, Presupuesto())) {
+            const auto [sitio, nuevo] = mapa.try_emplace(inicio + 1, longitud, definicion->nomToken);
+            if (!nuevo && longitud > sitio->second.first) sitio->second = {longitud, definicion->nomToken};
+        }
+    }
+    std::u16string resultado;
+    for (const auto& [posicion, token] : mapa)
+        resultado += aTexto(posicion) + u" " + aTexto(token.first) + u" " + token.second + u"\n";
+    return resultado;
+}
+
+TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
+    std::mt19937 azar(7);
+    const auto cadena = [&](std::size_t maximo, std::u16string_view letras) {
+        std::u16string texto;
+        for (std::size_t n = azar() % (maximo + 1); n > 0; --n) texto += letras[azar() % letras.size()];
+        return texto;
+    };
+    for (int vuelta = 0; vuelta < 300; ++vuelta) {
+        pilaTokens lexico;
+        for (int i = 0; i < 12; ++i)
+            lexico.SetER(i % 4 == 3 ? u"[" + cadena(2, u"abñ") + u"c]*" : cadena(4, u"abAñŁ"),
+                         u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
+        const std::u16string texto = cadena(40, u"aabbABñÑcŁA");
+        EXPECT_EQ(lexico.ReconoceTokens(texto).toString(), mapaIngenuo(lexico, texto)) << aUtf8(texto);
+    }
+}
+
+} // namespace
+} // namespace norvik
