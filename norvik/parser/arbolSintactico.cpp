@@ -30,7 +30,8 @@ std::u16string_view ArbolSintactico::guardaTexto(std::u16string_view texto) {
 }
 
 const TextosRegla& ArbolSintactico::guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo) {
-    return *std::construct_at(arena_.reserva<TextosRegla>(1), guardaTexto(nombre), guardaTexto(cuerpo));
+    return *std::construct_at(arena_.reserva<TextosRegla>(1),
+                              TextosRegla{guardaTexto(nombre), guardaTexto(cuerpo)});
 }
 
 void ArbolSintactico::hazHoja(Arbol& nodo, std::u16string_view lexema, std::int32_t linea,
@@ -52,8 +53,8 @@ std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, std::int16_t numR
         tabla[i] = std::construct_at(hijos + i, Arbol::Clave{}, *this);
         tabla[i]->padre_ = &nodo;
     }
-    nodo.hijos_ =
-        std::construct_at(arena_.reserva<Arbol::Hijos>(1), tabla, static_cast<std::uint32_t>(numHijos));
+    const Arbol::Hijos todos{tabla, static_cast<std::uint32_t>(numHijos)};
+    nodo.hijos_ = std::construct_at(arena_.reserva<Arbol::Hijos>(1), todos);
     return {tabla, numHijos};
 }
 
@@ -78,7 +79,8 @@ Arbol& ArbolSintactico::copia(const Arbol& original) {
 
 // Room for one child more at either end.
 Arbol::Hijos& ArbolSintactico::amplia(Arbol& nodo) {
-    if (nodo.hijos_ == nullptr) nodo.hijos_ = std::construct_at(arena_.reserva<Arbol::Hijos>(1));
+    if (nodo.hijos_ == nullptr)
+        nodo.hijos_ = std::construct_at(arena_.reserva<Arbol::Hijos>(1), Arbol::Hijos{});
     Arbol::Hijos& hijos = *nodo.hijos_;
     if (hijos.libresDelante > 0 && hijos.libresDetras > 0) return hijos;
     const std::uint32_t libres = hijos.numero + 4;

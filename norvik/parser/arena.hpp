@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <type_traits>
 #include <vector>
 
@@ -15,6 +14,7 @@ public:
     template <typename T>
     requires(std::is_trivially_destructible_v<T> &&
              alignof(T) <= alignof(std::max_align_t)) T* reserva(std::size_t n) {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
         return static_cast<T*>(hueco(n * sizeof(T), alignof(T)));
     }
 
@@ -24,27 +24,23 @@ public:
     }
 
 private:
-    struct Bloque {
-        std::unique_ptr<std::byte[]> memoria;
-        std::size_t tamanio = 0;
-    };
+    using Bloque = std::vector<std::byte>;
 
     void* hueco(std::size_t bytes, std::size_t alineacion) {
         const auto alineado = [&] { return (usado_ + alineacion - 1) / alineacion * alineacion; };
-        while (actual_ < bloques_.size() && bloques_[actual_].tamanio < alineado() + bytes) {
+        while (actual_ < bloques_.size() && bloques_[actual_].size() < alineado() + bytes) {
             ++actual_;
             usado_ = 0;
         }
         if (actual_ == bloques_.size()) aniadeBloque(bytes);
         const std::size_t inicio = alineado();
         usado_ = inicio + bytes;
-        return bloques_[actual_].memoria.get() + inicio;
+        return bloques_[actual_].data() + inicio;
     }
 
     void aniadeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;
-        const std::size_t tamanio = bytes > minimo ? bytes : minimo;
-        bloques_.push_back({std::make_unique_for_overwrite<std::byte[]>(tamanio), tamanio});
+        bloques_.emplace_back(bytes > minimo ? bytes : minimo);
         usado_ = 0;
     }
 
