@@ -1,11 +1,23 @@
-// A pattern ready to search. What it is decides how it is searched: a plain word by comparing units; all else
-// by the machine, from each position where a match can begin.
+// A pattern ready to search, in the cheapest of the ways that give its matches:
+//  - a plain word, by comparing units;
+//  - branches and loops over units, by an automaton: one look-up a character, nothing to go back to;
+//  - assertions, look-aheads and large counts, by PCRE2 compiled to machine code;
+//  - references to captures, and optional turns that take nothing, by the exact machine, which also decides
+//  where
+//    another way gives up.
+// All but reading the pattern is left to the first search, so that definitions cost little to file. A search
+// tries the positions from left to right; where the pattern cannot begin, one look-up tells.
 #include "norvik/platform/emparejador.hpp"
 
 #include "norvik/platform/mayusculas.hpp"
+#include "norvik/platform/patronAutomata.hpp"
 #include "norvik/platform/patronMaquina.hpp"
+#include "norvik/platform/patronPcre.hpp"
 
+#include <algorithm>
+#include <functional>
 #include <mutex>
+#include <utility>
 
 namespace norvik {
 
@@ -13,29 +25,84 @@ namespace {
 
 constexpr std::size_t patronMasLargo = 32767;
 
+Coincidencia coincidencia(std::size_t inicio, std::size_t fin) {
+    return {static_cast<std::int32_t>(inicio), static_cast<std::int32_t>(fin - inicio)};
+}
+
+template <typename Iguales>
+std::vector<Coincidencia> buscaPalabra(std::u16string_view palabra, std::u16string_view sujeto,
+                                       Iguales iguales) {
+    std::vector<Coincidencia> coincidencias;
+    const auto* desde = sujeto.begin();
+    for (;;) {
+        desde = std::search(desde, sujeto.end(), palabra.begin(), palabra.end(), iguales);
+        if (desde == sujeto.end()) return coincidencias;
+        const auto inicio = static_cast<std::size_t>(desde - sujeto.begin());
+        coincidencias.push_back(coincidencia(inicio, inicio + palabra.size()));
+        desde += palabra.size();
+    }
+}
+
+// A pattern with all that a search needs.
+class Buscador {
+public:
+    explicit Buscador(const PatronListo& patron)
+        : primeras_(patron.primeras()), programa_(patron), automata_(Automata::de(programa_)) {
+        if (!automata_) pcre_ = MotorPcre::de(patron);
+    }
+
+    std::vector<Coincidencia> busca(std::u16string_view sujeto, const Presupuesto& presupuesto) {
+        std::vector<Coincidencia> coincidencias;
+        recuerdo_.clear();
+        std::uint32_t intentos = 0;
+        for (std::size_t i = 0; i <= sujeto.size(); ++i) {
+            if (!puedeEmpezar(sujeto, i)) continue;
+            if (intentos++ % intentosPorConsulta() == 0 && presupuesto.agotado()) throw BusquedaDesbocada();
+            const auto fin = intenta(sujeto, i, presupuesto);
+            if (!fin) continue;
+            coincidencias.push_back(coincidencia(i, *fin));
+            if (*fin > i) i = *fin - 1;
+        }
+        return coincidencias;
+    }
+
+private:
+    // The clock costs as much as a token; only the automaton's attempts are sure to be short.
+    std::uint32_t intentosPorConsulta() const { return automata_ ? 64 : 1; }
+
+    bool puedeEmpezar(std::u16string_view sujeto, std::size_t i) const {
+        return !primeras_ || (i < sujeto.size() && primeras_->contiene(sujeto[i]));
+    }
+
+    std::optional<std::size_t> intenta(std::u16string_view sujeto, std::size_t i,
+                                       const Presupuesto& presupuesto) {
+        Intento intento{Intento::Tipo::Indeciso, 0};
+        if (automata_) {
+            intento = automata_->coincide(sujeto, i, recuerdo_);
+        } else if (pcre_) {
+            intento = pcre_->coincide(sujeto, i);
+        }
+        if (intento.tipo == Intento::Tipo::Indeciso)
+            return coincideMaquina(programa_, sujeto, i, memoria_, presupuesto);
+        if (intento.tipo == Intento::Tipo::Nada) return std::nullopt;
+        return intento.fin;
+    }
+
+    std::optional<ClaseUnidades> primeras_; // units that a match can begin with, if that is known
+    Programa programa_;
+    std::optional<Automata> automata_;
+    Automata::Recuerdo recuerdo_;
+    std::optional<MotorPcre> pcre_;
+    MemoriaMaquina memoria_;
+};
+
 } // namespace
 
 struct Emparejador::Compilado {
     Patron patron;
     std::optional<std::u16string> palabra;
-
-    // Made at the first search.
-    std::once_flag preparado;
-    std::vector<ClaseUnidades> clases;
-    std::optional<Maquina> maquina;
-
-    void prepara() {
-        for (const ClaseLeida& clase : patron.clases) clases.emplace_back(clase, patron.ignoraMayusculas);
-        if (patron.ignoraMayusculas) {
-            for (Pieza& pieza : patron.piezas) {
-                if (pieza.tipo != TipoPieza::Unidad || equivalentes(pieza.unidad).empty()) continue;
-                pieza.tipo = TipoPieza::Clase;
-                pieza.numero = static_cast<std::uint32_t>(clases.size());
-                clases.push_back(ClaseUnidades::deUnidad(pieza.unidad, true));
-            }
-        }
-        maquina.emplace(patron, clases);
-    }
+    std::mutex enUso; // searches share what they build
+    std::optional<Buscador> buscador;
 };
 
 Emparejador::Emparejador(std::unique_ptr<Compilado> compilado) : compilado_(std::move(compilado)) {}
@@ -64,34 +131,18 @@ bool Emparejador::ignoraMayusculas() const {
 
 std::vector<Coincidencia> Emparejador::ejecuta(std::u16string_view sujeto,
                                                const Presupuesto& presupuesto) const {
-    std::vector<Coincidencia> coincidencias;
     Compilado& c = *compilado_;
-    if (c.palabra) {
-        const std::u16string& palabra = *c.palabra;
-        const bool ignora = c.patron.ignoraMayusculas;
-        for (std::size_t i = 0; i + palabra.size() <= sujeto.size();) {
-            std::size_t k = 0;
-            while (k < palabra.size() &&
-                   (ignora ? pliega(sujeto[i + k]) == pliega(palabra[k]) : sujeto[i + k] == palabra[k]))
-                ++k;
-            if (k == palabra.size()) {
-                coincidencias.push_back({static_cast<std::int32_t>(i), static_cast<std::int32_t>(k)});
-                i += k;
-            } else {
-                ++i;
-            }
-        }
-        return coincidencias;
+    if (c.palabra && !ignoraMayusculas()) return buscaPalabra(*c.palabra, sujeto, std::equal_to<>());
+    if (c.palabra)
+        return buscaPalabra(*c.palabra, sujeto,
+                            [](char16_t a, char16_t b) { return pliega(a) == pliega(b); });
+    const std::lock_guard cerrojo(c.enUso);
+    if (!c.buscador) {
+        c.buscador.emplace(PatronListo(c.patron));
+        c.patron.piezas = {};
+        c.patron.clases = {};
     }
-    std::call_once(c.preparado, [&c] { c.prepara(); });
-    Maquina::Memoria memoria;
-    for (std::size_t i = 0; i <= sujeto.size();) {
-        if (i % 16 == 0 && presupuesto.agotado()) throw BusquedaDesbocada();
-        const auto fin = c.maquina->coincide(sujeto, i, memoria, presupuesto);
-        if (fin) coincidencias.push_back({static_cast<std::int32_t>(i), static_cast<std::int32_t>(*fin - i)});
-        i = fin && *fin > i ? *fin : i + 1;
-    }
-    return coincidencias;
+    return c.buscador->busca(sujeto, presupuesto);
 }
 
 } // namespace norvik

@@ -198,5 +198,58 @@ TEST(Emparejador, EntiendeElDialecto) {
         EXPECT_EQ(busca(fila.patron, fila.sujeto, fila.ignora), fila.esperado) << aUtf8(fila.patron);
 }
 
+TEST(Emparejador, SabeCuandoUnPatronEsUnaPalabra) {
+    const std::pair<std::u16string_view, std::optional<std::u16string>> filas[] = {
+        {u"while", u"while"},    {u"\\-\\>", u"->"},    {u"\\x41[+]\\n", u"A+\n"},
+        {u"a{", u"a{"},          {u"", std::nullopt},   {u"a.b", std::nullopt},
+        {u"(ab)", std::nullopt}, {u"a+", std::nullopt}, {u"a|b", std::nullopt}};
+    for (const auto& [patron, palabra] : filas)
+        EXPECT_EQ(Emparejador::compila(patron, false)->palabra(), palabra) << aUtf8(patron);
+}
+
+TEST(Emparejador, ElAnidamientoYElTamanioTienenSuMedida) {
+    const auto veces = [](std::size_t n, std::u16string_view texto) {
+        std::u16string todo;
+        while (n-- > 0) todo += texto;
+        return todo;
+    };
+    EXPECT_EQ(busca(veces(16000, u"(") + veces(16000, u")"), u"a"), "0: 1:");
+    EXPECT_EQ(busca(veces(7000, u"(?:") + u"a" + veces(500, u")*") + veces(6500, u")"), u"aab"),
+              "0:aa 2: 3:");
+    EXPECT_EQ(busca(veces(7000, u"(a|") + u"b" + veces(7000, u")"), u"b"), "0:b");
+    EXPECT_EQ(busca(veces(16000, u"("), u"a"), "mal");
+    EXPECT_EQ(busca(std::u16string(32767, u'a'), u"a"), "");
+    EXPECT_EQ(busca(std::u16string(32768, u'a'), u"a"), "mal");
+    // A string of 32,766 characters, with each way of searching.
+    const std::u16string cadena = u"\"" + veces(16382, u"\\n") + u"\"";
+    for (const std::u16string_view patron :
+         {uR"("(\\.|[^"])*")", uR"("(\\.|[^"])*"(?=$))", uR"((")(\\.|[^"]|)*\1)"})
+        EXPECT_EQ(Emparejador::compila(patron, false)->ejecuta(cadena, Presupuesto()),
+                  (std::vector<Coincidencia>{{0, 32766}}))
+            << aUtf8(patron);
+}
+
+TEST(Emparejador, UnaBusquedaDesbocadaSeDiceATiempo) {
+    const std::u16string equis(30000, u'x');
+    std::u16string aperturas;
+    while (aperturas.size() < 32000) aperturas += u"/*";
+    // The automaton finds out in no time; the others say that they cannot.
+    EXPECT_EQ(busca(u"(x+x+)+y", equis), "");
+    EXPECT_EQ(busca(u"/\\*([^*]|\\*+[^*/])*\\*+/\\.", aperturas), "");
+    EXPECT_EQ(busca(u"/\\*\\.(.|\n)*?\\*/", aperturas), "");
+    const std::pair<std::u16string_view, const std::u16string*> filas[] = {
+        {u"(x+x+)+y\\b", &equis},  {u"(x*x*)*y", &equis},       {u"(x+x+)+\\1y", &equis},
+        {u".*?.*?.*y\\b", &equis}, {u"((){999}){999}", &equis}, {u"/\\*(.|\n)*?\\*/\\.\\b", &aperturas}};
+    for (const auto& [patron, sujeto] : filas) {
+        const auto emparejador = Emparejador::compila(patron, false);
+        const auto antes = std::chrono::steady_clock::now();
+        EXPECT_THROW(emparejador->ejecuta(*sujeto, Presupuesto(std::chrono::milliseconds(100))),
+                     BusquedaDesbocada)
+            << aUtf8(patron);
+        EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(8)) << aUtf8(patron);
+        EXPECT_TRUE(emparejador->ejecuta(u"b", Presupuesto()).size() <= 2) << "usable afterwards";
+    }
+}
+
 } // namespace
 } // namespace norvik

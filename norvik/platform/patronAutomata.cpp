@@ -1,0 +1,220 @@
+// The automaton of a pattern, by subsets, with preferences.
+//
+// A state is the list of the program's threads after some characters, in the order in which backtracking
+// would try them (Thompson 1968, made deterministic lazily; the order as in Cox 2010). A thread that
+// completes the match hides the less preferred ones, so the last complete match met while walking is the one
+// backtracking finds first. That holds for programs of branches whose loops always take something: where two
+// threads meet in one instruction, the later one could only fail again. States appear as texts ask for them:
+// a pattern costs what it uses, a character one look-up, and no pattern runs away.
+// Walks that lead to nothing could still add up to the square of the text (a comment opened again and again
+// and never closed), so long ones leave their states behind: a later one that comes to the same state at the
+// same place stops. Units that no class of the pattern tells apart share a column.
+#include "norvik/platform/patronAutomata.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::size_t estadosMaximos = 1000;
+constexpr std::size_t instruccionesMaximas = 5000;
+constexpr std::size_t repartoMaximo = 1'000'000; // interval × class
+constexpr std::size_t gruposMaximos = 250;
+constexpr std::size_t caminoCorto = 256;
+
+} // namespace
+
+std::optional<Automata> Automata::de(const Programa& programa) {
+    using enum Operacion;
+    const bool sirve = programa.codigo.size() <= instruccionesMaximas &&
+                       !programa.usaAlguna({Inicio, Frontera, NoFrontera, Referencia, Guarda, PreparaBucle,
+                                            AbreDelante, AbreDelanteNo});
+    if (!sirve) return std::nullopt;
+    Automata automata(programa);
+    if (!automata.reparteUnidades()) return std::nullopt;
+    automata.visitadas_.resize(programa.codigo.size());
+    automata.numeroDe({}, false);
+    Hilos hilos;
+    ++automata.visita_;
+    const bool acepta = automata.sigue(0, hilos, false);
+    automata.inicial_ = automata.numeroDe(std::move(hilos), acepta);
+    return automata;
+}
+
+Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo) {
+    Intento intento;
+    Numero estado = inicial_;
+    const std::size_t largo = std::min(sujeto.size(), inicio + caminoCorto);
+    for (std::size_t i = inicio;; ++i) {
+        if (estados_[estado].acepta) intento = {Intento::Tipo::Coincide, i};
+        if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo);
+        estado = siguiente(estado, sujeto[i]);
+        if (estado == muerto) return intento;
+        if (estado == desconocido) return {Intento::Tipo::Indeciso, 0};
+    }
+}
+
+// The same from `i` on, where it has been seen already whether `estado` accepts. What is written into the
+// memory before a complete match turns out wrong and is taken back.
+Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero estado, Intento intento,
+                              Recuerdo& recuerdo) {
+    const std::size_t desde = i + 1;
+    std::size_t enVano = desde;
+    for (; i < sujeto.size(); ++i) {
+        if (recuerdo.empty()) recuerdo.assign(sujeto.size() + 1, muerto);
+        estado = siguiente(estado, sujeto[i]);
+        if (estado == desconocido) intento = {Intento::Tipo::Indeciso, 0};
+        if (estado == muerto || estado == desconocido) break;
+        if (estados_[estado].acepta) {
+            intento = {Intento::Tipo::Coincide, i + 1};
+            enVano = i + 2;
+        } else if (recuerdo[i + 1] == estado) {
+            break;
+        } else {
+            recuerdo[i + 1] = estado;
+        }
+    }
+    if (i == sujeto.size() && estados_[estado].aceptaAlFinal) {
+        intento = {Intento::Tipo::Coincide, i};
+        enVano = i + 1;
+    }
+    if (intento.tipo == Intento::Tipo::Indeciso) enVano = i + 1;
+    for (std::size_t k = desde; k < enVano && k < recuerdo.size(); ++k) recuerdo[k] = muerto;
+    return intento;
+}
+
+// Cuts the units where a class begins or ends, and gathers the intervals that the same instructions take.
+bool Automata::reparteUnidades() {
+    std::vector<bool> cortes(0x10000);
+    cortes[0] = true;
+    std::vector<std::uint32_t> tomas;
+    const auto corta = [&](RangoUnidades rango) {
+        cortes[rango.desde] = true;
+        if (rango.hasta < 0xFFFF) cortes[rango.hasta + 1U] = true;
+    };
+    for (std::uint32_t i = 0; i < programa_->codigo.size(); ++i) {
+        const Instruccion& instruccion = programa_->codigo[i];
+        const auto unidad = static_cast<char16_t>(instruccion.a);
+        if (instruccion.operacion == Operacion::Unidad) corta({unidad, unidad});
+        if (instruccion.operacion == Operacion::Clase)
+            for (const RangoUnidades& rango : programa_->clases[instruccion.a].rangos()) corta(rango);
+        if (instruccion.operacion == Operacion::Unidad || instruccion.operacion == Operacion::Clase)
+            tomas.push_back(i);
+    }
+    for (std::uint32_t unidad = 0; unidad < cortes.size(); ++unidad)
+        if (cortes[unidad]) inicios_.push_back(static_cast<char16_t>(unidad));
+    if (inicios_.size() * tomas.size() > repartoMaximo) return false;
+    std::map<std::vector<bool>, Numero> porFirma;
+    for (const char16_t unidad : inicios_) {
+        std::vector<bool> firma;
+        for (const std::uint32_t instruccion : tomas) firma.push_back(toma(instruccion, unidad));
+        const auto [sitio, nuevo] =
+            porFirma.try_emplace(std::move(firma), static_cast<Numero>(porFirma.size()));
+        if (nuevo) muestras_.push_back(unidad);
+        grupos_.push_back(sitio->second);
+    }
+    for (char16_t unidad = 0; unidad < bajas_.size(); ++unidad) bajas_[unidad] = grupoDeAlta(unidad);
+    return muestras_.size() <= gruposMaximos;
+}
+
+Automata::Numero Automata::grupoDeAlta(char16_t unidad) const {
+    const auto siguiente = std::upper_bound(inicios_.begin(), inicios_.end(), unidad);
+    return grupos_[static_cast<std::size_t>(siguiente - inicios_.begin()) - 1];
+}
+
+bool Automata::toma(std::uint32_t i, char16_t unidad) const {
+    const Instruccion& instruccion = programa_->codigo[i];
+    if (instruccion.operacion == Operacion::Unidad) return instruccion.a == unidad;
+    return instruccion.operacion == Operacion::Clase && programa_->clases[instruccion.a].contiene(unidad);
+}
+
+bool Automata::sigue(std::uint32_t desde, Hilos& hilos, bool alFinal) {
+    pendientes_.assign(1, desde);
+    while (!pendientes_.empty()) {
+        const std::uint32_t i = pendientes_.back();
+        pendientes_.pop_back();
+        if (visitadas_[i] == visita_) continue;
+        visitadas_[i] = visita_;
+        const Instruccion& instruccion = programa_->codigo[i];
+        switch (instruccion.operacion) {
+        case Operacion::Salta:
+            pendientes_.push_back(instruccion.a);
+            break;
+        case Operacion::Prueba:
+            pendientes_.push_back(instruccion.a);
+            pendientes_.push_back(i + 1);
+            break;
+        case Operacion::Aplaza:
+            pendientes_.push_back(i + 1);
+            pendientes_.push_back(instruccion.a);
+            break;
+        case Operacion::Acepta:
+            hilos.push_back(i);
+            return true;
+        case Operacion::Final:
+            if (alFinal) {
+                pendientes_.push_back(i + 1);
+                break;
+            }
+            [[fallthrough]];
+        case Operacion::Unidad:
+        case Operacion::Clase:
+            hilos.push_back(i);
+            break;
+        case Operacion::Inicio:
+        case Operacion::Frontera:
+        case Operacion::NoFrontera:
+        case Operacion::Referencia:
+        case Operacion::Guarda:
+        case Operacion::PreparaBucle:
+        case Operacion::EntraEnBucle:
+        case Operacion::EmpiezaVuelta:
+        case Operacion::CierraBucle:
+        case Operacion::AbreDelante:
+        case Operacion::AbreDelanteNo:
+        case Operacion::CierraDelante:
+        case Operacion::CierraDelanteNo:
+            break; // never in these programs
+        }
+    }
+    return false;
+}
+
+bool Automata::aceptaAlFinal(const Hilos& hilos) {
+    ++visita_;
+    Hilos resto;
+    return std::any_of(hilos.begin(), hilos.end(), [&](std::uint32_t i) {
+        return programa_->codigo[i].operacion == Operacion::Final && sigue(i, resto, true);
+    });
+}
+
+Automata::Numero Automata::calcula(Numero estado, std::size_t grupo) {
+    ++visita_;
+    Hilos hilos;
+    bool acepta = false;
+    const Hilos anteriores = estados_[estado].hilos;
+    for (const std::uint32_t i : anteriores) {
+        if (!toma(i, muestras_[grupo])) continue;
+        acepta = sigue(i + 1, hilos, false);
+        if (acepta) break;
+    }
+    const Numero siguiente = numeroDe(std::move(hilos), acepta);
+    if (siguiente != desconocido) transiciones_[estado * muestras_.size() + grupo] = siguiente;
+    return siguiente;
+}
+
+Automata::Numero Automata::numeroDe(Hilos hilos, bool acepta) {
+    const auto conocido = numeros_.find(hilos);
+    if (conocido != numeros_.end()) return conocido->second;
+    if (estados_.size() >= estadosMaximos) return desconocido;
+    const auto numero = static_cast<Numero>(estados_.size());
+    numeros_.emplace(hilos, numero);
+    estados_.push_back({std::move(hilos), acepta, false});
+    estados_.back().aceptaAlFinal = aceptaAlFinal(estados_.back().hilos);
+    transiciones_.resize(estados_.size() * muestras_.size(), desconocido);
+    return numero;
+}
+
+} // namespace norvik

@@ -1,0 +1,346 @@
+// Random small patterns on random texts: every way of matching agrees with a matcher written down straight
+// from the definition of the dialect, with functions that go on.
+#include "norvik/platform/emparejador.hpp"
+#include "norvik/platform/mayusculas.hpp"
+#include "norvik/platform/patronMaquina.hpp"
+#include "norvik/platform/patronPcre.hpp"
+
+#include "norvik/base/texto.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+#include <random>
+
+namespace norvik {
+namespace {
+
+struct Nodo {
+    enum class Tipo {
+        Texto,
+        Secuencia,
+        Alternativas,
+        Repite,
+        Captura,
+        Grupo,
+        Delante,
+        DelanteNo,
+        Referencia
+    };
+    Tipo tipo = Tipo::Texto;
+    std::u16string texto{}; // an atom or assertion as written
+    std::vector<Nodo> hijos{};
+    int minimo = 0;
+    int maximo = -1; // −1: without limit
+    bool perezosa = false;
+    int numero = 0; // of a capture or reference; captures before a repetition
+    int hasta = 0;  // captures up to the end of a repetition
+};
+
+class Generador {
+public:
+    Generador(std::mt19937& azar, bool conMiradas) : azar_(azar), conMiradas_(conMiradas) {}
+
+    Nodo alternativas(int nivel) {
+        Nodo nodo{.tipo = Nodo::Tipo::Alternativas};
+        for (int i = uno(4) == 0 ? 2 + uno(2) : 1; i > 0; --i) nodo.hijos.push_back(secuencia(nivel));
+        return nodo;
+    }
+
+private:
+    int uno(int de) { return static_cast<int>(azar_() % static_cast<unsigned>(de)); }
+
+    Nodo secuencia(int nivel) {
+        Nodo nodo{.tipo = Nodo::Tipo::Secuencia};
+        for (int i = uno(4); i > 0; --i) nodo.hijos.push_back(repetido(nivel));
+        return nodo;
+    }
+
+    Nodo repetido(int nivel) {
+        static const std::u16string_view aserciones[] = {u"^", u"$", u"\\b", u"\\B", u"$"};
+        if (uno(conMiradas_ ? 8 : 30) == 0)
+            return {.texto = std::u16string(aserciones[conMiradas_ ? uno(5) : 1])};
+        const int antes = capturas_;
+        Nodo atomo = this->atomo(nivel);
+        if (uno(5) < 3) return atomo;
+        static constexpr std::pair<int, int> veces[] = {{0, -1}, {0, -1}, {1, -1}, {1, -1}, {0, 1}, {0, 1},
+                                                        {2, 2},  {0, 2},  {1, 3},  {2, -1}, {0, 0}};
+        const auto [minimo, maximo] = veces[uno(11)];
+        Nodo nodo{.tipo = Nodo::Tipo::Repite, .minimo = minimo, .maximo = maximo, .perezosa = uno(4) == 0};
+        nodo.numero = antes;
+        nodo.hasta = capturas_;
+        nodo.hijos.push_back(std::move(atomo));
+        return nodo;
+    }
+
+    Nodo atomo(int nivel) {
+        static const std::u16string_view atomos[] = {u"a", u"b",    u"a",    u"b",     u"c",
+                                                     u".", u"[ab]", u"[^a]", u"[b-d]", u"\\w"};
+        const int que = uno(nivel > 0 ? 16 : 10);
+        if (que < 10) return {.texto = std::u16string(atomos[que])};
+        if (conMiradas_ && que == 10 && capturas_ > 0)
+            return {.tipo = Nodo::Tipo::Referencia, .numero = 1 + uno(capturas_)};
+        Nodo nodo{.tipo = Nodo::Tipo::Grupo};
+        if (que >= 14) nodo.tipo = Nodo::Tipo::Captura;
+        if (conMiradas_ && que == 11) nodo.tipo = uno(2) == 0 ? Nodo::Tipo::Delante : Nodo::Tipo::DelanteNo;
+        if (nodo.tipo == Nodo::Tipo::Captura) nodo.numero = ++capturas_;
+        nodo.hijos.push_back(alternativas(nivel - 1));
+        return nodo;
+    }
+
+    std::mt19937& azar_;
+    bool conMiradas_;
+    int capturas_ = 0;
+};
+
+std::u16string escribe(const Nodo& nodo) {
+    std::u16string texto;
+    for (const Nodo& hijo : nodo.hijos) {
+        if (nodo.tipo == Nodo::Tipo::Alternativas && &hijo != nodo.hijos.data()) texto += u"|";
+        texto += escribe(hijo);
+    }
+    switch (nodo.tipo) {
+    case Nodo::Tipo::Texto:
+        return nodo.texto;
+    case Nodo::Tipo::Secuencia:
+    case Nodo::Tipo::Alternativas:
+        return texto;
+    case Nodo::Tipo::Captura:
+        return u"(" + texto + u")";
+    case Nodo::Tipo::Grupo:
+        return u"(?:" + texto + u")";
+    case Nodo::Tipo::Delante:
+        return u"(?=" + texto + u")";
+    case Nodo::Tipo::DelanteNo:
+        return u"(?!" + texto + u")";
+    case Nodo::Tipo::Referencia:
+        return u"(?:\\" + aTexto(nodo.numero) + u")";
+    case Nodo::Tipo::Repite:
+        break;
+    }
+    const bool tope = nodo.maximo >= 0;
+    texto += u"{" + aTexto(nodo.minimo) + u"," + (tope ? aTexto(nodo.maximo) : u"") + u"}";
+    if (!tope && nodo.minimo < 2)
+        texto.replace(texto.rfind(u'{'), std::u16string::npos, nodo.minimo == 0 ? u"*" : u"+");
+    return nodo.perezosa ? texto + u"?" : texto;
+}
+
+class DemasiadosPasos {};
+
+// A state and what goes on from it: the end of the match, or −1.
+struct Estado {
+    int fin = 0;
+    std::vector<std::pair<int, int>> capturas;
+};
+using Sigue = std::function<int(const Estado&)>;
+
+class Ingenuo {
+public:
+    Ingenuo(std::u16string_view sujeto, bool ignora) : sujeto_(sujeto), ignora_(ignora) {}
+
+    int coincide(const Nodo& nodo, int inicio) {
+        pasos_ = 0;
+        return prueba(nodo, {inicio, std::vector<std::pair<int, int>>(40, {-1, -1})},
+                      [](const Estado& e) { return e.fin; });
+    }
+
+private:
+    int prueba(const Nodo& nodo, const Estado& e, const Sigue& sigue) {
+        if (++pasos_ > 20000) throw DemasiadosPasos();
+        switch (nodo.tipo) {
+        case Nodo::Tipo::Texto:
+            return texto(nodo.texto, e, sigue);
+        case Nodo::Tipo::Secuencia:
+            return secuencia(nodo, 0, e, sigue);
+        case Nodo::Tipo::Alternativas:
+            for (const Nodo& hijo : nodo.hijos)
+                if (const int fin = prueba(hijo, e, sigue); fin >= 0) return fin;
+            return -1;
+        case Nodo::Tipo::Repite:
+            return repite(nodo, nodo.minimo, nodo.maximo, e, sigue);
+        case Nodo::Tipo::Grupo:
+            return prueba(nodo.hijos[0], e, sigue);
+        case Nodo::Tipo::Captura:
+            return prueba(nodo.hijos[0], e, [&](Estado dentro) {
+                dentro.capturas[static_cast<std::size_t>(nodo.numero)] = {e.fin, dentro.fin};
+                return sigue(dentro);
+            });
+        case Nodo::Tipo::Delante: {
+            Estado visto;
+            if (prueba(nodo.hijos[0], e, [&](const Estado& d) {
+                    visto = d;
+                    return d.fin;
+                }) < 0)
+                return -1;
+            visto.fin = e.fin;
+            return sigue(visto);
+        }
+        case Nodo::Tipo::DelanteNo:
+            return prueba(nodo.hijos[0], e, [](const Estado& d) { return d.fin; }) >= 0 ? -1 : sigue(e);
+        case Nodo::Tipo::Referencia:
+            break;
+        }
+        const auto [desde, hasta] = e.capturas[static_cast<std::size_t>(nodo.numero)];
+        Estado otro = e;
+        for (int i = desde; desde >= 0 && i < hasta; ++i, ++otro.fin)
+            if (otro.fin >= tamanio() || !iguales(en(otro.fin), en(i))) return -1;
+        return sigue(otro);
+    }
+
+    int secuencia(const Nodo& nodo, std::size_t i, const Estado& e, const Sigue& sigue) {
+        if (i == nodo.hijos.size()) return sigue(e);
+        return prueba(nodo.hijos[i], e, [&, i](const Estado& d) { return secuencia(nodo, i + 1, d, sigue); });
+    }
+
+    int repite(const Nodo& nodo, int minimo, int maximo, const Estado& e, const Sigue& sigue) {
+        if (maximo == 0) return sigue(e);
+        const auto vuelta = [&] {
+            Estado limpio = e;
+            for (int c = nodo.numero + 1; c <= nodo.hasta; ++c)
+                limpio.capturas[static_cast<std::size_t>(c)] = {-1, -1};
+            return prueba(nodo.hijos[0], limpio, [&](const Estado& d) {
+                if (minimo == 0 && d.fin == e.fin) return -1;
+                return repite(nodo, std::max(minimo - 1, 0), maximo < 0 ? -1 : maximo - 1, d, sigue);
+            });
+        };
+        if (minimo > 0) return vuelta();
+        const int primero = nodo.perezosa ? sigue(e) : vuelta();
+        if (primero >= 0) return primero;
+        return nodo.perezosa ? vuelta() : sigue(e);
+    }
+
+    int texto(const std::u16string& t, const Estado& e, const Sigue& sigue) {
+        const bool frontera = dePalabra(e.fin - 1) != dePalabra(e.fin);
+        if (t == u"^") return e.fin == 0 ? sigue(e) : -1;
+        if (t == u"$") return e.fin == tamanio() ? sigue(e) : -1;
+        if (t == u"\\b") return frontera ? sigue(e) : -1;
+        if (t == u"\\B") return frontera ? -1 : sigue(e);
+        if (e.fin == tamanio() || !toma(t, en(e.fin))) return -1;
+        Estado otro = e;
+        ++otro.fin;
+        return sigue(otro);
+    }
+
+    bool toma(const std::u16string& t, char16_t c) const {
+        if (t == u".") return c != u'\n';
+        if (t == u"[ab]") return iguales(c, u'a') || iguales(c, u'b');
+        if (t == u"[^a]") return !iguales(c, u'a');
+        if (t == u"[b-d]") return iguales(c, u'b') || iguales(c, u'c') || iguales(c, u'd');
+        if (t == u"\\w") return c != u' ' && c != u'\n';
+        return iguales(t[0], c);
+    }
+
+    bool iguales(char16_t a, char16_t b) const { return a == b || (ignora_ && pliega(a) == pliega(b)); }
+    int tamanio() const { return static_cast<int>(sujeto_.size()); }
+    char16_t en(int i) const { return sujeto_[static_cast<std::size_t>(i)]; }
+    bool dePalabra(int i) const { return i >= 0 && i < tamanio() && toma(u"\\w", en(i)); }
+
+    std::u16string_view sujeto_;
+    bool ignora_;
+    int pasos_ = 0;
+};
+
+int fin(const Intento& intento, int respuestaDudosa) {
+    if (intento.tipo == Intento::Tipo::Indeciso) return respuestaDudosa;
+    return intento.tipo == Intento::Tipo::Coincide ? static_cast<int>(intento.fin) : -1;
+}
+
+struct Cuenta {
+    int casos = 0, automata = 0, pcre = 0, dudas = 0;
+};
+
+// All the ways on one pattern and text; the naive one decides.
+void compara(const Nodo& nodo, const std::u16string& patron, const std::u16string& sujeto, bool ignora,
+             Cuenta& cuenta) {
+    const PatronListo listo(*leePatron(patron, ignora));
+    const Programa programa(listo);
+    auto automata = Automata::de(programa);
+    const auto pcre = MotorPcre::de(listo);
+    MemoriaMaquina memoria;
+    Automata::Recuerdo recuerdo;
+    std::vector<Coincidencia> esperadas;
+    int libre = 0; // where the search would go on
+    for (int i = 0; i <= static_cast<int>(sujeto.size()); ++i) {
+        const int esperado = Ingenuo(sujeto, ignora).coincide(nodo, i);
+        const auto inicio = static_cast<std::size_t>(i);
+        const auto maquina = coincideMaquina(programa, sujeto, inicio, memoria, Presupuesto());
+        EXPECT_EQ(maquina ? static_cast<int>(*maquina) : -1, esperado) << "machine at " << i;
+        if (automata) {
+            EXPECT_EQ(fin(automata->coincide(sujeto, inicio, recuerdo), -2), esperado)
+                << "automaton at " << i;
+        }
+        if (pcre) {
+            EXPECT_EQ(fin(pcre->coincide(sujeto, inicio), -2), esperado) << "PCRE2 at " << i;
+        }
+        if (esperado < 0 || i < libre) continue;
+        esperadas.push_back({i, esperado - i});
+        libre = std::max(esperado, i + 1);
+    }
+    EXPECT_TRUE(Emparejador::compila(patron, ignora)->ejecuta(sujeto, Presupuesto()) == esperadas)
+        << "search";
+    cuenta.casos += 1;
+    cuenta.automata += automata ? 1 : 0;
+    cuenta.pcre += pcre ? 1 : 0;
+}
+
+TEST(PatronAzar, TodasLasManerasDeBuscarCoinciden) {
+    const char* const pedidos = std::getenv("NORVIK_CASOS_AL_AZAR");
+    const int casos = pedidos == nullptr ? 800 : std::atoi(pedidos);
+    const char* const semilla = std::getenv("NORVIK_SEMILLA");
+    std::mt19937 azar(semilla == nullptr ? 20U : static_cast<unsigned>(std::atoi(semilla)));
+    Cuenta cuenta;
+    for (int caso = 0; caso < casos && !testing::Test::HasFailure(); ++caso) {
+        const Nodo nodo = Generador(azar, caso % 2 == 0).alternativas(3);
+        const std::u16string patron = escribe(nodo);
+        const bool ignora = azar() % 3 == 0;
+        for (int vez = 0; vez < 3; ++vez) {
+            std::u16string sujeto;
+            for (auto largo = azar() % 10; largo > 0; --largo) sujeto.push_back(u"aaabbbcdA \n"[azar() % 11]);
+            SCOPED_TRACE(aUtf8(patron) + " on \"" + aUtf8(sujeto) +
+                         "\", ignoring case: " + (ignora ? "yes" : "no"));
+            try {
+                compara(nodo, patron, sujeto, ignora, cuenta);
+            } catch (const DemasiadosPasos&) {
+                ++cuenta.dudas;
+            }
+        }
+    }
+    std::printf("%d cases, %d by automaton, %d by PCRE2, %d left out\n", cuenta.casos, cuenta.automata,
+                cuenta.pcre, cuenta.dudas);
+    EXPECT_GT(cuenta.automata, cuenta.casos / 10);
+    EXPECT_GT(cuenta.pcre, cuenta.casos / 3);
+    EXPECT_LT(cuenta.dudas, cuenta.casos / 20);
+}
+
+// On texts long enough for the automaton to remember walks that led to nothing.
+TEST(PatronAzar, ElAutomataRecuerdaBien) {
+    std::mt19937 azar(30);
+    int comparados = 0;
+    for (int caso = 0; caso < 400 && !testing::Test::HasFailure(); ++caso) {
+        const std::u16string patron = escribe(Generador(azar, false).alternativas(3));
+        const Programa programa{PatronListo(*leePatron(patron, false))};
+        auto automata = Automata::de(programa);
+        if (!automata) continue;
+        std::u16string sujeto;
+        while (sujeto.size() < 900) sujeto.append(1 + azar() % 400, u"aaabbc\n"[azar() % 7]);
+        SCOPED_TRACE(aUtf8(patron) + " on \"" + aUtf8(sujeto) + '"');
+        Automata::Recuerdo recuerdo;
+        MemoriaMaquina memoria;
+        try {
+            for (std::size_t i = 0; i <= sujeto.size(); i += 1 + azar() % 40) {
+                const auto maquina =
+                    coincideMaquina(programa, sujeto, i, memoria, Presupuesto(std::chrono::milliseconds(5)));
+                EXPECT_EQ(fin(automata->coincide(sujeto, i, recuerdo), -2),
+                          maquina ? static_cast<int>(*maquina) : -1);
+            }
+            ++comparados;
+        } catch (const BusquedaDesbocada&) {
+            continue;
+        }
+    }
+    EXPECT_GT(comparados, 100);
+}
+
+} // namespace
+} // namespace norvik
