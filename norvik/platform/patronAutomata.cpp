@@ -87,12 +87,11 @@ Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero 
 
 // Cuts the units where a class begins or ends, and gathers the intervals that the same instructions take.
 bool Automata::reparteUnidades() {
-    std::vector<bool> cortes(0x10000);
-    cortes[0] = true;
+    inicios_.push_back(0);
     std::vector<std::uint32_t> tomas;
     const auto corta = [&](RangoUnidades rango) {
-        cortes[rango.desde] = true;
-        if (rango.hasta < 0xFFFF) cortes[rango.hasta + 1U] = true;
+        inicios_.push_back(rango.desde);
+        if (rango.hasta < 0xFFFF) inicios_.push_back(static_cast<char16_t>(rango.hasta + 1));
     };
     for (std::uint32_t i = 0; i < programa_->codigo.size(); ++i) {
         const Instruccion& instruccion = programa_->codigo[i];
@@ -103,8 +102,8 @@ bool Automata::reparteUnidades() {
         if (instruccion.operacion == Operacion::Unidad || instruccion.operacion == Operacion::Clase)
             tomas.push_back(i);
     }
-    for (std::uint32_t unidad = 0; unidad < cortes.size(); ++unidad)
-        if (cortes[unidad]) inicios_.push_back(static_cast<char16_t>(unidad));
+    std::sort(inicios_.begin(), inicios_.end());
+    inicios_.erase(std::unique(inicios_.begin(), inicios_.end()), inicios_.end());
     if (inicios_.size() * tomas.size() > repartoMaximo) return false;
     std::map<std::vector<bool>, Numero> porFirma;
     for (const char16_t unidad : inicios_) {
