@@ -1,0 +1,4 @@
+/* The process that does nothing: what starting one costs. */
+int main(void) {
+    return 0;
+}
