@@ -1,3 +1,43 @@
-int main() {
-    return 0;
+#include "ordenes.hpp"
+
+#include "norvik/base/errores.hpp"
+
+#include <algorithm>
+#include <csignal>
+#include <new>
+#include <variant>
+
+namespace {
+
+using namespace norvik::orden;
+
+constexpr int fallo = 2;
+
+// A failure is one line, whatever names and texts it quotes.
+int cuentaFallo(Salida& salida, std::u16string texto) {
+    salida.avisa(visible(u"norvik: " + texto));
+    return fallo;
+}
+
+int ejecutaLinea(int argc, const char* const* argv, Salida& salida) {
+    try {
+        const int estado =
+            std::visit([&](const auto& orden) { return ejecuta(orden, salida); }, leeLinea(argc, argv));
+        salida.vuelca();
+        return estado;
+    } catch (const norvik::ErrorNorvik& error) {
+        return cuentaFallo(salida, error.texto());
+    } catch (const std::bad_alloc&) {
+        return cuentaFallo(salida, u"No hay memoria suficiente");
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // A reader that goes away and a file that grows too large are failures to tell, not deaths.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    Salida salida;
+    return ejecutaLinea(argc, argv, salida);
 }

@@ -1,0 +1,63 @@
+#include "anfitrion.hpp"
+
+#include "linea.hpp"
+#include "lugarDelError.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/spec/lectorModulo.hpp"
+
+namespace norvik::orden {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool esModulo(const fs::path& fichero) {
+    return aMinusculas(decodifica(fichero.extension().native())) == u".bas";
+}
+
+std::string leeBytesDe(const fs::path& fichero) {
+    return fichero == flujo ? leeEntradaEstandar() : leeBytes(fichero);
+}
+
+} // namespace
+
+std::u16string leeTextoDe(const fs::path& fichero) {
+    return normalizaLineas(decodifica(leeBytesDe(fichero)));
+}
+
+Anfitrion::Anfitrion(Salida& salida)
+    : salida_(salida),
+      sistema_([this](const Mensaje& mensaje) { avisa(mensaje.titulo + u": " + mensaje.texto); }),
+      control(caja, sistema_) {}
+
+void Anfitrion::avisa(std::u16string_view mensaje) {
+    estado_ = 1;
+    salida_.avisa(mensaje);
+}
+
+bool Anfitrion::compila(std::u16string_view especificacion) {
+    if (!control.CargaGramatica(especificacion)) {
+        cuentaError(control.GetmensajeError(), especificacion);
+        return false;
+    }
+    return control.GeneraCompilador();
+}
+
+bool Anfitrion::replica(std::u16string_view modulo) {
+    const auto error = CargaModulo(modulo, control);
+    if (error) avisa(error->mensaje());
+    return !error;
+}
+
+bool Anfitrion::cargaLenguaje(const fs::path& fichero) {
+    return esModulo(fichero) ? replica(decodifica(leeBytes(fichero))) : compila(leeTextoDe(fichero));
+}
+
+void Anfitrion::cuentaError(std::u16string_view mensaje, std::u16string_view texto) {
+    avisa(mensaje);
+    if (!salida_.erroresEnTerminal()) return;
+    if (const auto lugar = lugarDelError(mensaje)) salida_.avisa(muestraLugar(texto, *lugar));
+}
+
+} // namespace norvik::orden

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "salida.hpp"
+
+#include "norvik/control/norvik.hpp"
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
+
+#include <filesystem>
+#include <string>
+
+namespace norvik::orden {
+
+/// A host of the control without windows: message boxes are lines on standard error.
+class Anfitrion {
+    // Before the control, which uses them as long as it lives.
+    Salida& salida_;
+    int estado_ = 0;
+    SistemaMemoria sistema_;
+
+public:
+    explicit Anfitrion(Salida& salida);
+
+    CajaTextoMemoria caja;
+    Norvik control;
+
+    /// Compiles a language from a text, ready to parse. False when there is none to go on with; the reason
+    /// has been told.
+    bool compila(std::u16string_view especificacion);
+    /// The same of a file, which may be a loading module, by its ".bas" ending.
+    bool cargaLenguaje(const std::filesystem::path& fichero);
+    /// Tells an error found in a text; a terminal is shown the place that the message names.
+    void cuentaError(std::u16string_view mensaje, std::u16string_view texto);
+
+    /// 0, or 1 once something has been told to be wrong.
+    int estado() const { return estado_; }
+
+private:
+    bool replica(std::u16string_view modulo);
+    void avisa(std::u16string_view mensaje);
+};
+
+/// A file's text, or standard input's, as the control loads it.
+std::u16string leeTextoDe(const std::filesystem::path& fichero);
+
+} // namespace norvik::orden

@@ -1,0 +1,125 @@
+#include "ayuda.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace norvik::orden {
+
+namespace {
+
+struct Ayuda {
+    std::string_view orden;
+    std::string_view texto;
+};
+
+constexpr std::string_view general = R"(norvik: lenguajes que se describen, se compilan y se usan
+
+Uso:
+  norvik analiza  LENGUAJE TEXTO [--formato arbol|json|lineas]
+  norvik lexemas  LENGUAJE TEXTO [--formato tabla|json]
+  norvik colorea  LENGUAJE TEXTO [--formato ansi|html]
+  norvik informe  ESPECIFICACION [-o CARPETA]
+  norvik modulo   ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
+  norvik --help | --version
+  norvik ORDEN --help
+
+Órdenes:
+  analiza   construye el árbol sintáctico de un texto
+  lexemas   enumera los tokens de un texto
+  colorea   muestra un texto con los colores de sus tokens
+  informe   escribe el informe de una gramática y dice sus conflictos
+  modulo    escribe el módulo que carga un lenguaje ya compilado
+
+LENGUAJE es la especificación de un lenguaje (por costumbre, NOMBRE.nvk) o un módulo
+de carga (NOMBRE.bas) escrito por «norvik modulo».
+«-» en lugar de un fichero es la entrada estándar.
+
+Estado de salida:
+  0  aceptado
+  1  el lenguaje o el texto no son correctos
+  2  línea de órdenes incorrecta, fichero que no se puede leer o escribir, u otro fallo
+)";
+
+constexpr std::array ayudas = {
+    Ayuda{"analiza", R"(Uso: norvik analiza LENGUAJE TEXTO [--formato arbol|json|lineas]
+
+Analiza TEXTO y muestra su árbol sintáctico.
+
+  LENGUAJE     especificación, o módulo de carga (.bas)
+  TEXTO        fichero que se analiza
+  «-» en lugar de uno de los dos es la entrada estándar.
+
+Opciones:
+  --formato arbol    un nodo por línea, dibujado (por omisión)
+  --formato json     todo el árbol en una línea de JSON
+  --formato lineas   un objeto JSON por nodo y línea, en preorden
+  --help             muestra esta ayuda
+)"},
+    Ayuda{"lexemas", R"(Uso: norvik lexemas LENGUAJE TEXTO [--formato tabla|json]
+
+Enumera los tokens de TEXTO en el orden de lectura. El último es EOF, o Norvik_ERROR
+ante un carácter que no empieza ningún token.
+
+  LENGUAJE     especificación, o módulo de carga (.bas)
+  TEXTO        fichero que se lee
+  «-» en lugar de uno de los dos es la entrada estándar.
+
+Opciones:
+  --formato tabla    una tabla (por omisión)
+  --formato json     un objeto JSON por línea
+  --help             muestra esta ayuda
+)"},
+    Ayuda{"colorea", R"(Uso: norvik colorea LENGUAJE TEXTO [--formato ansi|html]
+
+Muestra TEXTO con los colores de sus tokens.
+
+  LENGUAJE     especificación, o módulo de carga (.bas)
+  TEXTO        fichero que se colorea
+  «-» en lugar de uno de los dos es la entrada estándar.
+
+Opciones:
+  --formato ansi     secuencias de color de terminal, siempre
+  --formato html     una página HTML completa
+  --help             muestra esta ayuda
+
+Sin --formato, los colores de terminal solo se emiten cuando la salida es un terminal.
+)"},
+    Ayuda{"informe", R"(Uso: norvik informe ESPECIFICACION [-o CARPETA]
+
+Escribe informeGramatica.txt (conjuntos, autómata y tabla SLR) y muestra los conflictos.
+
+  ESPECIFICACION   fichero con la especificación; «-» es la entrada estándar
+
+Opciones:
+  -o CARPETA   carpeta, que debe existir (por omisión, la actual);
+               «-» escribe el informe en la salida estándar
+  --help       muestra esta ayuda
+)"},
+    Ayuda{"modulo", R"(Uso: norvik modulo ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
+
+Escribe el módulo que carga el lenguaje sin generar nada, y muestra su ruta.
+
+  ESPECIFICACION   fichero con la especificación; «-» es la entrada estándar
+  NOMBRE           nombre del lenguaje: letras, cifras y subrayados
+
+Opciones:
+  -o CARPETA       carpeta, que debe existir (por omisión, la actual);
+                   «-» escribe el módulo en la salida estándar
+  --lenguaje vb    NOMBRE.bas (por omisión)
+  --lenguaje cpp   NOMBRE.hpp, con las mismas llamadas
+  --help           muestra esta ayuda
+)"}};
+
+} // namespace
+
+std::string_view ayudaGeneral() {
+    return general;
+}
+
+std::string_view ayudaDe(std::string_view orden) {
+    const auto* const ayuda = std::find_if(ayudas.begin(), ayudas.end(),
+                                           [orden](const Ayuda& otra) { return otra.orden == orden; });
+    return ayuda != ayudas.end() ? ayuda->texto : general;
+}
+
+} // namespace norvik::orden

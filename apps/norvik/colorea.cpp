@@ -1,0 +1,44 @@
+#include "ordenes.hpp"
+
+#include "anfitrion.hpp"
+#include "coloreado.hpp"
+
+#include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
+
+namespace norvik::orden {
+
+namespace {
+
+std::string textoSinColor(std::string texto) {
+    std::erase(texto, '\r');
+    if (!texto.empty()) texto += '\n';
+    return texto;
+}
+
+std::string escribeTexto(const CajaTextoMemoria& caja, const Colorea& orden, const Salida& salida) {
+    switch (orden.formato) {
+    case FormatoColor::Terminal:
+        return salida.esTerminal() ? ansiDe(caja) : textoSinColor(aUtf8(caja.texto()));
+    case FormatoColor::Ansi:
+        return ansiDe(caja);
+    case FormatoColor::Html:
+        return htmlDe(caja, decodifica(orden.texto.filename().native()));
+    }
+    return {};
+}
+
+} // namespace
+
+int ejecuta(const Colorea& orden, Salida& salida) {
+    const std::u16string texto = leeTextoDe(orden.texto);
+    Anfitrion anfitrion(salida);
+    if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
+    anfitrion.control.Text(texto);
+    anfitrion.control.Colorear(true);
+    anfitrion.control.ColoreaTodo();
+    salida.escribe(escribeTexto(anfitrion.caja, orden, salida));
+    return anfitrion.estado();
+}
+
+} // namespace norvik::orden

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace norvik::orden {
+
+/// A coloured text with 24-bit colour sequences for a terminal. Black, the colour of a text without language,
+/// is the terminal's own; no line leaves a colour behind.
+std::string ansiDe(const CajaTextoMemoria& caja);
+/// The same as one HTML page that needs nothing else.
+std::string htmlDe(const CajaTextoMemoria& caja, std::u16string_view titulo);
+
+} // namespace norvik::orden

@@ -1,0 +1,26 @@
+#include "ordenes.hpp"
+
+#include "anfitrion.hpp"
+#include "carpeta.hpp"
+
+#include "norvik/base/texto.hpp"
+
+namespace norvik::orden {
+
+int ejecuta(const Informe& orden, Salida& salida) {
+    compruebaCarpeta(orden.carpeta);
+    Anfitrion anfitrion(salida);
+    if (!anfitrion.compila(leeTextoDe(orden.especificacion))) return anfitrion.estado();
+    const gramatica& gramatica = anfitrion.control.Gramatica();
+    const std::u16string problemas = gramatica.textoProblemas();
+    if (orden.carpeta == flujo) {
+        salida.escribe(aUtf8(gramatica.textoInforme()));
+        salida.avisa(problemas);
+    } else {
+        gramatica.GuardaInforme(orden.carpeta);
+        salida.escribe(aUtf8(problemas) + "\n");
+    }
+    return anfitrion.estado();
+}
+
+} // namespace norvik::orden

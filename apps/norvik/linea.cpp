@@ -1,0 +1,178 @@
+// The command line. CLI11 splits the words; what is missing, left over or unknown is told in our own words,
+// so every check that CLI11 would make in English is left to us: nothing is required of it, extras are
+// allowed, values are plain texts.
+
+#include "linea.hpp"
+
+#include "ayuda.hpp"
+#include "nombreDeModulo.hpp"
+#include "norvik/base/ficheros.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <array>
+#include <optional>
+
+namespace norvik::orden {
+
+namespace {
+
+// CLI11 minds it, and yet leaves it over.
+constexpr std::string_view finDeOpciones = "--";
+
+std::u16string entreComillas(std::string_view palabra) {
+    return u"«" + decodifica(palabra) + u"»";
+}
+
+template <typename Valor>
+struct Opcion {
+    std::string_view palabra;
+    Valor valor;
+};
+template <typename Valor>
+Opcion(const char*, Valor) -> Opcion<Valor>;
+
+// The first is the one meant by an option that is not there; it need have no word.
+constexpr std::array formatosDeArbol = {Opcion{"arbol", FormatoArbol::Dibujo},
+                                        Opcion{"json", FormatoArbol::Json},
+                                        Opcion{"lineas", FormatoArbol::Lineas}};
+constexpr std::array formatosDeLexemas = {Opcion{"tabla", FormatoLexemas::Tabla},
+                                          Opcion{"json", FormatoLexemas::Json}};
+constexpr std::array formatosDeColor = {Opcion{"", FormatoColor::Terminal},
+                                        Opcion{"ansi", FormatoColor::Ansi},
+                                        Opcion{"html", FormatoColor::Html}};
+constexpr std::array lenguajesDeModulo = {Opcion{"vb", LenguajeModulo::Vb},
+                                          Opcion{"cpp", LenguajeModulo::Cpp}};
+
+template <typename Valor, std::size_t n>
+Valor elige(const std::array<Opcion<Valor>, n>& opciones, std::string_view opcion,
+            const std::optional<std::string>& palabra) {
+    if (!palabra) return opciones[0].valor;
+    std::u16string lista;
+    for (const auto& [posible, valor] : opciones) {
+        if (posible.empty()) continue;
+        if (posible == *palabra) return valor;
+        lista += (lista.empty() ? u"" : u", ") + decodifica(posible);
+    }
+    throw LineaIncorrecta(entreComillas(*palabra) + u" no es un valor de " + decodifica(opcion) + u" (" +
+                          lista + u")");
+}
+
+class Linea {
+public:
+    Linea();
+    Orden lee(int argc, const char* const* argv);
+
+private:
+    // The words that an order may have, as they were written.
+    struct Palabras {
+        std::string primera;
+        std::string segunda;
+        std::optional<std::string> formato;
+        std::optional<std::string> lenguaje;
+        std::string carpeta = ".";
+    };
+
+    CLI::App* nueva(const char* nombre, const char* segunda);
+    Orden interpreta(const CLI::App& orden) const;
+    void comprueba(const CLI::App& orden) const;
+    Modulo modulo() const;
+
+    CLI::App app_;
+    Palabras palabras_;
+    bool ayuda_ = false;
+    bool version_ = false;
+};
+
+Linea::Linea() {
+    app_.set_help_flag();
+    app_.allow_extras();
+    app_.require_subcommand(0, 1); // else a file named as an order would be taken for one
+    app_.add_flag("-h,--help", ayuda_);
+    app_.add_flag("--version", version_);
+    for (const char* const nombre : {"analiza", "lexemas", "colorea"})
+        nueva(nombre, "TEXTO")->add_option("--formato", palabras_.formato)->take_last();
+    nueva("informe", nullptr)->add_option("-o", palabras_.carpeta)->take_last();
+    CLI::App* const modulo = nueva("modulo", "NOMBRE");
+    modulo->add_option("-o", palabras_.carpeta)->take_last();
+    modulo->add_option("--lenguaje", palabras_.lenguaje)->take_last();
+}
+
+CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
+    CLI::App* const orden = app_.add_subcommand(nombre);
+    orden->set_help_flag();
+    orden->add_flag("-h,--help", ayuda_);
+    orden->add_option(segunda != nullptr && std::string_view(segunda) == "TEXTO" ? "LENGUAJE"
+                                                                                 : "ESPECIFICACION",
+                      palabras_.primera);
+    if (segunda != nullptr) orden->add_option(segunda, palabras_.segunda);
+    return orden;
+}
+
+Orden Linea::lee(int argc, const char* const* argv) {
+    try {
+        app_.parse(argc, argv);
+    } catch (const CLI::ArgumentMismatch&) {
+        // An option takes the next word whatever it is, so that only the last one can lack its value.
+        throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(argv[argc - 1]));
+    } catch (const CLI::ParseError&) {
+        throw LineaIncorrecta(u"opción mal escrita");
+    }
+    const auto ordenes = app_.get_subcommands();
+    if (ayuda_)
+        return Contesta{std::string(ordenes.empty() ? ayudaGeneral() : ayudaDe(ordenes[0]->get_name()))};
+    if (version_) return Contesta{"norvik " NORVIK_VERSION "\n"};
+    comprueba(app_);
+    if (ordenes.empty()) throw LineaIncorrecta(u"falta la orden (norvik --help las enumera)");
+    comprueba(*ordenes[0]);
+    return interpreta(*ordenes[0]);
+}
+
+void Linea::comprueba(const CLI::App& orden) const {
+    const bool faltaOrden = app_.get_subcommands().empty();
+    for (const std::string& sobrante : orden.remaining()) {
+        if (sobrante == finDeOpciones) continue;
+        const bool opcion = sobrante.size() > 1 && sobrante[0] == '-';
+        throw LineaIncorrecta((opcion       ? u"opción desconocida: "
+                               : faltaOrden ? u"orden desconocida: "
+                                            : u"sobra ") +
+                              entreComillas(sobrante));
+    }
+    for (const CLI::Option* const opcion : orden.get_options())
+        if (opcion->get_positional() && opcion->count() == 0)
+            throw LineaIncorrecta(u"falta " + decodifica(opcion->get_name()) + u" (norvik " +
+                                  decodifica(orden.get_name()) + u" --help lo explica)");
+    if (palabras_.primera == flujo && palabras_.segunda == flujo)
+        throw LineaIncorrecta(u"la entrada estándar («-») solo puede estar en lugar de un fichero");
+}
+
+Modulo Linea::modulo() const {
+    const auto lenguaje = elige(lenguajesDeModulo, "--lenguaje", palabras_.lenguaje);
+    const std::u16string nombre = decodifica(palabras_.segunda);
+    if (!esNombreDeModulo(nombre, lenguaje))
+        throw LineaIncorrecta(u"El nombre seleccionado para el lenguaje es incorrecto");
+    return Modulo{palabras_.primera, nombre, palabras_.carpeta, lenguaje};
+}
+
+Orden Linea::interpreta(const CLI::App& orden) const {
+    const std::string& nombre = orden.get_name();
+    if (nombre == "analiza")
+        return Analiza{palabras_.primera, palabras_.segunda,
+                       elige(formatosDeArbol, "--formato", palabras_.formato)};
+    if (nombre == "lexemas")
+        return Lexemas{palabras_.primera, palabras_.segunda,
+                       elige(formatosDeLexemas, "--formato", palabras_.formato)};
+    if (nombre == "colorea")
+        return Colorea{palabras_.primera, palabras_.segunda,
+                       elige(formatosDeColor, "--formato", palabras_.formato)};
+    if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta};
+    return modulo();
+}
+
+} // namespace
+
+Orden leeLinea(int argc, const char* const* argv) {
+    return Linea().lee(argc, argv);
+}
+
+} // namespace norvik::orden

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "norvik/base/errores.hpp"
+
+#include <filesystem>
+#include <string>
+#include <variant>
+
+namespace norvik::orden {
+
+enum class FormatoArbol { Dibujo, Json, Lineas };
+enum class FormatoLexemas { Tabla, Json };
+/// `Terminal`: nothing was asked for, so colours go to terminals only.
+enum class FormatoColor { Terminal, Ansi, Html };
+enum class LenguajeModulo { Vb, Cpp };
+
+struct Analiza {
+    std::filesystem::path lenguaje;
+    std::filesystem::path texto;
+    FormatoArbol formato = FormatoArbol::Dibujo;
+};
+
+struct Lexemas {
+    std::filesystem::path lenguaje;
+    std::filesystem::path texto;
+    FormatoLexemas formato = FormatoLexemas::Tabla;
+};
+
+struct Colorea {
+    std::filesystem::path lenguaje;
+    std::filesystem::path texto;
+    FormatoColor formato = FormatoColor::Terminal;
+};
+
+struct Informe {
+    std::filesystem::path especificacion;
+    std::filesystem::path carpeta;
+};
+
+struct Modulo {
+    std::filesystem::path especificacion;
+    std::u16string nombre;
+    std::filesystem::path carpeta;
+    LenguajeModulo lenguaje = LenguajeModulo::Vb;
+};
+
+/// Help or version: the text is the answer.
+struct Contesta {
+    std::string texto;
+};
+
+using Orden = std::variant<Contesta, Analiza, Lexemas, Colorea, Informe, Modulo>;
+
+/// A command line that asks for nothing that can be done.
+class LineaIncorrecta : public ErrorNorvik {
+public:
+    explicit LineaIncorrecta(std::u16string_view texto) : ErrorNorvik(texto) {}
+};
+
+/// What the command line asks for; raises `LineaIncorrecta`.
+Orden leeLinea(int argc, const char* const* argv);
+
+/// In place of a file, standard input; in place of a folder, standard output.
+inline constexpr std::string_view flujo = "-";
+
+} // namespace norvik::orden

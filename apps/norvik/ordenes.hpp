@@ -1,0 +1,19 @@
+#pragma once
+
+#include "linea.hpp"
+#include "salida.hpp"
+
+namespace norvik::orden {
+
+// Each order gives the exit status; its output stands in `salida` until the caller lets it go.
+inline int ejecuta(const Contesta& orden, Salida& salida) {
+    salida.escribe(orden.texto);
+    return 0;
+}
+int ejecuta(const Analiza& orden, Salida& salida);
+int ejecuta(const Lexemas& orden, Salida& salida);
+int ejecuta(const Colorea& orden, Salida& salida);
+int ejecuta(const Informe& orden, Salida& salida);
+int ejecuta(const Modulo& orden, Salida& salida);
+
+} // namespace norvik::orden

@@ -1,0 +1,58 @@
+#include "salida.hpp"
+
+#include "norvik/base/causas.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace norvik::orden {
+
+namespace {
+
+bool escribeTodo(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t escritos = write(descriptor, bytes.data(), bytes.size());
+        if (escritos < 0 && errno == EINTR) continue;
+        if (escritos < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(escritos));
+    }
+    return true;
+}
+
+} // namespace
+
+void Salida::vuelca() {
+    const std::string bytes = std::move(pendiente_);
+    pendiente_.clear();
+    if (!escribeTodo(STDOUT_FILENO, bytes))
+        throw ErrorDeFichero(u"No se puede escribir en la salida estándar: " + causaDelSistema(errno));
+}
+
+void Salida::avisa(std::u16string_view mensaje) {
+    std::string linea = aUtf8(mensaje);
+    linea += '\n';
+    escribeTodo(STDERR_FILENO, linea); // there is nobody to tell that this failed
+}
+
+bool Salida::esTerminal() const {
+    return isatty(STDOUT_FILENO) == 1;
+}
+
+bool Salida::erroresEnTerminal() const {
+    return isatty(STDERR_FILENO) == 1;
+}
+
+std::u16string visible(std::u16string_view texto) {
+    constexpr char16_t primeraImagen = u'\u2400';
+    constexpr char16_t imagenDeSuprimir = u'\u2421';
+    std::u16string resultado(texto);
+    for (char16_t& c : resultado) {
+        if (c < u' ' && c != u'\t') c = static_cast<char16_t>(primeraImagen + c);
+        if (c == u'\x7F' || (c >= u'\x80' && c < u'\xA0')) c = imagenDeSuprimir;
+    }
+    return resultado;
+}
+
+} // namespace norvik::orden

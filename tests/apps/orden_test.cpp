@@ -1,0 +1,289 @@
+// The command as a person runs it: words in, streams and exit status out.
+
+#include "apoyo/carpetaTemporal.hpp"
+#include "apoyo/proceso.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace norvik {
+namespace {
+
+using apoyo::bytesDe;
+using apoyo::CarpetaTemporal;
+using apoyo::Destino;
+using apoyo::ejecuta;
+using apoyo::Entorno;
+using apoyo::Resultado;
+using Palabras = std::vector<std::string>;
+
+const std::string especificacion = R"x(Token si = "si", TipoToken = TTPalabraReservada;
+Token mas = "\+", TipoToken = TTOperador;
+Token com = "#.*(\n|$)", TipoToken = TTComentarioLinea;
+Token cad = "'[^']*'", TipoToken = TTCadena;
+Token num = "[0-9]+", TipoToken = TTNumero ("número");
+Token id = "[a-z]+" ("identificador");
+E -> E mas T | T;
+T -> num | cad | si id | Ø;
+)x";
+
+const std::string ambigua = "Token a = \"a\";\nToken b = \"b\";\nS -> a S b S | a S | b;\n";
+
+class Orden : public testing::Test {
+protected:
+    std::string pon(const std::string& nombre, const std::string& bytes) const {
+        return carpeta_.pon(nombre, bytes).string();
+    }
+    std::string ruta(const std::string& nombre) const { return (carpeta_ / nombre).string(); }
+
+    // An order about a text in the language above.
+    Resultado sobre(const std::string& texto, Palabras opciones, const Entorno& entorno = {}) const {
+        opciones.insert(opciones.begin() + 1, {lenguaje_, pon("texto", texto)});
+        return ejecuta(opciones, entorno);
+    }
+
+    CarpetaTemporal carpeta_;
+    std::string lenguaje_ = pon("lenguaje.nvk", especificacion);
+};
+
+void comprueba(const Resultado& resultado, int estado, const std::string& salida,
+               const std::string& errores) {
+    EXPECT_EQ(resultado.estado, estado);
+    EXPECT_EQ(resultado.salida, salida);
+    EXPECT_EQ(resultado.errores, errores);
+}
+
+TEST_F(Orden, AnalizaEnSusTresFormatos) {
+    comprueba(sobre("1 + si\n x", {"analiza"}), 0,
+              "1. E -> E mas T\n"
+              "├─ 2. E -> T\n"
+              "│  └─ 3. T -> num\n"
+              "│     └─ '1' (Línea 1, Columna 1)\n"
+              "├─ '+' (Línea 1, Columna 3)\n"
+              "└─ 5. T -> si id\n"
+              "   ├─ 'si' (Línea 1, Columna 5)\n"
+              "   └─ 'x' (Línea 2, Columna 2)\n",
+              "");
+    comprueba(sobre("'\"ñ\t'", {"analiza", "--formato", "json"}), 0,
+              R"({"regla":2,"cabeza":"E","cuerpo":"T","hijos":[{"regla":4,"cabeza":"T","cuerpo":"cad",)"
+              R"("hijos":[{"lexema":"\"ñ\t","linea":1,"columna":1}]}]})"
+              "\n",
+              "");
+    comprueba(sobre("", {"analiza", "--formato=lineas"}), 0,
+              "{\"nodo\":1,\"padre\":0,\"regla\":2,\"cabeza\":\"E\",\"cuerpo\":\"T\"}\n"
+              "{\"nodo\":2,\"padre\":1,\"regla\":6,\"cabeza\":\"T\",\"cuerpo\":\"Ø\"}\n",
+              "");
+}
+
+TEST_F(Orden, UnArbolMuyHondoSeEscribeEnteroYSinCuadrado) {
+    std::string suma = "1";
+    for (int i = 1; i < 10000; ++i) suma += "+1";
+    const Resultado dibujo = sobre(suma, {"analiza"});
+    EXPECT_EQ(dibujo.estado, 0);
+    EXPECT_EQ(std::count(dibujo.salida.begin(), dibujo.salida.end(), '\n'), 39999);
+    EXPECT_LT(dibujo.salida.size(), 40000U * 500);
+    const Resultado json = sobre(suma, {"analiza", "--formato", "json"});
+    EXPECT_EQ(json.estado, 0);
+    EXPECT_EQ(std::count(json.salida.begin(), json.salida.end(), '{'), 39999);
+}
+
+TEST_F(Orden, LexemasHastaElFinalOElError) {
+    comprueba(sobre("si # nota\r\n'a' +", {"lexemas", "--formato", "json"}), 0,
+              "{\"token\":\"si\",\"lexema\":\"si\",\"linea\":1,\"columna\":1}\n"
+              "{\"token\":\"cad\",\"lexema\":\"a\",\"linea\":2,\"columna\":1}\n"
+              "{\"token\":\"mas\",\"lexema\":\"+\",\"linea\":2,\"columna\":5}\n"
+              "{\"token\":\"EOF\",\"lexema\":\"EOF\",\"linea\":2,\"columna\":6}\n",
+              "");
+    comprueba(sobre("7\n ?", {"lexemas"}), 1,
+              "Línea    Columna  Token         Lexema\n"
+              "1        1        num           7\n"
+              "2        2        Norvik_ERROR  ?\n",
+              "Error (Línea 2, Columna 2): caracter '?' incorrecto.\n");
+}
+
+TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
+    const std::string texto = "si<+&?\n# dos\nfin";
+    const std::string ansi = "\x1B[38;2;0;0;128msi\x1B[39m<\x1B[38;2;128;0;0m+\x1B[39m&?\n"
+                             "\x1B[38;2;0;128;0m# dos\x1B[39m\nfin\n";
+    comprueba(sobre(texto, {"colorea", "--formato", "ansi"}), 0, ansi, "");
+    comprueba(sobre(texto, {"colorea"}), 0, texto + "\n", "");
+    EXPECT_EQ(sobre(texto, {"colorea"}, {.salida = Destino::Terminal}).salida, ansi);
+    const Resultado html = sobre(texto, {"colorea", "--formato", "html"});
+    EXPECT_EQ(html.salida.substr(0, 32), "<!DOCTYPE html>\n<html lang=\"es\">");
+    EXPECT_NE(html.salida.find("<pre>\n<span style=\"color:#000080\">si</span>&lt;"
+                               "<span style=\"color:#800000\">+</span>&amp;?\n"
+                               "<span style=\"color:#008000\"># dos</span>\nfin</pre>"),
+              std::string::npos)
+        << html.salida;
+}
+
+TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
+    comprueba(ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta()}), 0,
+              "La gramática carece de problema alguno.\n", "");
+    EXPECT_NE(bytesDe(carpeta_ / "informeGramatica.txt").find("T -> si id\r\n"), std::string::npos);
+
+    const Resultado conflictos = ejecuta({"informe", pon("a.nvk", ambigua), "-o", "-"});
+    EXPECT_EQ(conflictos.estado, 0);
+    EXPECT_EQ(conflictos.salida.substr(0, 37), "Informe sobre la gramática actual:\r\n");
+    EXPECT_EQ(conflictos.errores.substr(0, 35), "Problemas detectados:\r\n\r\nConflicto ");
+}
+
+TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
+    comprueba(ejecuta({"modulo", lenguaje_, "Suma", "-o", carpeta_.ruta()}), 0, ruta("Suma.bas") + "\n", "");
+    const Resultado flujo = ejecuta({"modulo", "-", "Suma", "-o", "-"}, {.entrada = especificacion});
+    comprueba(flujo, 0, flujo.salida, "");
+    EXPECT_EQ(flujo.salida.substr(0, 28), "Attribute VB_Name = \"Suma\"\r\n");
+    const Resultado cpp = ejecuta({"modulo", lenguaje_, "Suma", "--lenguaje", "cpp", "-o", carpeta_.ruta()});
+    comprueba(cpp, 0, ruta("Suma.hpp") + "\n", "");
+    EXPECT_NE(bytesDe(carpeta_ / "Suma.hpp").find("namespace Suma {"), std::string::npos);
+
+    for (const std::string texto : {"1 + SI x", "1 1", "?", "'a' # b"})
+        for (const Palabras& orden : {Palabras{"analiza", "--formato", "json"}, Palabras{"lexemas"},
+                                      Palabras{"colorea", "--formato", "ansi"}}) {
+            const Resultado esperado = sobre(texto, orden);
+            Palabras conModulo = orden;
+            conModulo.insert(conModulo.begin() + 1, {ruta("Suma.bas"), ruta("texto")});
+            comprueba(ejecuta(conModulo), esperado.estado, esperado.salida, esperado.errores);
+        }
+}
+
+TEST_F(Orden, LaEntradaEstandarSirveDeFichero) {
+    const std::string texto = pon("texto", "si x");
+    const std::string salida = ejecuta({"analiza", lenguaje_, texto}).salida;
+    comprueba(ejecuta({"analiza", "-", texto}, {.entrada = especificacion}), 0, salida, "");
+    comprueba(ejecuta({"analiza", lenguaje_, "-"}, {.entrada = "si x\r\n"}), 0, salida, "");
+}
+
+TEST_F(Orden, ElErrorDelTextoEsSuMensajeConElLugarEnUnTerminal) {
+    const std::string mensaje =
+        "Error: Se ha encontrado identificador (Línea 2, Columna 4). Se esperaba '+'.\n";
+    comprueba(sobre("1 +\n\t1 x", {"analiza"}), 1, "", mensaje);
+    EXPECT_EQ(sobre("1 +\n\t1 x", {"analiza"}, {.errores = Destino::Terminal}).errores,
+              mensaje + " 1 x\n   ^\n");
+    comprueba(sobre("1 + ?", {"analiza"}), 1, "", "Error (Línea 1, Columna 5): caracter '?' incorrecto.\n");
+    comprueba(ejecuta({"analiza", "-", lenguaje_}, {.entrada = "Token a\n= 7;"}), 1, "",
+              "Error: Se ha encontrado numero entero (Línea 2, Columna 3). Se esperaba cadena.\n");
+}
+
+TEST_F(Orden, ElErrorDelLenguajeTieneEstado1) {
+    const std::string texto = pon("texto", "b");
+    const std::string titulo = "Atención: ";
+    const Resultado definicion = ejecuta(
+        {"lexemas", pon("l.nvk", "Token a = \"<x>\";\nToken b = \"b\";\nS -> b;"), texto, "--formato=json"});
+    EXPECT_EQ(definicion.estado, 1);
+    EXPECT_EQ(definicion.errores.substr(0, titulo.size()), titulo);
+    EXPECT_EQ(definicion.salida.substr(0, 14), "{\"token\":\"b\",\"");
+    const Resultado variable =
+        ejecuta({"modulo", pon("l.nvk", "Token b = \"b\";\nS -> b X;"), "M", "-o", carpeta_.ruta()});
+    EXPECT_EQ(variable.estado, 1);
+    EXPECT_EQ(variable.salida, "");
+    EXPECT_NE(variable.errores.find('X'), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(carpeta_ / "M.bas"));
+    const Resultado modulo =
+        ejecuta({"analiza", pon("m.BAS", "Attribute VB_Name = \"M\"\r\nEnd Sub"), texto});
+    EXPECT_EQ(modulo.estado, 1);
+    EXPECT_EQ(modulo.errores.substr(0, 22), "Línea 2 del módulo: ");
+}
+
+struct LineaMala {
+    Palabras palabras;
+    std::string error;
+};
+
+TEST_F(Orden, LaLineaIncorrectaSeExplicaEnUnaLinea) {
+    const LineaMala lineas[] = {
+        {{}, "falta la orden (norvik --help las enumera)"},
+        {{"compila"}, "orden desconocida: «compila»"},
+        {{"analiza"}, "falta LENGUAJE (norvik analiza --help lo explica)"},
+        {{"modulo", "x"}, "falta NOMBRE (norvik modulo --help lo explica)"},
+        {{"informe", "x", "y"}, "sobra «y»"},
+        {{"informe", "x", "--lenguaje", "vb"}, "opción desconocida: «--lenguaje»"},
+        {{"analiza", "x", "y", "--formato"}, "falta el valor de la opción «--formato»"},
+        {{"lexemas", "x", "y", "--formato", "arbol"}, "«arbol» no es un valor de --formato (tabla, json)"},
+        {{"analiza", "-", "-"}, "la entrada estándar («-») solo puede estar en lugar de un fichero"},
+        {{"modulo", "x", "2lenguaje"}, "El nombre seleccionado para el lenguaje es incorrecto"},
+        {{"modulo", "x", "mi lenguaje"}, "El nombre seleccionado para el lenguaje es incorrecto"},
+        {{"modulo", "x", "../y"}, "El nombre seleccionado para el lenguaje es incorrecto"},
+        {{"modulo", "x", "class", "--lenguaje", "cpp"},
+         "El nombre seleccionado para el lenguaje es incorrecto"},
+        {{"--help=quizás"}, "opción mal escrita"},
+    };
+    for (const auto& [palabras, error] : lineas)
+        comprueba(ejecuta(palabras), 2, "", "norvik: " + error + "\n");
+}
+
+TEST_F(Orden, AyudaYVersion) {
+    for (const Palabras& palabras :
+         {Palabras{"--help"}, Palabras{"analiza", "--help", "sobra"}, Palabras{"-h"}}) {
+        const Resultado ayuda = ejecuta(palabras, {.variables = {"LANG=C", "LC_ALL=C"}});
+        EXPECT_EQ(ayuda.estado, 0);
+        EXPECT_NE(ayuda.salida.find("norvik analiza"), std::string::npos);
+    }
+    comprueba(ejecuta({"--version"}), 0, "norvik " NORVIK_VERSION "\n", "");
+    comprueba(ejecuta({"--version"}, {.salida = Destino::DiscoLleno}), 2, "",
+              "norvik: No se puede escribir en la salida estándar: no queda espacio en el disco\n");
+}
+
+TEST_F(Orden, UnFicheroLlamadoComoUnaOrdenEsUnFichero) {
+    comprueba(ejecuta({"analiza", "colorea", "informe"}), 2, "",
+              "norvik: No se puede leer «informe»: no existe\n");
+}
+
+TEST_F(Orden, LosFicherosImposiblesTienenSuMensaje) {
+    const std::string texto = pon("texto", "1");
+    const std::pair<Palabras, std::string> filas[] = {
+        {{"analiza", ruta("no"), texto}, "No se puede leer «" + ruta("no") + "»: no existe"},
+        {{"lexemas", lenguaje_, carpeta_.ruta()},
+         "No se puede leer «" + carpeta_.ruta().string() + "»: es una carpeta"},
+        {{"informe", lenguaje_, "-o", ruta("no")},
+         "No se puede escribir en la carpeta «" + ruta("no") + "»: no existe"},
+        {{"modulo", lenguaje_, "M", "-o", texto},
+         "No se puede escribir en la carpeta «" + texto + "»: no es una carpeta"},
+        {{"colorea", "/dev/zero", texto}, "No se puede leer «/dev/zero»: el fichero es demasiado grande"},
+        {{"analiza", lenguaje_, ruta("a\nb")}, "No se puede leer «" + ruta("a␊b") + "»: no existe"},
+    };
+    for (const auto& [palabras, error] : filas)
+        comprueba(ejecuta(palabras), 2, "", "norvik: " + error + "\n");
+    const std::string salida = "norvik: No se puede escribir en la salida estándar: ";
+    for (const auto& [destino, causa] : {std::pair{Destino::DiscoLleno, "no queda espacio en el disco\n"},
+                                         std::pair{Destino::LectorQueSeFue, "el lector se ha ido\n"},
+                                         std::pair{Destino::Cerrado, "no está abierto\n"}})
+        comprueba(ejecuta({"analiza", lenguaje_, texto}, {.salida = destino}), 2, "", salida + causa);
+    EXPECT_EQ(ejecuta({"analiza", lenguaje_, ruta("no")}, {.errores = Destino::LectorQueSeFue}).estado, 2);
+}
+
+struct TextoMalo {
+    const char* nombre;
+    std::string texto;
+    int estado;
+    std::string error;
+};
+
+TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {
+    std::string ruido;
+    for (int i = 0; i < 5000; ++i) ruido.push_back(static_cast<char>(i * 7919 % 251));
+    const std::string nulo = std::string("Error (Línea 1, Columna 1): caracter '") + '\0' + "' incorrecto.\n";
+    const std::string desbordamiento = "norvik: Desbordamiento\n";
+    const TextoMalo textos[] = {
+        {"NUL", std::string("\0", 1), 1, nulo},
+        {"UTF-8 incorrecto", "\xC3(", 1, "Error (Línea 1, Columna 1): caracter 'Ã' incorrecto.\n"},
+        {"fuera del plano básico", "\xF0\x9F\x98\x80", 1,
+         "Error (Línea 1, Columna 1): caracter '\xEF\xBF\xBD' incorrecto.\n"},
+        {"ruido", ruido, 1, nulo},
+        {"32.767 caracteres", std::string(32767, ' '), 2, desbordamiento},
+        {"10 MB", std::string(10'000'000, '1'), 2, desbordamiento},
+    };
+    for (const auto& [nombre, texto, estado, error] : textos) {
+        SCOPED_TRACE(nombre);
+        comprueba(sobre(texto, {"analiza"}), estado, "", error);
+    }
+    EXPECT_EQ(sobre(std::string(32766, ' '), {"analiza"}).estado, 0);
+    const Resultado lenguaje = ejecuta({"analiza", pon("l.nvk", ruido), ruta("texto")});
+    EXPECT_EQ(lenguaje.estado, 1);
+}
+
+} // namespace
+} // namespace norvik

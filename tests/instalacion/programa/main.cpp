@@ -1,0 +1,58 @@
+// A host program: loads a language, from a specification or with the module made for it, and shows what the
+// control then holds and answers. Both ways must show the same.
+
+#include <norvik/base/ficheros.hpp>
+#include <norvik/base/texto.hpp>
+#include <norvik/control/norvik.hpp>
+#include <norvik/platform/memoria/cajaTextoMemoria.hpp>
+#include <norvik/platform/memoria/sistemaMemoria.hpp>
+
+#ifdef MODULO
+#include MODULO
+#endif
+
+#include <iostream>
+#include <vector>
+
+namespace {
+
+void muestraTabla(const norvik::gramatica& gramatica) {
+    for (std::int16_t fila = 0; fila < gramatica.GetDimensionFilasSLR(); ++fila) {
+        for (std::int16_t columna = 0; columna < gramatica.GetDimensionColumnasSLR(); ++columna)
+            std::cout << gramatica.GetElementoTablaSLR(fila, columna) << ' ';
+        std::cout << '\n';
+    }
+}
+
+void muestraArbol(const norvik::Arbol& raiz) {
+    std::vector<const norvik::Arbol*> pendientes{&raiz};
+    while (!pendientes.empty()) {
+        const norvik::Arbol& nodo = *pendientes.back();
+        pendientes.pop_back();
+        std::cout << nodo.GetNumRegla() << ' ' << norvik::aUtf8(nodo.GetLexema()) << '\n';
+        for (std::int16_t hijo = nodo.GetNumHijos(); hijo > 0; --hijo)
+            pendientes.push_back(nodo.GetHijo(hijo));
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) return 2;
+    norvik::CajaTextoMemoria caja;
+    norvik::SistemaMemoria sistema(
+        [](const norvik::Mensaje& mensaje) { std::cerr << norvik::aUtf8(mensaje.texto) << '\n'; });
+    norvik::Norvik control(caja, sistema);
+#ifdef MODULO
+    Ejemplo::CargaLenguaje(control);
+#else
+    if (!control.CargaGramatica(norvik::leeTexto(argv[1])) || !control.GeneraCompilador()) return 1;
+#endif
+    muestraTabla(control.Gramatica());
+    control.Text(norvik::leeTexto(argv[2]));
+    if (control.ConstruyeArbolSintactico())
+        muestraArbol(control.GetArbolSintactico());
+    else
+        std::cout << norvik::aUtf8(control.GetmensajeError()) << '\n';
+    return 0;
+}
