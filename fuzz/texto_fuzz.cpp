@@ -1,0 +1,41 @@
+// Any bytes as a text in one of the example languages, which the first byte chooses.
+
+#include "anfitrion.hpp"
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Lenguajes = std::vector<std::unique_ptr<norvik::fuzz::Anfitrion>>;
+
+Lenguajes cargaEjemplos() {
+    std::vector<fs::path> especificaciones;
+    for (const auto& carpeta : fs::directory_iterator(NORVIK_SOURCE_DIR "/ejemplos")) {
+        const fs::path especificacion = carpeta.path() / (carpeta.path().filename().string() + ".nvk");
+        if (fs::exists(especificacion)) especificaciones.push_back(especificacion);
+    }
+    std::sort(especificaciones.begin(), especificaciones.end());
+    Lenguajes lenguajes;
+    for (const fs::path& especificacion : especificaciones) {
+        norvik::Norvik& control =
+            lenguajes.emplace_back(std::make_unique<norvik::fuzz::Anfitrion>())->control;
+        control.CargaGramatica(norvik::leeTexto(especificacion));
+        control.GeneraCompilador();
+    }
+    return lenguajes;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t n) {
+    static const Lenguajes lenguajes = cargaEjemplos();
+    if (n == 0) return 0;
+    const auto bytes = norvik::fuzz::bytesDe(datos + 1, n - 1);
+    norvik::fuzz::usa(lenguajes[datos[0] % lenguajes.size()]->control,
+                      norvik::normalizaLineas(norvik::decodifica(bytes)));
+    return 0;
+}
