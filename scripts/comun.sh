@@ -1,0 +1,26 @@
+# shellcheck shell=bash disable=SC2034
+# Shared by the scripts: packages of Debian 12, and where things are. To be sourced.
+
+raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+paquetes_base=(g++ cmake ninja-build pkg-config libpcre2-dev rapidjson-dev libcli11-dev libgtest-dev)
+
+# Installs what is missing, and asks the network for nothing when nothing is.
+instala() {
+    local faltan=() paquete como=()
+    for paquete in "$@"; do
+        [[ $(dpkg-query -W -f '${db:Status-Status}' "$paquete" 2>/dev/null) == installed ]] || faltan+=("$paquete")
+    done
+    ((${#faltan[@]})) || return 0
+    [[ $(id -u) == 0 ]] || como=(sudo)
+    "${como[@]}" apt-get -qq update
+    "${como[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${faltan[@]}"
+}
+
+# Configures and builds a preset, or some targets of it.
+construye() {
+    local preset=$1
+    shift
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}
