@@ -1,0 +1,258 @@
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
+
+#include <QScopedValueRollback>
+#include <QTextCursor>
+
+#include <algorithm>
+#include <utility>
+
+namespace norvik {
+
+CajaTextoQt::CajaTextoQt(QWidget* padre)
+    : vista_(std::make_unique<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
+    CajaTextoQt::ponFuente(fuente());
+    conecta();
+}
+
+CajaTextoQt::~CajaTextoQt() {
+    vista_->disconnect();
+    vista_->document()->disconnect();
+}
+
+void CajaTextoQt::conecta() {
+    QObject::connect(vista_->document(), &QTextDocument::contentsChange, vista_.get(),
+                     [this](int desde, int quitados, int puestos) {
+                         if (!copiando_) espejo_.anota(desde, quitados, puestos);
+                     });
+    QObject::connect(vista_.get(), &QPlainTextEdit::textChanged, vista_.get(), [this] { recogeEdicion(); });
+    const auto otraSeleccion = [this] { protege([this] { recogeSeleccion(); }); };
+    QObject::connect(vista_.get(), &QPlainTextEdit::selectionChanged, vista_.get(), otraSeleccion);
+    QObject::connect(vista_.get(), &QPlainTextEdit::cursorPositionChanged, vista_.get(), otraSeleccion);
+}
+
+QWidget& CajaTextoQt::ventana() {
+    return *vista_;
+}
+
+void CajaTextoQt::ponFuente(const Fuente& fuente) {
+    CajaTextoMemoria::ponFuente(fuente);
+    const QFont letra = aQFont(fuente);
+    vista_->setFont(letra);
+    constexpr int espaciosPorTabulacion = 4;
+    vista_->setTabStopDistance(QFontMetricsF(letra).horizontalAdvance(u' ') * espaciosPorTabulacion);
+    repinta();
+}
+
+void CajaTextoQt::ponOcultaSeleccion(bool oculta) {
+    CajaTextoMemoria::ponOcultaSeleccion(oculta);
+    pideAlDia();
+}
+
+void CajaTextoQt::cambiaFoco(bool enfocada) {
+    seleccionALaVista_ = enfocada;
+    ponAlDia();
+}
+
+std::int32_t CajaTextoQt::primeraLineaVisible() const {
+    return vista_->primeraLineaVisible();
+}
+
+std::int32_t CajaTextoQt::altoDeLinea() const {
+    return aTwips(QFontMetricsF(vista_->font()).height(), twipsPorPixel(*vista_).y);
+}
+
+void CajaTextoQt::ponIzquierda(std::int32_t twips) {
+    CajaTextoMemoria::ponIzquierda(twips);
+    vista_->move(aPixeles(twips, twipsPorPixel(*vista_).x), vista_->y());
+}
+
+void CajaTextoQt::enfoca() {
+    vista_->setFocus();
+}
+
+void CajaTextoQt::desbloqueaDibujo() {
+    if (--bloqueos_ == 0) pideAlDia();
+}
+
+// ---- from the model to the editor
+
+/// The editor is brought up to date before it is next drawn: at the end of the event being served, or of the
+/// call that changed the box.
+void CajaTextoQt::pideAlDia() {
+    if (std::exchange(alDiaPedido_, true)) return;
+    QMetaObject::invokeMethod(
+        vista_.get(), [this] { ponAlDia(); }, Qt::QueuedConnection);
+}
+
+void CajaTextoQt::ponAlDia() {
+    alDiaPedido_ = false;
+    if (bloqueos_ > 0) return;
+    const QScopedValueRollback<bool> copiando(copiando_, true);
+    ponEstilosEnVista();
+    ponSeleccionEnVista();
+}
+
+void CajaTextoQt::alSustituir(const Sustitucion& s) {
+    if (sucio_ && sucio_->fin > s.inicio)
+        sucio_->fin = std::max(sucio_->fin + s.puestos - s.quitados, s.inicio);
+    if (!std::exchange(deLaVista_, false)) {
+        const QScopedValueRollback<bool> copiando(copiando_, true);
+        espejo_.copia(s.inicio, s.inicio + s.puestos);
+        vistaAtrasada_ = true;
+    }
+    ensucia({s.inicio, s.inicio + s.puestos});
+}
+
+void CajaTextoQt::alPintar(std::int32_t inicio, std::int32_t longitud) {
+    ensucia({inicio, inicio + longitud});
+}
+
+void CajaTextoQt::ensucia(Tramo tramo) {
+    if (!sucio_) sucio_ = tramo;
+    sucio_ = Tramo{std::min(sucio_->inicio, tramo.inicio), std::max(sucio_->fin, tramo.fin)};
+    pideAlDia();
+}
+
+void CajaTextoQt::repinta() {
+    ensucia({0, static_cast<std::int32_t>(texto().size())});
+}
+
+void CajaTextoQt::cambiaComposicion() {
+    ensucia({inicioSeleccion(), inicioSeleccion()});
+}
+
+CajaTextoQt::Tramo CajaTextoQt::seleccionModelo() const {
+    return {inicioSeleccion(), inicioSeleccion() + longitudSeleccion()};
+}
+
+CajaTextoQt::Tramo CajaTextoQt::seleccionVista() const {
+    const QTextCursor cursor = vista_->textCursor();
+    return {espejo_.enTexto(cursor.selectionStart()), espejo_.enTexto(cursor.selectionEnd())};
+}
+
+void CajaTextoQt::ponSeleccionEnVista() {
+    const Tramo modelo = seleccionModelo();
+    const bool visible = seleccionALaVista_ || !ocultaSeleccion();
+    const int inicio = espejo_.enDocumento(modelo.inicio);
+    const int fin = visible ? espejo_.enDocumento(modelo.fin) : inicio;
+    QTextCursor cursor = vista_->textCursor();
+    if (cursor.selectionStart() != inicio || cursor.selectionEnd() != fin) {
+        cursor.setPosition(inicio);
+        cursor.setPosition(fin, QTextCursor::KeepAnchor);
+        vista_->setTextCursor(cursor);
+    }
+    if (modelo != sincronizada_) vista_->ensureCursorVisible();
+    sincronizada_ = modelo;
+    puesta_ = seleccionVista();
+    vistaAtrasada_ = false;
+}
+
+void CajaTextoQt::ponEstilosEnVista() {
+    if (!sucio_) return;
+    QTextDocument& documento = *vista_->document();
+    const Tramo sucio = *std::exchange(sucio_, std::nullopt);
+    const std::int32_t primera = lineaDeCaracter(sucio.inicio);
+    const std::int32_t ultima = lineaDeCaracter(sucio.fin);
+    QTextBlock bloque = documento.findBlockByNumber(primera);
+    const int desde = bloque.position();
+    int hasta = desde;
+    for (std::int32_t linea = primera; linea <= ultima; ++linea, bloque = bloque.next()) {
+        QTextLayout& trazado = *bloque.layout();
+        if (!trazado.preeditAreaText().isEmpty()) continue; // its formats are the input method's
+        const auto nuevos = formatos(inicioDeLinea(linea), bloque.length() - 1);
+        if (nuevos == trazado.formats()) continue;
+        trazado.setFormats(nuevos);
+        hasta = bloque.position() + bloque.length();
+    }
+    if (hasta > desde) documento.markContentsDirty(desde, hasta - desde);
+}
+
+QList<QTextLayout::FormatRange> CajaTextoQt::formatos(std::int32_t inicio, std::int32_t longitud) const {
+    const auto comienzo = estilos().begin() + inicio;
+    const auto final = comienzo + longitud;
+    QList<QTextLayout::FormatRange> tramos;
+    for (auto i = comienzo; i != final;) {
+        const auto fin = std::find_if(i, final, [&](const Estilo& e) { return e != *i; });
+        if (*i != Estilo{}) {
+            tramos.append({static_cast<int>(i - comienzo), static_cast<int>(fin - i), formato(*i)});
+        }
+        i = fin;
+    }
+    return tramos;
+}
+
+/// Colour 0 is plain text and has the palette's colour, which can be read whatever the background is.
+QTextCharFormat CajaTextoQt::formato(const Estilo& estilo) const {
+    QTextCharFormat f;
+    if (estilo.color != 0)
+        f.setForeground(legible(aQColor(estilo.color), vista_->palette().color(QPalette::Base)));
+    if (estilo.letra != 0) {
+        f.setFontFamilies({aQString(letra(estilo.letra).nombre)});
+        f.setFontPointSize(aPuntos(letra(estilo.letra).tamano));
+    }
+    return f;
+}
+
+// ---- from the editor to the model
+
+void CajaTextoQt::recogeEdicion() {
+    if (copiando_ || !espejo_.hayEdicion()) return;
+    const EspejoDocumento::Edicion e = espejo_.dameEdicion();
+    const QTextCursor cursor = vista_->textCursor();
+    const Tramo seleccion{espejo_.trasEdicion(e, cursor.selectionStart()),
+                          espejo_.trasEdicion(e, cursor.selectionEnd())};
+    puesta_ = sincronizada_ = seleccion;
+    deLaVista_ = true;
+    protege([&] {
+        const EspejoDocumento::Edicion r = espejo_.recortada(e);
+        edita(r.inicio, r.fin - r.inicio, r.nuevo, seleccion.inicio, seleccion.fin - seleccion.inicio);
+    });
+}
+
+/// A selection that the host moved meanwhile is not taken back to where the editor still has it.
+void CajaTextoQt::recogeSeleccion() {
+    if (copiando_ || espejo_.hayEdicion() || vistaAtrasada_ || seleccionModelo() != sincronizada_) return;
+    const Tramo vista = seleccionVista();
+    if (vista == puesta_) return;
+    puesta_ = sincronizada_ = vista;
+    selecciona(vista.inicio, vista.fin - vista.inicio);
+}
+
+void CajaTextoQt::pega(const QString& texto) {
+    if (eventos.vaAPegar) eventos.vaAPegar();
+    reemplazaSeleccion(vistaDe(texto));
+}
+
+void CajaTextoQt::suelta(const QString& texto, int posicion, bool mueve) {
+    std::int32_t destino = espejo_.enTexto(posicion);
+    const Tramo origen = seleccionModelo();
+    if (mueve) {
+        if (destino >= origen.inicio && destino <= origen.fin) return;
+        reemplazaSeleccion({});
+        if (destino > origen.fin) destino -= origen.fin - origen.inicio;
+    }
+    selecciona(destino, 0);
+    pega(texto);
+    selecciona(destino, inicioSeleccion() - destino);
+}
+
+QString CajaTextoQt::textoParaCopiar() const {
+    return aQString(textoSeleccionado())
+        .replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(u'\r', u'\n');
+}
+
+void CajaTextoQt::avisaFallo(const std::u16string& texto) {
+    if (std::exchange(falloPendiente_, true)) return;
+    const auto avisa = [this, texto] {
+        falloPendiente_ = false;
+        if (alFallar) alFallar(texto);
+    };
+    QMetaObject::invokeMethod(vista_.get(), avisa, Qt::QueuedConnection);
+}
+
+} // namespace norvik

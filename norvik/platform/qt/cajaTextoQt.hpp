@@ -1,0 +1,118 @@
+#pragma once
+
+#include "norvik/base/errores.hpp"
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/qt/espejoDocumento.hpp"
+
+#include <QTextLayout>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace norvik {
+
+class VistaTexto;
+
+// The text box in a window. The box in memory is its text, colours and selection, exactly as without a
+// window; a Qt editor shows them and edits. What hosts do to the box goes to the model and is copied to the
+// editor; what the user does to the editor is noticed and done to the model, which raises the events.
+//
+// Text is copied at once, selection and colours when the work at hand is over: thousands of changes of the
+// selection and of colours while a text is coloured cost the editor one update, and no state between them is
+// ever seen. Colours are layout formats of the lines, not text formats: they are no edits and are cheap.
+
+/// The text box shown by Qt. Must be destroyed before its parent.
+class CajaTextoQt final : public CajaTextoMemoria {
+public:
+    explicit CajaTextoQt(QWidget* padre = nullptr);
+    CajaTextoQt(const CajaTextoQt&) = delete;
+    CajaTextoQt& operator=(const CajaTextoQt&) = delete;
+    ~CajaTextoQt() override;
+
+    void ponFuente(const Fuente& fuente) override;
+    void ponOcultaSeleccion(bool oculta) override;
+    std::int32_t primeraLineaVisible() const override;
+    std::int32_t altoDeLinea() const override;
+    void ponIzquierda(std::int32_t twips) override;
+    void enfoca() override;
+    void bloqueaDibujo() override { ++bloqueos_; }
+    void desbloqueaDibujo() override;
+
+    QWidget& ventana();
+    /// Receives the text of a failure that was raised while an event of the user was served.
+    std::function<void(const std::u16string& texto)> alFallar;
+
+    // For the editor that shows the box.
+    /// Serves an event of the user: the editor is up to date before it and after it.
+    template <typename Accion>
+    void atiende(Accion accion) {
+        ponAlDia();
+        protege(accion);
+        ponAlDia();
+    }
+    /// Inserts text that the user brings from elsewhere.
+    void pega(const QString& texto);
+    /// The same at a place of the document, where it ends selected; moved there, when it was the selection.
+    void suelta(const QString& texto, int posicion, bool mueve);
+    /// The selection's text as other programs take it.
+    QString textoParaCopiar() const;
+    void ponAlDia();
+    void recogeSeleccion();
+    void repinta();
+    /// The focus came or went.
+    void cambiaFoco(bool enfocada);
+    /// Composed text that is not yet part of the text came to the caret's line, or went.
+    void cambiaComposicion();
+
+protected:
+    void alSustituir(const Sustitucion& sustitucion) override;
+    void alSeleccionar() override { pideAlDia(); }
+    void alPintar(std::int32_t inicio, std::int32_t longitud) override;
+
+private:
+    struct Tramo {
+        std::int32_t inicio = 0;
+        std::int32_t fin = 0;
+        bool operator==(const Tramo&) const = default;
+    };
+
+    /// What is raised on the way stops here: the event loop that called can do nothing with it.
+    template <typename Accion>
+    void protege(Accion accion) {
+        try {
+            accion();
+        } catch (const ErrorNorvik& e) {
+            avisaFallo(e.texto());
+        } catch (const std::exception& e) {
+            avisaFallo(QString::fromUtf8(e.what()).toStdU16String());
+        }
+    }
+    void conecta();
+    void pideAlDia();
+    void recogeEdicion();
+    void avisaFallo(const std::u16string& texto);
+    Tramo seleccionModelo() const;
+    Tramo seleccionVista() const;
+    void ponSeleccionEnVista();
+    void ponEstilosEnVista();
+    QList<QTextLayout::FormatRange> formatos(std::int32_t inicio, std::int32_t longitud) const;
+    QTextCharFormat formato(const Estilo& estilo) const;
+    void ensucia(Tramo tramo);
+
+    const std::unique_ptr<VistaTexto> vista_;
+    EspejoDocumento espejo_;
+    Tramo puesta_;               ///< selection that the editor was last given, or that was last taken from it
+    Tramo sincronizada_;         ///< the model's selection then
+    std::optional<Tramo> sucio_; ///< characters whose style the editor may not show
+    int bloqueos_ = 0;
+    bool copiando_ = false;      ///< the editor changes because of the model
+    bool deLaVista_ = false;     ///< the model's next change is what the editor has already
+    bool vistaAtrasada_ = false; ///< the editor's selection is not the model's
+    bool seleccionALaVista_ = true;
+    bool alDiaPedido_ = false;
+    bool falloPendiente_ = false;
+};
+
+} // namespace norvik

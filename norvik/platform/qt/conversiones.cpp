@@ -1,0 +1,56 @@
+#include "norvik/platform/qt/conversiones.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace norvik {
+
+namespace {
+
+/// Relative luminance of sRGB, 0 black to 1 white, and the ratio of two, 1 to 21 (WCAG 2).
+double luminancia(const QColor& color) {
+    const auto lineal = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * lineal(color.red() / 255.0) + 0.7152 * lineal(color.green() / 255.0) +
+           0.0722 * lineal(color.blue() / 255.0);
+}
+
+double contraste(const QColor& a, const QColor& b) {
+    const auto [menor, mayor] = std::minmax(luminancia(a), luminancia(b));
+    return (mayor + 0.05) / (menor + 0.05);
+}
+
+constexpr double contrasteSuficiente = 4.5;
+
+} // namespace
+
+QColor legible(const QColor& color, const QColor& fondo) {
+    const bool fondoClaro = luminancia(fondo) > 0.18; // as far from black as from white
+    QColor visto = color;
+    for (float luz = color.lightnessF(); !fondoClaro && luz < 1; luz += 0.05F) {
+        visto.setHslF(std::max(color.hslHueF(), 0.0F), color.hslSaturationF(), luz);
+        if (contraste(visto, fondo) >= contrasteSuficiente) return visto;
+    }
+    return visto;
+}
+
+double aPuntos(std::int32_t tamano) {
+    return std::clamp(tamano / 10000.0, 1.0, 1638.0);
+}
+
+QFont aQFont(const Fuente& fuente) {
+    constexpr int pesoNegrita = 700;
+    QFont letra;
+    letra.setFamilies({aQString(fuente.nombre)});
+    letra.setStyleHint(QFont::TypeWriter);
+    letra.setPointSizeF(aPuntos(fuente.tamano));
+    const int peso = fuente.negrita ? std::max<int>(fuente.peso, pesoNegrita) : fuente.peso;
+    letra.setWeight(static_cast<QFont::Weight>(std::clamp(peso, 1, 1000)));
+    letra.setItalic(fuente.cursiva);
+    letra.setStrikeOut(fuente.tachado);
+    letra.setUnderline(fuente.subrayado);
+    return letra;
+}
+
+} // namespace norvik

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+inline QString aQString(std::u16string_view texto) {
+    return QStringView(texto.data(), static_cast<qsizetype>(texto.size())).toString();
+}
+
+inline std::u16string_view vistaDe(const QString& texto) {
+    return {QStringView(texto).utf16(), static_cast<std::size_t>(texto.size())};
+}
+
+/// A colour 0x00BBGGRR.
+inline QColor aQColor(std::int32_t color) {
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+/// The colour as it can be read on a background: on a dark one, colours chosen for light paper are made
+/// lighter until they stand out.
+QColor legible(const QColor& color, const QColor& fondo);
+
+QFont aQFont(const Fuente& fuente);
+/// A size in 1/10000 points as one that a font can have.
+double aPuntos(std::int32_t tamano);
+
+} // namespace norvik

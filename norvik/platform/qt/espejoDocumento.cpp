@@ -1,0 +1,143 @@
+#include "norvik/platform/qt/espejoDocumento.hpp"
+
+#include "norvik/base/texto.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+
+#include <QTextCursor>
+
+#include <algorithm>
+
+namespace norvik {
+
+namespace {
+
+/// What shows a character: control characters have pictures of their own.
+char16_t visible(char16_t c) {
+    constexpr char16_t primerDibujo = 0x2400;
+    constexpr char16_t dibujoDeSuprimir = 0x2421;
+    constexpr char16_t dibujoDeSalto = 0x2424;
+    constexpr char16_t sinDibujo = 0xFFFD;
+    if (c < u' ' && c != u'\t') return static_cast<char16_t>(primerDibujo + c);
+    if (c == 0x7F) return dibujoDeSuprimir;
+    if (c == 0x2028 || c == 0x2029) return dibujoDeSalto;
+    return c == 0xFDD0 || c == 0xFDD1 || c == 0xFFFC ? sinDibujo : c;
+}
+
+QString comoSeVe(std::u16string_view texto) {
+    QString visto;
+    visto.reserve(static_cast<qsizetype>(texto.size()));
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') ++i;
+        visto += texto[i] == u'\r' || texto[i] == u'\n' ? QChar(u'\n') : QChar(visible(texto[i]));
+    }
+    return visto;
+}
+
+} // namespace
+
+/// Where the characters of a line end, its break left out.
+std::int32_t EspejoDocumento::finDeLinea(std::int32_t linea) const {
+    const std::u16string_view texto = fuente_.texto();
+    const std::int32_t siguiente = fuente_.inicioDeLinea(linea + 1);
+    if (siguiente < 0) return static_cast<std::int32_t>(texto.size());
+    return texto.substr(0, static_cast<std::size_t>(siguiente)).ends_with(saltoDeLinea) ? siguiente - 2
+                                                                                        : siguiente - 1;
+}
+
+int EspejoDocumento::enDocumento(std::int32_t posicion) const {
+    const std::int32_t linea = fuente_.lineaDeCaracter(posicion);
+    const QTextBlock bloque = documento_.findBlockByNumber(linea);
+    return bloque.position() + std::min(posicion - fuente_.inicioDeLinea(linea), bloque.length() - 1);
+}
+
+std::int32_t EspejoDocumento::enTexto(int posicion) const {
+    const QTextBlock bloque = documento_.findBlock(posicion);
+    return fuente_.inicioDeLinea(bloque.blockNumber()) + posicion - bloque.position();
+}
+
+int EspejoDocumento::enDocumentoDesdeElFinal(std::int32_t posicion) const {
+    const std::int32_t linea = fuente_.lineaDeCaracter(posicion);
+    const int desdeElFinal = fuente_.numeroDeLineas() - linea;
+    const QTextBlock bloque = documento_.findBlockByNumber(documento_.blockCount() - desdeElFinal);
+    return bloque.position() + bloque.length() - 1 - (finDeLinea(linea) - posicion);
+}
+
+std::int32_t EspejoDocumento::enTextoDesdeElFinal(int posicion) const {
+    const QTextBlock bloque = documento_.findBlock(posicion);
+    const int desdeElFinal = documento_.blockCount() - bloque.blockNumber();
+    return finDeLinea(fuente_.numeroDeLineas() - desdeElFinal) -
+           (bloque.position() + bloque.length() - 1 - posicion);
+}
+
+void EspejoDocumento::copia(std::int32_t inicio, std::int32_t fin) {
+    const std::u16string_view texto = fuente_.texto();
+    const auto es = [&](std::int32_t p, char16_t c) {
+        return p >= 0 && static_cast<std::size_t>(p) < texto.size() &&
+               texto[static_cast<std::size_t>(p)] == c;
+    };
+    // Half a break beside the change may have found or lost its other half.
+    if (es(inicio - 1, u'\r')) --inicio;
+    if (es(fin, u'\n')) ++fin;
+    QTextCursor cursor(&documento_);
+    const int hasta = enDocumentoDesdeElFinal(fin);
+    cursor.setPosition(enDocumento(inicio));
+    cursor.setPosition(hasta, QTextCursor::KeepAnchor);
+    cursor.insertText(
+        comoSeVe(texto.substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(fin - inicio))));
+}
+
+void EspejoDocumento::anota(int desde, int /*quitados*/, int puestos) {
+    const int detras = std::max(ultimaPosicion() - desde - puestos, 0);
+    if (!cambio_) cambio_ = Cambio{desde, detras};
+    cambio_ = Cambio{std::min(cambio_->delante, desde), std::min(cambio_->detras, detras)};
+}
+
+std::u16string EspejoDocumento::lee(int desde, int hasta) const {
+    std::u16string leido;
+    for (QTextBlock b = documento_.findBlock(desde); b.isValid() && b.position() <= hasta; b = b.next()) {
+        if (b.position() > desde) leido += saltoDeLinea;
+        const QString linea = b.text();
+        const int primera = std::max(desde - b.position(), 0);
+        const int cuantas = std::min(hasta - b.position(), b.length() - 1) - primera;
+        leido += vistaDe(linea).substr(static_cast<std::size_t>(primera), static_cast<std::size_t>(cuantas));
+    }
+    return leido;
+}
+
+EspejoDocumento::Edicion EspejoDocumento::dameEdicion() {
+    const int desde = cambio_->delante;
+    const int hasta = std::max(ultimaPosicion() - cambio_->detras, desde);
+    cambio_.reset();
+    const std::int32_t inicio = enTexto(desde);
+    return {inicio, std::max(enTextoDesdeElFinal(hasta), inicio), lee(desde, hasta), desde, hasta};
+}
+
+EspejoDocumento::Edicion EspejoDocumento::recortada(Edicion e) const {
+    const std::u16string_view texto = fuente_.texto();
+    const auto seVe = [&](std::int32_t posicion, char16_t c) {
+        const char16_t suyo = texto[static_cast<std::size_t>(posicion)];
+        return c == suyo || (c == visible(suyo) && suyo != u'\r' && suyo != u'\n');
+    };
+    std::size_t iguales = 0;
+    while (e.inicio < e.fin && iguales < e.nuevo.size() && seVe(e.inicio, e.nuevo[iguales])) {
+        ++e.inicio;
+        ++iguales;
+    }
+    e.nuevo.erase(0, iguales);
+    while (e.inicio < e.fin && !e.nuevo.empty() && seVe(e.fin - 1, e.nuevo.back())) {
+        --e.fin;
+        e.nuevo.pop_back();
+    }
+    return e;
+}
+
+std::int32_t EspejoDocumento::trasEdicion(const Edicion& edicion, int posicion) const {
+    if (posicion <= edicion.desde) return enTexto(posicion);
+    if (posicion < edicion.hasta) {
+        return edicion.inicio + static_cast<std::int32_t>(lee(edicion.desde, posicion).size());
+    }
+    const auto crece = static_cast<std::int32_t>(edicion.nuevo.size()) - (edicion.fin - edicion.inicio);
+    return enTextoDesdeElFinal(posicion) + crece;
+}
+
+} // namespace norvik

@@ -1,0 +1,222 @@
+#include "norvik/platform/qt/vistaTexto.hpp"
+
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/teclas.hpp"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QMimeData>
+#include <memory>
+
+namespace norvik {
+
+VistaTexto::VistaTexto(CajaTextoQt& caja, QWidget* padre) : QPlainTextEdit(padre), caja_(caja) {
+    setUndoRedoEnabled(false);
+    setLineWrapMode(NoWrap);
+    setFrameStyle(QFrame::NoFrame);
+    setTabChangesFocus(true);
+    viewport()->setMouseTracking(true); // moves are told whether a button is held or not
+    constexpr double margen = 2;
+    document()->setDocumentMargin(margen);
+}
+
+/// Shortcuts with the control key belong to the host's menus first.
+bool VistaTexto::event(QEvent* evento) {
+    if (evento->type() == QEvent::ShortcutOverride &&
+        mascaraDe(*static_cast<QKeyEvent*>(evento)) == mascara::control) {
+        evento->ignore();
+        return false;
+    }
+    return QPlainTextEdit::event(evento);
+}
+
+void VistaTexto::changeEvent(QEvent* evento) {
+    QPlainTextEdit::changeEvent(evento);
+    if (evento->type() == QEvent::PaletteChange) caja_.repinta(); // colours follow the background
+}
+
+// ---- keys
+
+void VistaTexto::keyPressEvent(QKeyEvent* evento) {
+    caja_.atiende([&] { pulsa(*evento); });
+}
+
+void VistaTexto::pulsa(QKeyEvent& evento) {
+    std::int16_t codigo = codigoDeTecla(evento);
+    if (codigo == 0) return QPlainTextEdit::keyPressEvent(&evento);
+    const std::int16_t antes = codigo;
+    std::int16_t shift = mascaraDe(evento);
+    evento.accept();
+    if (caja_.eventos.teclaAbajo) caja_.eventos.teclaAbajo(codigo, shift);
+    if (codigo == 0) return;
+    const Qt::Key otra = codigo == antes ? Qt::Key_unknown : teclaDeCodigo(codigo);
+    if (otra == Qt::Key_unknown) return escribe(evento);
+    QKeyEvent cambiada(QEvent::KeyPress, otra, evento.modifiers());
+    escribe(cambiada);
+}
+
+/// A key that writes raises its characters first; those that come back as they were are written by the
+/// editor.
+void VistaTexto::escribe(QKeyEvent& evento) {
+    const bool escribeTexto = evento.key() != Qt::Key_Delete && !evento.text().isEmpty();
+    const QString texto = escribeTexto ? filtra(evento.text()) : evento.text();
+    if (texto != evento.text()) return caja_.reemplazaSeleccion(vistaDe(texto));
+    const bool saltoBlando = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
+    const auto teclas = saltoBlando ? evento.modifiers() & ~Qt::ShiftModifier : evento.modifiers();
+    QKeyEvent copia(QEvent::KeyPress, evento.key(), teclas, texto);
+    QPlainTextEdit::keyPressEvent(&copia);
+    evento.setAccepted(copia.isAccepted());
+}
+
+/// The text after the box's receiver has seen each character: 0 suppresses one.
+QString VistaTexto::filtra(const QString& texto) {
+    if (!caja_.eventos.pulsacion) return texto;
+    QString queda;
+    for (const QChar c : texto) {
+        auto caracter = static_cast<std::int16_t>(c.unicode());
+        caja_.eventos.pulsacion(caracter);
+        if (caracter != 0) queda += QChar(static_cast<char16_t>(caracter));
+    }
+    return queda;
+}
+
+void VistaTexto::keyReleaseEvent(QKeyEvent* evento) {
+    std::int16_t codigo = codigoDeTecla(*evento);
+    std::int16_t shift = mascaraDe(*evento);
+    caja_.atiende([&] {
+        const bool avisa = codigo != 0 && !evento->isAutoRepeat() && caja_.eventos.teclaArriba;
+        if (avisa) caja_.eventos.teclaArriba(codigo, shift);
+    });
+    QPlainTextEdit::keyReleaseEvent(evento);
+}
+
+/// Composed characters are typed characters.
+void VistaTexto::inputMethodEvent(QInputMethodEvent* evento) {
+    caja_.atiende([&] {
+        QInputMethodEvent filtrado(evento->preeditString(), evento->attributes());
+        filtrado.setCommitString(filtra(evento->commitString()), evento->replacementStart(),
+                                 evento->replacementLength());
+        QPlainTextEdit::inputMethodEvent(&filtrado);
+        evento->setAccepted(filtrado.isAccepted());
+        caja_.cambiaComposicion();
+    });
+}
+
+// ---- mouse
+
+void VistaTexto::avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton) {
+    if (!evento) return;
+    std::int16_t boton = botonDe(raton);
+    std::int16_t shift = mascaraDe(raton.modifiers());
+    const TwipsPorPixel tpp = twipsPorPixel(*this);
+    const QPointF punto = raton.position() + QPointF(viewport()->pos());
+    auto x = static_cast<float>(punto.x() * tpp.x);
+    auto y = static_cast<float>(punto.y() * tpp.y);
+    evento(boton, shift, x, y);
+}
+
+void VistaTexto::mousePressEvent(QMouseEvent* evento) {
+    caja_.atiende([&] {
+        avisaRaton(caja_.eventos.ratonAbajo, *evento);
+        QPlainTextEdit::mousePressEvent(evento);
+    });
+}
+
+void VistaTexto::mouseDoubleClickEvent(QMouseEvent* evento) {
+    caja_.atiende([&] {
+        avisaRaton(caja_.eventos.ratonAbajo, *evento);
+        QPlainTextEdit::mouseDoubleClickEvent(evento);
+    });
+}
+
+void VistaTexto::mouseMoveEvent(QMouseEvent* evento) {
+    caja_.atiende([&] {
+        avisaRaton(caja_.eventos.ratonMueve, *evento);
+        QPlainTextEdit::mouseMoveEvent(evento);
+    });
+}
+
+void VistaTexto::mouseReleaseEvent(QMouseEvent* evento) {
+    caja_.atiende([&] {
+        avisaRaton(caja_.eventos.ratonArriba, *evento);
+        QPlainTextEdit::mouseReleaseEvent(evento);
+        const bool dentro = viewport()->rect().contains(evento->position().toPoint());
+        if (evento->button() == Qt::LeftButton && dentro && caja_.eventos.click) caja_.eventos.click();
+    });
+}
+
+/// The menu edits through the keys that do the same, so that the host sees the same events.
+void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
+    const bool hay = caja_.longitudSeleccion() > 0;
+    QMenu menu(this);
+    const auto pon = [&](const QString& nombre, bool activa, auto accion) {
+        menu.addAction(nombre, this, accion)->setEnabled(activa);
+    };
+    pon(QStringLiteral("Cor&tar"), hay, [this] { teclea(Qt::Key_Delete, Qt::ShiftModifier); });
+    pon(QStringLiteral("&Copiar"), hay, [this] { copy(); });
+    pon(QStringLiteral("&Pegar"), canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
+    pon(QStringLiteral("&Eliminar"), hay, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
+    menu.addSeparator();
+    pon(QStringLiteral("&Seleccionar todo"), !document()->isEmpty(), [this] { selectAll(); });
+    menu.exec(evento->globalPos());
+}
+
+void VistaTexto::teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas) {
+    QKeyEvent abajo(QEvent::KeyPress, tecla, teclas);
+    QKeyEvent arriba(QEvent::KeyRelease, tecla, teclas);
+    keyPressEvent(&abajo);
+    keyReleaseEvent(&arriba);
+}
+
+// ---- focus
+
+void VistaTexto::focusInEvent(QFocusEvent* evento) {
+    caja_.cambiaFoco(true);
+    QPlainTextEdit::focusInEvent(evento);
+}
+
+/// A menu that opens takes the focus for a moment only.
+void VistaTexto::focusOutEvent(QFocusEvent* evento) {
+    QPlainTextEdit::focusOutEvent(evento);
+    if (evento->reason() == Qt::PopupFocusReason) return;
+    caja_.atiende([&] {
+        if (caja_.eventos.pierdeFoco) caja_.eventos.pierdeFoco();
+    });
+    caja_.cambiaFoco(false);
+}
+
+// ---- paste and drop: plain text only
+
+bool VistaTexto::canInsertFromMimeData(const QMimeData* datos) const {
+    return datos->hasText();
+}
+
+void VistaTexto::insertFromMimeData(const QMimeData* datos) {
+    caja_.recogeSeleccion(); // the middle button moves the caret without a word
+    caja_.atiende([&] { caja_.pega(datos->text()); });
+}
+
+/// The editor's own drop would take the text away and insert it in one edit, which no one outside could
+/// follow.
+void VistaTexto::dropEvent(QDropEvent* evento) {
+    QDragLeaveEvent fin;
+    QPlainTextEdit::dragLeaveEvent(&fin);
+    if (!canInsertFromMimeData(evento->mimeData())) return evento->ignore();
+    const int posicion = cursorForPosition(evento->position().toPoint()).position();
+    const bool mueve = evento->dropAction() == Qt::MoveAction && evento->source() == viewport();
+    caja_.atiende([&] { caja_.suelta(evento->mimeData()->text(), posicion, mueve); });
+    evento->acceptProposedAction();
+    setFocus();
+}
+
+// The clipboard takes the object over.
+QMimeData* VistaTexto::createMimeDataFromSelection() const {
+    auto datos = std::make_unique<QMimeData>();
+    datos->setText(caja_.textoParaCopiar());
+    return datos.release();
+}
+
+} // namespace norvik

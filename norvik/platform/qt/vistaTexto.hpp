@@ -1,0 +1,48 @@
+#pragma once
+
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <QPlainTextEdit>
+#include <QTextBlock>
+
+namespace norvik {
+
+class CajaTextoQt;
+
+/// The editor that shows a text box, and turns what the user does into the box's events. Plain text only,
+/// without line wrapping, without an undo of its own.
+class VistaTexto final : public QPlainTextEdit {
+public:
+    VistaTexto(CajaTextoQt& caja, QWidget* padre);
+
+    int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
+
+protected:
+    bool event(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void keyReleaseEvent(QKeyEvent* evento) override;
+    void inputMethodEvent(QInputMethodEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    bool canInsertFromMimeData(const QMimeData* datos) const override;
+    void insertFromMimeData(const QMimeData* datos) override;
+    QMimeData* createMimeDataFromSelection() const override;
+
+private:
+    void pulsa(QKeyEvent& evento);
+    void escribe(QKeyEvent& evento);
+    QString filtra(const QString& texto);
+    void avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
+    void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
+
+    CajaTextoQt& caja_;
+};
+
+} // namespace norvik

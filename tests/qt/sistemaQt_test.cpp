@@ -1,0 +1,87 @@
+#include "apoyo/carpetaTemporal.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+
+namespace {
+
+struct Vista {
+    QString titulo, texto, botones;
+    QMessageBox::Icon icono = QMessageBox::NoIcon;
+};
+
+/// Clicks a button of the next message box, or escapes from it when there is no such button.
+Vista contesta(SistemaQt& sistema, const Mensaje& mensaje, const QString& boton, Respuesta esperada) {
+    Vista vista;
+    QTimer::singleShot(0, [&] {
+        auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(caja, nullptr);
+        vista = {caja->windowTitle(), caja->text(), {}, caja->icon()};
+        QAbstractButton* elegido = nullptr;
+        for (QAbstractButton* b : caja->buttons()) {
+            vista.botones += b->text() + ' ';
+            if (b->text() == boton) elegido = b;
+        }
+        elegido != nullptr ? elegido->click() : caja->reject();
+    });
+    EXPECT_EQ(sistema.muestraMensaje(mensaje), esperada);
+    return vista;
+}
+
+} // namespace
+
+TEST(SistemaQt, CajasDeMensaje) {
+    SistemaQt sistema;
+    const Mensaje error{u"<b>texto</b>", u"ERROR Léxico", Icono::Exclamacion};
+    const Vista vista = contesta(sistema, error, "Aceptar", Respuesta::Aceptar);
+    EXPECT_EQ(vista.titulo, "ERROR Léxico");
+    EXPECT_EQ(vista.texto, "<b>texto</b>");
+    EXPECT_EQ(vista.botones, "Aceptar ");
+    EXPECT_EQ(vista.icono, QMessageBox::Warning);
+    contesta(sistema, error, "", Respuesta::Aceptar); // escape, with one button
+    const Mensaje pregunta{u"¿Seguro?", u"Norvik", Icono::Pregunta, Botones::AceptarCancelar};
+    EXPECT_EQ(contesta(sistema, pregunta, "Cancelar", Respuesta::Cancelar).botones, "Aceptar Cancelar ");
+    contesta(sistema, pregunta, "Aceptar", Respuesta::Aceptar);
+    contesta(sistema, pregunta, "", Respuesta::Cancelar);
+}
+
+TEST(SistemaQt, PunteroDeLaAplicacion) {
+    SistemaQt sistema;
+    {
+        const PunteroOcupado ocupado(sistema);
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(SistemaQt, ImprimeEnPdf) {
+    const apoyo::CarpetaTemporal carpeta;
+    const auto bytesDe = [&](std::string_view nombre, std::u16string_view texto) {
+        const auto ruta = carpeta / nombre;
+        SistemaQt sistema;
+        sistema.imprimeEnFichero(QString::fromStdString(ruta.string()));
+        sistema.imprime(texto);
+        return QByteArray::fromStdString(apoyo::bytesDe(ruta));
+    };
+    const auto paginas = [](const QByteArray& pdf) { return pdf.count("/Type /Page\n"); };
+    const QByteArray una = bytesDe("una.pdf", u"hola\r\nñandú");
+    EXPECT_TRUE(una.startsWith("%PDF"));
+    EXPECT_EQ(paginas(una), 1);
+    std::u16string largo;
+    for (int i = 0; i < 150; ++i) largo += u"línea\r\n";
+    EXPECT_EQ(paginas(bytesDe("varias.pdf", largo)), 3);
+    EXPECT_EQ(paginas(bytesDe("ancha.pdf", std::u16string(15000, u'x'))),
+              paginas(bytesDe("ancha2.pdf", std::u16string(15000, u'y'))));
+    SistemaQt sistema;
+    sistema.imprimeEnFichero(QStringLiteral("/no/hay/tal/carpeta.pdf"));
+    EXPECT_THROW(sistema.imprime(u"x"), ErrorNorvik);
+}
