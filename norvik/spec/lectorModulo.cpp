@@ -9,6 +9,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/lineasModulo.hpp"
 
@@ -150,7 +151,7 @@ private:
         lineas_.sigue(u", True, ");
         llamada.datos.tipo = lineas_.numero32();
         lineas_.sigue(u", ");
-        llamada.datos.pseudoToken = lineas_.cadena();
+        llamada.datos.pseudoToken = lineas_.cadenaLarga();
         lineas_.sigue(u", ");
         llamada.datos.base = lineas_.numero32();
         lineas_.sigue(u", ");
@@ -175,7 +176,7 @@ private:
 };
 
 void llama(CargadorLenguaje& control, const LlamadaSetER& l) {
-    control.SetER(l.expresion, l.nombre, true, l.tipo, l.pseudoToken, l.base, l.color);
+    control.SetER(definicionDePatron(l.expresion), l.nombre, true, l.tipo, l.pseudoToken, l.base, l.color);
 }
 void llama(CargadorLenguaje& control, const LlamadaSetRegla& l) {
     control.SetRegla(l.regla);

@@ -74,6 +74,16 @@ void LineasModulo::fin() {
 }
 
 std::u16string_view LineasModulo::cadena() {
+    const std::int32_t suLinea = linea_;
+    const auto contenido = cadenaLarga();
+    if (linea_ != suLinea) {
+        linea_ = suLinea;
+        falla(u"falta la comilla que cierra un texto");
+    }
+    return contenido;
+}
+
+std::u16string_view LineasModulo::cadenaLarga() {
     sigue(u"\"");
     const std::size_t cierre = texto_.find(u'"', pos_);
     if (cierre == std::u16string_view::npos) falla(u"falta la comilla que cierra un texto");
@@ -87,8 +97,8 @@ std::u16string_view LineasModulo::cadena() {
 }
 
 std::u16string LineasModulo::cadenaConComillas() {
-    std::u16string entera(cadena());
-    while (consume(u" & Chr$(34) & ")) entera.append(u"\"").append(cadena());
+    std::u16string entera(cadenaLarga());
+    while (consume(u" & Chr$(34) & ")) entera.append(u"\"").append(cadenaLarga());
     return entera;
 }
 

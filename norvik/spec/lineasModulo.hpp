@@ -24,8 +24,10 @@ public:
     /// The text ends here.
     void fin();
 
-    /// A text between quotes, which holds none; it may hold line ends.
+    /// A text between quotes on one line, which holds none.
     std::u16string_view cadena();
+    /// The same, line ends allowed.
+    std::u16string_view cadenaLarga();
     /// The same, with quotes written as `" & Chr$(34) & "`.
     std::u16string cadenaConComillas();
     std::int16_t numero16();
