@@ -1,0 +1,106 @@
+#pragma once
+
+#include "norvik/base/texto.hpp"
+#include "norvik/control/norvik.hpp"
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik::apoyo {
+
+/// Writes down what is asked of the system: O busy pointer, N normal pointer, e pending events, m message.
+class SistemaVigilado : public SistemaMemoria {
+public:
+    SistemaVigilado()
+        : SistemaMemoria([this](const Mensaje& m) {
+              mensajes.push_back(m);
+              pasos += 'm';
+          }) {}
+    void ponPuntero(Puntero puntero) override {
+        pasos += puntero == Puntero::Ocupado ? 'O' : 'N';
+        SistemaMemoria::ponPuntero(puntero);
+    }
+    void procesaEventos() override { pasos += 'e'; }
+
+    std::vector<Mensaje> mensajes;
+    std::string pasos;
+};
+
+/// Counts the locks that are still on.
+class CajaVigilada : public CajaTextoMemoria {
+public:
+    void bloqueaDibujo() override { ++bloqueos; }
+    void desbloqueaDibujo() override { --bloqueos; }
+
+    int bloqueos = 0;
+};
+
+/// A host of the control that sees all it does.
+struct Anfitrion {
+    SistemaVigilado sistema;
+    CajaVigilada caja;
+    Norvik norvik{caja, sistema};
+
+    bool compila(std::u16string_view especificacion) {
+        return norvik.CargaGramatica(especificacion) && norvik.GeneraCompilador();
+    }
+    bool analiza(std::u16string_view texto) {
+        norvik.Text(texto);
+        return norvik.ConstruyeArbolSintactico();
+    }
+    /// Nothing is left busy, locked or hidden.
+    bool enReposo() const {
+        return sistema.puntero() == Puntero::Normal && caja.bloqueos == 0 && !caja.ocultaSeleccion();
+    }
+    /// One digit a character: 0 plain, 1 any other colour.
+    std::string pintados() const {
+        std::string todos(caja.texto().size(), '0');
+        for (const auto& tramo : caja.colores()) {
+            if (tramo.color == 0) continue;
+            for (std::int32_t i = 0; i < tramo.longitud; ++i)
+                todos[static_cast<std::size_t>(tramo.inicio + i)] = '1';
+        }
+        return todos;
+    }
+    /// Token definitions, one a line: name, kind, base, display name, pattern.
+    std::string lexico() {
+        std::u16string texto;
+        for (const auto& d : norvik.Lexico().expresionesRegulares()) {
+            texto += d->nomER + (d->nomToken.empty() ? u"- " : u" ") + aTexto(d->tipo) + u" " +
+                     aTexto(d->base) + u" (" + d->pseudoToken + u") " + d->expresion + u"\n";
+        }
+        return aUtf8(texto);
+    }
+    /// Rules, one a line.
+    std::string reglas() {
+        std::string texto;
+        for (std::int16_t r = 1; r <= norvik.Gramatica().getNumReglas(); ++r) {
+            texto += aUtf8(norvik.Gramatica().GetLeftRegla(r)) + " -> " +
+                     aUtf8(norvik.Gramatica().GetRightRegla(r)) + "\n";
+        }
+        return texto;
+    }
+    /// The table as it is read, a row a line; columns as they are named.
+    std::string tabla() {
+        std::string texto;
+        auto& g = norvik.Gramatica();
+        for (std::int16_t e = 0; e < g.GetDimensionFilasSLR(); ++e) {
+            for (std::int16_t c = 0; c < g.GetNumSimbolos(); ++c) {
+                texto += std::to_string(g.GetElementoTablaSLR(e, c)) + " ";
+            }
+            texto += "\n";
+        }
+        return texto;
+    }
+};
+
+inline std::string mensajes(const std::vector<Mensaje>& todos) {
+    std::string texto;
+    for (const auto& m : todos) texto += aUtf8(m.titulo) + ": " + aUtf8(m.texto) + "\n";
+    return texto;
+}
+
+} // namespace norvik::apoyo

@@ -1,0 +1,217 @@
+// Colouring, error marks and what a failed parse shows.
+#include "apoyo/anfitrion.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace norvik;
+using namespace norvik::apoyo;
+
+namespace {
+
+constexpr std::u16string_view mini = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
+                                     u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
+                                     u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
+                                     u"Token fija = \"Fija\", TipoToken = TTAutoExpReg;"
+                                     u"Token mas = \"\\+\", TipoToken = TTOperador;"
+                                     u"Token id = \"[a-z]+\";"
+                                     u"S -> S mas T | T; T -> num | id | ini id;";
+
+struct Editor : Anfitrion {
+    explicit Editor(std::u16string_view texto = {}) {
+        caja.ponOcultaSeleccion(false);
+        compila(mini);
+        norvik.Colorear(true);
+        norvik.Text(texto);
+    }
+};
+
+/// Runs as text: "start-end:colour" in hexadecimal, plain ones left out.
+std::string colores(const Editor& e) {
+    std::string texto;
+    for (const auto& t : e.caja.colores()) {
+        char trozo[40];
+        std::snprintf(trozo, sizeof trozo, "%d-%d:%06x ", t.inicio, t.inicio + t.longitud,
+                      static_cast<unsigned>(t.color));
+        if (t.color != 0) texto += trozo;
+    }
+    return texto;
+}
+
+} // namespace
+
+TEST(Coloreado, CadaTokenDelColorDeSuTipo) {
+    Editor e(u"begin x + 12 /*\r\n*/ fija");
+    e.caja.selecciona(3, 4);
+    e.norvik.ColoreaTodo();
+    EXPECT_EQ(colores(e), "0-5:800000 8-9:000080 10-12:808000 13-19:008000 ");
+    EXPECT_EQ(e.norvik.SelStart(), 3);
+    EXPECT_EQ(e.norvik.SelLength(), 4);
+    EXPECT_EQ(e.norvik.Text(), u"begin x + 12 /*\r\n*/ fija");
+    EXPECT_FALSE(e.norvik.TextoModificado());
+    EXPECT_TRUE(e.enReposo());
+}
+
+TEST(Coloreado, UnaLineaNoVeLoQueSaleDeElla) {
+    Editor e(u"1 /* 2\r\n3 */ 4");
+    e.caja.selecciona(10, 0);
+    e.norvik.ColoreaLineaActual();
+    EXPECT_EQ(colores(e), "8-9:808000 13-14:808000 ");
+    e.caja.selecciona(0, 0);
+    e.norvik.ColoreaLineaActual();
+    EXPECT_EQ(colores(e), "0-1:808000 5-6:808000 8-9:808000 13-14:808000 ");
+    e.norvik.ColoreaTodo();
+    EXPECT_EQ(colores(e), "0-1:808000 2-12:008000 13-14:808000 ");
+}
+
+TEST(Coloreado, ApagadoNoHaceNada) {
+    Editor e(u"begin 12");
+    e.norvik.Colorear(false);
+    e.norvik.ColoreaTodo();
+    EXPECT_EQ(colores(e), "");
+    e.norvik.Text(std::u16string(40000, u'1'));
+    EXPECT_NO_THROW(e.norvik.ColoreaTodo());
+}
+
+TEST(Coloreado, CorrigeLasPalabrasDeCajaFija) {
+    const struct {
+        bool corrige, sensible;
+        std::u16string_view queda;
+        std::string colores;
+    } casos[] = {{true, false, u"begin Fija ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
+                 {true, true, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
+                 {false, false, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "}};
+    for (const auto& c : casos) {
+        Editor e(u"BEGIN FIJA ABC+begin");
+        e.norvik.AutoCorreccion(c.corrige);
+        e.norvik.LenguajeSensible(c.sensible);
+        e.norvik.ColoreaTodo();
+        EXPECT_EQ(e.norvik.Text(), c.queda);
+        EXPECT_EQ(colores(e), c.colores);
+    }
+}
+
+TEST(Coloreado, LineaALineaComoDeUnaVez) {
+    std::mt19937 azar(11);
+    const std::u16string_view piezas[] = {u"begin", u"12", u" ",       u"\r\n", u"+",
+                                          u"abc",   u"#",  u"/* x */", u"FIJA"};
+    for (int vez = 0; vez < 60; ++vez) {
+        std::u16string texto;
+        for (int i = 0; i < 40; ++i) texto += piezas[azar() % std::size(piezas)];
+        Editor entero(texto);
+        entero.norvik.ColoreaTodo();
+        Editor porLineas(texto);
+        for (std::int32_t l = 0; l < porLineas.caja.numeroDeLineas(); ++l) {
+            porLineas.caja.selecciona(porLineas.caja.inicioDeLinea(l), 0);
+            porLineas.norvik.ColoreaLineaActual();
+        }
+        EXPECT_EQ(colores(porLineas), colores(entero)) << aUtf8(texto);
+    }
+}
+
+TEST(Coloreado, TextosHastaElLimite) {
+    Editor e(std::u16string(32766, u'1'));
+    e.norvik.ColoreaTodo();
+    EXPECT_EQ(colores(e), "0-32766:808000 ");
+    e.norvik.Text(std::u16string(32767, u'1'));
+    EXPECT_THROW(e.norvik.ColoreaTodo(), Desbordamiento);
+    EXPECT_THROW(e.norvik.ConstruyeArbolSintactico(), Desbordamiento);
+    EXPECT_TRUE(e.enReposo());
+    e.norvik.Text(u"");
+    e.norvik.ColoreaTodo();
+    EXPECT_TRUE(e.enReposo());
+}
+
+TEST(Marcas, UnaLineaSinSuSalto) {
+    const struct {
+        std::u16string_view texto;
+        std::int16_t linea;
+        std::string colores;
+    } casos[] = {{u"ab\r\ncd\r\nef", 1, "0-2:0000ff "},
+                 {u"ab\r\ncd\r\nef", 2, "4-6:0000ff "},
+                 {u"ab\r\ncd\r\nef", 3, "8-10:0000ff "},
+                 {u"ab\r\ncd\r\nef", 4, ""},
+                 {u"ab\r\ncd\r\nef", 0, ""},
+                 {u"ab\r\ncd\r\nef", -5, ""},
+                 {u"abc", 1, "0-3:0000ff "},
+                 {u"", 1, ""},
+                 {u"ab\r\n\r\nef", 2, ""}};
+    for (const auto& c : casos) {
+        Editor e(c.texto);
+        e.caja.selecciona(1, 1);
+        const auto cursor = e.norvik.SelStart();
+        e.norvik.MarcaErrorLinea(c.linea);
+        EXPECT_EQ(colores(e), c.colores) << aUtf8(c.texto) << c.linea;
+        EXPECT_EQ(e.norvik.SelStart(), cursor);
+        EXPECT_TRUE(e.enReposo());
+        EXPECT_EQ(e.caja.colorSeleccion(), c.linea == 1 && cursor == 1 ? 0x0000FF : 0);
+    }
+}
+
+TEST(Marcas, ColorearLaLineaQuitaLaMarca) {
+    Editor e(u"12\r\nx 3");
+    e.norvik.MarcaErrorLinea(2);
+    EXPECT_EQ(colores(e), "4-7:0000ff ");
+    e.caja.selecciona(5, 0);
+    e.norvik.ColoreaLineaActual();
+    EXPECT_EQ(colores(e), "6-7:808000 ");
+    e.norvik.ColorError(0x00FF00); // read at each marking
+    e.norvik.MarcaErrorLinea(1);
+    EXPECT_EQ(colores(e), "0-2:00ff00 6-7:808000 ");
+}
+
+TEST(Marcas, ElUltimoTokenLeido) {
+    Editor e(u"ab\r\n 123");
+    e.norvik.InicializaLecturaTokens();
+    e.norvik.Lex();
+    e.norvik.Lex();
+    e.norvik.MarcaErrorToken();
+    EXPECT_EQ(colores(e), "5-8:0000ff ");
+    e.norvik.MarcaErrorLineaToken();
+    EXPECT_EQ(colores(e), "4-8:0000ff ");
+}
+
+TEST(Marcas, SignosNumeradosDesdeElDos) {
+    Editor e(u"ab");
+    e.norvik.PonSignoError(7);
+    e.norvik.PonSignoError(7);
+    EXPECT_EQ(e.norvik.signos(), (Marcas::Signos{{2, {2, 1, 7}}, {3, {3, 1, 7}}}));
+}
+
+TEST(Analisis, UnErrorSeMuestraYSeMarcaSiSeQuiere) {
+    const struct {
+        std::u16string_view texto;
+        std::int16_t codigo;
+        std::string titulo, mensaje, colores;
+    } casos[] = {
+        {u"1 +\r\n# 2", 1, "ERROR Léxico", "Error (Línea 2, Columna 1): caracter '#' incorrecto.",
+         "5-8:0000ff "},
+        {u"1 +\r\n+ 2", 2, "ERROR de Sintaxis",
+         "Error: Se ha encontrado '+' (Línea 2, Columna 1). Se esperaba '[0-9]+', '[a-z]+', 'begin'.",
+         "5-8:0000ff "},
+        {u"1 +", 2, "ERROR de Sintaxis",
+         "Error: Se ha encontrado el final del fichero (Línea 1, Columna 4). Se esperaba '[0-9]+', '[a-z]+', "
+         "'begin'.",
+         "0-3:0000ff "},
+        {u"fija", 2, "ERROR de Sintaxis",
+         "Error: Se ha encontrado 'fija' (Línea 1, Columna 1). Se esperaba '[0-9]+', '[a-z]+', 'begin'.",
+         "0-4:0000ff "}};
+    for (const auto& c : casos) {
+        for (const bool activo : {false, true}) {
+            Editor e(c.texto);
+            e.norvik.MuestraMensajesDeError(activo);
+            e.norvik.MarcarErrores(activo);
+            EXPECT_FALSE(e.norvik.ConstruyeArbolSintactico());
+            EXPECT_EQ(e.norvik.GetCodigoError(), c.codigo);
+            EXPECT_EQ(aUtf8(e.norvik.GetmensajeError()), c.mensaje);
+            EXPECT_EQ(mensajes(e.sistema.mensajes), activo ? c.titulo + ": " + c.mensaje + "\n" : "");
+            EXPECT_EQ(colores(e), activo ? c.colores : "");
+            EXPECT_TRUE(e.norvik.GetArbolSintactico().GetEsHoja());
+        }
+    }
+    Editor e(u"1 + 2");
+    EXPECT_TRUE(e.norvik.ConstruyeArbolSintactico());
+    EXPECT_EQ(e.norvik.GetCodigoError(), 0);
+    EXPECT_EQ(e.norvik.EjecutaCodigo(u"algo"), u"");
+}

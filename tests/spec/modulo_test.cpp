@@ -1,0 +1,192 @@
+// Loading modules: what the writer wrote is replayed, anything else is named.
+#include "apoyo/anfitrion.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/spec/lectorModulo.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+
+using namespace norvik;
+using namespace norvik::apoyo;
+
+namespace {
+
+constexpr std::u16string_view calculo =
+    u"Token num = \"[0-9]+\", TipoToken = TTNumero (\"número\");"
+    u"Token mas = \"\\+\", TipoToken = TTOperador;"
+    u"Token cad = \"\\c(34)[^\\c(34)]*\\c(34)\", TipoToken = TTCadena (\"texto\");"
+    u"Token fin = \"\\c(10)\" (\"fin\");"
+    u"Token raro = \"\\c(92)\\c(92)(\\c(92)d|\\c(60)|\\<)c\\c(92)cA\\>\" (\"raro\");"
+    u"E -> E mas T | T; T -> num | cad | fin | raro;";
+
+std::u16string modulo(std::u16string_view especificacion, std::u16string_view nombre = u"Calc") {
+    Anfitrion a;
+    EXPECT_TRUE(a.compila(especificacion));
+    return a.norvik.Gramatica().textoModulo(nombre, a.norvik.Lexico());
+}
+
+std::u16string cambia(std::u16string texto, std::u16string_view viejo, std::u16string_view nuevo) {
+    const auto p = texto.find(viejo);
+    EXPECT_NE(p, std::u16string::npos) << aUtf8(viejo);
+    return texto.replace(p, viejo.size(), nuevo);
+}
+
+std::string error(std::u16string_view texto) {
+    Anfitrion a;
+    const auto fallo = CargaModulo(texto, a.norvik);
+    return fallo ? aUtf8(fallo->mensaje()) : "";
+}
+
+/// What one sees of a text under a language: verdict, message, tree, colours.
+std::string vista(Anfitrion& a, std::u16string_view texto) {
+    a.norvik.Colorear(true);
+    std::string todo = std::to_string(a.analiza(texto));
+    todo += aUtf8(a.norvik.GetmensajeError()) + aUtf8(a.norvik.GetArbolSintactico().toString());
+    a.norvik.ColoreaTodo();
+    for (const auto& t : a.caja.colores())
+        todo += std::to_string(t.inicio) + ":" + std::to_string(t.color) + " ";
+    return todo;
+}
+
+} // namespace
+
+TEST(Modulo, DevuelveLoQueSeEscribio) {
+    Anfitrion origen;
+    ASSERT_TRUE(origen.compila(calculo));
+    const std::u16string texto = modulo(calculo);
+    std::u16string sinCR = texto;
+    std::erase(sinCR, u'\r');
+    std::u16string sangrado = cambia(texto, u"\tNorvik", u"  \t  Norvik");
+    for (const auto& variante :
+         {texto, sinCR, sangrado, cambia(texto, u"\r\nEnd Sub", u"\r\n\r\n  \r\n\tEnd Sub")}) {
+        Anfitrion destino;
+        const auto fallo = CargaModulo(variante, destino.norvik);
+        ASSERT_FALSE(fallo) << aUtf8(fallo->mensaje());
+        EXPECT_EQ(destino.lexico(), origen.lexico());
+        EXPECT_EQ(destino.reglas(), origen.reglas());
+        EXPECT_EQ(destino.tabla(), origen.tabla());
+        for (const auto ejemplo : {u"1+2+\"uno\"", u"1+\n", u"1 2", u"", u"#"}) {
+            EXPECT_EQ(vista(destino, ejemplo), vista(origen, ejemplo)) << aUtf8(ejemplo);
+        }
+    }
+}
+
+TEST(Modulo, LosEjemplosIgualQueSuEspecificacion) {
+    const std::filesystem::path carpeta = std::filesystem::path(NORVIK_SOURCE_DIR) / "ejemplos";
+    for (const auto& lenguaje : std::filesystem::directory_iterator(carpeta)) {
+        if (!lenguaje.is_directory()) continue;
+        const auto nombre = lenguaje.path().filename();
+        const auto fichero = (lenguaje.path() / nombre).replace_extension(".nvk");
+        Anfitrion origen;
+        ASSERT_TRUE(origen.compila(leeTexto(fichero))) << nombre;
+        Anfitrion destino;
+        const auto fallo = CargaModulo(
+            origen.norvik.Gramatica().textoModulo(u"Ejemplo", origen.norvik.Lexico()), destino.norvik);
+        ASSERT_FALSE(fallo) << nombre << aUtf8(fallo->mensaje());
+        EXPECT_EQ(destino.tabla(), origen.tabla()) << nombre;
+        for (const auto* grupo : {"bien", "mal"}) {
+            for (const auto& texto : std::filesystem::directory_iterator(lenguaje.path() / grupo)) {
+                const std::u16string contenido = leeTexto(texto.path());
+                EXPECT_EQ(vista(destino, contenido), vista(origen, contenido)) << texto.path();
+            }
+        }
+    }
+}
+
+TEST(Modulo, LoDemasSeNombraConSuLinea) {
+    const std::u16string bueno = modulo(u"Token a = \"a\"; S -> a;");
+    const auto con = [&](std::u16string_view viejo, std::u16string_view nuevo) {
+        return cambia(bueno, viejo, nuevo);
+    };
+    const struct {
+        std::u16string texto;
+        std::string mensaje;
+    } casos[] = {
+        {u"", "Línea 1 del módulo: se esperaba «Attribute VB_Name =»"},
+        {u"\r\n\r\nruido", "Línea 3 del módulo: se esperaba «Attribute VB_Name =»"},
+        {con(u"\"Calc\"", u"\"\""), "Línea 1 del módulo: el nombre del módulo está vacío"},
+        {con(u"\"Calc\"", u"\"Otro\""),
+         "Línea 4 del módulo: se esperaba «' Módulo de carga del lenguaje Otro»"},
+        {con(u"Option Explicit", u"Option explicit"), "Línea 2 del módulo: se esperaba «Option Explicit»"},
+        {con(u"Calc.CargaTokensLenguaje ", u"Calc.CargaLenguaje "),
+         "Línea 16 del módulo: se esperaba «Calc.CargaTokensLenguaje NorvikRefParam»"},
+        {con(u"SLR 3, 3", u"SLR 3"), "Línea 18 del módulo: se esperaba «,»"},
+        {con(u"SLR 3, 3", u"SLR x, 3"), "Línea 18 del módulo: se esperaba un número"},
+        {con(u"SLR 3, 3", u"SLR 3, 3 '"), "Línea 18 del módulo: sobra texto al final de la línea"},
+        {con(u"SLR 3, 3", u"SLR 40000, 3"), "Línea 18 del módulo: número fuera de intervalo"},
+        {con(u"SLR 3, 3", u"SLR 3, 99999999999999999999"), "Línea 18 del módulo: número fuera de intervalo"},
+        {con(u"SLR 1, 3, 1", u"SLR 4, 3, 1"), "Línea 21 del módulo: Subíndice fuera de intervalo"},
+        {con(u"SLR 1, 3, 1", u"SLR 1, 0, 1"), "Línea 21 del módulo: Subíndice fuera de intervalo"},
+        {con(u"SLR 1, 3, 1", u"SLR 1, 3, 1\r\n\tCalc.CargaLenguaje NorvikRefParam"),
+         "Línea 22 del módulo: se esperaba «1»"},
+        {con(u"SLR 1, 3, 1", u"SLR 1, 3, 1\r\n\tCalc.CargaLenguaje1 NorvikRefParam\r\nEnd Sub\r\n"
+                             u"Public Sub CargaLenguaje1(NorvikRefParam As Norvik)\r\n"
+                             u"Calc.CargaLenguaje1 NorvikRefParam"),
+         "Línea 25 del módulo: se esperaba «2»"},
+        {con(u"Gramatica \"a\"", u"Gramatica \"a"),
+         "Línea 25 del módulo: falta la comilla que cierra un texto"},
+        {con(u", True, 0", u", False, 0"), "Línea 37 del módulo: se esperaba «, True,»"},
+        {con(u", True, 0", u", True, 70000"), "Línea 37 del módulo: Desbordamiento"},
+        {con(u"S -> a", u"S a"), "Línea 48 del módulo: No coinciden los tipos"},
+        {bueno + u"End Sub", "Línea 53 del módulo: sobra texto tras el último procedimiento"},
+    };
+    for (const auto& c : casos) EXPECT_EQ(error(c.texto), c.mensaje);
+    EXPECT_EQ(error(bueno), "");
+}
+
+TEST(Modulo, CortadoEnCualquierSitioOConRuido) {
+    const std::u16string bueno = modulo(u"Token a = \"a\\c(34)\"; S -> a;");
+    const std::size_t ultimo = bueno.find_last_not_of(u"\r\n");
+    for (std::size_t n = 0; n <= ultimo; ++n) EXPECT_NE(error(bueno.substr(0, n)), "") << n;
+    std::mt19937 azar(3);
+    for (int i = 0; i < 200; ++i) {
+        std::u16string roto = bueno;
+        roto[azar() % roto.size()] = static_cast<char16_t>(azar() % 0x180);
+        Anfitrion a;
+        if (CargaModulo(roto, a.norvik)) continue;
+        EXPECT_NO_THROW(static_cast<void>(a.analiza(u"a\""))) << aUtf8(roto);
+    }
+}
+
+TEST(Modulo, TablasImposiblesFallanAlUsarlas) {
+    const std::u16string bueno = modulo(u"Token a = \"a\"; S -> a;");
+    for (const auto celda : {u"1, 1, 30000", u"1, 1, -30000", u"1, 1, 3", u"1, 1, -32768"}) {
+        Anfitrion a;
+        a.caja.ponOcultaSeleccion(false);
+        EXPECT_FALSE(CargaModulo(cambia(bueno, u"1, 1, 2", celda), a.norvik));
+        EXPECT_THROW(a.analiza(u"a"), ErrorNorvik) << aUtf8(celda);
+        EXPECT_TRUE(a.enReposo());
+        EXPECT_FALSE(CargaModulo(bueno, a.norvik)); // a right module after a wrong one mends it
+    }
+}
+
+TEST(Modulo, LosErroresLexicosSeMuestranYLaCargaSigue) {
+    Anfitrion a;
+    EXPECT_FALSE(
+        CargaModulo(cambia(modulo(u"Token a = \"a\"; S -> a;"), u"SetER \"a\"", u"SetER \"[a\""), a.norvik));
+    EXPECT_EQ(
+        mensajes(a.sistema.mensajes),
+        "Norvik: Error en especificación léxica: La definición de la expresión regular 'a':\r\n\t\t[a\r\n"
+        "es incorrecta. Revísela para obtener un análisis léxico adecuado.\n");
+    EXPECT_EQ(a.reglas(), "S -> a\n");
+}
+
+TEST(Modulo, TablasDeMuchosProcedimientos) {
+    std::u16string especificacion;
+    std::u16string regla = u"S -> S t0 | t0";
+    for (int i = 0; i < 60; ++i) {
+        const std::u16string t = u"t" + aTexto(i);
+        especificacion += u"Token " + t + u" = \"" + t + u"\";";
+        regla += u" | " + t + u" S " + t;
+    }
+    const std::u16string texto = modulo(especificacion + regla + u";");
+    EXPECT_NE(texto.find(u"Sub CargaLenguaje2("), std::u16string::npos);
+    Anfitrion origen;
+    origen.compila(especificacion + regla + u";");
+    Anfitrion destino;
+    EXPECT_FALSE(CargaModulo(texto, destino.norvik));
+    EXPECT_EQ(destino.tabla(), origen.tabla());
+}
