@@ -17,7 +17,7 @@ double luminancia(const QColor& color) {
 }
 
 double contraste(const QColor& a, const QColor& b) {
-    const auto [menor, mayor] = std::minmax(luminancia(a), luminancia(b));
+    const auto [menor, mayor] = std::minmax({luminancia(a), luminancia(b)});
     return (mayor + 0.05) / (menor + 0.05);
 }
 
