@@ -4,7 +4,7 @@ namespace norvik {
 
 namespace {
 
-constexpr std::size_t maximoCeldas = std::size_t{1} << 27;
+constexpr std::size_t maximoCeldas = std::size_t{1} << 25;
 
 } // namespace
 

@@ -25,7 +25,7 @@ public:
         const auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
         return valores.empty() ? std::int16_t{0} : valores[static_cast<std::size_t>(columna) - 1];
     }
-    /// Raises also `Desbordamiento` when more than 2^27 cells would be kept.
+    /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
     void pon(int fila, int columna, std::int16_t valor);
 
 private:

@@ -190,14 +190,14 @@ void compara(const Reglas& reglas, Cuenta& cuenta) {
 TEST(Diferencial, GramaticasAlAzar) {
     Azar azar(20);
     Cuenta cuenta;
-    for (int i = 0; i < 6000; ++i) {
+    for (int i = 0; i < 4000; ++i) {
         const Reglas reglas = azar.reglas();
         compara(reglas, cuenta);
         ASSERT_FALSE(HasFatalFailure()) << "grammar " << i << ":\n" << enUtf8(reglas);
     }
     // Every kind of outcome must have come up, or the comparison says little.
-    EXPECT_GT(cuenta.completas, 1500);
-    EXPECT_GT(cuenta.sinFin, 300);
+    EXPECT_GT(cuenta.completas, 1000);
+    EXPECT_GT(cuenta.sinFin, 200);
     EXPECT_GT(cuenta.sinColumna, 100);
     EXPECT_GT(cuenta.indefinidas, 10);
 }

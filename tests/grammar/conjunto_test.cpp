@@ -1,0 +1,65 @@
+#include "norvik/base/errores.hpp"
+#include "norvik/grammar/conjunto.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace norvik {
+namespace {
+
+conjunto de(std::initializer_list<conjunto::Valor> valores) {
+    conjunto resultado;
+    for (const auto& valor : valores) resultado.insertar(valor);
+    return resultado;
+}
+
+TEST(Conjunto, GuardaElOrdenDeLaPrimeraInsercion) {
+    conjunto conj = de({u"a", u"$", u"a", u"b"});
+    EXPECT_EQ(conj.toStringConjunto(), u"a, $, b");
+    conj.aniadeElementosConjunto(de({u"b", u"c", std::int16_t{3}}));
+    EXPECT_EQ(conj.toStringConjunto(), u"a, $, b, c, 3");
+    EXPECT_TRUE(conj.perteneceA(std::int16_t{3}));
+    EXPECT_FALSE(conj.perteneceA(u"3"));
+    conj.borrar(u"$");
+    conj.borrar(u"no está");
+    EXPECT_EQ(conj.toStringConjunto(), u"a, b, c, 3");
+    EXPECT_EQ(conj.posicion(u"c"), 3);
+    EXPECT_EQ(conj.posicion(u"$"), 0);
+}
+
+TEST(Conjunto, SinCadenaVacia) {
+    conjunto conj = de({u"Ø", u"a", u"Øb"});
+    EXPECT_TRUE(conj.contieneCadenaVacia());
+    conj.eliminaCadenaVacia();
+    EXPECT_EQ(conj.toStringConjunto(), u"a, Øb");
+    conj.nombre = u"X";
+    conj.borrarTodo();
+    EXPECT_TRUE(conj.esVacio() && conj.nombre.empty());
+    EXPECT_EQ(conj.toStringConjunto(), u"");
+    for (const auto posicion : std::vector<std::int16_t>{-1, 0, 1})
+        EXPECT_THROW(conj.elementoAt(posicion), IndiceNoValido);
+}
+
+// The index against plain searches, through growth and removals.
+TEST(Conjunto, ComoUnaBusquedaLineal) {
+    std::mt19937 azar(1);
+    conjunto conj;
+    std::vector<std::u16string> lista;
+    for (int i = 0; i < 3000; ++i) {
+        const std::u16string valor(1 + azar() % 2, static_cast<char16_t>(u'a' + azar() % 60));
+        const auto sitio = std::find(lista.begin(), lista.end(), valor);
+        ASSERT_EQ(conj.posicion(valor), sitio == lista.end() ? 0 : sitio - lista.begin() + 1);
+        if (azar() % 4 == 0) {
+            conj.borrar(valor);
+            if (sitio != lista.end()) lista.erase(sitio);
+        } else {
+            conj.insertar(valor);
+            if (sitio == lista.end()) lista.push_back(valor);
+        }
+        ASSERT_EQ(conj.totalElementos(), static_cast<int>(lista.size()));
+    }
+}
+
+} // namespace
+} // namespace norvik

@@ -1,0 +1,167 @@
+#include "apoyoGramatica.hpp"
+
+#include "norvik/base/errores.hpp"
+
+#include <gtest/gtest.h>
+
+namespace norvik {
+namespace {
+
+/// «0: a=2 S=1; 1: $=1000; 2: $=-1/2»: entries other than 0 as they are read, and the loser of a conflict.
+std::u16string tabla(const gramatica& g) {
+    std::u16string texto;
+    for (std::int16_t e = 0; e < g.GetDimensionFilasSLR(); ++e) {
+        texto += (e == 0 ? u"" : u"; ") + aTexto(e) + u":";
+        for (std::int16_t c = 0; c < g.GetNumSimbolos(); ++c) {
+            const std::int16_t valor = g.GetElementoTablaSLR(e, c);
+            if (valor == 0) continue;
+            const auto columna = static_cast<std::int16_t>(c + 1);
+            texto += u' ' + std::u16string(g.encabezadoColumna(columna)) + u'=' + aTexto(valor);
+            const auto perdedora = g.conflicto(static_cast<std::int16_t>(e + 1), columna);
+            if (perdedora != 0) texto += u'/' + aTexto(perdedora);
+        }
+    }
+    return texto;
+}
+
+TEST(Tabla, GramaticasAMano) {
+    struct Caso {
+        const char* nombre;
+        std::u16string reglas, simbolos, tabla;
+    };
+    for (const auto& [nombre, reglas, simbolos, esperada] : std::vector<Caso>{
+             {"una regla", u"S -> a", u"a, $, S", u"0: a=2 S=1; 1: $=1000; 2: $=-1"},
+             {"inicial recursiva", u"E -> E + T; E -> T; T -> id", u"+, id, $, E, T",
+              u"0: id=5 E=1 T=6; 1: +=3 $=1000; 2: +=3; 3: id=5 T=4; 4: +=-1 $=-1; 5: +=-3 $=-3; "
+              u"6: +=-2 $=-2"},
+             {"dos reglas iguales", u"S -> a; S -> a; S -> a", u"a, $, S",
+              u"0: a=2 S=1; 1: $=1000; 2: $=-1/3"},
+             {"el desplazamiento llega después y calla", u"S -> A b; A -> a; A -> a b", u"b, a, $, S, A",
+              u"0: a=4 S=1 A=2; 1: $=1000; 2: b=3; 3: $=-1; 4: b=5; 5: b=-3"},
+             {"el desplazamiento llega antes", u"S -> A b; A -> a b; A -> a", u"b, a, $, S, A",
+              u"0: a=4 S=1 A=2; 1: $=1000; 2: b=3; 3: $=-1; 4: b=5/3; 5: b=-2"},
+             {"regla vacía", u"S -> | a S b", u"a, b, $, S",
+              u"0: a=2 b=-1 $=-1 S=1; 1: $=1000; 2: a=2 b=-1 $=-1 S=3; 3: b=4; 4: b=-2 $=-2"},
+             {"la cabeza en dos tramos reduce dos veces", u"A -> a; B -> b; A -> A c", u"a, b, c, $, A, B",
+              u"0: a=2 A=1; 1: c=3 $=1000; 2: c=-1/1 $=-1; 3: c=-3/3 $=-3"},
+             {"regla de sí misma", u"S -> S; S -> a", u"a, $, S", u"0: a=3 S=1; 1: $=1000; 2: $=-1; 3: $=-2"},
+         }) {
+        const auto g = generada(reglas);
+        EXPECT_EQ(g->simbolos().toStringConjunto(), simbolos) << nombre;
+        EXPECT_EQ(aUtf8(tabla(*g)), aUtf8(esperada)) << nombre;
+    }
+}
+
+TEST(Tabla, LecturaYEscritura) {
+    gramatica g;
+    EXPECT_THROW(g.GetElementoTablaSLR(0, 0), SubindiceFueraDeIntervalo);
+    g.SetRegla(u"S", u"a");
+    g.SetDimensionTablaSLR(3, 4);
+    g.SetElementoTablaSLR(1, 1, 5);
+    g.SetElementoTablaSLR(1, 3, 7);
+    g.SetElementoTablaSLR(2, 2, 9);
+    for (const auto* simbolo : {u"a", u"$", u"S"}) g.SetSimbolo(simbolo);
+    EXPECT_EQ(g.GetElementoTablaSLR(0, 0), 5);
+    EXPECT_EQ(g.GetElementoTablaSLR(0, 2), 1);
+    EXPECT_EQ(g.GetElementoTablaSLR(1, 1), gramatica::aceptar);
+    EXPECT_EQ(g.GetElementoTablaSLR(2, 2), 0);
+    for (const auto& [estado, columna] : std::vector<std::pair<std::int16_t, std::int16_t>>{
+             {-1, 0}, {3, 0}, {32767, 0}, {0, -1}, {0, 3}, {0, 4}, {0, 32767}})
+        EXPECT_THROW(g.GetElementoTablaSLR(estado, columna), SubindiceFueraDeIntervalo)
+            << estado << ',' << columna;
+    EXPECT_THROW(g.SetElementoTablaSLR(0, 1, 1), SubindiceFueraDeIntervalo);
+    EXPECT_THROW(g.SetElementoTablaSLR(4, 1, 1), SubindiceFueraDeIntervalo);
+    EXPECT_THROW(g.SetDimensionTablaSLR(-1, 3), SubindiceFueraDeIntervalo);
+    EXPECT_EQ(g.GetDimensionFilasSLR(), 3);
+}
+
+TEST(Tabla, DimensionesDesmedidasNoOcupan) {
+    gramatica g;
+    g.SetDimensionTablaSLR(32767, 32767);
+    g.SetElementoTablaSLR(32767, 32767, 1);
+    EXPECT_EQ(g.GetDimensionColumnasSLR(), 32767);
+    const auto llena = [&] {
+        for (std::int16_t f = 1; f < 32767; ++f) g.SetElementoTablaSLR(f, 1, 1);
+    };
+    EXPECT_THROW(llena(), Desbordamiento);
+}
+
+TEST(Automata, LimitesDeEstadosYDeElementos) {
+    const auto cadena = [](std::size_t n) {
+        std::u16string cuerpo;
+        for (std::size_t i = 0; i < n; ++i) cuerpo += u"a ";
+        return u"S -> " + cuerpo;
+    };
+    EXPECT_EQ(generada(cadena(997))->GetDimensionFilasSLR(), 999);
+    const auto g = generada(u"S -> a");
+    g->SetRegla(u"S", cadena(998).substr(5));
+    EXPECT_THROW(genera(*g), Desbordamiento);
+    EXPECT_EQ(g->GetDimensionFilasSLR(), 0);
+    EXPECT_TRUE(g->estadosAutomata().empty());
+
+    std::u16string muchas = u"S -> a S";
+    for (int i = 1; i < 1000; ++i) muchas += u"; S -> b";
+    EXPECT_THROW(generada(muchas), SubindiceFueraDeIntervalo);
+}
+
+TEST(Automata, UnaCadenaVaciaSueltaNoTieneColumna) {
+    const auto g = gramaticaDe(u"S -> a Ø");
+    EXPECT_THROW(genera(*g), SubindiceFueraDeIntervalo);
+    EXPECT_EQ(g->GetDimensionFilasSLR(), 0);
+    EXPECT_EQ(g->getNumReglas(), 1);
+}
+
+std::u16string escalera(int niveles, bool porLaDerecha) {
+    std::u16string reglas;
+    for (int i = 0; i < niveles; ++i) {
+        const std::u16string este = u"V" + aTexto(i);
+        const std::u16string otro = u"V" + aTexto(i + 1);
+        const std::u16string op = u" o" + aTexto(i) + u" ";
+        reglas +=
+            este + u" -> " + (porLaDerecha ? otro + op + este : este + op + otro) + u" | " + otro + u";";
+    }
+    return reglas + u"V" + aTexto(niveles) + u" -> id | ( V0 )";
+}
+
+// Plain readings of the recursions take 2^n calls here, or n^3 work.
+TEST(Automata, EscalerasYPalabras) {
+    for (const bool porLaDerecha : {true, false}) {
+        EXPECT_EQ(generada(escalera(80, porLaDerecha))->GetDimensionFilasSLR(), porLaDerecha ? 246 : 247);
+        const auto g = gramaticaDe(escalera(300, porLaDerecha));
+        g->creaConjuntos();
+        EXPECT_EQ(g->primeros().front().nombre, u"V300");
+        EXPECT_EQ(g->primeros().back().toStringConjunto(), u"id, (");
+    }
+    std::u16string palabras;
+    for (int i = 0; i < 900; ++i) palabras += u"S -> p" + aTexto(i) + u";";
+    EXPECT_EQ(generada(palabras)->GetDimensionFilasSLR(), 902);
+}
+
+TEST(Automata, PasoAPaso) {
+    const auto g = generada(u"E -> E + T; E -> T; T -> id");
+    estadoAutomata estado;
+    EXPECT_EQ(estado.getNumEstado(), -1);
+    g->aniadeReglaAEstado(u"E", estado);
+    EXPECT_EQ(estado.getNumReglas(), 3);
+    g->aniadeReglasImplicitasAEstado({{1, 2}, {3, 0}}, estado);
+    EXPECT_EQ(estado.getNumReglas(), 4);
+    EXPECT_TRUE(estado.poseeConjuntoEstados({{1, 2}, {3, 0}}) && estado.poseeConjuntoEstados({}));
+    EXPECT_EQ(g->dameSimboloSiguiente(estado, 1), u"E");
+    EXPECT_EQ(g->dameSimboloSiguiente(estado, 4), u"T");
+    EXPECT_EQ(g->existeEstadoCon({{1, 2}}), 3);
+    EXPECT_EQ(g->existeEstadoCon({{1, 0}, {1, 2}}), -1);
+    estado.setTransicion({{1, 1}}, 8);
+    EXPECT_EQ(estado.getEstadoAdyacente(1), 8);
+    EXPECT_EQ(estado.getEstadoAdyacente(5), 0);
+    EXPECT_THROW(estado.getReglaEstado(1001), SubindiceFueraDeIntervalo);
+    g->inicializaConjuntos();
+    estadoAutomata inicial;
+    g->aniadeReglaAEstado(u"T", inicial);
+    inicial.setNumEstado(7);
+    g->construyeTransiciones(inicial);
+    ASSERT_EQ(g->estadosAutomata().size(), 2U);
+    EXPECT_EQ(g->estadosAutomata().back().getNumEstado(), 7);
+}
+
+} // namespace
+} // namespace norvik
