@@ -191,7 +191,7 @@ private:
     void escribeEstado(const estadoAutomata& estado, std::u16string& texto) const;
     std::u16string transiciones(const estadoAutomata& estado) const;
     void escribeTabla(std::u16string& texto) const;
-    std::u16string entradaTabla(std::int16_t fila, std::int16_t columna) const;
+    void escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const;
     std::u16string accion(std::int16_t fila, std::int16_t columna) const;
     std::u16string problemasFila(std::int16_t fila) const;
 

@@ -112,13 +112,13 @@ void gramatica::escribeEstado(const estadoAutomata& estado, std::u16string& text
 std::u16string gramatica::transiciones(const estadoAutomata& estado) const {
     std::u16string lineas;
     if (estado.getNumEstado() == 0) escribeLinea(lineas, sangria, reglas_.front().cabeza, u" -> ", 1);
-    std::vector<Simbolo> vistos;
+    std::vector<bool> vistos(partidas_.numSimbolos());
     for (std::size_t i = 0; i < estado.items().size(); ++i) {
         if (estado.adyacentes()[i] == estadoAutomata::sinTransicion) continue;
         const auto [regla, punto] = estado.items()[i];
         const Simbolo siguiente = partidas_.cuerpo(regla)[static_cast<std::size_t>(punto)];
-        if (std::find(vistos.begin(), vistos.end(), siguiente) != vistos.end()) continue;
-        vistos.push_back(siguiente);
+        if (vistos[static_cast<std::size_t>(siguiente)]) continue;
+        vistos[static_cast<std::size_t>(siguiente)] = true;
         escribeLinea(lineas, sangria, partidas_.texto(siguiente), u" -> ", estado.adyacentes()[i]);
     }
     return lineas;
@@ -151,11 +151,12 @@ std::u16string gramatica::celdaTabla(std::int16_t fila, std::int16_t columna) co
     return esColumnaDeVariable(columna) ? aTexto(valor) : accion(fila, columna);
 }
 
-std::u16string gramatica::entradaTabla(std::int16_t fila, std::int16_t columna) const {
-    const std::u16string celda = u"tablaSLR[" + aTexto(fila - 1) + u"][" + aTexto(columna - 1) + u"]";
-    if (!esColumnaDeVariable(columna) && conflicto(fila, columna) != 0)
-        return celda + u"= " + accion(fila, columna) + u";";
-    return std::u16string(sangria) + celda + u" = " + aTexto(tabla_.en(fila, columna)) + u";";
+void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const {
+    if (conflicto(fila, columna) != 0 && !esColumnaDeVariable(columna))
+        escribeLinea(texto, u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(fila, columna), u";");
+    else
+        escribeLinea(texto, sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ",
+                     tabla_.en(fila, columna), u";");
 }
 
 void gramatica::escribeTabla(std::u16string& texto) const {
@@ -168,9 +169,7 @@ void gramatica::escribeTabla(std::u16string& texto) const {
     if (const int c = columnas().inicial; c >= 0) escribeLinea(texto, sangria, u"tablaSLR[0][", c, u"] = 1");
     if (const int c = columnas().fin; c >= 0)
         escribeLinea(texto, sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
-    for (std::int16_t f = 1; f <= tabla_.filas(); ++f)
-        for (std::int16_t c = 1; c <= std::min(total, tabla_.columnas()); ++c)
-            if (tabla_.en(f, c) != 0) escribeLinea(texto, entradaTabla(f, c));
+    for (const auto& [fila, columna, valor] : celdas()) escribeEntrada(fila, columna, texto);
 }
 
 // The whole file -------------------------------------------------------------------------------------------

@@ -13,6 +13,7 @@ namespace norvik {
 namespace {
 
 constexpr int maximoEntradas = 2000;
+constexpr std::size_t longitudMedia = 52; // of an entry's line
 constexpr std::u16string_view llamada = u"\tNorvikRefParam.";
 
 std::u16string entreComillas(std::u16string_view texto) {
@@ -92,7 +93,9 @@ void gramatica::escribeEntradasFijas(std::u16string& texto) const {
 void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre) const {
     int entradas = 0;
     int procedimiento = 0;
-    for (const auto& [fila, columna, valor] : celdas()) {
+    const std::vector<Celda> lista = celdas();
+    texto.reserve(texto.size() + lista.size() * longitudMedia);
+    for (const auto& [fila, columna, valor] : lista) {
         if (entradas == maximoEntradas) {
             const std::u16string otro = u"CargaLenguaje" + aTexto(++procedimiento);
             escribeLinea(texto);

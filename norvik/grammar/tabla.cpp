@@ -122,37 +122,41 @@ void gramatica::reuneSimbolos() {
     simbolos_.aniadeElementosConjunto(variables_);
 }
 
-/// 1-based column of every symbol, 0 when it has none.
+/// 0-based column of every symbol, -1 when it has none.
 std::vector<int> gramatica::columnasDeSimbolos() const {
     std::vector<int> columnas(partidas_.numSimbolos());
     for (std::size_t i = 0; i < columnas.size(); ++i)
-        columnas[i] = simbolos_.posicion(partidas_.texto(static_cast<Simbolo>(i)));
+        columnas[i] = simbolos_.posicion(partidas_.texto(static_cast<Simbolo>(i))) - 1;
     return columnas;
 }
 
 void gramatica::rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const {
     const std::vector<int> columnaDe = columnasDeSimbolos();
-    const auto columna = [&](Simbolo simbolo) { return columnaDe[static_cast<std::size_t>(simbolo)]; };
+    const auto columna = [&](Simbolo simbolo) {
+        const int c = columnaDe[static_cast<std::size_t>(simbolo)];
+        if (c < 0) throw SubindiceFueraDeIntervalo();
+        return static_cast<std::size_t>(c);
+    };
     // A head in two runs of rules has two sets, and each of them reduces.
-    std::vector<std::vector<int>> siguientes(partidas_.numSimbolos());
+    std::vector<std::vector<std::size_t>> siguientes(partidas_.numSimbolos());
     for (const auto& [nombre, elementos] : conjuntos_.siguientes)
         for (const Simbolo simbolo : elementos)
             siguientes[static_cast<std::size_t>(nombre)].push_back(columna(simbolo));
-    int fila = 0;
+    int numero = 0;
     for (const estadoAutomata& estado : estadosAutomata_) {
-        ++fila;
+        const std::span<std::int16_t> fila = tabla.fila(++numero);
         for (std::size_t i = 0; i < estado.items().size(); ++i) {
             const auto [regla, punto] = estado.items()[i];
             const std::int16_t destino = estado.adyacentes()[i];
             if (destino != estadoAutomata::sinTransicion) {
-                tabla.pon(fila, columna(partidas_.cuerpo(regla)[static_cast<std::size_t>(punto)]), destino);
+                fila[columna(partidas_.cuerpo(regla)[static_cast<std::size_t>(punto)])] = destino;
                 continue;
             }
-            for (const int c : siguientes[static_cast<std::size_t>(partidas_.cabeza(regla))]) {
-                if (tabla.en(fila, c) != 0)
-                    conflictos.pon(fila, c, regla);
+            for (const std::size_t c : siguientes[static_cast<std::size_t>(partidas_.cabeza(regla))]) {
+                if (fila[c] == 0)
+                    fila[c] = static_cast<std::int16_t>(-regla);
                 else
-                    tabla.pon(fila, c, static_cast<std::int16_t>(-regla));
+                    conflictos.pon(numero, static_cast<int>(c) + 1, regla);
             }
         }
     }

@@ -15,15 +15,21 @@ TablaSLR::TablaSLR(std::int16_t filas, std::int16_t columnas) : columnas_(column
 
 void TablaSLR::pon(int fila, int columna, std::int16_t valor) {
     comprueba(fila, columna);
-    auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
+    const bool vacia = filas_[static_cast<std::size_t>(fila) - 1].empty();
+    if (vacia && valor == 0) return;
+    this->fila(fila)[static_cast<std::size_t>(columna) - 1] = valor;
+}
+
+std::span<std::int16_t> TablaSLR::fila(int numero) {
+    comprueba(numero, 1);
+    auto& valores = filas_[static_cast<std::size_t>(numero) - 1];
     if (valores.empty()) {
-        if (valor == 0) return;
         const auto ancho = static_cast<std::size_t>(columnas_);
         if (reservadas_ + ancho > maximoCeldas) throw Desbordamiento();
         valores.resize(ancho);
         reservadas_ += ancho;
     }
-    valores[static_cast<std::size_t>(columna) - 1] = valor;
+    return valores;
 }
 
 } // namespace norvik

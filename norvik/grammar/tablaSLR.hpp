@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace norvik {
@@ -27,6 +28,8 @@ public:
     }
     /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
     void pon(int fila, int columna, std::int16_t valor);
+    /// The cells of a row, to be written; raises the same.
+    std::span<std::int16_t> fila(int numero);
 
 private:
     void comprueba(int fila, int columna) const {
