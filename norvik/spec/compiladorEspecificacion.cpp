@@ -13,7 +13,6 @@
 #include "norvik/platform/sistema.hpp"
 
 #include <array>
-#include <ranges>
 #include <vector>
 
 namespace norvik {
@@ -130,9 +129,7 @@ public:
             const Arbol& nodo = *pendientes.back();
             pendientes.pop_back();
             if (nodo.GetEsHoja() || registra(nodo)) continue;
-            for (const Arbol* descendiente : std::views::reverse(nodo.hijos())) {
-                pendientes.push_back(descendiente);
-            }
+            pendientes.insert(pendientes.end(), nodo.hijos().rbegin(), nodo.hijos().rend());
         }
     }
 
