@@ -201,6 +201,7 @@ private:
         std::int16_t columna = 0;
         std::int16_t valor = 0;
     };
+    std::int16_t filasVigentes() const;
     std::vector<Celda> celdas() const;
     void escribeTablaCpp(std::u16string& texto) const;
     void escribeEntradasFijas(std::u16string& texto) const;

@@ -109,6 +109,11 @@ void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombr
     }
 }
 
+/// Rows of the table; without symbols it is what a former language left, and has none.
+std::int16_t gramatica::filasVigentes() const {
+    return simbolos_.esVacio() ? std::int16_t{0} : tabla_.filas();
+}
+
 /// The stored entries other than 0, by rows.
 std::vector<gramatica::Celda> gramatica::celdas() const {
     std::vector<Celda> lista;
@@ -140,7 +145,8 @@ void gramatica::escribeCargaReglas(std::u16string& texto, std::u16string_view no
 std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
     std::u16string texto;
     escribeCabecera(texto, nombre);
-    escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", tabla_.filas(), u", ", simbolos_.totalElementos());
+    escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ",
+                 simbolos_.totalElementos());
     escribeLinea(texto);
     escribeEntradasFijas(texto);
     escribeEntradas(texto, nombre);

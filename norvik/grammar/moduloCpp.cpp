@@ -1,6 +1,7 @@
 #include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/grammar/lineas.hpp"
+#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 // The loading module as a C++ header: the calls of the Visual Basic module in the same order, those of one
@@ -56,7 +57,7 @@ void escribeTextos(std::u16string& texto, std::u16string_view tabla, std::u16str
 void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
     for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
         const expresionRegular& token = lexico.getTokenLenguaje(i);
-        escribeLinea(texto, u"    control.SetER(", literal(token.getExpReg()), u", ",
+        escribeLinea(texto, u"    control.SetER(", literal(definicionDePatron(token.getExpReg())), u", ",
                      literal(token.GetToken()), u", true, norvik::TipoExpReg{", token.GetTipo(), u"}, ",
                      literal(token.GetPseudoToken()), u", norvik::baseNumerica{", token.base, u"}, ",
                      token.GetColor(), u");");
@@ -77,7 +78,7 @@ void gramatica::escribeTablaCpp(std::u16string& texto) const {
     }
     for (const Celda& celda : celdas()) entradas.push_back(celda);
     escribeLinea(texto);
-    escribeLinea(texto, u"    control.SetDimensionTablaSLR(", tabla_.filas(), u", ",
+    escribeLinea(texto, u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ",
                  simbolos_.totalElementos(), u");");
     if (entradas.empty()) return;
     escribeLinea(texto, u"    static constexpr short entradas[][3] = {");

@@ -43,13 +43,6 @@ std::u16string mensajeDe(const ErrorExpansion& error, const Definicion& definici
                 u"es incorrecta. Revísela para obtener un análisis léxico adecuado."});
 }
 
-// The pattern is tried on a text: one that runs away on it is as useless as a malformed one. A plain word can
-// do neither.
-bool funciona(const Emparejador& emparejador) {
-    if (!emparejador.palabra()) emparejador.ejecuta(u"test", Presupuesto());
-    return true;
-}
-
 } // namespace
 
 std::u16string pilaTokens::SetER(std::u16string_view expresionRegular, std::u16string_view nomER,
@@ -63,12 +56,9 @@ std::u16string pilaTokens::SetER(std::u16string_view expresionRegular, std::u16s
     auto nueva = std::make_unique<norvik::expresionRegular>();
     const auto incorrecta = [&] { return mensajeDe(ErrorExpansion{}, definicion); };
     try {
-        if (!nueva->SetExpReg(patron, nomER, esToken, sensibleTamanio, pseudoToken, tipo, base, lectura) ||
-            !funciona(*nueva->expReg))
+        if (!nueva->SetExpReg(patron, nomER, esToken, sensibleTamanio, pseudoToken, tipo, base, lectura))
             return incorrecta();
     } catch (const ErrorNorvik&) {
-        return incorrecta();
-    } catch (const BusquedaDesbocada&) {
         return incorrecta();
     }
     nueva->SetColor(colorDeTipo(tipo));
