@@ -18,7 +18,8 @@ int ejecuta(const Informe& orden, Salida& salida) {
         salida.avisa(problemas);
     } else {
         gramatica.GuardaInforme(orden.carpeta);
-        salida.escribe(aUtf8(problemas) + "\n");
+        salida.escribe(aUtf8(problemas));
+        if (problemas.back() != u'\n') salida.escribe("\n");
     }
     return anfitrion.estado();
 }

@@ -2,9 +2,9 @@
 
 #include "norvik/base/errores.hpp"
 
-#include <algorithm>
 #include <csignal>
 #include <new>
+#include <string_view>
 #include <variant>
 
 namespace {
@@ -14,8 +14,8 @@ using namespace norvik::orden;
 constexpr int fallo = 2;
 
 // A failure is one line, whatever names and texts it quotes.
-int cuentaFallo(Salida& salida, std::u16string texto) {
-    salida.avisa(visible(u"norvik: " + texto));
+int cuentaFallo(Salida& salida, std::u16string_view texto) {
+    salida.avisa(u"norvik: " + visible(texto));
     return fallo;
 }
 

@@ -83,6 +83,7 @@ private:
 
 std::vector<char*> punteros(std::vector<std::string>& textos) {
     std::vector<char*> resultado;
+    resultado.reserve(textos.size() + 1);
     for (std::string& texto : textos) resultado.push_back(texto.data());
     resultado.push_back(nullptr);
     return resultado;

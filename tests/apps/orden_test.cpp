@@ -267,6 +267,8 @@ TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {
     for (int i = 0; i < 5000; ++i) ruido.push_back(static_cast<char>(i * 7919 % 251));
     const std::string nulo = std::string("Error (Línea 1, Columna 1): caracter '") + '\0' + "' incorrecto.\n";
     const std::string desbordamiento = "norvik: Desbordamiento\n";
+    std::string diezMegas;
+    diezMegas.resize(10'000'000, '1');
     const TextoMalo textos[] = {
         {"NUL", std::string("\0", 1), 1, nulo},
         {"UTF-8 incorrecto", "\xC3(", 1, "Error (Línea 1, Columna 1): caracter 'Ã' incorrecto.\n"},
@@ -274,7 +276,7 @@ TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {
          "Error (Línea 1, Columna 1): caracter '\xEF\xBF\xBD' incorrecto.\n"},
         {"ruido", ruido, 1, nulo},
         {"32.767 caracteres", std::string(32767, ' '), 2, desbordamiento},
-        {"10 MB", std::string(10'000'000, '1'), 2, desbordamiento},
+        {"10 MB", diezMegas, 2, desbordamiento},
     };
     for (const auto& [nombre, texto, estado, error] : textos) {
         SCOPED_TRACE(nombre);
