@@ -12,7 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
     // Bytes are units, but for two that stand for what lies beyond them.
     std::u16string texto;
     for (std::size_t i = 1; i < tamanio; ++i)
-        texto.push_back(datos[i] == 0xFE ? u'\u212A' : datos[i] == 0xFF ? u'\uD800' : char16_t{datos[i]});
+        texto.push_back(datos[i] == 0xFE   ? u'\u212A'
+                        : datos[i] == 0xFF ? char16_t{0xD800}
+                                           : char16_t{datos[i]});
     const std::u16string patron = texto.substr(0, datos[0] / 2U);
     const std::u16string sujeto = texto.substr(patron.size());
     const auto emparejador = norvik::Emparejador::compila(patron, datos[0] % 2 == 1);
