@@ -130,8 +130,4 @@ std::u16string conjunto::toStringConjunto() const {
     return texto;
 }
 
-std::int16_t conjunto::totalElementos() const {
-    return a16(elementos_.size());
-}
-
 } // namespace norvik

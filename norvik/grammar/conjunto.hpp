@@ -1,5 +1,7 @@
 #pragma once
 
+#include "norvik/base/numeros.hpp"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -34,7 +36,7 @@ public:
     /// The members joined by ", ", without braces.
     std::u16string toStringConjunto() const;
     /// Raises `Desbordamiento` beyond 32 767 members.
-    std::int16_t totalElementos() const;
+    std::int16_t totalElementos() const { return a16(elementos_.size()); }
 
 private:
     template <typename Clave>

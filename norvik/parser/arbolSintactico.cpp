@@ -47,14 +47,19 @@ std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, std::int16_t numR
     nodo.numRegla_ = numRegla;
     nodo.textos_ = &textos;
     if (numHijos == 0) return {};
-    auto* const hijos = arena_.reserva<Arbol>(numHijos);
-    auto** const tabla = arena_.reserva<Arbol*>(numHijos);
+    // One record: the description of the children, the table of them, and they themselves.
+    static_assert(alignof(Arbol::Hijos) <= alignof(void*) && alignof(Arbol) <= alignof(void*));
+    std::byte* const registro =
+        arena_.reservaBytes(sizeof(Arbol::Hijos) + numHijos * (sizeof(Arbol*) + sizeof(Arbol)));
+    auto** const tabla = reinterpret_cast<Arbol**>(registro + sizeof(Arbol::Hijos));
+    auto* const hijos = reinterpret_cast<Arbol*>(tabla + numHijos);
     for (std::size_t i = 0; i < numHijos; ++i) {
-        tabla[i] = std::construct_at(hijos + i, Arbol::Clave{}, *this);
-        tabla[i]->padre_ = &nodo;
+        Arbol* const hijo = std::construct_at(hijos + i, Arbol::Clave{}, *this);
+        hijo->padre_ = &nodo;
+        std::construct_at(tabla + i, hijo);
     }
     const Arbol::Hijos todos{tabla, static_cast<std::uint32_t>(numHijos)};
-    nodo.hijos_ = std::construct_at(arena_.reserva<Arbol::Hijos>(1), todos);
+    nodo.hijos_ = std::construct_at(reinterpret_cast<Arbol::Hijos*>(registro), todos);
     return {tabla, numHijos};
 }
 

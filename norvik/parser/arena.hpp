@@ -18,6 +18,11 @@ public:
         return static_cast<T*>(hueco(n * sizeof(T), alignof(T)));
     }
 
+    /// Room for the objects of one record, which lie side by side in it; aligned as pointers are.
+    std::byte* reservaBytes(std::size_t bytes) {
+        return static_cast<std::byte*>(hueco(bytes, alignof(void*)));
+    }
+
     void reinicia() {
         actual_ = 0;
         usado_ = 0;
@@ -26,22 +31,25 @@ public:
 private:
     using Bloque = std::vector<std::byte>;
 
+    // Alignments are powers of two; a block starts at the strictest.
     void* hueco(std::size_t bytes, std::size_t alineacion) {
-        const auto alineado = [&] { return (usado_ + alineacion - 1) / alineacion * alineacion; };
-        while (actual_ < bloques_.size() && bloques_[actual_].size() < alineado() + bytes) {
-            ++actual_;
-            usado_ = 0;
+        std::size_t inicio = (usado_ + alineacion - 1) & ~(alineacion - 1);
+        if (actual_ == bloques_.size() || bloques_[actual_].size() < inicio + bytes) {
+            pasaDeBloque(bytes);
+            inicio = 0;
         }
-        if (actual_ == bloques_.size()) aniadeBloque(bytes);
-        const std::size_t inicio = alineado();
         usado_ = inicio + bytes;
         return bloques_[actual_].data() + inicio;
     }
 
-    void aniadeBloque(std::size_t bytes) {
+    // Goes on to a block with room, a new one if there is none.
+    void pasaDeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;
-        bloques_.emplace_back(bytes > minimo ? bytes : minimo);
-        usado_ = 0;
+        while (actual_ < bloques_.size() && (usado_ > 0 || bloques_[actual_].size() < bytes)) {
+            ++actual_;
+            usado_ = 0;
+        }
+        if (actual_ == bloques_.size()) bloques_.emplace_back(bytes > minimo ? bytes : minimo);
     }
 
     std::vector<Bloque> bloques_;

@@ -24,7 +24,8 @@ public:
     /// Removes `veces` entries, or all when there are fewer.
     void POP(std::int16_t veces) {
         const auto n = static_cast<std::size_t>(std::max<std::int16_t>(veces, 0));
-        entradas_.resize(entradas_.size() - std::min(n, entradas_.size()));
+        entradas_.erase(entradas_.end() - static_cast<std::ptrdiff_t>(std::min(n, entradas_.size())),
+                        entradas_.end());
     }
     /// State, line and column of the top, 0 when the stack is empty; line and column raise `Desbordamiento`.
     std::int16_t cima() const { return esVacia() ? std::int16_t{0} : entradas_.back().estado; }

@@ -1,6 +1,5 @@
 #include "norvik/parser/traza.hpp"
 
-#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
 namespace norvik {
@@ -11,11 +10,9 @@ void Traza::vaciaTraza() {
     textos_.clear();
 }
 
-void Traza::apunta(std::int16_t regla) {
-    if (pasos_.size() == maximo)
-        throw Desbordamiento(u"El análisis supera los 10 000 000 de pasos: el árbol sintáctico no cabe en la "
-                             u"memoria, o la tabla SLR no deja nunca de reducir.");
-    pasos_.push_back(regla);
+void Traza::fallaLlena() {
+    throw Desbordamiento(u"El análisis supera los 10 000 000 de pasos: el árbol sintáctico no cabe en la "
+                         u"memoria, o la tabla SLR no deja nunca de reducir.");
 }
 
 void Traza::registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
@@ -24,19 +21,6 @@ void Traza::registraDesplazamiento(std::u16string_view lexema, std::int32_t line
     desplazamientos_.push_back({static_cast<std::uint32_t>(textos_.size()),
                                 static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
     textos_.append(lexema);
-}
-
-void Traza::registraReduccion(std::int16_t numRegla) {
-    apunta(numRegla);
-}
-
-std::int16_t Traza::reglaCima() const {
-    if (pasos_.empty()) throw IndiceNoValido();
-    return pasos_.back();
-}
-
-Traza::Desplazamiento Traza::desplazamientoCima() const {
-    return reglaCima() == 0 ? desplazamientos_.back() : Desplazamiento{};
 }
 
 std::u16string_view Traza::tipoCimaTraza() const {
@@ -55,14 +39,6 @@ std::u16string Traza::lineaCimaTraza() const {
 
 std::u16string Traza::columnaCimaTraza() const {
     return aTexto(desplazamientoCima().columna);
-}
-
-void Traza::sacaTraza() {
-    if (reglaCima() == 0) {
-        textos_.resize(desplazamientos_.back().inicio);
-        desplazamientos_.pop_back();
-    }
-    pasos_.pop_back();
 }
 
 } // namespace norvik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "norvik/base/errores.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -30,7 +32,7 @@ public:
     /// Both raise `Desbordamiento` when the trace is full.
     void registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
                                 Procedencia procedencia = Procedencia::Texto);
-    void registraReduccion(std::int16_t numRegla);
+    void registraReduccion(std::int16_t numRegla) { apunta(numRegla); }
     std::size_t numElementosTraza() const { return pasos_.size(); }
 
     /// The last entry, as text: "desplazamiento" or "reduccion", the lexeme or the rule number, line and
@@ -39,16 +41,31 @@ public:
     std::u16string valorCimaTraza() const;
     std::u16string lineaCimaTraza() const;
     std::u16string columnaCimaTraza() const;
-    void sacaTraza();
+    void sacaTraza() {
+        if (reglaCima() == 0) {
+            textos_.resize(desplazamientos_.back().inicio);
+            desplazamientos_.pop_back();
+        }
+        pasos_.pop_back();
+    }
 
     /// The last entry: its rule, 0 when it is a shift; its shift, empty when it is a reduction.
-    std::int16_t reglaCima() const;
-    Desplazamiento desplazamientoCima() const;
+    std::int16_t reglaCima() const {
+        if (pasos_.empty()) throw IndiceNoValido();
+        return pasos_.back();
+    }
+    Desplazamiento desplazamientoCima() const {
+        return reglaCima() == 0 ? desplazamientos_.back() : Desplazamiento{};
+    }
     /// All lexemes, one after the other.
     const std::u16string& textos() const { return textos_; }
 
 private:
-    void apunta(std::int16_t regla);
+    void apunta(std::int16_t regla) {
+        if (pasos_.size() == maximo) fallaLlena();
+        pasos_.push_back(regla);
+    }
+    [[noreturn]] static void fallaLlena();
 
     std::vector<std::int16_t> pasos_; ///< rule of a reduction, 0 for a shift
     std::vector<Desplazamiento> desplazamientos_;

@@ -55,8 +55,7 @@ public:
         std::vector<Coincidencia> coincidencias;
         recuerdo_.clear();
         std::uint32_t intentos = 0;
-        for (std::size_t i = 0; i <= sujeto.size(); ++i) {
-            if (!puedeEmpezar(sujeto, i)) continue;
+        for (std::size_t i = inicioPosible(sujeto, 0); i <= sujeto.size(); i = inicioPosible(sujeto, i + 1)) {
             if (intentos++ % intentosPorConsulta() == 0 && presupuesto.agotado()) throw BusquedaDesbocada();
             const auto fin = intenta(sujeto, i, presupuesto);
             if (!fin) continue;
@@ -70,8 +69,12 @@ private:
     // The clock costs as much as a token; only the automaton's attempts are sure to be short.
     std::uint32_t intentosPorConsulta() const { return automata_ ? 64 : 1; }
 
-    bool puedeEmpezar(std::u16string_view sujeto, std::size_t i) const {
-        return !primeras_ || (i < sujeto.size() && primeras_->contiene(sujeto[i]));
+    // The first position from `i` on where a match can begin; beyond the end when there is none.
+    std::size_t inicioPosible(std::u16string_view sujeto, std::size_t i) const {
+        if (!primeras_) return i;
+        const ClaseUnidades& primeras = *primeras_;
+        while (i < sujeto.size() && !primeras.contiene(sujeto[i])) ++i;
+        return i < sujeto.size() ? i : sujeto.size() + 1;
     }
 
     std::optional<std::size_t> intenta(std::u16string_view sujeto, std::size_t i,

@@ -48,7 +48,7 @@ Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recue
     Numero estado = inicial_;
     const std::size_t largo = std::min(sujeto.size(), inicio + caminoCorto);
     for (std::size_t i = inicio;; ++i) {
-        if (estados_[estado].acepta) intento = {Intento::Tipo::Coincide, i};
+        if (acepta_[estado] != 0) intento = {Intento::Tipo::Coincide, i};
         if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo);
         estado = siguiente(estado, sujeto[i]);
         if (estado == muerto) return intento;
@@ -67,7 +67,7 @@ Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero 
         estado = siguiente(estado, sujeto[i]);
         if (estado == desconocido) intento = {Intento::Tipo::Indeciso, 0};
         if (estado == muerto || estado == desconocido) break;
-        if (estados_[estado].acepta) {
+        if (acepta_[estado] != 0) {
             intento = {Intento::Tipo::Coincide, i + 1};
             enVano = i + 2;
         } else if (recuerdo[i + 1] == estado) {
@@ -210,7 +210,8 @@ Automata::Numero Automata::numeroDe(Hilos hilos, bool acepta) {
     if (estados_.size() >= estadosMaximos) return desconocido;
     const auto numero = static_cast<Numero>(estados_.size());
     numeros_.emplace(hilos, numero);
-    estados_.push_back({std::move(hilos), acepta, false});
+    estados_.push_back({std::move(hilos), false});
+    acepta_.push_back(acepta ? 1 : 0);
     estados_.back().aceptaAlFinal = aceptaAlFinal(estados_.back().hilos);
     transiciones_.resize(estados_.size() * muestras_.size(), desconocido);
     return numero;

@@ -37,7 +37,6 @@ private:
     using Hilos = std::vector<std::uint32_t>;
     struct Estado {
         Hilos hilos; // instructions that go on from here, the preferred one first
-        bool acepta = false;
         bool aceptaAlFinal = false;
     };
     static constexpr Numero muerto = 0;
@@ -69,6 +68,7 @@ private:
     std::vector<Numero> grupos_;     // of each interval
     std::vector<char16_t> muestras_; // a unit of each group
     std::vector<Estado> estados_;
+    std::vector<std::uint8_t> acepta_; // of each state: the match is complete
     std::vector<Numero> transiciones_; // estado × grupo
     std::map<Hilos, Numero> numeros_;  // states by their threads; a complete match is the last of them
     std::vector<std::uint32_t> visitadas_;

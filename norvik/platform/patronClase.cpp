@@ -57,7 +57,7 @@ ClaseUnidades::ClaseUnidades(std::vector<RangoUnidades> rangos) : rangos_(std::m
     ordenaYFunde(rangos_);
     for (const RangoUnidades& rango : rangos_)
         for (std::uint32_t unidad = rango.desde; unidad <= rango.hasta && unidad < bajas_.size(); ++unidad)
-            bajas_.set(unidad);
+            bajas_[unidad] = true;
 }
 
 ClaseUnidades::ClaseUnidades(const ClaseLeida& leida, bool ignoraMayusculas) {
@@ -99,7 +99,7 @@ bool ClaseUnidades::esDisjunta(const ClaseUnidades& otra) const {
 void ClaseUnidades::une(const ClaseUnidades& otra) {
     aniade(rangos_, otra.rangos_);
     ordenaYFunde(rangos_);
-    bajas_ |= otra.bajas_;
+    for (std::size_t i = 0; i < bajas_.size(); ++i) bajas_[i] = bajas_[i] || otra.bajas_[i];
 }
 
 } // namespace norvik

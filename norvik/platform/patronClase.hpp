@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bitset>
+#include <array>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -50,7 +50,7 @@ private:
     bool contieneAlta(char16_t unidad) const;
 
     std::vector<RangoUnidades> rangos_;
-    std::bitset<256> bajas_;
+    std::array<bool, 256> bajas_{};
 };
 
 } // namespace norvik
