@@ -71,7 +71,7 @@ private:
     std::vector<Marco> pila_;
 };
 
-/// The textbook FIRST sets (least fixpoint), one for every run of rules, in order of first rule.
+/// The textbook FIRST sets (least fixpoint), one for every head, in order of first rule.
 void creaPrimerosDeLibro(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos);
 
 /// True when entering the rules of the symbols that a string may begin with can come back to a head through

@@ -96,7 +96,7 @@ void creaPrimerosDeLibro(const ReglasPartidas& reglas, ConjuntosGramatica& conju
     const PuntoFijo primeros(reglas);
     conjuntos.primeros.clear();
     for (int regla = 1; regla <= reglas.numReglas(); ++regla)
-        if (reglas.abreTramo(regla))
+        if (reglas.abreTramo(regla) && reglas.primera(reglas.cabeza(regla)) == regla)
             conjuntos.primeros.push_back({reglas.cabeza(regla), primeros.de(reglas.cabeza(regla))});
     std::fill(conjuntos.pendientePrimeros.begin(), conjuntos.pendientePrimeros.end(), false);
 }

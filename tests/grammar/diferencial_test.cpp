@@ -133,14 +133,15 @@ void comparaConElPuntoFijo(const gramatica& suya, const Reglas& reglas) {
     }
     const std::vector<conjunto> conjuntos = suya.primeros();
     std::size_t i = 0;
-    for (std::size_t r = 0; r < reglas.size(); ++r) {
-        if (r > 0 && reglas[r].first == reglas[r - 1].first) continue;
+    std::set<std::u16string> vistas;
+    for (const auto& [cabeza, cuerpo] : reglas) {
+        if (!vistas.insert(cabeza).second) continue;
         ASSERT_LT(i, conjuntos.size());
-        ASSERT_EQ(conjuntos[i].nombre, reglas[r].first);
+        ASSERT_EQ(conjuntos[i].nombre, cabeza);
         std::set<std::u16string> elementos;
         for (std::int16_t k = 1; k <= conjuntos[i].totalElementos(); ++k)
             elementos.emplace(conjuntos[i].simboloAt(k));
-        ASSERT_EQ(elementos, primeros[reglas[r].first]);
+        ASSERT_EQ(elementos, primeros[cabeza]);
         ++i;
     }
     ASSERT_EQ(i, conjuntos.size());

@@ -135,7 +135,7 @@ TEST(Modulo, EnCppLosTextosSonAscii) {
     const std::u16string texto = generada(u"S -> año")->textoModuloCpp(u"Cálculo", lexico);
     for (const std::u16string linea :
          {u"namespace C\\u00E1lculo {",
-          u"control.SetER(u\"\\\"\\\\\\?\\u00F1\\012\"sv, u\"a\\u00F1o\"sv, true,",
+          u"control.SetER(u\"\\\\c(34)\\\\\\?\\u00F1\\012\"sv, u\"a\\u00F1o\"sv, true,",
           u"        u\"S -> a\\u00F1o\"sv,", u"control.SetDimensionTablaSLR(3, 3);", u"        {3, 2, -1},"})
         EXPECT_NE(texto.find(linea), std::u16string::npos) << aUtf8(linea) << "\n" << aUtf8(texto);
     for (const char16_t c : texto) ASSERT_LT(c, 0x80);
