@@ -26,7 +26,7 @@ Rectangulo marcoOscuro(const Superficie& s) {
 std::optional<Rectangulo> espaciador(const Superficie& s, const Rectangulo& debugBox,
                                      const Rectangulo& texto) {
     if (!s.leftBorderVisible || s.margenIzquierdo < 2 * s.pixelX) return std::nullopt;
-    const std::int32_t x = debugBox.x + debugBox.ancho;
+    const std::int32_t x = xDelSeparador(s) + s.pixelX;
     return Rectangulo{x, debugBox.y, texto.x - x, debugBox.alto};
 }
 

@@ -11,7 +11,7 @@ TEST(Disposicion, ConMarcoYMargen) {
     EXPECT_EQ(d->bordeNegro, (Rectangulo{15, 15, 5970, 2970}));
     EXPECT_EQ(d->debugBox, (Rectangulo{30, 30, 300, 2940}));
     EXPECT_EQ(d->texto, (Rectangulo{495, 30, 5475, 2940}));
-    EXPECT_EQ(d->controlSpace, (Rectangulo{330, 30, 165, 2940}));
+    EXPECT_EQ(d->controlSpace, (Rectangulo{345, 30, 150, 2940}));
     EXPECT_EQ(d->bordeClaro1, (Linea{15, 2970, 5985, 2970}));
     EXPECT_EQ(d->bordeClaro2, (Linea{5970, 15, 5970, 2985}));
     EXPECT_EQ(d->bordeOscuro1, (Linea{0, 0, 5985, 0}));

@@ -306,9 +306,9 @@ TEST_F(CajaTextoQtTest, TeclasYEdicionesAlAzar) {
             const auto inicio = static_cast<std::size_t>(caja.inicioDeLinea(linea));
             const auto fin = texto().find_first_of(u"\r\n", inicio);
             const std::u16string esperada = texto().substr(inicio, fin == texto().npos ? fin : fin - inicio);
-            ASSERT_EQ(bloque.text().replace(QChar(0x2424), QChar(0x2029)).toStdU16String(), esperada) << paso;
+            ASSERT_EQ(bloque.text().replace(QChar(0x21B5), QChar(0x2029)).toStdU16String(), esperada) << paso;
         }
-        const auto seleccionada = cursor.selectedText().replace(QChar(0x2424), QChar(0x2029));
+        const auto seleccionada = cursor.selectedText().replace(QChar(0x21B5), QChar(0x2029));
         const auto deLaCaja = QString::fromStdU16String(caja.textoSeleccionado());
         if (caja.textoSeleccionado().find_first_of(u"\r\n") == std::u16string::npos) {
             ASSERT_EQ(seleccionada, deLaCaja) << paso;

@@ -14,6 +14,7 @@ namespace norvik {
 
 CajaTextoQt::CajaTextoQt(QWidget* padre)
     : vista_(std::make_unique<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
+    vista_->configura();
     CajaTextoQt::ponFuente(fuente());
     conecta();
 }
@@ -62,7 +63,7 @@ std::int32_t CajaTextoQt::primeraLineaVisible() const {
 }
 
 std::int32_t CajaTextoQt::altoDeLinea() const {
-    return aTwips(QFontMetricsF(vista_->font()).height(), twipsPorPixel(*vista_).y);
+    return aTwips(QFontMetrics(vista_->font()).height(), twipsPorPixel(*vista_).y);
 }
 
 void CajaTextoQt::ponIzquierda(std::int32_t twips) {

@@ -107,10 +107,10 @@ private:
     Tramo sincronizada_;         ///< the model's selection then
     std::optional<Tramo> sucio_; ///< characters whose style the editor may not show
     int bloqueos_ = 0;
-    bool copiando_ = false;      ///< the editor changes because of the model
-    bool deLaVista_ = false;     ///< the model's next change is what the editor has already
-    bool vistaAtrasada_ = false; ///< the editor's selection is not the model's
-    bool seleccionALaVista_ = true;
+    bool copiando_ = false;          ///< the editor changes because of the model
+    bool deLaVista_ = false;         ///< the model's next change is what the editor has already
+    bool vistaAtrasada_ = false;     ///< the editor's selection is not the model's
+    bool seleccionALaVista_ = false; ///< the editor has the focus
     bool alDiaPedido_ = false;
     bool falloPendiente_ = false;
 };

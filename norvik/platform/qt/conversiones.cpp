@@ -53,4 +53,17 @@ QFont aQFont(const Fuente& fuente) {
     return letra;
 }
 
+Fuente deQFont(const QFont& letra) {
+    Fuente fuente;
+    fuente.nombre = letra.family().toStdU16String();
+    if (letra.pointSizeF() > 0)
+        fuente.tamano = static_cast<std::int32_t>(std::lround(letra.pointSizeF() * 10000));
+    fuente.negrita = letra.bold();
+    fuente.cursiva = letra.italic();
+    fuente.tachado = letra.strikeOut();
+    fuente.subrayado = letra.underline();
+    fuente.peso = static_cast<std::int16_t>(letra.weight());
+    return fuente;
+}
+
 } // namespace norvik

@@ -30,6 +30,7 @@ inline QColor aQColor(std::int32_t color) {
 QColor legible(const QColor& color, const QColor& fondo);
 
 QFont aQFont(const Fuente& fuente);
+Fuente deQFont(const QFont& letra);
 /// A size in 1/10000 points as one that a font can have.
 double aPuntos(std::int32_t tamano);
 

@@ -11,16 +11,13 @@ namespace norvik {
 
 namespace {
 
-/// What shows a character: control characters have pictures of their own.
+/// What shows a character: signs that common fonts have.
 char16_t visible(char16_t c) {
-    constexpr char16_t primerDibujo = 0x2400;
-    constexpr char16_t dibujoDeSuprimir = 0x2421;
-    constexpr char16_t dibujoDeSalto = 0x2424;
-    constexpr char16_t sinDibujo = 0xFFFD;
-    if (c < u' ' && c != u'\t') return static_cast<char16_t>(primerDibujo + c);
-    if (c == 0x7F) return dibujoDeSuprimir;
-    if (c == 0x2028 || c == 0x2029) return dibujoDeSalto;
-    return c == 0xFDD0 || c == 0xFDD1 || c == 0xFFFC ? sinDibujo : c;
+    constexpr char16_t flechaDeRetorno = 0x21B5;
+    constexpr char16_t cuadro = 0x25A1;
+    if (c == 0x2028 || c == 0x2029) return flechaDeRetorno;
+    const bool control = (c < u' ' && c != u'\t') || c == 0x7F;
+    return control || c == 0xFDD0 || c == 0xFDD1 || c == 0xFFFC ? cuadro : c;
 }
 
 QString comoSeVe(std::u16string_view texto) {

@@ -13,14 +13,21 @@
 
 namespace norvik {
 
-VistaTexto::VistaTexto(CajaTextoQt& caja, QWidget* padre) : QPlainTextEdit(padre), caja_(caja) {
+namespace {
+
+constexpr int margenIzquierdo = 2;
+
+} // namespace
+
+void VistaTexto::configura() {
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     setFrameStyle(QFrame::NoFrame);
     setTabChangesFocus(true);
     viewport()->setMouseTracking(true); // moves are told whether a button is held or not
-    constexpr double margen = 2;
-    document()->setDocumentMargin(margen);
+    document()->setDocumentMargin(0);   // the first line starts where the left border does
+    setViewportMargins(margenIzquierdo, 0, 0, 0);
+    setBackgroundRole(QPalette::Base);
 }
 
 /// Shortcuts with the control key belong to the host's menus first.

@@ -13,7 +13,10 @@ class CajaTextoQt;
 /// without line wrapping, without an undo of its own.
 class VistaTexto final : public QPlainTextEdit {
 public:
-    VistaTexto(CajaTextoQt& caja, QWidget* padre);
+    VistaTexto(CajaTextoQt& caja, QWidget* padre) : QPlainTextEdit(padre), caja_(caja) {}
+
+    /// To be called once the box is whole: from here on the editor tells it what happens.
+    void configura();
 
     int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
 
