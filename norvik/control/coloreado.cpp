@@ -18,6 +18,7 @@ void Coloreado::coloreaRango(std::int32_t inicio, std::int32_t fin, std::int32_t
     if (inicio > fin) return;
 
     const MarcaOcupado ocupado(estado_.ocupado);
+    const TextoOculto oculto(colocacion_);
     const std::int32_t inicioSeleccion = caja_.inicioSeleccion();
     const std::int32_t longitudSeleccion = caja_.longitudSeleccion();
     pintaTokens(inicio + 1, fin + 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "norvik/control/colocacion.hpp"
 #include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
@@ -12,8 +13,9 @@ namespace norvik {
 /// Syntax colouring of the text box. Lines are 1-based, character positions 0-based.
 class Coloreado {
 public:
-    Coloreado(CajaTexto& caja, pilaTokens& lexico, const Opciones& opciones, EstadoEdicion& estado)
-        : caja_(caja), lexico_(lexico), opciones_(opciones), estado_(estado) {}
+    Coloreado(CajaTexto& caja, pilaTokens& lexico, const Opciones& opciones, EstadoEdicion& estado,
+              Colocacion& colocacion)
+        : caja_(caja), lexico_(lexico), opciones_(opciones), estado_(estado), colocacion_(colocacion) {}
 
     /// Colours the tokens that lie wholly in [inicio, fin); does nothing while `colorear` is off. `linea` is
     /// the line that the range is, or `ningunaLinea`: a line marked as an error loses its mark. Raises
@@ -34,6 +36,7 @@ private:
     pilaTokens& lexico_;
     const Opciones& opciones_;
     EstadoEdicion& estado_;
+    Colocacion& colocacion_;
 };
 
 } // namespace norvik

@@ -43,10 +43,10 @@ void Marcas::pinta(std::int32_t inicio, std::int32_t fin, std::int32_t color) {
     estado_.lineaEnEdicion = false;
 }
 
-void Marcas::ponSigno(std::int16_t linea) {
+const signoDebuger& Marcas::ponSigno(std::int16_t linea) {
     constexpr std::size_t primero = 2;
     const std::int16_t indice = a16(signos_.size() + primero); // signs are never taken away
-    signos_.emplace(indice, signoDebuger{indice, signoDebuger::error, linea});
+    return signos_.emplace(indice, signoDebuger{indice, signoDebuger::error, linea}).first->second;
 }
 
 } // namespace norvik

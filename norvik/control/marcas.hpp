@@ -31,7 +31,7 @@ public:
     /// Paints the characters [inicio, fin), 0-based, of a token that stands on a line (1-based).
     void marcaToken(std::int32_t inicio, std::int32_t fin, std::int32_t linea, std::int32_t color);
     /// Adds an error sign under the first free number from 2 on. Raises `Desbordamiento` when none is left.
-    void ponSigno(std::int16_t linea);
+    const signoDebuger& ponSigno(std::int16_t linea);
     const Signos& signos() const { return signos_; }
 
 private:

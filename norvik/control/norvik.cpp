@@ -1,33 +1,27 @@
 #include "norvik/control/norvik.hpp"
 
-#include "norvik/base/errores.hpp"
-#include "norvik/base/ficheros.hpp"
 #include "norvik/base/numeros.hpp"
-#include "norvik/base/texto.hpp"
+#include "norvik/control/lineasTexto.hpp"
+#include "norvik/control/pasosFirmes.hpp"
 
 namespace norvik {
 
-Norvik::Norvik(CajaTexto& caja, Sistema& sistema)
-    : caja_(caja), sistema_(sistema), lector_(lexico_, caja_), conductor_(lector_, lexico_, gramatica_),
-      coloreado_(caja_, lexico_, opciones_, estado_), marcas_(caja_, estado_) {
-    lexico_.autoNumber = true;
-    lexico_.ColorComentarios = 0x008000;
-    lexico_.ColorError = 0x0000FF;
-    lexico_.ColorNumeros = 0x808000;
-    lexico_.ColorOperadores = 0x000080;
-    lexico_.colorPalabrasReservadas = 0x800000;
-    lexico_.ColorEtiquetas = 0xFF8080;
-    caja_.ponOcultaSeleccion(true);
-    caja_.eventos.cambio = [this] { alCambiarElTexto(); };
+Norvik::Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor)
+    : caja_(caja), sistema_(sistema), contenedor_(contenedor), lector_(lexico_, caja_),
+      conductor_(lector_, lexico_, gramatica_), colocacion_(caja_, opciones_, contenedor_),
+      propiedades_(opciones_, lexico_, caja_, colocacion_, contenedor_),
+      coloreado_(caja_, lexico_, opciones_, estado_, colocacion_), marcas_(caja_, estado_),
+      historial_(caja_, estado_),
+      edicion_(caja_, opciones_, estado_, coloreado_, colocacion_, historial_, eventos) {
+    propiedades_.construye();
+    edicion_.conecta();
     conductor_.alFallar = [this](const Mensaje& mensaje) { alFallarElAnalisis(mensaje); };
 }
 
 Norvik::~Norvik() {
     caja_.eventos = {};
-}
-
-void Norvik::alCambiarElTexto() {
-    if (!estado_.ocupado) estado_.numLineas = caja_.numeroDeLineas();
+    DestinoBusqueda& destino = estadoBusqueda();
+    if (destino.textoDestino == &caja_) destino = {};
 }
 
 void Norvik::alFallarElAnalisis(const Mensaje& mensaje) {
@@ -51,7 +45,9 @@ void Norvik::MarcaErrorLineaToken() {
 }
 
 void Norvik::PonSignoError(std::int16_t numLinea) {
-    marcas_.ponSigno(numLinea);
+    const signoDebuger& signo = marcas_.ponSigno(numLinea);
+    estado_.primeraLineaVisible = caja_.primeraLineaVisible();
+    contenedor_.ponSigno(signo, lugarDeSigno(numLinea, estado_.primeraLineaVisible, caja_.altoDeLinea()));
 }
 
 void Norvik::ColoreaTodo() {
@@ -62,41 +58,63 @@ void Norvik::ColoreaLineaActual() {
     coloreado_.coloreaLinea(LineaActual());
 }
 
-std::int16_t Norvik::LineaActual() const {
-    return a16(caja_.lineaDeCaracter(caja_.inicioSeleccion()) + 1);
+std::u16string Norvik::ContenidoLinea(std::int16_t numLinea) const {
+    return std::u16string(dameLinea(numLinea, caja_.texto()));
 }
 
-// --- Files ---
+// --- Searching ---
 
-void Norvik::BorraTodo() {
-    caja_.ponTexto({});
-    caja_.ponColorSeleccion(0);
+std::int32_t Norvik::Find(std::u16string_view cadena, std::int32_t comienzo, std::int32_t final,
+                          std::int32_t opciones) {
+    return caja_.busca(cadena, comienzo, final == 0 ? a32(caja_.texto().size()) : final, opciones);
 }
 
-bool Norvik::CargarFichero(const std::filesystem::path& nomFichero) {
-    BorraTodo();
-    caja_.ponTexto(leeTexto(nomFichero));
-    ColoreaTodo();
-    return true;
+DestinoBusqueda Norvik::destinoBusqueda() {
+    return {&caja_, [this](std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+                sustituye(inicio, longitud, nuevo);
+            }};
 }
 
-bool Norvik::SalvarFichero(const std::filesystem::path& nomFichero) {
-    try {
-        escribeTexto(nomFichero, std::u16string(caja_.texto()).append(saltoDeLinea), Durabilidad::EnDisco);
-        return true;
-    } catch (const ErrorNorvik&) {
-        return false;
-    }
+void Norvik::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+    PasosFirmes paso;
+    paso([&] { historial_.sustituye(inicio, longitud, nuevo); });
+    paso([this] { ColoreaTodo(); });
+    paso.acaba();
+}
+
+void Norvik::ShowBuscarDialog() {
+    static_cast<DestinoBusqueda&>(estadoBusqueda()) = destinoBusqueda();
+    contenedor_.muestraBuscar();
+}
+
+void Norvik::ShowReemplazarDialog() {
+    contenedor_.muestraReemplazar();
+}
+
+// --- Design time ---
+
+std::any Norvik::editCode() const {
+    propiedades_.cedeARanuras();
+    return {};
+}
+
+void Norvik::editCode(const std::any& /*valor*/) {
+    propiedades_.tomaDeRanuras();
+}
+
+void Norvik::SetTraduccion(std::int16_t /*numRegla*/, std::u16string_view /*variableETDS*/,
+                           std::u16string_view /*traduccion*/, std::u16string_view /*condicion*/,
+                           std::u16string_view /*atributosDerivados*/) {}
+
+void Norvik::clickEnSuperficie() {
+    caja_.enfoca();
+    if (!estado_.ocupado && eventos.Click) eventos.Click();
 }
 
 // --- Properties of the text box ---
 
 std::u16string Norvik::Text() const {
     return std::u16string(caja_.texto());
-}
-
-void Norvik::Text(std::u16string_view texto) {
-    if (texto != caja_.texto()) caja_.ponTexto(texto);
 }
 
 std::u16string Norvik::SelText() const {
@@ -121,6 +139,23 @@ std::int16_t Norvik::SelLength() const {
 
 void Norvik::SelLength(std::int16_t longitud) {
     caja_.selecciona(caja_.inicioSeleccion(), longitud);
+}
+
+void Norvik::SelFontName(std::u16string_view nombre) {
+    if (nombre != caja_.nombreFuenteSeleccion()) caja_.ponNombreFuenteSeleccion(nombre);
+}
+
+namespace {
+constexpr std::int32_t punto = 10000; // the unit of sizes is its part
+} // namespace
+
+std::int16_t Norvik::SelFontSize() const {
+    return a16((caja_.tamanoFuenteSeleccion() + punto / 2) / punto);
+}
+
+void Norvik::SelFontSize(std::int16_t puntos) {
+    const std::int32_t tamano = puntos * punto;
+    if (tamano != caja_.tamanoFuenteSeleccion()) caja_.ponTamanoFuenteSeleccion(tamano);
 }
 
 bool Norvik::TextoModificado() const {

@@ -1,9 +1,17 @@
 #pragma once
 
+#include "norvik/control/bolsaPropiedades.hpp"
+#include "norvik/control/colocacion.hpp"
 #include "norvik/control/coloreado.hpp"
+#include "norvik/control/contenedor.hpp"
+#include "norvik/control/edicion.hpp"
+#include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/control/estadoEdicion.hpp"
+#include "norvik/control/eventosControl.hpp"
+#include "norvik/control/historial.hpp"
 #include "norvik/control/marcas.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/propiedades.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
@@ -14,6 +22,7 @@
 #include "norvik/platform/sistema.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 
+#include <any>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -22,14 +31,18 @@
 namespace norvik {
 
 /// The editor control: an editor that knows the language loaded into it. A facade over parts that each keep
-/// their own state; the host gives it a text box and the services of its surroundings, which must outlive it.
+/// their own state; the host gives it a text box, the services of its surroundings and, if it has windows,
+/// what contains it, which must outlive it.
 ///
-/// A property is two members of one name: `X()` reads it and `X(value)` sets it. Every failure raised leaves
-/// the control as usable as before: nothing stays busy, locked or hidden.
+/// A property is two members of one name: `X()` reads it and `X(value)` sets it; setting one of the saved
+/// ones to another value notifies the container. Every failure raised leaves the control as usable as before:
+/// nothing stays busy, locked or hidden.
 class Norvik final : public CargadorLenguaje {
 public:
-    Norvik(CajaTexto& caja, Sistema& sistema);
+    Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor = sinContenedor());
     ~Norvik() override;
+
+    EventosControl eventos;
 
     // Loading a language. Definitions follow `LenguajeSensible` as it is at the call; their errors are shown
     // titled "Norvik: Error en especificación léxica", and the call completes.
@@ -91,72 +104,149 @@ public:
     void ColoreaTodo();
     void ColoreaLineaActual();
 
-    // Lines and files.
-    /// 1-based line of the caret.
-    std::int16_t LineaActual() const;
-    /// Empties the text, the colour of what is typed next included.
+    // Lines; they count from 1.
+    std::int16_t LineaActual() const { return edicion_.lineaActual(); }
+    std::int32_t ColumnaActual() const { return edicion_.columnaActual(); }
+    /// As counted at the last change of the text.
+    std::int32_t TotalLineas() const { return estado_.numLineas; }
+    /// A line without its end; raises `ArgumentoNoValido` when there is none.
+    std::u16string ContenidoLinea(std::int16_t numLinea) const;
+
+    // Undo. The first recorded text is the base, which cannot be undone.
+    /// Forgets every change. Raises `Desbordamiento`, having done so, when there were more than 32767.
+    void InicializaUndosYRedos() { historial_.InicializaUndosYRedos(); }
+    void Undo() { historial_.Undo(); }
+    void Redo() { historial_.Redo(); }
+
+    // Searching.
+    /// Position (0-based) of a text between two others, -1 when there is none; a `final` of 0 is the end of
+    /// the text, the options are those of `CajaTexto::busca`.
+    std::int32_t Find(std::u16string_view cadena, std::int32_t comienzo = 0, std::int32_t final = 0,
+                      std::int32_t opciones = 0);
+    void ShowBuscarDialog();
+    void ShowReemplazarDialog();
+    /// What a dialog that searches this control works on.
+    DestinoBusqueda destinoBusqueda();
+
+    // Files and printing.
+    /// Empties the text, the colour of what is typed next and the undo and redo lists included.
     void BorraTodo();
     /// Replaces the text by a file's and colours it. True, or raises `ErrorDeFichero` with the text emptied.
     bool CargarFichero(const std::filesystem::path& nomFichero);
     /// Writes the text and a line end; false when that failed.
     bool SalvarFichero(const std::filesystem::path& nomFichero);
+    /// Prints the text; a failure is told in a message box.
+    void Imprimir();
+
+    // What is saved, and the exchange with the design-time tools.
+    /// Raises `NoCoincidenLosTipos` or `Desbordamiento` at the first value that is none of its property;
+    /// those before it are set.
+    void restauraPropiedades(const BolsaPropiedades& bolsa) { propiedades_.restaura(bolsa); }
+    void guardaPropiedades(BolsaPropiedades& bolsa) const { propiedades_.guarda(bolsa); }
+    /// Reading it copies specification and test text to the shared slots, setting it takes them from there.
+    std::any editCode() const;
+    void editCode(const std::any& valor);
+    /// Accepts its arguments, does nothing.
+    void SetTraduccion(std::int16_t numRegla, std::u16string_view variableETDS,
+                       std::u16string_view traduccion, std::u16string_view condicion = {},
+                       std::u16string_view atributosDerivados = {});
+    void Acerca() { contenedor_.muestraAcerca(); }
+    /// Shows the report on the grammar and the lexer.
+    void MuestraInforme() { contenedor_.muestraInforme(); }
+
+    // For whoever shows the control.
+    /// The control has another size.
+    void redimensiona() { colocacion_.colocaControles(); }
+    /// The tab key moved the focus out of the text box, to the button that stands for it.
+    void tabuladorEnfocado() { edicion_.tabula(); }
+    /// The control's own surface was clicked.
+    void clickEnSuperficie();
+    const Opciones& opciones() const { return opciones_; }
 
     // Properties of the text box. Positions and lengths are 16-bit: reading larger ones raises
     // `Desbordamiento`.
     std::u16string Text() const;
-    void Text(std::u16string_view texto);
+    void Text(std::u16string_view texto) { propiedades_.ponText(texto); }
     std::u16string SelText() const;
     void SelText(std::u16string_view texto);
     std::int16_t SelStart() const;
     void SelStart(std::int16_t posicion);
     std::int16_t SelLength() const;
     void SelLength(std::int16_t longitud);
+    std::u16string SelFontName() const { return caja_.nombreFuenteSeleccion(); }
+    void SelFontName(std::u16string_view nombre);
+    /// In points.
+    std::int16_t SelFontSize() const;
+    void SelFontSize(std::int16_t puntos);
+    const Fuente& Font() const { return caja_.fuente(); }
+    void Font(const Fuente& fuente) { propiedades_.ponFont(fuente); }
     bool TextoModificado() const;
     /// False clears the mark, true does nothing.
     void TextoModificado(bool modificado);
 
     // Options.
+    bool Borde3D() const { return opciones_.borde3D; }
+    void Borde3D(bool valor) { propiedades_.ponBorde3D(valor); }
+    bool LeftBorderVisible() const { return opciones_.leftBorderVisible; }
+    void LeftBorderVisible(bool valor) { propiedades_.ponLeftBorderVisible(valor); }
+    std::int16_t MargenIzquierdo() const { return opciones_.margenIzquierdo; }
+    void MargenIzquierdo(std::int16_t twips) { propiedades_.ponMargenIzquierdo(twips); }
+    bool HideSelection() const { return opciones_.hideSelection; }
+    void HideSelection(bool valor) { propiedades_.ponHideSelection(valor); }
     bool LenguajeSensible() const { return opciones_.lenguajeSensible; }
-    void LenguajeSensible(bool valor) { opciones_.lenguajeSensible = valor; }
+    void LenguajeSensible(bool valor) { pon(opciones_.lenguajeSensible, valor, u"LenguajeSensible"); }
     bool AutoCorreccion() const { return opciones_.autoCorreccion; }
-    void AutoCorreccion(bool valor) { opciones_.autoCorreccion = valor; }
+    void AutoCorreccion(bool valor) { pon(opciones_.autoCorreccion, valor, u"AutoCorreccion"); }
+    std::int16_t EspaciosXTAB() const { return opciones_.espaciosXTAB; }
+    void EspaciosXTAB(std::int16_t cuantos) { pon(opciones_.espaciosXTAB, cuantos, u"EspaciosXTAB"); }
+    bool AutoTAB() const { return opciones_.autoTAB; }
+    void AutoTAB(bool valor) { pon(opciones_.autoTAB, valor, u"AutoTAB"); }
     bool MarcarErrores() const { return opciones_.marcarErrores; }
-    void MarcarErrores(bool valor) { opciones_.marcarErrores = valor; }
+    void MarcarErrores(bool valor) { pon(opciones_.marcarErrores, valor, u"MarcarErrores"); }
     bool MuestraMensajesDeError() const { return opciones_.muestraMensajesDeError; }
-    void MuestraMensajesDeError(bool valor) { opciones_.muestraMensajesDeError = valor; }
+    void MuestraMensajesDeError(bool valor) {
+        pon(opciones_.muestraMensajesDeError, valor, u"MuestraMensajesDeError");
+    }
     bool Colorear() const { return opciones_.colorear; }
-    void Colorear(bool valor) { opciones_.colorear = valor; }
+    void Colorear(bool valor) { pon(opciones_.colorear, valor, u"Colorear"); }
+    const std::u16string& NomLenguaje() const { return opciones_.nombreLenguaje; }
+    void NomLenguaje(std::u16string_view nombre) { pon(opciones_.nombreLenguaje, nombre, u"NombreLenguaje"); }
     bool AutoNumero() const { return lexico_.autoNumber; }
-    void AutoNumero(bool valor) { lexico_.autoNumber = valor; }
+    void AutoNumero(bool valor) { pon(lexico_.autoNumber, valor, u"AutoNumero"); }
 
     // Colours of the token kinds, 0x00BBGGRR: definitions take them when they are registered.
     std::int32_t ColorPR() const { return lexico_.colorPalabrasReservadas; }
-    void ColorPR(std::int32_t color) { lexico_.colorPalabrasReservadas = color; }
+    void ColorPR(std::int32_t color) { pon(lexico_.colorPalabrasReservadas, color, u"ColorPR"); }
     std::int32_t ColorOperadores() const { return lexico_.ColorOperadores; }
-    void ColorOperadores(std::int32_t color) { lexico_.ColorOperadores = color; }
+    void ColorOperadores(std::int32_t color) { pon(lexico_.ColorOperadores, color, u"ColorOperadores"); }
     std::int32_t ColorComentarios() const { return lexico_.ColorComentarios; }
-    void ColorComentarios(std::int32_t color) { lexico_.ColorComentarios = color; }
+    void ColorComentarios(std::int32_t color) { pon(lexico_.ColorComentarios, color, u"ColorComentarios"); }
     std::int32_t ColorEtiquetas() const { return lexico_.ColorEtiquetas; }
-    void ColorEtiquetas(std::int32_t color) { lexico_.ColorEtiquetas = color; }
+    void ColorEtiquetas(std::int32_t color) { pon(lexico_.ColorEtiquetas, color, u"ColorEtiquetas"); }
     std::int32_t ColorNumeros() const { return lexico_.ColorNumeros; }
-    void ColorNumeros(std::int32_t color) { lexico_.ColorNumeros = color; }
+    void ColorNumeros(std::int32_t color) { pon(lexico_.ColorNumeros, color, u"ColorNumeros"); }
     /// Read at each marking.
     std::int32_t ColorError() const { return lexico_.ColorError; }
-    void ColorError(std::int32_t color) { lexico_.ColorError = color; }
+    void ColorError(std::int32_t color) { pon(lexico_.ColorError, color, u"ColorError"); }
     std::int32_t ColorCadena() const { return lexico_.ColorCadena; }
-    void ColorCadena(std::int32_t color) { lexico_.ColorCadena = color; }
+    void ColorCadena(std::int32_t color) { pon(lexico_.ColorCadena, color, u"ColorCadena"); }
     std::int32_t ColorCaracter() const { return lexico_.ColorCaracter; }
-    void ColorCaracter(std::int32_t color) { lexico_.ColorCaracter = color; }
+    void ColorCaracter(std::int32_t color) { pon(lexico_.ColorCaracter, color, u"ColorCaracter"); }
     std::int32_t ColorFechas() const { return lexico_.ColorFechas; }
-    void ColorFechas(std::int32_t color) { lexico_.ColorFechas = color; }
+    void ColorFechas(std::int32_t color) { pon(lexico_.ColorFechas, color, u"ColorFechas"); }
 
     // What the control owns, for reports and modules.
     gramatica& Gramatica() { return gramatica_; }
     pilaTokens& Lexico() { return lexico_; }
     const Marcas::Signos& signos() const { return marcas_.signos(); }
+    const Historial& historial() const { return historial_; }
 
 private:
-    void alCambiarElTexto();
+    template <typename Tipo, typename Valor>
+    void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
+        propiedades_.pon(campo, valor, nombre);
+    }
+    void sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);
     void alFallarElAnalisis(const Mensaje& mensaje);
     void muestraErrorLexico(const std::u16string& mensaje);
     bool analizaEspecificacion(std::u16string_view codGramatica);
@@ -164,14 +254,19 @@ private:
 
     CajaTexto& caja_;
     Sistema& sistema_;
+    Contenedor& contenedor_;
     Opciones opciones_;
     EstadoEdicion estado_;
     pilaTokens lexico_;
     gramatica gramatica_;
     LectorTokens lector_;
     ConductorSLR conductor_;
+    Colocacion colocacion_;
+    Propiedades propiedades_;
     Coloreado coloreado_;
     Marcas marcas_;
+    Historial historial_;
+    Edicion edicion_;
 };
 
 } // namespace norvik

@@ -1,0 +1,147 @@
+#include "norvik/control/buscador.hpp"
+
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::u16string_view todo = direccionesBusqueda[0];
+constexpr std::u16string_view arriba = direccionesBusqueda[1];
+constexpr std::u16string_view abajo = direccionesBusqueda[2];
+
+std::u16string patronDe(const Peticion& peticion) {
+    return peticion.soloPalabrasCompletas ? u"\\b" + peticion.texto + u"\\b" : peticion.texto;
+}
+
+/// The part of a text from the first match to the end of the last, with every match replaced.
+std::u16string tramoReemplazado(std::u16string_view texto, const std::vector<Coincidencia>& halladas,
+                                std::u16string_view con) {
+    std::u16string tramo;
+    auto desde = static_cast<std::size_t>(halladas.front().indice);
+    for (const Coincidencia& c : halladas) {
+        const auto indice = static_cast<std::size_t>(c.indice);
+        tramo.append(texto.substr(desde, indice - desde)).append(con);
+        desde = indice + static_cast<std::size_t>(c.longitud);
+    }
+    return tramo;
+}
+
+} // namespace
+
+void Buscador::abre() {
+    if (destino_.textoDestino != nullptr) {
+        ocultaSeleccion_ = destino_.textoDestino->ocultaSeleccion();
+        destino_.textoDestino->ponOcultaSeleccion(false);
+    }
+    estado_.dialogoAbierto = true;
+}
+
+void Buscador::cierra() {
+    const auto oculta = std::exchange(ocultaSeleccion_, std::nullopt);
+    if (destino_.textoDestino != nullptr && oculta) destino_.textoDestino->ponOcultaSeleccion(*oculta);
+    estado_.dialogoAbierto = false;
+}
+
+/// Every match in the whole text; nothing when there is nothing to search with or in.
+std::optional<Buscador::Coincidencias> Buscador::coincidencias(const Peticion& peticion) {
+    if (peticion.texto.empty() || destino_.textoDestino == nullptr) return std::nullopt;
+    const auto emparejador = Emparejador::compila(patronDe(peticion), !peticion.coincidirMayusculas);
+    if (!emparejador) {
+        avisa(u"El texto de búsqueda no es una expresión regular correcta", {}, Icono::Exclamacion);
+        return std::nullopt;
+    }
+    try {
+        return emparejador->ejecuta(destino_.textoDestino->texto(), Presupuesto());
+    } catch (const BusquedaDesbocada&) {
+        avisa(u"La búsqueda se ha interrumpido: la expresión regular necesita demasiado tiempo", {},
+              Icono::Exclamacion);
+        return std::nullopt;
+    }
+}
+
+void Buscador::empieza(const Peticion& peticion) {
+    estado_.textoBuscado = peticion.texto;
+    estado_.soloPalabrasCompletas = peticion.soloPalabrasCompletas;
+    estado_.direccionBusqueda = peticion.direccion == todo ? std::u16string(abajo) : peticion.direccion;
+}
+
+void Buscador::buscaSiguiente(const Peticion& peticion) {
+    const auto halladas = coincidencias(peticion);
+    if (!halladas) return;
+    empieza(peticion);
+    const std::int32_t cursor = destino_.textoDestino->inicioSeleccion();
+    selecciona(*halladas, cursor, cursor);
+    recuerda();
+}
+
+/// Selects, by the direction, the first match after a position or the last one before another.
+void Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) {
+    if (halladas.empty()) return avisa(u"No se encontró el texto de busqueda");
+    const Coincidencia* tomada = nullptr;
+    if (estado_.direccionBusqueda == abajo) {
+        const auto i = std::find_if(halladas.begin(), halladas.end(),
+                                    [&](const Coincidencia& c) { return c.indice > despuesDe; });
+        if (i != halladas.end()) tomada = &*i;
+    } else if (estado_.direccionBusqueda == arriba) {
+        const auto i = std::find_if(halladas.rbegin(), halladas.rend(),
+                                    [&](const Coincidencia& c) { return c.indice < antesDe; });
+        if (i != halladas.rend()) tomada = &*i;
+    }
+    if (tomada != nullptr) {
+        destino_.textoDestino->selecciona(tomada->indice, tomada->longitud);
+    } else {
+        avisa(u"Se ha buscado en la región especificada", u"Busqueda completada");
+    }
+}
+
+void Buscador::recuerda() {
+    estado_.ultimaBusqueda = estado_.textoBuscado;
+    auto& historial = estado_.historialBusquedas;
+    if (std::find(historial.begin(), historial.end(), estado_.textoBuscado) != historial.end()) return;
+    historial.push_back(estado_.textoBuscado);
+    if (destino_.textoDestino != nullptr) destino_.textoDestino->enfoca();
+}
+
+void Buscador::reemplaza(const Peticion& peticion, std::u16string_view con) {
+    const auto halladas = coincidencias(peticion);
+    if (!halladas) return;
+    const CajaTexto& caja = *destino_.textoDestino;
+    const Coincidencia elegida{caja.inicioSeleccion(), caja.longitudSeleccion()};
+    const bool esHallada = std::find(halladas->begin(), halladas->end(), elegida) != halladas->end();
+    if (elegida.longitud == 0 || !esHallada) return buscaSiguiente(peticion);
+
+    destino_.sustituye(elegida.indice, elegida.longitud, con);
+    const auto quedan = coincidencias(peticion);
+    if (!quedan) return;
+    empieza(peticion);
+    selecciona(*quedan, caja.inicioSeleccion() - 1, elegida.indice); // one may follow at once
+    recuerda();
+}
+
+void Buscador::reemplazaTodo(const Peticion& peticion, std::u16string_view con) {
+    const auto halladas = coincidencias(peticion);
+    if (!halladas) return;
+    if (halladas->empty()) return avisa(u"No se encontró el texto de busqueda");
+    const CajaTexto& caja = *destino_.textoDestino;
+    const std::int32_t inicio = halladas->front().indice;
+    const std::int32_t fin = halladas->back().indice + halladas->back().longitud;
+    destino_.sustituye(inicio, fin - inicio, tramoReemplazado(caja.texto(), *halladas, con));
+    const bool uno = halladas->size() == 1;
+    const std::u16string cuantos = aTexto(static_cast<std::int64_t>(halladas->size()));
+    avisa(uno ? u"Se ha hecho 1 reemplazo" : u"Se han hecho " + cuantos + u" reemplazos",
+          u"Reemplazo completado");
+}
+
+/// Above the dialog, which stands above all other windows.
+void Buscador::avisa(std::u16string_view texto, std::u16string_view titulo, Icono icono) {
+    const bool cede = estado_.dialogoAbierto && ponEncima;
+    if (cede) ponEncima(false);
+    sistema_.muestraMensaje({std::u16string(texto), std::u16string(titulo), icono, Botones::Aceptar});
+    if (cede) ponEncima(true);
+}
+
+} // namespace norvik

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "norvik/control/estadoBusqueda.hpp"
+#include "norvik/platform/emparejador.hpp"
+#include "norvik/platform/sistema.hpp"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// The texts of the direction list, in its order.
+inline constexpr std::array<std::u16string_view, 3> direccionesBusqueda = {u"Todo", u"Arriba", u"Abajo"};
+
+/// What the fields of a find or replace dialog say.
+struct Peticion {
+    std::u16string texto; ///< a pattern of the editor's dialect
+    std::u16string direccion = u"Todo";
+    bool soloPalabrasCompletas = false;
+    bool coincidirMayusculas = false;
+};
+
+/// What the find and the replace dialog do; the windows only fill in a request and call. They share the
+/// process's one search state. A pattern that is malformed or runs away is told and changes nothing.
+class Buscador {
+public:
+    /// Searches the find dialog's text, or another one, which must outlive the searcher.
+    explicit Buscador(Sistema& sistema, const DestinoBusqueda& destino = estadoBusqueda())
+        : sistema_(sistema), destino_(destino) {}
+
+    /// The find dialog is shown for the first time since it was closed: a found text stays visibly selected.
+    void abre();
+    void cierra();
+
+    /// "Buscar siguiente": selects the next match strictly beyond the caret, or strictly before it.
+    void buscaSiguiente(const Peticion& peticion);
+    /// "Reemplazar": replaces the selection when it is a match, and selects the next one.
+    void reemplaza(const Peticion& peticion, std::u16string_view con);
+    /// "Reemplazar todo": replaces every match, as one step of Undo, and says how many they were.
+    void reemplazaTodo(const Peticion& peticion, std::u16string_view con);
+
+    /// The dialog gives up its place above all windows (false) while a message is shown, and takes it again.
+    std::function<void(bool encima)> ponEncima;
+
+private:
+    using Coincidencias = std::vector<Coincidencia>;
+
+    std::optional<Coincidencias> coincidencias(const Peticion& peticion);
+    void selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe);
+    void empieza(const Peticion& peticion);
+    void recuerda();
+    void avisa(std::u16string_view texto, std::u16string_view titulo = {}, Icono icono = Icono::Informacion);
+
+    Sistema& sistema_;
+    const DestinoBusqueda& destino_;
+    EstadoBusqueda& estado_ = estadoBusqueda();
+    std::optional<bool> ocultaSeleccion_; ///< of the box, before the dialog was opened
+};
+
+} // namespace norvik

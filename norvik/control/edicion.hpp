@@ -1,0 +1,55 @@
+#pragma once
+
+#include "norvik/control/colocacion.hpp"
+#include "norvik/control/coloreado.hpp"
+#include "norvik/control/estadoEdicion.hpp"
+#include "norvik/control/eventosControl.hpp"
+#include "norvik/control/historial.hpp"
+#include "norvik/control/opciones.hpp"
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <cstdint>
+
+namespace norvik {
+
+/// What happens in the text box, and what of it reaches the host: the line being typed is kept plain and is
+/// coloured when the caret leaves it, each change is recorded, new lines are indented.
+class Edicion {
+public:
+    Edicion(CajaTexto& caja, const Opciones& opciones, EstadoEdicion& estado, Coloreado& coloreado,
+            Colocacion& colocacion, Historial& historial, EventosControl& eventos)
+        : caja_(caja), opciones_(opciones), estado_(estado), coloreado_(coloreado), colocacion_(colocacion),
+          historial_(historial), eventos_(eventos) {}
+
+    /// Receives the box's events from now on.
+    void conecta();
+
+    /// 1-based; raises `Desbordamiento` beyond 32767.
+    std::int16_t lineaActual() const;
+    /// 1-based.
+    std::int32_t columnaActual() const;
+    /// Replaces the selection with the spaces of a tab key and gives the focus back to the box.
+    void tabula();
+
+private:
+    void alCambiar();
+    void ponLineaLlana();
+    void quitaMarca();
+    void alCambiarLaSeleccion();
+    void cambiaDeLinea(std::int32_t linea);
+    void alBajarTecla(std::int16_t& codigo, std::int16_t& shift);
+    void alSubirTecla(std::int16_t& codigo, std::int16_t& shift);
+    void sangra();
+    void vaAPegar();
+    void alPerderElFoco();
+
+    CajaTexto& caja_;
+    const Opciones& opciones_;
+    EstadoEdicion& estado_;
+    Coloreado& coloreado_;
+    Colocacion& colocacion_;
+    Historial& historial_;
+    EventosControl& eventos_;
+};
+
+} // namespace norvik

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// The text that a dialog searches.
+struct DestinoBusqueda {
+    CajaTexto* textoDestino = nullptr; ///< null when its control is gone
+    /// Replaces a range (0-based) of the box's text as one step of Undo.
+    std::function<void(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo)> sustituye;
+};
+
+/// What every search of the process shares. There is one find dialog, and its text is that of the control
+/// that opened it last.
+struct EstadoBusqueda : DestinoBusqueda {
+    std::u16string textoBuscado;
+    std::u16string direccionBusqueda;
+    bool soloPalabrasCompletas = false;
+    std::vector<std::u16string> historialBusquedas; ///< oldest first, without repeats
+    std::u16string ultimaBusqueda;
+    bool dialogoAbierto = false;
+};
+
+inline EstadoBusqueda& estadoBusqueda() {
+    static EstadoBusqueda estado;
+    return estado;
+}
+
+} // namespace norvik

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "norvik/control/estadoEdicion.hpp"
+#include "norvik/control/instantaneas.hpp"
+#include "norvik/control/pasosFirmes.hpp"
+#include "norvik/platform/cajaTexto.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+/// Undo and redo of the text box's changes. What a failure interrupts on the way is finished before the
+/// failure is raised, so that the lists agree with the text.
+class Historial {
+public:
+    Historial(CajaTexto& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
+
+    /// Empties both lists and switches recording on. Raises `Desbordamiento`, with both empty, when one held
+    /// more than 32767 entries.
+    void InicializaUndosYRedos();
+    void Undo();
+    void Redo();
+
+    /// Off only while Undo or Redo run.
+    bool grabaDeshacer() const { return grabaDeshacer_; }
+    /// Records a change that the box's text went through. Raises as `InicializaUndosYRedos` does.
+    void registra();
+    /// Replaces a range (0-based). The change is recorded as one that Undo takes back exactly, which the
+    /// others are not when they both take away and put in.
+    void sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);
+
+    const Instantaneas& undos() const { return undos_; }
+    const Instantaneas& redos() const { return redos_; }
+
+private:
+    void deshace(const UndoElement& ant, const UndoElement& act, PasosFirmes& paso);
+    void quita(std::int32_t inicio, std::int32_t cuantos, PasosFirmes& paso);
+    void repone(std::int32_t inicio, std::u16string_view quitado, PasosFirmes& paso);
+    void rehace(const UndoElement& e, PasosFirmes& paso);
+    void inserta(std::int32_t inicio, std::u16string_view r, PasosFirmes& paso);
+    void cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso);
+    void ponCursor(std::int32_t posicion) { caja_.selecciona(posicion, 0); }
+    void marcaSiCambioDeLinea();
+
+    CajaTexto& caja_;
+    EstadoEdicion& estado_;
+    Instantaneas undos_;
+    Instantaneas redos_;
+    bool grabaDeshacer_ = true;
+    bool esSustitucion_ = false;
+};
+
+/// The characters by which the longer of two texts exceeds the shorter, taken from the longer so that they
+/// end just before a 1-based position; all of it when they would start before it does.
+std::u16string_view textoDiferencia(std::u16string_view a, std::u16string_view b, std::int32_t p);
+
+} // namespace norvik

@@ -1,0 +1,30 @@
+#include "norvik/control/lineasTexto.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+
+namespace norvik {
+
+std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
+    if (texto.empty()) return {};
+    if (n < 1) throw ArgumentoNoValido();
+    std::size_t inicio = 0;
+    std::size_t fin = std::min(texto.find(u'\r'), texto.size());
+    for (std::int16_t i = 2; i <= n; ++i) {
+        inicio = fin + saltoDeLinea.size();
+        fin = std::min(texto.find(u'\r', inicio - 1), texto.size());
+        if (fin < inicio) throw ArgumentoNoValido();
+    }
+    return texto.substr(inicio, fin - inicio);
+}
+
+std::u16string espacios(std::int16_t veces, std::int16_t ancho) {
+    const std::int16_t cuantos = a16(std::int32_t{veces} * ancho);
+    if (cuantos < 0) throw ArgumentoNoValido();
+    return std::u16string(static_cast<std::size_t>(cuantos), u' ');
+}
+
+} // namespace norvik

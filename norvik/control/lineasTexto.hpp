@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+/// A line (1-based) of a text whose lines end with CR LF, without its end; of an empty text the empty string.
+/// Raises `ArgumentoNoValido` when there is no such line.
+std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto);
+
+/// `veces` × `ancho` spaces. Raises `Desbordamiento` for more than 32767, `ArgumentoNoValido` for fewer than
+/// 0.
+std::u16string espacios(std::int16_t veces, std::int16_t ancho);
+
+} // namespace norvik

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace norvik {
+
+/// What the design-time tools work on instead of a control: one set for the whole process.
+struct RanurasDisenio {
+    std::u16string especificacion;
+    std::u16string textoPrueba;
+    bool pendienteGuardar = false;
+};
+
+inline RanurasDisenio& ranurasDisenio() {
+    static RanurasDisenio ranuras;
+    return ranuras;
+}
+
+} // namespace norvik
