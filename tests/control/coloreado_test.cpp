@@ -55,7 +55,9 @@ TEST(Coloreado, CadaTokenDelColorDeSuTipo) {
 
 TEST(Coloreado, UnaLineaNoVeLoQueSaleDeElla) {
     Editor e(u"1 /* 2\r\n3 */ 4");
-    e.caja.selecciona(10, 0);
+    e.norvik.Colorear(false);
+    e.caja.selecciona(10, 0); // leaving the first line would colour it
+    e.norvik.Colorear(true);
     e.norvik.ColoreaLineaActual();
     EXPECT_EQ(colores(e), "8-9:808000 13-14:808000 ");
     e.caja.selecciona(0, 0);
