@@ -13,6 +13,7 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <functional>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,8 +24,6 @@ namespace norvik {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
 
 class Descriptor {
 public:
@@ -90,6 +89,9 @@ bool escribeTodo(int descriptor, std::string_view bytes) {
     return true;
 }
 
+// Writes a file's content to a descriptor; false, with the cause in errno, when that fails.
+using Llenado = std::function<bool(int descriptor)>;
+
 // The file that a chain of links leads to, which need not exist.
 std::optional<fs::path> sigueEnlaces(fs::path fichero) {
     constexpr int maximo = 40;
@@ -117,9 +119,9 @@ public:
 
     bool creado() const { return descriptor_.abierto(); }
 
-    bool llena(std::string_view bytes, const struct stat* antiguo, Durabilidad durabilidad) {
+    bool llena(const Llenado& llenado, const struct stat* antiguo, Durabilidad durabilidad) {
         if (antiguo != nullptr && !copiaPermisos(*antiguo)) return false;
-        if (!escribeTodo(descriptor_.numero(), bytes)) return false;
+        if (!llenado(descriptor_.numero())) return false;
         if (durabilidad == Durabilidad::EnDisco && fsync(descriptor_.numero()) != 0) return false;
         pendiente_ = true;
         return descriptor_.cierra();
@@ -160,71 +162,69 @@ bool vuelcaCarpeta(const Descriptor& carpeta) {
     return fsync(carpeta.numero()) == 0 || errno == EINVAL;
 }
 
-bool reemplaza(const fs::path& destino, std::string_view bytes, const struct stat* antiguo,
+bool reemplaza(const fs::path& destino, const Llenado& llenado, const struct stat* antiguo,
                Durabilidad durabilidad) {
     FicheroProvisional provisional(destino);
-    if (!provisional.creado() || !provisional.llena(bytes, antiguo, durabilidad)) return false;
+    if (!provisional.creado() || !provisional.llena(llenado, antiguo, durabilidad)) return false;
     if (durabilidad == Durabilidad::Normal) return provisional.ocupaSuPuesto();
     const fs::path carpeta = destino.has_parent_path() ? destino.parent_path() : fs::path(".");
     const Descriptor abierta(open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return abierta.abierto() && provisional.ocupaSuPuesto() && vuelcaCarpeta(abierta);
 }
 
-bool escribeDirecto(const fs::path& destino, std::string_view bytes) {
+bool escribeDirecto(const fs::path& destino, const Llenado& llenado) {
     Descriptor descriptor(open(destino.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC));
-    return descriptor.abierto() && escribeTodo(descriptor.numero(), bytes) && descriptor.cierra();
+    return descriptor.abierto() && llenado(descriptor.numero()) && descriptor.cierra();
 }
 
-bool escribeRegular(const fs::path& fichero, std::string_view bytes, const struct stat* antiguo,
+bool escribeRegular(const fs::path& fichero, const Llenado& llenado, const struct stat* antiguo,
                     Durabilidad durabilidad) {
     const auto destino = sigueEnlaces(fichero);
     if (!destino) errno = ELOOP;
-    return destino && reemplaza(*destino, bytes, antiguo, durabilidad);
+    return destino && reemplaza(*destino, llenado, antiguo, durabilidad);
 }
 
-bool escribe(const fs::path& fichero, std::string_view bytes, Durabilidad durabilidad) {
+bool escribe(const fs::path& fichero, const Llenado& llenado, Durabilidad durabilidad) {
     struct stat antiguo {};
     if (stat(fichero.c_str(), &antiguo) != 0)
-        return errno == ENOENT && escribeRegular(fichero, bytes, nullptr, durabilidad);
+        return errno == ENOENT && escribeRegular(fichero, llenado, nullptr, durabilidad);
     if (S_ISDIR(antiguo.st_mode)) {
         errno = EISDIR;
         return false;
     }
-    if (!S_ISREG(antiguo.st_mode)) return escribeDirecto(fichero, bytes);
+    if (!S_ISREG(antiguo.st_mode)) return escribeDirecto(fichero, llenado);
     // The rename would ask for the folder's permission alone.
     return faccessat(AT_FDCWD, fichero.c_str(), W_OK, AT_EACCESS) == 0 &&
-           escribeRegular(fichero, bytes, &antiguo, durabilidad);
+           escribeRegular(fichero, llenado, &antiguo, durabilidad);
+}
+
+bool guardado(const fs::path& fichero, const Llenado& llenado, Durabilidad durabilidad) {
+    if (!tieneNombreImposible(fichero)) return escribe(fichero, llenado, durabilidad);
+    errno = EINVAL;
+    return false;
+}
+
+// False when a write fails, or when the text turns out not to fit the encoding: then `cabe` tells.
+bool escribeWindows1252(int descriptor, const TextoPorPiezas& piezas, bool& cabe) {
+    CodificadorWindows1252 codificador;
+    bool escrito = true;
+    piezas([&](std::u16string_view pieza) {
+        if (!escrito || !cabe) return;
+        const auto bytes = codificador.codifica(pieza);
+        cabe = bytes.has_value();
+        escrito = cabe && escribeTodo(descriptor, *bytes);
+    });
+    cabe = cabe && codificador.seLeeIgual();
+    return escrito && cabe;
+}
+
+// What was written to a device or a pipe cannot be taken back.
+bool sePuedeRepetir(const fs::path& fichero) {
+    std::error_code error;
+    return !fs::exists(fichero, error) || fs::is_regular_file(fichero, error);
 }
 
 } // namespace
-
-std::u16string decodifica(std::string_view bytes) {
-    const bool marcado = bytes.substr(0, marcaUtf8.size()) == marcaUtf8;
-    if (auto texto = desdeUtf8(marcado ? bytes.substr(marcaUtf8.size()) : bytes)) return *std::move(texto);
-    return desdeWindows1252(bytes);
-}
-
-std::string codifica(std::u16string_view texto) {
-    if (auto bytes = aWindows1252(texto); bytes && decodifica(*bytes) == texto) return *std::move(bytes);
-    std::string bytes = std::string(marcaUtf8) + aUtf8(texto);
-    if (decodifica(bytes) != texto)
-        throw ErrorDeFichero(
-            u"El texto contiene medio carácter (un sustituto suelto), que no se puede guardar");
-    return bytes;
-}
-
-std::u16string normalizaLineas(std::u16string_view texto) {
-    std::u16string resultado;
-    resultado.reserve(texto.size());
-    while (!texto.empty()) {
-        const std::size_t fin = texto.find_first_of(saltoDeLinea);
-        resultado.append(texto.substr(0, fin));
-        if (fin == std::u16string_view::npos) return resultado;
-        texto.remove_prefix(fin + (texto.substr(fin, 2) == saltoDeLinea ? 2 : 1));
-        if (!texto.empty()) resultado.append(saltoDeLinea);
-    }
-    return resultado;
-}
 
 std::string leeBytes(const fs::path& fichero) {
     const std::u16string nombre = entreComillas(fichero);
@@ -243,12 +243,25 @@ std::u16string leeTexto(const fs::path& fichero) {
 }
 
 void escribeBytes(const fs::path& fichero, std::string_view bytes, Durabilidad durabilidad) {
-    if (tieneNombreImposible(fichero)) fallaEscritura(fichero, EINVAL);
-    if (!escribe(fichero, bytes, durabilidad)) fallaEscritura(fichero, errno);
+    const auto llenado = [&](int descriptor) { return escribeTodo(descriptor, bytes); };
+    if (!guardado(fichero, llenado, durabilidad)) fallaEscritura(fichero, errno);
 }
 
 void escribeTexto(const fs::path& fichero, std::u16string_view texto, Durabilidad durabilidad) {
     escribeBytes(fichero, codifica(texto), durabilidad);
+}
+
+// Most texts fit Windows-1252: that is tried first, and what it wrote is not kept when the text does not.
+void escribeTexto(const fs::path& fichero, const TextoPorPiezas& piezas, Durabilidad durabilidad) {
+    if (sePuedeRepetir(fichero)) {
+        bool cabe = true;
+        const auto llenado = [&](int descriptor) { return escribeWindows1252(descriptor, piezas, cabe); };
+        if (guardado(fichero, llenado, durabilidad)) return;
+        if (cabe) fallaEscritura(fichero, errno);
+    }
+    std::u16string texto;
+    piezas([&](std::u16string_view pieza) { texto.append(pieza); });
+    escribeTexto(fichero, texto, durabilidad);
 }
 
 } // namespace norvik

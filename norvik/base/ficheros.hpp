@@ -1,20 +1,14 @@
 #pragma once
 
+#include "norvik/base/codificacion.hpp"
+
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
 namespace norvik {
-
-/// Text of a file's bytes: UTF-8 (with or without a mark) when they are valid, else Windows-1252.
-std::u16string decodifica(std::string_view bytes);
-/// Bytes of a text: Windows-1252 when reading them back gives the same text, else UTF-8 with a mark.
-/// Raises `ErrorDeFichero` for a text that no file can hold (a lone surrogate).
-std::string codifica(std::u16string_view texto);
-
-/// The lines of a text (ended by CR LF, CR or LF) joined by CR LF, without the last line end.
-std::u16string normalizaLineas(std::u16string_view texto);
 
 /// A greater file is refused: no text of that size can be edited, and an endless one must not fill memory.
 inline constexpr std::size_t maximoDeFichero = std::size_t{64} << 20;
@@ -32,5 +26,13 @@ enum class Durabilidad { Normal, EnDisco };
 /// regular file (a device, a pipe) has no place beside it and is written directly.
 void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes, Durabilidad durabilidad);
 void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto, Durabilidad durabilidad);
+
+/// Takes a text piece by piece.
+using SumideroDeTexto = std::function<void(std::u16string_view pieza)>;
+/// Gives a text in pieces of whole lines, the same each time it is asked.
+using TextoPorPiezas = std::function<void(const SumideroDeTexto& sumidero)>;
+/// Writes a text that is too long to be held whole.
+void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
+                  Durabilidad durabilidad);
 
 } // namespace norvik

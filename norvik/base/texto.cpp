@@ -84,6 +84,19 @@ std::u16string convierte(std::u16string_view texto, Conversion conversion) {
     return resultado;
 }
 
+// Copies the leading blocks of ASCII characters and tells how many characters they are.
+std::size_t copiaBloquesAscii(std::u16string_view texto, char* bytes) {
+    constexpr std::size_t bloque = 16;
+    std::size_t copiados = 0;
+    for (; copiados + bloque <= texto.size(); copiados += bloque) {
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < bloque; ++i) bits |= texto[copiados + i];
+        if (bits >= 0x80) break;
+        for (std::size_t i = 0; i < bloque; ++i) bytes[copiados + i] = static_cast<char>(texto[copiados + i]);
+    }
+    return copiados;
+}
+
 } // namespace
 
 std::string aUtf8(std::u16string_view texto) {
@@ -120,17 +133,28 @@ std::optional<std::u16string> desdeUtf8(std::string_view bytes) {
     return texto;
 }
 
+bool esUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const Secuencia secuencia = leeSecuencia(bytes);
+        if (secuencia.longitud == 0) return false;
+        bytes.remove_prefix(secuencia.longitud);
+    }
+    return true;
+}
+
 std::optional<std::string> aWindows1252(std::u16string_view texto) {
-    std::string bytes;
-    bytes.reserve(texto.size());
-    for (const char16_t c : texto) {
+    std::string bytes(texto.size(), '\0');
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        i += copiaBloquesAscii(texto.substr(i), &bytes[i]);
+        if (i == texto.size()) break;
+        const char16_t c = texto[i];
         if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
-            bytes.push_back(static_cast<char>(c));
+            bytes[i] = static_cast<char>(c);
             continue;
         }
         const auto* const sitio = std::find(bytes80a9F.begin(), bytes80a9F.end(), c);
         if (sitio == bytes80a9F.end()) return std::nullopt;
-        bytes.push_back(static_cast<char>(0x80 + (sitio - bytes80a9F.begin())));
+        bytes[i] = static_cast<char>(0x80 + (sitio - bytes80a9F.begin()));
     }
     return bytes;
 }

@@ -20,6 +20,9 @@ std::string aUtf8(std::u16string_view texto);
 /// Text of UTF-8 bytes, or nothing when they are not valid UTF-8.
 std::optional<std::u16string> desdeUtf8(std::string_view bytes);
 
+/// True for valid UTF-8.
+bool esUtf8(std::string_view bytes);
+
 /// Windows-1252 bytes of a text, or nothing when a character has none.
 /// The five bytes without a character stand for the control character of the same code.
 std::optional<std::string> aWindows1252(std::u16string_view texto);

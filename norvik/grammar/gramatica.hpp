@@ -1,5 +1,6 @@
 #pragma once
 
+#include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/conjunto.hpp"
 #include "norvik/grammar/conjuntosNumerados.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
@@ -190,7 +191,8 @@ private:
     std::u16string listaDe(const ConjuntoNumerado& conjunto) const;
     void escribeEstado(const estadoAutomata& estado, std::u16string& texto) const;
     std::u16string transiciones(const estadoAutomata& estado) const;
-    void escribeTabla(std::u16string& texto) const;
+    void escribeTabla(std::u16string& texto, const SumideroDeTexto& sumidero) const;
+    void escribeInforme(const SumideroDeTexto& sumidero) const;
     void escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const;
     std::u16string accion(std::int16_t fila, std::int16_t columna) const;
     std::u16string problemasFila(std::int16_t fila) const;
@@ -202,10 +204,13 @@ private:
         std::int16_t valor = 0;
     };
     std::int16_t filasVigentes() const;
-    std::vector<Celda> celdas() const;
+    std::vector<Celda> celdas(std::int16_t fila) const;
     void escribeTablaCpp(std::u16string& texto) const;
     void escribeEntradasFijas(std::u16string& texto) const;
-    void escribeEntradas(std::u16string& texto, std::u16string_view nombre) const;
+    void escribeEntradas(std::u16string& texto, std::u16string_view nombre,
+                         const SumideroDeTexto& sumidero) const;
+    void escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
+                       const SumideroDeTexto& sumidero) const;
     void escribeSimbolos(std::u16string& texto) const;
     void escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const;
 

@@ -159,7 +159,7 @@ void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16
                      tabla_.en(fila, columna), u";");
 }
 
-void gramatica::escribeTabla(std::u16string& texto) const {
+void gramatica::escribeTabla(std::u16string& texto, const SumideroDeTexto& sumidero) const {
     const std::int16_t total = simbolos_.totalElementos();
     escribeLinea(texto, u"//Simbolos:");
     for (std::int16_t c = 1; c <= total; ++c)
@@ -169,12 +169,15 @@ void gramatica::escribeTabla(std::u16string& texto) const {
     if (const int c = columnas().inicial; c >= 0) escribeLinea(texto, sangria, u"tablaSLR[0][", c, u"] = 1");
     if (const int c = columnas().fin; c >= 0)
         escribeLinea(texto, sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
-    for (const auto& [fila, columna, valor] : celdas()) escribeEntrada(fila, columna, texto);
+    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
+        for (const auto& [fila, columna, valor] : celdas(f)) escribeEntrada(fila, columna, texto);
+        entregaSiSonMuchas(texto, sumidero);
+    }
 }
 
 // The whole file -------------------------------------------------------------------------------------------
 
-std::u16string gramatica::textoInforme() const {
+void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
     std::u16string texto;
     escribeReglas(texto);
     escribeSeparador(texto);
@@ -199,13 +202,20 @@ std::u16string gramatica::textoInforme() const {
     escribeLinea(texto, u"//A continuación se hace un inciso acerca de qué símbolos pertenecen a");
     escribeLinea(texto, u"//cada índice j (siendo la dimensión tipo [i][j]) de la tabla SLR detallada.");
     escribeLinea(texto);
-    escribeTabla(texto);
+    escribeTabla(texto, sumidero);
     escribeLinea(texto, barras);
+    sumidero(texto);
+}
+
+std::u16string gramatica::textoInforme() const {
+    std::u16string texto;
+    escribeInforme([&](std::u16string_view pieza) { texto += pieza; });
     return texto;
 }
 
 void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {
-    escribeTexto(carpeta / "informeGramatica.txt", textoInforme(), Durabilidad::Normal);
+    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeInforme(sumidero); };
+    escribeTexto(carpeta / "informeGramatica.txt", piezas, Durabilidad::Normal);
 }
 
 // Conflicts ------------------------------------------------------------------------------------------------

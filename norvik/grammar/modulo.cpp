@@ -43,6 +43,15 @@ void cierraProcedimiento(std::u16string& texto) {
     escribeLinea(texto, u"End Sub");
 }
 
+/// Closes a procedure with a call of the next one, and opens that.
+void abreOtroProcedimiento(std::u16string& texto, std::u16string_view nombre, int numero) {
+    const std::u16string otro = u"CargaLenguaje" + aTexto(numero);
+    escribeLinea(texto);
+    escribeLinea(texto, u"\t", nombre, u".", otro, u" NorvikRefParam");
+    cierraProcedimiento(texto);
+    abreProcedimiento(texto, otro);
+}
+
 void escribeCabecera(std::u16string& texto, std::u16string_view nombre) {
     const std::u16string raya = u'\'' + std::u16string(110, u'/');
     escribeLinea(texto, u"Attribute VB_Name = ", entreComillas(nombre));
@@ -90,22 +99,20 @@ void gramatica::escribeEntradasFijas(std::u16string& texto) const {
     }
 }
 
-void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre) const {
+void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre,
+                                const SumideroDeTexto& sumidero) const {
     int entradas = 0;
     int procedimiento = 0;
-    const std::vector<Celda> lista = celdas();
-    texto.reserve(texto.size() + lista.size() * longitudMedia);
-    for (const auto& [fila, columna, valor] : lista) {
-        if (entradas == maximoEntradas) {
-            const std::u16string otro = u"CargaLenguaje" + aTexto(++procedimiento);
-            escribeLinea(texto);
-            escribeLinea(texto, u"\t", nombre, u".", otro, u" NorvikRefParam");
-            cierraProcedimiento(texto);
-            abreProcedimiento(texto, otro);
-            entradas = 0;
+    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
+        for (const auto& [fila, columna, valor] : celdas(f)) {
+            if (entradas == maximoEntradas) {
+                abreOtroProcedimiento(texto, nombre, ++procedimiento);
+                entradas = 0;
+            }
+            escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
+            ++entradas;
         }
-        escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
-        ++entradas;
+        entregaSiSonMuchas(texto, sumidero);
     }
 }
 
@@ -114,13 +121,12 @@ std::int16_t gramatica::filasVigentes() const {
     return simbolos_.esVacio() ? std::int16_t{0} : tabla_.filas();
 }
 
-/// The stored entries other than 0, by rows.
-std::vector<gramatica::Celda> gramatica::celdas() const {
+/// The stored entries other than 0 of a row.
+std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
     std::vector<Celda> lista;
     const std::int16_t ancho = std::min(simbolos_.totalElementos(), tabla_.columnas());
-    for (std::int16_t f = 1; f <= tabla_.filas(); ++f)
-        for (std::int16_t c = 1; c <= ancho; ++c)
-            if (const std::int16_t valor = tabla_.en(f, c); valor != 0) lista.push_back({f, c, valor});
+    for (std::int16_t c = 1; c <= ancho; ++c)
+        if (const std::int16_t valor = tabla_.en(fila, c); valor != 0) lista.push_back({fila, c, valor});
     return lista;
 }
 
@@ -142,26 +148,33 @@ void gramatica::escribeCargaReglas(std::u16string& texto, std::u16string_view no
     escribeLinea(texto);
 }
 
-std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
+void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
+                              const SumideroDeTexto& sumidero) const {
     std::u16string texto;
     escribeCabecera(texto, nombre);
     escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ",
                  simbolos_.totalElementos());
     escribeLinea(texto);
     escribeEntradasFijas(texto);
-    escribeEntradas(texto, nombre);
+    escribeEntradas(texto, nombre, sumidero);
     escribeSimbolos(texto);
     cierraProcedimiento(texto);
     escribeLinea(texto);
     escribeTokens(texto, lexico);
     escribeCargaReglas(texto, nombre);
+    sumidero(texto);
+}
+
+std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
+    std::u16string texto;
+    escribeModulo(nombre, lexico, [&](std::u16string_view pieza) { texto += pieza; });
     return texto;
 }
 
 void gramatica::GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                       const std::filesystem::path& carpeta) const {
-    const std::filesystem::path fichero = carpeta / (aUtf8(nombre) + ".bas");
-    escribeTexto(fichero, textoModulo(nombre, lexico), Durabilidad::Normal);
+    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeModulo(nombre, lexico, sumidero); };
+    escribeTexto(carpeta / (aUtf8(nombre) + ".bas"), piezas, Durabilidad::Normal);
 }
 
 } // namespace norvik

@@ -76,7 +76,8 @@ void gramatica::escribeTablaCpp(std::u16string& texto) const {
         else if (k == fijas.fin)
             entradas.push_back({2, columna, aceptar});
     }
-    for (const Celda& celda : celdas()) entradas.push_back(celda);
+    for (std::int16_t f = 1; f <= filasVigentes(); ++f)
+        for (const Celda& celda : celdas(f)) entradas.push_back(celda);
     escribeLinea(texto);
     escribeLinea(texto, u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ",
                  simbolos_.totalElementos(), u");");

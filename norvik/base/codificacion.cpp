@@ -1,0 +1,59 @@
+#include "norvik/base/codificacion.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
+
+bool esAscii(std::string_view bytes) {
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+} // namespace
+
+std::u16string decodifica(std::string_view bytes) {
+    const bool marcado = bytes.substr(0, marcaUtf8.size()) == marcaUtf8;
+    if (auto texto = desdeUtf8(marcado ? bytes.substr(marcaUtf8.size()) : bytes)) return *std::move(texto);
+    return desdeWindows1252(bytes);
+}
+
+std::optional<std::string> CodificadorWindows1252::codifica(std::u16string_view lineas) {
+    auto bytes = aWindows1252(lineas);
+    if (bytes && esUtf8_ && !esAscii(*bytes)) {
+        ascii_ = false;
+        esUtf8_ = esUtf8(*bytes);
+    }
+    return bytes;
+}
+
+std::string codifica(std::u16string_view texto) {
+    CodificadorWindows1252 codificador;
+    if (auto bytes = codificador.codifica(texto); bytes && codificador.seLeeIgual()) return *std::move(bytes);
+    std::string bytes = std::string(marcaUtf8) + aUtf8(texto);
+    if (decodifica(bytes) != texto)
+        throw ErrorDeFichero(
+            u"El texto contiene medio carácter (un sustituto suelto), que no se puede guardar");
+    return bytes;
+}
+
+std::u16string normalizaLineas(std::u16string_view texto) {
+    std::u16string resultado;
+    resultado.reserve(texto.size());
+    while (!texto.empty()) {
+        const std::size_t fin = texto.find_first_of(saltoDeLinea);
+        resultado.append(texto.substr(0, fin));
+        if (fin == std::u16string_view::npos) return resultado;
+        texto.remove_prefix(fin + (texto.substr(fin, 2) == saltoDeLinea ? 2 : 1));
+        if (!texto.empty()) resultado.append(saltoDeLinea);
+    }
+    return resultado;
+}
+
+} // namespace norvik
