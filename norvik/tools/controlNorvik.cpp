@@ -1,0 +1,116 @@
+#include "norvik/tools/controlNorvik.hpp"
+
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+namespace norvik {
+
+ControlNorvik::ControlNorvik(QWidget* padre)
+    : QWidget(padre), elementos_(*this), sistema_(this), caja_(this), control_(caja_, sistema_, *this) {
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    QWidget& texto = caja_.ventana();
+    texto.setObjectName(QStringLiteral("Texto"));
+    texto.setAccessibleName(QStringLiteral("Texto"));
+    texto.setAccessibleDescription(QStringLiteral("Control+Tabulador pasa al elemento siguiente"));
+    setFocusProxy(&texto);
+    setTabOrder(&texto, &elementos_.tabulador);
+    conectaElementos();
+    conectaEventos();
+}
+
+void ControlNorvik::conectaEventos() {
+    EventosControl& e = control_.eventos;
+    e.CambioDeLinea = [this](auto& linea) { emit CambioDeLinea(linea); };
+    e.change = [this] { emit change(); };
+    e.Click = [this] { emit Click(); };
+    e.KeyDown = [this](auto& codigo, auto& shift) { emit KeyDown(codigo, shift); };
+    e.KeyPress = [this](auto& caracter) { emit KeyPress(caracter); };
+    e.KeyUp = [this](auto& codigo, auto& shift) { emit KeyUp(codigo, shift); };
+    e.MouseDown = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseDown(boton, shift, x, y); };
+    e.MouseMove = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseMove(boton, shift, x, y); };
+    e.MouseUp = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseUp(boton, shift, x, y); };
+    e.SelChange = [this] { emit SelChange(); };
+}
+
+/// The elements go one by one, and nobody is there to see the last events of one.
+ControlNorvik::~ControlNorvik() {
+    for (QWidget* e : observados()) e->removeEventFilter(this);
+}
+
+std::array<QWidget*, 3> ControlNorvik::observados() {
+    return {&caja_.ventana(), &elementos_.debugBox, &elementos_.tabulador};
+}
+
+void ControlNorvik::conectaElementos() {
+    for (QWidget* e : observados()) e->installEventFilter(this);
+    connect(&elementos_.controlSpace, &QPushButton::clicked, this, [this] { caja_.enfoca(); });
+    caja_.alFallar = [this](const std::u16string& texto) {
+        sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
+    };
+}
+
+// ---- keyboard and mouse
+
+bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto == &elementos_.debugBox && evento->type() == QEvent::MouseButtonPress) {
+        caja_.enfoca();
+        return true; // a click there is none of the control's surface
+    }
+    if (objeto == &elementos_.tabulador && evento->type() == QEvent::FocusIn && !saliendo_) {
+        const bool retrocede = static_cast<QFocusEvent*>(evento)->reason() == Qt::BacktabFocusReason;
+        caja_.atiende([&] { retrocede ? caja_.enfoca() : control_.tabuladorEnfocado(); });
+    }
+    if (objeto == &caja_.ventana() && evento->type() == QEvent::KeyPress) {
+        const auto& tecla = *static_cast<QKeyEvent*>(evento);
+        if (tecla.key() == Qt::Key_Tab && tecla.modifiers() == Qt::ControlModifier) {
+            saleHaciaDelante();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(objeto, evento);
+}
+
+/// The tab key writes; with the control key it does what it does elsewhere.
+void ControlNorvik::saleHaciaDelante() {
+    const QScopedValueRollback<bool> saliendo(saliendo_, true);
+    elementos_.tabulador.setFocus();
+    focusNextChild();
+}
+
+void ControlNorvik::mousePressEvent(QMouseEvent* evento) {
+    QWidget::mousePressEvent(evento);
+    caja_.atiende([this] { control_.clickEnSuperficie(); });
+}
+
+// ---- what the control asks of its container
+
+Contenedor::Medidas ControlNorvik::medidas() const {
+    const TwipsPorPixel pixel = twipsPorPixel(*this);
+    return {aTwips(width(), pixel.x), aTwips(height(), pixel.y), aTwips(1, pixel.x), aTwips(1, pixel.y)};
+}
+
+void ControlNorvik::coloca(const Disposicion& disposicion) {
+    const TwipsPorPixel pixel = twipsPorPixel(*this);
+    elementos_.coloca(disposicion, pixel);
+    caja_.ponIzquierda(disposicion.texto.x);
+    caja_.ventana().setGeometry(enPixeles(disposicion.texto, pixel));
+}
+
+void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) {
+    elementos_.ponSignoError(signo.indice, signo.lineaAfectada, lugar, twipsPorPixel(*this));
+}
+
+void ControlNorvik::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    control_.redimensiona();
+}
+
+void ControlNorvik::changeEvent(QEvent* evento) {
+    QWidget::changeEvent(evento);
+    const bool otraEscala =
+        evento->type() == QEvent::StyleChange || evento->type() == QEvent::ApplicationFontChange;
+    if (otraEscala) control_.redimensiona();
+}
+
+} // namespace norvik

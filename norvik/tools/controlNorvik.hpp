@@ -1,0 +1,168 @@
+#pragma once
+
+#include "norvik/base/numeros.hpp"
+#include "norvik/control/contenedor.hpp"
+#include "norvik/control/norvik.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
+#include "norvik/tools/elementosControl.hpp"
+
+#include <QString>
+#include <QWidget>
+
+#include <array>
+
+// A property of the control and of its widget, as two members of its name.
+#define NORVIK_PROPIEDAD(Tipo, Nombre)                                                                       \
+    Tipo Nombre() const {                                                                                    \
+        return control_.Nombre();                                                                            \
+    }                                                                                                        \
+    void Nombre(Tipo valor) {                                                                                \
+        control_.Nombre(valor);                                                                              \
+    }
+#define NORVIK_PROPIEDAD_16(Nombre)                                                                          \
+    int Nombre() const {                                                                                     \
+        return control_.Nombre();                                                                            \
+    }                                                                                                        \
+    void Nombre(int valor) {                                                                                 \
+        control_.Nombre(a16(valor));                                                                         \
+    }
+#define NORVIK_PROPIEDAD_TEXTO(Nombre)                                                                       \
+    QString Nombre() const {                                                                                 \
+        return aQString(control_.Nombre());                                                                  \
+    }                                                                                                        \
+    void Nombre(const QString& valor) {                                                                      \
+        control_.Nombre(vistaDe(valor));                                                                     \
+    }
+
+namespace norvik {
+
+/// The control as a widget: its text box and the elements round it. What it can do besides is done by the
+/// control itself, `control()`; its options and events are here as properties and signals under their own
+/// names. A slot that is connected directly may change the arguments of a signal.
+///
+/// Lengths are in twips, colours 0x00BBGGRR, positions 0-based. A number that does not fit 16 bits raises
+/// `Desbordamiento`, as everywhere.
+class ControlNorvik : public QWidget, private Contenedor {
+    Q_OBJECT
+    Q_PROPERTY(bool Borde3D READ Borde3D WRITE Borde3D)
+    Q_PROPERTY(bool LeftBorderVisible READ LeftBorderVisible WRITE LeftBorderVisible)
+    Q_PROPERTY(int MargenIzquierdo READ MargenIzquierdo WRITE MargenIzquierdo)
+    Q_PROPERTY(bool HideSelection READ HideSelection WRITE HideSelection)
+    Q_PROPERTY(bool LenguajeSensible READ LenguajeSensible WRITE LenguajeSensible)
+    Q_PROPERTY(bool AutoCorreccion READ AutoCorreccion WRITE AutoCorreccion)
+    Q_PROPERTY(int EspaciosXTAB READ EspaciosXTAB WRITE EspaciosXTAB)
+    Q_PROPERTY(bool AutoTAB READ AutoTAB WRITE AutoTAB)
+    Q_PROPERTY(bool MarcarErrores READ MarcarErrores WRITE MarcarErrores)
+    Q_PROPERTY(bool MuestraMensajesDeError READ MuestraMensajesDeError WRITE MuestraMensajesDeError)
+    Q_PROPERTY(bool Colorear READ Colorear WRITE Colorear)
+    Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE NomLenguaje)
+    Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE AutoNumero)
+    Q_PROPERTY(int ColorPR READ ColorPR WRITE ColorPR)
+    Q_PROPERTY(int ColorOperadores READ ColorOperadores WRITE ColorOperadores)
+    Q_PROPERTY(int ColorComentarios READ ColorComentarios WRITE ColorComentarios)
+    Q_PROPERTY(int ColorEtiquetas READ ColorEtiquetas WRITE ColorEtiquetas)
+    Q_PROPERTY(int ColorNumeros READ ColorNumeros WRITE ColorNumeros)
+    Q_PROPERTY(int ColorError READ ColorError WRITE ColorError)
+    Q_PROPERTY(int ColorCadena READ ColorCadena WRITE ColorCadena)
+    Q_PROPERTY(int ColorCaracter READ ColorCaracter WRITE ColorCaracter)
+    Q_PROPERTY(int ColorFechas READ ColorFechas WRITE ColorFechas)
+    Q_PROPERTY(QFont Font READ Font WRITE Font STORED false)
+    Q_PROPERTY(bool TextoModificado READ TextoModificado WRITE TextoModificado STORED false)
+    Q_PROPERTY(QString Text READ Text WRITE Text STORED false)
+    Q_PROPERTY(QString SelText READ SelText WRITE SelText STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelStart READ SelStart WRITE SelStart STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelLength READ SelLength WRITE SelLength STORED false DESIGNABLE false)
+    Q_PROPERTY(QString SelFontName READ SelFontName WRITE SelFontName STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelFontSize READ SelFontSize WRITE SelFontSize STORED false DESIGNABLE false)
+
+public:
+    explicit ControlNorvik(QWidget* padre = nullptr);
+    ControlNorvik(const ControlNorvik&) = delete;
+    ControlNorvik& operator=(const ControlNorvik&) = delete;
+    ~ControlNorvik() override;
+
+    Norvik& control() { return control_; }
+    CajaTextoQt& caja() { return caja_; }
+    SistemaQt& sistema() { return sistema_; }
+
+    NORVIK_PROPIEDAD(bool, Borde3D)
+    NORVIK_PROPIEDAD(bool, LeftBorderVisible)
+    NORVIK_PROPIEDAD_16(MargenIzquierdo)
+    NORVIK_PROPIEDAD(bool, HideSelection)
+    NORVIK_PROPIEDAD(bool, LenguajeSensible)
+    NORVIK_PROPIEDAD(bool, AutoCorreccion)
+    NORVIK_PROPIEDAD_16(EspaciosXTAB)
+    NORVIK_PROPIEDAD(bool, AutoTAB)
+    NORVIK_PROPIEDAD(bool, MarcarErrores)
+    NORVIK_PROPIEDAD(bool, MuestraMensajesDeError)
+    NORVIK_PROPIEDAD(bool, Colorear)
+    NORVIK_PROPIEDAD_TEXTO(NomLenguaje)
+    NORVIK_PROPIEDAD(bool, AutoNumero)
+    NORVIK_PROPIEDAD(int, ColorPR)
+    NORVIK_PROPIEDAD(int, ColorOperadores)
+    NORVIK_PROPIEDAD(int, ColorComentarios)
+    NORVIK_PROPIEDAD(int, ColorEtiquetas)
+    NORVIK_PROPIEDAD(int, ColorNumeros)
+    NORVIK_PROPIEDAD(int, ColorError)
+    NORVIK_PROPIEDAD(int, ColorCadena)
+    NORVIK_PROPIEDAD(int, ColorCaracter)
+    NORVIK_PROPIEDAD(int, ColorFechas)
+    QFont Font() const { return aQFont(control_.Font()); }
+    void Font(const QFont& letra) { control_.Font(deQFont(letra)); }
+    NORVIK_PROPIEDAD(bool, TextoModificado)
+    NORVIK_PROPIEDAD_TEXTO(Text)
+    NORVIK_PROPIEDAD_TEXTO(SelText)
+    NORVIK_PROPIEDAD_16(SelStart)
+    NORVIK_PROPIEDAD_16(SelLength)
+    NORVIK_PROPIEDAD_TEXTO(SelFontName)
+    NORVIK_PROPIEDAD_16(SelFontSize)
+
+    QSize sizeHint() const override { return {480, 320}; }
+
+signals:
+    void CambioDeLinea(qint16& LineaActual);
+    void change();
+    void Click();
+    void KeyDown(qint16& KeyCode, qint16& Shift);
+    void KeyPress(qint16& KeyAscii);
+    void KeyUp(qint16& KeyCode, qint16& Shift);
+    void MouseDown(qint16& Button, qint16& Shift, float& x, float& y);
+    void MouseMove(qint16& Button, qint16& Shift, float& x, float& y);
+    void MouseUp(qint16& Button, qint16& Shift, float& x, float& y);
+    void SelChange();
+    /// A property that is saved has another value.
+    void propiedadCambiada(const QString& nombre);
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+
+private:
+    void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
+    Medidas medidas() const override;
+    void muestraMarco(bool visible) override { elementos_.muestraMarco(visible); }
+    void muestraBordeIzquierdo(bool visible) override { elementos_.debugBox.setVisible(visible); }
+    void coloca(const Disposicion& disposicion) override;
+    void ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) override;
+
+    void conectaEventos();
+    void conectaElementos();
+    std::array<QWidget*, 3> observados();
+    void saleHaciaDelante();
+
+    ElementosControl elementos_;
+    SistemaQt sistema_;
+    CajaTextoQt caja_;
+    Norvik control_;
+    bool saliendo_ = false; ///< the focus passes over `tabulador`
+};
+
+} // namespace norvik
+
+#undef NORVIK_PROPIEDAD
+#undef NORVIK_PROPIEDAD_16
+#undef NORVIK_PROPIEDAD_TEXTO

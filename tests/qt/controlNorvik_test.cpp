@@ -1,0 +1,253 @@
+// The control on a form: what is typed, clicked and shown.
+#include "norvik/tools/controlNorvik.hpp"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMetaProperty>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+
+namespace {
+
+class ControlNorvikTest : public testing::Test {
+protected:
+    ControlNorvikTest() {
+        formulario.resize(400, 260);
+        antes.setGeometry(0, 0, 80, 25);
+        norvik.setGeometry(0, 30, 400, 200);
+        despues.setGeometry(0, 232, 80, 25);
+        QWidget::setTabOrder(&antes, &norvik.caja().ventana());
+        QWidget::setTabOrder(elemento<QPushButton>("tabulador"), &despues);
+        formulario.show();
+        QApplication::setActiveWindow(&formulario);
+        norvik.setFocus();
+        Norvik& c = norvik.control();
+        c.SetPalabraReservada(u"si");
+        c.SetER(u"[0-9]+", u"num", true, Norvik_Numero);
+        c.Colorear(true);
+    }
+    template <typename Tipo = QWidget>
+    Tipo* elemento(const char* nombre) {
+        return norvik.findChild<Tipo*>(QLatin1String(nombre));
+    }
+    void pulsa(Qt::Key tecla, Qt::KeyboardModifiers teclas = Qt::NoModifier) {
+        QTest::keyClick(&editor, tecla, teclas);
+    }
+    std::u16string texto() { return norvik.control().Text(); }
+    /// Of each character of a line the editor's colour, as "p" plain, "r" reserved word, "n" number, "e"
+    /// error.
+    std::string colores(int linea) {
+        QCoreApplication::processEvents();
+        const QTextBlock bloque = editor.document()->findBlockByNumber(linea);
+        std::string vistos(static_cast<std::size_t>(bloque.length() - 1), 'p');
+        for (const auto& f : bloque.layout()->formats()) {
+            const QColor c = f.format.foreground().color();
+            const char letra = c == aQColor(norvik.ColorPR())        ? 'r'
+                               : c == aQColor(norvik.ColorNumeros()) ? 'n'
+                                                                     : 'e';
+            vistos.replace(static_cast<std::size_t>(f.start), static_cast<std::size_t>(f.length),
+                           static_cast<std::size_t>(f.length), letra);
+        }
+        return vistos;
+    }
+
+    QWidget formulario;
+    QPushButton antes{&formulario};
+    ControlNorvik norvik{&formulario};
+    QPushButton despues{&formulario};
+    QPlainTextEdit& editor = static_cast<QPlainTextEdit&>(norvik.caja().ventana());
+};
+
+} // namespace
+
+TEST_F(ControlNorvikTest, LaLineaSeColoreaAlDejarla) {
+    QTest::keyClicks(&editor, "si 12 x");
+    EXPECT_EQ(colores(0), "ppppppp");
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(colores(0), "rrpnnpp");
+    QTest::keyClicks(&editor, "3");
+    pulsa(Qt::Key_Up);
+    EXPECT_EQ(colores(1), "n");
+    QTest::keyClicks(&editor, "y");
+    EXPECT_EQ(colores(0), "pppppppp");
+    EXPECT_EQ(texto(), u"syi 12 x\r\n3");
+}
+
+TEST_F(ControlNorvikTest, SangriaDeRetornoYTabulador) {
+    pulsa(Qt::Key_Tab);
+    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQ(texto(), u"    ");
+    QTest::keyClicks(&editor, "a");
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(texto(), u"    a\r\n    ");
+    norvik.EspaciosXTAB(2);
+    norvik.control().SelStart(4);
+    norvik.control().SelLength(1);
+    pulsa(Qt::Key_Tab);
+    EXPECT_EQ(texto(), u"      \r\n    ");
+    EXPECT_EQ(norvik.SelStart(), 6);
+}
+
+TEST_F(ControlNorvikTest, ElFocoEntraYSaleConElTeclado) {
+    antes.setFocus();
+    QTest::keyClick(&antes, Qt::Key_Tab);
+    EXPECT_TRUE(editor.hasFocus());
+    pulsa(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_TRUE(despues.hasFocus());
+    QTest::keyClick(&despues, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(editor.hasFocus());
+    pulsa(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(antes.hasFocus());
+    EXPECT_EQ(texto(), u"");
+}
+
+TEST_F(ControlNorvikTest, PegarDosLineasLasColorea) {
+    QApplication::clipboard()->setText("si 1\nno 2");
+    pulsa(Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(texto(), u"si 1\r\nno 2");
+    EXPECT_EQ(colores(0), "rrpn");
+    pulsa(Qt::Key_V, Qt::ControlModifier);
+    pulsa(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(texto(), u"si 1\r\nno 2");
+}
+
+TEST_F(ControlNorvikTest, DeshacerDesdeElTeclado) {
+    QTest::keyClicks(&editor, "abc");
+    norvik.control().Undo();
+    EXPECT_EQ(editor.toPlainText(), "ab");
+    norvik.control().Redo();
+    EXPECT_EQ(editor.toPlainText(), "abc");
+    QTest::keyClicks(&editor, "d");
+    EXPECT_EQ(texto(), u"abcd");
+}
+
+TEST_F(ControlNorvikTest, LosEventosSonSenales) {
+    QStringList sucesos;
+    QObject::connect(&norvik, &ControlNorvik::CambioDeLinea,
+                     [&](qint16 linea) { sucesos << QString("linea %1").arg(linea); });
+    QObject::connect(&norvik, &ControlNorvik::change, [&] { sucesos << "change"; });
+    QObject::connect(&norvik, &ControlNorvik::SelChange, [&] { sucesos << "sel"; });
+    QObject::connect(&norvik, &ControlNorvik::KeyDown, [&](qint16& codigo, qint16& shift) {
+        sucesos << QString("abajo %1 %2").arg(codigo).arg(shift);
+    });
+    QObject::connect(&norvik, &ControlNorvik::KeyPress, [&](qint16& c) { c = c == 'a' ? qint16('A') : c; });
+    QObject::connect(&norvik, &ControlNorvik::KeyUp,
+                     [&](qint16& codigo) { sucesos << QString("arriba %1").arg(codigo); });
+    QObject::connect(&norvik, &ControlNorvik::Click, [&] { sucesos << "click"; });
+    QObject::connect(&norvik, &ControlNorvik::propiedadCambiada, [&](const QString& n) { sucesos << n; });
+    pulsa(Qt::Key_A);
+    EXPECT_EQ(sucesos, QStringList({"abajo 65 0", "change", "sel", "arriba 65"}));
+    EXPECT_EQ(texto(), u"A");
+    sucesos.clear();
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(sucesos, QStringList({"abajo 13 0", "change", "linea 2", "sel", "arriba 13"}));
+    sucesos.clear();
+    QTest::mouseClick(editor.viewport(), Qt::LeftButton, {}, {30, 100});
+    QTest::mouseClick(&norvik, Qt::LeftButton, {}, {0, 0});
+    QTest::mouseClick(elemento("debugBox"), Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(sucesos, QStringList({"click", "click"}));
+    sucesos.clear();
+    norvik.setProperty("ColorPR", 0x123456);
+    norvik.setProperty("ColorPR", 0x123456);
+    norvik.setProperty("NomLenguaje", "C");
+    EXPECT_EQ(sucesos, QStringList({"ColorPR", "NombreLenguaje"}));
+    EXPECT_EQ(norvik.control().ColorPR(), 0x123456);
+    EXPECT_EQ(norvik.property("MargenIzquierdo").toInt(), 150);
+}
+
+TEST_F(ControlNorvikTest, TodasLasOpcionesSonPropiedades) {
+    const QMetaObject& meta = ControlNorvik::staticMetaObject;
+    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 30);
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty p = meta.property(i);
+        const QVariant valor = p.read(&norvik);
+        EXPECT_TRUE(valor.isValid()) << p.name();
+        EXPECT_TRUE(p.write(&norvik, valor)) << p.name();
+        const bool cambia =
+            p.userType() == QMetaType::Bool && QLatin1String(p.name()) != QLatin1String("TextoModificado");
+        if (!cambia) continue;
+        p.write(&norvik, !valor.toBool());
+        EXPECT_NE(p.read(&norvik), valor) << p.name();
+    }
+}
+
+TEST_F(ControlNorvikTest, DisposicionDeLosElementos) {
+    EXPECT_EQ(elemento("separador")->geometry(), QRect(22, 0, 1, 200));
+    EXPECT_EQ(elemento("debugBox")->geometry(), QRect(2, 2, 20, 196));
+    EXPECT_EQ(editor.geometry(), QRect(33, 2, 365, 196));
+    EXPECT_EQ(elemento("bordeNegro")->geometry(), QRect(1, 1, 398, 198));
+    EXPECT_EQ(elemento("controlSpace")->geometry(), QRect(23, 2, 10, 196));
+    EXPECT_TRUE(elemento("bordeOscuro1")->isVisible());
+    norvik.Borde3D(false);
+    norvik.LeftBorderVisible(false);
+    EXPECT_EQ(editor.geometry(), QRect(1, 1, 398, 198));
+    for (const char* oculto : {"bordeClaro1", "bordeClaro2", "bordeOscuro1", "bordeOscuro2", "bordeClaroBase",
+                               "debugBox", "controlSpace"}) {
+        EXPECT_FALSE(elemento(oculto)->isVisible()) << oculto;
+    }
+    norvik.resize(200, 100);
+    EXPECT_EQ(editor.geometry(), QRect(1, 1, 198, 98));
+    norvik.resize(3, 3); // too small to be laid out
+    EXPECT_EQ(editor.geometry(), QRect(1, 1, 198, 98));
+    for (QWidget* e : norvik.findChildren<QWidget*>()) {
+        const bool interno = e->objectName().startsWith(QLatin1String("qt_")) ||
+                             e->parentWidget()->inherits("QAbstractScrollArea") || e->inherits("QScrollBar");
+        EXPECT_TRUE(interno || !e->accessibleName().isEmpty()) << e->objectName().toStdString();
+    }
+}
+
+TEST_F(ControlNorvikTest, ErroresEnSuLineaConSuSigno) {
+    norvik.control().Text(u"uno\r\ndos\r\ntres");
+    norvik.control().MarcaErrorLinea(2);
+    norvik.control().PonSignoError(2);
+    norvik.control().PonSignoError(3);
+    EXPECT_EQ(colores(1), "eee");
+    EXPECT_EQ(colores(2), "pppp");
+    const QWidget* signo = elemento("sig_Error2");
+    ASSERT_NE(signo, nullptr);
+    EXPECT_TRUE(signo->isVisible());
+    EXPECT_EQ(signo->accessibleName(), "Error en la línea 2");
+    const int alto = editor.fontMetrics().height();
+    EXPECT_EQ(signo->geometry(), QRect(2, alto, 16, 16));
+    EXPECT_EQ(elemento("sig_Error3")->y(), 2 * alto);
+    QTest::keyClicks(&editor, "x");
+    EXPECT_EQ(colores(1), "ppp");
+}
+
+TEST_F(ControlNorvikTest, DemasiadoTextoSeDiceYSeSigue) {
+    norvik.control().Text(std::u16string(32766, u'x'));
+    norvik.control().SelStart(32766);
+    QStringList fallos;
+    norvik.caja().alFallar = [&](const std::u16string& t) { fallos << QString::fromStdU16String(t); };
+    QTest::keyClicks(&editor, "yz");
+    pulsa(Qt::Key_Return); // colouring the line that is left is too much
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fallos, QStringList{"Desbordamiento"});
+    EXPECT_EQ(norvik.control().Text().size(), 32770U);
+    pulsa(Qt::Key_Home, Qt::ControlModifier);
+    norvik.control().Text(u"");
+    QTest::keyClicks(&editor, "si");
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(colores(0), "rr");
+}
+
+TEST_F(ControlNorvikTest, EnFondoOscuroTodoSeLee) {
+    QPalette oscura;
+    oscura.setColor(QPalette::Base, QColor(30, 30, 30));
+    oscura.setColor(QPalette::Text, QColor(230, 230, 230));
+    norvik.control().Text(u"si 12 x");
+    norvik.control().ColoreaTodo();
+    norvik.setPalette(oscura);
+    QCoreApplication::processEvents();
+    const auto formatos = editor.document()->firstBlock().layout()->formats();
+    ASSERT_EQ(formatos.size(), 2);
+    for (const auto& f : formatos) EXPECT_GT(qGray(f.format.foreground().color().rgb()), 30 + 60);
+    EXPECT_EQ(norvik.ColorPR(), 0x800000);
+}
