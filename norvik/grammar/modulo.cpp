@@ -125,8 +125,12 @@ std::int16_t gramatica::filasVigentes() const {
 std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
     std::vector<Celda> lista;
     const std::int16_t ancho = std::min(simbolos_.totalElementos(), tabla_.columnas());
-    for (std::int16_t c = 1; c <= ancho; ++c)
-        if (const std::int16_t valor = tabla_.en(fila, c); valor != 0) lista.push_back({fila, c, valor});
+    if (ancho == 0) return lista;
+    std::int16_t columna = 0;
+    for (const std::int16_t valor : tabla_.filaGuardada(fila)) {
+        if (columna++ == ancho) break;
+        if (valor != 0) lista.push_back({fila, columna, valor});
+    }
     return lista;
 }
 
@@ -141,7 +145,8 @@ void gramatica::escribeCargaReglas(std::u16string& texto, std::u16string_view no
     escribeLinea(texto);
     escribeLinea(texto, u"'Función para cargar las reglas del lenguaje ", nombre);
     escribeLinea(texto);
-    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
+    const std::int16_t total = getNumReglas();
+    for (std::int16_t r = 1; r <= total; ++r)
         escribeLinea(texto, llamada, u"SetRegla \"", GetLeftRegla(r), u" -> ", GetRightRegla(r), u"\"");
     cierraProcedimiento(texto);
     escribeLinea(texto);

@@ -92,7 +92,8 @@ void gramatica::escribeTablaCpp(std::u16string& texto) const {
 
 std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
     std::vector<std::u16string> reglas;
-    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
+    const std::int16_t total = getNumReglas();
+    for (std::int16_t r = 1; r <= total; ++r)
         reglas.push_back(std::u16string(GetLeftRegla(r)).append(u" -> ").append(GetRightRegla(r)));
     std::vector<std::u16string> simbolos;
     for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)

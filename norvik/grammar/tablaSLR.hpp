@@ -26,6 +26,11 @@ public:
         const auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
         return valores.empty() ? std::int16_t{0} : valores[static_cast<std::size_t>(columna) - 1];
     }
+    /// The cells of a row, to be read; none when nothing was written in it. Raises the same.
+    std::span<const std::int16_t> filaGuardada(int numero) const {
+        comprueba(numero, 1);
+        return filas_[static_cast<std::size_t>(numero) - 1];
+    }
     /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
     void pon(int fila, int columna, std::int16_t valor);
     /// The cells of a row, to be written; raises the same.
