@@ -186,10 +186,10 @@ TEST_F(CajaTextoQtTest, PegarYCopiarSinPerderNada) {
     pulsa(Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(texto(), raros + raros);
     EXPECT_EQ(pegados, 1);
-    auto* conFormato = new QMimeData; // the clipboard's own
+    auto conFormato = std::make_unique<QMimeData>();
     conFormato->setHtml("<b>negrita</b>");
     conFormato->setText("uno\rdos");
-    QApplication::clipboard()->setMimeData(conFormato);
+    QApplication::clipboard()->setMimeData(conFormato.release()); // the clipboard owns it
     caja.ponTexto(u"");
     pulsa(Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(texto(), u"uno\r\ndos");

@@ -3,6 +3,7 @@
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace norvik {
@@ -14,29 +15,40 @@ struct Equivalencia {
     std::int16_t codigo;
 };
 
-constexpr Equivalencia sinCaracter[] = {
-    {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},     {Qt::Key_Clear, 12},
-    {Qt::Key_Return, 13},   {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},      {Qt::Key_Control, 17},
-    {Qt::Key_Alt, 18},      {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20},   {Qt::Key_Escape, 27},
-    {Qt::Key_PageUp, 33},   {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},        {Qt::Key_Home, 36},
-    {Qt::Key_Left, 37},     {Qt::Key_Up, 38},       {Qt::Key_Right, 39},      {Qt::Key_Down, 40},
-    {Qt::Key_Print, 44},    {Qt::Key_Insert, 45},   {Qt::Key_Delete, 46},     {Qt::Key_Meta, 91},
-    {Qt::Key_Menu, 93},     {Qt::Key_NumLock, 144}, {Qt::Key_ScrollLock, 145}};
+constexpr auto sinCaracter = std::to_array<Equivalencia>(
+    {{Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},     {Qt::Key_Clear, 12},
+     {Qt::Key_Return, 13},   {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},      {Qt::Key_Control, 17},
+     {Qt::Key_Alt, 18},      {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20},   {Qt::Key_Escape, 27},
+     {Qt::Key_PageUp, 33},   {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},        {Qt::Key_Home, 36},
+     {Qt::Key_Left, 37},     {Qt::Key_Up, 38},       {Qt::Key_Right, 39},      {Qt::Key_Down, 40},
+     {Qt::Key_Print, 44},    {Qt::Key_Insert, 45},   {Qt::Key_Delete, 46},     {Qt::Key_Meta, 91},
+     {Qt::Key_Menu, 93},     {Qt::Key_NumLock, 144}, {Qt::Key_ScrollLock, 145}});
 
-constexpr Equivalencia signos[] = {
-    {Qt::Key_Space, 32},        {Qt::Key_Semicolon, 186}, {Qt::Key_Equal, 187},
-    {Qt::Key_Plus, 187},        {Qt::Key_Comma, 188},     {Qt::Key_Minus, 189},
-    {Qt::Key_Period, 190},      {Qt::Key_Slash, 191},     {Qt::Key_QuoteLeft, 192},
-    {Qt::Key_BracketLeft, 219}, {Qt::Key_Backslash, 220}, {Qt::Key_BracketRight, 221},
-    {Qt::Key_Apostrophe, 222}};
+constexpr auto signos = std::to_array<Equivalencia>({{Qt::Key_Space, 32},
+                                                     {Qt::Key_Semicolon, 186},
+                                                     {Qt::Key_Equal, 187},
+                                                     {Qt::Key_Plus, 187},
+                                                     {Qt::Key_Comma, 188},
+                                                     {Qt::Key_Minus, 189},
+                                                     {Qt::Key_Period, 190},
+                                                     {Qt::Key_Slash, 191},
+                                                     {Qt::Key_QuoteLeft, 192},
+                                                     {Qt::Key_BracketLeft, 219},
+                                                     {Qt::Key_Backslash, 220},
+                                                     {Qt::Key_BracketRight, 221},
+                                                     {Qt::Key_Apostrophe, 222}});
 
-constexpr Equivalencia teclado[] = {{Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109},
-                                    {Qt::Key_Period, 110},   {Qt::Key_Comma, 110}, {Qt::Key_Slash, 111}};
+constexpr auto teclado = std::to_array<Equivalencia>({{Qt::Key_Asterisk, 106},
+                                                      {Qt::Key_Plus, 107},
+                                                      {Qt::Key_Minus, 109},
+                                                      {Qt::Key_Period, 110},
+                                                      {Qt::Key_Comma, 110},
+                                                      {Qt::Key_Slash, 111}});
 
 constexpr std::int16_t soloCaracter = 231;
 
 template <std::size_t N>
-std::int16_t codigoEn(const Equivalencia (&tabla)[N], int qt) {
+std::int16_t codigoEn(const std::array<Equivalencia, N>& tabla, int qt) {
     const auto* fila = std::ranges::find(tabla, qt, &Equivalencia::qt);
     return fila == std::end(tabla) ? std::int16_t{0} : fila->codigo;
 }
@@ -56,13 +68,11 @@ std::int16_t codigoDeTecladoNumerico(int qt) {
 std::int16_t codigoDeTecla(const QKeyEvent& evento) {
     const int qt = evento.key();
     const bool numerico = evento.modifiers().testFlag(Qt::KeypadModifier);
-    const std::int16_t candidatos[] = {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0},
-                                       codigoEn(sinCaracter, qt),
-                                       codigoEn(signos, qt),
-                                       codigoEnFila(qt, Qt::Key_0, Qt::Key_9, '0'),
-                                       codigoEnFila(qt, Qt::Key_A, Qt::Key_Z, 'A'),
-                                       codigoEnFila(qt, Qt::Key_F1, Qt::Key_F24, 112),
-                                       evento.text().isEmpty() ? std::int16_t{0} : soloCaracter};
+    const auto candidatos = std::to_array<std::int16_t>(
+        {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0}, codigoEn(sinCaracter, qt),
+         codigoEn(signos, qt), codigoEnFila(qt, Qt::Key_0, Qt::Key_9, '0'),
+         codigoEnFila(qt, Qt::Key_A, Qt::Key_Z, 'A'), codigoEnFila(qt, Qt::Key_F1, Qt::Key_F24, 112),
+         evento.text().isEmpty() ? std::int16_t{0} : soloCaracter});
     const auto* codigo = std::ranges::find_if(candidatos, [](std::int16_t c) { return c != 0; });
     return codigo == std::end(candidatos) ? std::int16_t{0} : *codigo;
 }
