@@ -1,0 +1,180 @@
+// Searching and replacing, as the find and the replace dialog do it.
+#include "apoyo/anfitrion.hpp"
+#include "norvik/control/buscador.hpp"
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+using namespace norvik::apoyo;
+
+namespace {
+
+class BusquedaTest : public testing::Test {
+protected:
+    BusquedaTest() {
+        estadoBusqueda() = {};
+        a.norvik.ShowBuscarDialog();
+    }
+    ~BusquedaTest() override { estadoBusqueda() = {}; }
+
+    void empieza(std::u16string_view texto, std::int32_t cursor, std::int32_t longitud = 0) {
+        a.norvik.Text(texto);
+        a.norvik.InicializaUndosYRedos();
+        a.caja.selecciona(cursor, longitud);
+        a.sistema.mensajes.clear();
+    }
+    /// The text with the selection in brackets, and the messages.
+    std::string foto() {
+        std::u16string texto = a.norvik.Text();
+        const auto inicio = static_cast<std::size_t>(a.caja.inicioSeleccion());
+        texto.insert(inicio + static_cast<std::size_t>(a.caja.longitudSeleccion()), u"]")
+            .insert(inicio, u"[");
+        for (const auto& m : std::exchange(a.sistema.mensajes, {}))
+            texto += u" | " + m.titulo + u": " + m.texto;
+        return aUtf8(texto);
+    }
+
+    Anfitrion a;
+    Buscador buscador{a.sistema};
+};
+
+constexpr auto noEsta = " | : No se encontró el texto de busqueda";
+constexpr auto completada = " | Busqueda completada: Se ha buscado en la región especificada";
+
+} // namespace
+
+TEST_F(BusquedaTest, BuscarSiguiente) {
+    using namespace std::string_literals;
+    const struct {
+        Peticion peticion;
+        std::u16string_view texto;
+        std::int32_t cursor;
+        std::string queda;
+    } casos[] = {
+        {{u"ab"}, u"ab ab", 0, "ab [ab]"},
+        {{u"ab"}, u"ab ab", 3, "ab []ab"s + completada},
+        {{u"ab", u"Abajo"}, u"cab", 0, "c[ab]"},
+        {{u"ab", u"Arriba"}, u"ab ab ab", 6, "ab [ab] ab"},
+        {{u"ab", u"Arriba"}, u"ab", 0, "[]ab"s + completada},
+        {{u"ab", u"Hacia allá"}, u"ab ab", 0, "[]ab ab"s + completada},
+        {{u"x"}, u"ab", 0, "[]ab"s + noEsta},
+        {{u"AB"}, u" ab", 0, " [ab]"},
+        {{u"AB", u"Todo", false, true}, u" ab", 0, "[] ab"s + noEsta},
+        {{u"ab", u"Todo", true}, u"- cabo ab", 0, "- cabo [ab]"},
+        {{u"a|b", u"Todo", true},
+         u"- cb b",
+         0,
+         "- c[b] b"}, // the words' edges bind to the ends of the pattern
+        {{u"a.c"}, u"- abc", 0, "- [abc]"},
+        {{u""}, u"abc", 0, "[]abc"},
+        {{u"a("}, u"abc", 0, "[]abc | : El texto de búsqueda no es una expresión regular correcta"},
+        {{u"b*"}, u"abb", 0, "a[bb]"},
+    };
+    for (const auto& c : casos) {
+        empieza(c.texto, c.cursor);
+        buscador.buscaSiguiente(c.peticion);
+        EXPECT_EQ(foto(), c.queda) << aUtf8(c.peticion.texto);
+    }
+}
+
+TEST_F(BusquedaTest, HistorialDelProceso) {
+    empieza(u"ab cd", 0);
+    for (const auto texto : {u"cd", u"zz", u"cd", u"a("}) buscador.buscaSiguiente({texto});
+    const auto& estado = estadoBusqueda();
+    EXPECT_EQ(estado.historialBusquedas, (std::vector<std::u16string>{u"cd", u"zz"}));
+    EXPECT_EQ(estado.ultimaBusqueda, u"cd"); // a malformed pattern changes nothing
+    EXPECT_EQ(estado.direccionBusqueda, u"Abajo");
+    {
+        Anfitrion otro;
+        otro.norvik.Text(u"- cd");
+        otro.norvik.ShowBuscarDialog();
+        buscador.buscaSiguiente({u"cd"});
+        EXPECT_EQ(otro.norvik.SelText(), u"cd");
+    }
+    EXPECT_EQ(estado.textoDestino, nullptr); // its control is gone
+    buscador.buscaSiguiente({u"cd"});
+    buscador.reemplazaTodo({u"cd"}, u"x");
+    EXPECT_EQ(estado.historialBusquedas.size(), 2U);
+}
+
+TEST_F(BusquedaTest, LaVentanaCedeSuPuesto) {
+    std::string puestos;
+    buscador.ponEncima = [&](bool encima) { puestos += encima ? '+' : '-'; };
+    a.caja.ponOcultaSeleccion(true);
+    buscador.buscaSiguiente({u"x"});
+    EXPECT_EQ(puestos, "");
+    buscador.abre();
+    EXPECT_TRUE(estadoBusqueda().dialogoAbierto);
+    EXPECT_FALSE(a.caja.ocultaSeleccion());
+    buscador.buscaSiguiente({u"x"});
+    EXPECT_EQ(puestos, "-+");
+    buscador.cierra();
+    EXPECT_TRUE(a.caja.ocultaSeleccion());
+    EXPECT_FALSE(estadoBusqueda().dialogoAbierto);
+}
+
+TEST_F(BusquedaTest, LaExpresionDesbocadaSeDice) {
+    empieza(std::u16string(3000, u'a') + u"b", 0);
+    const auto antes = a.norvik.Text();
+    buscador.reemplazaTodo({u"(a|aa)*(a|aa)*(a|aa)*\\1c"}, u"x");
+    ASSERT_EQ(a.sistema.mensajes.size(), 1U);
+    EXPECT_TRUE(a.sistema.mensajes[0].texto.starts_with(u"La búsqueda se ha interrumpido"));
+    EXPECT_EQ(a.norvik.Text(), antes);
+}
+
+TEST_F(BusquedaTest, Reemplazar) {
+    const struct {
+        Peticion peticion;
+        std::u16string_view texto;
+        std::int32_t cursor, longitud;
+        std::u16string_view con;
+        std::string queda;
+    } casos[] = {
+        {{u"ab"}, u"ab ab", 0, 2, u"x", "x [ab]"},
+        {{u"ab"}, u"abab", 0, 2, u"x", "x[ab]"}, // the next one follows at once
+        {{u"ab"}, u"ab ab", 0, 0, u"x", "ab [ab]"},
+        {{u"ab"}, u"ab ab", 0, 1, u"x", "ab [ab]"},
+        {{u"a+"}, u"aa ab", 0, 2, u"aaa", "aaa [a]b"},
+        {{u"ab", u"Arriba"}, u"ab ab", 3, 2, u"ab", "[ab] ab"},
+        {{u"b"}, u"ab", 1, 1, u"", "a[] | : No se encontró el texto de busqueda"},
+    };
+    for (const auto& c : casos) {
+        empieza(c.texto, c.cursor, c.longitud);
+        buscador.reemplaza(c.peticion, c.con);
+        EXPECT_EQ(foto(), c.queda) << aUtf8(c.texto);
+    }
+}
+
+TEST_F(BusquedaTest, ReemplazarTodoEsUnPasoDeDeshacer) {
+    const struct {
+        Peticion peticion;
+        std::u16string_view texto, con, queda;
+        int cuantos;
+    } casos[] = {
+        {{u"a"}, u"banana", u"XY", u"bXYnXYnXY", 3}, {{u"AN"}, u"banana", u"", u"ba", 2},
+        {{u"b"}, u"abc", u"q", u"aqc", 1},           {{u"\\r\\n"}, u"1\r\n2\r\n3", u"\n", u"1\r\n2\r\n3", 2},
+        {{u"x*"}, u"ab", u"-", u"-a-b-", 3},         {{u"z"}, u"abc", u"q", u"abc", 0},
+    };
+    for (const auto& c : casos) {
+        empieza(u"", 0);
+        a.norvik.Text(c.texto);
+        buscador.reemplazaTodo(c.peticion, c.con);
+        EXPECT_EQ(a.norvik.Text(), c.queda);
+        ASSERT_EQ(a.sistema.mensajes.size(), 1U);
+        const auto& texto = a.sistema.mensajes[0].texto;
+        EXPECT_EQ(texto.find(aTexto(c.cuantos)) != texto.npos, c.cuantos > 0);
+        EXPECT_EQ(a.norvik.historial().undos().cuantas(), c.cuantos > 0 ? 2U : 1U);
+        a.norvik.Undo();
+        EXPECT_EQ(a.norvik.Text(), c.texto);
+        a.norvik.Redo();
+        EXPECT_EQ(a.norvik.Text(), c.queda);
+    }
+}
+
+TEST_F(BusquedaTest, Find) {
+    empieza(u"ab AB ab", 5);
+    EXPECT_EQ(a.norvik.Find(u"AB"), 0);
+    EXPECT_EQ(a.norvik.Find(u"AB", 1, 0, opcionBusqueda::distingueMayusculas), 3);
+    EXPECT_EQ(a.norvik.SelText(), u"AB");
+    EXPECT_EQ(a.norvik.Find(u"ab", 4, 7), -1);
+}

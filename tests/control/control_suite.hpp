@@ -1,0 +1,478 @@
+// How the control behaves on a text box, whatever the box is made of: one suite. Whoever includes it says on
+// which boxes.
+#pragma once
+
+#include "apoyo/carpetaTemporal.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/control/norvik.hpp"
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace norvik {
+
+struct FabricaDeCaja {
+    const char* nombre;
+    std::unique_ptr<CajaTexto> (*crea)();
+};
+
+class ControlTest : public testing::TestWithParam<FabricaDeCaja> {
+protected:
+    ControlTest() {
+        norvik.SetPalabraReservada(u"begin");
+        norvik.SetER(u"[0-9]+", u"num", true, Norvik_Numero);
+        norvik.SetER(u"/\\*([^*])*\\*/", u"com", true, Norvik_ComentarioBloque);
+        norvik.Colorear(true);
+        norvik.HideSelection(false);
+        norvik.eventos.change = [this] { sucesos += "c "; };
+        norvik.eventos.SelChange = [this] { sucesos += "s "; };
+        norvik.eventos.CambioDeLinea = [this](std::int16_t& linea) {
+            sucesos += "L" + std::to_string(linea) + " ";
+        };
+    }
+    void SetUp() override { dameSucesos(); }
+    std::string dameSucesos() { return std::exchange(sucesos, {}); }
+
+    /// A text to start from, coloured, whose undo history starts with it, the caret at a place.
+    void empieza(std::u16string_view texto, std::int32_t cursor = 0) {
+        norvik.Text(texto);
+        norvik.InicializaUndosYRedos();
+        norvik.ColoreaTodo();
+        caja.selecciona(cursor, 0);
+        dameSucesos();
+    }
+    /// A key as boxes tell of it; `escrito` is what it writes.
+    void pulsa(std::int16_t codigo, std::u16string_view escrito, std::int16_t shift = 0) {
+        caja.eventos.teclaAbajo(codigo, shift);
+        if (codigo != 0) caja.reemplazaSeleccion(escrito);
+        caja.eventos.teclaArriba(codigo, shift);
+    }
+    void teclea(std::u16string_view texto) {
+        for (const char16_t c : texto)
+            caja.reemplazaSeleccion(c == u'\n' ? saltoDeLinea : std::u16string_view(&c, 1));
+    }
+    /// One letter a character by its colour, and the place of the selection.
+    std::string colores() {
+        const std::int32_t inicio = caja.inicioSeleccion();
+        const std::int32_t longitud = caja.longitudSeleccion();
+        const auto eventos = std::exchange(caja.eventos, {});
+        std::string todos;
+        for (std::int32_t i = 0; i < static_cast<std::int32_t>(caja.texto().size()); ++i) {
+            caja.selecciona(i, 1);
+            const std::int32_t c = caja.colorSeleccion();
+            todos += c == 0 ? '.' : c == 0x800000 ? 'P' : c == 0x808000 ? 'N' : c == 0xFF ? 'E' : 'C';
+        }
+        caja.selecciona(inicio, longitud);
+        caja.eventos = eventos;
+        return todos;
+    }
+    bool enReposo() const {
+        return !caja.ocultaSeleccion() && norvik.historial().grabaDeshacer() && caja.izquierda() < 1000;
+    }
+    /// Text with the selection in brackets, or the caret as a bar.
+    std::u16string foto() const {
+        std::u16string texto(caja.texto());
+        const auto inicio = static_cast<std::size_t>(caja.inicioSeleccion());
+        const auto longitud = static_cast<std::size_t>(caja.longitudSeleccion());
+        if (longitud == 0) return texto.insert(inicio, u"|");
+        return texto.insert(inicio + longitud, u"]").insert(inicio, u"[");
+    }
+
+    const std::unique_ptr<CajaTexto> propia = GetParam().crea();
+    CajaTexto& caja = *propia;
+    std::vector<Mensaje> mensajes;
+    SistemaMemoria sistema{[this](const Mensaje& m) { mensajes.push_back(m); }};
+    Norvik norvik{caja, sistema};
+    std::string sucesos;
+};
+
+// --- Editing ---
+
+TEST_P(ControlTest, LaLineaQueSeEscribeQuedaLlana) {
+    empieza(u"begin 12\r\nbegin", 8);
+    EXPECT_EQ(colores(), "PPPPP.NN..PPPPP");
+    teclea(u"3");
+    EXPECT_EQ(colores(), "...........PPPPP");
+    EXPECT_EQ(dameSucesos(), "c s ");
+    caja.selecciona(11, 0);
+    EXPECT_EQ(colores(), "PPPPP.NNN..PPPPP");
+    EXPECT_EQ(dameSucesos(), "L2 s ");
+    teclea(u"4");
+    EXPECT_EQ(colores(), "PPPPP.NNN........");
+    caja.eventos.pierdeFoco();
+    EXPECT_EQ(colores().substr(0, 11), "PPPPP.NNN..");
+    EXPECT_TRUE(enReposo());
+}
+
+TEST_P(ControlTest, LineasYColumnas) {
+    EXPECT_EQ(norvik.TotalLineas(), 0);
+    norvik.Text(u"uno\r\n\r\ntres");
+    EXPECT_EQ(norvik.TotalLineas(), 3);
+    const struct {
+        std::int32_t cursor;
+        int linea, columna;
+    } casos[] = {{0, 1, 1}, {3, 1, 4}, {5, 2, 1}, {7, 3, 1}, {11, 3, 5}};
+    for (const auto& c : casos) {
+        caja.selecciona(c.cursor, 0);
+        EXPECT_EQ(norvik.LineaActual(), c.linea) << c.cursor;
+        EXPECT_EQ(norvik.ColumnaActual(), c.columna) << c.cursor;
+    }
+    EXPECT_EQ(norvik.ContenidoLinea(1), u"uno");
+    EXPECT_EQ(norvik.ContenidoLinea(2), u"");
+    EXPECT_EQ(norvik.ContenidoLinea(3), u"tres");
+    const std::int16_t malas[] = {-1, 0, 4, 32767};
+    for (const auto mala : malas) EXPECT_THROW(norvik.ContenidoLinea(mala), ArgumentoNoValido) << mala;
+    norvik.Text(u"");
+    EXPECT_EQ(norvik.ContenidoLinea(1), u"");
+}
+
+TEST_P(ControlTest, TeclasHaciaElAnfitrion) {
+    empieza(u"12", 2);
+    norvik.eventos.KeyDown = [this](std::int16_t& codigo, std::int16_t& shift) {
+        sucesos += "d" + std::to_string(codigo) + "," + std::to_string(shift) + " ";
+        if (codigo == 65) codigo = 0;
+    };
+    norvik.eventos.KeyUp = [this](std::int16_t& codigo, std::int16_t&) {
+        sucesos += "u" + std::to_string(codigo) + " ";
+    };
+    norvik.eventos.KeyPress = [](std::int16_t& caracter) { ++caracter; };
+    pulsa('V', u"x", mascara::control); // a shortcut of the box
+    EXPECT_EQ(dameSucesos(), "d0,2 u0 ");
+    pulsa('V', u"x", 3);
+    EXPECT_EQ(dameSucesos(), "d86,3 c s u86 ");
+    pulsa('A', u"x"); // suppressed by the host
+    EXPECT_EQ(dameSucesos(), "d65,0 u0 ");
+    std::int16_t caracter = u'a';
+    caja.eventos.pulsacion(caracter);
+    EXPECT_EQ(caracter, u'b');
+}
+
+TEST_P(ControlTest, LoPegadoSeColoreaComoRango) {
+    empieza(u"begin\r\n12", 5);
+    pulsa(tecla::insertar, u"1 /* a\r\nb */\r\n2", mascara::mayusculas);
+    EXPECT_EQ(norvik.Text(), u"begin1 /* a\r\nb */\r\n2\r\n12");
+    // The caret changed line while the text came in: the range from where it had been is coloured, and then
+    // the line that was edited, by itself.
+    EXPECT_EQ(colores().substr(0, 21), "PPPPPN.CCCCCCCCCC..N.");
+    EXPECT_EQ(dameSucesos(), "c L3 s ");
+}
+
+TEST_P(ControlTest, ElMarcadoDeErrorSeVaAlCambiar) {
+    empieza(u"begin\r\n12 b", 11);
+    norvik.MarcaErrorLinea(1);
+    EXPECT_EQ(colores(), "EEEEE..NN..");
+    EXPECT_EQ(norvik.LineaActual(), 2);
+    teclea(u"x");
+    EXPECT_EQ(colores(), "PPPPP.......");
+    EXPECT_TRUE(enReposo());
+}
+
+TEST_P(ControlTest, SangriaDeLaLineaNueva) {
+    const struct {
+        std::u16string_view texto;
+        std::int32_t cursor;
+        bool autoTAB;
+        std::u16string_view queda;
+    } casos[] = {{u"    a", 5, true, u"    a\r\n    |"},
+                 {u"    a", 4, true, u"    \r\n|a"},
+                 {u"    a", 5, false, u"    a\r\n|"},
+                 {u"\t  a", 4, true, u"\t  a\r\n|"},
+                 {u"  \ta\r\nb", 4, true, u"  \ta\r\n  |\r\nb"},
+                 {u"   ", 3, true, u"   \r\n   |"},
+                 {u"", 0, true, u"\r\n|"}};
+    for (const auto& c : casos) {
+        norvik.AutoTAB(c.autoTAB);
+        empieza(c.texto, c.cursor);
+        pulsa(tecla::retorno, saltoDeLinea);
+        EXPECT_EQ(foto(), c.queda);
+    }
+    empieza(u"  a\r\n", 0); // on the first line nothing is above
+    pulsa(tecla::retorno, u"");
+    EXPECT_EQ(foto(), u"|  a\r\n");
+}
+
+TEST_P(ControlTest, ElTabuladorEscribeEspacios) {
+    const std::int16_t anchos[] = {4, 0, 9};
+    for (const auto cuantos : anchos) {
+        empieza(u"abcd");
+        caja.selecciona(1, 2);
+        norvik.EspaciosXTAB(cuantos);
+        norvik.tabuladorEnfocado();
+        EXPECT_EQ(norvik.Text(), u"a" + std::u16string(static_cast<std::size_t>(cuantos), u' ') + u"d");
+    }
+    norvik.EspaciosXTAB(-1);
+    EXPECT_THROW(norvik.tabuladorEnfocado(), ArgumentoNoValido);
+}
+
+TEST_P(ControlTest, OcupadoNadaLlegaAlAnfitrion) {
+    norvik.AutoCorreccion(true);
+    empieza(u"BEGIN 12\r\nBegin");
+    caja.selecciona(3, 1);
+    dameSucesos();
+    norvik.ColoreaTodo();
+    norvik.MarcaErrorLinea(2);
+    EXPECT_EQ(dameSucesos(), "");
+    EXPECT_EQ(foto(), u"beg|in 12\r\nbegin");
+}
+
+// --- Undo ---
+
+TEST_P(ControlTest, DeshacerYRehacer) {
+    const struct {
+        std::u16string_view texto;
+        std::int32_t inicio, longitud;
+        std::u16string_view nuevo, deshecho, rehecho;
+    } casos[] = {
+        {u"una palabra", 4, 7, u"", u"una [palabra]", u"una |"},
+        {u"abc", 1, 1, u"", u"ab|c", u"a|c"},
+        {u"a\r\nb", 1, 2, u"", u"a\r\n|b", u"a|b"},
+        {u"ab", 1, 0, u"x", u"a|b", u"ax|b"},
+        {u"ab", 1, 0, u"xyz", u"a|b", u"a[xyz]b"},
+        {u"ab", 1, 0, u"\r\n", u"a|b", u"a\r\n|b"},
+        {u"abcdef", 1, 3, u"X", u"aX[cd]ef", u"aX|ef"}, // known: lengths alone are compared
+        {u"abc", 0, 2, u"xy", u"xy|c", u"xy|c"},
+        {u"abc", 0, 1, u"xyz", u"x|bc", u"x[yz]bc"},
+    };
+    for (const auto& c : casos) {
+        norvik.BorraTodo();
+        norvik.Text(c.texto);
+        caja.selecciona(c.inicio, c.longitud);
+        caja.reemplazaSeleccion(c.nuevo);
+        dameSucesos();
+        norvik.Undo();
+        EXPECT_EQ(foto(), c.deshecho);
+        norvik.Undo(); // the base stays
+        EXPECT_EQ(foto(), c.deshecho);
+        norvik.Redo();
+        EXPECT_EQ(foto(), c.rehecho);
+        norvik.Redo();
+        EXPECT_EQ(foto(), c.rehecho);
+        EXPECT_EQ(dameSucesos().find_first_of("cs"), std::string::npos);
+        EXPECT_TRUE(enReposo());
+    }
+}
+
+TEST_P(ControlTest, UnCambioOlvidaLoDeshecho) {
+    norvik.BorraTodo();
+    teclea(u"ab");
+    norvik.Undo();
+    EXPECT_EQ(foto(), u"a|");
+    teclea(u"c");
+    norvik.Redo();
+    EXPECT_EQ(foto(), u"ac|");
+    norvik.BorraTodo();
+    norvik.Undo();
+    norvik.Redo();
+    EXPECT_EQ(foto(), u"|");
+    EXPECT_EQ(norvik.historial().undos().cuantas(), 0U);
+}
+
+/// The control's text and lists, all of them whole, by the rules of Undo and Redo taken literally.
+struct ModeloDeHistorial {
+    std::u16string texto;
+    std::int32_t inicio = 0, longitud = 0;
+    std::vector<UndoElement> undos, redos;
+
+    static std::int32_t largo(std::u16string_view t) { return static_cast<std::int32_t>(t.size()); }
+    void selecciona(std::int32_t i, std::int32_t n) {
+        inicio = std::min(i, largo(texto));
+        longitud = std::min(n, largo(texto) - inicio);
+    }
+    void reemplaza(std::u16string_view nuevo) {
+        texto.replace(static_cast<std::size_t>(inicio), static_cast<std::size_t>(longitud), nuevo);
+        inicio += largo(nuevo);
+        longitud = 0;
+    }
+    void edita(std::u16string_view nuevo) {
+        if (nuevo.empty() && longitud == 0) return;
+        reemplaza(nuevo);
+        redos.clear();
+        undos.push_back({inicio, largo(texto), texto});
+    }
+    static std::u16string diferencia(const std::u16string& a, const std::u16string& b, std::int32_t p) {
+        const auto& largo = a.size() > b.size() ? a : b;
+        const auto& corto = a.size() > b.size() ? b : a;
+        const auto d = static_cast<std::int32_t>(largo.size() - corto.size());
+        if (p - d < 1) return largo;
+        const auto i = static_cast<std::size_t>(p - d - 1);
+        return i > largo.size() ? std::u16string() : largo.substr(i, static_cast<std::size_t>(d));
+    }
+    void inserta(const std::u16string& r) {
+        longitud = 0;
+        const std::int32_t donde = inicio;
+        reemplaza(r);
+        if (r != saltoDeLinea && r.size() >= 2) selecciona(donde, largo(r));
+    }
+    void deshaz() {
+        if (undos.size() < 2) return;
+        const UndoElement act = undos.back();
+        undos.pop_back();
+        const UndoElement& ant = undos.back();
+        const std::int32_t d = act.TextLen - ant.TextLen;
+        if (d > 0) {
+            if (act.SelStart - d >= 0) selecciona(act.SelStart - d, 0);
+            selecciona(inicio, d);
+            reemplaza(u"");
+        } else {
+            const auto r = diferencia(ant.Text, act.Text, std::abs(d) + act.SelStart + 1);
+            selecciona(act.SelStart, 0);
+            inserta(r);
+        }
+        redos.push_back(act);
+    }
+    void rehaz() {
+        if (redos.empty()) return;
+        const UndoElement e = redos.back();
+        redos.pop_back();
+        if (e.TextLen < largo(texto)) {
+            const std::int32_t sobran = largo(texto) - e.TextLen;
+            selecciona(e.SelStart, sobran);
+            reemplaza(u"");
+        } else {
+            const auto r = diferencia(texto, e.Text, e.SelStart + 1);
+            if (e.SelStart - largo(r) >= 0) selecciona(e.SelStart - largo(r), 0);
+            inserta(r);
+        }
+        undos.push_back(e);
+    }
+};
+
+TEST_P(ControlTest, EdicionesAlAzarComoUnModeloLlano) {
+    std::mt19937 azar(5);
+    ModeloDeHistorial m;
+    norvik.BorraTodo();
+    const std::u16string_view piezas[] = {u"", u"", u"a", u"begin", u"12 b", u"ñ\u2028", u"/* x"};
+    for (int paso = 0; paso < 1200; ++paso) {
+        const auto dado = azar() % 10;
+        if (dado < 2) {
+            norvik.Undo();
+            m.deshaz();
+        } else if (dado < 4) {
+            norvik.Redo();
+            m.rehaz();
+        } else {
+            const auto inicio = static_cast<std::int32_t>(azar() % (m.texto.size() + 1));
+            const auto longitud = static_cast<std::int32_t>(azar() % 4);
+            const auto pieza = piezas[azar() % std::size(piezas)];
+            caja.selecciona(inicio, longitud);
+            m.selecciona(inicio, longitud);
+            caja.reemplazaSeleccion(pieza);
+            m.edita(pieza);
+        }
+        if (paso % 100 == 99) norvik.MarcaErrorLinea(1), m.longitud = 0;
+        ASSERT_EQ(caja.texto(), m.texto) << paso;
+        ASSERT_EQ(caja.inicioSeleccion(), m.inicio) << paso;
+        ASSERT_EQ(caja.longitudSeleccion(), m.longitud) << paso;
+        const Historial& h = norvik.historial();
+        ASSERT_EQ(h.undos().cuantas(), m.undos.size()) << paso;
+        ASSERT_EQ(h.redos().cuantas(), m.redos.size()) << paso;
+        if (paso % 20 != 0) continue;
+        for (std::size_t i = 1; i <= m.undos.size(); ++i) ASSERT_EQ(h.undos().en(i), m.undos[i - 1]) << paso;
+        for (std::size_t i = 1; i <= m.redos.size(); ++i) ASSERT_EQ(h.redos().en(i), m.redos[i - 1]) << paso;
+        ASSERT_TRUE(enReposo());
+    }
+}
+
+// --- Receivers that misbehave, limits, files ---
+
+TEST_P(ControlTest, ReceptoresQueLanzan) {
+    empieza(u"uno\r\ndos");
+    norvik.SelText(u"x");
+    norvik.eventos.change = [] { throw std::runtime_error("change"); };
+    EXPECT_THROW(teclea(u"y"), std::runtime_error);
+    norvik.eventos.change = {};
+    norvik.eventos.CambioDeLinea = [](std::int16_t&) { throw std::runtime_error("línea"); };
+    EXPECT_THROW(caja.selecciona(9, 0), std::runtime_error);
+    EXPECT_EQ(foto(), u"xyuno\r\ndo|s");
+    EXPECT_THROW(norvik.Undo(), std::runtime_error);
+    EXPECT_EQ(foto(), u"x|uno\r\ndos"); // done, although it was told to nobody
+    EXPECT_TRUE(enReposo());
+    EXPECT_NO_THROW(norvik.Redo());
+    EXPECT_EQ(foto(), u"xy|uno\r\ndos");
+    norvik.eventos.CambioDeLinea = {};
+    teclea(u"z");
+    norvik.Undo();
+    EXPECT_EQ(foto(), u"xy|uno\r\ndos");
+}
+
+TEST_P(ControlTest, ReceptoresQueLlamanAlControl) {
+    empieza(u"a\r\nb", 0);
+    norvik.eventos.change = [this] {
+        norvik.eventos.change = {};
+        norvik.SelText(u"!");
+    };
+    teclea(u"x");
+    EXPECT_EQ(foto(), u"x!|a\r\nb");
+    EXPECT_EQ(norvik.historial().undos().cuantas(), 2U);
+    norvik.eventos.CambioDeLinea = [this](std::int16_t&) {
+        norvik.eventos.CambioDeLinea = {};
+        norvik.BorraTodo();
+    };
+    caja.selecciona(5, 0);
+    EXPECT_EQ(foto(), u"|");
+    teclea(u"1");
+    teclea(u"2");
+    norvik.eventos.CambioDeLinea = [this](std::int16_t&) { norvik.Undo(); };
+    teclea(u"\n");
+    norvik.Undo();
+    norvik.Redo();
+    EXPECT_TRUE(enReposo());
+    norvik.eventos.CambioDeLinea = {};
+    norvik.BorraTodo();
+    teclea(u"ab");
+    norvik.Undo();
+    EXPECT_EQ(foto(), u"a|");
+}
+
+TEST_P(ControlTest, ElTextoMasLargoQueSeColorea) {
+    const apoyo::CarpetaTemporal carpeta;
+    for (const std::size_t longitud : {32766U, 32767U}) {
+        const bool cabe = longitud == 32766;
+        std::string largo(longitud - 6, 'x');
+        largo.replace(100, 1, "\n");
+        const auto fichero = carpeta.pon("largo.txt", largo + "\nfin"); // a break counts two characters
+        if (cabe) {
+            EXPECT_TRUE(norvik.CargarFichero(fichero));
+        } else {
+            EXPECT_THROW(norvik.CargarFichero(fichero), Desbordamiento);
+        }
+        ASSERT_EQ(norvik.Text().size(), longitud);
+        EXPECT_EQ(norvik.historial().undos().cuantas(), 1U);
+        caja.selecciona(static_cast<std::int32_t>(longitud), 0);
+        teclea(u"1");
+        teclea(u"2");
+        EXPECT_THROW(norvik.ColoreaTodo(), Desbordamiento);
+        EXPECT_THROW(caja.selecciona(0, 0), Desbordamiento);
+        EXPECT_EQ(norvik.LineaActual(), 1);
+        EXPECT_NO_THROW(caja.selecciona(1, 0));
+        EXPECT_TRUE(enReposo());
+        norvik.Undo();
+        norvik.Undo();
+        EXPECT_EQ(norvik.Text().size(), longitud);
+        EXPECT_TRUE(enReposo());
+    }
+}
+
+TEST_P(ControlTest, CargarEsElPrimerEstado) {
+    const apoyo::CarpetaTemporal carpeta;
+    empieza(u"antes");
+    teclea(u"xy");
+    dameSucesos();
+    EXPECT_TRUE(norvik.CargarFichero(carpeta.pon("f.txt", "begin\n12\n")));
+    EXPECT_EQ(dameSucesos(), "c s c ");
+    EXPECT_EQ(colores(), "PPPPP..NN");
+    norvik.Undo();
+    EXPECT_EQ(foto(), u"|begin\r\n12");
+    EXPECT_THROW(norvik.CargarFichero(carpeta / "no.txt"), ErrorDeFichero);
+    EXPECT_EQ(foto(), u"|");
+    EXPECT_TRUE(enReposo());
+}
+
+} // namespace norvik

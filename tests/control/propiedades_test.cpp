@@ -1,0 +1,256 @@
+// The option properties: defaults, notifications, layout, and how they are saved.
+#include "apoyo/anfitrion.hpp"
+#include "apoyo/carpetaTemporal.hpp"
+#include "norvik/control/descripciones.hpp"
+#include "norvik/control/lineasTexto.hpp"
+#include "norvik/control/ranurasDisenio.hpp"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace norvik;
+using namespace norvik::apoyo;
+
+namespace {
+
+/// Writes down what the control tells its container.
+struct ContenedorVigilado : Contenedor {
+    std::u16string pasos;
+    std::optional<Disposicion> disposicion;
+
+    std::u16string damePasos() { return std::exchange(pasos, {}); }
+    void cambioDePropiedad(std::u16string_view nombre) override { anota(nombre); }
+    Medidas medidas() const override { return {6000, 3000, 15, 15}; }
+    void muestraMarco(bool visible) override { anota(visible ? u"+marco" : u"-marco"); }
+    void muestraBordeIzquierdo(bool visible) override { anota(visible ? u"+borde" : u"-borde"); }
+    void coloca(const Disposicion& d) override {
+        disposicion = d;
+        anota(u"coloca");
+    }
+    void ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) override {
+        anota(u"signo " + aTexto(signo.indice) + u" en " + aTexto(lugar.y));
+    }
+    void muestraAcerca() override { anota(u"acerca"); }
+    void muestraInforme() override { anota(u"informe"); }
+
+private:
+    void anota(std::u16string_view paso) { pasos.append(paso).append(u" "); }
+};
+
+struct Contenido {
+    ContenedorVigilado contenedor;
+    SistemaVigilado sistema;
+    CajaTextoMemoria caja;
+    Norvik n{caja, sistema, contenedor};
+};
+
+BolsaPropiedades guarda(const Norvik& norvik) {
+    BolsaPropiedades bolsa;
+    norvik.guardaPropiedades(bolsa);
+    return bolsa;
+}
+
+} // namespace
+
+TEST(Propiedades, CadaUnaAvisaCuandoCambia) {
+    Contenido c;
+    Norvik& n = c.n;
+    EXPECT_EQ(c.contenedor.damePasos(), u"+borde coloca LeftBorderVisible ");
+    EXPECT_EQ(c.caja.margenDerecho(), 15 * 8192);
+    const std::pair<std::function<void()>, std::u16string_view> casos[] = {
+        {[&] { n.Borde3D(false); }, u"-marco Borde3D coloca "},
+        {[&] { n.MargenIzquierdo(90); }, u"coloca MargenIzquierdo "},
+        {[&] { n.HideSelection(false); }, u"HideSelection "},
+        {[&] { n.LenguajeSensible(true); }, u"LenguajeSensible "},
+        {[&] { n.AutoCorreccion(true); }, u"AutoCorreccion "},
+        {[&] { n.EspaciosXTAB(3); }, u"EspaciosXTAB "},
+        {[&] { n.AutoTAB(false); }, u"AutoTAB "},
+        {[&] { n.MarcarErrores(true); }, u"MarcarErrores "},
+        {[&] { n.MuestraMensajesDeError(true); }, u"MuestraMensajesDeError "},
+        {[&] { n.Colorear(true); }, u"Colorear "},
+        {[&] { n.NomLenguaje(u"C"); }, u"NombreLenguaje "},
+        {[&] { n.AutoNumero(false); }, u"AutoNumero "},
+        {[&] { n.ColorPR(1); }, u"ColorPR "},
+        {[&] { n.ColorFechas(1); }, u"ColorFechas "},
+        {[&] { n.Text(u"abc"); }, u"Text "},
+        {[&] { n.Font({.nombre = u"Arial", .tamano = 97500, .negrita = true}); },
+         u"FontBold FontName FontSize "},
+    };
+    for (const auto& [cambia, pasos] : casos) {
+        cambia();
+        EXPECT_EQ(c.contenedor.damePasos(), pasos);
+        cambia(); // the same value again
+        EXPECT_EQ(c.contenedor.damePasos(), u"");
+    }
+    n.LeftBorderVisible(true); // this one always does
+    EXPECT_EQ(c.contenedor.damePasos(), u"+borde coloca LeftBorderVisible ");
+    EXPECT_EQ(c.contenedor.disposicion->texto.x, 315 + 15 + 90);
+    n.ColoreaTodo();
+    EXPECT_EQ(c.caja.izquierda(), 315 + 15 + 90);
+    n.PonSignoError(3);
+    n.Acerca();
+    n.MuestraInforme();
+    n.SetTraduccion(1, u"a", u"b");
+    EXPECT_EQ(c.contenedor.damePasos(), u"signo 2 en 468 acerca informe ");
+}
+
+TEST(Propiedades, FuenteDeLaSeleccion) {
+    Contenido c;
+    c.n.Text(u"abc");
+    c.caja.selecciona(0, 1);
+    c.n.SelFontName(u"Arial");
+    c.n.SelFontSize(14);
+    EXPECT_EQ(c.n.SelFontName(), u"Arial");
+    EXPECT_EQ(c.n.SelFontSize(), 14);
+    c.caja.ponTamanoFuenteSeleccion(400000000);
+    EXPECT_THROW(static_cast<void>(c.n.SelFontSize()), Desbordamiento);
+}
+
+TEST(Propiedades, IntercambioConElDisenio) {
+    ranurasDisenio() = {};
+    Contenido c;
+    BolsaPropiedades bolsa;
+    bolsa.escribeTexto(u"ContenidoG", u"S -> a;", {});
+    bolsa.escribeTexto(u"CodigoPrueba", u"a a", {});
+    c.n.restauraPropiedades(bolsa);
+    EXPECT_FALSE(c.n.editCode().has_value());
+    EXPECT_EQ(ranurasDisenio().especificacion, u"S -> a;");
+    ranurasDisenio() = {u"T -> b;", u"b", true};
+    c.contenedor.damePasos();
+    c.n.editCode(std::any(3));
+    EXPECT_EQ(c.contenedor.damePasos(), u"ContenidoG ContenidoG CodigoPrueba pendienteGuardarG ");
+    EXPECT_EQ(c.n.opciones().contenidoG, u"T -> b;");
+    EXPECT_EQ(c.n.opciones().codigoPrueba, u"b");
+    EXPECT_TRUE(c.n.opciones().pendienteGuardarG);
+    EXPECT_EQ(ranurasDisenio().especificacion + ranurasDisenio().textoPrueba, u"");
+}
+
+TEST(Bolsa, UnControlNuevo) {
+    const Contenido c;
+    EXPECT_EQ(guarda(c.n).aJson(), "{\n  \"Colorear\": false,\n  \"ColorNumeros\": 8421376,\n"
+                                   "  \"MuestraMensajesDeError\": false\n}\n");
+}
+
+TEST(Bolsa, LoQueFaltaTomaSuOmision) {
+    Contenido c;
+    c.n.EspaciosXTAB(9);
+    c.n.Font({.tamano = 120000, .cursiva = true});
+    c.n.Text(u"se va");
+    c.contenedor.damePasos();
+    c.n.restauraPropiedades({});
+    EXPECT_EQ(c.contenedor.damePasos(), u"+marco +borde coloca LeftBorderVisible coloca ");
+    EXPECT_EQ(guarda(c.n).aJson(), "{}\n");
+    EXPECT_TRUE(c.n.Colorear() && c.n.MuestraMensajesDeError());
+    EXPECT_EQ(c.n.ColorNumeros(), 0);
+    EXPECT_EQ(c.n.Font(), Fuente{});
+    EXPECT_EQ(c.n.Text(), u"");
+}
+
+TEST(Bolsa, LoGuardadoVuelveIgual) {
+    const CarpetaTemporal carpeta;
+    Contenido c;
+    Norvik& n = c.n;
+    n.Borde3D(false);
+    n.LeftBorderVisible(false);
+    n.MargenIzquierdo(-30000);
+    n.HideSelection(false);
+    n.AutoNumero(false);
+    n.AutoTAB(false);
+    n.Colorear(true);
+    n.ColorError(-1);
+    n.ColorCadena(0x7FFFFFFF);
+    n.EspaciosXTAB(0);
+    n.NomLenguaje(u"Ñu \"C\"\\\r\n\t\U0001F600");
+    n.Font({.nombre = u"Courier",
+            .tamano = 97525,
+            .negrita = true,
+            .tachado = true,
+            .juegoCaracteres = 2,
+            .peso = 700});
+    ranurasDisenio() = {u"S -> a;\r\n", u"a", true};
+    n.editCode({});
+    guarda(n).aFichero(carpeta / "b.json");
+    EXPECT_NE(bytesDe(carpeta / "b.json").find("\"FontSize\": 9.7525,"), std::string::npos);
+    Contenido otro;
+    otro.n.restauraPropiedades(BolsaPropiedades::deFichero(carpeta / "b.json"));
+    EXPECT_EQ(guarda(otro.n).aJson(), bytesDe(carpeta / "b.json"));
+    EXPECT_EQ(otro.n.Font(), n.Font());
+    EXPECT_EQ(otro.n.NomLenguaje(), n.NomLenguaje());
+    EXPECT_EQ(otro.n.opciones().contenidoG, u"S -> a;\r\n");
+    EXPECT_FALSE(otro.n.opciones().pendienteGuardarG); // never saved
+    n.NomLenguaje(std::u16string(1, u'\xD800'));
+    EXPECT_THROW(guarda(n).aFichero(carpeta / "b.json"), ErrorDeFichero);
+    EXPECT_EQ(carpeta.entradas(), 1U);
+    EXPECT_EQ(guarda(otro.n).aJson(), bytesDe(carpeta / "b.json"));
+}
+
+TEST(Bolsa, LoQueNoSeConvierteSeDice) {
+    const struct {
+        std::string_view json;
+        bool desborda;
+    } casos[] = {{R"({"EspaciosXTAB": "4"})", false},
+                 {R"({"EspaciosXTAB": 4.5})", false},
+                 {R"({"EspaciosXTAB": true})", false},
+                 {R"({"EspaciosXTAB": null})", false},
+                 {R"({"EspaciosXTAB": [4]})", false},
+                 {R"({"EspaciosXTAB": {"a": 4}})", false},
+                 {R"({"EspaciosXTAB": 32768})", true},
+                 {R"({"EspaciosXTAB": -1e300})", true},
+                 {R"({"EspaciosXTAB": 9999999999999999999999})", true}};
+    for (const auto& c : casos) {
+        Contenido contenido;
+        Norvik& n = contenido.n;
+        auto bolsa = BolsaPropiedades::deJson(c.json);
+        bolsa.pon(u"AutoTAB", false);
+        bolsa.pon(u"LenguajeSensible", true);
+        if (c.desborda) {
+            EXPECT_THROW(n.restauraPropiedades(bolsa), Desbordamiento) << c.json;
+        } else {
+            EXPECT_THROW(n.restauraPropiedades(bolsa), NoCoincidenLosTipos) << c.json;
+        }
+        EXPECT_FALSE(n.AutoTAB());          // read before
+        EXPECT_EQ(n.EspaciosXTAB(), 4);     // not set
+        EXPECT_FALSE(n.LenguajeSensible()); // not reached
+    }
+}
+
+TEST(Bolsa, RuidoYMediosFicheros) {
+    Contenido c;
+    c.n.NomLenguaje(u"ñandú");
+    c.n.Font({.nombre = u"Arial"});
+    const std::string entero = guarda(c.n).aJson();
+    for (std::size_t n = 0; n + 1 < entero.size(); ++n) {
+        EXPECT_THROW(BolsaPropiedades::deJson(entero.substr(0, n)), NoCoincidenLosTipos) << n;
+    }
+    const std::string ruido[] = {"[]",
+                                 "3",
+                                 "\"x\"",
+                                 "null",
+                                 "{\"a\":}",
+                                 "{\"a\":1}x",
+                                 "{\"a\":\"\xFF\"}",
+                                 "{\"a\":1,}",
+                                 "{'a':1}",
+                                 "{\"a\":\"\\uD800\"}",
+                                 std::string("{}\0x", 4),
+                                 std::string(100000, '['),
+                                 "{\"a\":" + std::string(100000, '{')};
+    for (const auto& r : ruido) {
+        EXPECT_THROW(BolsaPropiedades::deJson(r), NoCoincidenLosTipos) << r.substr(0, 20);
+    }
+    EXPECT_NO_THROW(BolsaPropiedades::deJson("\xEF\xBB\xBF{\"a\":[[{\"b\":[1,true,null]}]],\"a\":2e0}\n"));
+    EXPECT_THROW(BolsaPropiedades::deFichero("no hay"), ErrorDeFichero);
+}
+
+TEST(LineasTexto, DameLineaYEspacios) {
+    const std::u16string_view texto = u"uno\r\n\r\ntres\r\n";
+    EXPECT_EQ(dameLinea(3, texto), u"tres");
+    EXPECT_EQ(dameLinea(4, texto), u"");
+    EXPECT_EQ(dameLinea(7, u""), u"");
+    EXPECT_THROW(dameLinea(5, texto), ArgumentoNoValido);
+    EXPECT_EQ(espacios(2, 3), u"      ");
+    EXPECT_THROW(espacios(200, 200), Desbordamiento);
+    EXPECT_THROW(espacios(2, -3), ArgumentoNoValido);
+    for (const auto& d : descripciones) EXPECT_TRUE(d.texto.ends_with(u'.'));
+}
