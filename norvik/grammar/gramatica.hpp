@@ -7,9 +7,11 @@
 #include "norvik/grammar/reglasPartidas.hpp"
 #include "norvik/grammar/tablaSLR.hpp"
 
+#include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -119,6 +121,9 @@ public:
     void creaTablaSLR();
     /// 0-based state and column; raises `SubindiceFueraDeIntervalo`.
     std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const;
+    /// The entries of a state (0-based) by column, to be read many times; none when the two that need no
+    /// storing could be among them, or nothing is stored. `GetElementoTablaSLR` gives those that are missing.
+    std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const;
     /// A new table, all 0. Raises `SubindiceFueraDeIntervalo` for negative dimensions.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
     /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
@@ -238,6 +243,13 @@ inline std::int16_t gramatica::GetNumElementosRegla(std::int16_t regla) const {
     compruebaRegla(regla);
     const auto i = static_cast<std::size_t>(regla) - 1;
     return i < reglas_.size() ? reglas_[i].elementos : std::int16_t{0};
+}
+
+inline std::span<const std::int16_t> gramatica::GetFilaTablaSLR(std::int16_t estado) const {
+    if (estado <= 1) return {};
+    const auto guardada = tabla_.filaGuardada(estado + 1);
+    const auto simbolos = static_cast<std::size_t>(simbolos_.totalElementos());
+    return guardada.first(std::min(guardada.size(), simbolos));
 }
 
 inline std::int16_t gramatica::GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {

@@ -45,8 +45,6 @@ void anotaNodo(const Arbol& nodo, std::size_t nivel, std::u16string& texto) {
 
 } // namespace
 
-const TextosRegla Arbol::sinRegla = {};
-
 std::u16string Arbol::GetULexema() const {
     return aMayusculas(GetLexema());
 }
@@ -62,29 +60,34 @@ Arbol* Arbol::GetHijo(std::int16_t numHijo) const {
 }
 
 void Arbol::SetLexema(std::u16string_view datoNodo) {
-    const std::u16string_view copia = propietario_->guardaTexto(datoNodo);
+    const std::u16string_view copia = arbol().guardaTexto(datoNodo);
     lexema_ = copia.data();
     largoLexema_ = estrecha<std::uint32_t>(copia.size());
 }
 
 void Arbol::SetNomRegla(std::u16string_view reglaNodo) {
-    textos_ = &propietario_->guardaRegla(reglaNodo, textos_->cuerpo);
+    ponRegla(reglaNodo, GetRegla(), GetNumRegla());
 }
 
 void Arbol::SetRegla(std::u16string_view reglaNodo) {
-    textos_ = &propietario_->guardaRegla(textos_->nombre, reglaNodo);
+    ponRegla(GetNomRegla(), reglaNodo, GetNumRegla());
 }
 
 void Arbol::SetNumRegla(std::u16string_view numeroRegla) {
-    numRegla_ = leeNumero(numeroRegla);
+    ponRegla(GetNomRegla(), GetRegla(), leeNumero(numeroRegla));
+}
+
+void Arbol::ponRegla(std::u16string_view nombre, std::u16string_view cuerpo, std::int16_t numero) {
+    regla_ = &arbol().guardaRegla(nombre, cuerpo, numero);
 }
 
 void Arbol::limpia() {
+    regla_ = &arbol().sinRegla_;
     hijos_ = nullptr;
-    textos_ = &sinRegla;
-    lexema_ = u"";
+    lexema_ = nullptr;
+    numHijos_ = 0;
+    conSitio_ = 0;
     largoLexema_ = 0;
-    numRegla_ = -1;
 }
 
 void Arbol::Inicializa() {
@@ -130,7 +133,7 @@ Arbol* Arbol::GetDescendienteConRegla(std::int16_t numReglaBusqueda) {
         Arbol* const nodo = pendientes.back();
         pendientes.pop_back();
         if (nodo->GetEsHoja()) continue;
-        if (nodo->numRegla_ == numReglaBusqueda) return nodo;
+        if (nodo->GetNumRegla() == numReglaBusqueda) return nodo;
         const auto hijos = nodo->hijos();
         pendientes.insert(pendientes.end(), std::make_reverse_iterator(hijos.end()),
                           std::make_reverse_iterator(hijos.begin()));
@@ -141,7 +144,7 @@ Arbol* Arbol::GetDescendienteConRegla(std::int16_t numReglaBusqueda) {
 Arbol* Arbol::GetDescendienteConReglaEnDireccion(std::int16_t numReglaBusqueda, Direccion direccion) {
     if (direccion != Norvik_Izquierda && direccion != Norvik_Derecha) return nullptr;
     Arbol* nodo = this;
-    while (nodo != nullptr && nodo->numRegla_ != numReglaBusqueda) nodo = nodo->paso(direccion);
+    while (nodo != nullptr && nodo->GetNumRegla() != numReglaBusqueda) nodo = nodo->paso(direccion);
     return nodo;
 }
 

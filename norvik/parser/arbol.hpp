@@ -12,10 +12,12 @@ class ArbolSintactico;
 /// Which child a descent takes: always the first, or always the last.
 enum Direccion : std::int16_t { Norvik_Izquierda = 0, Norvik_Derecha = 1 };
 
-/// Head and body of the rule that produced a node; one record serves all the nodes of a rule.
-struct TextosRegla {
+/// What the nodes that one rule produced have in common: the rule, and the tree that they belong to.
+struct FichaRegla {
+    ArbolSintactico* arbol = nullptr;
     std::u16string_view nombre;
     std::u16string_view cuerpo;
+    std::int16_t numero = -1;
 };
 
 /// A node of a syntax tree: a token of the text (a leaf) or an application of a rule. Nodes belong to their
@@ -27,7 +29,7 @@ public:
         friend class ArbolSintactico;
         Clave() = default;
     };
-    Arbol(Clave, ArbolSintactico& propietario) : propietario_(&propietario) {}
+    Arbol(Clave, const FichaRegla& regla, Arbol* padre = nullptr) : regla_(&regla), padre_(padre) {}
     Arbol(const Arbol&) = delete;
     Arbol& operator=(const Arbol&) = delete;
     ~Arbol() = default;
@@ -39,14 +41,14 @@ public:
     std::int32_t GetLinea() const { return linea_; }
     std::int32_t GetColumna() const { return columna_; }
     /// Head of the node's rule.
-    std::u16string_view GetNomRegla() const { return textos_->nombre; }
+    std::u16string_view GetNomRegla() const { return regla_->nombre; }
     /// Body of the node's rule.
-    std::u16string_view GetRegla() const { return textos_->cuerpo; }
+    std::u16string_view GetRegla() const { return regla_->cuerpo; }
     /// Number of the node's rule, -1 for a node that no rule produced.
-    std::int16_t GetNumRegla() const { return numRegla_; }
+    std::int16_t GetNumRegla() const { return regla_->numero; }
     /// Raises `Desbordamiento` beyond 32 767 children.
     std::int16_t GetNumHijos() const;
-    bool GetEsHoja() const { return hijos().empty(); }
+    bool GetEsHoja() const { return numHijos_ == 0; }
     /// Child at a 1-based position, null beyond the last; raises `IndiceNoValido` below 1.
     Arbol* GetHijo(std::int16_t numHijo) const;
 
@@ -79,10 +81,7 @@ public:
     Arbol* GetDescendienteConReglaEnDireccion(std::int16_t numReglaBusqueda, Direccion direccion);
 
     /// All children, from the leftmost.
-    std::span<Arbol* const> hijos() const {
-        if (hijos_ == nullptr) return {};
-        return {hijos_->primero, hijos_->numero};
-    }
+    std::span<Arbol* const> hijos() const { return {hijos_, numHijos_}; }
     /// The whole subtree in one canonical text, a node a line, two blanks a level: `head -> body [number]` or
     /// `'lexeme' (line, column)`.
     std::u16string toString() const;
@@ -90,30 +89,24 @@ public:
 private:
     friend class ArbolSintactico;
 
-    /// A stretch of a table with free places before and after it, so that both ends grow in constant time.
-    struct Hijos {
-        Arbol** primero = nullptr;
-        std::uint32_t numero = 0;
-        std::uint32_t libresDelante = 0;
-        std::uint32_t libresDetras = 0;
-    };
+    static constexpr std::uint32_t maximoHijos = 0x7FFFFFFF;
 
     void limpia();
+    ArbolSintactico& arbol() const { return *regla_->arbol; }
+    void ponRegla(std::u16string_view nombre, std::u16string_view cuerpo, std::int16_t numero);
     bool tieneEncima(const Arbol& nodo) const;
     Arbol& adopta(Arbol& hijo);
     Arbol* paso(Direccion direccion) const;
 
-    static const TextosRegla sinRegla;
-
-    ArbolSintactico* propietario_;
-    Arbol* padre_ = nullptr;
-    Hijos* hijos_ = nullptr; ///< null: no children
-    const TextosRegla* textos_ = &sinRegla;
-    const char16_t* lexema_ = u"";
+    const FichaRegla* regla_;
+    Arbol* padre_;
+    Arbol** hijos_ = nullptr; ///< the first of a table
+    const char16_t* lexema_ = nullptr;
+    std::uint32_t numHijos_ : 31 = 0;
+    std::uint32_t conSitio_ : 1 = 0; ///< the table has free places before and after the children
     std::uint32_t largoLexema_ = 0;
     std::int32_t linea_ = 0;
     std::int32_t columna_ = 0;
-    std::int16_t numRegla_ = -1;
 };
 
 } // namespace norvik

@@ -8,6 +8,7 @@
 #include "norvik/base/numeros.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <memory>
 #include <vector>
 
@@ -20,7 +21,7 @@ void ArbolSintactico::reinicia() {
 }
 
 Arbol& ArbolSintactico::nuevoNodo() {
-    return *std::construct_at(arena_.reserva<Arbol>(1), Arbol::Clave{}, *this);
+    return *std::construct_at(arena_.reserva<Arbol>(1), Arbol::Clave{}, sinRegla_);
 }
 
 std::u16string_view ArbolSintactico::guardaTexto(std::u16string_view texto) {
@@ -29,9 +30,10 @@ std::u16string_view ArbolSintactico::guardaTexto(std::u16string_view texto) {
     return {copia, texto.size()};
 }
 
-const TextosRegla& ArbolSintactico::guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo) {
-    return *std::construct_at(arena_.reserva<TextosRegla>(1),
-                              TextosRegla{guardaTexto(nombre), guardaTexto(cuerpo)});
+const FichaRegla& ArbolSintactico::guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo,
+                                               std::int16_t numero) {
+    return *std::construct_at(arena_.reserva<FichaRegla>(1),
+                              FichaRegla{this, guardaTexto(nombre), guardaTexto(cuerpo), numero});
 }
 
 void ArbolSintactico::hazHoja(Arbol& nodo, std::u16string_view lexema, std::int32_t linea,
@@ -42,24 +44,19 @@ void ArbolSintactico::hazHoja(Arbol& nodo, std::u16string_view lexema, std::int3
     nodo.columna_ = columna;
 }
 
-std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, std::int16_t numRegla,
-                                                  const TextosRegla& textos, std::size_t numHijos) {
-    nodo.numRegla_ = numRegla;
-    nodo.textos_ = &textos;
+std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, const FichaRegla& regla,
+                                                  std::size_t numHijos) {
+    nodo.regla_ = &regla;
     if (numHijos == 0) return {};
-    // One record: the description of the children, the table of them, and they themselves.
-    static_assert(alignof(Arbol::Hijos) <= alignof(void*) && alignof(Arbol) <= alignof(void*));
-    std::byte* const registro =
-        arena_.reservaBytes(sizeof(Arbol::Hijos) + numHijos * (sizeof(Arbol*) + sizeof(Arbol)));
-    auto** const tabla = reinterpret_cast<Arbol**>(registro + sizeof(Arbol::Hijos));
+    // One record: the table of the children, and they themselves.
+    static_assert(alignof(Arbol) == alignof(Arbol*));
+    std::byte* const registro = arena_.reservaBytes(numHijos * (sizeof(Arbol*) + sizeof(Arbol)));
+    auto** const tabla = reinterpret_cast<Arbol**>(registro);
     auto* const hijos = reinterpret_cast<Arbol*>(tabla + numHijos);
-    for (std::size_t i = 0; i < numHijos; ++i) {
-        Arbol* const hijo = std::construct_at(hijos + i, Arbol::Clave{}, *this);
-        hijo->padre_ = &nodo;
-        std::construct_at(tabla + i, hijo);
-    }
-    const Arbol::Hijos todos{tabla, static_cast<std::uint32_t>(numHijos)};
-    nodo.hijos_ = std::construct_at(reinterpret_cast<Arbol::Hijos*>(registro), todos);
+    for (std::size_t i = 0; i < numHijos; ++i)
+        std::construct_at(tabla + i, std::construct_at(hijos + i, Arbol::Clave{}, sinRegla_, &nodo));
+    nodo.hijos_ = tabla;
+    nodo.numHijos_ = static_cast<std::uint32_t>(numHijos) & Arbol::maximoHijos;
     return {tabla, numHijos};
 }
 
@@ -75,24 +72,23 @@ Arbol& ArbolSintactico::copia(const Arbol& original) {
         const auto [de, a] = pendientes.back();
         pendientes.pop_back();
         hazHoja(*a, guardaTexto(de->GetLexema()), de->linea_, de->columna_);
-        const auto& textos = guardaRegla(de->GetNomRegla(), de->GetRegla());
-        const auto hijos = hazRegla(*a, de->numRegla_, textos, de->hijos().size());
+        const auto& regla = guardaRegla(de->GetNomRegla(), de->GetRegla(), de->GetNumRegla());
+        const auto hijos = hazRegla(*a, regla, de->hijos().size());
         for (std::size_t i = 0; i < hijos.size(); ++i) pendientes.push_back({de->hijos()[i], hijos[i]});
     }
     return raiz;
 }
 
-// Room for one child more at either end.
-Arbol::Hijos& ArbolSintactico::amplia(Arbol& nodo) {
-    if (nodo.hijos_ == nullptr)
-        nodo.hijos_ = std::construct_at(arena_.reserva<Arbol::Hijos>(1), Arbol::Hijos{});
-    Arbol::Hijos& hijos = *nodo.hijos_;
-    if (hijos.libresDelante > 0 && hijos.libresDetras > 0) return hijos;
-    const std::uint32_t libres = hijos.numero + 4;
-    auto** const tabla = arena_.reserva<Arbol*>(std::size_t{hijos.numero} + 2 * std::size_t{libres}) + libres;
-    std::copy_n(hijos.primero, hijos.numero, tabla);
-    hijos = {tabla, hijos.numero, libres, libres};
-    return hijos;
+// Room for one child more at either end. A table with room has places for children up to the next power of
+// two on both sides, so the number of children tells when it is full.
+void ArbolSintactico::hazSitio(Arbol& nodo) {
+    const std::size_t numero = nodo.numHijos_;
+    if (nodo.conSitio_ != 0 && !std::has_single_bit(numero)) return;
+    const std::size_t libres = std::bit_ceil(numero + 1) - numero;
+    auto** const tabla = arena_.reserva<Arbol*>(numero + 2 * libres) + libres;
+    std::copy_n(nodo.hijos_, numero, tabla);
+    nodo.hijos_ = tabla;
+    nodo.conSitio_ = 1;
 }
 
 bool Arbol::tieneEncima(const Arbol& nodo) const {
@@ -104,26 +100,24 @@ bool Arbol::tieneEncima(const Arbol& nodo) const {
 // The node to attach for one that is given. Only a node with children can stand above this one.
 Arbol& Arbol::adopta(Arbol& hijo) {
     if (&hijo == this || (!hijo.GetEsHoja() && tieneEncima(hijo))) throw ArgumentoNoValido();
-    const bool libre = hijo.padre_ == nullptr && hijo.propietario_ == propietario_;
-    Arbol& adoptado = libre ? hijo : propietario_->copia(hijo);
+    const bool libre = hijo.padre_ == nullptr && &hijo.arbol() == &arbol();
+    Arbol& adoptado = libre ? hijo : arbol().copia(hijo);
     adoptado.padre_ = this;
     return adoptado;
 }
 
 void Arbol::SetHijo(Arbol& hijo) {
     Arbol& adoptado = adopta(hijo);
-    Hijos& hijos = propietario_->amplia(*this);
-    *--hijos.primero = &adoptado;
-    --hijos.libresDelante;
-    ++hijos.numero;
+    arbol().hazSitio(*this);
+    *--hijos_ = &adoptado;
+    ++numHijos_;
 }
 
 void Arbol::SetHijoIzquierda(Arbol& hijo) {
     Arbol& adoptado = adopta(hijo);
-    Hijos& hijos = propietario_->amplia(*this);
-    hijos.primero[hijos.numero] = &adoptado;
-    --hijos.libresDetras;
-    ++hijos.numero;
+    arbol().hazSitio(*this);
+    hijos_[numHijos_] = &adoptado;
+    ++numHijos_;
 }
 
 } // namespace norvik

@@ -14,7 +14,7 @@ namespace norvik {
 /// texts.
 class ArbolSintactico {
 public:
-    ArbolSintactico() : raiz_(Arbol::Clave{}, *this) {}
+    ArbolSintactico() : sinRegla_{this, {}, {}}, raiz_(Arbol::Clave{}, sinRegla_) {}
     ArbolSintactico(const ArbolSintactico&) = delete;
     ArbolSintactico& operator=(const ArbolSintactico&) = delete;
     ~ArbolSintactico() = default;
@@ -27,20 +27,22 @@ public:
 
     /// A copy of a text, as long-lived as the tree.
     std::u16string_view guardaTexto(std::u16string_view texto);
-    const TextosRegla& guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo);
+    const FichaRegla& guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo,
+                                  std::int16_t numero);
     /// Makes a node a leaf; the lexeme must be as long-lived as the tree.
     static void hazHoja(Arbol& nodo, std::u16string_view lexema, std::int32_t linea, std::int32_t columna);
-    /// Makes a node without children the application of a rule, with `numHijos` initialised children.
-    std::span<Arbol* const> hazRegla(Arbol& nodo, std::int16_t numRegla, const TextosRegla& textos,
-                                     std::size_t numHijos);
+    /// Makes a node without children the application of a rule of this tree, with `numHijos` initialised
+    /// children.
+    std::span<Arbol* const> hazRegla(Arbol& nodo, const FichaRegla& regla, std::size_t numHijos);
 
 private:
     friend class Arbol;
 
     Arbol& copia(const Arbol& original);
-    Arbol::Hijos& amplia(Arbol& nodo);
+    void hazSitio(Arbol& nodo);
 
     Arena arena_;
+    const FichaRegla sinRegla_;
     Arbol raiz_;
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <span>
 #include <type_traits>
 #include <vector>
 
@@ -10,51 +12,49 @@ namespace norvik {
 /// what was handed out remains readable memory for the arena's whole life.
 class Arena {
 public:
+    static constexpr std::size_t alineacion = alignof(void*);
+
+    Arena() = default;
+    Arena(const Arena&) = delete;
+    Arena& operator=(const Arena&) = delete;
+    ~Arena() = default;
+
     /// Room for `n` objects, not yet constructed; they are never destroyed.
     template <typename T>
-    requires(std::is_trivially_destructible_v<T> &&
-             alignof(T) <= alignof(std::max_align_t)) T* reserva(std::size_t n) {
+    requires(std::is_trivially_destructible_v<T> && alignof(T) <= alineacion) T* reserva(std::size_t n) {
         // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
-        return static_cast<T*>(hueco(n * sizeof(T), alignof(T)));
+        return reinterpret_cast<T*>(reservaBytes(n * sizeof(T)));
     }
 
-    /// Room for the objects of one record, which lie side by side in it; aligned as pointers are.
+    /// Room for the objects of one record, which lie side by side in it; aligned as pointers are, as all that
+    /// is handed out.
     std::byte* reservaBytes(std::size_t bytes) {
-        return static_cast<std::byte*>(hueco(bytes, alignof(void*)));
+        const std::size_t hueco = (bytes + alineacion - 1) & ~(alineacion - 1);
+        if (libre_.size() < hueco) pasaDeBloque(hueco);
+        std::byte* const inicio = libre_.data();
+        libre_ = libre_.subspan(hueco);
+        return inicio;
     }
 
     void reinicia() {
-        actual_ = 0;
-        usado_ = 0;
+        libre_ = {};
+        usados_ = 0;
     }
 
 private:
     using Bloque = std::vector<std::byte>;
 
-    // Alignments are powers of two; a block starts at the strictest.
-    void* hueco(std::size_t bytes, std::size_t alineacion) {
-        std::size_t inicio = (usado_ + alineacion - 1) & ~(alineacion - 1);
-        if (actual_ == bloques_.size() || bloques_[actual_].size() < inicio + bytes) {
-            pasaDeBloque(bytes);
-            inicio = 0;
-        }
-        usado_ = inicio + bytes;
-        return bloques_[actual_].data() + inicio;
-    }
-
     // Goes on to a block with room, a new one if there is none.
     void pasaDeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;
-        while (actual_ < bloques_.size() && (usado_ > 0 || bloques_[actual_].size() < bytes)) {
-            ++actual_;
-            usado_ = 0;
-        }
-        if (actual_ == bloques_.size()) bloques_.emplace_back(bytes > minimo ? bytes : minimo);
+        while (usados_ < bloques_.size() && bloques_[usados_].size() < bytes) ++usados_;
+        if (usados_ == bloques_.size()) bloques_.emplace_back(std::max(bytes, minimo));
+        libre_ = bloques_[usados_++];
     }
 
     std::vector<Bloque> bloques_;
-    std::size_t actual_ = 0; ///< block in use
-    std::size_t usado_ = 0;  ///< bytes handed out of it
+    std::size_t usados_ = 0;     ///< blocks that are full or in use
+    std::span<std::byte> libre_; ///< what is left of the block in use
 };
 
 } // namespace norvik

@@ -21,10 +21,10 @@ enum class Desenlace { Aceptado, ErrorLexico, ErrorSintactico };
 // One parse. The reader keeps the last token as its own, however the parse ends.
 class Analisis {
 public:
-    Analisis(LectorTokens& lector, const FuenteTexto& fuente, const gramatica& gramatica,
-             LenguajeAnalisis lenguaje, Traza& traza, bool conLineas)
-        : lector_(lector), fuente_(fuente), gramatica_(gramatica), lenguaje_(std::move(lenguaje)),
-          traza_(traza), conLineas_(conLineas) {}
+    Analisis(LectorTokens& lector, const FuenteTexto& fuente, LenguajeAnalisis lenguaje, Traza& traza,
+             bool conLineas)
+        : lector_(lector), fuente_(fuente), lenguaje_(std::move(lenguaje)), traza_(traza),
+          conLineas_(conLineas) {}
 
     Desenlace ejecuta() {
         pila_.PUSH(0, 0, 0);
@@ -44,16 +44,29 @@ public:
 private:
     Desenlace recorre() {
         for (;;) {
-            const std::int16_t columna = columna_;
-            if (columna == LenguajeAnalisis::columnaError) return Desenlace::ErrorLexico;
-            if (columna == LenguajeAnalisis::columnaDesconocida) return Desenlace::ErrorSintactico;
-            const std::int16_t accion = gramatica_.GetElementoTablaSLR(pila_.cima(), columna);
+            if (columna_ == LenguajeAnalisis::columnaError) return Desenlace::ErrorLexico;
+            if (columna_ == LenguajeAnalisis::columnaDesconocida) return Desenlace::ErrorSintactico;
+            const std::int16_t accion = reduce();
             if (accion == gramatica::aceptar) return Desenlace::Aceptado;
             if (accion == 0) return Desenlace::ErrorSintactico;
-            if (accion > 0)
-                desplaza(accion);
-            else if (!reduce(a16(-accion)))
-                return Desenlace::ErrorSintactico;
+            desplaza(accion);
+        }
+    }
+
+    // Reduces as long as the token asks for it, and returns what the token asks for then: 0 also when the
+    // table has no way on over a rule's head.
+    std::int16_t reduce() {
+        std::int16_t estado = pila_.cima();
+        for (;;) {
+            const std::int16_t accion = lenguaje_.entrada(estado, columna_);
+            if (accion >= 0) return accion;
+            const std::int16_t numRegla = a16(-accion);
+            traza_.registraReduccion(numRegla);
+            const auto regla = lenguaje_.regla(numRegla);
+            pila_.POP(regla.numElementos);
+            estado = lenguaje_.entrada(pila_.cima(), regla.columnaCabeza);
+            if (estado == 0) return 0;
+            pila_.PUSH(estado, posicion_.linea, posicion_.columna);
         }
     }
 
@@ -65,16 +78,6 @@ private:
         lee();
     }
 
-    // False when the table has no way on over the rule's head.
-    bool reduce(std::int16_t numRegla) {
-        traza_.registraReduccion(numRegla);
-        const auto& regla = lenguaje_.regla(numRegla);
-        pila_.POP(regla.numElementos);
-        const std::int16_t estado = gramatica_.GetElementoTablaSLR(pila_.cima(), regla.columnaCabeza);
-        if (estado != 0) pila_.PUSH(estado, posicion_.linea, posicion_.columna);
-        return estado != 0;
-    }
-
     void lee() {
         token_ = lector_.lee(fuente_);
         columna_ = lenguaje_.columna(token_);
@@ -83,7 +86,6 @@ private:
 
     LectorTokens& lector_;
     const FuenteTexto& fuente_;
-    const gramatica& gramatica_;
     LenguajeAnalisis lenguaje_;
     Traza& traza_;
     bool conLineas_;
@@ -109,7 +111,7 @@ bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
     lector_.inicializa(fuente);
     arbol_.reinicia();
     traza_.vaciaTraza();
-    Analisis analisis(lector_, fuente, gramatica_, LenguajeAnalisis(lexico_, gramatica_), traza_,
+    Analisis analisis(lector_, fuente, LenguajeAnalisis(lexico_, gramatica_), traza_,
                       lineas == Lineas::DelTexto);
     Mensaje mensaje;
     switch (analisis.ejecuta()) {

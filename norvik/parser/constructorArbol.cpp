@@ -26,33 +26,37 @@ public:
         while (!pendientes_.empty()) {
             Arbol& nodo = *pendientes_.back();
             pendientes_.pop_back();
-            if (const std::int16_t regla = traza_.reglaCima(); regla != 0)
-                hazRegla(nodo, regla);
-            else
-                hazHoja(nodo);
+            hazSubarbol(nodo);
         }
     }
 
 private:
     struct ReglaUsada {
-        const TextosRegla* textos = nullptr;
+        const FichaRegla* ficha = nullptr;
         std::size_t numHijos = 0;
     };
 
-    void hazRegla(Arbol& nodo, std::int16_t numero) {
-        traza_.sacaTraza();
-        const ReglaUsada& regla = reglaUsada(numero);
-        const auto hijos = arbol_.hazRegla(nodo, numero, *regla.textos, regla.numHijos);
-        pendientes_.insert(pendientes_.end(), hijos.begin(), hijos.end());
+    // The node and what hangs from it at its right side; the other children are left pending.
+    void hazSubarbol(Arbol& raiz) {
+        Arbol* nodo = &raiz;
+        while (const std::int16_t numero = traza_.reglaCima()) {
+            traza_.sacaTraza();
+            const ReglaUsada& regla = reglaUsada(numero);
+            const auto hijos = arbol_.hazRegla(*nodo, *regla.ficha, regla.numHijos);
+            if (hijos.empty()) return;
+            pendientes_.insert(pendientes_.end(), hijos.begin(), hijos.end() - 1);
+            nodo = hijos.back();
+        }
+        hazHoja(*nodo);
     }
 
     const ReglaUsada& reglaUsada(std::int16_t numero) {
         const auto indice = static_cast<std::size_t>(numero);
         if (indice >= reglas_.size()) reglas_.resize(indice + 1);
         ReglaUsada& regla = reglas_[indice];
-        if (regla.textos == nullptr) {
-            regla.textos =
-                &arbol_.guardaRegla(gramatica_.GetLeftRegla(numero), gramatica_.GetRightRegla(numero));
+        if (regla.ficha == nullptr) {
+            regla.ficha = &arbol_.guardaRegla(gramatica_.GetLeftRegla(numero),
+                                              gramatica_.GetRightRegla(numero), numero);
             regla.numHijos = static_cast<std::size_t>(gramatica_.GetNumElementosRegla(numero));
         }
         return regla;

@@ -7,12 +7,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace norvik {
 
-/// What a parse asks of its language again and again, by number instead of by name: each answer is looked up
-/// once a parse, when it is first needed.
+/// What a parse asks of its language again and again, by number instead of by name, and in the form that
+/// costs least.
 class LenguajeAnalisis {
 public:
     /// In place of a column: the token that reports an error, and a token that the grammar does not know.
@@ -20,13 +21,20 @@ public:
     static constexpr std::int16_t columnaDesconocida = -1;
 
     struct Regla {
-        std::int16_t numElementos = sinConsultar;
+        std::int16_t numElementos = 0;
         std::int16_t columnaCabeza = columnaDesconocida;
     };
 
     LenguajeAnalisis(const pilaTokens& lexico, const gramatica& gramatica)
         : lexico_(lexico), gramatica_(gramatica), columnas_(lexico.tokensLenguaje().size(), sinConsultar),
-          columnaFin_(gramatica.GetCodigoToken(tokenFin)) {}
+          columnaFin_(gramatica.GetCodigoToken(tokenFin)) {
+        const std::int16_t numEstados = gramatica.GetDimensionFilasSLR();
+        for (std::int16_t estado = 0; estado < numEstados; ++estado)
+            filas_.push_back(gramatica.GetFilaTablaSLR(estado));
+        const std::int16_t numReglas = gramatica.getNumReglas();
+        reglas_.emplace_back();
+        for (std::int16_t regla = 1; regla <= numReglas; ++regla) reglas_.push_back(consultaRegla(regla));
+    }
 
     /// Column of a token in the table.
     std::int16_t columna(const TokenLeido& token) {
@@ -36,19 +44,25 @@ public:
         if (columna == sinConsultar) columna = consultaColumna(token.definicion);
         return columna;
     }
+    /// Entry of the table, 0-based; raises `SubindiceFueraDeIntervalo`.
+    std::int16_t entrada(std::int16_t estado, std::int16_t columna) const {
+        const std::size_t fila = static_cast<std::uint16_t>(estado);
+        const std::size_t celda = static_cast<std::uint16_t>(columna);
+        if (fila < filas_.size() && celda < filas_[fila].size()) return filas_[fila][celda];
+        return gramatica_.GetElementoTablaSLR(estado, columna);
+    }
     /// Length of a rule's body and column of its head; raises `SubindiceFueraDeIntervalo`.
-    const Regla& regla(std::int16_t numRegla) {
-        const auto indice = static_cast<std::size_t>(numRegla);
-        if (indice >= reglas_.size()) reglas_.resize(indice + 1);
-        Regla& regla = reglas_[indice];
-        if (regla.numElementos == sinConsultar)
-            regla = {gramatica_.GetNumElementosRegla(numRegla), gramatica_.GetCodigoVariable(numRegla)};
-        return regla;
+    Regla regla(std::int16_t numRegla) const {
+        const std::size_t indice = static_cast<std::uint16_t>(numRegla);
+        return indice < reglas_.size() ? reglas_[indice] : consultaRegla(numRegla);
     }
 
 private:
     static constexpr std::int16_t sinConsultar = -3;
 
+    Regla consultaRegla(std::int16_t numRegla) const {
+        return {gramatica_.GetNumElementosRegla(numRegla), gramatica_.GetCodigoVariable(numRegla)};
+    }
     std::int16_t consultaColumna(std::int32_t definicion) const {
         const auto& nombre = lexico_.tokensLenguaje()[static_cast<std::size_t>(definicion)]->nomToken;
         return nombre == tokenError ? columnaError : gramatica_.GetCodigoToken(nombre);
@@ -56,8 +70,9 @@ private:
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
-    std::vector<std::int16_t> columnas_;
-    std::vector<Regla> reglas_;
+    std::vector<std::int16_t> columnas_; ///< by definition, each looked up when it is first needed
+    std::vector<std::span<const std::int16_t>> filas_;
+    std::vector<Regla> reglas_; ///< by number
     std::int16_t columnaFin_;
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <vector>
 
 namespace norvik {
@@ -23,9 +24,11 @@ public:
     }
     /// Removes `veces` entries, or all when there are fewer.
     void POP(std::int16_t veces) {
-        const auto n = static_cast<std::size_t>(std::max<std::int16_t>(veces, 0));
-        entradas_.erase(entradas_.end() - static_cast<std::ptrdiff_t>(std::min(n, entradas_.size())),
-                        entradas_.end());
+        const auto n = std::max<std::ptrdiff_t>(veces, 0);
+        if (n < std::ssize(entradas_))
+            entradas_.erase(entradas_.end() - n, entradas_.end());
+        else
+            Vaciar();
     }
     /// State, line and column of the top, 0 when the stack is empty; line and column raise `Desbordamiento`.
     std::int16_t cima() const { return esVacia() ? std::int16_t{0} : entradas_.back().estado; }

@@ -43,8 +43,7 @@ TEST(Arbol, SetHijoPoneDelanteYSetHijoIzquierdaAlFinal) {
     EXPECT_EQ(raiz.GetHijo(6), nullptr);
 
     Arbol& nodo = hoja(arbol, u"n");
-    const TextosRegla& textos = arbol.guardaRegla(u"S", u"x y");
-    arbol.hazRegla(nodo, 3, textos, 2);
+    arbol.hazRegla(nodo, arbol.guardaRegla(u"S", u"x y", 3), 2);
     for (int i = 0; i < 20; ++i) nodo.SetHijo(hoja(arbol, u"<"));
     for (int i = 0; i < 20; ++i) nodo.SetHijoIzquierda(hoja(arbol, u">"));
     EXPECT_EQ(lexemas(nodo), std::u16string(20, u'<') + std::u16string(20, u'>'));
@@ -115,12 +114,14 @@ TEST(Arbol, ElNumeroDeReglaSeLeeDeUnTexto) {
 TEST(Arbol, NavegaEnUnaDireccionYBuscaReglas) {
     // raiz(1) -> [ a(2) -> [ h1, b(3) -> [ h2 ] ], c(3) -> [ h3 ] ]
     ArbolSintactico arbol;
-    const TextosRegla& textos = arbol.guardaRegla(u"X", u"x");
+    const auto regla = [&](std::int16_t numero) -> const FichaRegla& {
+        return arbol.guardaRegla(u"X", u"x", numero);
+    };
     Arbol& raiz = arbol.raiz();
-    const auto primeros = arbol.hazRegla(raiz, 1, textos, 2);
-    const auto deA = arbol.hazRegla(*primeros[0], 2, textos, 2);
-    const auto deB = arbol.hazRegla(*deA[1], 3, textos, 1);
-    const auto deC = arbol.hazRegla(*primeros[1], 3, textos, 1);
+    const auto primeros = arbol.hazRegla(raiz, regla(1), 2);
+    const auto deA = arbol.hazRegla(*primeros[0], regla(2), 2);
+    const auto deB = arbol.hazRegla(*deA[1], regla(3), 1);
+    const auto deC = arbol.hazRegla(*primeros[1], regla(3), 1);
     Arbol* const a = primeros[0];
     Arbol* const b = deA[1];
     Arbol* const c = primeros[1];
