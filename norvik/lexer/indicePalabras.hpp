@@ -11,53 +11,33 @@
 
 namespace norvik {
 
-class expresionRegular;
-
-/// Words that are searched together in one pass over a text.
-class GrupoPalabras {
+/// Plain words that are searched together in one pass over a text.
+class IndicePalabras {
 public:
-    void aniade(std::u16string palabra, std::int32_t definicion);
-    /// To be called once, after the last word.
-    void ordena();
-    /// Stores every occurrence into the map; occurrences of the same word do not overlap.
+    /// Adds a word, which is not empty, for a definition by its place in registration order.
+    void aniade(std::u16string_view palabra, bool ignoraMayusculas, std::int32_t definicion);
+    /// Stores into the map every occurrence of every word, as each one's own search would find it.
     void busca(std::u16string_view texto, MapaTokens& mapa);
-    bool vacio() const { return palabras_.empty(); }
 
 private:
     struct Palabra {
-        std::u16string texto;
+        std::u16string texto; ///< folded when it ignores case
+        bool ignoraMayusculas = false;
         std::int32_t definicion = 0;
         std::size_t libre = 0; ///< end of the word's last occurrence in the search under way
+
+        bool empieza(std::u16string_view resto) const;
     };
-    /// The words whose first characters have the same low byte.
+    /// The words that may begin with a character of a given low byte.
     struct Cubo {
         std::uint64_t segundos = 0; ///< low six bits of the second characters; all bits for a word of one
-        std::size_t inicio = 0;
-        std::size_t fin = 0;
+        std::vector<std::size_t> palabras;
     };
 
-    void busca(Cubo cubo, std::u16string_view texto, std::size_t posicion, MapaTokens& mapa);
+    void prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion, MapaTokens& mapa);
 
     std::vector<Palabra> palabras_;
     std::array<Cubo, 256> cubos_ = {};
-};
-
-/// The token definitions of a language divided in those that are plain words and the others, which need their
-/// matcher.
-class IndicePalabras {
-public:
-    explicit IndicePalabras(const std::vector<const expresionRegular*>& definiciones);
-
-    /// Stores into the map every occurrence of every word, as each definition's own search would find it.
-    void busca(std::u16string_view texto, MapaTokens& mapa);
-    /// The definitions that are no words, by their place in registration order.
-    const std::vector<std::int32_t>& resto() const { return resto_; }
-
-private:
-    GrupoPalabras exactas_;
-    GrupoPalabras plegadas_;
-    std::vector<std::int32_t> resto_;
-    std::u16string textoPlegado_;
 };
 
 } // namespace norvik

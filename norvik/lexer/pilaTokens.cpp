@@ -1,6 +1,5 @@
 // Recognition: every definition finds its own matches over the whole range, and at each position the longest
-// one stays, of equal ones that of the definition registered first. The order in which definitions are
-// searched does not matter, so plain words go together in one pass and the others through their matchers.
+// one stays, of equal ones that of the definition registered first.
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include "norvik/base/errores.hpp"
@@ -27,7 +26,7 @@ std::u16string entreApostrofos(std::u16string_view texto) {
 
 void pilaTokens::Inicializa() {
     mapaTokens_.vacia();
-    palabras_.reset();
+    buscador_.reset();
     porNombre_.clear();
     tokensLenguaje_.clear();
     expresionesRegulares_.clear();
@@ -63,20 +62,12 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
 }
 
 void pilaTokens::reconoce(std::u16string_view rango) {
-    if (!palabras_) palabras_.emplace(tokensLenguaje_);
-    palabras_->busca(rango, mapaTokens_);
-    const Presupuesto presupuesto;
-    for (const std::int32_t indice : palabras_->resto()) {
-        const expresionRegular& definicion = *tokensLenguaje_[static_cast<std::size_t>(indice)];
-        try {
-            for (const auto [inicio, longitud] : definicion.expReg->ejecuta(rango, presupuesto))
-                mapaTokens_.guarda(inicio, {indice, longitud});
-        } catch (const BusquedaDesbocada&) {
-            mapaTokens_.vacia();
-            throw Desbordamiento(u"La búsqueda de la expresión regular " + entreApostrofos(definicion.nomER) +
-                                 u" se ha desbocado: su patrón necesita demasiado tiempo o memoria con este "
-                                 u"texto.");
-        }
+    if (!buscador_) buscador_.emplace(tokensLenguaje_);
+    try {
+        buscador_->busca(rango, mapaTokens_);
+    } catch (...) {
+        mapaTokens_.vacia();
+        throw;
     }
 }
 

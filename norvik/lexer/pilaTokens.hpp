@@ -1,7 +1,7 @@
 #pragma once
 
+#include "norvik/lexer/buscadorTokens.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
-#include "norvik/lexer/indicePalabras.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/lexer/parLT.hpp"
 
@@ -83,7 +83,7 @@ private:
     std::vector<std::unique_ptr<expresionRegular>> expresionesRegulares_;
     std::vector<const expresionRegular*> tokensLenguaje_;
     std::unordered_map<std::u16string_view, std::vector<const expresionRegular*>> porNombre_;
-    std::optional<IndicePalabras> palabras_; ///< made at the first recognition of a language
+    std::optional<BuscadorTokens> buscador_; ///< made at the first recognition of a language
     MapaTokens mapaTokens_{tokensLenguaje_};
 };
 

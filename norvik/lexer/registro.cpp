@@ -84,7 +84,7 @@ void pilaTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esTo
     porNombre_[nueva->nomER].push_back(nueva);
     if (!esToken) return;
     tokensLenguaje_.push_back(nueva);
-    palabras_.reset();
+    buscador_.reset();
 }
 
 std::int32_t pilaTokens::colorDeTipo(std::int16_t tipo) const {

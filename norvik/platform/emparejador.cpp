@@ -43,6 +43,13 @@ std::vector<Coincidencia> buscaPalabra(std::u16string_view palabra, std::u16stri
     }
 }
 
+// The first position from `i` on where a match can begin; beyond the end when there is none.
+std::size_t inicioPosible(const ClaseUnidades* primeras, std::u16string_view sujeto, std::size_t i) {
+    if (primeras == nullptr) return i;
+    while (i < sujeto.size() && !primeras->contiene(sujeto[i])) ++i;
+    return i < sujeto.size() ? i : sujeto.size() + 1;
+}
+
 // A pattern with all that a search needs.
 class Buscador {
 public:
@@ -51,46 +58,25 @@ public:
         if (!automata_) pcre_ = MotorPcre::de(patron);
     }
 
-    std::vector<Coincidencia> busca(std::u16string_view sujeto, const Presupuesto& presupuesto) {
-        std::vector<Coincidencia> coincidencias;
-        recuerdo_.clear();
-        std::uint32_t intentos = 0;
-        for (std::size_t i = inicioPosible(sujeto, 0); i <= sujeto.size(); i = inicioPosible(sujeto, i + 1)) {
-            if (intentos++ % intentosPorConsulta() == 0 && presupuesto.agotado()) throw BusquedaDesbocada();
-            const auto fin = intenta(sujeto, i, presupuesto);
-            if (!fin) continue;
-            coincidencias.push_back(coincidencia(i, *fin));
-            if (*fin > i) i = *fin - 1;
-        }
-        return coincidencias;
-    }
+    // Forgets the last subject.
+    void empieza() { recuerdo_.clear(); }
 
-private:
-    // The clock costs as much as a token; only the automaton's attempts are sure to be short.
-    std::uint32_t intentosPorConsulta() const { return automata_ ? 64 : 1; }
-
-    // The first position from `i` on where a match can begin; beyond the end when there is none.
-    std::size_t inicioPosible(std::u16string_view sujeto, std::size_t i) const {
-        if (!primeras_) return i;
-        const ClaseUnidades& primeras = *primeras_;
-        while (i < sujeto.size() && !primeras.contiene(sujeto[i])) ++i;
-        return i < sujeto.size() ? i : sujeto.size() + 1;
-    }
-
-    std::optional<std::size_t> intenta(std::u16string_view sujeto, std::size_t i,
-                                       const Presupuesto& presupuesto) {
+    Intento intenta(std::u16string_view sujeto, std::size_t i, const Presupuesto& presupuesto) {
         Intento intento{Intento::Tipo::Indeciso, 0};
         if (automata_) {
             intento = automata_->coincide(sujeto, i, recuerdo_);
         } else if (pcre_) {
             intento = pcre_->coincide(sujeto, i);
         }
-        if (intento.tipo == Intento::Tipo::Indeciso)
-            return coincideMaquina(programa_, sujeto, i, memoria_, presupuesto);
-        if (intento.tipo == Intento::Tipo::Nada) return std::nullopt;
-        return intento.fin;
+        if (intento.tipo != Intento::Tipo::Indeciso) return intento;
+        const auto fin = coincideMaquina(programa_, sujeto, i, memoria_, presupuesto);
+        return fin ? Intento{Intento::Tipo::Coincide, *fin} : Intento{};
     }
 
+    bool esInmediato() const { return automata_.has_value(); }
+    const ClaseUnidades* primeras() const { return primeras_ ? &*primeras_ : nullptr; }
+
+private:
     std::optional<ClaseUnidades> primeras_; // units that a match can begin with, if that is known
     Programa programa_;
     std::optional<Automata> automata_;
@@ -106,6 +92,16 @@ struct Emparejador::Compilado {
     std::optional<std::u16string> palabra;
     std::mutex enUso; // searches share what they build
     std::optional<Buscador> buscador;
+
+    // To be called by the one who uses it.
+    Buscador& listo() {
+        if (!buscador) {
+            buscador.emplace(PatronListo(patron));
+            patron.piezas = {};
+            patron.clases = {};
+        }
+        return *buscador;
+    }
 };
 
 Emparejador::Emparejador(std::unique_ptr<Compilado> compilado) : compilado_(std::move(compilado)) {}
@@ -132,20 +128,52 @@ bool Emparejador::ignoraMayusculas() const {
     return compilado_->patron.ignoraMayusculas;
 }
 
+Emparejador::Busqueda Emparejador::empieza(std::u16string_view sujeto, const Presupuesto& presupuesto) const {
+    return {*compilado_, sujeto, presupuesto};
+}
+
+bool Emparejador::esInmediato() const {
+    const std::lock_guard cerrojo(compilado_->enUso);
+    return compilado_->listo().esInmediato();
+}
+
+const ClaseUnidades* Emparejador::primeras() const {
+    const std::lock_guard cerrojo(compilado_->enUso);
+    return compilado_->listo().primeras();
+}
+
 std::vector<Coincidencia> Emparejador::ejecuta(std::u16string_view sujeto,
                                                const Presupuesto& presupuesto) const {
-    Compilado& c = *compilado_;
-    if (c.palabra && !ignoraMayusculas()) return buscaPalabra(*c.palabra, sujeto, std::equal_to<>());
-    if (c.palabra)
-        return buscaPalabra(*c.palabra, sujeto,
+    if (palabra() && !ignoraMayusculas()) return buscaPalabra(*palabra(), sujeto, std::equal_to<>());
+    if (palabra())
+        return buscaPalabra(*palabra(), sujeto,
                             [](char16_t a, char16_t b) { return pliega(a) == pliega(b); });
-    const std::lock_guard cerrojo(c.enUso);
-    if (!c.buscador) {
-        c.buscador.emplace(PatronListo(c.patron));
-        c.patron.piezas = {};
-        c.patron.clases = {};
+    Busqueda busqueda = empieza(sujeto, presupuesto);
+    const ClaseUnidades* const primeras = compilado_->buscador->primeras();
+    std::vector<Coincidencia> coincidencias;
+    for (;;) {
+        const std::size_t i = inicioPosible(primeras, sujeto, busqueda.libre());
+        if (i > sujeto.size()) return coincidencias;
+        if (const auto longitud = busqueda.intenta(i))
+            coincidencias.push_back(coincidencia(i, i + static_cast<std::size_t>(*longitud)));
     }
-    return c.buscador->busca(sujeto, presupuesto);
+}
+
+Emparejador::Busqueda::Busqueda(Compilado& compilado, std::u16string_view sujeto,
+                                const Presupuesto& presupuesto)
+    : compilado_(&compilado), cerrojo_(compilado.enUso), sujeto_(sujeto), presupuesto_(&presupuesto) {
+    compilado.listo().empieza();
+}
+
+std::optional<std::int32_t> Emparejador::Busqueda::intenta(std::size_t posicion) {
+    Buscador& buscador = *compilado_->buscador;
+    // The clock costs as much as a token; only immediate attempts are sure to be short.
+    const std::uint32_t intentosPorConsulta = buscador.esInmediato() ? 64 : 1;
+    if (intentos_++ % intentosPorConsulta == 0 && presupuesto_->agotado()) throw BusquedaDesbocada();
+    const Intento intento = buscador.intenta(sujeto_, posicion, *presupuesto_);
+    libre_ = std::max(posicion + 1, intento.fin);
+    if (intento.tipo != Intento::Tipo::Coincide) return std::nullopt;
+    return static_cast<std::int32_t>(intento.fin - posicion);
 }
 
 } // namespace norvik

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -32,6 +34,8 @@ private:
 /// Raised by a search that exceeds the matcher's limits or its time; the caller knows the pattern's name.
 class BusquedaDesbocada {};
 
+class ClaseUnidades;
+
 /// A compiled pattern of the editor's dialect. Searches are always global.
 class Emparejador {
 public:
@@ -47,7 +51,14 @@ public:
     /// Every non-overlapping match, left to right; after an empty match the search goes on one character
     /// further. The subject alone is seen. Raises `BusquedaDesbocada`.
     std::vector<Coincidencia> ejecuta(std::u16string_view sujeto, const Presupuesto& presupuesto) const;
+    /// The same attempt by attempt. The pattern must be no plain word.
+    class Busqueda;
+    Busqueda empieza(std::u16string_view sujeto, const Presupuesto& presupuesto) const;
 
+    /// An attempt's time is in proportion to the characters that it looks at.
+    bool esInmediato() const;
+    /// The units that a match can begin with; null when a match can be empty or its start is not known.
+    const ClaseUnidades* primeras() const;
     /// The word that the pattern is, when it is a plain word: then its matches are its occurrences.
     const std::optional<std::u16string>& palabra() const;
     bool ignoraMayusculas() const;
@@ -56,6 +67,28 @@ private:
     struct Compilado;
     explicit Emparejador(std::unique_ptr<Compilado> compilado);
     std::unique_ptr<Compilado> compilado_;
+};
+
+/// A search under way, whose owner says where to try. Positions are 0-based, tried in ascending order. Other
+/// searches with the same pattern wait for its end.
+class Emparejador::Busqueda {
+public:
+    /// Before this position no match begins, but for those that were found.
+    std::size_t libre() const { return libre_; }
+    /// Length of the match that begins at a position from `libre()` on, if one does. Raises
+    /// `BusquedaDesbocada`.
+    std::optional<std::int32_t> intenta(std::size_t posicion);
+
+private:
+    friend class Emparejador;
+    Busqueda(Compilado& compilado, std::u16string_view sujeto, const Presupuesto& presupuesto);
+
+    Compilado* compilado_;
+    std::unique_lock<std::mutex> cerrojo_;
+    std::u16string_view sujeto_;
+    const Presupuesto* presupuesto_;
+    std::size_t libre_ = 0;
+    std::uint32_t intentos_ = 0;
 };
 
 } // namespace norvik

@@ -8,10 +8,13 @@
 // a pattern costs what it uses, a character one look-up, and no pattern runs away.
 // Walks that lead to nothing could still add up to the square of the text (a comment opened again and again
 // and never closed), so long ones leave their states behind: a later one that comes to the same state at the
-// same place stops. Units that no class of the pattern tells apart share a column.
+// same place stops. The short ones of definitions that are nearly alike (a name that is no type name, because
+// it ends otherwise) go over a word once and not once from each of its letters. Units that no class of the
+// pattern tells apart share a column.
 #include "norvik/platform/patronAutomata.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <string>
 
 namespace norvik {
@@ -44,16 +47,33 @@ std::optional<Automata> Automata::de(const Programa& programa) {
 }
 
 Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo) {
-    Intento intento;
+    Intento intento{Intento::Tipo::Nada, inicio + 1};
     Numero estado = inicial_;
+    std::size_t racha = inicio; // where the walk came to `estado`
     const std::size_t largo = std::min(sujeto.size(), inicio + caminoCorto);
     for (std::size_t i = inicio;; ++i) {
         if (acepta_[estado] != 0) intento = {Intento::Tipo::Coincide, i};
         if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo);
-        estado = siguiente(estado, sujeto[i]);
-        if (estado == muerto) return intento;
-        if (estado == desconocido) return {Intento::Tipo::Indeciso, 0};
+        const Numero destino = siguiente(estado, sujeto[i]);
+        if (destino == desconocido) return {Intento::Tipo::Indeciso, 0};
+        if (destino == muerto) {
+            if (intento.tipo == Intento::Tipo::Nada)
+                intento.fin = saltaEnVano(sujeto, inicio + 1, racha, i, estado);
+            return intento;
+        }
+        if (destino != estado) racha = i + 1;
+        estado = destino;
     }
+}
+
+// A walk without a match has ended at `hasta`, where it had been in `estado` since `desde`. Walks that come
+// to this state in between end like it: the first position from `inicio` on whose walk does not do so at
+// once.
+std::size_t Automata::saltaEnVano(std::u16string_view sujeto, std::size_t inicio, std::size_t desde,
+                                  std::size_t hasta, Numero estado) {
+    std::size_t i = inicio;
+    while (i + 1 >= desde && i < hasta && siguiente(inicial_, sujeto[i]) == estado) ++i;
+    return i;
 }
 
 // The same from `i` on, where it has been seen already whether `estado` accepts. What is written into the
@@ -115,6 +135,7 @@ bool Automata::reparteUnidades() {
         grupos_.push_back(sitio->second);
     }
     for (char16_t unidad = 0; unidad < bajas_.size(); ++unidad) bajas_[unidad] = grupoDeAlta(unidad);
+    anchura_ = static_cast<std::size_t>(std::bit_width(muestras_.size() - 1));
     return muestras_.size() <= gruposMaximos;
 }
 
@@ -200,7 +221,7 @@ Automata::Numero Automata::calcula(Numero estado, std::size_t grupo) {
         if (acepta) break;
     }
     const Numero siguiente = numeroDe(std::move(hilos), acepta);
-    if (siguiente != desconocido) transiciones_[estado * muestras_.size() + grupo] = siguiente;
+    if (siguiente != desconocido) transiciones_[celda(estado, grupo)] = siguiente;
     return siguiente;
 }
 
@@ -213,7 +234,7 @@ Automata::Numero Automata::numeroDe(Hilos hilos, bool acepta) {
     estados_.push_back({std::move(hilos), false});
     acepta_.push_back(acepta ? 1 : 0);
     estados_.back().aceptaAlFinal = aceptaAlFinal(estados_.back().hilos);
-    transiciones_.resize(estados_.size() * muestras_.size(), desconocido);
+    transiciones_.resize(estados_.size() << anchura_, desconocido);
     return numero;
 }
 

@@ -15,7 +15,7 @@ namespace norvik {
 struct Intento {
     enum class Tipo : std::uint8_t { Coincide, Nada, Indeciso };
     Tipo tipo = Tipo::Nada;
-    std::size_t fin = 0;
+    std::size_t fin = 0; ///< end of the match; without one, attempts before here are known to be in vain
 };
 
 /// A deterministic automaton of a pattern, built while it runs: one step a character.
@@ -54,9 +54,14 @@ private:
     bool aceptaAlFinal(const Hilos& hilos);
     Numero siguiente(Numero estado, char16_t unidad) {
         const std::size_t columna = grupoDe(unidad);
-        const Numero conocido = transiciones_[estado * muestras_.size() + columna];
+        const Numero conocido = transiciones_[celda(estado, columna)];
         return conocido != desconocido ? conocido : calcula(estado, columna);
     }
+    std::size_t celda(Numero estado, std::size_t grupo) const {
+        return (std::size_t{estado} << anchura_) + grupo;
+    }
+    std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t inicio, std::size_t desde,
+                            std::size_t hasta, Numero estado);
     Intento caminaLargo(std::u16string_view sujeto, std::size_t i, Numero estado, Intento intento,
                         Recuerdo& recuerdo);
     Numero calcula(Numero estado, std::size_t grupo);
@@ -69,8 +74,9 @@ private:
     std::vector<char16_t> muestras_; // a unit of each group
     std::vector<Estado> estados_;
     std::vector<std::uint8_t> acepta_; // of each state: the match is complete
-    std::vector<Numero> transiciones_; // estado × grupo
-    std::map<Hilos, Numero> numeros_;  // states by their threads; a complete match is the last of them
+    std::vector<Numero> transiciones_; // estado × grupo, rows of 2^anchura_
+    std::size_t anchura_ = 0;
+    std::map<Hilos, Numero> numeros_; // states by their threads; a complete match is the last of them
     std::vector<std::uint32_t> visitadas_;
     std::uint32_t visita_ = 0;
     std::vector<std::uint32_t> pendientes_;
