@@ -1,15 +1,19 @@
 // The SLR driver: a stack of states, one action of the table a step. A shift reads the next token, a
-// reduction pops its rule's body and goes on from the state below over the rule's head. No tree is built
-// meanwhile: the parse leaves a trace, and only an accepted text gets a tree.
+// reduction pops its rule's body and goes on from the state below over the rule's head. Runs of rules of one
+// symbol are remembered and made at once when they come again. No tree is built meanwhile: the parse leaves a
+// trace, and only an accepted text gets a tree.
 #include "norvik/parser/conductor.hpp"
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/parser/cadenasReglas.hpp"
 #include "norvik/parser/constructorArbol.hpp"
 #include "norvik/parser/lectorTokens.hpp"
 #include "norvik/parser/lenguajeAnalisis.hpp"
 #include "norvik/parser/pilaSLR.hpp"
 
+#include <array>
+#include <span>
 #include <utility>
 
 namespace norvik {
@@ -61,13 +65,40 @@ private:
             const std::int16_t accion = lenguaje_.entrada(estado, columna_);
             if (accion >= 0) return accion;
             const std::int16_t numRegla = a16(-accion);
-            traza_.registraReduccion(numRegla);
             const auto regla = lenguaje_.regla(numRegla);
             pila_.POP(regla.numElementos);
-            estado = lenguaje_.entrada(pila_.cima(), regla.columnaCabeza);
+            if (regla.numElementos == 1) {
+                estado = encadena({pila_.cima(), estado, columna_});
+            } else {
+                traza_.registraReduccion(numRegla);
+                estado = lenguaje_.entrada(pila_.cima(), regla.columnaCabeza);
+            }
             if (estado == 0) return 0;
             pila_.PUSH(estado, posicion_.linea, posicion_.columna);
         }
+    }
+
+    // Reduces by rules of one symbol and returns the state at the top then, 0 when there is no way on.
+    std::int16_t encadena(const CadenasReglas::Lugar& lugar) {
+        if (const auto* const conocida = cadenas_.en(lugar)) {
+            traza_.registraReducciones(cadenas_.reglas(*conocida));
+            return conocida->estado;
+        }
+        std::array<std::int16_t, 32> reglas{};
+        std::size_t longitud = 0;
+        std::int16_t estado = lugar.cima;
+        for (; longitud < reglas.size(); ++longitud) {
+            const std::int16_t accion = lenguaje_.entrada(estado, lugar.columna);
+            if (accion >= 0) break;
+            reglas[longitud] = a16(-accion);
+            const auto regla = lenguaje_.regla(reglas[longitud]);
+            if (regla.numElementos != 1) break;
+            traza_.registraReduccion(reglas[longitud]);
+            estado = lenguaje_.entrada(lugar.debajo, regla.columnaCabeza);
+            if (estado == 0) return 0;
+        }
+        cadenas_.guarda(lugar, estado, std::span(reglas).first(longitud));
+        return estado;
     }
 
     void desplaza(std::int16_t estado) {
@@ -90,6 +121,7 @@ private:
     Traza& traza_;
     bool conLineas_;
     pilaSLR pila_;
+    CadenasReglas cadenas_;
     TokenLeido token_;
     std::int16_t columna_ = 0;
     Posicion posicion_;

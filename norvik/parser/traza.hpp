@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,10 +30,14 @@ public:
     };
 
     void vaciaTraza();
-    /// Both raise `Desbordamiento` when the trace is full.
+    /// They raise `Desbordamiento` when the trace is full.
     void registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
                                 Procedencia procedencia = Procedencia::Texto);
     void registraReduccion(std::int16_t numRegla) { apunta(numRegla); }
+    void registraReducciones(std::span<const std::int16_t> reglas) {
+        if (reglas.size() > maximo - pasos_.size()) fallaLlena();
+        pasos_.insert(pasos_.end(), reglas.begin(), reglas.end());
+    }
     std::size_t numElementosTraza() const { return pasos_.size(); }
 
     /// The last entry, as text: "desplazamiento" or "reduccion", the lexeme or the rule number, line and

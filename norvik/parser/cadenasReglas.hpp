@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace norvik {
+
+/// Runs of reductions by rules of one symbol that a parse has made. Such a run leaves what stands below the
+/// top of the stack as it is, so that the two states at the top and the token's column say all about it.
+/// Operators in a dozen levels make these runs nearly the whole of a parse, and the same ones again and
+/// again.
+class CadenasReglas {
+public:
+    struct Lugar {
+        std::int16_t debajo = 0; ///< state below the top
+        std::int16_t cima = 0;
+        std::int16_t columna = 0;
+
+        bool operator==(const Lugar&) const = default;
+    };
+    struct Cadena {
+        Lugar lugar;
+        std::int16_t estado = 0; ///< top in the end; 0: no run
+        std::uint32_t inicio = 0;
+        std::uint32_t longitud = 0;
+    };
+
+    /// The run at a place, null when none is known.
+    const Cadena* en(const Lugar& lugar) const {
+        const Cadena& cadena = cadenas_[ranura(lugar)];
+        return cadena.estado != 0 && cadena.lugar == lugar ? &cadena : nullptr;
+    }
+    /// Its rules, in order; the view holds until the next run is stored.
+    std::span<const std::int16_t> reglas(const Cadena& cadena) const {
+        return std::span(reglas_).subspan(cadena.inicio, cadena.longitud);
+    }
+    /// Stores a run, perhaps in place of another one.
+    void guarda(const Lugar& lugar, std::int16_t estado, std::span<const std::int16_t> reglas) {
+        cadenas_[ranura(lugar)] = {lugar, estado, static_cast<std::uint32_t>(reglas_.size()),
+                                   static_cast<std::uint32_t>(reglas.size())};
+        reglas_.insert(reglas_.end(), reglas.begin(), reglas.end());
+    }
+
+private:
+    static constexpr std::size_t numRanuras = 2048;
+
+    static std::size_t ranura(const Lugar& lugar) {
+        const auto mezcla = static_cast<std::uint32_t>(lugar.debajo) * 0x9E3779B1U +
+                            static_cast<std::uint32_t>(lugar.cima) * 0x85EBCA77U +
+                            static_cast<std::uint32_t>(lugar.columna) * 0xC2B2AE3DU;
+        return (mezcla >> 16) % numRanuras;
+    }
+
+    std::vector<Cadena> cadenas_ = std::vector<Cadena>(numRanuras);
+    std::vector<std::int16_t> reglas_;
+};
+
+} // namespace norvik
