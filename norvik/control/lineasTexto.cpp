@@ -24,7 +24,8 @@ std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
 std::u16string espacios(std::int16_t veces, std::int16_t ancho) {
     const std::int16_t cuantos = a16(std::int32_t{veces} * ancho);
     if (cuantos < 0) throw ArgumentoNoValido();
-    return std::u16string(static_cast<std::size_t>(cuantos), u' ');
+    std::u16string texto(static_cast<std::size_t>(cuantos), u' ');
+    return texto;
 }
 
 } // namespace norvik

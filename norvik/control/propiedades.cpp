@@ -74,16 +74,15 @@ void Propiedades::copiaAtributo(const Fuente& fuente, Tipo Fuente::*atributo, st
 }
 
 void Propiedades::ponFont(const Fuente& fuente) {
-    const Fuente f = fuente; // it may be the box's own
     const TextoOculto oculto(colocacion_);
-    copiaAtributo(f, &Fuente::negrita, u"FontBold");
-    copiaAtributo(f, &Fuente::juegoCaracteres, u"FontCharset");
-    copiaAtributo(f, &Fuente::cursiva, u"FontItalic");
-    copiaAtributo(f, &Fuente::nombre, u"FontName");
-    copiaAtributo(f, &Fuente::tamano, u"FontSize");
-    copiaAtributo(f, &Fuente::tachado, u"FontStrikethrough");
-    copiaAtributo(f, &Fuente::subrayado, u"FontUnderline");
-    copiaAtributo(f, &Fuente::peso, u"FontWeight");
+    copiaAtributo(fuente, &Fuente::negrita, u"FontBold");
+    copiaAtributo(fuente, &Fuente::juegoCaracteres, u"FontCharset");
+    copiaAtributo(fuente, &Fuente::cursiva, u"FontItalic");
+    copiaAtributo(fuente, &Fuente::nombre, u"FontName");
+    copiaAtributo(fuente, &Fuente::tamano, u"FontSize");
+    copiaAtributo(fuente, &Fuente::tachado, u"FontStrikethrough");
+    copiaAtributo(fuente, &Fuente::subrayado, u"FontUnderline");
+    copiaAtributo(fuente, &Fuente::peso, u"FontWeight");
 }
 
 // --- Design time ---
