@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -26,14 +27,26 @@ inline std::string_view bytesDe(const std::uint8_t* datos, std::size_t n) {
     return {reinterpret_cast<const char*>(datos), n};
 }
 
-/// Parses and colours a text with whatever language the control has: a raised failure is an answer too.
-inline void usa(Norvik& control, std::u16string_view texto) {
+/// What must hold whatever the input is.
+inline void exige(bool condicion) {
+    if (!condicion) std::abort();
+}
+
+/// Parses and colours a text with whatever language the control has. The answer: the tree, the message of its
+/// error, or that of a raised failure, which is an answer too.
+inline std::u16string usa(Norvik& control, std::u16string_view texto) {
     try {
         control.Text(texto);
-        control.ConstruyeArbolSintactico();
+        const bool aceptado = control.ConstruyeArbolSintactico();
+        exige(aceptado == control.GetmensajeError().empty());
+        const std::u16string respuesta =
+            aceptado ? control.GetArbolSintactico().toString() : control.GetmensajeError();
         control.Colorear(true);
         control.ColoreaTodo();
-    } catch (const ErrorNorvik&) { // NOLINT(bugprone-empty-catch)
+        exige(control.Text() == texto);
+        return respuesta;
+    } catch (const ErrorNorvik& error) {
+        return error.texto();
     }
 }
 

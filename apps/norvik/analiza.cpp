@@ -8,16 +8,15 @@ namespace norvik::orden {
 
 namespace {
 
-std::string escribeArbol(const Arbol& raiz, FormatoArbol formato) {
+void escribeArbol(const Arbol& raiz, FormatoArbol formato, Salida& salida) {
     switch (formato) {
     case FormatoArbol::Dibujo:
-        return dibuja(raiz);
+        return dibuja(raiz, salida);
     case FormatoArbol::Json:
-        return jsonDeArbol(raiz);
+        return escribeJson(raiz, salida);
     case FormatoArbol::Lineas:
-        return lineasDeArbol(raiz);
+        return escribeLineas(raiz, salida);
     }
-    return {};
 }
 
 } // namespace
@@ -28,7 +27,7 @@ int ejecuta(const Analiza& orden, Salida& salida) {
     if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
     anfitrion.control.Text(texto);
     if (anfitrion.control.ConstruyeArbolSintactico())
-        salida.escribe(escribeArbol(anfitrion.control.GetArbolSintactico(), orden.formato));
+        escribeArbol(anfitrion.control.GetArbolSintactico(), orden.formato, salida);
     else
         anfitrion.cuentaError(anfitrion.control.GetmensajeError(), texto);
     return anfitrion.estado();

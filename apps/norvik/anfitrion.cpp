@@ -22,8 +22,15 @@ std::string leeBytesDe(const fs::path& fichero) {
 
 } // namespace
 
+// What is too long for certain is not worth decoding: a character takes three bytes at most, and neither a
+// mark nor the last line end counts.
 std::u16string leeTextoDe(const fs::path& fichero) {
-    return normalizaLineas(decodifica(leeBytesDe(fichero)));
+    constexpr std::size_t maximoDeBytes = 3 * maximoTexto + 5;
+    const std::string bytes = leeBytesDe(fichero);
+    if (bytes.size() > maximoDeBytes) throw TextoDemasiadoLargo();
+    std::u16string texto = normalizaLineas(decodifica(bytes));
+    if (texto.size() > maximoTexto) throw TextoDemasiadoLargo();
+    return texto;
 }
 
 Anfitrion::Anfitrion(Salida& salida)

@@ -42,7 +42,8 @@ private:
     void avisa(std::u16string_view mensaje);
 };
 
-/// A file's text, or standard input's, as the control loads it.
+/// A file's text, or standard input's, as the control loads it; raises `ErrorDeFichero`, and
+/// `TextoDemasiadoLargo` for one that no order can work with.
 std::u16string leeTextoDe(const std::filesystem::path& fichero);
 
 } // namespace norvik::orden

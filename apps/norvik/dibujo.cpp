@@ -1,7 +1,6 @@
 #include "dibujo.hpp"
 
 #include "recorrido.hpp"
-#include "salida.hpp"
 
 #include "norvik/base/texto.hpp"
 
@@ -43,17 +42,15 @@ private:
 
 } // namespace
 
-std::string dibuja(const Arbol& raiz) {
-    std::string dibujo;
+void dibuja(const Arbol& raiz, Salida& salida) {
     Sangria sangria;
     recorre(
         raiz,
         [&](const Paso& paso) {
-            dibujo += aUtf8(sangria.de(paso) + rotulo(paso.nodo));
-            dibujo += '\n';
+            salida.escribe(aUtf8(sangria.de(paso) + rotulo(paso.nodo)));
+            salida.escribe("\n");
         },
         [](const Arbol& /*nodo*/) {});
-    return dibujo;
 }
 
 } // namespace norvik::orden

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "norvik/parser/arbol.hpp"
+#include "salida.hpp"
 
-#include <string>
+#include "norvik/parser/arbol.hpp"
 
 namespace norvik::orden {
 
-/// A tree drawn for a person, one node a line. Of a deep node's indentation only the innermost levels are
+/// Draws a tree for a person, one node a line. Of a deep node's indentation only the innermost levels are
 /// drawn, after the number of those left out: else a list of thousands, which is a tree as deep, would take
 /// the square of its length.
-std::string dibuja(const Arbol& raiz);
+void dibuja(const Arbol& raiz, Salida& salida);
 
 } // namespace norvik::orden

@@ -15,6 +15,7 @@ int ejecuta(const Informe& orden, Salida& salida) {
     const std::u16string problemas = gramatica.textoProblemas();
     if (orden.carpeta == flujo) {
         salida.escribe(aUtf8(gramatica.textoInforme()));
+        salida.vuelca(); // if that fails, the failure is all there is to tell
         salida.avisa(problemas);
     } else {
         gramatica.GuardaInforme(orden.carpeta);

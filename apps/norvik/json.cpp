@@ -4,16 +4,26 @@
 
 #include "norvik/base/texto.hpp"
 
-#include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
 namespace norvik::orden {
 
 namespace {
 
+/// Standard output as RapidJSON writes to it.
+struct Flujo {
+    using Ch = char;
+    void Put(Ch c) { salida.escribe({&c, 1}); }
+    void Flush() {}
+
+    Salida& salida;
+};
+
 /// Writes JSON in UTF-8: a lone surrogate comes out as U+FFFD.
 class Escritor {
 public:
+    explicit Escritor(Salida& salida) : flujo_{salida} {}
+
     void abreObjeto() { escritor_.StartObject(); }
     void cierraObjeto() { escritor_.EndObject(); }
     void abreLista(const char* clave) {
@@ -31,14 +41,13 @@ public:
         escritor_.Int(numero);
     }
     void acabaLinea() {
-        bufer_.Put('\n');
-        escritor_.Reset(bufer_);
+        flujo_.Put('\n');
+        escritor_.Reset(flujo_);
     }
-    std::string texto() const { return {bufer_.GetString(), bufer_.GetSize()}; }
 
 private:
-    rapidjson::StringBuffer bufer_;
-    rapidjson::Writer<rapidjson::StringBuffer> escritor_{bufer_};
+    Flujo flujo_;
+    rapidjson::Writer<Flujo> escritor_{flujo_};
 };
 
 void camposDeNodo(Escritor& escritor, const Arbol& nodo) {
@@ -55,8 +64,8 @@ void camposDeNodo(Escritor& escritor, const Arbol& nodo) {
 
 } // namespace
 
-std::string jsonDeArbol(const Arbol& raiz) {
-    Escritor escritor;
+void escribeJson(const Arbol& raiz, Salida& salida) {
+    Escritor escritor(salida);
     const auto entra = [&](const Paso& paso) {
         escritor.abreObjeto();
         camposDeNodo(escritor, paso.nodo);
@@ -68,11 +77,10 @@ std::string jsonDeArbol(const Arbol& raiz) {
     };
     recorre(raiz, entra, sale);
     escritor.acabaLinea();
-    return escritor.texto();
 }
 
-std::string lineasDeArbol(const Arbol& raiz) {
-    Escritor escritor;
+void escribeLineas(const Arbol& raiz, Salida& salida) {
+    Escritor escritor(salida);
     const auto entra = [&](const Paso& paso) {
         escritor.abreObjeto();
         escritor.campo("nodo", paso.numero);
@@ -82,11 +90,10 @@ std::string lineasDeArbol(const Arbol& raiz) {
         escritor.acabaLinea();
     };
     recorre(raiz, entra, [](const Arbol& /*nodo*/) {});
-    return escritor.texto();
 }
 
-std::string jsonDeToken(const parLT& token, std::int32_t linea, std::int32_t columna) {
-    Escritor escritor;
+void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, Salida& salida) {
+    Escritor escritor(salida);
     escritor.abreObjeto();
     escritor.campo("token", token.GetToken());
     escritor.campo("lexema", token.GetLexema());
@@ -94,7 +101,6 @@ std::string jsonDeToken(const parLT& token, std::int32_t linea, std::int32_t col
     escritor.campo("columna", columna);
     escritor.cierraObjeto();
     escritor.acabaLinea();
-    return escritor.texto();
 }
 
 } // namespace norvik::orden

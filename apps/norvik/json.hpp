@@ -1,18 +1,19 @@
 #pragma once
 
+#include "salida.hpp"
+
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/parser/arbol.hpp"
 
 #include <cstdint>
-#include <string>
 
 namespace norvik::orden {
 
 /// The whole tree in one line.
-std::string jsonDeArbol(const Arbol& raiz);
+void escribeJson(const Arbol& raiz, Salida& salida);
 /// One line a node, in pre-order.
-std::string lineasDeArbol(const Arbol& raiz);
+void escribeLineas(const Arbol& raiz, Salida& salida);
 /// One line for a token read.
-std::string jsonDeToken(const parLT& token, std::int32_t linea, std::int32_t columna);
+void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, Salida& salida);
 
 } // namespace norvik::orden

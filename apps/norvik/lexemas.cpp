@@ -67,7 +67,7 @@ int ejecuta(const Lexemas& orden, Salida& salida) {
         salida.escribe(tabla(leidos));
         break;
     case FormatoLexemas::Json:
-        for (const auto& [token, linea, columna] : leidos) salida.escribe(jsonDeToken(token, linea, columna));
+        for (const auto& [token, linea, columna] : leidos) escribeJson(token, linea, columna, salida);
         break;
     }
     const parLT& ultimo = leidos.back().token;

@@ -5,7 +5,7 @@
 
 namespace norvik::orden {
 
-// Each order gives the exit status; its output stands in `salida` until the caller lets it go.
+// Each order gives the exit status; the caller writes what is left of its output.
 inline int ejecuta(const Contesta& orden, Salida& salida) {
     salida.escribe(orden.texto);
     return 0;

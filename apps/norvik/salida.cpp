@@ -24,9 +24,9 @@ bool escribeTodo(int descriptor, std::string_view bytes) {
 } // namespace
 
 void Salida::vuelca() {
-    const std::string bytes = std::move(pendiente_);
+    const bool escrito = escribeTodo(STDOUT_FILENO, pendiente_);
     pendiente_.clear();
-    if (!escribeTodo(STDOUT_FILENO, bytes))
+    if (!escrito)
         throw ErrorDeFichero(u"No se puede escribir en la salida estándar: " + causaDelSistema(errno));
 }
 

@@ -1,17 +1,22 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace norvik::orden {
 
-/// The command's two streams. What goes to standard output is held back until `vuelca`: an order that fails
-/// writes nothing there.
+/// The command's two streams. An order writes to standard output once nothing but the writing can fail any
+/// more, so that one that fails writes nothing there.
 class Salida {
 public:
-    /// Adds UTF-8 to what will be written.
-    void escribe(std::string_view bytes) { pendiente_ += bytes; }
-    /// Writes it; raises `ErrorDeFichero`.
+    /// Writes UTF-8, in large pieces; raises `ErrorDeFichero`.
+    void escribe(std::string_view bytes) {
+        constexpr std::size_t trozo = 65536;
+        pendiente_ += bytes;
+        if (pendiente_.size() >= trozo) vuelca();
+    }
+    /// Writes what is left; raises the same.
     void vuelca();
 
     /// One message on standard error, at once.

@@ -6,6 +6,8 @@ namespace norvik {
 
 ErrorNorvik::ErrorNorvik(std::u16string_view texto) : std::runtime_error(aUtf8(texto)), texto_(texto) {}
 Desbordamiento::Desbordamiento(std::u16string_view texto) : ErrorNorvik(texto) {}
+TextoDemasiadoLargo::TextoDemasiadoLargo()
+    : Desbordamiento(u"Desbordamiento: el texto pasa de " + aTexto(maximoTexto) + u" caracteres") {}
 SubindiceFueraDeIntervalo::SubindiceFueraDeIntervalo(std::u16string_view texto) : ErrorNorvik(texto) {}
 IndiceNoValido::IndiceNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
 NoCoincidenLosTipos::NoCoincidenLosTipos(std::u16string_view texto) : ErrorNorvik(texto) {}

@@ -24,6 +24,12 @@ public:
     explicit Desbordamiento(std::u16string_view texto = u"Desbordamiento");
 };
 
+/// A text longer than `maximoTexto`.
+class TextoDemasiadoLargo : public Desbordamiento {
+public:
+    TextoDemasiadoLargo();
+};
+
 /// An index outside a fixed table (rules, items of a state, cells of the SLR table).
 class SubindiceFueraDeIntervalo : public ErrorNorvik {
 public:

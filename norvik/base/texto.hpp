@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,6 +11,9 @@ namespace norvik {
 
 /// The line break of texts, two characters.
 inline constexpr std::u16string_view saltoDeLinea = u"\r\n";
+
+/// The longest text that is recognised, coloured or parsed: the position behind it is a 16-bit number.
+inline constexpr std::size_t maximoTexto = 32766;
 
 /// The symbol of the empty string, an empty rule body.
 inline constexpr std::u16string_view cadenaVacia = u"Ø";

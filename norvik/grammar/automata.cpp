@@ -179,7 +179,8 @@ void ConstructorAutomata::avanza() {
     if (grupo.momento == reloj_) return;
     grupo.momento = reloj_;
     if (const auto destino = busca(grupo)) return fija(grupo, *destino, estados_[marco.estado]);
-    if (numEstados_ >= maximoEstados) throw Desbordamiento(u"El autómata tiene demasiados estados");
+    if (numEstados_ >= maximoEstados)
+        throw Desbordamiento(u"Desbordamiento: el autómata llega a 1000 estados");
     fija(grupo, numEstados_, estados_[marco.estado]);
     Nucleo nucleo;
     for (const std::size_t miembro : grupo.miembros) {

@@ -62,7 +62,9 @@ void estadoAutomata::setTransicionIndividual(std::int16_t item, std::int16_t des
 }
 
 void estadoAutomata::aniade(Item item, bool pendiente) {
-    if (items_.size() == maximoItems) throw SubindiceFueraDeIntervalo();
+    if (items_.size() == maximoItems)
+        throw SubindiceFueraDeIntervalo(
+            u"Subíndice fuera de intervalo: un estado del autómata pasa de 1000 elementos");
     items_.push_back(item);
     adyacentes_.push_back(pendiente ? sinCalcular : sinTransicion);
 }

@@ -32,7 +32,9 @@ void gramatica::inicializaGramatica() {
 void gramatica::SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t /*codigo*/) {
     columnas_.calculadas = false;
     do {
-        if (reglas_.size() == maximoReglas) throw SubindiceFueraDeIntervalo();
+        if (reglas_.size() == maximoReglas)
+            throw SubindiceFueraDeIntervalo(
+                u"Subíndice fuera de intervalo: la gramática pasa de 1000 reglas");
         const std::size_t barra = std::min(cuerpo.find(u'|'), cuerpo.size());
         const std::u16string_view alternativa = recorta(cuerpo.substr(0, barra));
         cuerpo = recorta(cuerpo.substr(std::min(barra + 1, cuerpo.size())));

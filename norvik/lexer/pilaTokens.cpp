@@ -50,6 +50,7 @@ pilaTokens::definicionesLlamadas(std::u16string_view nombre) const {
 MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart,
                                        std::int16_t TextEnd) {
     mapaTokens_.vacia();
+    if (TextEnd == -1 && Texto.size() > maximoTexto) throw TextoDemasiadoLargo();
     const std::int16_t inicio = TextStart == -1 ? std::int16_t{1} : TextStart;
     const std::int16_t fin = TextEnd == -1 ? a16(Texto.size() + 1) : TextEnd;
     const std::int16_t longitud = a16(fin - inicio);

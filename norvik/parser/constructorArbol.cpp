@@ -5,6 +5,7 @@
 // rule, lexemes all together: the tree must outlive grammar and text.
 #include "norvik/parser/constructorArbol.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/parser/arbolSintactico.hpp"
@@ -90,6 +91,10 @@ private:
 void construyeArbol(ArbolSintactico& arbol, Traza& traza, const gramatica& gramatica) {
     try {
         Constructor(arbol, traza, gramatica).construye();
+    } catch (const IndiceNoValido&) {
+        arbol.reinicia();
+        throw IndiceNoValido(u"Índice no válido: la tabla SLR ha aceptado el texto, pero sus reducciones no "
+                             u"forman un árbol");
     } catch (...) {
         arbol.reinicia();
         throw;

@@ -33,7 +33,8 @@ LectorTokens::LectorTokens(pilaTokens& lexico, const FuenteTexto& editor)
 
 void LectorTokens::inicializa(const FuenteTexto& fuente) {
     const auto texto = fuente.texto();
-    lexico_.ReconoceTokens(texto, 1, a16(texto.size() + 1));
+    if (texto.size() > maximoTexto) throw TextoDemasiadoLargo();
+    lexico_.ReconoceTokens(texto, 1, static_cast<std::int16_t>(texto.size() + 1));
     posLectura_ = 1;
 }
 

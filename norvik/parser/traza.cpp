@@ -11,12 +11,13 @@ void Traza::vaciaTraza() {
 }
 
 void Traza::fallaLlena() {
-    throw Desbordamiento(u"El análisis supera los 10 000 000 de pasos: el árbol sintáctico no cabe en la "
-                         u"memoria, o la tabla SLR no deja nunca de reducir.");
+    throw Desbordamiento(u"Desbordamiento: el árbol sintáctico no cabe en la memoria, o la tabla SLR no deja "
+                         u"nunca de desplazar o reducir");
 }
 
 void Traza::registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
                                    Procedencia procedencia) {
+    if (desplazamientos_.size() == maximoDesplazamientos) fallaLlena();
     apunta(0);
     desplazamientos_.push_back({static_cast<std::uint32_t>(textos_.size()),
                                 static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +19,9 @@ public:
     /// Entries that a trace holds at most: a tree of more nodes does not fit in memory, and a table that
     /// never stops reducing comes to its end here.
     static constexpr std::size_t maximo = 10'000'000;
+
+    /// Shifts: a text has no more tokens than characters, and only a damaged table goes on shifting its end.
+    static constexpr std::size_t maximoDesplazamientos = 2 * maximoTexto;
 
     enum class Procedencia : std::uint8_t { Texto, FinDeTexto };
 

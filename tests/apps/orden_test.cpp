@@ -266,7 +266,7 @@ TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {
     std::string ruido;
     for (int i = 0; i < 5000; ++i) ruido.push_back(static_cast<char>(i * 7919 % 251));
     const std::string nulo = std::string("Error (Línea 1, Columna 1): caracter '") + '\0' + "' incorrecto.\n";
-    const std::string desbordamiento = "norvik: Desbordamiento\n";
+    const std::string desbordamiento = "norvik: Desbordamiento: el texto pasa de 32766 caracteres\n";
     std::string diezMegas;
     diezMegas.resize(10'000'000, '1');
     const TextoMalo textos[] = {
