@@ -16,8 +16,8 @@ Monton::Monton() {
     mallopt(M_MMAP_THRESHOLD, tamanio);
     mallopt(M_TRIM_THRESHOLD, 4 * tamanio);
     mallopt(M_TOP_PAD, tamanio);
-    primero_ = std::make_unique_for_overwrite<std::byte[]>(primerHueco);
-    std::byte* const fin = static_cast<std::byte*>(sbrk(0));
+    primero_.reserve(primerHueco);
+    auto* const fin = static_cast<std::byte*>(sbrk(0));
     madvise(fin - tamanio, tamanio, MADV_HUGEPAGE);
 #endif
 }

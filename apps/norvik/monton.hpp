@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <vector>
 
 namespace norvik::orden {
 
@@ -11,7 +11,7 @@ public:
     Monton();
 
 private:
-    std::unique_ptr<std::byte[]> primero_;
+    std::vector<std::byte> primero_; // never filled: its room makes the heap grow
 };
 
 } // namespace norvik::orden
