@@ -13,7 +13,6 @@ namespace norvik {
 namespace {
 
 constexpr int maximoEntradas = 2000;
-constexpr std::size_t longitudMedia = 52; // of an entry's line
 constexpr std::u16string_view llamada = u"\tNorvikRefParam.";
 
 std::u16string entreComillas(std::u16string_view texto) {

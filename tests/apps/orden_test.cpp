@@ -251,7 +251,9 @@ TEST_F(Orden, LosFicherosImposiblesTienenSuMensaje) {
     for (const auto& [destino, causa] : {std::pair{Destino::DiscoLleno, "no queda espacio en el disco\n"},
                                          std::pair{Destino::LectorQueSeFue, "el lector se ha ido\n"},
                                          std::pair{Destino::Cerrado, "no está abierto\n"}})
-        comprueba(ejecuta({"analiza", lenguaje_, texto}, {.salida = destino}), 2, "", salida + causa);
+        for (const Palabras& palabras :
+             {Palabras{"analiza", lenguaje_, texto}, Palabras{"informe", lenguaje_, "-o", "-"}})
+            comprueba(ejecuta(palabras, {.salida = destino}), 2, "", salida + causa);
     EXPECT_EQ(ejecuta({"analiza", lenguaje_, ruta("no")}, {.errores = Destino::LectorQueSeFue}).estado, 2);
 }
 

@@ -196,6 +196,10 @@ TEST(Conductor, UnaTablaQueNoDejaDeReducirAcabaEnUnFallo) {
     lenguaje.reglas->SetElementoTablaSLR(1, 1, 2);
     lenguaje.reglas->SetElementoTablaSLR(3, 2, -1);
     EXPECT_TRUE(lenguaje.analiza(u"a"));
+    // The end of the text, shifted again and again, must not take the time and memory of so many tokens.
+    Lenguaje alFinal(tablaAMano(3, {{1, 2, 2}, {3, 2, 2}}));
+    EXPECT_THROW(alFinal.analiza(u""), Desbordamiento);
+    EXPECT_LT(alFinal.conductor.traza().numElementosTraza(), 100'000U);
 }
 
 } // namespace
