@@ -5,8 +5,9 @@
 
 namespace norvik {
 
-ControlNorvik::ControlNorvik(QWidget* padre)
-    : QWidget(padre), elementos_(*this), sistema_(this), caja_(this), control_(caja_, sistema_, *this) {
+ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
+    : QWidget(padre), elementos_(*this), propio_(this),
+      sistema_(compartido != nullptr ? *compartido : propio_), caja_(this), control_(caja_, sistema_, *this) {
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     QWidget& texto = caja_.ventana();

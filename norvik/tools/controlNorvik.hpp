@@ -78,7 +78,9 @@ class ControlNorvik : public QWidget, private Contenedor {
     Q_PROPERTY(int SelFontSize READ SelFontSize WRITE SelFontSize STORED false DESIGNABLE false)
 
 public:
-    explicit ControlNorvik(QWidget* padre = nullptr);
+    explicit ControlNorvik(QWidget* padre = nullptr) : ControlNorvik(nullptr, padre) {}
+    /// With the services that the windows around it share, which must outlive it.
+    ControlNorvik(SistemaQt& sistema, QWidget* padre) : ControlNorvik(&sistema, padre) {}
     ControlNorvik(const ControlNorvik&) = delete;
     ControlNorvik& operator=(const ControlNorvik&) = delete;
     ~ControlNorvik() override;
@@ -142,6 +144,7 @@ protected:
     void mousePressEvent(QMouseEvent* evento) override;
 
 private:
+    ControlNorvik(SistemaQt* compartido, QWidget* padre);
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
     Medidas medidas() const override;
     void muestraMarco(bool visible) override { elementos_.muestraMarco(visible); }
@@ -155,7 +158,8 @@ private:
     void saleHaciaDelante();
 
     ElementosControl elementos_;
-    SistemaQt sistema_;
+    SistemaQt propio_;
+    SistemaQt& sistema_; ///< `propio_` or one that is shared
     CajaTextoQt caja_;
     Norvik control_;
     bool saliendo_ = false; ///< the focus passes over `tabulador`

@@ -4,6 +4,7 @@
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
@@ -67,13 +68,32 @@ private:
     qsizetype columnas_ = 1;
 };
 
+/// Ends an event loop when a window is closed or hidden, which it is not by being minimised.
+class FinAlOcultar final : public QObject {
+public:
+    FinAlOcultar(QWidget& ventana, QEventLoop& bucle) : bucle_(bucle) {
+        ventana.installEventFilter(this);
+        connect(&ventana, &QObject::destroyed, &bucle, &QEventLoop::quit);
+    }
+
+protected:
+    bool eventFilter(QObject* /*ventana*/, QEvent* evento) override {
+        if (evento->type() == QEvent::Hide && !evento->spontaneous()) bucle_.quit();
+        return false;
+    }
+
+private:
+    QEventLoop& bucle_;
+};
+
 } // namespace
 
 Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const QString titulo =
         mensaje.titulo.empty() ? QApplication::applicationDisplayName() : aQString(mensaje.titulo);
+    QWidget* encimaDe = QApplication::activeModalWidget();
     QMessageBox caja(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto), QMessageBox::NoButton,
-                     ventana_);
+                     encimaDe != nullptr ? encimaDe : ventana_.data());
     caja.setTextFormat(Qt::PlainText);
     QPushButton* aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
     caja.setDefaultButton(aceptar);
@@ -97,6 +117,14 @@ void SistemaQt::ponPuntero(Puntero puntero) {
 /// The user's events too: a command given while one runs is dropped by who serves it, not kept for later.
 void SistemaQt::procesaEventos() {
     QApplication::processEvents();
+}
+
+void SistemaQt::muestraModal(QWidget& ventana) {
+    QEventLoop hastaQueSeCierre;
+    const FinAlOcultar fin(ventana, hastaQueSeCierre);
+    ventana.setWindowModality(Qt::ApplicationModal);
+    ventana.show();
+    hastaQueSeCierre.exec();
 }
 
 void SistemaQt::imprime(std::u16string_view texto) {

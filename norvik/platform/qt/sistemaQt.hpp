@@ -8,11 +8,11 @@
 
 namespace norvik {
 
-/// The services of the surroundings given by Qt: modal boxes with Spanish buttons above a window, the
-/// application's pointer, its event loop, and the default printer.
-class SistemaQt final : public Sistema {
+/// The services of the surroundings given by Qt: modal boxes with Spanish buttons and modal windows, the
+/// application's pointer, its event loop, and the default printer. Windows that work together share one.
+class SistemaQt : public Sistema {
 public:
-    /// Boxes stand above `ventana`, when it is given and lives.
+    /// Boxes stand above the modal window on top, else above `ventana`, when it is given and lives.
     explicit SistemaQt(QWidget* ventana = nullptr) : ventana_(ventana) {}
     SistemaQt(const SistemaQt&) = delete;
     SistemaQt& operator=(const SistemaQt&) = delete;
@@ -23,6 +23,8 @@ public:
     Puntero puntero() const override { return puntero_; }
     void procesaEventos() override;
     void imprime(std::u16string_view texto) override;
+    /// Shows a window, to which all input goes until it is closed or hidden; then comes back.
+    virtual void muestraModal(QWidget& ventana);
 
     /// Printing goes to a PDF file instead of the default printer.
     void imprimeEnFichero(const QString& fichero) { fichero_ = fichero; }
