@@ -148,6 +148,11 @@ public:
     std::u16string textoAutomata() const;
     std::u16string_view encabezadoColumna(std::int16_t columna) const;
     std::u16string celdaTabla(std::int16_t fila, std::int16_t columna) const;
+    /// Rows and columns of the table that the symbols have a use for.
+    std::int16_t filasVigentes() const;
+    std::int16_t columnasVigentes() const;
+    /// Whether a cell (1-based) shows a conflict.
+    bool enConflicto(std::int16_t fila, std::int16_t columna) const;
 
     // Loading module ---------------------------------------------------------------------------------------
 
@@ -208,7 +213,6 @@ private:
         std::int16_t columna = 0;
         std::int16_t valor = 0;
     };
-    std::int16_t filasVigentes() const;
     std::vector<Celda> celdas(std::int16_t fila) const;
     void escribeTablaCpp(std::u16string& texto) const;
     void escribeEntradasFijas(std::u16string& texto) const;

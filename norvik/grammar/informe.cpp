@@ -134,6 +134,10 @@ bool gramatica::esColumnaDeVariable(std::int16_t columna) const {
     return esMayusculaAZ(encabezadoColumna(columna).front());
 }
 
+bool gramatica::enConflicto(std::int16_t fila, std::int16_t columna) const {
+    return conflicto(fila, columna) != 0 && !esColumnaDeVariable(columna);
+}
+
 /// An entry of a terminal's column: D5 or R3, and the rule that lost a conflict with it.
 std::u16string gramatica::accion(std::int16_t fila, std::int16_t columna) const {
     const std::int16_t valor = tabla_.en(fila, columna);
@@ -152,7 +156,7 @@ std::u16string gramatica::celdaTabla(std::int16_t fila, std::int16_t columna) co
 }
 
 void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const {
-    if (conflicto(fila, columna) != 0 && !esColumnaDeVariable(columna))
+    if (enConflicto(fila, columna))
         escribeLinea(texto, u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(fila, columna), u";");
     else
         escribeLinea(texto, sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ",
@@ -223,10 +227,10 @@ void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {
 std::u16string gramatica::problemasFila(std::int16_t fila) const {
     std::u16string texto;
     bool vacia = true;
-    for (std::int16_t c = 1; c < std::min(simbolos_.totalElementos(), tabla_.columnas()); ++c) {
+    for (std::int16_t c = 1; c < columnasVigentes(); ++c) {
         if (tabla_.en(fila, c) == 0) continue;
         vacia = false;
-        if (!esColumnaDeVariable(c) && conflicto(fila, c) != 0)
+        if (enConflicto(fila, c))
             escribeLinea(texto, u"Conflicto ", celdaTabla(fila, c), u" en el estado ", fila - 1,
                          u", símbolo ", encabezadoColumna(c), u".");
     }

@@ -120,10 +120,14 @@ std::int16_t gramatica::filasVigentes() const {
     return simbolos_.esVacio() ? std::int16_t{0} : tabla_.filas();
 }
 
+std::int16_t gramatica::columnasVigentes() const {
+    return std::min(simbolos_.totalElementos(), tabla_.columnas());
+}
+
 /// The stored entries other than 0 of a row.
 std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
     std::vector<Celda> lista;
-    const std::int16_t ancho = std::min(simbolos_.totalElementos(), tabla_.columnas());
+    const std::int16_t ancho = columnasVigentes();
     if (ancho == 0) return lista;
     std::int16_t columna = 0;
     for (const std::int16_t valor : tabla_.filaGuardada(fila)) {

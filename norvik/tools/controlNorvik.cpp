@@ -1,5 +1,7 @@
 #include "norvik/tools/controlNorvik.hpp"
 
+#include "norvik/tools/informe.hpp"
+
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
@@ -100,6 +102,10 @@ void ControlNorvik::coloca(const Disposicion& disposicion) {
 
 void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) {
     elementos_.ponSignoError(signo.indice, signo.lineaAfectada, lugar, twipsPorPixel(*this));
+}
+
+void ControlNorvik::muestraInforme() {
+    MuestraInforme(control_.Gramatica(), control_.Lexico(), sistema_, this);
 }
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {

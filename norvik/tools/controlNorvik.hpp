@@ -151,6 +151,7 @@ private:
     void muestraBordeIzquierdo(bool visible) override { elementos_.debugBox.setVisible(visible); }
     void coloca(const Disposicion& disposicion) override;
     void ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) override;
+    void muestraInforme() override;
 
     void conectaEventos();
     void conectaElementos();

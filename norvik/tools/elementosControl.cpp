@@ -1,5 +1,7 @@
 #include "norvik/tools/elementosControl.hpp"
 
+#include "norvik/tools/ventanas.hpp"
+
 #include <QPalette>
 
 namespace norvik {
@@ -11,11 +13,6 @@ QRect enPixeles(const Rectangulo& r, const TwipsPorPixel& pixel) {
 }
 
 namespace {
-
-void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
-    elemento.setObjectName(QLatin1String(nombre));
-    elemento.setAccessibleName(accesible);
-}
 
 /// An element that only decorates: clicks go to the control beneath.
 void decora(QWidget& elemento, QPalette::ColorRole color) {

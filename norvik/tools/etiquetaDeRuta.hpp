@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLabel>
+
+namespace norvik {
+
+/// A label that shows as much of a path as it has room for, the ends first.
+class EtiquetaDeRuta final : public QLabel {
+public:
+    using QLabel::QLabel;
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+};
+
+} // namespace norvik

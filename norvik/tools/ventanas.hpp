@@ -1,0 +1,53 @@
+#pragma once
+
+#include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+#include <utility>
+
+// What the windows have in common.
+namespace norvik {
+
+/// A new object that its Qt parent owns: one that is among the arguments, or the one that takes it over next.
+template <typename Tipo, typename... Argumentos>
+Tipo& nuevo(Argumentos&&... argumentos) {
+    return *std::make_unique<Tipo>(std::forward<Argumentos>(argumentos)...).release();
+}
+
+/// Names an element, and says to screen readers what it is.
+inline void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
+    elemento.setObjectName(QLatin1String(nombre));
+    elemento.setAccessibleName(accesible);
+}
+
+/// Shows a modal window, made for it, until it is closed. Its parent may die meanwhile, and take it along.
+template <typename Ventana, typename... Argumentos>
+void muestraModal(SistemaQt& sistema, Argumentos&&... argumentos) {
+    auto ventana = std::make_unique<Ventana>(std::forward<Argumentos>(argumentos)...);
+    const QPointer<Ventana> viva(ventana.get());
+    sistema.muestraModal(*ventana);
+    if (viva.isNull()) static_cast<void>(ventana.release());
+}
+
+/// Carries out a command of a window. A failure ends it and is told in a plain message box: the event loop
+/// that called can do nothing with it.
+template <typename Orden>
+void ejecuta(Sistema& sistema, Orden orden) {
+    std::u16string fallo;
+    try {
+        orden();
+    } catch (const ErrorNorvik& e) {
+        fallo = e.texto();
+    } catch (const std::exception& e) {
+        fallo = QString::fromUtf8(e.what()).toStdU16String();
+    }
+    if (!fallo.empty()) sistema.muestraMensaje({fallo, {}});
+}
+
+} // namespace norvik
