@@ -1,0 +1,31 @@
+#pragma once
+
+#include "dialogos.hpp"
+
+#include "norvik/platform/qt/sistemaQt.hpp"
+
+#include <QFileDialog>
+#include <QPointer>
+
+namespace norvik::taller {
+
+/// The questions as modal windows above another one.
+class DialogosQt final : public Dialogos {
+public:
+    /// They stand above `ventana` from here on.
+    void ponVentana(QWidget* ventana) { ventana_ = ventana; }
+
+    void avisa(const Mensaje& mensaje) override;
+    Destino preguntaGuardar(const QString& pregunta) override;
+    std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) override;
+    std::optional<QString> eligeParaGuardar(const QString& titulo, const QString& filtros,
+                                            const QString& propuesto, const QString& extension) override;
+
+private:
+    std::optional<QString> pregunta(QFileDialog& dialogo, const QString& aceptar);
+
+    QPointer<QWidget> ventana_;
+    QString carpeta_; ///< where the last file was chosen
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,161 @@
+#include "elementoFormulario.hpp"
+
+#include "lenguaje.hpp"
+#include "rutas.hpp"
+
+#include <QAbstractScrollArea>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace norvik::taller {
+
+ElementoFormulario::ElementoFormulario(const QString& nombre, QWidget* padre)
+    : QWidget(padre), nombre_(nombre), titulo_(this), velo_(this), norvik_(this) {
+    norvik_.setObjectName(nombre);
+    norvik_.setAccessibleName(nombre);
+    velo_.setAccessibleName(nombre);
+    columna_.setContentsMargins(0, 0, 0, 0);
+    columna_.setSpacing(2);
+    columna_.addWidget(&titulo_);
+    columna_.addWidget(&norvik_, 1);
+    setLayout(&columna_);
+    norvik_.setMinimumHeight(60);
+    setFocusProxy(&norvik_);
+    titulo_.setContentsMargins(4, 2, 4, 0);
+    velo_.hide();
+    conecta();
+    actualizaTitulo();
+}
+
+void ElementoFormulario::conecta() {
+    norvik_.installEventFilter(this);
+    auto& texto = static_cast<QAbstractScrollArea&>(norvik_.caja().ventana());
+    texto.installEventFilter(this);
+    texto.viewport()->installEventFilter(this);
+    connect(&norvik_, &ControlNorvik::change, this, [this] {
+        actualizaTitulo();
+        emit otroTexto();
+    });
+    connect(&norvik_, &ControlNorvik::SelChange, this, &ElementoFormulario::otroLugar);
+    connect(&norvik_, &ControlNorvik::propiedadCambiada, this, &ElementoFormulario::anota);
+    connect(&velo_, &VeloDisenio::seleccionado, this, &ElementoFormulario::activado);
+    connect(&velo_, &VeloDisenio::pidePropiedades, this, &ElementoFormulario::pidePropiedades);
+}
+
+bool ElementoFormulario::eventFilter(QObject* objeto, QEvent* evento) {
+    const bool otroSitio = evento->type() == QEvent::Resize || evento->type() == QEvent::Move;
+    if (objeto == &norvik_ && otroSitio) velo_.setGeometry(norvik_.geometry());
+    if (objeto != &norvik_ && evento->type() == QEvent::FocusIn) emit activado();
+    if (evento->type() == QEvent::DragEnter && static_cast<QDropEvent*>(evento)->mimeData()->hasUrls()) {
+        evento->ignore(); // files are the window's
+        return true;
+    }
+    return QWidget::eventFilter(objeto, evento);
+}
+
+/// The text is no part of what is saved; the language is made of the other properties named here.
+void ElementoFormulario::anota(const QString& propiedad) {
+    if (propiedad == QLatin1String("Text")) return;
+    const bool esColor =
+        propiedad.startsWith(QLatin1String("Color")) && propiedad != QLatin1String("Colorear");
+    if (esColor || propiedad == QLatin1String("ContenidoG") || propiedad == QLatin1String("LenguajeSensible"))
+        lenguajeAlDia_ = false;
+    emit otraPropiedad();
+}
+
+void ElementoFormulario::restaura(const BolsaPropiedades& bolsa) {
+    lenguajeAlDia_ = false;
+    norvik_.control().restauraPropiedades(bolsa);
+}
+
+// ---- text
+
+QString ElementoFormulario::tituloTexto() const {
+    return fichero_.isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero_).fileName();
+}
+
+void ElementoFormulario::actualizaTitulo() {
+    const QString marca = textoModificado() ? QStringLiteral("*") : QString();
+    titulo_.setText(nombre_ + QStringLiteral(" — ") + tituloTexto() + marca);
+}
+
+void ElementoFormulario::nuevoTexto() {
+    fichero_.clear();
+    norvik_.control().BorraTodo();
+    norvik_.TextoModificado(false);
+    actualizaTitulo();
+    emit otroTexto();
+}
+
+void ElementoFormulario::abreTexto(const QString& fichero) {
+    nuevoTexto();
+    try {
+        norvik_.control().CargarFichero(ruta(fichero));
+    } catch (const Desbordamiento&) {
+        ponFichero(fichero);
+        throw;
+    }
+    ponFichero(fichero);
+}
+
+void ElementoFormulario::ponFichero(const QString& fichero) {
+    fichero_ = QFileInfo(fichero).absoluteFilePath();
+    norvik_.TextoModificado(false);
+    actualizaTitulo();
+    emit otroTexto();
+}
+
+bool ElementoFormulario::guardaTexto(const QString& fichero) {
+    if (!norvik_.control().SalvarFichero(ruta(fichero))) return false;
+    ponFichero(fichero);
+    return true;
+}
+
+void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {
+    CajaTextoQt& caja = norvik_.caja();
+    const std::int32_t inicio = caja.inicioDeLinea(linea - 1);
+    if (inicio < 0) return;
+    const std::int32_t posicion = inicio + columna - 1;
+    const auto longitud = static_cast<std::int32_t>(lexema.size());
+    const auto desde = std::min(static_cast<std::size_t>(posicion), caja.texto().size());
+    const bool esta = caja.texto().substr(desde).starts_with(vistaDe(lexema));
+    caja.selecciona(posicion, esta ? longitud : 0);
+    norvik_.setFocus();
+}
+
+// ---- language
+
+void ElementoFormulario::ponModulo(const QString& fichero) {
+    modulo_ = fichero.isEmpty() ? fichero : QFileInfo(fichero).absoluteFilePath();
+    lenguajeAlDia_ = false;
+    emit otraPropiedad();
+}
+
+std::u16string ElementoFormulario::preparaLenguaje() {
+    if (lenguajeAlDia_) return {};
+    lenguajeAlDia_ = true;
+    if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
+    return especificacionDe(norvik_).empty() ? std::u16string() : compilaLenguaje(norvik_);
+}
+
+// ---- on the form
+
+void ElementoFormulario::ponModo(Modo modo) {
+    const bool disenio = modo == Modo::Disenio;
+    velo_.setVisible(disenio);
+    velo_.raise();
+    norvik_.caja().ventana().setFocusPolicy(disenio ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusProxy(disenio ? static_cast<QWidget*>(&velo_) : &norvik_);
+}
+
+void ElementoFormulario::ponSeleccionado(bool seleccionado) {
+    velo_.ponSeleccionado(seleccionado);
+    QFont letra = font();
+    letra.setBold(seleccionado);
+    titulo_.setFont(letra);
+}
+
+} // namespace norvik::taller

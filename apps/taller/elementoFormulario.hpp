@@ -1,0 +1,86 @@
+#pragma once
+
+#include "veloDisenio.hpp"
+
+#include "norvik/tools/controlNorvik.hpp"
+
+#include <QLabel>
+#include <QString>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <string>
+
+namespace norvik::taller {
+
+enum class Modo : std::uint8_t { Disenio, Ejecucion };
+
+/// A control on the form, with what its container knows of it: its name, the file of its text, the loading
+/// module of its language.
+class ElementoFormulario final : public QWidget {
+    Q_OBJECT
+
+public:
+    ElementoFormulario(const QString& nombre, QWidget* padre);
+
+    ControlNorvik& norvik() { return norvik_; }
+    const QString& nombre() const { return nombre_; }
+
+    /// Raises what the control raises for a bag with wrong values.
+    void restaura(const BolsaPropiedades& bolsa);
+
+    // The text. An empty path is a text without a file.
+    const QString& fichero() const { return fichero_; }
+    /// What a person calls the text.
+    QString tituloTexto() const;
+    bool textoModificado() const { return norvik_.TextoModificado(); }
+    void nuevoTexto();
+    /// Raises `ErrorDeFichero`, the text is then empty and without a file; `Desbordamiento` for one that is
+    /// too long to be coloured, which is loaded.
+    void abreTexto(const QString& fichero);
+    /// False when the file could not be written.
+    bool guardaTexto(const QString& fichero);
+
+    /// Puts the caret at a place (1-based), with the lexeme selected that stands there.
+    void vaA(int linea, int columna, const QString& lexema);
+
+    // The language: of a loading module when there is one, else of the specification that the control keeps.
+    const QString& modulo() const { return modulo_; }
+    void ponModulo(const QString& fichero);
+    /// Loads it unless it is loaded. What is wrong with it, empty when nothing is.
+    std::u16string preparaLenguaje();
+
+    void ponModo(Modo modo);
+    void ponSeleccionado(bool seleccionado);
+    /// Shows the heading, of use where there is more than one control.
+    void muestraTitulo(bool visible) { titulo_.setVisible(visible); }
+
+signals:
+    void activado();
+    void pidePropiedades();
+    /// The text, its file or its mark.
+    void otroTexto();
+    void otroLugar(); ///< of the caret
+    /// A property that is saved, or what the container keeps besides.
+    void otraPropiedad();
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void conecta();
+    void ponFichero(const QString& fichero);
+    void actualizaTitulo();
+    void anota(const QString& propiedad);
+
+    QString nombre_;
+    QString fichero_;
+    QString modulo_;
+    bool lenguajeAlDia_ = true; ///< nothing to load, or loaded as the properties say
+    QVBoxLayout columna_;
+    QLabel titulo_;
+    VeloDisenio velo_;
+    ControlNorvik norvik_;
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,166 @@
+#include "formulario.hpp"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace norvik::taller {
+
+Formulario::Formulario(QWidget* padre) : QSplitter(Qt::Vertical, padre) {
+    setChildrenCollapsible(false);
+    setAccessibleName(QStringLiteral("Formulario"));
+    vacia();
+}
+
+ElementoFormulario& Formulario::anade(const QString& nombre) {
+    const QString libre = nombre.isEmpty() ? nombreLibre() : nombre;
+    elementos_.push_back(std::make_unique<ElementoFormulario>(libre, this));
+    ElementoFormulario& nuevo = *elementos_.back();
+    nuevo.norvik().Colorear(true);
+    nuevo.norvik().MarcarErrores(true);
+    nuevo.ponModo(modo_);
+    conecta(nuevo);
+    addWidget(&nuevo);
+    muestraTitulos();
+    activa(nuevo);
+    ponModificado(true);
+    return nuevo;
+}
+
+void Formulario::conecta(ElementoFormulario& elemento) {
+    connect(&elemento, &ElementoFormulario::activado, this, [this, &elemento] { activa(elemento); });
+    connect(&elemento, &ElementoFormulario::pidePropiedades, this, [this, &elemento] {
+        activa(elemento);
+        emit pidePropiedades();
+    });
+    connect(&elemento, &ElementoFormulario::otroTexto, this, &Formulario::otroTexto);
+    connect(&elemento, &ElementoFormulario::otroLugar, this, &Formulario::otroLugar);
+    connect(&elemento, &ElementoFormulario::otraPropiedad, this, [this] { ponModificado(true); });
+}
+
+QString Formulario::nombreLibre() const {
+    for (int i = 1;; ++i) {
+        const QString nombre = QStringLiteral("Norvik%1").arg(i);
+        if (std::none_of(elementos_.begin(), elementos_.end(),
+                         [&](const auto& e) { return e->nombre() == nombre; }))
+            return nombre;
+    }
+}
+
+void Formulario::activa(ElementoFormulario& elemento) {
+    for (std::size_t i = 0; i < elementos_.size(); ++i) {
+        elementos_[i]->ponSeleccionado(elementos_[i].get() == &elemento);
+        if (elementos_[i].get() == &elemento) activo_ = i;
+    }
+    emit otroActivo();
+}
+
+void Formulario::ponModo(Modo modo) {
+    modo_ = modo;
+    for (const auto& e : elementos_) e->ponModo(modo);
+    muestraTitulos();
+    activo().setFocus();
+    emit cambiado();
+}
+
+void Formulario::muestraTitulos() {
+    for (const auto& e : elementos_) e->muestraTitulo(elementos_.size() > 1 || modo_ == Modo::Disenio);
+}
+
+/// Takes the first ones away.
+void Formulario::retira(std::size_t cuantos) {
+    elementos_.erase(elementos_.begin(), elementos_.begin() + static_cast<std::ptrdiff_t>(cuantos));
+    muestraTitulos();
+    activa(*elementos_.front());
+    fichero_.clear();
+}
+
+void Formulario::quitaActivo() {
+    if (elementos_.size() < 2) return;
+    const auto quitado = std::move(elementos_[activo_]);
+    elementos_.erase(elementos_.begin() + static_cast<std::ptrdiff_t>(activo_));
+    activo_ = 0; // before events reach the form
+    muestraTitulos();
+    activa(*elementos_.front());
+    ponModificado(true);
+}
+
+void Formulario::vacia() {
+    const std::size_t antes = elementos_.size();
+    anade(QStringLiteral("Norvik1"));
+    retira(antes);
+    ponModificado(false);
+}
+
+// ---- what is saved
+
+QString Formulario::titulo() const {
+    return fichero_.isEmpty() ? QStringLiteral("Formulario sin título")
+                              : QFileInfo(fichero_).completeBaseName();
+}
+
+void Formulario::ponModificado(bool modificado) {
+    modificado_ = modificado;
+    emit cambiado();
+}
+
+QStringList Formulario::abre(const QString& fichero) {
+    const auto guardados = leeFormulario(fichero);
+    const std::size_t antes = elementos_.size();
+    anade(guardados);
+    retira(antes);
+    QStringList avisos;
+    for (std::size_t i = 0; i < guardados.size(); ++i) avisos += llena(*elementos_[i], guardados[i]);
+    fichero_ = QFileInfo(fichero).absoluteFilePath();
+    ponModificado(false);
+    return avisos;
+}
+
+/// All of them or, raising what one of them raised, none.
+void Formulario::anade(const std::vector<ElementoGuardado>& guardados) {
+    const std::size_t antes = elementos_.size();
+    const bool modificado = modificado_;
+    try {
+        for (const ElementoGuardado& g : guardados) anade(g.nombre).restaura(g.bolsa);
+    } catch (...) {
+        activa(*elementos_.front());
+        elementos_.resize(antes);
+        muestraTitulos();
+        ponModificado(modificado);
+        throw;
+    }
+}
+
+/// Opens text and language of a control.
+QStringList Formulario::llena(ElementoFormulario& elemento, const ElementoGuardado& guardado) {
+    QStringList avisos;
+    const auto intenta = [&](const auto& accion) {
+        try {
+            accion();
+        } catch (const ErrorNorvik& e) {
+            avisos += aQString(e.texto());
+        }
+    };
+    intenta([&] {
+        if (!guardado.modulo.isEmpty()) elemento.ponModulo(guardado.modulo);
+        const std::u16string error = elemento.preparaLenguaje();
+        if (!error.empty()) avisos += elemento.nombre() + QStringLiteral(": ") + aQString(error);
+    });
+    intenta([&] {
+        if (!guardado.texto.isEmpty()) elemento.abreTexto(guardado.texto);
+    });
+    return avisos;
+}
+
+void Formulario::guarda(const QString& fichero) {
+    std::vector<ElementoGuardado> guardados;
+    for (const auto& e : elementos_) {
+        guardados.push_back({e->nombre(), e->fichero(), e->modulo(), {}});
+        e->norvik().control().guardaPropiedades(guardados.back().bolsa);
+    }
+    escribeFormulario(fichero, guardados);
+    fichero_ = QFileInfo(fichero).absoluteFilePath();
+    ponModificado(false);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "elementoFormulario.hpp"
+#include "ficheroFormulario.hpp"
+
+#include <QSplitter>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace norvik::taller {
+
+/// The container of the controls: one or several beside or above each other, of which one is the active one.
+class Formulario final : public QSplitter {
+    Q_OBJECT
+
+public:
+    using Elementos = std::vector<std::unique_ptr<ElementoFormulario>>;
+
+    /// With one control, in the mode of use.
+    explicit Formulario(QWidget* padre = nullptr);
+
+    const Elementos& elementos() const { return elementos_; }
+    ElementoFormulario& activo() { return *elementos_[activo_]; }
+    void activa(ElementoFormulario& elemento);
+    Modo modo() const { return modo_; }
+    void ponModo(Modo modo);
+
+    /// A new control behind the others, which becomes the active one. An empty name is the first free one.
+    ElementoFormulario& anade(const QString& nombre = {});
+    /// The form keeps one control at least.
+    void quitaActivo();
+    /// One control again, without a file.
+    void vacia();
+
+    // What is saved: the controls with their property bags, and where their texts and modules are.
+    const QString& fichero() const { return fichero_; }
+    QString titulo() const;
+    bool modificado() const { return modificado_; }
+    void ponModificado(bool modificado);
+    /// Raises `ErrorDeFichero`, and `NoCoincidenLosTipos` for what is no form; the form is then what it was.
+    /// What is wrong with the texts and languages of the controls comes back, a line each.
+    QStringList abre(const QString& fichero);
+    void guarda(const QString& fichero);
+
+signals:
+    void otroActivo();
+    void otroTexto(); ///< of any control
+    void otroLugar(); ///< of the active one's caret
+    void cambiado();  ///< the controls, or what is saved of them
+    void pidePropiedades();
+
+private:
+    QString nombreLibre() const;
+    void retira(std::size_t cuantos);
+    void anade(const std::vector<ElementoGuardado>& guardados);
+    static QStringList llena(ElementoFormulario& elemento, const ElementoGuardado& guardado);
+    void muestraTitulos();
+    void conecta(ElementoFormulario& elemento);
+
+    Elementos elementos_;
+    std::size_t activo_ = 0;
+    Modo modo_ = Modo::Ejecucion;
+    QString fichero_;
+    bool modificado_ = false;
+};
+
+} // namespace norvik::taller

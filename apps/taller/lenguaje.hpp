@@ -1,0 +1,27 @@
+#pragma once
+
+#include "norvik/tools/controlNorvik.hpp"
+
+#include <QString>
+
+#include <string>
+
+namespace norvik::taller {
+
+/// A control has a language to parse its text with.
+bool tieneLenguaje(ControlNorvik& norvik);
+/// The specification that the control keeps.
+const std::u16string& especificacionDe(ControlNorvik& norvik);
+/// Gives the control a specification to keep; its language stays as it is.
+void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion);
+
+// Loading a language colours the text with it. What is wrong with it comes back as a text, empty when nothing
+// is; the control is then without a language. Failures of files are raised.
+
+/// The language of the specification that the control keeps.
+std::u16string compilaLenguaje(ControlNorvik& norvik);
+/// That of a loading module.
+std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero);
+bool esModulo(const QString& fichero);
+
+} // namespace norvik::taller

@@ -1,0 +1,55 @@
+#include "dialogosQt.hpp"
+#include "linea.hpp"
+#include "ventanaPrincipal.hpp"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <array>
+#include <iostream>
+
+namespace {
+
+using namespace norvik::taller;
+
+int responde(const Contesta& respuesta) {
+    (respuesta.estado == 0 ? std::cout : std::cerr) << respuesta.texto;
+    return respuesta.estado;
+}
+
+/// Qt ends a program that has no display, in words of its own.
+bool hayPantalla() {
+    constexpr std::array pantallas = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(pantallas.begin(), pantallas.end(),
+                       [](const char* nombre) { return !qEnvironmentVariableIsEmpty(nombre); });
+}
+
+int trabaja(const Arranque& arranque) {
+    QTranslator deQt; // the words of Qt's own windows
+    if (deQt.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&deQt);
+    QSettings ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("norvik"),
+                      QStringLiteral("taller"));
+    DialogosQt dialogos;
+    VentanaPrincipal ventana(
+        {dialogos, ajustes, ejemplosDe(carpetaDeEjemplos(QApplication::applicationDirPath()))});
+    dialogos.ponVentana(&ventana);
+    ventana.show();
+    if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);
+    if (!arranque.texto.isEmpty()) ventana.abre(arranque.texto);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto linea = leeLinea(argc, argv);
+    if (const auto* const respuesta = std::get_if<Contesta>(&linea)) return responde(*respuesta);
+    if (!hayPantalla()) return responde({"norvik-taller: no hay ninguna pantalla (DISPLAY)\n", 2});
+    int soloElNombre = 1; // the other words are ours
+    const QApplication aplicacion(soloElNombre, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("Norvik"));
+    QApplication::setDesktopFileName(QStringLiteral("norvik-taller"));
+    return trabaja(std::get<Arranque>(linea));
+}

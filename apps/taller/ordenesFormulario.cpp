@@ -1,0 +1,77 @@
+#include "ordenesFormulario.hpp"
+
+#include "rutas.hpp"
+
+#include <algorithm>
+
+namespace norvik::taller {
+
+void OrdenesFormulario::nuevo() {
+    if (puedePerder()) formulario_.vacia();
+}
+
+void OrdenesFormulario::abre() {
+    const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir formulario"), filtroFormulario);
+    if (fichero) abre(*fichero);
+}
+
+void OrdenesFormulario::abre(const QString& fichero) {
+    if (!puedePerder()) return;
+    const QStringList avisos = formulario_.abre(fichero);
+    recientes_.anota(fichero);
+    if (!avisos.isEmpty())
+        dialogos_.avisa({avisos.join(u'\n').toStdU16String(), {}, Icono::Exclamacion, Botones::Aceptar});
+}
+
+bool OrdenesFormulario::escribe(const QString& fichero) {
+    try {
+        formulario_.guarda(fichero);
+        recientes_.anota(fichero);
+        return true;
+    } catch (const ErrorNorvik& e) {
+        dialogos_.avisa({e.texto(), {}, Icono::Critico, Botones::Aceptar});
+        return false;
+    }
+}
+
+bool OrdenesFormulario::guarda() {
+    return formulario_.fichero().isEmpty() ? guardaComo() : escribe(formulario_.fichero());
+}
+
+bool OrdenesFormulario::guardaComo() {
+    const auto fichero = dialogos_.eligeParaGuardar(QStringLiteral("Guardar formulario"), filtroFormulario,
+                                                    formulario_.fichero(), extensionFormulario);
+    return fichero && escribe(*fichero);
+}
+
+bool OrdenesFormulario::guardaTodo() {
+    return textos_.guardaTodos() && (!formulario_.modificado() || guarda());
+}
+
+void OrdenesFormulario::quitaActivo() {
+    if (textos_.puedePerder(formulario_.activo())) formulario_.quitaActivo();
+}
+
+bool OrdenesFormulario::puedePerderFormulario() {
+    if (!formulario_.modificado()) return true;
+    const QString pregunta =
+        QStringLiteral("¿Quiere guardar los cambios del formulario «%1»?").arg(formulario_.titulo());
+    switch (dialogos_.preguntaGuardar(pregunta)) {
+    case Destino::Guardar:
+        return guarda();
+    case Destino::Descartar:
+        return true;
+    case Destino::Cancelar:
+        return false;
+    }
+    return false;
+}
+
+bool OrdenesFormulario::puedePerder() {
+    const auto& elementos = formulario_.elementos();
+    return std::all_of(elementos.begin(), elementos.end(),
+                       [this](const auto& e) { return textos_.puedePerder(*e); }) &&
+           puedePerderFormulario();
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ordenesTexto.hpp"
+
+namespace norvik::taller {
+
+/// The commands on the form as a whole. Those that could lose work ask before.
+class OrdenesFormulario {
+public:
+    OrdenesFormulario(Formulario& formulario, OrdenesTexto& textos, Dialogos& dialogos, Recientes& recientes)
+        : formulario_(formulario), textos_(textos), dialogos_(dialogos), recientes_(recientes) {}
+
+    void nuevo();
+    void abre();
+    void abre(const QString& fichero);
+    bool guarda();
+    bool guardaComo();
+    /// Texts, and the form when it was changed.
+    bool guardaTodo();
+    void quitaActivo();
+    /// All texts and the form are saved, or were not changed, or are given up.
+    bool puedePerder();
+
+private:
+    bool escribe(const QString& fichero);
+    bool puedePerderFormulario();
+
+    Formulario& formulario_;
+    OrdenesTexto& textos_;
+    Dialogos& dialogos_;
+    Recientes& recientes_;
+};
+
+} // namespace norvik::taller

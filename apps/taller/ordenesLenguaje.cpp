@@ -1,0 +1,92 @@
+#include "ordenesLenguaje.hpp"
+
+#include "lenguaje.hpp"
+#include "rutas.hpp"
+
+#include "norvik/base/ficheros.hpp"
+
+#include <QFileInfo>
+
+namespace norvik::taller {
+
+void OrdenesLenguaje::abre() {
+    const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroLenguaje);
+    if (fichero) abre(*fichero);
+}
+
+/// Nothing of a form without a name is lost when the language of a file is all it got.
+void OrdenesLenguaje::abre(const QString& fichero) {
+    ElementoFormulario& elemento = formulario_.activo();
+    const bool nuevo = formulario_.fichero().isEmpty() && !formulario_.modificado();
+    const bool modulo = esModulo(fichero);
+    if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(ruta(fichero)));
+    elemento.ponModulo(modulo ? fichero : QString());
+    elemento.norvik().NomLenguaje(QFileInfo(fichero).completeBaseName());
+    prepara(elemento);
+    if (nuevo) formulario_.ponModificado(false);
+}
+
+void OrdenesLenguaje::guardaEspecificacion() {
+    ControlNorvik& norvik = formulario_.activo().norvik();
+    const QString nombre = norvik.NomLenguaje().isEmpty() ? QStringLiteral("lenguaje") : norvik.NomLenguaje();
+    const auto fichero =
+        dialogos_.eligeParaGuardar(QStringLiteral("Guardar la especificación"), filtroEspecificacion,
+                                   nombre + u'.' + extensionEspecificacion, extensionEspecificacion);
+    if (fichero)
+        escribeTexto(ruta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
+                     Durabilidad::EnDisco);
+}
+
+bool OrdenesLenguaje::prepara(ElementoFormulario& elemento) {
+    olvidaAnalisis();
+    const std::u16string error = elemento.preparaLenguaje();
+    if (error.empty()) return true;
+    dialogos_.avisa(
+        {u"El lenguaje de " + elemento.nombre().toStdU16String() + u" no se ha podido cargar:\n\n" + error,
+         {},
+         Icono::Exclamacion,
+         Botones::Aceptar});
+    return false;
+}
+
+void OrdenesLenguaje::preparaTodos() {
+    for (const auto& e : formulario_.elementos()) prepara(*e);
+}
+
+bool OrdenesLenguaje::hayLenguaje() {
+    ElementoFormulario& elemento = formulario_.activo();
+    if (!prepara(elemento)) return false;
+    if (tieneLenguaje(elemento.norvik())) return true;
+    dialogos_.avisa({u"No hay ningún lenguaje cargado. Elija uno en el menú Lenguaje.",
+                     {},
+                     Icono::Informacion,
+                     Botones::Aceptar});
+    return false;
+}
+
+bool OrdenesLenguaje::analiza() {
+    if (!hayLenguaje()) return false;
+    Norvik& control = formulario_.activo().norvik().control();
+    if (control.ConstruyeArbolSintactico()) {
+        arbol_.muestra(control.GetArbolSintactico());
+        return true;
+    }
+    error_ = {control.LineaToken(), control.ColumnaToken(), {}};
+    mensaje_.muestra(aQString(control.GetmensajeError()));
+    return false;
+}
+
+void OrdenesLenguaje::olvidaAnalisis() {
+    arbol_.vacia();
+    mensaje_.muestra({});
+}
+
+void OrdenesLenguaje::vaAlError() {
+    formulario_.activo().vaA(error_.linea, error_.columna, {});
+}
+
+void OrdenesLenguaje::muestraInforme() {
+    if (hayLenguaje()) formulario_.activo().norvik().control().MuestraInforme();
+}
+
+} // namespace norvik::taller

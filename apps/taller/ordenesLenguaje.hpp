@@ -1,0 +1,42 @@
+#pragma once
+
+#include "dialogos.hpp"
+#include "ejemplos.hpp"
+#include "formulario.hpp"
+#include "panelArbol.hpp"
+#include "panelMensaje.hpp"
+
+namespace norvik::taller {
+
+/// The commands on the language of the active control, and parsing with it.
+class OrdenesLenguaje {
+public:
+    OrdenesLenguaje(Formulario& formulario, Dialogos& dialogos, PanelArbol& arbol, PanelMensaje& mensaje)
+        : formulario_(formulario), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje) {}
+
+    void abre();
+    /// A specification becomes the one that the control keeps; a module is remembered by its file.
+    void abre(const QString& fichero);
+    void guardaEspecificacion();
+    /// Loads the languages that are not loaded yet, and tells what is wrong with them.
+    void preparaTodos();
+
+    /// Parses the text: the tree, or the error. True when it was accepted.
+    bool analiza();
+    /// What the last parse left is shown no more.
+    void olvidaAnalisis();
+    void vaAlError();
+    void muestraInforme();
+
+private:
+    bool prepara(ElementoFormulario& elemento);
+    bool hayLenguaje();
+
+    Formulario& formulario_;
+    Dialogos& dialogos_;
+    PanelArbol& arbol_;
+    PanelMensaje& mensaje_;
+    ModeloArbol::Hoja error_;
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,63 @@
+#include "ordenesTexto.hpp"
+
+#include "rutas.hpp"
+
+namespace norvik::taller {
+
+void OrdenesTexto::nuevo() {
+    if (puedePerder(formulario_.activo())) formulario_.activo().nuevoTexto();
+}
+
+void OrdenesTexto::abre() {
+    const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir texto"), todos);
+    if (fichero) abre(*fichero);
+}
+
+void OrdenesTexto::abre(const QString& fichero) {
+    if (!puedePerder(formulario_.activo())) return;
+    formulario_.activo().abreTexto(fichero);
+    recientes_.anota(fichero);
+}
+
+bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero) {
+    if (elemento.guardaTexto(fichero)) {
+        recientes_.anota(fichero);
+        return true;
+    }
+    const QString texto = QStringLiteral("No se ha podido escribir el fichero «%1».").arg(fichero);
+    dialogos_.avisa({texto.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
+    return false;
+}
+
+bool OrdenesTexto::guarda(ElementoFormulario& elemento) {
+    return elemento.fichero().isEmpty() ? guardaComo(elemento) : escribe(elemento, elemento.fichero());
+}
+
+bool OrdenesTexto::guardaComo(ElementoFormulario& elemento) {
+    const auto fichero =
+        dialogos_.eligeParaGuardar(QStringLiteral("Guardar texto"), todos, elemento.fichero(), {});
+    return fichero && escribe(elemento, *fichero);
+}
+
+bool OrdenesTexto::guardaTodos() {
+    for (const auto& e : formulario_.elementos())
+        if (e->textoModificado() && !guarda(*e)) return false;
+    return true;
+}
+
+bool OrdenesTexto::puedePerder(ElementoFormulario& elemento) {
+    if (!elemento.textoModificado()) return true;
+    const QString pregunta =
+        QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(elemento.tituloTexto());
+    switch (dialogos_.preguntaGuardar(pregunta)) {
+    case Destino::Guardar:
+        return guarda(elemento);
+    case Destino::Descartar:
+        return true;
+    case Destino::Cancelar:
+        return false;
+    }
+    return false;
+}
+
+} // namespace norvik::taller

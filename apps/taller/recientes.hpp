@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QMenu>
+#include <QSettings>
+#include <QString>
+
+namespace norvik::taller {
+
+/// A menu of the files of one kind that were last opened or saved, the last one first, kept in the settings.
+class Recientes final : public QObject {
+    Q_OBJECT
+
+public:
+    Recientes(QMenu& menu, QSettings& ajustes, const QString& clave);
+
+    void anota(const QString& fichero);
+    QStringList ficheros() const;
+
+signals:
+    void elegido(const QString& fichero);
+
+private:
+    void llenaMenu();
+
+    QMenu& menu_;
+    QSettings& ajustes_;
+    QString clave_;
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,234 @@
+#include "ventanaPrincipal.hpp"
+
+#include "portapapeles.hpp"
+#include "rutas.hpp"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QStatusBar>
+
+namespace norvik::taller {
+
+namespace {
+
+const QString claveGeometria = QStringLiteral("ventana/geometria");
+const QString claveEstado = QStringLiteral("ventana/estado");
+
+QStringList ficherosDe(const QMimeData& datos) {
+    QStringList ficheros;
+    for (const QUrl& url : datos.urls())
+        if (url.isLocalFile()) ficheros += url.toLocalFile();
+    return ficheros;
+}
+
+} // namespace
+
+VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
+    : dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
+      textosRecientes_(acciones_.textosRecientes, ajustes_, QStringLiteral("recientes/textos")),
+      formulariosRecientes_(acciones_.formulariosRecientes, ajustes_,
+                            QStringLiteral("recientes/formularios")),
+      textos_(formulario_, dialogos_, textosRecientes_),
+      formularios_(formulario_, textos_, dialogos_, formulariosRecientes_),
+      lenguajes_(formulario_, dialogos_, arbol_, mensaje_) {
+    setAcceptDrops(true);
+    compone();
+    conectaArchivo();
+    conectaEdicion();
+    conectaFormulario();
+    conectaLenguaje();
+    llenaEjemplos(entorno.ejemplos);
+    restoreGeometry(ajustes_.value(claveGeometria).toByteArray());
+    restoreState(ajustes_.value(claveEstado).toByteArray());
+    otroActivo();
+    formulario_.setFocus();
+}
+
+void VentanaPrincipal::compone() {
+    resize(1000, 680);
+    columna_.setContentsMargins(4, 0, 4, 0);
+    columna_.addWidget(&formulario_, 1);
+    columna_.addWidget(&mensaje_);
+    centro_.setLayout(&columna_);
+    setCentralWidget(&centro_);
+    addDockWidget(Qt::RightDockWidgetArea, &arbol_);
+    resizeDocks({&arbol_}, {340}, Qt::Horizontal);
+    acciones_.ver.addAction(arbol_.toggleViewAction());
+    acciones_.ver.addAction(acciones_.barra.toggleViewAction());
+    statusBar()->addPermanentWidget(&lenguaje_);
+    statusBar()->addPermanentWidget(&lugar_);
+}
+
+/// What fails is told; nothing is raised out of a window's event.
+template <typename Orden>
+void VentanaPrincipal::intenta(Orden orden) {
+    try {
+        orden();
+    } catch (const ErrorNorvik& e) {
+        dialogos_.avisa({e.texto(), {}, Icono::Critico, Botones::Aceptar});
+    } catch (const std::exception& e) {
+        dialogos_.avisa({QString::fromUtf8(e.what()).toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
+    }
+}
+
+template <typename Orden>
+void VentanaPrincipal::conecta(QAction& accion, Orden orden) {
+    connect(&accion, &QAction::triggered, this, [this, orden] { intenta(orden); });
+}
+
+// ---- the commands
+
+void VentanaPrincipal::conectaArchivo() {
+    Acciones& a = acciones_;
+    conecta(a.nuevoTexto, [this] { textos_.nuevo(); });
+    conecta(a.abrirTexto, [this] { textos_.abre(); });
+    conecta(a.guardarTexto, [this] { textos_.guarda(); });
+    conecta(a.guardarTextoComo, [this] { textos_.guardaComo(); });
+    conecta(a.guardarTodo, [this] { formularios_.guardaTodo(); });
+    conecta(a.imprimir, [this] { formulario_.activo().norvik().control().Imprimir(); });
+    conecta(a.salir, [this] { close(); });
+    connect(&textosRecientes_, &Recientes::elegido, this,
+            [this](const QString& fichero) { intenta([&] { textos_.abre(fichero); }); });
+}
+
+void VentanaPrincipal::conectaEdicion() {
+    Acciones& a = acciones_;
+    const auto conControl = [this](QAction& accion, auto orden) {
+        conecta(accion, [this, orden] { orden(formulario_.activo().norvik()); });
+    };
+    conControl(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
+    conControl(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
+    conControl(a.cortar, corta);
+    conControl(a.copiar, copia);
+    conControl(a.pegar, pega);
+    conControl(a.seleccionarTodo, seleccionaTodo);
+    conControl(a.buscar, [](ControlNorvik& n) { n.control().ShowBuscarDialog(); });
+    conControl(a.reemplazar, [](ControlNorvik& n) { n.control().ShowReemplazarDialog(); });
+    conControl(a.acerca, [](ControlNorvik& n) { n.control().Acerca(); });
+}
+
+void VentanaPrincipal::conectaFormulario() {
+    Acciones& a = acciones_;
+    conecta(a.nuevoFormulario, [this] { formularios_.nuevo(); });
+    conecta(a.abrirFormulario, [this] { formularios_.abre(); });
+    conecta(a.guardarFormulario, [this] { formularios_.guarda(); });
+    conecta(a.guardarFormularioComo, [this] { formularios_.guardaComo(); });
+    conecta(a.anadir, [this] { formulario_.anade(); });
+    conecta(a.quitar, [this] { formularios_.quitaActivo(); });
+    connect(&a.disenio, &QAction::toggled, this,
+            [this](bool disenio) { intenta([&] { ponModo(disenio); }); });
+    connect(&formulariosRecientes_, &Recientes::elegido, this,
+            [this](const QString& fichero) { intenta([&] { formularios_.abre(fichero); }); });
+    connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
+    connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
+    connect(&formulario_, &Formulario::otroTexto, this, [this] {
+        actualizaTitulo();
+        actualizaLugar();
+    });
+    connect(&formulario_, &Formulario::cambiado, this, [this] {
+        actualizaTitulo();
+        actualizaOrdenes();
+    });
+}
+
+void VentanaPrincipal::conectaLenguaje() {
+    Acciones& a = acciones_;
+    conecta(a.abrirLenguaje, [this] { lenguajes_.abre(); });
+    conecta(a.guardarEspecificacion, [this] { lenguajes_.guardaEspecificacion(); });
+    conecta(a.analizar, [this] { analiza(); });
+    conecta(a.informe, [this] { lenguajes_.muestraInforme(); });
+    connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { lenguajes_.vaAlError(); });
+    connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
+        formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema);
+    });
+}
+
+void VentanaPrincipal::llenaEjemplos(const QList<Ejemplo>& ejemplos) {
+    acciones_.ejemplos.setEnabled(!ejemplos.isEmpty());
+    for (const Ejemplo& ejemplo : ejemplos) {
+        QAction* const accion = acciones_.ejemplos.addAction(ejemplo.nombre);
+        conecta(*accion, [this, ejemplo] {
+            lenguajes_.abre(ejemplo.especificacion);
+            if (!ejemplo.texto.isEmpty()) textos_.abre(ejemplo.texto);
+        });
+    }
+}
+
+void VentanaPrincipal::abre(const QString& fichero) {
+    intenta([&] {
+        const QString extension = QFileInfo(fichero).suffix().toLower();
+        if (extension == extensionFormulario) return formularios_.abre(fichero);
+        if (extension == extensionEspecificacion || extension == QLatin1String("bas"))
+            return lenguajes_.abre(fichero);
+        textos_.abre(fichero);
+    });
+}
+
+void VentanaPrincipal::ponModo(bool disenio) {
+    formulario_.ponModo(disenio ? Modo::Disenio : Modo::Ejecucion);
+    if (!disenio) lenguajes_.preparaTodos();
+}
+
+void VentanaPrincipal::analiza() {
+    analizado_ = &formulario_.activo();
+    if (!lenguajes_.analiza()) return;
+    arbol_.show();
+    statusBar()->showMessage(
+        QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(arbol_.modelo().nodos()), 8000);
+}
+
+// ---- what is shown
+
+void VentanaPrincipal::otroActivo() {
+    if (analizado_ != &formulario_.activo()) lenguajes_.olvidaAnalisis();
+    actualizaTitulo();
+    actualizaLugar();
+    actualizaOrdenes();
+}
+
+void VentanaPrincipal::actualizaTitulo() {
+    ElementoFormulario& activo = formulario_.activo();
+    const QString marcaFormulario = formulario_.modificado() ? QStringLiteral("*") : QString();
+    setWindowModified(activo.textoModificado());
+    setWindowTitle(activo.tituloTexto() + QStringLiteral("[*] — ") + formulario_.titulo() + marcaFormulario);
+    const QString nombre = activo.norvik().NomLenguaje();
+    lenguaje_.setText(nombre.isEmpty() ? QStringLiteral("Sin lenguaje") : nombre);
+}
+
+void VentanaPrincipal::actualizaLugar() {
+    Norvik& control = formulario_.activo().norvik().control();
+    lugar_.setText(
+        QStringLiteral("Línea %1, Columna %2").arg(control.LineaActual()).arg(control.ColumnaActual()));
+}
+
+void VentanaPrincipal::actualizaOrdenes() {
+    Acciones& a = acciones_;
+    const bool disenio = formulario_.modo() == Modo::Disenio;
+    for (QAction* const accion : {&a.deshacer, &a.rehacer, &a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo,
+                                  &a.buscar, &a.reemplazar})
+        accion->setEnabled(!disenio);
+    a.quitar.setEnabled(formulario_.elementos().size() > 1);
+}
+
+// ---- the window
+
+void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
+    bool seCierra = false;
+    intenta([&] { seCierra = formularios_.puedePerder(); });
+    if (!seCierra) return evento->ignore();
+    ajustes_.setValue(claveGeometria, saveGeometry());
+    ajustes_.setValue(claveEstado, saveState());
+    evento->accept();
+}
+
+void VentanaPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
+    if (!ficherosDe(*evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+}
+
+void VentanaPrincipal::dropEvent(QDropEvent* evento) {
+    evento->acceptProposedAction();
+    for (const QString& fichero : ficherosDe(*evento->mimeData())) abre(fichero);
+}
+
+} // namespace norvik::taller

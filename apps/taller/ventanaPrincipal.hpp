@@ -1,0 +1,74 @@
+#pragma once
+
+#include "acciones.hpp"
+#include "ordenesFormulario.hpp"
+#include "ordenesLenguaje.hpp"
+
+#include <QMainWindow>
+#include <QVBoxLayout>
+
+namespace norvik::taller {
+
+/// What the window is given from outside, which must outlive it.
+struct Entorno {
+    Dialogos& dialogos;
+    QSettings& ajustes;
+    QList<Ejemplo> ejemplos;
+};
+
+/// The workbench: a form in a window, with menus, the tree of the last parse and its error.
+class VentanaPrincipal final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit VentanaPrincipal(const Entorno& entorno);
+
+    /// Opens a file as what its ending says it is: a form, a language, else a text.
+    void abre(const QString& fichero);
+
+    // For those who drive it from outside.
+    Formulario& formulario() { return formulario_; }
+    Acciones& acciones() { return acciones_; }
+    PanelArbol& arbol() { return arbol_; }
+    PanelMensaje& mensaje() { return mensaje_; }
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+
+private:
+    template <typename Orden>
+    void conecta(QAction& accion, Orden orden);
+    template <typename Orden>
+    void intenta(Orden orden);
+    void conectaArchivo();
+    void conectaEdicion();
+    void conectaFormulario();
+    void conectaLenguaje();
+    void llenaEjemplos(const QList<Ejemplo>& ejemplos);
+    void compone();
+    void ponModo(bool disenio);
+    void analiza();
+    void otroActivo();
+    void actualizaTitulo();
+    void actualizaLugar();
+    void actualizaOrdenes();
+
+    Dialogos& dialogos_;
+    QSettings& ajustes_;
+    Acciones acciones_{*this};
+    Recientes textosRecientes_, formulariosRecientes_;
+    QWidget centro_;
+    QVBoxLayout columna_;
+    Formulario formulario_{&centro_};
+    PanelMensaje mensaje_{&centro_};
+    PanelArbol arbol_{this};
+    QLabel lenguaje_, lugar_;
+    OrdenesTexto textos_;
+    OrdenesFormulario formularios_;
+    OrdenesLenguaje lenguajes_;
+    ElementoFormulario* analizado_ = nullptr; ///< whose tree or error is shown
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,210 @@
+// The workbench's window, driven by its commands, with questions answered by a script.
+#include "taller/dialogosGuion.hpp"
+
+#include "apoyo/carpetaTemporal.hpp"
+#include "lenguaje.hpp"
+#include "ventanaPrincipal.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+using namespace norvik::taller;
+
+namespace {
+
+constexpr std::string_view calculadora = R"(ExpReg cifra = "[0-9]";
+Token num = "<cifra>+", TipoToken = TTNumero ("número");
+Token mas = "\+", TipoToken = TTOperador;
+E -> E mas num | num;
+)";
+
+class TallerTest : public testing::Test {
+protected:
+    TallerTest() { norvik().setFocus(); }
+    ControlNorvik& norvik() { return ventana.formulario().activo().norvik(); }
+    QString ruta(std::string_view nombre) const {
+        return QString::fromStdString((carpeta / nombre).string());
+    }
+    QString pon(std::string_view nombre, std::string_view bytes) const {
+        return QString::fromStdString(carpeta.pon(nombre, bytes).string());
+    }
+    void escribe(const char* texto) { QTest::keyClicks(&norvik().caja().ventana(), texto); }
+    void ordena(QAction& accion) { accion.trigger(); }
+    /// True when the window let itself be closed.
+    bool cierra() {
+        QCloseEvent evento;
+        QApplication::sendEvent(&ventana, &evento);
+        return evento.isAccepted();
+    }
+
+    apoyo::CarpetaTemporal carpeta;
+    DialogosGuion dialogos;
+    QSettings ajustes{ruta("ajustes.ini"), QSettings::IniFormat};
+    VentanaPrincipal ventana{{dialogos, ajustes, {}}};
+    Acciones& a = ventana.acciones();
+};
+
+} // namespace
+
+TEST_F(TallerTest, AbreEscribeYGuarda) {
+    const QString uno = pon("uno.txt", "a\nb\n");
+    ventana.abre(uno);
+    EXPECT_EQ(ventana.windowTitle(), "uno.txt[*] — Formulario sin título");
+    escribe("x");
+    EXPECT_TRUE(ventana.isWindowModified());
+    ordena(a.guardarTexto);
+    EXPECT_FALSE(ventana.isWindowModified());
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "uno.txt"), "xa\r\nb\r\n");
+    escribe("y");
+    ordena(a.deshacer);
+    EXPECT_EQ(norvik().control().Text(), u"xa\r\nb");
+    dialogos.ficheros = {ruta("dos.txt")};
+    ordena(a.guardarTextoComo);
+    EXPECT_EQ(dialogos.toma(), QStringList{"guardar Guardar texto [uno.txt]"});
+    EXPECT_EQ(ventana.windowTitle(), "dos.txt[*] — Formulario sin título");
+    EXPECT_EQ(ajustes.value("recientes/textos").toStringList(), QStringList({ruta("dos.txt"), uno}));
+    ventana.abre(ruta("falta.txt"));
+    EXPECT_EQ(dialogos.toma().size(), 1);
+    EXPECT_EQ(norvik().control().Text(), u"");
+}
+
+TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
+    const QString otro = pon("otro.txt", "otro");
+    escribe("mio");
+    const QString pregunta = "¿Quiere guardar los cambios de «Sin título»?";
+    const struct {
+        QAction* orden; ///< null closes the window
+    } casos[] = {{&a.nuevoTexto}, {&a.abrirTexto}, {&a.nuevoFormulario}, {nullptr}};
+    for (const auto& caso : casos) {
+        if (caso.orden == &a.abrirTexto) dialogos.ficheros = {otro};
+        if (caso.orden != nullptr) {
+            ordena(*caso.orden);
+        } else {
+            EXPECT_FALSE(cierra());
+        }
+        EXPECT_EQ(dialogos.toma().last(), pregunta);
+        EXPECT_EQ(norvik().control().Text(), u"mio");
+    }
+    // Saving that is given up, or fails, is no saving.
+    dialogos.destinos = {Destino::Guardar, Destino::Guardar};
+    dialogos.ficheros = {"", "/no/hay"};
+    EXPECT_FALSE(cierra());
+    EXPECT_FALSE(cierra());
+    EXPECT_EQ(dialogos.toma().last(), "aviso No se ha podido escribir el fichero «/no/hay».");
+    dialogos.destinos = {Destino::Guardar};
+    dialogos.ficheros = {ruta("mio.txt")};
+    EXPECT_TRUE(cierra());
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "mio.txt"), "mio\r\n");
+    norvik().Borde3D(false);
+    dialogos.toma();
+    EXPECT_FALSE(cierra());
+    EXPECT_EQ(dialogos.toma(),
+              QStringList{"¿Quiere guardar los cambios del formulario «Formulario sin título»?"});
+    dialogos.destinos = {Destino::Descartar};
+    EXPECT_TRUE(cierra());
+}
+
+TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
+    ordena(a.analizar);
+    EXPECT_EQ(dialogos.toma(),
+              QStringList{"aviso No hay ningún lenguaje cargado. Elija uno en el menú Lenguaje."});
+    ventana.abre(pon("suma.nvk", calculadora));
+    EXPECT_FALSE(ventana.formulario().modificado());
+    norvik().control().Text(u"1+\r\n23");
+    ordena(a.analizar);
+    EXPECT_EQ(ventana.mensaje().texto(), "");
+    const ModeloArbol& modelo = ventana.arbol().modelo();
+    EXPECT_EQ(modelo.nodos(), 5);
+    const QModelIndex raiz = modelo.index(0, 0);
+    EXPECT_EQ(raiz.data().toString(), "1. E → E mas num");
+    EXPECT_EQ(modelo.parent(modelo.index(2, 0, raiz)), raiz);
+    emit ventana.arbol().elegida(modelo.hojaDe(modelo.index(2, 0, raiz)));
+    EXPECT_EQ(norvik().control().SelText(), u"23");
+    EXPECT_EQ(modelo.hojaDe(raiz).lexema, "1");
+    norvik().control().Text(u"1\r\n+ +");
+    ordena(a.analizar);
+    EXPECT_EQ(ventana.mensaje().texto(), QString::fromStdU16String(norvik().control().GetmensajeError()));
+    emit ventana.mensaje().pideIr();
+    EXPECT_EQ(norvik().control().SelStart(), 5);
+    ventana.abre(pon("mal.nvk", "E -> ;; x"));
+    EXPECT_TRUE(dialogos.toma().last().startsWith("aviso El lenguaje de Norvik1 no se ha podido cargar:"));
+    EXPECT_FALSE(tieneLenguaje(norvik()));
+}
+
+TEST_F(TallerTest, ElFormularioGuardaSusControles) {
+    ventana.abre(pon("suma.nvk", calculadora));
+    ventana.abre(pon("uno.txt", "1 2"));
+    norvik().Borde3D(false);
+    EXPECT_TRUE(ventana.formulario().modificado());
+    ordena(a.anadir);
+    EXPECT_EQ(ventana.formulario().activo().nombre(), "Norvik2");
+    norvik().EspaciosXTAB(7);
+    escribe("sin fichero");
+    dialogos.destinos = {Destino::Descartar};
+    dialogos.ficheros = {"", ruta("dos.txt"), ruta("f.nvf")};
+    ordena(a.guardarTodo); // given up
+    EXPECT_TRUE(ventana.formulario().modificado());
+    ordena(a.guardarTodo);
+    EXPECT_FALSE(ventana.formulario().modificado());
+    ordena(a.nuevoFormulario);
+    EXPECT_EQ(ventana.formulario().elementos().size(), 1U);
+    EXPECT_TRUE(norvik().Borde3D());
+    ventana.abre(ruta("f.nvf"));
+    ASSERT_EQ(ventana.formulario().elementos().size(), 2U);
+    ElementoFormulario& primero = *ventana.formulario().elementos()[0];
+    EXPECT_FALSE(primero.norvik().Borde3D());
+    EXPECT_EQ(primero.norvik().NomLenguaje(), "suma");
+    EXPECT_TRUE(tieneLenguaje(primero.norvik()));
+    EXPECT_EQ(primero.norvik().Text(), "1 2");
+    EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().EspaciosXTAB(), 7);
+    EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().Text(), "sin fichero");
+    EXPECT_FALSE(ventana.formulario().modificado());
+    // What is no form leaves the present one.
+    dialogos.toma();
+    for (const auto& [nombre, bytes] : {std::pair("a.nvf", "{"),
+                                        {"b.nvf", R"({"Controles":[]})"},
+                                        {"c.nvf", R"({"Controles":[{"Bolsa":{"Borde3D":"no"}}]})"}}) {
+        ventana.abre(pon(nombre, bytes));
+        EXPECT_EQ(dialogos.toma().size(), 1) << nombre;
+        EXPECT_EQ(ventana.formulario().elementos().size(), 2U) << nombre;
+        EXPECT_EQ(ventana.formulario().titulo(), "f") << nombre;
+    }
+}
+
+TEST_F(TallerTest, ModoDeDisenio) {
+    ordena(a.anadir);
+    ventana.show();
+    a.disenio.setChecked(true);
+    EXPECT_FALSE(a.deshacer.isEnabled());
+    ElementoFormulario& primero = *ventana.formulario().elementos()[0];
+    auto* velo = primero.findChild<VeloDisenio*>();
+    ASSERT_TRUE(velo->isVisible());
+    QTest::mouseClick(velo, Qt::LeftButton);
+    EXPECT_EQ(&ventana.formulario().activo(), &primero);
+    ordena(a.quitar);
+    EXPECT_EQ(ventana.formulario().activo().nombre(), "Norvik2");
+    a.disenio.setChecked(false);
+    EXPECT_TRUE(a.deshacer.isEnabled());
+    EXPECT_FALSE(ventana.formulario().activo().findChild<VeloDisenio*>()->isVisible());
+}
+
+TEST_F(TallerTest, FicherosQueSeSueltan) {
+    QMimeData datos;
+    datos.setUrls(
+        {QUrl::fromLocalFile(pon("suma.nvk", calculadora)), QUrl::fromLocalFile(pon("t.txt", "1"))});
+    ventana.show();
+    QWidget* const texto = static_cast<QPlainTextEdit&>(norvik().caja().ventana()).viewport();
+    QDragEnterEvent entrada({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(texto, &entrada);
+    EXPECT_TRUE(entrada.isAccepted());
+    QDropEvent evento({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(texto, &evento);
+    EXPECT_TRUE(tieneLenguaje(norvik()));
+    EXPECT_EQ(norvik().Text(), "1");
+}
