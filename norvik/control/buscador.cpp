@@ -3,7 +3,6 @@
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
-#include <utility>
 
 namespace norvik {
 
@@ -33,16 +32,12 @@ std::u16string tramoReemplazado(std::u16string_view texto, const std::vector<Coi
 } // namespace
 
 void Buscador::abre() {
-    if (destino_.textoDestino != nullptr) {
-        ocultaSeleccion_ = destino_.textoDestino->ocultaSeleccion();
-        destino_.textoDestino->ponOcultaSeleccion(false);
-    }
+    destino_.descubreSeleccion();
     estado_.dialogoAbierto = true;
 }
 
 void Buscador::cierra() {
-    const auto oculta = std::exchange(ocultaSeleccion_, std::nullopt);
-    if (destino_.textoDestino != nullptr && oculta) destino_.textoDestino->ponOcultaSeleccion(*oculta);
+    destino_.devuelveSeleccion();
     estado_.dialogoAbierto = false;
 }
 
@@ -136,11 +131,12 @@ void Buscador::reemplazaTodo(const Peticion& peticion, std::u16string_view con) 
           u"Reemplazo completado");
 }
 
-/// Above the dialog, which stands above all other windows.
 void Buscador::avisa(std::u16string_view texto, std::u16string_view titulo, Icono icono) {
+    if (destino_.sistema == nullptr) return;
     const bool cede = estado_.dialogoAbierto && ponEncima;
     if (cede) ponEncima(false);
-    sistema_.muestraMensaje({std::u16string(texto), std::u16string(titulo), icono, Botones::Aceptar});
+    destino_.sistema->muestraMensaje(
+        {std::u16string(texto), std::u16string(titulo), icono, Botones::Aceptar});
     if (cede) ponEncima(true);
 }
 

@@ -2,7 +2,6 @@
 
 #include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/platform/emparejador.hpp"
-#include "norvik/platform/sistema.hpp"
 
 #include <array>
 #include <functional>
@@ -28,9 +27,9 @@ struct Peticion {
 /// process's one search state. A pattern that is malformed or runs away is told and changes nothing.
 class Buscador {
 public:
-    /// Searches the find dialog's text, or another one, which must outlive the searcher.
-    explicit Buscador(Sistema& sistema, const DestinoBusqueda& destino = estadoBusqueda())
-        : sistema_(sistema), destino_(destino) {}
+    /// Searches the find dialog's text, or another one, which must outlive the searcher. Messages are told by
+    /// the services that belong to the text.
+    explicit Buscador(DestinoBusqueda& destino = estadoBusqueda()) : destino_(destino) {}
 
     /// The find dialog is shown for the first time since it was closed: a found text stays visibly selected.
     void abre();
@@ -43,6 +42,8 @@ public:
     /// "Reemplazar todo": replaces every match, as one step of Undo, and says how many they were.
     void reemplazaTodo(const Peticion& peticion, std::u16string_view con);
 
+    /// Tells something above the dialog, which stands above all other windows.
+    void avisa(std::u16string_view texto, std::u16string_view titulo = {}, Icono icono = Icono::Informacion);
     /// The dialog gives up its place above all windows (false) while a message is shown, and takes it again.
     std::function<void(bool encima)> ponEncima;
 
@@ -53,12 +54,9 @@ private:
     void selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe);
     void empieza(const Peticion& peticion);
     void recuerda();
-    void avisa(std::u16string_view texto, std::u16string_view titulo = {}, Icono icono = Icono::Informacion);
 
-    Sistema& sistema_;
-    const DestinoBusqueda& destino_;
+    DestinoBusqueda& destino_;
     EstadoBusqueda& estado_ = estadoBusqueda();
-    std::optional<bool> ocultaSeleccion_; ///< of the box, before the dialog was opened
 };
 
 } // namespace norvik

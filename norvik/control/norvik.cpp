@@ -20,8 +20,8 @@ Norvik::Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor)
 
 Norvik::~Norvik() {
     caja_.eventos = {};
-    DestinoBusqueda& destino = estadoBusqueda();
-    if (destino.textoDestino == &caja_) destino = {};
+    EstadoBusqueda& busqueda = estadoBusqueda();
+    if (busqueda.textoDestino == &caja_) busqueda.apunta({});
 }
 
 void Norvik::alFallarElAnalisis(const Mensaje& mensaje) {
@@ -70,9 +70,11 @@ std::int32_t Norvik::Find(std::u16string_view cadena, std::int32_t comienzo, std
 }
 
 DestinoBusqueda Norvik::destinoBusqueda() {
-    return {&caja_, [this](std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+    return {&caja_, &sistema_,
+            [this](std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
                 sustituye(inicio, longitud, nuevo);
-            }};
+            },
+            std::nullopt};
 }
 
 void Norvik::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
@@ -83,7 +85,7 @@ void Norvik::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16strin
 }
 
 void Norvik::ShowBuscarDialog() {
-    static_cast<DestinoBusqueda&>(estadoBusqueda()) = destinoBusqueda();
+    estadoBusqueda().apunta(destinoBusqueda());
     contenedor_.muestraBuscar();
 }
 

@@ -1,6 +1,8 @@
 #include "norvik/tools/controlNorvik.hpp"
 
+#include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
+#include "norvik/tools/reemplazar.hpp"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -38,6 +40,7 @@ void ControlNorvik::conectaEventos() {
 
 /// The elements go one by one, and nobody is there to see the last events of one.
 ControlNorvik::~ControlNorvik() {
+    buscar::olvida(*this);
     for (QWidget* e : observados()) e->removeEventFilter(this);
 }
 
@@ -106,6 +109,14 @@ void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& luga
 
 void ControlNorvik::muestraInforme() {
     MuestraInforme(control_.Gramatica(), control_.Lexico(), sistema_, this);
+}
+
+void ControlNorvik::muestraBuscar() {
+    buscar::muestra(*this);
+}
+
+void ControlNorvik::muestraReemplazar() {
+    Reemplazar::muestra(*this, {estadoBusqueda().ultimaBusqueda});
 }
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {

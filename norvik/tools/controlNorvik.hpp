@@ -152,6 +152,8 @@ private:
     void coloca(const Disposicion& disposicion) override;
     void ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) override;
     void muestraInforme() override;
+    void muestraBuscar() override;
+    void muestraReemplazar() override;
 
     void conectaEventos();
     void conectaElementos();

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "norvik/base/errores.hpp"
-#include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
+#include "norvik/tools/fallos.hpp"
 
 #include <QPointer>
 #include <QString>
@@ -35,18 +34,10 @@ void muestraModal(SistemaQt& sistema, Argumentos&&... argumentos) {
     if (viva.isNull()) static_cast<void>(ventana.release());
 }
 
-/// Carries out a command of a window. A failure ends it and is told in a plain message box: the event loop
-/// that called can do nothing with it.
+/// Carries out a command of a window; a failure is told in a plain message box.
 template <typename Orden>
 void ejecuta(Sistema& sistema, Orden orden) {
-    std::u16string fallo;
-    try {
-        orden();
-    } catch (const ErrorNorvik& e) {
-        fallo = e.texto();
-    } catch (const std::exception& e) {
-        fallo = QString::fromUtf8(e.what()).toStdU16String();
-    }
+    const std::u16string fallo = falloDe(orden);
     if (!fallo.empty()) sistema.muestraMensaje({fallo, {}});
 }
 

@@ -35,7 +35,7 @@ protected:
     }
 
     Anfitrion a;
-    Buscador buscador{a.sistema};
+    Buscador buscador;
 };
 
 constexpr auto noEsta = " | : No se encontró el texto de busqueda";
@@ -111,6 +111,13 @@ TEST_F(BusquedaTest, LaVentanaCedeSuPuesto) {
     buscador.cierra();
     EXPECT_TRUE(a.caja.ocultaSeleccion());
     EXPECT_FALSE(estadoBusqueda().dialogoAbierto);
+    buscador.abre();
+    Anfitrion otro;
+    otro.norvik.ShowBuscarDialog(); // it goes on in another text
+    EXPECT_TRUE(a.caja.ocultaSeleccion());
+    EXPECT_FALSE(otro.caja.ocultaSeleccion());
+    buscador.cierra();
+    EXPECT_TRUE(otro.caja.ocultaSeleccion());
 }
 
 TEST_F(BusquedaTest, LaExpresionDesbocadaSeDice) {

@@ -4,6 +4,7 @@
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
 
+#include <QApplication>
 #include <QScopedValueRollback>
 #include <QTextCursor>
 
@@ -73,6 +74,9 @@ void CajaTextoQt::ponIzquierda(std::int32_t twips) {
 
 void CajaTextoQt::enfoca() {
     vista_->setFocus();
+    const QWidget* const modal = QApplication::activeModalWidget();
+    const bool bloqueada = modal != nullptr && modal != vista_->window();
+    if (!bloqueada) vista_->activateWindow();
 }
 
 void CajaTextoQt::desbloqueaDibujo() {

@@ -1,0 +1,108 @@
+#include "norvik/tools/buscar.hpp"
+
+#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/tools/reemplazar.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <QEvent>
+#include <QWindow>
+
+namespace norvik {
+
+QPointer<buscar>& buscar::abierto() {
+    static QPointer<buscar> dialogo;
+    return dialogo;
+}
+
+void buscar::muestra(ControlNorvik& control) {
+    if (abierto().isNull()) {
+        buscar& dialogo = nuevo<buscar>(control.window());
+        abierto() = &dialogo;
+        dialogo.campos_.ponPeticion({estadoBusqueda().ultimaBusqueda});
+        dialogo.buscador_.abre();
+    }
+    abierto()->apunta(control);
+}
+
+void buscar::olvida(const ControlNorvik& control) {
+    if (!abierto().isNull() && abierto()->control_ == &control) abierto()->reject();
+}
+
+/// The window changes its place without being made anew, which it would be if its widget were told.
+void buscar::ponEncima(bool encima) {
+    if (abierto().isNull()) return;
+    buscar& dialogo = *abierto();
+    dialogo.overrideWindowFlags(dialogo.windowFlags().setFlag(Qt::WindowStaysOnTopHint, encima));
+    if (QWindow* const ventana = dialogo.windowHandle(); ventana != nullptr)
+        ventana->setFlag(Qt::WindowStaysOnTopHint, encima);
+}
+
+buscar::buscar(QWidget* ventana) : QDialog(ventana) {
+    setObjectName(QStringLiteral("buscar"));
+    setWindowTitle(QStringLiteral("Buscar"));
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    nombraElementos();
+    dispone(*this, campos_, {&command1_, &command2_, &command3_});
+    conecta();
+}
+
+buscar::~buscar() {
+    if (abierto() == this) buscador_.cierra();
+}
+
+void buscar::nombraElementos() {
+    nombra(command1_, "Command1", QStringLiteral("Buscar siguiente"));
+    nombra(command2_, "Command2", QStringLiteral("Cancelar"));
+    nombra(command3_, "Command3", QStringLiteral("Reemplazar"));
+}
+
+void buscar::conecta() {
+    buscador_.ponEncima = &buscar::ponEncima;
+    connect(&campos_, &CamposBusqueda::textoCambiado, &command1_, &QPushButton::setEnabled);
+    connect(&command1_, &QPushButton::clicked, this, &buscar::buscaSiguiente);
+    connect(&command2_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(&command3_, &QPushButton::clicked, this, &buscar::pasaAReemplazar);
+}
+
+/// Modal windows let only those be used that belong to them, so the dialog goes from window to window.
+void buscar::apunta(ControlNorvik& control) {
+    control_ = &control;
+    if (parentWidget() != control.window()) {
+        const QPoint donde = pos();
+        setParent(control.window(), windowFlags());
+        move(donde);
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void buscar::done(int resultado) {
+    buscador_.cierra();
+    abierto().clear();
+    QDialog::done(resultado);
+    deleteLater();
+}
+
+void buscar::changeEvent(QEvent* evento) {
+    QDialog::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow()) campos_.enfoca();
+}
+
+void buscar::buscaSiguiente() {
+    const auto fallo = falloDe([this] { buscador_.buscaSiguiente(campos_.peticion()); });
+    if (!fallo.empty()) buscador_.avisa(fallo, {}, Icono::Ninguno);
+    campos_.ponHistorial();
+}
+
+void buscar::pasaAReemplazar() {
+    if (control_.isNull()) return;
+    ControlNorvik& control = *control_;
+    const auto muestraOtro = [&control, peticion = campos_.peticion()] {
+        Reemplazar::muestra(control, peticion);
+    };
+    QMetaObject::invokeMethod(&control, muestraOtro, Qt::QueuedConnection);
+    reject();
+}
+
+} // namespace norvik

@@ -1,0 +1,107 @@
+#include "norvik/tools/camposBusqueda.hpp"
+
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace norvik {
+
+CamposBusqueda::CamposBusqueda(QWidget* padre) : QWidget(padre) {
+    hazEditable(combo1_, "Combo1", QStringLiteral("Buscar"));
+    for (const std::u16string_view direccion : direccionesBusqueda) combo2_.addItem(aQString(direccion));
+    nombra(combo2_, "Combo2", QStringLiteral("Dirección"));
+    nombra(check1_, "Check1", check1_.text());
+    nombra(check2_, "Check2", check2_.text());
+    connect(&combo1_, &QComboBox::editTextChanged, this,
+            [this](const QString& texto) { emit textoCambiado(!texto.isEmpty()); });
+    disponeAmbito();
+    dispone();
+}
+
+void CamposBusqueda::dispone() {
+    filas_.setContentsMargins(0, 0, 0, 0);
+    filas_.setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    filas_.addRow(QStringLiteral("Buscar :"), &combo1_);
+    filas_.addRow(QStringLiteral("&Dirección :"), &combo2_);
+    filas_.addRow(&check1_);
+    filas_.addRow(&check2_);
+    filas_.addRow(&ambito_);
+}
+
+/// The whole text is searched: that is all the choice there is.
+void CamposBusqueda::disponeAmbito() {
+    nombra(ambito_, "Frame1", ambito_.title());
+    ambito_.setEnabled(false);
+    auto& columna = nuevo<QVBoxLayout>(&ambito_);
+    const QString textos[] = {QStringLiteral("Texto seleccionado"), QStringLiteral("Todo del texto"),
+                              QStringLiteral("Texto no selecciona.")};
+    const char* const nombres[] = {"Option1", "Option2", "Option3"};
+    constexpr std::size_t elTodo = 1;
+    for (std::size_t i = 0; i < std::size(textos); ++i) {
+        auto& opcion = nuevo<QRadioButton>(textos[i], &ambito_);
+        nombra(opcion, nombres[i], textos[i]);
+        opcion.setChecked(i == elTodo);
+        columna.addWidget(&opcion);
+    }
+}
+
+Peticion CamposBusqueda::peticion() const {
+    return {combo1_.currentText().toStdU16String(), combo2_.currentText().toStdU16String(),
+            check1_.isChecked(), check2_.isChecked()};
+}
+
+void CamposBusqueda::ponPeticion(const Peticion& peticion) {
+    ponHistorial();
+    combo1_.setEditText(aQString(peticion.texto));
+    combo2_.setCurrentIndex(0);
+    check1_.setChecked(peticion.soloPalabrasCompletas);
+    check2_.setChecked(peticion.coincidirMayusculas);
+    emit textoCambiado(!peticion.texto.empty());
+}
+
+void CamposBusqueda::ponHistorial() {
+    ponTextos(combo1_, estadoBusqueda().historialBusquedas);
+}
+
+void CamposBusqueda::pon(QComboBox& lista, const QString& rotulo) {
+    filas_.insertRow(1, rotulo, &lista);
+    setTabOrder(&combo1_, &lista);
+    setTabOrder(&lista, &combo2_);
+}
+
+void hazEditable(QComboBox& lista, const char* nombre, const QString& accesible) {
+    nombra(lista, nombre, accesible);
+    lista.setEditable(true);
+    lista.setCompleter(nullptr);
+    lista.setInsertPolicy(QComboBox::NoInsert);
+    lista.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    constexpr int caracteres = 30;
+    lista.setMinimumContentsLength(caracteres);
+    lista.lineEdit()->setAccessibleName(accesible);
+}
+
+void ponTextos(QComboBox& lista, const std::vector<std::u16string>& textos) {
+    const QSignalBlocker sinAvisos(lista);
+    const QString escrito = lista.currentText();
+    lista.clear();
+    for (const std::u16string& texto : textos) lista.addItem(aQString(texto));
+    lista.setEditText(escrito);
+}
+
+void dispone(QDialog& dialogo, CamposBusqueda& campos, std::initializer_list<QPushButton*> botones) {
+    auto& fila = nuevo<QHBoxLayout>(&dialogo);
+    fila.addWidget(&campos, 1);
+    auto& columna = nuevo<QVBoxLayout>();
+    fila.addLayout(&columna);
+    for (QPushButton* boton : botones) columna.addWidget(boton);
+    columna.addStretch();
+    (*botones.begin())->setDefault(true);
+    fila.setSizeConstraint(QLayout::SetMinimumSize);
+}
+
+} // namespace norvik

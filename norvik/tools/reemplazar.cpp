@@ -1,0 +1,71 @@
+#include "norvik/tools/reemplazar.hpp"
+
+#include "norvik/tools/buscar.hpp"
+#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <algorithm>
+
+namespace norvik {
+
+void Reemplazar::muestra(ControlNorvik& control, const Peticion& peticion) {
+    buscar::ponEncima(false);
+    muestraModal<Reemplazar>(control.sistema(), control, peticion);
+    buscar::ponEncima(true);
+}
+
+Reemplazar::Reemplazar(ControlNorvik& control, const Peticion& peticion)
+    : QDialog(control.window()), destino_(control.control().destinoBusqueda()) {
+    setObjectName(QStringLiteral("Reemplazar"));
+    setWindowTitle(QStringLiteral("Reemplazar"));
+    nombraElementos();
+    campos_.pon(combo3_, QStringLiteral("Reemplazar con :"));
+    dispone(*this, campos_, {&command1_, &command2_, &command3_, &command4_});
+    conecta();
+    connect(&control, &QObject::destroyed, this, [this] {
+        destino_ = {};
+        reject();
+    });
+    ponTextos(combo3_, estadoBusqueda().historialReemplazos);
+    campos_.ponPeticion(peticion);
+    campos_.enfoca();
+    destino_.descubreSeleccion();
+}
+
+void Reemplazar::nombraElementos() {
+    hazEditable(combo3_, "Combo3", QStringLiteral("Reemplazar con"));
+    nombra(command1_, "Command1", QStringLiteral("Buscar siguiente"));
+    nombra(command2_, "Command2", QStringLiteral("Reemplazar"));
+    nombra(command3_, "Command3", QStringLiteral("Reemplazar todo"));
+    nombra(command4_, "Command4", QStringLiteral("Cancelar"));
+}
+
+void Reemplazar::conecta() {
+    conecta(command1_, [this] { buscador_.buscaSiguiente(campos_.peticion()); });
+    conecta(command2_, [this] { buscador_.reemplaza(campos_.peticion(), con()); });
+    conecta(command3_, [this] { buscador_.reemplazaTodo(campos_.peticion(), con()); });
+    connect(&command4_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+/// A command needs a text to search.
+template <typename Orden>
+void Reemplazar::conecta(QPushButton& boton, Orden orden) {
+    connect(&campos_, &CamposBusqueda::textoCambiado, &boton, &QPushButton::setEnabled);
+    connect(&boton, &QPushButton::clicked, this, [this, orden] {
+        const std::u16string fallo = falloDe(orden);
+        if (!fallo.empty()) buscador_.avisa(fallo, {}, Icono::Ninguno);
+        recuerda();
+    });
+}
+
+void Reemplazar::recuerda() {
+    campos_.ponHistorial();
+    auto& historial = estadoBusqueda().historialReemplazos;
+    const std::u16string puesto = con();
+    const bool nuevo = std::find(historial.begin(), historial.end(), puesto) == historial.end();
+    if (puesto.empty() || !nuevo) return;
+    historial.push_back(puesto);
+    ponTextos(combo3_, historial);
+}
+
+} // namespace norvik

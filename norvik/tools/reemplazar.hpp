@@ -1,0 +1,45 @@
+#pragma once
+
+#include "norvik/control/buscador.hpp"
+#include "norvik/tools/camposBusqueda.hpp"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QPushButton>
+
+namespace norvik {
+
+class ControlNorvik;
+
+/// The replace dialog, which searches and changes the text of a control and closes when the control goes.
+class Reemplazar final : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Shows the dialog and comes back when it is closed.
+    static void muestra(ControlNorvik& control, const Peticion& peticion);
+
+    Reemplazar(ControlNorvik& control, const Peticion& peticion);
+    Reemplazar(const Reemplazar&) = delete;
+    Reemplazar& operator=(const Reemplazar&) = delete;
+    ~Reemplazar() override { destino_.devuelveSeleccion(); }
+
+private:
+    void nombraElementos();
+    void conecta();
+    template <typename Orden>
+    void conecta(QPushButton& boton, Orden orden);
+    std::u16string con() const { return combo3_.currentText().toStdU16String(); }
+    void recuerda();
+
+    DestinoBusqueda destino_;
+    Buscador buscador_{destino_};
+    CamposBusqueda campos_{this};
+    QComboBox combo3_{this};
+    QPushButton command1_{QStringLiteral("Buscar &siguiente"), this};
+    QPushButton command2_{QStringLiteral("&Reemplazar"), this};
+    QPushButton command3_{QStringLiteral("Reemplazar &todo"), this};
+    QPushButton command4_{QStringLiteral("&Cancelar"), this};
+};
+
+} // namespace norvik

@@ -1,0 +1,193 @@
+// The find and the replace dialog, as a person uses them.
+#include "norvik/tools/controlNorvik.hpp"
+#include "qt/sistemaDePrueba.hpp"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+
+namespace {
+
+class DialogosBusquedaTest : public testing::Test {
+protected:
+    DialogosBusquedaTest() {
+        estadoBusqueda() = {};
+        norvik.resize(300, 200);
+        formulario.show();
+        norvik.control().Text(u"ab AB cabo abc");
+        norvik.control().InicializaUndosYRedos();
+    }
+    ~DialogosBusquedaTest() override {
+        if (QDialog* dialogo = abierto()) dialogo->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    static QDialog* abierto() {
+        QDialog* hallado = nullptr;
+        for (QWidget* v : QApplication::topLevelWidgets()) {
+            if (v->objectName() == "buscar" && v->isVisible()) hallado = static_cast<QDialog*>(v);
+        }
+        return hallado;
+    }
+    template <typename Tipo>
+    static Tipo& en(QWidget* dialogo, const char* nombre) {
+        return *dialogo->findChild<Tipo*>(QLatin1String(nombre));
+    }
+    static void escribe(QWidget* dialogo, const char* lista, const QString& texto) {
+        en<QComboBox>(dialogo, lista).setEditText(QString());
+        QTest::keyClicks(en<QComboBox>(dialogo, lista).lineEdit(), texto);
+    }
+    static QString titulos(QWidget* dialogo) {
+        QString todos;
+        for (const QAbstractButton* b : dialogo->findChildren<QAbstractButton*>())
+            todos += b->text() + (b->isEnabled() ? "|" : "-|");
+        return todos;
+    }
+    QString seleccion() {
+        const QString texto = norvik.Text();
+        return texto.left(norvik.SelStart()) + '[' + norvik.SelText() + ']' +
+               texto.mid(norvik.SelStart() + norvik.SelLength());
+    }
+
+    QWidget formulario;
+    SistemaDePrueba sistema;
+    ControlNorvik norvik{sistema, &formulario};
+};
+
+TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
+    estadoBusqueda().historialBusquedas = {u"uno", u"otro"};
+    estadoBusqueda().ultimaBusqueda = u"uno";
+    norvik.HideSelection(true);
+    norvik.control().ShowBuscarDialog();
+    QCoreApplication::processEvents();
+    QDialog* dialogo = abierto();
+    ASSERT_NE(dialogo, nullptr);
+    EXPECT_EQ(dialogo->windowTitle(), "Buscar");
+    EXPECT_FALSE(dialogo->isModal());
+    EXPECT_TRUE(dialogo->windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_FALSE(norvik.caja().ocultaSeleccion());
+    EXPECT_EQ(titulos(dialogo),
+              "Sólo palabras completas|Coincidir mayúsculas y minúsculas|Texto seleccionado-|"
+              "Todo del texto-|Texto no selecciona.-|Buscar &siguiente|&Cancelar|"
+              "&Reemplazar ...|");
+    auto& lista = en<QComboBox>(dialogo, "Combo1");
+    EXPECT_EQ(lista.count(), 2);
+    EXPECT_EQ(lista.currentText(), "uno");
+    EXPECT_EQ(en<QComboBox>(dialogo, "Combo2").currentText(), "Todo");
+    EXPECT_TRUE(lista.lineEdit()->hasFocus());
+    escribe(dialogo, "Combo1", "");
+    EXPECT_FALSE(en<QPushButton>(dialogo, "Command1").isEnabled());
+
+    escribe(dialogo, "Combo1", "ab");
+    QTest::keyClick(lista.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(seleccion(), "ab [AB] cabo abc");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(norvik.caja().ventana().hasFocus()); // a text that was not searched before
+    EXPECT_EQ(lista.count(), 3);
+    dialogo->activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(lista.lineEdit()->hasFocus());
+    en<QCheckBox>(dialogo, "Check1").click();
+    en<QCheckBox>(dialogo, "Check2").click();
+    QTest::keyClick(lista.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(seleccion(), "ab [AB] cabo abc");
+    en<QComboBox>(dialogo, "Combo2").setCurrentText("Arriba");
+    en<QPushButton>(dialogo, "Command1").click();
+    EXPECT_EQ(seleccion(), "[ab] AB cabo abc");
+    EXPECT_TRUE(lista.lineEdit()->hasFocus());
+    EXPECT_EQ(sistema.dameMensajes(), (std::vector<Mensaje>{{u"Se ha buscado en la región especificada",
+                                                             u"Busqueda completada", Icono::Informacion}}));
+    escribe(dialogo, "Combo1", "a(");
+    en<QPushButton>(dialogo, "Command1").click();
+    EXPECT_EQ(sistema.dameMensajes()[0].icono, Icono::Exclamacion);
+    QTest::keyClick(lista.lineEdit(), Qt::Key_Escape);
+    EXPECT_EQ(abierto(), nullptr);
+    EXPECT_TRUE(norvik.caja().ocultaSeleccion());
+    EXPECT_FALSE(estadoBusqueda().dialogoAbierto);
+}
+
+TEST_F(DialogosBusquedaTest, UnSoloDialogoParaTodos) {
+    norvik.control().ShowBuscarDialog();
+    QDialog* dialogo = abierto();
+    QWidget modal;
+    auto otro = std::make_unique<ControlNorvik>(sistema, &modal);
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+    otro->control().Text(u"- ab");
+    otro->control().ShowBuscarDialog();
+    EXPECT_EQ(abierto(), dialogo);
+    EXPECT_EQ(dialogo->parentWidget(), &modal); // it can be used beside a modal window
+    EXPECT_TRUE(norvik.caja().ocultaSeleccion());
+    escribe(dialogo, "Combo1", "ab");
+    en<QPushButton>(dialogo, "Command1").click();
+    EXPECT_EQ(otro->SelText(), "ab");
+    otro.reset();
+    EXPECT_EQ(abierto(), nullptr); // it has nothing left to search
+    norvik.control().ShowBuscarDialog();
+    ASSERT_NE(abierto(), nullptr);
+    EXPECT_EQ(en<QComboBox>(abierto(), "Combo1").currentText(), "ab");
+}
+
+TEST_F(DialogosBusquedaTest, LoQueFallaAlBuscarSeDice) {
+    norvik.control().ShowBuscarDialog();
+    norvik.control().eventos.SelChange = [] { throw std::runtime_error("anfitrión"); };
+    escribe(abierto(), "Combo1", "abc");
+    en<QPushButton>(abierto(), "Command1").click();
+    EXPECT_EQ(sistema.dameMensajes(), (std::vector<Mensaje>{{u"anfitrión", {}}}));
+    EXPECT_EQ(seleccion(), "ab AB cabo [abc]");
+}
+
+TEST_F(DialogosBusquedaTest, Reemplazar) {
+    estadoBusqueda().ultimaBusqueda = u"ab";
+    sistema.usos.push_back([&](QWidget& d) {
+        EXPECT_EQ(d.windowTitle(), "Reemplazar");
+        EXPECT_TRUE(titulos(&d).endsWith("Buscar &siguiente|&Reemplazar|Reemplazar &todo|&Cancelar|"));
+        EXPECT_FALSE(norvik.caja().ocultaSeleccion());
+        escribe(&d, "Combo3", "xyz");
+        en<QPushButton>(&d, "Command2").click();
+        EXPECT_EQ(seleccion(), "ab [AB] cabo abc");
+        en<QPushButton>(&d, "Command2").click();
+        EXPECT_EQ(seleccion(), "ab xyz c[ab]o abc");
+        en<QPushButton>(&d, "Command3").click();
+        EXPECT_EQ(norvik.Text(), "xyz xyz cxyzo xyzc");
+        EXPECT_EQ(en<QComboBox>(&d, "Combo3").count(), 1);
+        QTest::keyClick(&d, Qt::Key_Escape);
+        EXPECT_FALSE(d.isVisible());
+    });
+    norvik.control().ShowReemplazarDialog();
+    EXPECT_EQ(sistema.ventanas, "Reemplazar ");
+    EXPECT_TRUE(norvik.caja().ocultaSeleccion());
+    EXPECT_EQ(sistema.dameMensajes()[0].texto, u"Se han hecho 3 reemplazos");
+    norvik.control().Undo();
+    EXPECT_EQ(norvik.Text(), "ab xyz cabo abc");
+}
+
+TEST_F(DialogosBusquedaTest, DeBuscarAReemplazar) {
+    norvik.control().ShowBuscarDialog();
+    escribe(abierto(), "Combo1", "cab");
+    bool usado = false;
+    sistema.usos.push_back([&](QWidget& d) {
+        usado = en<QComboBox>(&d, "Combo1").currentText() == "cab" && abierto() == nullptr;
+    });
+    en<QPushButton>(abierto(), "Command3").click();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(usado);
+}
+
+TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeReemplaza) {
+    auto suForm = std::make_unique<QWidget>();
+    ControlNorvik* otro = std::make_unique<ControlNorvik>(sistema, suForm.get()).release(); // the form's
+    suForm->show();
+    sistema.usos.push_back([&](QWidget&) { suForm.reset(); });
+    otro->control().ShowReemplazarDialog();
+    EXPECT_EQ(suForm, nullptr);
+}
+
+} // namespace
