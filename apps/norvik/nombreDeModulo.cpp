@@ -44,20 +44,6 @@ constexpr std::array palabrasDeCpp = {u"alignas"sv,       u"alignof"sv,      u"a
                                       u"void"sv,          u"volatile"sv,     u"wchar_t"sv,
                                       u"while"sv,         u"xor"sv,          u"xor_eq"sv};
 
-bool esCifra(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
-
-bool esLetra(char16_t c) {
-    const std::u16string_view una(&c, 1);
-    return c == u'_' || aMayusculas(una) != aMinusculas(una);
-}
-
-bool esIdentificador(std::u16string_view nombre) {
-    return !nombre.empty() && !esCifra(nombre.front()) &&
-           std::all_of(nombre.begin(), nombre.end(), [](char16_t c) { return esCifra(c) || esLetra(c); });
-}
-
 } // namespace
 
 bool esNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje) {

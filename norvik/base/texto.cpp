@@ -188,4 +188,14 @@ std::u16string aMinusculas(std::u16string_view texto) {
     return convierte(texto, [](std::wint_t c) { return towlower_l(c, localUnicode()); });
 }
 
+bool esIdentificador(std::u16string_view texto) {
+    const auto esCifra = [](char16_t c) { return c >= u'0' && c <= u'9'; };
+    const auto esLetra = [](char16_t c) {
+        const std::u16string_view una(&c, 1);
+        return c == u'_' || aMayusculas(una) != aMinusculas(una);
+    };
+    return !texto.empty() && !esCifra(texto.front()) &&
+           std::ranges::all_of(texto, [&](char16_t c) { return esCifra(c) || esLetra(c); });
+}
+
 } // namespace norvik

@@ -44,6 +44,9 @@ std::u16string aTexto(std::int64_t numero);
 std::u16string aMayusculas(std::u16string_view texto);
 std::u16string aMinusculas(std::u16string_view texto);
 
+/// True for a run of letters of any alphabet, digits and underscores that does not start with a digit.
+bool esIdentificador(std::u16string_view texto);
+
 /// True for "A" to "Z" (U+0041 to U+005A), by code unit.
 constexpr bool esMayusculaAZ(char16_t c) {
     return c >= u'A' && c <= u'Z';
