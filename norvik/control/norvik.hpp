@@ -250,7 +250,6 @@ private:
     void alFallarElAnalisis(const Mensaje& mensaje);
     void muestraErrorLexico(const std::u16string& mensaje);
     bool analizaEspecificacion(std::u16string_view codGramatica);
-    void generaTabla();
 
     CajaTexto& caja_;
     Sistema& sistema_;

@@ -5,6 +5,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/generacion.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 
@@ -112,34 +113,15 @@ bool Norvik::GeneraCompilador() {
     if (gramatica_.GetLeftRegla(1).empty()) return true;
     const std::u16string mensaje = gramatica_.chequeaGramatica();
     if (!mensaje.empty()) {
-        sistema_.muestraMensaje(
-            {mensaje, u"ERROR en la definición de la gramática", Icono::Critico, Botones::Aceptar});
+        sistema_.muestraMensaje(mensajeDeComprobacion(mensaje));
         return false;
     }
-    generaTabla();
+    {
+        const PunteroOcupado ocupado(sistema_);
+        generaTabla(gramatica_, sistema_);
+    }
     sistema_.procesaEventos();
     return true;
-}
-
-void Norvik::generaTabla() {
-    const PunteroOcupado ocupado(sistema_);
-    const auto dejaRepintar = [this] {
-        sistema_.ponPuntero(Puntero::Ocupado);
-        sistema_.procesaEventos();
-    };
-    try {
-        dejaRepintar();
-        gramatica_.inicializaConjuntos();
-        dejaRepintar();
-        gramatica_.creaConjuntos();
-        dejaRepintar();
-        gramatica_.creaAutomata();
-        dejaRepintar();
-        gramatica_.creaTablaSLR();
-    } catch (...) {
-        gramatica_.inicializaConjuntos(); // half the sets would be worse than none
-        throw;
-    }
 }
 
 // --- Parsing ---

@@ -9,6 +9,8 @@ struct RanurasDisenio {
     std::u16string especificacion;
     std::u16string textoPrueba;
     bool pendienteGuardar = false;
+
+    bool operator==(const RanurasDisenio&) const = default;
 };
 
 inline RanurasDisenio& ranurasDisenio() {
