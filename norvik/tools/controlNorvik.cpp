@@ -1,8 +1,10 @@
 #include "norvik/tools/controlNorvik.hpp"
 
+#include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
 #include "norvik/tools/reemplazar.hpp"
+#include "norvik/tools/ventanas.hpp"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -117,6 +119,10 @@ void ControlNorvik::muestraBuscar() {
 
 void ControlNorvik::muestraReemplazar() {
     Reemplazar::muestra(*this, {estadoBusqueda().ultimaBusqueda});
+}
+
+void ControlNorvik::muestraAcerca() {
+    muestraModal<Acerca>(sistema_, this);
 }
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {

@@ -154,6 +154,7 @@ private:
     void muestraInforme() override;
     void muestraBuscar() override;
     void muestraReemplazar() override;
+    void muestraAcerca() override;
 
     void conectaEventos();
     void conectaElementos();

@@ -1,0 +1,155 @@
+#include "norvik/tools/paginaColores.hpp"
+
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace norvik {
+
+namespace {
+
+struct ColorDelControl {
+    const char* propiedad;
+    std::u16string_view uso;
+};
+
+constexpr std::array coloresDelControl = {ColorDelControl{"ColorPR", u"palabras reservadas"},
+                                          ColorDelControl{"ColorOperadores", u"operadores"},
+                                          ColorDelControl{"ColorComentarios", u"comentarios"},
+                                          ColorDelControl{"ColorEtiquetas", u"etiquetas"},
+                                          ColorDelControl{"ColorNumeros", u"números"},
+                                          ColorDelControl{"ColorError", u"errores"},
+                                          ColorDelControl{"ColorCadena", u"cadenas"},
+                                          ColorDelControl{"ColorCaracter", u"caracteres"},
+                                          ColorDelControl{"ColorFechas", u"fechas"}};
+
+struct ColorConNombre {
+    QRgb color;
+    std::u16string_view nombre;
+};
+
+constexpr std::array coloresDePaleta = {
+    ColorConNombre{0x000000, u"Negro"},    ColorConNombre{0x800000, u"Granate"},
+    ColorConNombre{0x008000, u"Verde"},    ColorConNombre{0x808000, u"Oliva"},
+    ColorConNombre{0x000080, u"Marino"},   ColorConNombre{0x800080, u"Púrpura"},
+    ColorConNombre{0x008080, u"Turquesa"}, ColorConNombre{0x808080, u"Gris"},
+    ColorConNombre{0xC0C0C0, u"Plata"},    ColorConNombre{0xFF0000, u"Rojo"},
+    ColorConNombre{0x00FF00, u"Lima"},     ColorConNombre{0xFFFF00, u"Amarillo"},
+    ColorConNombre{0x0000FF, u"Azul"},     ColorConNombre{0xFF00FF, u"Fucsia"},
+    ColorConNombre{0x00FFFF, u"Cian"},     ColorConNombre{0xFFFFFF, u"Blanco"}};
+
+constexpr int columnasDePaleta = 8;
+
+/// A sample of a colour, with an edge that shows on any background.
+QIcon muestra(const QColor& color, const QWidget& en) {
+    const int lado = en.fontMetrics().height();
+    QPixmap imagen(QSize(lado, lado) * en.devicePixelRatioF());
+    imagen.setDevicePixelRatio(en.devicePixelRatioF());
+    imagen.fill(color);
+    QPainter pintor(&imagen);
+    pintor.setPen(en.palette().color(QPalette::Mid));
+    pintor.drawRect(0, 0, lado - 1, lado - 1);
+    return imagen;
+}
+
+QColor colorDe(const QListWidgetItem& propiedad) {
+    return propiedad.data(Qt::UserRole).value<QColor>();
+}
+
+} // namespace
+
+PaginaColores::PaginaColores(SistemaQt& sistema, QWidget* padre)
+    : PaginaPropiedades(sistema, QStringLiteral("Colores"), padre) {
+    setObjectName(QStringLiteral("StandardColor"));
+    nombra(propiedades_, "propiedades", QStringLiteral("Colores del Norvik"));
+    for (const ColorDelControl& c : coloresDelControl)
+        propiedades_.addItem(QStringLiteral("%1 (%2)").arg(QLatin1String(c.propiedad), aQString(c.uso)));
+    auto& columna = nuevo<QVBoxLayout>(this);
+    columna.addWidget(&titular(QStringLiteral("Colores de los elementos del lenguaje")));
+    columna.addWidget(&propiedades_);
+    auto& marco = nuevo<QGroupBox>(QStringLiteral("Color elegido"), this);
+    auto& dentro = nuevo<QVBoxLayout>(&marco);
+    dentro.addLayout(&paleta());
+    dentro.addLayout(&partes());
+    columna.addWidget(&marco);
+    connect(&propiedades_, &QListWidget::currentRowChanged, this, [this] { muestraElegida(); });
+    propiedades_.setCurrentRow(0);
+}
+
+QLayout& PaginaColores::paleta() {
+    auto& paleta = nuevo<QGridLayout>();
+    int i = 0;
+    for (const ColorConNombre& c : coloresDePaleta) {
+        auto& boton = nuevo<QToolButton>(this);
+        nombra(boton, "", aQString(c.nombre));
+        boton.setToolTip(boton.accessibleName());
+        boton.setIcon(muestra(QColor(c.color), *this));
+        boton.setFocusPolicy(Qt::StrongFocus);
+        connect(&boton, &QToolButton::clicked, this, [this, &c] { eligeColor(QColor(c.color)); });
+        paleta.addWidget(&boton, i / columnasDePaleta, i % columnasDePaleta);
+        ++i;
+    }
+    paleta.setColumnStretch(columnasDePaleta, 1);
+    return paleta;
+}
+
+QLayout& PaginaColores::partes() {
+    auto& filas = nuevo<QFormLayout>();
+    const std::array nombres = {QStringLiteral("&Rojo:"), QStringLiteral("&Verde:"),
+                                QStringLiteral("A&zul:")};
+    for (std::size_t i = 0; i < partes_.size(); ++i) {
+        partes_[i].setRange(0, 255);
+        nombra(partes_[i], "", QString(nombres[i]).remove(u'&').chopped(1));
+        connect(&partes_[i], &QSpinBox::valueChanged, this,
+                [this] { eligeColor(QColor(partes_[0].value(), partes_[1].value(), partes_[2].value())); });
+        filas.addRow(nombres[i], &partes_[i]);
+    }
+    return filas;
+}
+
+void PaginaColores::ponColor(QListWidgetItem& propiedad, const QColor& color) {
+    propiedad.setData(Qt::UserRole, color);
+    propiedad.setIcon(muestra(color, *this));
+    if (&propiedad == propiedades_.currentItem()) muestraElegida();
+}
+
+void PaginaColores::eligeColor(const QColor& color) {
+    if (color == colorDe(*propiedades_.currentItem())) return;
+    ponColor(*propiedades_.currentItem(), color);
+    marca();
+}
+
+void PaginaColores::muestraElegida() {
+    const QColor color = colorDe(*propiedades_.currentItem());
+    const std::array valores = {color.red(), color.green(), color.blue()};
+    for (std::size_t i = 0; i < partes_.size(); ++i) {
+        const QSignalBlocker callado(partes_[i]);
+        partes_[i].setValue(valores[i]);
+    }
+}
+
+void PaginaColores::lee(ControlNorvik& control) {
+    for (int i = 0; i < propiedades_.count(); ++i) {
+        const auto& c = coloresDelControl[static_cast<std::size_t>(i)];
+        ponColor(*propiedades_.item(i), aQColor(control.property(c.propiedad).toInt()));
+    }
+}
+
+bool PaginaColores::escribe(ControlNorvik& control) {
+    for (int i = 0; i < propiedades_.count(); ++i) {
+        const char* propiedad = coloresDelControl[static_cast<std::size_t>(i)].propiedad;
+        const QColor color = colorDe(*propiedades_.item(i));
+        if (color == aQColor(control.property(propiedad).toInt())) continue; // a value that is none stays
+        control.setProperty(propiedad, color.blue() << 16 | color.green() << 8 | color.red());
+    }
+    return true;
+}
+
+} // namespace norvik

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "norvik/tools/paginaPropiedades.hpp"
+
+#include <QListWidget>
+#include <QSpinBox>
+
+#include <array>
+
+namespace norvik {
+
+/// The page of the colours: a list of them, and for the one that is current a palette and its three parts.
+class PaginaColores final : public PaginaPropiedades {
+    Q_OBJECT
+
+public:
+    explicit PaginaColores(SistemaQt& sistema, QWidget* padre = nullptr);
+
+protected:
+    void lee(ControlNorvik& control) override;
+    bool escribe(ControlNorvik& control) override;
+
+private:
+    QLayout& paleta();
+    QLayout& partes();
+    void ponColor(QListWidgetItem& propiedad, const QColor& color);
+    void eligeColor(const QColor& color);
+    void muestraElegida();
+
+    QListWidget propiedades_{this};
+    std::array<QSpinBox, 3> partes_; ///< red, green, blue
+};
+
+} // namespace norvik

@@ -1,0 +1,31 @@
+#include "norvik/tools/probarLenguaje.hpp"
+
+#include "norvik/control/ranurasDisenio.hpp"
+
+namespace norvik {
+
+ProbarLenguaje::ProbarLenguaje(SistemaQt& sistema, QWidget* padre)
+    : VentanaEditor(sistema, "ProbarLenguaje", QStringLiteral("Ventana para código de pruebas"), padre) {
+    QAction& prueba = herramienta("Test", QStringLiteral("Test"), Qt::Key_F5, [this] { test(); });
+    ponEnBarra(prueba, QLatin1String("media-playback-start"));
+    ponMenus(QStringLiteral("&Archivo"), {&prueba},
+             QStringLiteral("Editor de códigos de prueba para gramática 1.0 alfa"));
+}
+
+void ProbarLenguaje::carga() {
+    cargada_ = true;
+    Norvik1().control().Text(ranurasDisenio().textoPrueba);
+    Norvik1().control().ColoreaTodo();
+}
+
+void ProbarLenguaje::alCerrar() {
+    if (cargada_) ranurasDisenio().textoPrueba = Norvik1().control().Text();
+}
+
+void ProbarLenguaje::test() {
+    if (!Norvik1().control().ConstruyeArbolSintactico()) return;
+    sistema().muestraMensaje(
+        {u"Análisis sintáctico correcto", u"Prueba de la gramática", Icono::Informacion});
+}
+
+} // namespace norvik

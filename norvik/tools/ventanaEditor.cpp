@@ -1,0 +1,183 @@
+#include "norvik/tools/ventanaEditor.hpp"
+
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/tools/iconos.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QStatusBar>
+
+namespace norvik {
+
+VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QString& titulo, QWidget* padre)
+    : QMainWindow(padre), sistema_(sistema), norvik1_(sistema, this), barra_(titulo, this), lugar_(this) {
+    setObjectName(QLatin1String(nombre));
+    setWindowTitle(titulo);
+    setContextMenuPolicy(Qt::NoContextMenu); // nothing there but hiding the bar
+    nombra(norvik1_, "Norvik1", titulo);
+    setCentralWidget(&norvik1_);
+    nombra(barra_, "SSActiveToolBars1", QStringLiteral("Herramientas"));
+    barra_.setMovable(false);
+    barra_.setFocusPolicy(Qt::NoFocus);
+    addToolBar(&barra_);
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    nombra(lugar_, "Panel1", QStringLiteral("Lugar del cursor"));
+    statusBar()->addWidget(&lugar_);
+    norvik1_.Colorear(true);
+    norvik1_.MuestraMensajesDeError(true);
+    norvik1_.MarcarErrores(true);
+    connect(&norvik1_, &ControlNorvik::SelChange, this, [this] { muestraLugar(); });
+    connect(&norvik1_, &ControlNorvik::change, this, [this] { muestraHistorial(); });
+    const QFontMetrics letra(norvik1_.Font());
+    constexpr int columnas = 90;
+    constexpr int lineas = 32;
+    resize(letra.horizontalAdvance(u'x') * columnas, letra.lineSpacing() * lineas);
+    muestraLugar();
+}
+
+// ---- commands
+
+void VentanaEditor::ejecuta(const std::function<void()>& orden) {
+    if (ocupada_) return;
+    const QScopedValueRollback<bool> ocupada(ocupada_, true);
+    norvik::ejecuta(sistema_, orden);
+    norvik::ejecuta(sistema_, [this] {
+        muestraLugar();
+        muestraHistorial();
+    });
+}
+
+QAction& VentanaEditor::herramienta(const char* id, const QString& rotulo, const QKeySequence& teclas,
+                                    const std::function<void()>& orden) {
+    auto& accion = nuevo<QAction>(rotulo, this);
+    accion.setObjectName(QLatin1String(id));
+    accion.setShortcut(teclas);
+    addAction(&accion);
+    connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(orden); });
+    return accion;
+}
+
+/// A tool that does nothing, and looks so.
+QAction& VentanaEditor::sinAccion(const char* id, const QString& rotulo) {
+    QAction& accion = herramienta(id, rotulo, {}, [] {});
+    accion.setEnabled(false);
+    return accion;
+}
+
+void VentanaEditor::ponEnBarra(QAction& accion, QLatin1String imagen) {
+    accion.setIcon(icono(imagen));
+    barra_.addAction(&accion);
+}
+
+void VentanaEditor::ponMenus(const QString& primero, const QList<QAction*>& propias,
+                             const QString& informacion) {
+    QAction& imprimir = herramienta("imprimir", QStringLiteral("&Imprimir"), QKeySequence::Print,
+                                    [this] { norvik1_.control().Imprimir(); });
+    QAction& salir =
+        herramienta("salir", QStringLiteral("Salir"), QStringLiteral("Ctrl+Q"), [this] { cierra(); });
+    QMenu& menu = *menuBar()->addMenu(primero);
+    menu.addActions(propias);
+    menu.addAction(&imprimir);
+    menu.addSeparator();
+    menu.addAction(&salir);
+    barra_.addSeparator();
+    ponEnBarra(imprimir, QLatin1String("document-print"));
+    ponEdicion();
+    ponAyuda(informacion);
+}
+
+void VentanaEditor::ponEdicion() {
+    Norvik& control = norvik1_.control();
+    undo_ = &herramienta("ID_Undo", QStringLiteral("Undo"), QStringLiteral("Ctrl+Z"),
+                         [&control] { control.Undo(); });
+    redo_ = &herramienta("ID_Redo", QStringLiteral("Redo"), QStringLiteral("Ctrl+Y"),
+                         [&control] { control.Redo(); });
+    QAction& todo = herramienta("seleccionarTodo", QStringLiteral("Seleccionar todo"),
+                                QStringLiteral("Ctrl+A"), [this] { seleccionaTodo(); });
+    QAction& borra = herramienta("Clear", QStringLiteral("Borrar todo"), {}, [this] { borraTodo(); });
+    QAction& busca = herramienta("buscar", QStringLiteral("Buscar"), QStringLiteral("Ctrl+F"),
+                                 [&control] { control.ShowBuscarDialog(); });
+    sinAccion("buscarSiguiente", {});
+    sinAccion("reemplazar", {});
+    QMenu& menu = *menuBar()->addMenu(QStringLiteral("&Edición"));
+    menu.addActions({undo_, redo_});
+    menu.addSeparator();
+    menu.addActions({&sinAccion("copiar", QStringLiteral("Copiar")),
+                     &sinAccion("cortar", QStringLiteral("Cortar")),
+                     &sinAccion("pegar", QStringLiteral("Pegar"))});
+    menu.addSeparator();
+    menu.addActions({&todo, &borra});
+    barra_.addSeparator();
+    ponEnBarra(*undo_, QLatin1String("edit-undo"));
+    ponEnBarra(*redo_, QLatin1String("edit-redo"));
+    barra_.addSeparator();
+    ponEnBarra(busca, QLatin1String("edit-find"));
+    muestraHistorial();
+}
+
+void VentanaEditor::ponAyuda(const QString& informacion) {
+    std::u16string texto = informacion.toStdU16String();
+    texto.append(saltoDeLinea).append(u"Componente de Norvik");
+    const Mensaje acerca{texto, u"Acerca de...", Icono::Pregunta};
+    QMenu& menu = *menuBar()->addMenu(QStringLiteral("A&yuda"));
+    menu.addActions({&sinAccion("ayuda", QStringLiteral("Indice")),
+                     &herramienta("acercaDe", QStringLiteral("Acerca de ..."), {},
+                                  [this, acerca] { sistema_.muestraMensaje(acerca); })});
+}
+
+void VentanaEditor::seleccionaTodo() {
+    Norvik& control = norvik1_.control();
+    const std::int16_t longitud = a16(norvik1_.caja().texto().size());
+    control.SelStart(0);
+    control.SelLength(longitud);
+}
+
+void VentanaEditor::borraTodo() {
+    const Respuesta respuesta = sistema_.muestraMensaje(
+        {u"Confirme borrar el contenido del texto", u"Atencion", Icono::Pregunta, Botones::AceptarCancelar});
+    if (respuesta == Respuesta::Aceptar) norvik1_.control().BorraTodo();
+}
+
+// ---- what is shown
+
+void VentanaEditor::muestraLugar() {
+    const Norvik& control = norvik1_.control();
+    lugar_.setText(QStringLiteral("Lin %1, Col %2").arg(control.LineaActual()).arg(control.ColumnaActual()));
+}
+
+void VentanaEditor::muestraHistorial() {
+    const Historial& historial = norvik1_.control().historial();
+    undo_->setEnabled(historial.undos().cuantas() > 1);
+    redo_->setEnabled(historial.redos().cuantas() > 0);
+}
+
+// ---- opening and closing
+
+void VentanaEditor::showEvent(QShowEvent* evento) {
+    QMainWindow::showEvent(evento);
+    if (evento->spontaneous()) return;
+    norvik1_.setFocus();
+    muestraLugar();
+    sistema_.ponPuntero(Puntero::Normal);
+}
+
+void VentanaEditor::changeEvent(QEvent* evento) {
+    QMainWindow::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow()) sistema_.ponPuntero(Puntero::Normal);
+}
+
+/// Not in the middle of a command, which then works on a window that is there.
+void VentanaEditor::closeEvent(QCloseEvent* evento) {
+    evento->setAccepted(!ocupada_);
+    if (!ocupada_) alCerrar();
+}
+
+void VentanaEditor::cierra() {
+    alCerrar();
+    hide();
+}
+
+} // namespace norvik
