@@ -75,6 +75,7 @@ private:
 
     CLI::App* nueva(const char* nombre, const char* segunda);
     Orden interpreta(const CLI::App& orden) const;
+    static void compruebaOpciones(const CLI::App& orden);
     void comprueba(const CLI::App& orden) const;
     Modulo modulo() const;
 
@@ -88,8 +89,8 @@ Linea::Linea() {
     app_.set_help_flag();
     app_.allow_extras();
     app_.require_subcommand(0, 1); // else a file named as an order would be taken for one
-    app_.add_flag("-h,--help", ayuda_);
-    app_.add_flag("--version", version_);
+    app_.add_flag("-h,--help", ayuda_)->disable_flag_override();
+    app_.add_flag("--version", version_)->disable_flag_override();
     for (const char* const nombre : {"analiza", "lexemas", "colorea"})
         nueva(nombre, "TEXTO")->add_option("--formato", palabras_.formato)->take_last();
     nueva("informe", nullptr)->add_option("-o", palabras_.carpeta)->take_last();
@@ -101,7 +102,7 @@ Linea::Linea() {
 CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
     CLI::App* const orden = app_.add_subcommand(nombre);
     orden->set_help_flag();
-    orden->add_flag("-h,--help", ayuda_);
+    orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
     orden->add_option(segunda != nullptr && std::string_view(segunda) == "TEXTO" ? "LENGUAJE"
                                                                                  : "ESPECIFICACION",
                       palabras_.primera);
@@ -113,12 +114,17 @@ Orden Linea::lee(int argc, const char* const* argv) {
     try {
         app_.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
+        const std::string_view ultima = argv[argc - 1];
         // An option takes the next word whatever it is, so that only the last one can lack its value.
-        throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(argv[argc - 1]));
+        if (ultima == "-o" || ultima == "--formato" || ultima == "--lenguaje")
+            throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
+        throw LineaIncorrecta(u"--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
         throw LineaIncorrecta(u"opción mal escrita");
     }
     const auto ordenes = app_.get_subcommands();
+    compruebaOpciones(app_);
+    if (!ordenes.empty()) compruebaOpciones(*ordenes[0]);
     if (ayuda_)
         return Contesta{std::string(ordenes.empty() ? ayudaGeneral() : ayudaDe(ordenes[0]->get_name()))};
     if (version_) return Contesta{"norvik " NORVIK_VERSION "\n"};
@@ -128,16 +134,18 @@ Orden Linea::lee(int argc, const char* const* argv) {
     return interpreta(*ordenes[0]);
 }
 
+void Linea::compruebaOpciones(const CLI::App& orden) {
+    for (const std::string& sobrante : orden.remaining())
+        if (sobrante.size() > 1 && sobrante[0] == '-' && sobrante != finDeOpciones)
+            throw LineaIncorrecta(u"opción desconocida: " + entreComillas(sobrante));
+}
+
 void Linea::comprueba(const CLI::App& orden) const {
     const bool faltaOrden = app_.get_subcommands().empty();
-    for (const std::string& sobrante : orden.remaining()) {
-        if (sobrante == finDeOpciones) continue;
-        const bool opcion = sobrante.size() > 1 && sobrante[0] == '-';
-        throw LineaIncorrecta((opcion       ? u"opción desconocida: "
-                               : faltaOrden ? u"orden desconocida: "
-                                            : u"sobra ") +
-                              entreComillas(sobrante));
-    }
+    for (const std::string& sobrante : orden.remaining())
+        if (sobrante != finDeOpciones)
+            throw LineaIncorrecta((faltaOrden ? u"orden desconocida: " : u"sobra ") +
+                                  entreComillas(sobrante));
     for (const CLI::Option* const opcion : orden.get_options())
         if (opcion->get_positional() && opcion->count() == 0)
             throw LineaIncorrecta(u"falta " + decodifica(opcion->get_name()) + u" (norvik " +

@@ -209,7 +209,9 @@ TEST_F(Orden, LaLineaIncorrectaSeExplicaEnUnaLinea) {
         {{"modulo", "x", "../y"}, "El nombre seleccionado para el lenguaje es incorrecto"},
         {{"modulo", "x", "class", "--lenguaje", "cpp"},
          "El nombre seleccionado para el lenguaje es incorrecto"},
-        {{"--help=quizás"}, "opción mal escrita"},
+        {{"--help=quizás"}, "--help y --version no llevan valor"},
+        {{"--version=3"}, "--help y --version no llevan valor"},
+        {{"-hx"}, "opción desconocida: «-x»"},
     };
     for (const auto& [palabras, error] : lineas)
         comprueba(ejecuta(palabras), 2, "", "norvik: " + error + "\n");
