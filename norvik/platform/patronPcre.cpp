@@ -44,7 +44,13 @@ void aniadeUnidad(std::u16string& texto, char16_t unidad) {
     texto.push_back(u'}');
 }
 
+// The library takes no notice of what repeats an empty class, even of a "*" that lets it be absent: a group
+// around it is repeated as it should be.
 void aniadeClase(std::u16string& texto, const ClaseUnidades& clase) {
+    if (clase.rangos().empty()) {
+        texto += u"(?:[])";
+        return;
+    }
     texto.push_back(u'[');
     for (const RangoUnidades& rango : clase.rangos()) {
         aniadeUnidad(texto, rango.desde);

@@ -75,15 +75,15 @@ private:
     }
 
     Nodo atomo(int nivel) {
-        static const std::u16string_view atomos[] = {u"a", u"b",    u"a",    u"b",     u"c",
-                                                     u".", u"[ab]", u"[^a]", u"[b-d]", u"\\w"};
-        const int que = uno(nivel > 0 ? 16 : 10);
-        if (que < 10) return {.texto = std::u16string(atomos[que])};
-        if (conMiradas_ && que == 10 && capturas_ > 0)
+        static const std::u16string_view atomos[] = {u"a",    u"b",    u"a",     u"b",   u"c", u".",
+                                                     u"[ab]", u"[^a]", u"[b-d]", u"\\w", u"[]"};
+        const int que = uno(nivel > 0 ? 17 : 11);
+        if (que < 11) return {.texto = std::u16string(atomos[que])};
+        if (conMiradas_ && que == 11 && capturas_ > 0)
             return {.tipo = Nodo::Tipo::Referencia, .numero = 1 + uno(capturas_)};
         Nodo nodo{.tipo = Nodo::Tipo::Grupo};
-        if (que >= 14) nodo.tipo = Nodo::Tipo::Captura;
-        if (conMiradas_ && que == 11) nodo.tipo = uno(2) == 0 ? Nodo::Tipo::Delante : Nodo::Tipo::DelanteNo;
+        if (que >= 15) nodo.tipo = Nodo::Tipo::Captura;
+        if (conMiradas_ && que == 12) nodo.tipo = uno(2) == 0 ? Nodo::Tipo::Delante : Nodo::Tipo::DelanteNo;
         if (nodo.tipo == Nodo::Tipo::Captura) nodo.numero = ++capturas_;
         nodo.hijos.push_back(alternativas(nivel - 1));
         return nodo;
@@ -224,6 +224,7 @@ private:
 
     bool toma(const std::u16string& t, char16_t c) const {
         if (t == u".") return c != u'\n';
+        if (t == u"[]") return false;
         if (t == u"[ab]") return iguales(c, u'a') || iguales(c, u'b');
         if (t == u"[^a]") return !iguales(c, u'a');
         if (t == u"[b-d]") return iguales(c, u'b') || iguales(c, u'c') || iguales(c, u'd');
