@@ -42,7 +42,7 @@ void Coloreado::pintaTokens(std::int32_t desde, std::int32_t hasta) {
 void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion) {
     const bool esPalabra = definicion.tipo == Norvik_PalabraReservada || definicion.tipo == Norvik_AutoExpReg;
     const bool corrige = opciones_.autoCorreccion && !opciones_.lenguajeSensible && esPalabra;
-    if (definicion.colorTexto == sinColor && !corrige) return;
+    if (definicion.colorTexto == sinColor && definicion.tipo != Norvik_AutoExpReg) return;
     caja_.selecciona(posicion, longitud);
     if (definicion.colorTexto != sinColor) caja_.ponColorSeleccion(definicion.colorTexto);
     if (corrige && caja_.textoSeleccionado() != definicion.expresion) {
