@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 // The LR(0) automaton (Knuth 1965), depth first, with two departures that decide which states exist. A target
 // is any state that contains the kernel sought, not only one with that very kernel; and of several the one
@@ -147,26 +148,35 @@ void ConstructorAutomata::anota(const estadoAutomata& estado) {
     ficha.momento = ++reloj_;
 }
 
+/// The group of an item's next symbol while a state is being grouped.
+std::int16_t& ConstructorAutomata::grupoDe(Item item) {
+    return grupoDeSimbolo_[indice(reglas_.cuerpo(item.regla)[indice(item.punto)])];
+}
+
 void ConstructorAutomata::agrupa(Marco& marco) {
     const estadoAutomata& estado = estados_[marco.estado];
     for (std::size_t i = 0; i < estado.items().size(); ++i) {
-        const Item item = estado.items()[i];
         marco.grupoDe.push_back(-1);
         if (estado.adyacentes()[i] == estadoAutomata::sinTransicion) continue;
-        int& grupo = grupoDeSimbolo_[indice(reglas_.cuerpo(item.regla)[indice(item.punto)])];
+        std::int16_t& grupo = grupoDe(estado.items()[i]);
         if (grupo < 0) {
-            grupo = static_cast<int>(marco.grupos.size());
+            grupo = static_cast<std::int16_t>(marco.grupos.size());
             marco.grupos.emplace_back();
         }
-        Grupo& suyo = marco.grupos[indice(grupo)];
-        suyo.miembros.push_back(i);
-        suyo.nucleo.push_back(numero(item) + 1);
-        suyo.firma |= bit(suyo.nucleo.back());
         marco.grupoDe.back() = grupo;
+        ++marco.grupos[indice(grupo)].cuantos;
     }
-    for (const Grupo& grupo : marco.grupos) {
-        const Item item = estado.items()[grupo.miembros.front()];
-        grupoDeSimbolo_[indice(reglas_.cuerpo(item.regla)[indice(item.punto)])] = -1;
+    std::int16_t total = 0;
+    for (Grupo& grupo : marco.grupos) {
+        grupo.inicio = total;
+        total = static_cast<std::int16_t>(total + std::exchange(grupo.cuantos, std::int16_t{0}));
+    }
+    marco.miembros.resize(indice(total));
+    for (std::size_t i = 0; i < marco.grupoDe.size(); ++i) {
+        if (marco.grupoDe[i] < 0) continue;
+        Grupo& grupo = marco.grupos[indice(marco.grupoDe[i])];
+        marco.miembros[indice(grupo.inicio + grupo.cuantos++)] = static_cast<std::int16_t>(i);
+        grupoDe(estado.items()[i]) = -1;
     }
 }
 
@@ -178,16 +188,18 @@ void ConstructorAutomata::avanza() {
     Grupo& grupo = marco.grupos[indice(numeroGrupo)];
     if (grupo.momento == reloj_) return;
     grupo.momento = reloj_;
-    if (const auto destino = busca(grupo)) return fija(grupo, *destino, estados_[marco.estado]);
+    estadoAutomata& estado = estados_[marco.estado];
+    const auto miembros = std::span(marco.miembros).subspan(indice(grupo.inicio), indice(grupo.cuantos));
+    nucleo_.clear();
+    for (const std::int16_t miembro : miembros) {
+        const auto [regla, punto] = estado.items()[indice(miembro)];
+        nucleo_.push_back({regla, static_cast<std::int16_t>(punto + 1)});
+    }
+    if (const auto destino = busca()) return fija(miembros, *destino, estado);
     if (numEstados_ >= maximoEstados)
         throw Desbordamiento(u"Desbordamiento: el autómata llega a 1000 estados");
-    fija(grupo, numEstados_, estados_[marco.estado]);
-    Nucleo nucleo;
-    for (const std::size_t miembro : grupo.miembros) {
-        const auto [regla, punto] = estados_[marco.estado].items()[miembro];
-        nucleo.push_back({regla, static_cast<std::int16_t>(punto + 1)});
-    }
-    apila(creaEstado(nucleo));
+    fija(miembros, numEstados_, estado);
+    apila(creaEstado(nucleo_));
 }
 
 estadoAutomata ConstructorAutomata::creaEstado(const Nucleo& nucleo) {
@@ -197,22 +209,25 @@ estadoAutomata ConstructorAutomata::creaEstado(const Nucleo& nucleo) {
     return estado;
 }
 
-void ConstructorAutomata::fija(const Grupo& grupo, std::int16_t destino, estadoAutomata& estado) {
-    for (const std::size_t miembro : grupo.miembros)
+void ConstructorAutomata::fija(std::span<const std::int16_t> miembros, std::int16_t destino,
+                               estadoAutomata& estado) {
+    for (const std::int16_t miembro : miembros)
         estado.setTransicionIndividual(static_cast<std::int16_t>(miembro + 1), destino);
 }
 
-/// The first state in the list's present order that contains the group's kernel.
-std::optional<std::int16_t> ConstructorAutomata::busca(const Grupo& grupo) const {
-    const auto candidatos = [this](int item) { return poseedores_[indice(item)].size(); };
-    const int raro = *std::ranges::min_element(grupo.nucleo, {}, candidatos);
+/// The first state in the list's present order that contains the kernel sought.
+std::optional<std::int16_t> ConstructorAutomata::busca() const {
+    const auto candidatos = [this](Item item) { return poseedores_[indice(numero(item))].size(); };
+    const Item raro = *std::ranges::min_element(nucleo_, {}, candidatos);
+    std::uint64_t firma = 0;
+    for (const Item item : nucleo_) firma |= bit(numero(item));
     const int* mejor = nullptr;
-    for (const int& candidato : poseedores_[indice(raro)]) {
+    for (const int& candidato : poseedores_[indice(numero(raro))]) {
         const EnLista& ficha = enLista_[indice(candidato)];
-        if ((grupo.firma & ~ficha.firma) != 0) continue;
+        if ((firma & ~ficha.firma) != 0) continue;
         if (mejor != nullptr && enLista_[indice(*mejor)].momento < ficha.momento) continue;
         const bool contiene = std::ranges::all_of(
-            grupo.nucleo, [&](int item) { return std::ranges::binary_search(ficha.nucleo, item); });
+            nucleo_, [&](Item item) { return std::ranges::binary_search(ficha.nucleo, numero(item)); });
         if (contiene) mejor = &candidato;
     }
     if (mejor == nullptr) return std::nullopt;

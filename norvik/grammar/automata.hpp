@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace norvik {
@@ -37,19 +38,19 @@ private:
         std::uint64_t firma = 0; ///< one bit for each of them, hashed
         std::uint32_t momento = 0;
     };
-    /// Items of a state with the same next symbol.
+    /// Items of a state with the same next symbol, as a part of `Marco::miembros`.
     struct Grupo {
-        std::vector<std::size_t> miembros;
-        std::vector<int> nucleo; ///< their numbers once the dot has moved on
-        std::uint64_t firma = 0;
+        std::int16_t inicio = 0;
+        std::int16_t cuantos = 0;
         std::uint32_t momento = 0; ///< of the last search; the list has not changed while it equals the clock
     };
-    /// A state whose transitions are being built.
+    /// A state whose transitions are being built; hundreds may be, of hundreds of items each.
     struct Marco {
         std::size_t estado = 0;
         std::size_t item = 0;
         std::vector<Grupo> grupos;
-        std::vector<int> grupoDe; ///< by item; −1 without transition
+        std::vector<std::int16_t> grupoDe;  ///< by item; −1 without transition
+        std::vector<std::int16_t> miembros; ///< 0-based items, group by group
     };
 
     int numero(Item item) const { return primerItem_[static_cast<std::size_t>(item.regla)] + item.punto; }
@@ -61,9 +62,10 @@ private:
     void apila(estadoAutomata estado);
     void anota(const estadoAutomata& estado);
     void agrupa(Marco& marco);
+    std::int16_t& grupoDe(Item item);
     void avanza();
-    std::optional<std::int16_t> busca(const Grupo& grupo) const;
-    static void fija(const Grupo& grupo, std::int16_t destino, estadoAutomata& estado);
+    std::optional<std::int16_t> busca() const;
+    static void fija(std::span<const std::int16_t> miembros, std::int16_t destino, estadoAutomata& estado);
     estadoAutomata creaEstado(const Nucleo& nucleo);
 
     const ReglasPartidas& reglas_;
@@ -76,7 +78,8 @@ private:
     std::vector<std::uint32_t> presentes_;     // by number of item: turn in which it was added
     std::vector<std::uint32_t> turnoCabeza_;   // by symbol: turn in which its rules were taken up …
     std::vector<int> siguienteRegla_;          // … and the next of them
-    std::vector<int> grupoDeSimbolo_;          // by symbol, −1 outside `agrupa`
+    std::vector<std::int16_t> grupoDeSimbolo_; // by symbol, −1 outside `agrupa`
+    Nucleo nucleo_;                            // what the search under way is for
     std::vector<Simbolo> pendientes_;
     std::uint32_t turno_ = 0;
     std::vector<Marco> pila_;
