@@ -51,14 +51,16 @@ bool Anfitrion::compila(std::u16string_view especificacion) {
     return control.GeneraCompilador();
 }
 
-bool Anfitrion::replica(std::u16string_view modulo) {
-    const auto error = CargaModulo(modulo, control);
+bool Anfitrion::replica(const fs::path& modulo) {
+    TextoPorTrozos texto(modulo);
+    const OrigenDeTexto origen = [&] { return texto.siguiente(); };
+    const auto error = CargaModulo(origen, control);
     if (error) avisa(error->mensaje());
     return !error;
 }
 
 bool Anfitrion::cargaLenguaje(const fs::path& fichero) {
-    return esModulo(fichero) ? replica(decodifica(leeBytes(fichero))) : compila(leeTextoDe(fichero));
+    return esModulo(fichero) ? replica(fichero) : compila(leeTextoDe(fichero));
 }
 
 void Anfitrion::cuentaError(std::u16string_view mensaje, std::u16string_view texto) {

@@ -38,7 +38,7 @@ public:
     int estado() const { return estado_; }
 
 private:
-    bool replica(std::u16string_view modulo);
+    bool replica(const std::filesystem::path& modulo);
     void avisa(std::u16string_view mensaje);
 };
 

@@ -10,6 +10,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -24,26 +25,6 @@ namespace norvik {
 namespace {
 
 namespace fs = std::filesystem;
-
-class Descriptor {
-public:
-    explicit Descriptor(int numero) : numero_(numero) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { cierra(); }
-
-    int numero() const { return numero_; }
-    bool abierto() const { return numero_ >= 0; }
-    bool cierra() {
-        if (!abierto()) return true;
-        const bool bien = close(numero_) == 0;
-        numero_ = -1;
-        return bien;
-    }
-
-private:
-    int numero_;
-};
 
 [[noreturn]] void falla(std::u16string_view accion, std::u16string_view nombre, std::u16string_view causa) {
     std::u16string texto(u"No se puede ");
@@ -66,17 +47,33 @@ bool tieneNombreImposible(const fs::path& fichero) {
     return fichero.native().find('\0') != std::string::npos;
 }
 
-std::string leeTodo(int descriptor, std::u16string_view nombre) {
-    std::string bytes;
+Descriptor abre(const fs::path& fichero) {
+    if (tieneNombreImposible(fichero)) falla(u"leer", entreComillas(fichero), causaDelSistema(EINVAL));
+    const int numero = open(fichero.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    if (numero < 0) falla(u"leer", entreComillas(fichero), causaDelSistema(errno));
+    return Descriptor(numero);
+}
+
+// Appends some bytes more; false at the end.
+bool leeMas(int descriptor, std::u16string_view nombre, std::string& bytes) {
     std::array<char, 65536> trozo{};
     for (;;) {
         const ssize_t leidos = read(descriptor, trozo.data(), trozo.size());
-        if (leidos == 0) return bytes;
         if (leidos < 0 && errno == EINTR) continue;
         if (leidos < 0) falla(u"leer", nombre, causaDelSistema(errno));
         bytes.append(trozo.data(), static_cast<std::size_t>(leidos));
-        if (bytes.size() > maximoDeFichero) falla(u"leer", nombre, causaDelSistema(EFBIG));
+        return leidos != 0;
     }
+}
+
+void compruebaTamanio(std::size_t bytes, std::u16string_view nombre) {
+    if (bytes > maximoDeFichero) falla(u"leer", nombre, causaDelSistema(EFBIG));
+}
+
+std::string leeTodo(int descriptor, std::u16string_view nombre) {
+    std::string bytes;
+    while (leeMas(descriptor, nombre, bytes)) compruebaTamanio(bytes.size(), nombre);
+    return bytes;
 }
 
 bool escribeTodo(int descriptor, std::string_view bytes) {
@@ -227,11 +224,8 @@ bool sePuedeRepetir(const fs::path& fichero) {
 } // namespace
 
 std::string leeBytes(const fs::path& fichero) {
-    const std::u16string nombre = entreComillas(fichero);
-    if (tieneNombreImposible(fichero)) falla(u"leer", nombre, causaDelSistema(EINVAL));
-    const Descriptor descriptor(open(fichero.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC));
-    if (!descriptor.abierto()) falla(u"leer", nombre, causaDelSistema(errno));
-    return leeTodo(descriptor.numero(), nombre);
+    const Descriptor descriptor = abre(fichero);
+    return leeTodo(descriptor.numero(), entreComillas(fichero));
 }
 
 std::string leeEntradaEstandar() {
@@ -240,6 +234,43 @@ std::string leeEntradaEstandar() {
 
 std::u16string leeTexto(const fs::path& fichero) {
     return normalizaLineas(decodifica(leeBytes(fichero)));
+}
+
+TextoPorTrozos::TextoPorTrozos(const fs::path& fichero)
+    : nombre_(entreComillas(fichero)), descriptor_(abre(fichero)) {
+    if (lseek(descriptor_.numero(), 0, SEEK_SET) != 0) { // a pipe gives its bytes but once
+        entero_ = decodifica(leeTodo(descriptor_.numero(), nombre_));
+        return;
+    }
+    std::size_t total = 0;
+    for (std::string trozo = bytes(); !trozo.empty(); trozo = bytes()) {
+        compruebaTamanio(total += trozo.size(), nombre_);
+        esUtf8_ = esUtf8_ && esUtf8(trozo);
+    }
+    lseek(descriptor_.numero(), 0, SEEK_SET);
+}
+
+// Up to the last byte that is a character by itself in every encoding, so that none is cut.
+std::string TextoPorTrozos::bytes() {
+    const auto esAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    std::string trozo = std::exchange(resto_, {});
+    while (leeMas(descriptor_.numero(), nombre_, trozo)) {
+        const auto fin = std::find_if(trozo.rbegin(), trozo.rend(), esAscii).base();
+        compruebaTamanio(trozo.size(), nombre_);
+        if (fin == trozo.begin()) continue;
+        resto_.assign(fin, trozo.end());
+        trozo.erase(fin, trozo.end());
+        return trozo;
+    }
+    return trozo;
+}
+
+std::u16string TextoPorTrozos::siguiente() {
+    if (!entero_.empty()) return std::exchange(entero_, {});
+    const std::string trozo = bytes();
+    const bool primero = std::exchange(primero_, false);
+    if (!esUtf8_) return desdeWindows1252(trozo);
+    return primero ? decodifica(trozo) : desdeUtf8(trozo).value_or(u"");
 }
 
 void escribeBytes(const fs::path& fichero, std::string_view bytes, Durabilidad durabilidad) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/codificacion.hpp"
+#include "norvik/base/descriptor.hpp"
 
 #include <cstddef>
 #include <filesystem>
@@ -19,6 +20,27 @@ std::string leeBytes(const std::filesystem::path& fichero);
 std::string leeEntradaEstandar();
 /// A text as the editor loads it: decoded, lines normalised.
 std::u16string leeTexto(const std::filesystem::path& fichero);
+
+/// Gives a text piece by piece, no character cut in two; nothing once it is over.
+using OrigenDeTexto = std::function<std::u16string()>;
+
+/// A file's text in pieces, decoded as `decodifica` does it, for one too long to be held whole. The file is
+/// read twice, the first time to tell its encoding. Both raise `ErrorDeFichero`.
+class TextoPorTrozos {
+public:
+    explicit TextoPorTrozos(const std::filesystem::path& fichero);
+    std::u16string siguiente();
+
+private:
+    std::string bytes();
+
+    std::u16string nombre_; ///< for messages
+    Descriptor descriptor_;
+    std::string resto_; ///< bytes read and not yet given
+    bool esUtf8_ = true;
+    bool primero_ = true;
+    std::u16string entero_; ///< what could be read once only
+};
 
 enum class Durabilidad { Normal, EnDisco };
 /// Writes a whole file beside its place and renames it over it: a failure at any step (`ErrorDeFichero`)

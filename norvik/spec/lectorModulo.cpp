@@ -2,7 +2,7 @@
 // a single pass with one line expected at each place, and whatever else stands there is named with its line:
 // a module cannot call itself or jump about. The text is first read into a list of calls and then replayed,
 // definitions and rules first although their procedures come last, as the calls of the main procedure say.
-// Time and memory grow with the length of the text.
+// Time grows with the length of the text, memory with the number of calls: the text itself passes by.
 
 #include "norvik/spec/lectorModulo.hpp"
 
@@ -13,7 +13,7 @@
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/lineasModulo.hpp"
 
-#include <variant>
+#include <utility>
 #include <vector>
 
 namespace norvik {
@@ -22,14 +22,14 @@ namespace {
 
 struct LlamadaSetER {
     std::u16string expresion;
-    std::u16string_view nombre;
+    std::u16string nombre;
     std::int32_t tipo = 0;
-    std::u16string_view pseudoToken;
+    std::u16string pseudoToken;
     std::int32_t base = 0;
     std::int32_t color = 0;
 };
 struct LlamadaSetRegla {
-    std::u16string_view regla;
+    std::u16string regla;
 };
 struct LlamadaDimension {
     std::int16_t filas = 0;
@@ -41,7 +41,7 @@ struct LlamadaElemento {
     std::int16_t valor = 0;
 };
 struct LlamadaSimbolo {
-    std::u16string_view simbolo;
+    std::u16string simbolo;
 };
 
 /// A call and the line where it stands.
@@ -51,7 +51,7 @@ struct Llamada {
     T datos;
 };
 
-/// All the calls of a module; texts without quotes are views of the module.
+/// All the calls of a module.
 struct Modulo {
     std::vector<Llamada<LlamadaSetER>> definiciones;
     std::vector<Llamada<LlamadaSetRegla>> reglas;
@@ -63,7 +63,7 @@ struct Modulo {
 /// The module's lines, in their order.
 class LectorModulo {
 public:
-    explicit LectorModulo(std::u16string_view texto) : lineas_(texto) {}
+    explicit LectorModulo(const OrigenDeTexto& origen) : lineas_(origen) {}
 
     Modulo lee() {
         cabecera();
@@ -171,7 +171,7 @@ private:
     }
 
     LineasModulo lineas_;
-    std::u16string_view nombre_;
+    std::u16string nombre_;
     Modulo modulo_;
 };
 
@@ -227,11 +227,20 @@ std::u16string ErrorModulo::mensaje() const {
 }
 
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control) {
-    Ejecucion ejecucion(control);
+    const OrigenDeTexto origen = [&] { return std::u16string(std::exchange(texto, {})); };
+    return CargaModulo(origen, control);
+}
+
+std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control) {
+    Modulo modulo;
     try {
-        ejecucion.ejecuta(LectorModulo(texto).lee());
+        modulo = LectorModulo(origen).lee();
     } catch (const ErrorModulo& error) {
         return error;
+    }
+    Ejecucion ejecucion(control);
+    try {
+        ejecucion.ejecuta(modulo);
     } catch (const ErrorNorvik& error) {
         return ErrorModulo{ejecucion.linea(), error.texto()};
     }

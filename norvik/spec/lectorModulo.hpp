@@ -1,5 +1,7 @@
 #pragma once
 
+#include "norvik/base/ficheros.hpp"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,5 +25,7 @@ struct ErrorModulo {
 /// and the kind of line ends. A call that raises a failure ends the replay with the calls before it done. The
 /// text is the file's, its line ends untouched: a pattern may contain some.
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control);
+/// The same of a text that comes in pieces. A failure of their origin (`ErrorDeFichero`) passes through.
+std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control);
 
 } // namespace norvik

@@ -20,10 +20,17 @@ void LineasModulo::falla(std::u16string texto) const {
     throw ErrorModulo{linea_, std::move(texto)};
 }
 
+void LineasModulo::pideMas() {
+    texto_.erase(0, std::exchange(pos_, 0));
+    const std::u16string pieza = origen_();
+    acabado_ = pieza.empty();
+    texto_ += pieza;
+}
+
 void LineasModulo::saltaBlancos() {
-    for (; pos_ < texto_.size(); ++pos_) {
+    for (; hay(1); ++pos_) {
         const char16_t c = texto_[pos_];
-        const bool acabaLinea = c == u'\n' || (c == u'\r' && !texto_.substr(pos_ + 1).starts_with(u'\n'));
+        const bool acabaLinea = c == u'\n' || (c == u'\r' && !sigueElFinDeUnSalto());
         if (acabaLinea) {
             ++linea_;
         } else if (c != u' ' && c != u'\t' && c != u'\r') {
@@ -33,13 +40,14 @@ void LineasModulo::saltaBlancos() {
 }
 
 bool LineasModulo::consume(std::u16string_view trozo) {
-    if (!texto_.substr(pos_).starts_with(trozo)) return false;
+    if (!hay(trozo.size()) || texto_.compare(pos_, trozo.size(), trozo) != 0) return false;
     pos_ += trozo.size();
     return true;
 }
 
 bool LineasModulo::es(std::u16string_view trozo, std::u16string_view otro) {
     saltaBlancos();
+    hay(trozo.size() + otro.size()); // so that the way back stays
     const std::size_t antes = pos_;
     if (consume(trozo) && consume(otro)) return true;
     pos_ = antes;
@@ -58,7 +66,7 @@ void LineasModulo::empieza(std::u16string_view trozo) {
 void LineasModulo::acaba(std::u16string_view trozo, std::u16string_view otro) {
     sigue(trozo);
     sigue(otro);
-    if (pos_ < texto_.size() && !esFinDeLinea(texto_[pos_])) falla(u"sobra texto al final de la línea");
+    if (hay(1) && !esFinDeLinea(texto_[pos_])) falla(u"sobra texto al final de la línea");
 }
 
 void LineasModulo::linea(std::u16string_view trozo, std::u16string_view otro, std::u16string_view ultimo) {
@@ -70,12 +78,12 @@ void LineasModulo::linea(std::u16string_view trozo, std::u16string_view otro, st
 
 void LineasModulo::fin() {
     saltaBlancos();
-    if (pos_ < texto_.size()) falla(u"sobra texto tras el último procedimiento");
+    if (hay(1)) falla(u"sobra texto tras el último procedimiento");
 }
 
-std::u16string_view LineasModulo::cadena() {
+std::u16string LineasModulo::cadena() {
     const std::int32_t suLinea = linea_;
-    const auto contenido = cadenaLarga();
+    std::u16string contenido = cadenaLarga();
     if (linea_ != suLinea) {
         linea_ = suLinea;
         falla(u"falta la comilla que cierra un texto");
@@ -83,21 +91,23 @@ std::u16string_view LineasModulo::cadena() {
     return contenido;
 }
 
-std::u16string_view LineasModulo::cadenaLarga() {
+std::u16string LineasModulo::cadenaLarga() {
     sigue(u"\"");
-    const std::size_t cierre = texto_.find(u'"', pos_);
-    if (cierre == std::u16string_view::npos) falla(u"falta la comilla que cierra un texto");
-    const auto contenido = texto_.substr(pos_, cierre - pos_);
-    for (; pos_ < cierre; ++pos_) {
+    std::size_t largo = 0;
+    for (; hay(largo + 1) && texto_[pos_ + largo] != u'"'; ++largo) {
+    }
+    if (!hay(largo + 1)) falla(u"falta la comilla que cierra un texto");
+    std::u16string contenido = texto_.substr(pos_, largo);
+    for (const std::size_t cierre = pos_ + largo; pos_ < cierre; ++pos_) {
         const char16_t c = texto_[pos_];
         if (c == u'\n' || (c == u'\r' && texto_[pos_ + 1] != u'\n')) ++linea_;
     }
-    pos_ = cierre + 1;
+    ++pos_;
     return contenido;
 }
 
 std::u16string LineasModulo::cadenaConComillas() {
-    std::u16string entera(cadenaLarga());
+    std::u16string entera = cadenaLarga();
     while (consume(u" & Chr$(34) & ")) entera.append(u"\"").append(cadenaLarga());
     return entera;
 }
@@ -107,7 +117,7 @@ std::int64_t LineasModulo::numero(std::int64_t minimo, std::int64_t maximo) {
     const bool negativo = consume(u"-");
     std::size_t cifras = 0;
     std::int64_t valor = 0;
-    for (; pos_ < texto_.size() && texto_[pos_] >= u'0' && texto_[pos_] <= u'9'; ++pos_, ++cifras) {
+    for (; hay(1) && texto_[pos_] >= u'0' && texto_[pos_] <= u'9'; ++pos_, ++cifras) {
         if (cifras < maximoDeCifras) valor = valor * 10 + (texto_[pos_] - u'0');
     }
     if (cifras == 0) falla(u"se esperaba un número");

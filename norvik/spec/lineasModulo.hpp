@@ -1,5 +1,8 @@
 #pragma once
 
+#include "norvik/base/ficheros.hpp"
+
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -7,10 +10,11 @@
 namespace norvik {
 
 /// The lines of a loading module, taken one by one: each is asked for in pieces, literal ones and values.
-/// What is not as asked is raised as an `ErrorModulo` with its line.
+/// What is not as asked is raised as an `ErrorModulo` with its line. Of the text no more is held than the
+/// line under way and a piece.
 class LineasModulo {
 public:
-    explicit LineasModulo(std::u16string_view texto) : texto_(texto) {}
+    explicit LineasModulo(const OrigenDeTexto& origen) : origen_(origen) {}
 
     /// The next line starts with these pieces, which are consumed; false, with nothing consumed, when not.
     bool es(std::u16string_view trozo, std::u16string_view otro = {});
@@ -25,9 +29,9 @@ public:
     void fin();
 
     /// A text between quotes on one line, which holds none.
-    std::u16string_view cadena();
+    std::u16string cadena();
     /// The same, line ends allowed.
-    std::u16string_view cadenaLarga();
+    std::u16string cadenaLarga();
     /// The same, with quotes written as `" & Chr$(34) & "`.
     std::u16string cadenaConComillas();
     std::int16_t numero16();
@@ -41,8 +45,17 @@ private:
     void saltaBlancos();
     bool consume(std::u16string_view trozo);
     std::int64_t numero(std::int64_t minimo, std::int64_t maximo);
+    /// True when the text has so many characters more; `texto_` then holds them.
+    bool hay(std::size_t cuantos) {
+        while (texto_.size() - pos_ < cuantos && !acabado_) pideMas();
+        return texto_.size() - pos_ >= cuantos;
+    }
+    void pideMas();
+    bool sigueElFinDeUnSalto() { return hay(2) && texto_[pos_ + 1] == u'\n'; }
 
-    std::u16string_view texto_;
+    const OrigenDeTexto& origen_;
+    bool acabado_ = false;
+    std::u16string texto_; // what has come and is not yet consumed begins at `pos_`
     std::size_t pos_ = 0;
     std::int32_t linea_ = 1;
 };
