@@ -14,7 +14,7 @@ int ejecuta(const Informe& orden, Salida& salida) {
     const gramatica& gramatica = anfitrion.control.Gramatica();
     const std::u16string problemas = gramatica.textoProblemas();
     if (orden.carpeta == flujo) {
-        salida.escribe(aUtf8(gramatica.textoInforme()));
+        gramatica.escribeInforme([&](std::u16string_view pieza) { salida.escribe(aUtf8(pieza)); });
         salida.vuelca(); // if that fails, the failure is all there is to tell
         salida.avisa(problemas);
     } else {

@@ -11,15 +11,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::u16string textoDe(Norvik& control, const Modulo& orden) {
+void escribe(Norvik& control, const Modulo& orden, Salida& salida) {
     const gramatica& gramatica = control.Gramatica();
+    const auto sumidero = [&](std::u16string_view pieza) { salida.escribe(aUtf8(pieza)); };
     switch (orden.lenguaje) {
     case LenguajeModulo::Vb:
-        return gramatica.textoModulo(orden.nombre, control.Lexico());
+        return gramatica.escribeModulo(orden.nombre, control.Lexico(), sumidero);
     case LenguajeModulo::Cpp:
-        return gramatica.textoModuloCpp(orden.nombre, control.Lexico());
+        return gramatica.escribeModuloCpp(orden.nombre, control.Lexico(), sumidero);
     }
-    return {};
 }
 
 /// Writes the module and gives its path.
@@ -46,7 +46,7 @@ int ejecuta(const Modulo& orden, Salida& salida) {
     Anfitrion anfitrion(salida);
     if (!anfitrion.compila(leeTextoDe(orden.especificacion))) return anfitrion.estado();
     if (orden.carpeta == flujo)
-        salida.escribe(aUtf8(textoDe(anfitrion.control, orden)));
+        escribe(anfitrion.control, orden, salida);
     else
         salida.escribe(guarda(anfitrion.control, orden).native() + "\n");
     return anfitrion.estado();

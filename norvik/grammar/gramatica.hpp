@@ -140,7 +140,8 @@ public:
     /// The conflict message, and the same shown in a message box titled "Conflictos".
     std::u16string textoProblemas() const;
     void MuestraProblemas(Sistema& sistema) const;
-    /// The report's text, and the same written to "informeGramatica.txt" in a folder.
+    /// The report, in pieces of whole lines, as one text, and written to "informeGramatica.txt" in a folder.
+    void escribeInforme(const SumideroDeTexto& sumidero) const;
     std::u16string textoInforme() const;
     void GuardaInforme(const std::filesystem::path& carpeta) const;
     /// What a report window shows: rules and sets; the automaton; header and cells of the table (1-based).
@@ -156,11 +157,15 @@ public:
 
     // Loading module ---------------------------------------------------------------------------------------
 
-    /// The module's text, and the same written to `nombre`.bas in a folder.
+    /// The module, in pieces of whole lines, as one text, and written to `nombre`.bas in a folder.
+    void escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
+                       const SumideroDeTexto& sumidero) const;
     std::u16string textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                const std::filesystem::path& carpeta) const;
-    /// The same calls as a C++ function, and the same written to `nombre`.hpp.
+    /// The same calls as a C++ function, written to `nombre`.hpp.
+    void escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
+                          const SumideroDeTexto& sumidero) const;
     std::u16string textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                          const std::filesystem::path& carpeta) const;
@@ -202,7 +207,6 @@ private:
     void escribeEstado(const estadoAutomata& estado, std::u16string& texto) const;
     std::u16string transiciones(const estadoAutomata& estado) const;
     void escribeTabla(std::u16string& texto, const SumideroDeTexto& sumidero) const;
-    void escribeInforme(const SumideroDeTexto& sumidero) const;
     void escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const;
     std::u16string accion(std::int16_t fila, std::int16_t columna) const;
     std::u16string problemasFila(std::int16_t fila) const;
@@ -213,13 +217,11 @@ private:
         std::int16_t columna = 0;
         std::int16_t valor = 0;
     };
+    std::vector<Celda> celdasFijas() const;
     std::vector<Celda> celdas(std::int16_t fila) const;
-    void escribeTablaCpp(std::u16string& texto) const;
-    void escribeEntradasFijas(std::u16string& texto) const;
+    void escribeTablaCpp(std::u16string& texto, const SumideroDeTexto& sumidero) const;
     void escribeEntradas(std::u16string& texto, std::u16string_view nombre,
                          const SumideroDeTexto& sumidero) const;
-    void escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
-                       const SumideroDeTexto& sumidero) const;
     void escribeSimbolos(std::u16string& texto) const;
     void escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const;
 

@@ -197,7 +197,10 @@ void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
     escribeLinea(texto, u"Especificación del automata:");
     escribeLinea(texto);
     escribeLinea(texto);
-    texto += textoAutomata();
+    for (const estadoAutomata& estado : estadosAutomata_) {
+        escribeEstado(estado, texto);
+        entregaSiSonMuchas(texto, sumidero);
+    }
     escribeLinea(texto, barras);
     escribeLinea(texto);
     escribeLinea(texto);

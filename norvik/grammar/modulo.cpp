@@ -86,16 +86,20 @@ void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
     escribeLinea(texto);
 }
 
+void escribeElemento(std::u16string& texto, std::int16_t fila, std::int16_t columna, std::int16_t valor) {
+    escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
+}
+
 } // namespace
 
-/// The two entries that reading the table makes up.
-void gramatica::escribeEntradasFijas(std::u16string& texto) const {
-    for (std::int16_t k = 1; k <= simbolos_.totalElementos(); ++k) {
-        if (k == columnas().inicial + 1)
-            escribeLinea(texto, llamada, u"SetElementoTablaSLR 1, ", k, u", 1");
-        else if (k == columnas().fin + 1)
-            escribeLinea(texto, llamada, u"SetElementoTablaSLR 2, ", k, u", 1000");
-    }
+/// The two entries that reading the table makes up, in column order.
+std::vector<gramatica::Celda> gramatica::celdasFijas() const {
+    std::vector<Celda> fijas;
+    const auto& [calculadas, inicial, fin, cabezas] = columnas();
+    if (inicial >= 0) fijas.push_back({1, static_cast<std::int16_t>(inicial + 1), 1});
+    if (fin >= 0 && fin != inicial) fijas.push_back({2, static_cast<std::int16_t>(fin + 1), aceptar});
+    std::ranges::sort(fijas, {}, &Celda::columna);
+    return fijas;
 }
 
 void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre,
@@ -108,7 +112,7 @@ void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombr
                 abreOtroProcedimiento(texto, nombre, ++procedimiento);
                 entradas = 0;
             }
-            escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
+            escribeElemento(texto, fila, columna, valor);
             ++entradas;
         }
         entregaSiSonMuchas(texto, sumidero);
@@ -163,7 +167,7 @@ void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexi
     escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ",
                  simbolos_.totalElementos());
     escribeLinea(texto);
-    escribeEntradasFijas(texto);
+    for (const auto& [fila, columna, valor] : celdasFijas()) escribeElemento(texto, fila, columna, valor);
     escribeEntradas(texto, nombre, sumidero);
     escribeSimbolos(texto);
     cierraProcedimiento(texto);

@@ -4,6 +4,8 @@
 #include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
+#include <algorithm>
+
 // The loading module as a C++ header: the calls of the Visual Basic module in the same order, those of one
 // kind as a table and a loop. The source is plain ASCII, whatever the language's texts are.
 namespace norvik {
@@ -66,31 +68,29 @@ void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
 
 } // namespace
 
-void gramatica::escribeTablaCpp(std::u16string& texto) const {
-    std::vector<Celda> entradas;
-    const Columnas& fijas = columnas();
-    for (std::int16_t k = 0; k < simbolos_.totalElementos(); ++k) {
-        const auto columna = static_cast<std::int16_t>(k + 1);
-        if (k == fijas.inicial)
-            entradas.push_back({1, columna, 1});
-        else if (k == fijas.fin)
-            entradas.push_back({2, columna, aceptar});
-    }
-    for (std::int16_t f = 1; f <= filasVigentes(); ++f)
-        for (const Celda& celda : celdas(f)) entradas.push_back(celda);
+void gramatica::escribeTablaCpp(std::u16string& texto, const SumideroDeTexto& sumidero) const {
     escribeLinea(texto);
     escribeLinea(texto, u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ",
                  simbolos_.totalElementos(), u");");
-    if (entradas.empty()) return;
-    escribeLinea(texto, u"    static constexpr short entradas[][3] = {");
-    for (const auto& [fila, columna, valor] : entradas)
-        escribeLinea(texto, u"        {", fila, u", ", columna, u", ", valor, u"},");
+    bool abierta = false;
+    const auto escribe = [&](const Celda& celda) {
+        if (!abierta) escribeLinea(texto, u"    static constexpr short entradas[][3] = {");
+        abierta = true;
+        escribeLinea(texto, u"        {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
+    };
+    std::ranges::for_each(celdasFijas(), escribe);
+    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
+        std::ranges::for_each(celdas(f), escribe);
+        entregaSiSonMuchas(texto, sumidero);
+    }
+    if (!abierta) return;
     escribeLinea(texto, u"    };");
     escribeLinea(texto, u"    for (const auto& [fila, columna, valor] : entradas)");
     escribeLinea(texto, u"        control.SetElementoTablaSLR(fila, columna, valor);");
 }
 
-std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
+void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
+                                 const SumideroDeTexto& sumidero) const {
     std::vector<std::u16string> reglas;
     const std::int16_t total = getNumReglas();
     for (std::int16_t r = 1; r <= total; ++r)
@@ -112,18 +112,24 @@ std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaT
     escribeLinea(texto, u"    using namespace std::string_view_literals;");
     escribeTokens(texto, lexico);
     escribeTextos(texto, u"reglas", u"SetRegla", reglas);
-    escribeTablaCpp(texto);
+    escribeTablaCpp(texto, sumidero);
     escribeTextos(texto, u"simbolos", u"InsertarSimboloGramatica", simbolos);
     escribeLinea(texto, u"}");
     escribeLinea(texto);
     escribeLinea(texto, u"} // namespace ", identificador(nombre));
+    sumidero(texto);
+}
+
+std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
+    std::u16string texto;
+    escribeModuloCpp(nombre, lexico, [&](std::u16string_view pieza) { texto += pieza; });
     return texto;
 }
 
 void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                                 const std::filesystem::path& carpeta) const {
-    const std::filesystem::path fichero = carpeta / (aUtf8(nombre) + ".hpp");
-    escribeTexto(fichero, textoModuloCpp(nombre, lexico), Durabilidad::Normal);
+    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeModuloCpp(nombre, lexico, sumidero); };
+    escribeTexto(carpeta / (aUtf8(nombre) + ".hpp"), piezas, Durabilidad::Normal);
 }
 
 } // namespace norvik
