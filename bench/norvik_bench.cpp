@@ -70,9 +70,8 @@ void reconstruyeTraza(const Arbol& raiz, Traza& traza) {
             traza.registraReduccion(nodo->GetNumRegla());
         } else {
             pendientes.push_back({nodo, true});
-            const auto hijos = nodo->hijos();
-            for (auto hijo = hijos.rbegin(); hijo != hijos.rend(); ++hijo)
-                pendientes.push_back({*hijo, false});
+            for (std::int16_t i = nodo->GetNumHijos(); i > 0; --i)
+                pendientes.push_back({nodo->GetHijo(i), false});
         }
     }
 }

@@ -39,7 +39,7 @@ inline std::u16string usa(Norvik& control, std::u16string_view texto) {
         control.Text(texto);
         const bool aceptado = control.ConstruyeArbolSintactico();
         exige(aceptado == control.GetmensajeError().empty());
-        const std::u16string respuesta =
+        std::u16string respuesta =
             aceptado ? control.GetArbolSintactico().toString() : control.GetmensajeError();
         control.Colorear(true);
         control.ColoreaTodo();

@@ -44,6 +44,7 @@ private:
             if (simbolo == ReglasPartidas::vacio) continue;
             if (!reglas_.esVariable(simbolo)) return inserta(cabeza, simbolo);
             // By position: a left-recursive head grows while it is read.
+            // NOLINTNEXTLINE(modernize-loop-convert)
             for (std::size_t i = 0; i < de(simbolo).size(); ++i)
                 if (de(simbolo)[i] != ReglasPartidas::vacio) inserta(cabeza, de(simbolo)[i]);
             if (!contiene(simbolo, ReglasPartidas::vacio)) return;

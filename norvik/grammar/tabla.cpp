@@ -38,9 +38,9 @@ void gramatica::construyeAutomata() {
     aceptacion.setNumEstado(1);
     constructor.aniadeNucleo(nucleoInicial(), aceptacion);
     constructor.construyeTransiciones(std::move(aceptacion));
+    numEstados_ = constructor.numEstados();
     estadosAutomata_ = std::move(constructor).estados();
     std::ranges::sort(estadosAutomata_, {}, &estadoAutomata::getNumEstado);
-    numEstados_ = constructor.numEstados();
 }
 
 /// The left-recursive rules of the start symbol, with the dot behind it.

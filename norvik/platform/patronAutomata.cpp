@@ -127,14 +127,15 @@ bool Automata::reparteUnidades() {
     if (inicios_.size() * tomas.size() > repartoMaximo) return false;
     std::map<std::vector<bool>, Numero> porFirma;
     for (const char16_t unidad : inicios_) {
-        std::vector<bool> firma;
-        for (const std::uint32_t instruccion : tomas) firma.push_back(toma(instruccion, unidad));
+        std::vector<bool> firma(tomas.size());
+        for (std::size_t i = 0; i < tomas.size(); ++i) firma[i] = toma(tomas[i], unidad);
         const auto [sitio, nuevo] =
             porFirma.try_emplace(std::move(firma), static_cast<Numero>(porFirma.size()));
         if (nuevo) muestras_.push_back(unidad);
         grupos_.push_back(sitio->second);
     }
-    for (char16_t unidad = 0; unidad < bajas_.size(); ++unidad) bajas_[unidad] = grupoDeAlta(unidad);
+    for (std::size_t unidad = 0; unidad < bajas_.size(); ++unidad)
+        bajas_[unidad] = grupoDeAlta(static_cast<char16_t>(unidad));
     anchura_ = static_cast<std::size_t>(std::bit_width(muestras_.size() - 1));
     return muestras_.size() <= gruposMaximos;
 }

@@ -156,8 +156,9 @@ bool Ejecucion::retrocede() {
 }
 
 bool Ejecucion::repiteCaptura(std::uint32_t captura) {
-    const std::int32_t inicio = registros_[2 * captura];
-    const std::int32_t fin = registros_[2 * captura + 1];
+    const std::size_t registro = std::size_t{2} * captura;
+    const std::int32_t inicio = registros_[registro];
+    const std::int32_t fin = registros_[registro + 1];
     if (inicio < 0 || fin < 0) return true;
     const std::u16string_view capturado =
         sujeto_.substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(fin - inicio));

@@ -193,7 +193,7 @@ void Ensambla::cierraRepeticion(const Repeticion& r, const EnCurso& enCurso) {
 } // namespace
 
 Programa::Programa(PatronListo patron) : ignoraMayusculas(patron.ignoraMayusculas) {
-    Ensambla(*this, patron);
+    const Ensambla ensambla(*this, patron);
     clases = std::move(patron.clases);
 }
 

@@ -59,9 +59,9 @@ struct Anfitrion {
     std::string pintados() const {
         std::string todos(caja.texto().size(), '0');
         for (const auto& tramo : caja.colores()) {
-            if (tramo.color == 0) continue;
-            for (std::int32_t i = 0; i < tramo.longitud; ++i)
-                todos[static_cast<std::size_t>(tramo.inicio + i)] = '1';
+            const auto longitud = static_cast<std::size_t>(tramo.longitud);
+            if (tramo.color != 0)
+                todos.replace(static_cast<std::size_t>(tramo.inicio), longitud, longitud, '1');
         }
         return todos;
     }

@@ -10,13 +10,14 @@ using namespace norvik::apoyo;
 namespace {
 
 class BusquedaTest : public testing::Test {
-protected:
+public:
     BusquedaTest() {
         estadoBusqueda() = {};
         a.norvik.ShowBuscarDialog();
     }
     ~BusquedaTest() override { estadoBusqueda() = {}; }
 
+protected:
     void empieza(std::u16string_view texto, std::int32_t cursor, std::int32_t longitud = 0) {
         a.norvik.Text(texto);
         a.norvik.InicializaUndosYRedos();

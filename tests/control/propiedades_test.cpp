@@ -232,7 +232,7 @@ TEST(Bolsa, RuidoYMediosFicheros) {
                                  "{\"a\":\"\xFF\"}",
                                  "{\"a\":1,}",
                                  "{'a':1}",
-                                 "{\"a\":\"\\uD800\"}",
+                                 R"({"a":"\uD800"})",
                                  std::string("{}\0x", 4),
                                  std::string(100000, '['),
                                  "{\"a\":" + std::string(100000, '{')};

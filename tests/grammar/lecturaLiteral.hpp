@@ -72,7 +72,7 @@ class Lectura {
 public:
     explicit Lectura(const std::vector<std::pair<Texto, Texto>>& reglas) : reglas_(1) {
         for (const auto& [cabeza, cuerpo] : reglas)
-            reglas_.push_back({cabeza, cuerpo.empty() ? u"Ø" : cuerpo});
+            reglas_.emplace_back(cabeza, cuerpo.empty() ? u"Ø" : cuerpo);
         pendientes_.resize(reglas_.size());
     }
 
@@ -119,7 +119,7 @@ public:
         Estado uno{1, {}};
         std::vector<std::pair<int, int>> nucleo;
         for (int i = 1; i <= n(); ++i)
-            if (cab(i) == cab(1) && primerSimbolo(cue(i)) == cab(1)) nucleo.push_back({i, 1});
+            if (cab(i) == cab(1) && primerSimbolo(cue(i)) == cab(1)) nucleo.emplace_back(i, 1);
         aniadeNucleo(nucleo, uno);
         transiciones(uno);
         std::sort(estados.begin(), estados.end(),
@@ -314,7 +314,7 @@ private:
             std::vector<std::pair<int, int>> nucleo;
             for (const Item& item : actual.items)
                 if (item.destino != -1 && siguiente(item) == x)
-                    nucleo.push_back({item.regla, item.punto + 1});
+                    nucleo.emplace_back(item.regla, item.punto + 1);
             int destino = -1;
             for (const Estado& e : estados) {
                 const bool contiene = std::all_of(nucleo.begin(), nucleo.end(),
