@@ -238,6 +238,7 @@ TEST_F(Orden, LosFicherosImposiblesTienenSuMensaje) {
     const std::string texto = pon("texto", "1");
     const std::pair<Palabras, std::string> filas[] = {
         {{"analiza", ruta("no"), texto}, "No se puede leer «" + ruta("no") + "»: no existe"},
+        {{"analiza", ruta("no.bas"), texto}, "No se puede leer «" + ruta("no.bas") + "»: no existe"},
         {{"lexemas", lenguaje_, carpeta_.ruta()},
          "No se puede leer «" + carpeta_.ruta().string() + "»: es una carpeta"},
         {{"informe", lenguaje_, "-o", ruta("no")},

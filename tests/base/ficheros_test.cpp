@@ -54,6 +54,23 @@ TEST(Ficheros, EligeLaCodificacionQueDevuelveElTexto) {
     EXPECT_THROW(codifica(std::u16string{u'a', 0xDC00}), ErrorDeFichero);
 }
 
+TEST(Ficheros, PorTrozosSeLeeLoMismo) {
+    const auto veces = [](int n, const std::string& bytes) {
+        std::string todos;
+        for (int i = 0; i < n; ++i) todos += bytes;
+        return todos;
+    };
+    const CarpetaTemporal carpeta;
+    for (const std::string& bytes :
+         {std::string(), veces(2, "\xEF\xBB\xBF"), veces(50000, "a\xF1o "), veces(90000, "\xCE\x94"),
+          veces(30000, "\xF0\x9F\x98\x80\r\n"), "\xEF\xBB\xBF" + veces(70000, "\xCE\x94x") + "\xFF"}) {
+        TextoPorTrozos fichero(carpeta.pon("f.txt", bytes));
+        std::u16string texto;
+        for (auto trozo = fichero.siguiente(); !trozo.empty(); trozo = fichero.siguiente()) texto += trozo;
+        EXPECT_TRUE(texto == decodifica(bytes)) << bytes.size();
+    }
+}
+
 TEST(Ficheros, NormalizaLosFinalesDeLinea) {
     const std::pair<std::u16string_view, std::u16string_view> filas[] = {
         {u"", u""},

@@ -92,6 +92,12 @@ TEST(Coloreado, CorrigeLasPalabrasDeCajaFija) {
         EXPECT_EQ(e.norvik.Text(), c.queda);
         EXPECT_EQ(colores(e), c.colores);
     }
+    Editor sinColor(u"END FIJA");
+    sinColor.norvik.AutoCorreccion(true);
+    sinColor.norvik.ColorPR(-1);
+    sinColor.norvik.SetPalabraReservada(u"end");
+    sinColor.norvik.ColoreaTodo();
+    EXPECT_EQ(sinColor.norvik.Text(), u"END Fija");
 }
 
 TEST(Coloreado, LineaALineaComoDeUnaVez) {
