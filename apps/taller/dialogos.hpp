@@ -1,9 +1,8 @@
 #pragma once
 
-#include "norvik/platform/sistema.hpp"
-
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 namespace norvik::taller {
@@ -19,8 +18,10 @@ public:
     Dialogos& operator=(const Dialogos&) = delete;
     virtual ~Dialogos() = default;
 
-    virtual void avisa(const Mensaje& mensaje) = 0;
-    virtual Destino preguntaGuardar(const QString& pregunta) = 0;
+    virtual Destino pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) = 0;
+    Destino preguntaGuardar(const QString& texto) {
+        return pregunta(texto, QStringLiteral("&Guardar"), QStringLiteral("&No guardar"));
+    }
     /// A file's path, or nothing when the user gives up. `filtros` as Qt writes them.
     virtual std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) = 0;
     /// `propuesto` is a path or a name; what has no ending of its own gets `extension`, when there is one.

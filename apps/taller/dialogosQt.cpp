@@ -7,25 +7,21 @@
 
 namespace norvik::taller {
 
-void DialogosQt::avisa(const Mensaje& mensaje) {
-    SistemaQt(ventana_).muestraMensaje(mensaje);
-}
-
-Destino DialogosQt::preguntaGuardar(const QString& pregunta) {
+Destino DialogosQt::pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) {
+    QWidget* const encimaDe = QApplication::activeModalWidget();
     QMessageBox caja(QMessageBox::Warning, QApplication::applicationDisplayName(), pregunta,
-                     QMessageBox::NoButton, ventana_);
+                     QMessageBox::NoButton, encimaDe != nullptr ? encimaDe : ventana_.data());
     caja.setTextFormat(Qt::PlainText);
-    caja.setInformativeText(QStringLiteral("Los cambios se perderán si no se guardan."));
-    QPushButton* guardar = caja.addButton(QStringLiteral("&Guardar"), QMessageBox::AcceptRole);
-    QPushButton* descartar = caja.addButton(QStringLiteral("&No guardar"), QMessageBox::DestructiveRole);
+    QPushButton* const si = caja.addButton(guardar, QMessageBox::AcceptRole);
+    QPushButton* const no = caja.addButton(descartar, QMessageBox::DestructiveRole);
     caja.setEscapeButton(caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole));
-    caja.setDefaultButton(guardar);
+    caja.setDefaultButton(si);
     caja.exec();
-    if (caja.clickedButton() == guardar) return Destino::Guardar;
-    return caja.clickedButton() == descartar ? Destino::Descartar : Destino::Cancelar;
+    if (caja.clickedButton() == si) return Destino::Guardar;
+    return caja.clickedButton() == no ? Destino::Descartar : Destino::Cancelar;
 }
 
-std::optional<QString> DialogosQt::pregunta(QFileDialog& dialogo, const QString& aceptar) {
+std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& aceptar) {
     dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
     dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre:"));
     dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
@@ -40,7 +36,7 @@ std::optional<QString> DialogosQt::pregunta(QFileDialog& dialogo, const QString&
 std::optional<QString> DialogosQt::eligeParaAbrir(const QString& titulo, const QString& filtros) {
     QFileDialog dialogo(ventana_, titulo, carpeta_, filtros);
     dialogo.setFileMode(QFileDialog::ExistingFile);
-    return pregunta(dialogo, QStringLiteral("&Abrir"));
+    return fichero(dialogo, QStringLiteral("&Abrir"));
 }
 
 std::optional<QString> DialogosQt::eligeParaGuardar(const QString& titulo, const QString& filtros,
@@ -49,7 +45,7 @@ std::optional<QString> DialogosQt::eligeParaGuardar(const QString& titulo, const
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setDefaultSuffix(extension);
     if (!propuesto.isEmpty()) dialogo.selectFile(propuesto);
-    return pregunta(dialogo, QStringLiteral("&Guardar"));
+    return fichero(dialogo, QStringLiteral("&Guardar"));
 }
 
 } // namespace norvik::taller

@@ -2,8 +2,6 @@
 
 #include "dialogos.hpp"
 
-#include "norvik/platform/qt/sistemaQt.hpp"
-
 #include <QFileDialog>
 #include <QPointer>
 
@@ -15,14 +13,13 @@ public:
     /// They stand above `ventana` from here on.
     void ponVentana(QWidget* ventana) { ventana_ = ventana; }
 
-    void avisa(const Mensaje& mensaje) override;
-    Destino preguntaGuardar(const QString& pregunta) override;
+    Destino pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) override;
     std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) override;
     std::optional<QString> eligeParaGuardar(const QString& titulo, const QString& filtros,
                                             const QString& propuesto, const QString& extension) override;
 
 private:
-    std::optional<QString> pregunta(QFileDialog& dialogo, const QString& aceptar);
+    std::optional<QString> fichero(QFileDialog& dialogo, const QString& aceptar);
 
     QPointer<QWidget> ventana_;
     QString carpeta_; ///< where the last file was chosen

@@ -12,8 +12,8 @@
 
 namespace norvik::taller {
 
-ElementoFormulario::ElementoFormulario(const QString& nombre, QWidget* padre)
-    : QWidget(padre), nombre_(nombre), titulo_(this), velo_(this), norvik_(this) {
+ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema, QWidget* padre)
+    : QWidget(padre), nombre_(nombre), titulo_(this), velo_(this), norvik_(sistema, this) {
     norvik_.setObjectName(nombre);
     norvik_.setAccessibleName(nombre);
     velo_.setAccessibleName(nombre);

@@ -21,7 +21,7 @@ class ElementoFormulario final : public QWidget {
     Q_OBJECT
 
 public:
-    ElementoFormulario(const QString& nombre, QWidget* padre);
+    ElementoFormulario(const QString& nombre, SistemaQt& sistema, QWidget* padre);
 
     ControlNorvik& norvik() { return norvik_; }
     const QString& nombre() const { return nombre_; }

@@ -6,7 +6,8 @@
 
 namespace norvik::taller {
 
-Formulario::Formulario(QWidget* padre) : QSplitter(Qt::Vertical, padre) {
+Formulario::Formulario(SistemaQt& sistema, QWidget* padre)
+    : QSplitter(Qt::Vertical, padre), sistema_(sistema) {
     setChildrenCollapsible(false);
     setAccessibleName(QStringLiteral("Formulario"));
     vacia();
@@ -14,7 +15,7 @@ Formulario::Formulario(QWidget* padre) : QSplitter(Qt::Vertical, padre) {
 
 ElementoFormulario& Formulario::anade(const QString& nombre) {
     const QString libre = nombre.isEmpty() ? nombreLibre() : nombre;
-    elementos_.push_back(std::make_unique<ElementoFormulario>(libre, this));
+    elementos_.push_back(std::make_unique<ElementoFormulario>(libre, sistema_, this));
     ElementoFormulario& nuevo = *elementos_.back();
     nuevo.norvik().Colorear(true);
     nuevo.norvik().MarcarErrores(true);

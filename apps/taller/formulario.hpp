@@ -18,8 +18,8 @@ class Formulario final : public QSplitter {
 public:
     using Elementos = std::vector<std::unique_ptr<ElementoFormulario>>;
 
-    /// With one control, in the mode of use.
-    explicit Formulario(QWidget* padre = nullptr);
+    /// With one control, in the mode of use. Message boxes go through `sistema`, which must outlive it.
+    explicit Formulario(SistemaQt& sistema, QWidget* padre = nullptr);
 
     const Elementos& elementos() const { return elementos_; }
     ElementoFormulario& activo() { return *elementos_[activo_]; }
@@ -59,6 +59,7 @@ private:
     void muestraTitulos();
     void conecta(ElementoFormulario& elemento);
 
+    SistemaQt& sistema_;
     Elementos elementos_;
     std::size_t activo_ = 0;
     Modo modo_ = Modo::Ejecucion;

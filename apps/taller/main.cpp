@@ -11,6 +11,7 @@
 
 namespace {
 
+using namespace norvik;
 using namespace norvik::taller;
 
 int responde(const Contesta& respuesta) {
@@ -31,9 +32,10 @@ int trabaja(const Arranque& arranque) {
         QApplication::installTranslator(&deQt);
     QSettings ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("norvik"),
                       QStringLiteral("taller"));
+    SistemaQt sistema;
     DialogosQt dialogos;
     VentanaPrincipal ventana(
-        {dialogos, ajustes, ejemplosDe(carpetaDeEjemplos(QApplication::applicationDirPath()))});
+        {sistema, dialogos, ajustes, ejemplosDe(carpetaDeEjemplos(QApplication::applicationDirPath()))});
     dialogos.ponVentana(&ventana);
     ventana.show();
     if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);

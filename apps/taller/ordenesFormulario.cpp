@@ -20,7 +20,8 @@ void OrdenesFormulario::abre(const QString& fichero) {
     const QStringList avisos = formulario_.abre(fichero);
     recientes_.anota(fichero);
     if (!avisos.isEmpty())
-        dialogos_.avisa({avisos.join(u'\n').toStdU16String(), {}, Icono::Exclamacion, Botones::Aceptar});
+        sistema_.muestraMensaje(
+            {avisos.join(u'\n').toStdU16String(), {}, Icono::Exclamacion, Botones::Aceptar});
 }
 
 bool OrdenesFormulario::escribe(const QString& fichero) {
@@ -29,7 +30,7 @@ bool OrdenesFormulario::escribe(const QString& fichero) {
         recientes_.anota(fichero);
         return true;
     } catch (const ErrorNorvik& e) {
-        dialogos_.avisa({e.texto(), {}, Icono::Critico, Botones::Aceptar});
+        sistema_.muestraMensaje({e.texto(), {}, Icono::Critico, Botones::Aceptar});
         return false;
     }
 }

@@ -7,8 +7,10 @@ namespace norvik::taller {
 /// The commands on the form as a whole. Those that could lose work ask before.
 class OrdenesFormulario {
 public:
-    OrdenesFormulario(Formulario& formulario, OrdenesTexto& textos, Dialogos& dialogos, Recientes& recientes)
-        : formulario_(formulario), textos_(textos), dialogos_(dialogos), recientes_(recientes) {}
+    OrdenesFormulario(Formulario& formulario, OrdenesTexto& textos, SistemaQt& sistema, Dialogos& dialogos,
+                      Recientes& recientes)
+        : formulario_(formulario), textos_(textos), sistema_(sistema), dialogos_(dialogos),
+          recientes_(recientes) {}
 
     void nuevo();
     void abre();
@@ -27,6 +29,7 @@ private:
 
     Formulario& formulario_;
     OrdenesTexto& textos_;
+    SistemaQt& sistema_;
     Dialogos& dialogos_;
     Recientes& recientes_;
 };

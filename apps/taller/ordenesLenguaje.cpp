@@ -41,7 +41,7 @@ bool OrdenesLenguaje::prepara(ElementoFormulario& elemento) {
     olvidaAnalisis();
     const std::u16string error = elemento.preparaLenguaje();
     if (error.empty()) return true;
-    dialogos_.avisa(
+    sistema_.muestraMensaje(
         {u"El lenguaje de " + elemento.nombre().toStdU16String() + u" no se ha podido cargar:\n\n" + error,
          {},
          Icono::Exclamacion,
@@ -57,10 +57,10 @@ bool OrdenesLenguaje::hayLenguaje() {
     ElementoFormulario& elemento = formulario_.activo();
     if (!prepara(elemento)) return false;
     if (tieneLenguaje(elemento.norvik())) return true;
-    dialogos_.avisa({u"No hay ningún lenguaje cargado. Elija uno en el menú Lenguaje.",
-                     {},
-                     Icono::Informacion,
-                     Botones::Aceptar});
+    sistema_.muestraMensaje({u"No hay ningún lenguaje cargado. Elija uno en el menú Lenguaje.",
+                             {},
+                             Icono::Informacion,
+                             Botones::Aceptar});
     return false;
 }
 

@@ -11,8 +11,9 @@ namespace norvik::taller {
 /// The commands on the language of the active control, and parsing with it.
 class OrdenesLenguaje {
 public:
-    OrdenesLenguaje(Formulario& formulario, Dialogos& dialogos, PanelArbol& arbol, PanelMensaje& mensaje)
-        : formulario_(formulario), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje) {}
+    OrdenesLenguaje(Formulario& formulario, SistemaQt& sistema, Dialogos& dialogos, PanelArbol& arbol,
+                    PanelMensaje& mensaje)
+        : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje) {}
 
     void abre();
     /// A specification becomes the one that the control keeps; a module is remembered by its file.
@@ -33,6 +34,7 @@ private:
     bool hayLenguaje();
 
     Formulario& formulario_;
+    SistemaQt& sistema_;
     Dialogos& dialogos_;
     PanelArbol& arbol_;
     PanelMensaje& mensaje_;

@@ -25,7 +25,7 @@ bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero)
         return true;
     }
     const QString texto = QStringLiteral("No se ha podido escribir el fichero «%1».").arg(fichero);
-    dialogos_.avisa({texto.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
+    sistema_.muestraMensaje({texto.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
     return false;
 }
 

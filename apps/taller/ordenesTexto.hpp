@@ -9,8 +9,8 @@ namespace norvik::taller {
 /// The commands on the texts of the form's controls. Those that could lose work ask before.
 class OrdenesTexto {
 public:
-    OrdenesTexto(Formulario& formulario, Dialogos& dialogos, Recientes& recientes)
-        : formulario_(formulario), dialogos_(dialogos), recientes_(recientes) {}
+    OrdenesTexto(Formulario& formulario, SistemaQt& sistema, Dialogos& dialogos, Recientes& recientes)
+        : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), recientes_(recientes) {}
 
     // On the active control.
     void nuevo();
@@ -30,6 +30,7 @@ private:
     bool escribe(ElementoFormulario& elemento, const QString& fichero);
 
     Formulario& formulario_;
+    SistemaQt& sistema_;
     Dialogos& dialogos_;
     Recientes& recientes_;
 };

@@ -25,13 +25,14 @@ QStringList ficherosDe(const QMimeData& datos) {
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
-    : dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
+
+    : sistema_(entorno.sistema), dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
       textosRecientes_(acciones_.textosRecientes, ajustes_, QStringLiteral("recientes/textos")),
       formulariosRecientes_(acciones_.formulariosRecientes, ajustes_,
                             QStringLiteral("recientes/formularios")),
-      textos_(formulario_, dialogos_, textosRecientes_),
-      formularios_(formulario_, textos_, dialogos_, formulariosRecientes_),
-      lenguajes_(formulario_, dialogos_, arbol_, mensaje_) {
+      textos_(formulario_, sistema_, dialogos_, textosRecientes_),
+      formularios_(formulario_, textos_, sistema_, dialogos_, formulariosRecientes_),
+      lenguajes_(formulario_, sistema_, dialogos_, arbol_, mensaje_) {
     setAcceptDrops(true);
     compone();
     conectaArchivo();
@@ -66,9 +67,10 @@ void VentanaPrincipal::intenta(Orden orden) {
     try {
         orden();
     } catch (const ErrorNorvik& e) {
-        dialogos_.avisa({e.texto(), {}, Icono::Critico, Botones::Aceptar});
+        sistema_.muestraMensaje({e.texto(), {}, Icono::Critico, Botones::Aceptar});
     } catch (const std::exception& e) {
-        dialogos_.avisa({QString::fromUtf8(e.what()).toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
+        sistema_.muestraMensaje(
+            {QString::fromUtf8(e.what()).toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
     }
 }
 

@@ -11,6 +11,7 @@ namespace norvik::taller {
 
 /// What the window is given from outside, which must outlive it.
 struct Entorno {
+    SistemaQt& sistema;
     Dialogos& dialogos;
     QSettings& ajustes;
     QList<Ejemplo> ejemplos;
@@ -55,13 +56,14 @@ private:
     void actualizaLugar();
     void actualizaOrdenes();
 
+    SistemaQt& sistema_;
     Dialogos& dialogos_;
     QSettings& ajustes_;
     Acciones acciones_{*this};
     Recientes textosRecientes_, formulariosRecientes_;
     QWidget centro_;
     QVBoxLayout columna_;
-    Formulario formulario_{&centro_};
+    Formulario formulario_{sistema_, &centro_};
     PanelMensaje mensaje_{&centro_};
     PanelArbol arbol_{this};
     QLabel lenguaje_, lugar_;

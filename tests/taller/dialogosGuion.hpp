@@ -2,10 +2,14 @@
 
 #include "dialogos.hpp"
 
+#include "norvik/platform/qt/sistemaQt.hpp"
+
 #include <QFileInfo>
 #include <QStringList>
 
 #include <deque>
+#include <functional>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -18,11 +22,8 @@ public:
 
     QStringList toma() { return std::exchange(dichos, {}); }
 
-    void avisa(const Mensaje& mensaje) override {
-        dichos += QStringLiteral("aviso ") + QString::fromStdU16String(mensaje.texto);
-    }
-    Destino preguntaGuardar(const QString& pregunta) override {
-        dichos += pregunta;
+    Destino pregunta(const QString& pregunta, const QString& guardar, const QString& /*descartar*/) override {
+        dichos += QStringLiteral("%1 %2").arg(guardar, pregunta);
         return siguiente(destinos, Destino::Cancelar);
     }
     std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& /*filtros*/) override {
@@ -47,6 +48,28 @@ private:
         const QString elegido = siguiente(ficheros, {});
         return elegido.isEmpty() ? std::nullopt : std::optional(elegido);
     }
+};
+
+/// Message boxes go into the same list.
+class SistemaGuion final : public SistemaQt {
+public:
+    explicit SistemaGuion(DialogosGuion& guion) : guion_(guion) {}
+
+    std::function<void(QWidget& ventana)> conModal; ///< what is done in a modal window
+
+    norvik::Respuesta muestraMensaje(const Mensaje& mensaje) override {
+        guion_.dichos += QStringLiteral("aviso ") + QString::fromStdU16String(mensaje.texto);
+        return norvik::Respuesta::Aceptar;
+    }
+    void muestraModal(QWidget& ventana) override {
+        guion_.dichos += QStringLiteral("modal ") + ventana.windowTitle();
+        ventana.show();
+        if (conModal) conModal(ventana);
+        ventana.hide();
+    }
+
+private:
+    DialogosGuion& guion_;
 };
 
 } // namespace norvik::taller

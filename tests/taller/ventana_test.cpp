@@ -45,8 +45,9 @@ protected:
 
     apoyo::CarpetaTemporal carpeta;
     DialogosGuion dialogos;
+    SistemaGuion sistema{dialogos};
     QSettings ajustes{ruta("ajustes.ini"), QSettings::IniFormat};
-    VentanaPrincipal ventana{{dialogos, ajustes, {}}};
+    VentanaPrincipal ventana{{sistema, dialogos, ajustes, {}}};
     Acciones& a = ventana.acciones();
 };
 
@@ -77,7 +78,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
 TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     const QString otro = pon("otro.txt", "otro");
     escribe("mio");
-    const QString pregunta = "¿Quiere guardar los cambios de «Sin título»?";
+    const QString pregunta = "&Guardar ¿Quiere guardar los cambios de «Sin título»?";
     const struct {
         QAction* orden; ///< null closes the window
     } casos[] = {{&a.nuevoTexto}, {&a.abrirTexto}, {&a.nuevoFormulario}, {nullptr}};
@@ -105,7 +106,7 @@ TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     dialogos.toma();
     EXPECT_FALSE(cierra());
     EXPECT_EQ(dialogos.toma(),
-              QStringList{"¿Quiere guardar los cambios del formulario «Formulario sin título»?"});
+              QStringList{"&Guardar ¿Quiere guardar los cambios del formulario «Formulario sin título»?"});
     dialogos.destinos = {Destino::Descartar};
     EXPECT_TRUE(cierra());
 }
