@@ -1,0 +1,70 @@
+# bash completion for norvik and norvik-taller                                       -*- shell-script -*-
+
+# Files with some endings, and folders.
+_norvik_ficheros() {
+    local extension
+    compopt -o filenames 2>/dev/null
+    mapfile -t COMPREPLY < <(compgen -d -- "$1"; for extension in "${@:2}"; do compgen -f -X "!*.$extension" -- "$1"; done)
+}
+
+_norvik_palabras() {
+    mapfile -t COMPREPLY < <(compgen -W "$2" -- "$1")
+}
+
+# What comes before the word among the order's files: their number.
+_norvik_cuenta() {
+    local i n=0
+    for ((i = 2; i < COMP_CWORD; i++)); do
+        case ${COMP_WORDS[i]} in
+            --formato | --lenguaje | -o) ((i++)) ;;
+            -?*) ;;
+            *) ((n++)) ;;
+        esac
+    done
+    echo "$n"
+}
+
+_norvik() {
+    local palabra=${COMP_WORDS[COMP_CWORD]} anterior=${COMP_WORDS[COMP_CWORD - 1]} orden=${COMP_WORDS[1]}
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        _norvik_palabras "$palabra" "analiza lexemas colorea informe modulo --help --version"
+        return
+    fi
+    case $orden:$anterior in
+        analiza:--formato) _norvik_palabras "$palabra" "arbol json lineas"; return ;;
+        lexemas:--formato) _norvik_palabras "$palabra" "tabla json"; return ;;
+        colorea:--formato) _norvik_palabras "$palabra" "ansi html"; return ;;
+        modulo:--lenguaje) _norvik_palabras "$palabra" "vb cpp"; return ;;
+        *:-o) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -d -- "$palabra"); return ;;
+    esac
+    case $orden:$palabra in
+        modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --help" ;;
+        informe:-*) _norvik_palabras "$palabra" "-o --help" ;;
+        *:-*) _norvik_palabras "$palabra" "--formato --help" ;;
+        *)
+            case $orden:$(_norvik_cuenta) in
+                informe:0 | modulo:0) _norvik_ficheros "$palabra" nvk ;;
+                *:0) _norvik_ficheros "$palabra" nvk bas ;;
+                analiza:1 | lexemas:1 | colorea:1)
+                    compopt -o filenames 2>/dev/null
+                    mapfile -t COMPREPLY < <(compgen -f -- "$palabra") ;;
+            esac ;;
+    esac
+}
+
+_norvik_taller() {
+    local palabra=${COMP_WORDS[COMP_CWORD]}
+    COMPREPLY=()
+    if [[ ${COMP_WORDS[COMP_CWORD - 1]} == --lenguaje ]]; then
+        _norvik_ficheros "$palabra" nvk bas
+    elif [[ $palabra == -* ]]; then
+        _norvik_palabras "$palabra" "--lenguaje --help --version"
+    else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$palabra")
+    fi
+}
+
+complete -F _norvik norvik
+complete -F _norvik_taller norvik-taller
