@@ -28,6 +28,7 @@ ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema
     velo_.hide();
     conecta();
     actualizaTitulo();
+    anotaGuardado();
 }
 
 void ElementoFormulario::conecta() {
@@ -56,19 +57,38 @@ bool ElementoFormulario::eventFilter(QObject* objeto, QEvent* evento) {
     return QWidget::eventFilter(objeto, evento);
 }
 
-/// The text is no part of what is saved; the language is made of the other properties named here.
+/// Controls tell of properties that were set, to whatever value.
 void ElementoFormulario::anota(const QString& propiedad) {
-    if (propiedad == QLatin1String("Text")) return;
     const bool esColor =
         propiedad.startsWith(QLatin1String("Color")) && propiedad != QLatin1String("Colorear");
-    if (esColor || propiedad == QLatin1String("ContenidoG") || propiedad == QLatin1String("LenguajeSensible"))
-        lenguajeAlDia_ = false;
-    emit otraPropiedad();
+    if (esColor || propiedad == QLatin1String("LenguajeSensible")) lenguajeAlDia_ = false;
+    if (propiedad == QLatin1String("ContenidoG")) anotaEspecificacion();
+    if (propiedad != QLatin1String("Text") && bolsa() != guardada_) emit otraPropiedad();
+}
+
+void ElementoFormulario::anotaEspecificacion() {
+    if (especificacionDe(norvik_) == especificacion_) return;
+    especificacion_ = especificacionDe(norvik_);
+    modulo_.clear();
+    lenguajeAlDia_ = false;
+}
+
+/// Its file; a text that no file can hold is as good as another one.
+std::string ElementoFormulario::bolsa() {
+    try {
+        BolsaPropiedades bolsa;
+        norvik_.control().guardaPropiedades(bolsa);
+        return bolsa.aJson();
+    } catch (const ErrorDeFichero&) {
+        return {};
+    }
 }
 
 void ElementoFormulario::restaura(const BolsaPropiedades& bolsa) {
     lenguajeAlDia_ = false;
     norvik_.control().restauraPropiedades(bolsa);
+    especificacion_ = especificacionDe(norvik_);
+    anotaGuardado();
 }
 
 // ---- text
@@ -138,7 +158,9 @@ std::u16string ElementoFormulario::preparaLenguaje() {
     if (lenguajeAlDia_) return {};
     lenguajeAlDia_ = true;
     if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
-    return especificacionDe(norvik_).empty() ? std::u16string() : compilaLenguaje(norvik_);
+    if (!especificacionDe(norvik_).empty()) return compilaLenguaje(norvik_);
+    descargaLenguaje(norvik_);
+    return {};
 }
 
 // ---- on the form

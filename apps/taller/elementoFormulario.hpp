@@ -29,6 +29,9 @@ public:
     /// Raises what the control raises for a bag with wrong values.
     void restaura(const BolsaPropiedades& bolsa);
 
+    /// What is saved is what the control has now.
+    void anotaGuardado() { guardada_ = bolsa(); }
+
     // The text. An empty path is a text without a file.
     const QString& fichero() const { return fichero_; }
     /// What a person calls the text.
@@ -45,6 +48,7 @@ public:
     void vaA(int linea, int columna, const QString& lexema);
 
     // The language: of a loading module when there is one, else of the specification that the control keeps.
+    // Another specification takes a module's place.
     const QString& modulo() const { return modulo_; }
     void ponModulo(const QString& fichero);
     /// Loads it unless it is loaded. What is wrong with it, empty when nothing is.
@@ -61,7 +65,7 @@ signals:
     /// The text, its file or its mark.
     void otroTexto();
     void otroLugar(); ///< of the caret
-    /// A property that is saved, or what the container keeps besides.
+    /// What is saved has changed: the property bag, or what the container keeps besides.
     void otraPropiedad();
 
 protected:
@@ -72,11 +76,15 @@ private:
     void ponFichero(const QString& fichero);
     void actualizaTitulo();
     void anota(const QString& propiedad);
+    void anotaEspecificacion();
+    std::string bolsa();
 
     QString nombre_;
     QString fichero_;
     QString modulo_;
-    bool lenguajeAlDia_ = true; ///< nothing to load, or loaded as the properties say
+    std::string guardada_;          ///< the property bag as it was last saved
+    std::u16string especificacion_; ///< as it was last seen
+    bool lenguajeAlDia_ = true;     ///< nothing to load, or loaded as the properties say
     QVBoxLayout columna_;
     QLabel titulo_;
     VeloDisenio velo_;

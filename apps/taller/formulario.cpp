@@ -102,6 +102,8 @@ QString Formulario::titulo() const {
 
 void Formulario::ponModificado(bool modificado) {
     modificado_ = modificado;
+    if (!modificado)
+        for (const auto& e : elementos_) e->anotaGuardado();
     emit cambiado();
 }
 

@@ -48,6 +48,11 @@ std::u16string compilaLenguaje(ControlNorvik& norvik) {
     return acaba(control, {});
 }
 
+void descargaLenguaje(ControlNorvik& norvik) {
+    olvidaLenguaje(norvik.control());
+    norvik.control().ColoreaTodo();
+}
+
 bool esModulo(const QString& fichero) {
     return QFileInfo(fichero).suffix().compare(QLatin1String("bas"), Qt::CaseInsensitive) == 0;
 }

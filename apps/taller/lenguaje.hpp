@@ -20,6 +20,8 @@ void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion
 
 /// The language of the specification that the control keeps.
 std::u16string compilaLenguaje(ControlNorvik& norvik);
+/// None.
+void descargaLenguaje(ControlNorvik& norvik);
 /// That of a loading module.
 std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero);
 bool esModulo(const QString& fichero);

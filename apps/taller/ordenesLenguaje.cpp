@@ -9,6 +9,15 @@
 
 namespace norvik::taller {
 
+bool OrdenesLenguaje::nuevo() {
+    ElementoFormulario& elemento = formulario_.activo();
+    if (!puedePerder(elemento)) return false;
+    ponEspecificacion(elemento.norvik(), {});
+    elemento.ponModulo({});
+    elemento.norvik().NomLenguaje({});
+    return prepara(elemento);
+}
+
 void OrdenesLenguaje::abre() {
     const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroLenguaje);
     if (fichero) abre(*fichero);
@@ -17,6 +26,7 @@ void OrdenesLenguaje::abre() {
 /// Nothing of a form without a name is lost when the language of a file is all it got.
 void OrdenesLenguaje::abre(const QString& fichero) {
     ElementoFormulario& elemento = formulario_.activo();
+    if (!puedePerder(elemento)) return;
     const bool nuevo = formulario_.fichero().isEmpty() && !formulario_.modificado();
     const bool modulo = esModulo(fichero);
     if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(ruta(fichero)));
@@ -26,15 +36,34 @@ void OrdenesLenguaje::abre(const QString& fichero) {
     if (nuevo) formulario_.ponModificado(false);
 }
 
-void OrdenesLenguaje::guardaEspecificacion() {
+bool OrdenesLenguaje::guardaEspecificacion() {
     ControlNorvik& norvik = formulario_.activo().norvik();
     const QString nombre = norvik.NomLenguaje().isEmpty() ? QStringLiteral("lenguaje") : norvik.NomLenguaje();
     const auto fichero =
         dialogos_.eligeParaGuardar(QStringLiteral("Guardar la especificación"), filtroEspecificacion,
                                    nombre + u'.' + extensionEspecificacion, extensionEspecificacion);
-    if (fichero)
-        escribeTexto(ruta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
-                     Durabilidad::EnDisco);
+    if (!fichero) return false;
+    escribeTexto(ruta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
+                 Durabilidad::EnDisco);
+    return true;
+}
+
+/// A specification that was written here and is not saved with its form would be lost.
+bool OrdenesLenguaje::puedePerder(ElementoFormulario& elemento) {
+    const Opciones& opciones = elemento.norvik().control().opciones();
+    const bool escrita = opciones.pendienteGuardarG && !opciones.contenidoG.empty();
+    if (!escrita || !formulario_.modificado()) return true;
+    const QString pregunta =
+        QStringLiteral("¿Quiere guardar en un fichero la especificación de %1?").arg(elemento.nombre());
+    switch (dialogos_.preguntaGuardar(pregunta)) {
+    case Destino::Guardar:
+        return guardaEspecificacion();
+    case Destino::Descartar:
+        return true;
+    case Destino::Cancelar:
+        return false;
+    }
+    return false;
 }
 
 bool OrdenesLenguaje::prepara(ElementoFormulario& elemento) {

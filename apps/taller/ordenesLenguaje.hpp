@@ -15,10 +15,12 @@ public:
                     PanelMensaje& mensaje)
         : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje) {}
 
+    /// Makes room for one that is to be written; false when the user gives up.
+    bool nuevo();
     void abre();
     /// A specification becomes the one that the control keeps; a module is remembered by its file.
     void abre(const QString& fichero);
-    void guardaEspecificacion();
+    bool guardaEspecificacion();
     /// Loads the languages that are not loaded yet, and tells what is wrong with them.
     void preparaTodos();
 
@@ -31,6 +33,7 @@ public:
 
 private:
     bool prepara(ElementoFormulario& elemento);
+    bool puedePerder(ElementoFormulario& elemento);
     bool hayLenguaje();
 
     Formulario& formulario_;

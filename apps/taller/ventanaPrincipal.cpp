@@ -3,6 +3,8 @@
 #include "portapapeles.hpp"
 #include "rutas.hpp"
 
+#include "norvik/tools/ventanas.hpp"
+
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -61,22 +63,9 @@ void VentanaPrincipal::compone() {
     statusBar()->addPermanentWidget(&lugar_);
 }
 
-/// What fails is told; nothing is raised out of a window's event.
-template <typename Orden>
-void VentanaPrincipal::intenta(Orden orden) {
-    try {
-        orden();
-    } catch (const ErrorNorvik& e) {
-        sistema_.muestraMensaje({e.texto(), {}, Icono::Critico, Botones::Aceptar});
-    } catch (const std::exception& e) {
-        sistema_.muestraMensaje(
-            {QString::fromUtf8(e.what()).toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
-    }
-}
-
 template <typename Orden>
 void VentanaPrincipal::conecta(QAction& accion, Orden orden) {
-    connect(&accion, &QAction::triggered, this, [this, orden] { intenta(orden); });
+    connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(sistema_, orden); });
 }
 
 // ---- the commands
@@ -91,7 +80,7 @@ void VentanaPrincipal::conectaArchivo() {
     conecta(a.imprimir, [this] { formulario_.activo().norvik().control().Imprimir(); });
     conecta(a.salir, [this] { close(); });
     connect(&textosRecientes_, &Recientes::elegido, this,
-            [this](const QString& fichero) { intenta([&] { textos_.abre(fichero); }); });
+            [this](const QString& fichero) { ejecuta(sistema_, [&] { textos_.abre(fichero); }); });
 }
 
 void VentanaPrincipal::conectaEdicion() {
@@ -118,10 +107,12 @@ void VentanaPrincipal::conectaFormulario() {
     conecta(a.guardarFormularioComo, [this] { formularios_.guardaComo(); });
     conecta(a.anadir, [this] { formulario_.anade(); });
     conecta(a.quitar, [this] { formularios_.quitaActivo(); });
+    conecta(a.propiedades, [this] { muestraPropiedades(VentanaPropiedades::Pagina::General); });
+    connect(&formulario_, &Formulario::pidePropiedades, &a.propiedades, &QAction::trigger);
     connect(&a.disenio, &QAction::toggled, this,
-            [this](bool disenio) { intenta([&] { ponModo(disenio); }); });
+            [this](bool disenio) { ejecuta(sistema_, [&] { ponModo(disenio); }); });
     connect(&formulariosRecientes_, &Recientes::elegido, this,
-            [this](const QString& fichero) { intenta([&] { formularios_.abre(fichero); }); });
+            [this](const QString& fichero) { ejecuta(sistema_, [&] { formularios_.abre(fichero); }); });
     connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
     connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
@@ -136,6 +127,9 @@ void VentanaPrincipal::conectaFormulario() {
 
 void VentanaPrincipal::conectaLenguaje() {
     Acciones& a = acciones_;
+    conecta(a.nuevoLenguaje, [this] {
+        if (lenguajes_.nuevo()) muestraPropiedades(VentanaPropiedades::Pagina::Gramatica);
+    });
     conecta(a.abrirLenguaje, [this] { lenguajes_.abre(); });
     conecta(a.guardarEspecificacion, [this] { lenguajes_.guardaEspecificacion(); });
     conecta(a.analizar, [this] { analiza(); });
@@ -158,7 +152,7 @@ void VentanaPrincipal::llenaEjemplos(const QList<Ejemplo>& ejemplos) {
 }
 
 void VentanaPrincipal::abre(const QString& fichero) {
-    intenta([&] {
+    ejecuta(sistema_, [&] {
         const QString extension = QFileInfo(fichero).suffix().toLower();
         if (extension == extensionFormulario) return formularios_.abre(fichero);
         if (extension == extensionEspecificacion || extension == QLatin1String("bas"))
@@ -170,6 +164,12 @@ void VentanaPrincipal::abre(const QString& fichero) {
 void VentanaPrincipal::ponModo(bool disenio) {
     formulario_.ponModo(disenio ? Modo::Disenio : Modo::Ejecucion);
     if (!disenio) lenguajes_.preparaTodos();
+}
+
+void VentanaPrincipal::muestraPropiedades(VentanaPropiedades::Pagina pagina) {
+    muestraModal<VentanaPropiedades>(sistema_, formulario_.activo(), sistema_, dialogos_, pagina, this);
+    if (formulario_.modo() == Modo::Ejecucion) lenguajes_.preparaTodos();
+    actualizaTitulo();
 }
 
 void VentanaPrincipal::analiza() {
@@ -217,7 +217,7 @@ void VentanaPrincipal::actualizaOrdenes() {
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
     bool seCierra = false;
-    intenta([&] { seCierra = formularios_.puedePerder(); });
+    ejecuta(sistema_, [&] { seCierra = formularios_.puedePerder(); });
     if (!seCierra) return evento->ignore();
     ajustes_.setValue(claveGeometria, saveGeometry());
     ajustes_.setValue(claveEstado, saveState());

@@ -3,6 +3,7 @@
 #include "acciones.hpp"
 #include "ordenesFormulario.hpp"
 #include "ordenesLenguaje.hpp"
+#include "ventanaPropiedades.hpp"
 
 #include <QMainWindow>
 #include <QVBoxLayout>
@@ -41,8 +42,6 @@ protected:
 private:
     template <typename Orden>
     void conecta(QAction& accion, Orden orden);
-    template <typename Orden>
-    void intenta(Orden orden);
     void conectaArchivo();
     void conectaEdicion();
     void conectaFormulario();
@@ -50,6 +49,7 @@ private:
     void llenaEjemplos(const QList<Ejemplo>& ejemplos);
     void compone();
     void ponModo(bool disenio);
+    void muestraPropiedades(VentanaPropiedades::Pagina pagina);
     void analiza();
     void otroActivo();
     void actualizaTitulo();

@@ -1,0 +1,71 @@
+#include "ventanaPropiedades.hpp"
+
+#include <algorithm>
+
+namespace norvik::taller {
+
+VentanaPropiedades::VentanaPropiedades(ElementoFormulario& elemento, SistemaQt& sistema, Dialogos& dialogos,
+                                       Pagina primera, QWidget* padre)
+    : QDialog(padre), dialogos_(dialogos), nombre_(elemento.nombre()), paginas_(paginasDeNorvik(sistema)) {
+    setWindowTitle(QStringLiteral("Propiedades de %1[*]").arg(nombre_));
+    for (const auto& pagina : paginas_) {
+        fichas_.addTab(pagina.get(), pagina->titulo());
+        pagina->cambiaSeleccion({&elemento.norvik()});
+        connect(pagina.get(), &PaginaPropiedades::cambio, this, &VentanaPropiedades::actualiza);
+    }
+    fichas_.setCurrentIndex(static_cast<int>(primera));
+    fichas_.setAccessibleName(QStringLiteral("Páginas de propiedades"));
+    botones_.addStretch(1);
+    botones_.addWidget(&aplicar_);
+    botones_.addWidget(&cerrar_);
+    columna_.addWidget(&fichas_);
+    columna_.addLayout(&botones_);
+    setLayout(&columna_);
+    aplicar_.setDefault(true);
+    cerrar_.setAutoDefault(false);
+    connect(&aplicar_, &QPushButton::clicked, this, &VentanaPropiedades::aplica);
+    connect(&cerrar_, &QPushButton::clicked, this, &QDialog::reject);
+    actualiza();
+}
+
+void VentanaPropiedades::actualiza() {
+    const bool cambiada =
+        std::any_of(paginas_.begin(), paginas_.end(), [](const auto& p) { return p->cambiada(); });
+    aplicar_.setEnabled(cambiada);
+    setWindowModified(cambiada);
+}
+
+/// The page that could not be applied comes to the front.
+bool VentanaPropiedades::aplica() {
+    for (const auto& pagina : paginas_) {
+        if (!pagina->cambiada() || pagina->aplica()) continue;
+        fichas_.setCurrentWidget(pagina.get());
+        return false;
+    }
+    return true;
+}
+
+bool VentanaPropiedades::puedeCerrarse() {
+    if (std::any_of(paginas_.begin(), paginas_.end(), [](const auto& p) { return p->ocupada(); }))
+        return false;
+    if (!isWindowModified()) return true;
+    const QString pregunta =
+        QStringLiteral("Hay cambios sin aplicar en las propiedades de %1. ¿Quiere aplicarlos?").arg(nombre_);
+    switch (dialogos_.pregunta(pregunta, QStringLiteral("&Aplicar"), QStringLiteral("&No aplicar"))) {
+    case Destino::Guardar:
+        return aplica();
+    case Destino::Descartar:
+        return true;
+    case Destino::Cancelar:
+        return false;
+    }
+    return false;
+}
+
+void VentanaPropiedades::done(int resultado) {
+    if (!puedeCerrarse()) return;
+    for (const auto& pagina : paginas_) pagina->cierra();
+    QDialog::done(resultado);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,101 @@
+// Times what the widget costs while a person edits, on the C-like example's text near 30,000 characters:
+// a typed character, leaving a line, colouring the whole; each with the events that it leaves pending,
+// painting among them. The window is drawn in memory.
+#include "lenguaje.hpp"
+
+#include "norvik/base/ficheros.hpp"
+#include "norvik/tools/controlNorvik.hpp"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include <benchmark/benchmark.h>
+
+namespace norvik::bench {
+namespace {
+
+/// The text loaded and coloured, the caret in the middle of it.
+class Ventana {
+public:
+    Ventana() {
+        Norvik& control = norvik.control();
+        control.CargaGramatica(leeTexto(delRepositorio("ejemplos/c/c.nvk")));
+        control.GeneraCompilador();
+        control.Colorear(true);
+        norvik.resize(1000, 700);
+        norvik.show();
+        QApplication::setActiveWindow(&norvik);
+        norvik.setFocus();
+        carga();
+    }
+    void carga() {
+        norvik.control().CargarFichero(delRepositorio("ejemplos/c/bien/grande.c"));
+        caja.selecciona(caja.inicioDeLinea(caja.numeroDeLineas() / 2), 0);
+        QCoreApplication::processEvents();
+    }
+    void pulsa(Qt::Key tecla, const QString& texto = {}) {
+        for (const auto suceso : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent evento(suceso, tecla, Qt::NoModifier, texto);
+            QCoreApplication::sendEvent(&caja.ventana(), &evento);
+        }
+        QCoreApplication::processEvents();
+    }
+
+    ControlNorvik norvik;
+    CajaTextoQt& caja = norvik.caja();
+};
+
+void teclear(benchmark::State& estado) {
+    Ventana v;
+    const auto antes = v.caja.texto().size();
+    int tecleados = 0;
+    for ([[maybe_unused]] auto vuelta : estado) {
+        v.pulsa(Qt::Key_A, QStringLiteral("a"));
+        if (++tecleados % 500 != 0) continue;
+        estado.PauseTiming();
+        v.carga();
+        estado.ResumeTiming();
+    }
+    if (v.caja.texto().size() != antes + static_cast<std::size_t>(tecleados % 500))
+        estado.SkipWithError("the keys did not write");
+}
+BENCHMARK(teclear)->Unit(benchmark::kMillisecond);
+
+/// A character typed, which turns the line plain, then the arrow that leaves it, which alone is timed.
+void dejarLinea(benchmark::State& estado) {
+    Ventana v;
+    int vueltas = 0;
+    for ([[maybe_unused]] auto vuelta : estado) {
+        estado.PauseTiming();
+        if (++vueltas % 200 == 0) v.carga();
+        v.pulsa(Qt::Key_A, QStringLiteral("a"));
+        estado.ResumeTiming();
+        v.pulsa(vueltas % 2 == 0 ? Qt::Key_Down : Qt::Key_Up);
+    }
+}
+BENCHMARK(dejarLinea)->Unit(benchmark::kMillisecond);
+
+void colorearTodo(benchmark::State& estado) {
+    Ventana v;
+    for ([[maybe_unused]] auto vuelta : estado) {
+        estado.PauseTiming();
+        v.caja.selecciona(0, static_cast<std::int32_t>(v.caja.texto().size()));
+        v.caja.ponColorSeleccion(0);
+        QCoreApplication::processEvents();
+        estado.ResumeTiming();
+        v.norvik.control().ColoreaTodo();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(colorearTodo)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace norvik::bench
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    const QApplication aplicacion(argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
