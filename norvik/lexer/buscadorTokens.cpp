@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <limits>
+#include <utility>
 
 namespace norvik {
 
@@ -22,20 +24,23 @@ namespace {
                          u"texto.");
 }
 
-// The searches of a group under way.
+// The searches of a group under way. A definition is busy as long as it is known to find nothing.
 class Pasada {
 public:
-    Pasada(std::u16string_view texto, const Presupuesto& presupuesto, MapaTokens& mapa)
-        : texto_(texto), presupuesto_(presupuesto), mapa_(mapa) {}
+    Pasada(std::u16string_view texto, const Presupuesto& presupuesto, AutomataConjunto& conjunto,
+           MapaTokens& mapa)
+        : texto_(texto), presupuesto_(presupuesto), conjunto_(conjunto), mapa_(mapa) {}
 
     void aniade(const expresionRegular& definicion, std::int32_t numero) {
         busquedas_.push_back({definicion.expReg->empieza(texto_, presupuesto_), &definicion, numero});
     }
+    // Positions come in ascending order.
     void prueba(std::uint64_t cuales, std::size_t posicion) {
-        for (; cuales != 0; cuales &= cuales - 1) {
-            EnCurso& una = busquedas_[static_cast<std::size_t>(std::countr_zero(cuales))];
-            if (una.busqueda.libre() <= posicion) prueba(una, posicion);
-        }
+        if (posicion >= proximaLibre_) libera(posicion);
+        cuales &= ~ocupadas_;
+        const bool sonVarias = (cuales & (cuales - 1)) != 0;
+        if (sonVarias && posicion < texto_.size()) cuales = pruebaJuntas(cuales, posicion);
+        paraCadaBit(cuales, [&](std::size_t lugar) { pruebaSola(lugar, posicion); });
     }
 
 private:
@@ -44,20 +49,57 @@ private:
         const expresionRegular* definicion;
         std::int32_t numero;
     };
+    static constexpr auto nunca = std::numeric_limits<std::size_t>::max();
 
-    void prueba(EnCurso& una, std::size_t posicion) {
+    // Returns those that are still to be tried alone.
+    std::uint64_t pruebaJuntas(std::uint64_t cuales, std::size_t posicion) {
+        conjunto_.coinciden(texto_, posicion, cuales, intentos_);
+        const std::uint64_t decididas = cuales & ~intentos_.indecisos;
+        paraCadaBit(intentos_.coinciden,
+                    [&](std::size_t lugar) { halla(lugar, posicion, intentos_.fin[lugar]); });
+        paraCadaBit(decididas, [&](std::size_t lugar) { ocupa(lugar, posicion, intentos_.fin[lugar]); });
+        return intentos_.indecisos;
+    }
+    void pruebaSola(std::size_t lugar, std::size_t posicion) {
+        EnCurso& una = busquedas_[lugar];
         try {
             if (const auto longitud = una.busqueda.intenta(posicion))
-                mapa_.guarda(static_cast<std::int32_t>(posicion), {una.numero, *longitud});
+                halla(lugar, posicion, posicion + static_cast<std::size_t>(*longitud));
         } catch (const BusquedaDesbocada&) {
             desboca(*una.definicion);
         }
+        ocupa(lugar, posicion, una.busqueda.libre());
+    }
+    void halla(std::size_t lugar, std::size_t posicion, std::size_t fin) {
+        mapa_.guarda(static_cast<std::int32_t>(posicion),
+                     {busquedas_[lugar].numero, static_cast<std::int32_t>(fin - posicion)});
+    }
+
+    void ocupa(std::size_t lugar, std::size_t posicion, std::size_t libre) {
+        if (libre <= posicion + 1) return;
+        libres_[lugar] = libre;
+        ocupadas_ |= std::uint64_t{1} << lugar;
+        proximaLibre_ = std::min(proximaLibre_, libre);
+    }
+    void libera(std::size_t posicion) {
+        proximaLibre_ = nunca;
+        paraCadaBit(ocupadas_, [&](std::size_t lugar) {
+            if (libres_[lugar] <= posicion)
+                ocupadas_ &= ~(std::uint64_t{1} << lugar);
+            else
+                proximaLibre_ = std::min(proximaLibre_, libres_[lugar]);
+        });
     }
 
     std::u16string_view texto_;
     const Presupuesto& presupuesto_;
+    AutomataConjunto& conjunto_;
     MapaTokens& mapa_;
     std::vector<EnCurso> busquedas_;
+    AutomataConjunto::Intentos intentos_;
+    std::uint64_t ocupadas_ = 0;
+    std::size_t proximaLibre_ = nunca; // of the busy ones
+    std::array<std::size_t, AutomataConjunto::maximo> libres_{};
 };
 
 } // namespace
@@ -68,7 +110,7 @@ BuscadorTokens::BuscadorTokens(const std::vector<const expresionRegular*>& defin
         const Emparejador& emparejador = *definiciones[i]->expReg;
         if (const auto& palabra = emparejador.palabra(); palabra && !palabra->empty())
             palabras_.aniade(*palabra, emparejador.ignoraMayusculas(), definicion.numero);
-        else if (emparejador.esInmediato())
+        else if (emparejador.automata() != nullptr)
             reune(definicion);
         else
             solas_.push_back(definicion);
@@ -92,7 +134,7 @@ void BuscadorTokens::reune(const Definicion& definicion) {
 void BuscadorTokens::busca(std::u16string_view texto, MapaTokens& mapa) {
     const Presupuesto presupuesto;
     palabras_.busca(texto, mapa);
-    for (const Grupo& grupo : grupos_) busca(grupo, texto, presupuesto, mapa);
+    for (Grupo& grupo : grupos_) busca(grupo, texto, presupuesto, mapa);
     for (const Definicion& definicion : solas_) busca(definicion, texto, presupuesto, mapa);
 }
 
@@ -106,9 +148,15 @@ void BuscadorTokens::busca(const Definicion& definicion, std::u16string_view tex
     }
 }
 
-void BuscadorTokens::busca(const Grupo& grupo, std::u16string_view texto, const Presupuesto& presupuesto,
+void BuscadorTokens::busca(Grupo& grupo, std::u16string_view texto, const Presupuesto& presupuesto,
                            MapaTokens& mapa) {
-    Pasada pasada(texto, presupuesto, mapa);
+    if (!grupo.conjunto) {
+        std::vector<Automata*> automatas;
+        for (const Definicion& definicion : grupo.definiciones)
+            automatas.push_back(definicion.expresion->expReg->automata());
+        grupo.conjunto.emplace(std::move(automatas));
+    }
+    Pasada pasada(texto, presupuesto, *grupo.conjunto, mapa);
     for (const Definicion& definicion : grupo.definiciones)
         pasada.aniade(*definicion.expresion, definicion.numero);
     for (std::size_t i = 0; i < texto.size(); ++i) {

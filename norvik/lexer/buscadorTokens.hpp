@@ -3,9 +3,11 @@
 #include "norvik/lexer/indicePalabras.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/platform/emparejador.hpp"
+#include "norvik/platform/patronConjunto.hpp"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -31,9 +33,10 @@ private:
     };
     /// Definitions that go over a text together.
     struct Grupo {
-        static constexpr std::size_t maximo = 64;
+        static constexpr std::size_t maximo = AutomataConjunto::maximo;
 
         std::vector<Definicion> definiciones;
+        std::optional<AutomataConjunto> conjunto;     ///< made by the first search
         std::array<std::uint64_t, 256> empiezan = {}; ///< a bit for each that may begin with a unit
         std::uint64_t empiezanAltas = 0;              ///< the same for every unit above
         std::uint64_t vacias = 0;                     ///< may begin at the end of the text
@@ -42,7 +45,7 @@ private:
     void reune(const Definicion& definicion);
     static void busca(const Definicion& definicion, std::u16string_view texto, const Presupuesto& presupuesto,
                       MapaTokens& mapa);
-    static void busca(const Grupo& grupo, std::u16string_view texto, const Presupuesto& presupuesto,
+    static void busca(Grupo& grupo, std::u16string_view texto, const Presupuesto& presupuesto,
                       MapaTokens& mapa);
 
     IndicePalabras palabras_;

@@ -1,9 +1,9 @@
 // Search of many plain words at once. Most definitions of a language are reserved words and operators; giving
 // each its own pass over the text is where recognition would spend its time. Here a position is looked at
 // once: its first character chooses a bucket of words, a mask of their second characters rejects nearly all
-// positions, and what is left is compared. A word that ignores case stands in the bucket of each form of its
-// first character. Each word keeps the end of its last occurrence, so that its occurrences do not overlap,
-// exactly as if it had been searched alone.
+// positions, each word's own second character most of the rest, and what is left is compared. A word that
+// ignores case stands in the bucket of each form of its first character. Each word keeps the end of its last
+// occurrence, so that its occurrences do not overlap, exactly as if it had been searched alone.
 #include "norvik/lexer/indicePalabras.hpp"
 
 #include "norvik/platform/mayusculas.hpp"
@@ -25,21 +25,17 @@ std::u16string formas(char16_t caracter, bool ignoraMayusculas) {
     return todas.empty() ? std::u16string(1, caracter) : todas;
 }
 
-std::uint64_t mascaraDeSegundos(std::u16string_view palabra, bool ignoraMayusculas) {
-    if (palabra.size() == 1) return ~std::uint64_t{0};
-    std::uint64_t todas = 0;
-    for (const char16_t forma : formas(palabra[1], ignoraMayusculas)) todas |= mascara(forma);
-    return todas;
-}
-
 } // namespace
 
 void IndicePalabras::aniade(std::u16string_view palabra, bool ignoraMayusculas, std::int32_t definicion) {
+    Candidata candidata{static_cast<std::uint32_t>(palabras_.size())};
+    candidata.esDeUna = palabra.size() == 1;
+    if (!candidata.esDeUna) candidata.segundo = pliega(palabra[1]);
     for (const char16_t forma : formas(palabra.front(), ignoraMayusculas)) {
         Cubo& cubo = cubos_[forma % 256U];
-        cubo.segundos |= mascaraDeSegundos(palabra, ignoraMayusculas);
-        if (cubo.palabras.empty() || cubo.palabras.back() != palabras_.size())
-            cubo.palabras.push_back(palabras_.size());
+        cubo.segundos |= candidata.esDeUna ? ~std::uint64_t{0} : mascara(candidata.segundo);
+        if (cubo.candidatas.empty() || cubo.candidatas.back().palabra != candidata.palabra)
+            cubo.candidatas.push_back(candidata);
     }
     Palabra& nueva = palabras_.emplace_back(Palabra{std::u16string(palabra), ignoraMayusculas, definicion});
     if (ignoraMayusculas) std::ranges::transform(palabra, nueva.texto.begin(), pliega);
@@ -56,21 +52,20 @@ void IndicePalabras::busca(std::u16string_view texto, MapaTokens& mapa) {
     for (Palabra& palabra : palabras_) palabra.libre = 0;
     for (std::size_t i = 0; i < texto.size(); ++i) {
         const Cubo& cubo = cubos_[texto[i] % 256U];
-        const char16_t segundo = i + 1 < texto.size() ? texto[i + 1] : u'\0';
-        if ((cubo.segundos & mascara(segundo)) != 0) prueba(cubo, texto, i, mapa);
+        const char16_t segundo = i + 1 < texto.size() ? pliega(texto[i + 1]) : u'\0';
+        if ((cubo.segundos & mascara(segundo)) == 0) continue;
+        for (const Candidata& candidata : cubo.candidatas)
+            if (candidata.esDeUna || candidata.segundo == segundo)
+                prueba(palabras_[candidata.palabra], texto, i, mapa);
     }
 }
 
-void IndicePalabras::prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion,
+void IndicePalabras::prueba(Palabra& palabra, std::u16string_view texto, std::size_t posicion,
                             MapaTokens& mapa) {
-    const auto resto = texto.substr(posicion);
-    for (const std::size_t i : cubo.palabras) {
-        Palabra& palabra = palabras_[i];
-        if (posicion < palabra.libre || !palabra.empieza(resto)) continue;
-        palabra.libre = posicion + palabra.texto.size();
-        mapa.guarda(static_cast<std::int32_t>(posicion),
-                    {palabra.definicion, static_cast<std::int32_t>(palabra.texto.size())});
-    }
+    if (posicion < palabra.libre || !palabra.empieza(texto.substr(posicion))) return;
+    palabra.libre = posicion + palabra.texto.size();
+    mapa.guarda(static_cast<std::int32_t>(posicion),
+                {palabra.definicion, static_cast<std::int32_t>(palabra.texto.size())});
 }
 
 } // namespace norvik

@@ -28,13 +28,20 @@ private:
 
         bool empieza(std::u16string_view resto) const;
     };
+    /// A word by its place, and what its second character folds to; a word of one fits every second
+    /// character.
+    struct Candidata {
+        std::uint32_t palabra = 0;
+        char16_t segundo = 0;
+        bool esDeUna = false;
+    };
     /// The words that may begin with a character of a given low byte.
     struct Cubo {
-        std::uint64_t segundos = 0; ///< low six bits of the second characters; all bits for a word of one
-        std::vector<std::size_t> palabras;
+        std::uint64_t segundos = 0; ///< low six bits of the second characters' folds; all for a word of one
+        std::vector<Candidata> candidatas;
     };
 
-    void prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion, MapaTokens& mapa);
+    void prueba(Palabra& palabra, std::u16string_view texto, std::size_t posicion, MapaTokens& mapa);
 
     std::vector<Palabra> palabras_;
     std::array<Cubo, 256> cubos_ = {};

@@ -39,6 +39,8 @@ public:
         const auto indice = static_cast<std::size_t>(static_cast<std::uint32_t>(posicion - inicio_));
         return indice < celdas_.size() && celdas_[indice].definicion >= 0 ? &celdas_[indice] : nullptr;
     }
+    /// The text that was recognised; it stays until the next recognition.
+    std::u16string_view texto() const { return texto_; }
     /// Matched text of a compact entry, which must be the map's.
     std::u16string_view texto(const Celda& celda) const {
         const auto indice = static_cast<std::size_t>(&celda - celdas_.data());

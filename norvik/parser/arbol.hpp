@@ -81,7 +81,9 @@ public:
     Arbol* GetDescendienteConReglaEnDireccion(std::int16_t numReglaBusqueda, Direccion direccion);
 
     /// All children, from the leftmost.
-    std::span<Arbol* const> hijos() const { return {hijos_, numHijos_}; }
+    std::span<Arbol* const> hijos() const {
+        return {numHijos_ == 1 && conSitio_ == 0 ? &hijo_ : hijos_, numHijos_};
+    }
     /// The whole subtree in one canonical text, a node a line, two blanks a level: `head -> body [number]` or
     /// `'lexeme' (line, column)`.
     std::u16string toString() const;
@@ -100,7 +102,10 @@ private:
 
     const FichaRegla* regla_;
     Arbol* padre_;
-    Arbol** hijos_ = nullptr; ///< the first of a table
+    union {
+        Arbol** hijos_ = nullptr; ///< the first of a table
+        Arbol* hijo_;             ///< an only child that was not attached by hand needs no table
+    };
     const char16_t* lexema_ = nullptr;
     std::uint32_t numHijos_ : 31 = 0;
     std::uint32_t conSitio_ : 1 = 0; ///< the table has free places before and after the children

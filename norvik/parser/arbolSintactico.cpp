@@ -1,7 +1,7 @@
 // How the nodes of a tree hang together. A parser's node has all its children side by side in the arena, and
-// a table of exactly their number; the first attachment by hand moves the table to one with room at both
-// ends, which doubles, so that each attachment takes constant time on the average. What is left behind is
-// taken back with the tree.
+// a table of exactly their number, or points at the only one; the first attachment by hand moves the table to
+// one with room at both ends, which doubles, so that each attachment takes constant time on the average. What
+// is left behind is taken back with the tree.
 #include "norvik/parser/arbolSintactico.hpp"
 
 #include "norvik/base/errores.hpp"
@@ -46,6 +46,10 @@ void ArbolSintactico::hazHoja(Arbol& nodo, std::u16string_view lexema, std::int3
 
 std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, const FichaRegla& regla,
                                                   std::size_t numHijos) {
+    if (numHijos == 1) {
+        hazReglaDeUno(nodo, regla);
+        return nodo.hijos();
+    }
     nodo.regla_ = &regla;
     if (numHijos == 0) return {};
     // One record: the table of the children, and they themselves.
@@ -86,7 +90,7 @@ void ArbolSintactico::hazSitio(Arbol& nodo) {
     if (nodo.conSitio_ != 0 && !std::has_single_bit(numero)) return;
     const std::size_t libres = std::bit_ceil(numero + 1) - numero;
     auto** const tabla = arena_.reserva<Arbol*>(numero + 2 * libres) + libres;
-    std::copy_n(nodo.hijos_, numero, tabla);
+    std::ranges::copy(nodo.hijos(), tabla);
     nodo.hijos_ = tabla;
     nodo.conSitio_ = 1;
 }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -34,6 +35,14 @@ public:
     /// Makes a node without children the application of a rule of this tree, with `numHijos` initialised
     /// children.
     std::span<Arbol* const> hazRegla(Arbol& nodo, const FichaRegla& regla, std::size_t numHijos);
+    /// The same with one child.
+    Arbol& hazReglaDeUno(Arbol& nodo, const FichaRegla& regla) {
+        Arbol& hijo = *std::construct_at(arena_.reserva<Arbol>(1), Arbol::Clave{}, sinRegla_, &nodo);
+        nodo.regla_ = &regla;
+        nodo.hijo_ = &hijo;
+        nodo.numHijos_ = 1;
+        return hijo;
+    }
 
 private:
     friend class Arbol;

@@ -142,7 +142,7 @@ bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
     codigoError_ = sinError;
     lector_.inicializa(fuente);
     arbol_.reinicia();
-    traza_.vaciaTraza();
+    traza_.vaciaTraza(lector_.textoReconocido());
     Analisis analisis(lector_, fuente, LenguajeAnalisis(lexico_, gramatica_), traza_,
                       lineas == Lineas::DelTexto);
     Mensaje mensaje;

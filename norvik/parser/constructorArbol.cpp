@@ -40,9 +40,12 @@ private:
     // The node and what hangs from it at its right side; the other children are left pending.
     void hazSubarbol(Arbol& raiz) {
         Arbol* nodo = &raiz;
-        while (const std::int16_t numero = traza_.reglaCima()) {
-            traza_.sacaTraza();
+        while (const std::int16_t numero = traza_.sacaReduccion()) {
             const ReglaUsada& regla = reglaUsada(numero);
+            if (regla.numHijos == 1) {
+                nodo = &arbol_.hazReglaDeUno(*nodo, *regla.ficha);
+                continue;
+            }
             const auto hijos = arbol_.hazRegla(*nodo, *regla.ficha, regla.numHijos);
             if (hijos.empty()) return;
             pendientes_.insert(pendientes_.end(), hijos.begin(), hijos.end() - 1);

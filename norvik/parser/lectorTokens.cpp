@@ -76,6 +76,10 @@ void LectorTokens::recuerda(const TokenLeido& token) {
     ultimoLexema_ = token.lexema;
 }
 
+std::u16string_view LectorTokens::textoReconocido() const {
+    return lexico_.mapaTokens().texto();
+}
+
 parLT LectorTokens::devuelve(const FuenteTexto& fuente) {
     recuerda(lee(fuente));
     return {ultimoLexema_, ultimoToken_};

@@ -73,6 +73,8 @@ public:
     void inicializa(const FuenteTexto& fuente);
     TokenLeido lee(const FuenteTexto& fuente);
     void recuerda(const TokenLeido& token);
+    /// The text of the last recognition; it stays until the next one.
+    std::u16string_view textoReconocido() const;
     Posicion posicionToken() const;
 
 private:

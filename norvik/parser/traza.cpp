@@ -2,12 +2,24 @@
 
 #include "norvik/base/texto.hpp"
 
+#include <functional>
+
 namespace norvik {
 
-void Traza::vaciaTraza() {
+void Traza::vaciaTraza(std::u16string_view texto) {
     pasos_.clear();
     desplazamientos_.clear();
-    textos_.clear();
+    textos_ = texto;
+    texto_ = texto;
+}
+
+std::uint32_t Traza::lugarDe(std::u16string_view lexema) {
+    const std::less_equal<> hasta;
+    if (hasta(texto_.data(), lexema.data()) &&
+        hasta(lexema.data() + lexema.size(), texto_.data() + texto_.size()))
+        return static_cast<std::uint32_t>(lexema.data() - texto_.data());
+    textos_.append(lexema);
+    return static_cast<std::uint32_t>(textos_.size() - lexema.size());
 }
 
 void Traza::fallaLlena() {
@@ -19,9 +31,8 @@ void Traza::registraDesplazamiento(std::u16string_view lexema, std::int32_t line
                                    Procedencia procedencia) {
     if (desplazamientos_.size() == maximoDesplazamientos) fallaLlena();
     apunta(0);
-    desplazamientos_.push_back({static_cast<std::uint32_t>(textos_.size()),
-                                static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
-    textos_.append(lexema);
+    desplazamientos_.push_back(
+        {lugarDe(lexema), static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
 }
 
 std::u16string_view Traza::tipoCimaTraza() const {

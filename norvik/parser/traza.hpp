@@ -13,7 +13,7 @@
 namespace norvik {
 
 /// What a parse did, in order: every shift with its token, every reduction with its rule. A reduction takes
-/// two bytes, the texts of the tokens stand one after the other in one buffer.
+/// two bytes, the texts of the tokens stand in one buffer.
 class Traza {
 public:
     /// Entries that a trace holds at most: a tree of more nodes does not fit in memory, and a table that
@@ -33,7 +33,10 @@ public:
         Procedencia procedencia = Procedencia::Texto;
     };
 
-    void vaciaTraza();
+    void vaciaTraza() { vaciaTraza({}); }
+    /// The same for the parse of a text, which is copied whole, so that the shifts of its parts copy nothing;
+    /// it must stay as long as they are recorded.
+    void vaciaTraza(std::u16string_view texto);
     /// They raise `Desbordamiento` when the trace is full.
     void registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
                                 Procedencia procedencia = Procedencia::Texto);
@@ -51,11 +54,14 @@ public:
     std::u16string lineaCimaTraza() const;
     std::u16string columnaCimaTraza() const;
     void sacaTraza() {
-        if (reglaCima() == 0) {
-            textos_.resize(desplazamientos_.back().inicio);
-            desplazamientos_.pop_back();
-        }
+        if (reglaCima() == 0) desplazamientos_.pop_back();
         pasos_.pop_back();
+    }
+    /// Removes the last entry if it is a reduction, and returns its rule; 0 for a shift, which stays.
+    std::int16_t sacaReduccion() {
+        const std::int16_t regla = reglaCima();
+        if (regla != 0) pasos_.pop_back();
+        return regla;
     }
 
     /// The last entry: its rule, 0 when it is a shift; its shift, empty when it is a reduction.
@@ -66,7 +72,7 @@ public:
     Desplazamiento desplazamientoCima() const {
         return reglaCima() == 0 ? desplazamientos_.back() : Desplazamiento{};
     }
-    /// All lexemes, one after the other.
+    /// All lexemes, each at its place.
     const std::u16string& textos() const { return textos_; }
 
 private:
@@ -74,11 +80,14 @@ private:
         if (pasos_.size() == maximo) fallaLlena();
         pasos_.push_back(regla);
     }
+    /// Where in the buffer a lexeme stands, copied to its end when it is no part of the text.
+    std::uint32_t lugarDe(std::u16string_view lexema);
     [[noreturn]] static void fallaLlena();
 
     std::vector<std::int16_t> pasos_; ///< rule of a reduction, 0 for a shift
     std::vector<Desplazamiento> desplazamientos_;
-    std::u16string textos_;
+    std::u16string textos_;     ///< the text that is parsed, and what is shifted besides
+    std::u16string_view texto_; ///< the text itself
 };
 
 } // namespace norvik

@@ -74,6 +74,7 @@ public:
     }
 
     bool esInmediato() const { return automata_.has_value(); }
+    Automata* automata() { return automata_ ? &*automata_ : nullptr; }
     const ClaseUnidades* primeras() const { return primeras_ ? &*primeras_ : nullptr; }
 
 private:
@@ -132,9 +133,9 @@ Emparejador::Busqueda Emparejador::empieza(std::u16string_view sujeto, const Pre
     return {*compilado_, sujeto, presupuesto};
 }
 
-bool Emparejador::esInmediato() const {
+Automata* Emparejador::automata() const {
     const std::lock_guard cerrojo(compilado_->enUso);
-    return compilado_->listo().esInmediato();
+    return compilado_->listo().automata();
 }
 
 const ClaseUnidades* Emparejador::primeras() const {

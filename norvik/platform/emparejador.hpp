@@ -34,6 +34,7 @@ private:
 /// Raised by a search that exceeds the matcher's limits or its time; the caller knows the pattern's name.
 class BusquedaDesbocada {};
 
+class Automata;
 class ClaseUnidades;
 
 /// A compiled pattern of the editor's dialect. Searches are always global.
@@ -55,8 +56,10 @@ public:
     class Busqueda;
     Busqueda empieza(std::u16string_view sujeto, const Presupuesto& presupuesto) const;
 
-    /// An attempt's time is in proportion to the characters that it looks at.
-    bool esInmediato() const;
+    /// The automaton that finds the matches, for searches that walk together: an attempt's time is then in
+    /// proportion to the characters that it looks at. Null when another way does. Only to be used while a
+    /// search is under way.
+    Automata* automata() const;
     /// The units that a match can begin with; null when a match can be empty or its start is not known.
     const ClaseUnidades* primeras() const;
     /// The word that the pattern is, when it is a plain word: then its matches are its occurrences.

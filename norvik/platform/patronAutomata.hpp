@@ -33,6 +33,8 @@ public:
     Intento coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo);
 
 private:
+    friend class AutomataConjunto;
+
     using Numero = std::uint16_t;
     using Hilos = std::vector<std::uint32_t>;
     struct Estado {

@@ -1,0 +1,118 @@
+// The product of several automata, built while it runs.
+//
+// Definitions that begin alike (a name, a type's name, a label) would each walk over the same word. Here a
+// state is the list of the members that are still walking, each in its own state, so that the word is walked
+// once. A member leaves the list when it can go no further; the last place where it accepted is its match. A
+// stay in one state is walked without looking at anything else. What is rare is left to the members alone:
+// long walks, the end of the text, characters beyond the first 256, and more states than are worth keeping.
+#include "norvik/platform/patronConjunto.hpp"
+
+#include <algorithm>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::size_t estadosMaximos = 500;
+constexpr std::size_t camino = 256; // characters walked together
+
+} // namespace
+
+AutomataConjunto::AutomataConjunto(std::vector<Automata*> miembros) : automatas_(std::move(miembros)) {
+    std::map<std::vector<Automata::Numero>, std::uint8_t> porFirma;
+    for (char16_t unidad = 0; unidad < clases_.size(); ++unidad) {
+        std::vector<Automata::Numero> firma;
+        for (const Automata* automata : automatas_) firma.push_back(automata->grupoDe(unidad));
+        const auto nueva = static_cast<std::uint8_t>(porFirma.size());
+        clases_[unidad] = porFirma.try_emplace(std::move(firma), nueva).first->second;
+    }
+    numClases_ = porFirma.size();
+    ultimaInicial_.fill({0, desconocido});
+}
+
+void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio, std::uint64_t cuales,
+                                 Intentos& intentos) {
+    intentos.coinciden = 0;
+    intentos.indecisos = cuales;
+    Numero estado = inicial(cuales, sujeto[inicio]);
+    if (estado == desconocido) return;
+    const std::size_t tope = std::min(sujeto.size(), inicio + camino);
+    std::size_t i = inicio;
+    for (std::size_t racha = inicio;; racha = ++i) {
+        Numero destino = desconocido;
+        for (; i < tope; ++i) {
+            destino = siguiente(estado, sujeto[i]);
+            if (destino != estado) break;
+        }
+        intentos.coinciden |= aceptan_[estado];
+        paraCadaBit(aceptan_[estado], [&](std::size_t lugar) { intentos.fin[lugar] = i; });
+        intentos.indecisos = vivos_[estado];
+        if (i == tope || destino == desconocido) break;
+        const std::uint64_t fallidos = vivos_[estado] & ~vivos_[destino] & ~intentos.coinciden;
+        if (fallidos != 0) anotaFallidos(sujeto, inicio, racha, i, estado, fallidos, intentos);
+        intentos.indecisos = vivos_[destino];
+        if (intentos.indecisos == 0) break;
+        estado = destino;
+    }
+    intentos.coinciden &= ~intentos.indecisos;
+}
+
+void AutomataConjunto::anotaFallidos(std::u16string_view sujeto, std::size_t inicio, std::size_t racha,
+                                     std::size_t i, Numero estado, std::uint64_t fallidos,
+                                     Intentos& intentos) const {
+    for (const Miembro& miembro : miembros_[estado])
+        if ((fallidos >> miembro.lugar & 1U) != 0)
+            intentos.fin[miembro.lugar] =
+                automatas_[miembro.lugar]->saltaEnVano(sujeto, inicio + 1, racha, i, miembro.estado);
+}
+
+AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, char16_t unidad) {
+    if (unidad >= ultimaInicial_.size()) return desconocido;
+    auto& [para, numero] = ultimaInicial_[unidad];
+    if (para == cuales) return numero;
+    if (iniciales_.size() >= estadosMaximos) return desconocido;
+    const auto [sitio, nueva] = iniciales_.try_emplace(cuales, desconocido);
+    if (nueva) {
+        Miembros miembros;
+        paraCadaBit(cuales, [&](std::size_t lugar) {
+            miembros.push_back({static_cast<std::uint8_t>(lugar), automatas_[lugar]->inicial_});
+        });
+        sitio->second = numeroDe(std::move(miembros));
+    }
+    para = cuales;
+    return numero = sitio->second;
+}
+
+AutomataConjunto::Numero AutomataConjunto::calcula(Numero estado, char16_t unidad) {
+    Miembros miembros;
+    for (const Miembro& miembro : miembros_[estado]) {
+        const Automata::Numero destino = automatas_[miembro.lugar]->siguiente(miembro.estado, unidad);
+        if (destino == Automata::desconocido) return desconocido;
+        if (destino != Automata::muerto) miembros.push_back({miembro.lugar, destino});
+    }
+    const Numero destino = numeroDe(std::move(miembros));
+    transiciones_[estado * numClases_ + clases_[unidad]] = destino;
+    return destino;
+}
+
+AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros) {
+    const auto conocido = numeros_.find(miembros);
+    if (conocido != numeros_.end()) return conocido->second;
+    if (miembros_.size() >= estadosMaximos) return desconocido;
+    const auto numero = static_cast<Numero>(miembros_.size());
+    std::uint64_t vivos = 0;
+    std::uint64_t aceptan = 0;
+    for (const Miembro& miembro : miembros) {
+        const std::uint64_t bit = std::uint64_t{1} << miembro.lugar;
+        vivos |= bit;
+        if (automatas_[miembro.lugar]->acepta_[miembro.estado] != 0) aceptan |= bit;
+    }
+    vivos_.push_back(vivos);
+    aceptan_.push_back(aceptan);
+    transiciones_.resize(transiciones_.size() + numClases_, desconocido);
+    numeros_.emplace(miembros, numero);
+    miembros_.push_back(std::move(miembros));
+    return numero;
+}
+
+} // namespace norvik
