@@ -130,8 +130,8 @@ void etapasDelTexto(Materia& m) {
     etapa("reconocimiento", [&lexico, &m] { lexico.ReconoceTokens(m.puesto.caja.texto()); });
     etapa("lectura", [&m] {
         lector.inicializa(m.puesto.caja);
-        while (lector.lee(m.puesto.caja).definicion >= 0) {
-        }
+        do lector.lee(m.puesto.caja);
+        while (lector.leido().definicion >= 0);
     });
     etapa(
         "arbol", [&m] { construyeArbol(arbol, copia, m.puesto.control.Gramatica()); },

@@ -32,10 +32,9 @@ void IndicePalabras::aniade(std::u16string_view palabra, bool ignoraMayusculas, 
     candidata.esDeUna = palabra.size() == 1;
     if (!candidata.esDeUna) candidata.segundo = pliega(palabra[1]);
     for (const char16_t forma : formas(palabra.front(), ignoraMayusculas)) {
-        Cubo& cubo = cubos_[forma % 256U];
-        cubo.segundos |= candidata.esDeUna ? ~std::uint64_t{0} : mascara(candidata.segundo);
-        if (cubo.candidatas.empty() || cubo.candidatas.back().palabra != candidata.palabra)
-            cubo.candidatas.push_back(candidata);
+        segundos_[forma % 256U] |= candidata.esDeUna ? ~std::uint64_t{0} : mascara(candidata.segundo);
+        auto& cubo = candidatas_[forma % 256U];
+        if (cubo.empty() || cubo.back().palabra != candidata.palabra) cubo.push_back(candidata);
     }
     Palabra& nueva = palabras_.emplace_back(Palabra{std::u16string(palabra), ignoraMayusculas, definicion});
     if (ignoraMayusculas) std::ranges::transform(palabra, nueva.texto.begin(), pliega);
@@ -51,10 +50,10 @@ bool IndicePalabras::Palabra::empieza(std::u16string_view resto) const {
 void IndicePalabras::busca(std::u16string_view texto, MapaTokens& mapa) {
     for (Palabra& palabra : palabras_) palabra.libre = 0;
     for (std::size_t i = 0; i < texto.size(); ++i) {
-        const Cubo& cubo = cubos_[texto[i] % 256U];
+        const std::size_t cubo = texto[i] % 256U;
         const char16_t segundo = i + 1 < texto.size() ? pliega(texto[i + 1]) : u'\0';
-        if ((cubo.segundos & mascara(segundo)) == 0) continue;
-        for (const Candidata& candidata : cubo.candidatas)
+        if ((segundos_[cubo] & mascara(segundo)) == 0) continue;
+        for (const Candidata& candidata : candidatas_[cubo])
             if (candidata.esDeUna || candidata.segundo == segundo)
                 prueba(palabras_[candidata.palabra], texto, i, mapa);
     }

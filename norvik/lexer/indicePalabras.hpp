@@ -35,16 +35,13 @@ private:
         char16_t segundo = 0;
         bool esDeUna = false;
     };
-    /// The words that may begin with a character of a given low byte.
-    struct Cubo {
-        std::uint64_t segundos = 0; ///< low six bits of the second characters' folds; all for a word of one
-        std::vector<Candidata> candidatas;
-    };
-
     void prueba(Palabra& palabra, std::u16string_view texto, std::size_t posicion, MapaTokens& mapa);
 
     std::vector<Palabra> palabras_;
-    std::array<Cubo, 256> cubos_ = {};
+    // By the low byte of the first character: what may begin so, and the low six bits of the second
+    // characters' folds, all for a word of one.
+    std::array<std::vector<Candidata>, 256> candidatas_ = {};
+    std::array<std::uint64_t, 256> segundos_ = {};
 };
 
 } // namespace norvik

@@ -24,8 +24,11 @@ public:
         Lugar lugar;
         std::int16_t estado = 0; ///< top in the end; 0: no run
         std::uint32_t inicio = 0;
-        std::uint32_t longitud = 0;
+        std::uint16_t longitud = 0; ///< 0 where the token asks for something else at once
+        std::int16_t accion = 0;    ///< what the token asks for in the end
     };
+    /// Rules that a run has at most.
+    static constexpr std::size_t maximo = 32;
 
     /// The run at a place, null when none is known.
     const Cadena* en(const Lugar& lugar) const {
@@ -37,14 +40,15 @@ public:
         return std::span(reglas_).subspan(cadena.inicio, cadena.longitud);
     }
     /// Stores a run, perhaps in place of another one.
-    void guarda(const Lugar& lugar, std::int16_t estado, std::span<const std::int16_t> reglas) {
+    void guarda(const Lugar& lugar, std::int16_t estado, std::int16_t accion,
+                std::span<const std::int16_t> reglas) {
         cadenas_[ranura(lugar)] = {lugar, estado, static_cast<std::uint32_t>(reglas_.size()),
-                                   static_cast<std::uint32_t>(reglas.size())};
+                                   static_cast<std::uint16_t>(reglas.size()), accion};
         reglas_.insert(reglas_.end(), reglas.begin(), reglas.end());
     }
 
 private:
-    static constexpr std::size_t numRanuras = 2048;
+    static constexpr std::size_t numRanuras = 4096;
 
     static std::size_t ranura(const Lugar& lugar) {
         const auto mezcla = static_cast<std::uint32_t>(lugar.debajo) * 0x9E3779B1U +

@@ -1,7 +1,7 @@
 // The SLR driver: a stack of states, one action of the table a step. A shift reads the next token, a
 // reduction pops its rule's body and goes on from the state below over the rule's head. Runs of rules of one
-// symbol are remembered and made at once when they come again. No tree is built meanwhile: the parse leaves a
-// trace, and only an accepted text gets a tree.
+// symbol are remembered, with what comes after them, and made at once when they come again. No tree is built
+// meanwhile: the parse leaves a trace, and only an accepted text gets a tree.
 #include "norvik/parser/conductor.hpp"
 
 #include "norvik/base/numeros.hpp"
@@ -35,10 +35,10 @@ public:
         lee();
         try {
             const Desenlace desenlace = recorre();
-            lector_.recuerda(token_);
+            lector_.recuerda();
             return desenlace;
         } catch (...) {
-            lector_.recuerda(token_);
+            lector_.recuerda();
             throw;
         }
     }
@@ -60,58 +60,67 @@ private:
     // Reduces as long as the token asks for it, and returns what the token asks for then: 0 also when the
     // table has no way on over a rule's head.
     std::int16_t reduce() {
-        std::int16_t estado = pila_.cima();
         for (;;) {
-            const std::int16_t accion = lenguaje_.entrada(estado, columna_);
+            const std::int16_t accion = encadena();
             if (accion >= 0) return accion;
             const std::int16_t numRegla = a16(-accion);
             const auto regla = lenguaje_.regla(numRegla);
+            traza_.registraReduccion(numRegla);
             pila_.POP(regla.numElementos);
-            if (regla.numElementos == 1) {
-                estado = encadena({pila_.cima(), estado, columna_});
-            } else {
-                traza_.registraReduccion(numRegla);
-                estado = lenguaje_.entrada(pila_.cima(), regla.columnaCabeza);
-            }
+            const std::int16_t estado = lenguaje_.entrada(pila_.cima(), regla.columnaCabeza);
             if (estado == 0) return 0;
             pila_.PUSH(estado, posicion_.linea, posicion_.columna);
         }
     }
 
-    // Reduces by rules of one symbol and returns the state at the top then, 0 when there is no way on.
-    std::int16_t encadena(const CadenasReglas::Lugar& lugar) {
+    // The first reductions, as long as their rules have one symbol. Returns what the token asks for then.
+    std::int16_t encadena() {
+        const CadenasReglas::Lugar lugar{pila_.debajo(), pila_.cima(), columna_};
         if (const auto* const conocida = cadenas_.en(lugar)) {
+            if (conocida->longitud == 0) return conocida->accion;
             traza_.registraReducciones(cadenas_.reglas(*conocida));
-            return conocida->estado;
+            cambiaCima(conocida->estado);
+            return conocida->accion;
         }
-        std::array<std::int16_t, 32> reglas{};
+        std::array<std::int16_t, CadenasReglas::maximo> reglas{};
         std::size_t longitud = 0;
         std::int16_t estado = lugar.cima;
-        for (; longitud < reglas.size(); ++longitud) {
-            const std::int16_t accion = lenguaje_.entrada(estado, lugar.columna);
-            if (accion >= 0) break;
-            reglas[longitud] = a16(-accion);
-            const auto regla = lenguaje_.regla(reglas[longitud]);
+        std::int16_t accion = 0;
+        for (;; ++longitud) {
+            accion = lenguaje_.entrada(estado, columna_);
+            if (accion >= 0 || longitud == reglas.size()) break;
+            const auto regla = lenguaje_.regla(a16(-accion));
             if (regla.numElementos != 1) break;
+            reglas[longitud] = a16(-accion);
             traza_.registraReduccion(reglas[longitud]);
             estado = lenguaje_.entrada(lugar.debajo, regla.columnaCabeza);
-            if (estado == 0) return 0;
+            if (estado == 0) {
+                pila_.POP();
+                return 0;
+            }
         }
-        cadenas_.guarda(lugar, estado, std::span(reglas).first(longitud));
-        return estado;
+        if (longitud != 0) cambiaCima(estado);
+        cadenas_.guarda(lugar, estado, accion, std::span(reglas).first(longitud));
+        return accion;
+    }
+
+    void cambiaCima(std::int16_t estado) {
+        pila_.POP(1);
+        pila_.PUSH(estado, posicion_.linea, posicion_.columna);
     }
 
     void desplaza(std::int16_t estado) {
         pila_.PUSH(estado, posicion_.linea, posicion_.columna);
-        const bool fin = token_.definicion == TokenLeido::fin;
-        traza_.registraDesplazamiento(token_.lexema, posicion_.linea, posicion_.columna,
+        const TokenLeido& token = lector_.leido();
+        const bool fin = token.definicion == TokenLeido::fin;
+        traza_.registraDesplazamiento(token.lexema, posicion_.linea, posicion_.columna,
                                       fin ? Traza::Procedencia::FinDeTexto : Traza::Procedencia::Texto);
         lee();
     }
 
     void lee() {
-        token_ = lector_.lee(fuente_);
-        columna_ = lenguaje_.columna(token_);
+        lector_.lee(fuente_);
+        columna_ = lenguaje_.columna(lector_.leido());
         if (conLineas_) posicion_ = lector_.posicionToken();
     }
 
@@ -122,7 +131,6 @@ private:
     bool conLineas_;
     pilaSLR pila_;
     CadenasReglas cadenas_;
-    TokenLeido token_;
     std::int16_t columna_ = 0;
     Posicion posicion_;
 };

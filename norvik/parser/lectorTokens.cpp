@@ -38,42 +38,49 @@ void LectorTokens::inicializa(const FuenteTexto& fuente) {
     posLectura_ = 1;
 }
 
-TokenLeido LectorTokens::lee(const FuenteTexto& fuente) {
+void LectorTokens::lee(const FuenteTexto& fuente) {
     ultimaFuente_ = &fuente;
     const auto texto = fuente.texto();
-    MapaTokens& mapa = lexico_.mapaTokens();
-    const auto fin = static_cast<std::int32_t>(texto.size());
-    for (;;) {
+    const MapaTokens& mapa = lexico_.mapaTokens();
+    while (posLectura_ <= static_cast<std::int32_t>(texto.size())) {
         inicioToken_ = posLectura_;
         const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
-        if (posLectura_ > fin) {
-            if (celda == nullptr) return {TokenLeido::fin, tokenFin};
-            const TokenLeido token{celda->definicion, mapa.texto(*celda)};
-            mapa.borra(posLectura_);
-            return token;
+        if (celda == nullptr || celda->longitud == 0) {
+            const auto caracter = texto.substr(static_cast<std::size_t>(posLectura_) - 1, 1);
+            if (!esBlanco(caracter.front())) {
+                leido_ = {TokenLeido::desconocido, caracter};
+                return;
+            }
+            ++posLectura_;
+            continue;
         }
-        if (celda != nullptr && celda->longitud > 0) {
-            const std::int16_t tipo =
-                lexico_.tokensLenguaje()[static_cast<std::size_t>(celda->definicion)]->tipo;
-            posLectura_ += celda->longitud;
-            if (esComentario(tipo)) continue;
-            return {celda->definicion, sinDelimitadores(mapa.texto(*celda), tipo)};
-        }
-        const auto caracter = texto.substr(static_cast<std::size_t>(posLectura_) - 1, 1);
-        if (!esBlanco(caracter.front())) return {TokenLeido::desconocido, caracter};
-        ++posLectura_;
+        const std::int16_t tipo = lexico_.tokensLenguaje()[static_cast<std::size_t>(celda->definicion)]->tipo;
+        posLectura_ += celda->longitud;
+        if (esComentario(tipo)) continue;
+        leido_ = {celda->definicion, sinDelimitadores(mapa.texto(*celda), tipo)};
+        return;
     }
+    leeFinal();
 }
 
-std::u16string_view LectorTokens::nombre(const TokenLeido& token) const {
-    if (token.definicion == TokenLeido::fin) return tokenFin;
-    if (token.definicion == TokenLeido::desconocido) return tokenError;
-    return lexico_.tokensLenguaje()[static_cast<std::size_t>(token.definicion)]->nomToken;
+void LectorTokens::leeFinal() {
+    inicioToken_ = posLectura_;
+    MapaTokens& mapa = lexico_.mapaTokens();
+    const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
+    leido_ = celda == nullptr ? TokenLeido{TokenLeido::fin, tokenFin}
+                              : TokenLeido{celda->definicion, mapa.texto(*celda)};
+    mapa.borra(posLectura_);
 }
 
-void LectorTokens::recuerda(const TokenLeido& token) {
-    ultimoToken_ = nombre(token);
-    ultimoLexema_ = token.lexema;
+std::u16string_view LectorTokens::nombreLeido() const {
+    if (leido_.definicion == TokenLeido::fin) return tokenFin;
+    if (leido_.definicion == TokenLeido::desconocido) return tokenError;
+    return lexico_.tokensLenguaje()[static_cast<std::size_t>(leido_.definicion)]->nomToken;
+}
+
+void LectorTokens::recuerda() {
+    ultimoToken_ = nombreLeido();
+    ultimoLexema_ = leido_.lexema;
 }
 
 std::u16string_view LectorTokens::textoReconocido() const {
@@ -81,7 +88,8 @@ std::u16string_view LectorTokens::textoReconocido() const {
 }
 
 parLT LectorTokens::devuelve(const FuenteTexto& fuente) {
-    recuerda(lee(fuente));
+    lee(fuente);
+    recuerda();
     return {ultimoLexema_, ultimoToken_};
 }
 

@@ -68,23 +68,26 @@ public:
     const std::u16string& ultimoToken() const { return ultimoToken_; }
     const std::u16string& ultimoLexema() const { return ultimoLexema_; }
 
-    /// The readers for a driver, which reads many tokens and needs the name of few. A driver that stops tells
-    /// with `recuerda` which token was the last.
+    /// The readers for a driver, which reads many tokens and needs the name of few: `leido` is the last one,
+    /// and a driver that stops has its name and lexeme kept with `recuerda`.
     void inicializa(const FuenteTexto& fuente);
-    TokenLeido lee(const FuenteTexto& fuente);
-    void recuerda(const TokenLeido& token);
+    void lee(const FuenteTexto& fuente);
+    const TokenLeido& leido() const { return leido_; }
+    void recuerda();
     /// The text of the last recognition; it stays until the next one.
     std::u16string_view textoReconocido() const;
     Posicion posicionToken() const;
 
 private:
     parLT devuelve(const FuenteTexto& fuente);
-    std::u16string_view nombre(const TokenLeido& token) const;
+    void leeFinal();
+    std::u16string_view nombreLeido() const;
 
     pilaTokens& lexico_;
     const FuenteTexto& editor_;
     TextoInvisible textoInvisible_;
     const FuenteTexto* ultimaFuente_;
+    TokenLeido leido_;
     std::int32_t posLectura_ = 1;
     std::int32_t inicioToken_ = 1;
     std::u16string ultimoToken_;

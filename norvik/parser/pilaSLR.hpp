@@ -32,6 +32,10 @@ public:
     }
     /// State, line and column of the top, 0 when the stack is empty; line and column raise `Desbordamiento`.
     std::int16_t cima() const { return esVacia() ? std::int16_t{0} : entradas_.back().estado; }
+    /// State of the entry below the top, 0 when there is none.
+    std::int16_t debajo() const {
+        return entradas_.size() < 2 ? std::int16_t{0} : entradas_[entradas_.size() - 2].estado;
+    }
     std::int16_t cimaLineas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().linea); }
     std::int16_t cimaColumnas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().columna); }
     bool esVacia() const { return entradas_.empty(); }
