@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -30,6 +32,10 @@ public:
     /// Rules that a run has at most.
     static constexpr std::size_t maximo = 32;
 
+    /// For the parse of a text of a length: a short one meets few runs.
+    explicit CadenasReglas(std::size_t largoTexto)
+        : cadenas_(std::bit_ceil(std::clamp<std::size_t>(largoTexto / 8, 64, 4096))) {}
+
     /// The run at a place, null when none is known.
     const Cadena* en(const Lugar& lugar) const {
         const Cadena& cadena = cadenas_[ranura(lugar)];
@@ -48,16 +54,14 @@ public:
     }
 
 private:
-    static constexpr std::size_t numRanuras = 4096;
-
-    static std::size_t ranura(const Lugar& lugar) {
+    std::size_t ranura(const Lugar& lugar) const {
         const auto mezcla = static_cast<std::uint32_t>(lugar.debajo) * 0x9E3779B1U +
                             static_cast<std::uint32_t>(lugar.cima) * 0x85EBCA77U +
                             static_cast<std::uint32_t>(lugar.columna) * 0xC2B2AE3DU;
-        return (mezcla >> 16) % numRanuras;
+        return (mezcla >> 16) & (cadenas_.size() - 1);
     }
 
-    std::vector<Cadena> cadenas_ = std::vector<Cadena>(numRanuras);
+    std::vector<Cadena> cadenas_; ///< a power of two
     std::vector<std::int16_t> reglas_;
 };
 

@@ -28,7 +28,7 @@ public:
     Analisis(LectorTokens& lector, const FuenteTexto& fuente, LenguajeAnalisis lenguaje, Traza& traza,
              bool conLineas)
         : lector_(lector), fuente_(fuente), lenguaje_(std::move(lenguaje)), traza_(traza),
-          conLineas_(conLineas) {}
+          conLineas_(conLineas), cadenas_(fuente.texto().size()) {}
 
     Desenlace ejecuta() {
         pila_.PUSH(0, 0, 0);

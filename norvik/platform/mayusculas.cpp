@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <string>
-#include <vector>
 
 namespace norvik {
 
@@ -102,34 +100,62 @@ constexpr std::array<char16_t, 65536> despliega() {
     return tabla;
 }
 
-// The sets of more than one unit: `porConjunto` one after another, `enOrden` by unit.
-struct Conjuntos {
-    std::u16string porConjunto;
-    std::u16string enOrden;
+constexpr std::array<char16_t, 65536> tabla = despliega();
 
-    Conjuntos() {
-        std::vector<bool> acompaniada(pliegues.size());
-        for (std::size_t unidad = 0; unidad < pliegues.size(); ++unidad)
-            if (pliegues[unidad] != unidad) acompaniada[unidad] = acompaniada[pliegues[unidad]] = true;
-        for (std::size_t unidad = 0; unidad < pliegues.size(); ++unidad)
-            if (acompaniada[unidad]) enOrden.push_back(static_cast<char16_t>(unidad));
-        porConjunto = enOrden;
-        std::stable_sort(porConjunto.begin(), porConjunto.end(),
-                         [](char16_t a, char16_t b) { return pliega(a) < pliega(b); });
-    }
-};
-
-const Conjuntos& conjuntos() {
-    static const Conjuntos unicos;
-    return unicos;
+constexpr std::array<bool, 65536> acompaniadas() {
+    std::array<bool, 65536> marcas{};
+    for (const Tramo& tramo : tramos)
+        for (std::uint32_t unidad = tramo.desde; unidad <= tramo.hasta; unidad += tramo.paso)
+            marcas[unidad] = marcas[tabla[unidad]] = true;
+    return marcas;
 }
+
+constexpr std::size_t cuenta(const std::array<bool, 65536>& marcas) {
+    std::size_t numero = 0;
+    for (const bool marca : marcas) numero += marca ? 1U : 0U;
+    return numero;
+}
+
+// The units of sets of more than one.
+constexpr std::size_t numAcompaniadas = cuenta(acompaniadas());
+using Acompaniadas = std::array<char16_t, numAcompaniadas>;
+
+constexpr Acompaniadas ordena() {
+    const auto marcas = acompaniadas();
+    Acompaniadas unidades{};
+    std::size_t sitio = 0;
+    for (std::uint32_t unidad = 0; unidad < marcas.size(); ++unidad)
+        if (marcas[unidad]) unidades[sitio++] = static_cast<char16_t>(unidad);
+    return unidades;
+}
+
+constexpr Acompaniadas enOrden = ordena();
+
+// One set after another, by their first units. A set is gathered as a list: each unit knows the next one.
+constexpr Acompaniadas reune() {
+    std::array<char16_t, 65536> primera{};
+    std::array<char16_t, 65536> siguiente{};
+    for (std::size_t i = enOrden.size(); i-- > 0;) {
+        siguiente[enOrden[i]] = primera[tabla[enOrden[i]]];
+        primera[tabla[enOrden[i]]] = enOrden[i];
+    }
+    Acompaniadas unidades{};
+    std::size_t sitio = 0;
+    for (const char16_t cabeza : enOrden)
+        if (tabla[cabeza] == cabeza)
+            for (char16_t unidad = cabeza; unidad != 0; unidad = siguiente[unidad])
+                unidades[sitio++] = unidad;
+    return unidades;
+}
+
+constexpr Acompaniadas porConjunto = reune();
 
 } // namespace
 
-constinit const std::array<char16_t, 65536> pliegues = despliega();
+constinit const std::array<char16_t, 65536> pliegues = tabla;
 
 std::u16string_view equivalentes(char16_t unidad) {
-    const std::u16string& todos = conjuntos().porConjunto;
+    const std::u16string_view todos(porConjunto.data(), porConjunto.size());
     const char16_t clave = pliega(unidad);
     const auto inicio = std::partition_point(todos.begin(), todos.end(),
                                              [clave](char16_t otra) { return pliega(otra) < clave; });
@@ -139,7 +165,7 @@ std::u16string_view equivalentes(char16_t unidad) {
 }
 
 std::u16string_view unidadesConPareja() {
-    return conjuntos().enOrden;
+    return {enOrden.data(), enOrden.size()};
 }
 
 } // namespace norvik

@@ -19,15 +19,21 @@ constexpr std::size_t camino = 256; // characters walked together
 } // namespace
 
 AutomataConjunto::AutomataConjunto(std::vector<Automata*> miembros) : automatas_(std::move(miembros)) {
-    std::map<std::vector<Automata::Numero>, std::uint8_t> porFirma;
-    for (char16_t unidad = 0; unidad < clases_.size(); ++unidad) {
-        std::vector<Automata::Numero> firma;
-        for (const Automata* automata : automatas_) firma.push_back(automata->grupoDe(unidad));
-        const auto nueva = static_cast<std::uint8_t>(porFirma.size());
-        clases_[unidad] = porFirma.try_emplace(std::move(firma), nueva).first->second;
-    }
-    numClases_ = porFirma.size();
     ultimaInicial_.fill({0, desconocido});
+    for (const Automata* automata : automatas_) afina(*automata);
+}
+
+// Splits the classes by what one more automaton tells apart.
+void AutomataConjunto::afina(const Automata& automata) {
+    const std::size_t numGrupos = automata.muestras_.size();
+    std::vector<std::uint16_t> nuevas(numClases_ * numGrupos); // by class and group: class + 1, 0: none yet
+    std::uint16_t numero = 0;
+    for (char16_t unidad = 0; unidad < clases_.size(); ++unidad) {
+        std::uint16_t& nueva = nuevas[clases_[unidad] * numGrupos + automata.grupoDe(unidad)];
+        if (nueva == 0) nueva = ++numero;
+        clases_[unidad] = static_cast<std::uint8_t>(nueva - 1);
+    }
+    numClases_ = numero;
 }
 
 void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio, std::uint64_t cuales,

@@ -50,6 +50,7 @@ private:
     using Miembros = std::vector<Miembro>;
     static constexpr Numero desconocido = 0xFFFF;
 
+    void afina(const Automata& automata);
     Numero inicial(std::uint64_t cuales, char16_t unidad);
     Numero siguiente(Numero estado, char16_t unidad) {
         if (unidad >= clases_.size()) return desconocido;
@@ -63,7 +64,7 @@ private:
 
     std::vector<Automata*> automatas_;
     std::array<std::uint8_t, 256> clases_{}; // units that no member tells apart
-    std::size_t numClases_ = 0;
+    std::size_t numClases_ = 1;
     std::vector<std::uint64_t> vivos_;   // of each state: who is still walking
     std::vector<std::uint64_t> aceptan_; // … and whose match is complete
     std::vector<Numero> transiciones_;   // state × class

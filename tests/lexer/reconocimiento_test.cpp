@@ -129,12 +129,16 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
         for (std::size_t n = azar() % (maximo + 1); n > 0; --n) texto += letras[azar() % letras.size()];
         return texto;
     };
-    for (int vuelta = 0; vuelta < 300; ++vuelta) {
+    const auto patron = [&](int clase) {
+        if (clase == 2) return u"[" + cadena(2, u"abñ") + u"c]*";
+        if (clase == 3) return u"(" + cadena(1, u"a[b") + u"|[ab]|ñ)+" + cadena(2, u"abA$");
+        return cadena(4, u"abAñŁ");
+    };
+    for (int vuelta = 0; vuelta < 400; ++vuelta) {
         pilaTokens lexico;
         for (int i = 0; i < 12; ++i)
-            lexico.SetER(i % 4 == 3 ? u"[" + cadena(2, u"abñ") + u"c]*" : cadena(4, u"abAñŁ"),
-                         u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
-        const std::u16string texto = cadena(40, u"aabbABñÑcŁA");
+            lexico.SetER(patron(i % 4), u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
+        const std::u16string texto = cadena(vuelta % 10 == 0 ? 900 : 40, u"aaabbABñÑcŁA");
         EXPECT_EQ(lexico.ReconoceTokens(texto).toString(), mapaIngenuo(lexico, texto)) << aUtf8(texto);
     }
 }
