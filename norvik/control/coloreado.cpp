@@ -5,7 +5,9 @@
 
 #include "norvik/control/coloreado.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/control/guardas.hpp"
 
 namespace norvik {
@@ -27,6 +29,7 @@ void Coloreado::coloreaRango(std::int32_t inicio, std::int32_t fin, std::int32_t
 
 /// Paints the tokens of the positions [desde, hasta), 1-based.
 void Coloreado::pintaTokens(std::int32_t desde, std::int32_t hasta) {
+    if (hasta - 1 > a32(maximoTexto)) throw TextoDemasiadoLargo();
     const MapaTokens& mapa = lexico_.ReconoceTokens(caja_.texto(), a16(desde), a16(hasta));
     for (std::int32_t pos = desde; pos < hasta;) {
         const auto token = mapa.en(pos);

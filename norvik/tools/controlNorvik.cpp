@@ -1,5 +1,6 @@
 #include "norvik/tools/controlNorvik.hpp"
 
+#include "norvik/base/texto.hpp"
 #include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
@@ -29,7 +30,10 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
 void ControlNorvik::conectaEventos() {
     EventosControl& e = control_.eventos;
     e.CambioDeLinea = [this](auto& linea) { emit CambioDeLinea(linea); };
-    e.change = [this] { emit change(); };
+    e.change = [this] {
+        if (caja_.texto().size() <= maximoTexto) falloContado_.clear();
+        emit change();
+    };
     e.Click = [this] { emit Click(); };
     e.KeyDown = [this](auto& codigo, auto& shift) { emit KeyDown(codigo, shift); };
     e.KeyPress = [this](auto& caracter) { emit KeyPress(caracter); };
@@ -53,9 +57,15 @@ std::array<QWidget*, 3> ControlNorvik::observados() {
 void ControlNorvik::conectaElementos() {
     for (QWidget* e : observados()) e->installEventFilter(this);
     connect(&elementos_.controlSpace, &QPushButton::clicked, this, [this] { caja_.enfoca(); });
-    caja_.alFallar = [this](const std::u16string& texto) {
-        sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
-    };
+    caja_.alFallar = [this](const std::u16string& texto) { cuentaFallo(texto); };
+}
+
+/// A text that is too long cannot be coloured at any line that is left: that is said once, until it fits.
+void ControlNorvik::cuentaFallo(const std::u16string& texto) {
+    const bool cabe = caja_.texto().size() <= maximoTexto;
+    if (!cabe && texto == falloContado_) return;
+    falloContado_ = cabe ? std::u16string() : texto;
+    sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
 // ---- keyboard and mouse

@@ -158,6 +158,7 @@ private:
 
     void conectaEventos();
     void conectaElementos();
+    void cuentaFallo(const std::u16string& texto);
     std::array<QWidget*, 3> observados();
     void saleHaciaDelante();
 
@@ -166,7 +167,8 @@ private:
     SistemaQt& sistema_; ///< `propio_` or one that is shared
     CajaTextoQt caja_;
     Norvik control_;
-    bool saliendo_ = false; ///< the focus passes over `tabulador`
+    std::u16string falloContado_; ///< of a text that is too long
+    bool saliendo_ = false;       ///< the focus passes over `tabulador`
 };
 
 } // namespace norvik

@@ -1,5 +1,7 @@
 // The control on a form: what is typed, clicked and shown.
+#include "norvik/base/errores.hpp"
 #include "norvik/tools/controlNorvik.hpp"
+#include "qt/sistemaDePrueba.hpp"
 
 #include <QApplication>
 #include <QClipboard>
@@ -60,7 +62,8 @@ protected:
 
     QWidget formulario;
     QPushButton antes{&formulario};
-    ControlNorvik norvik{&formulario};
+    SistemaDePrueba sistema;
+    ControlNorvik norvik{sistema, &formulario};
     QPushButton despues{&formulario};
     QPlainTextEdit& editor = static_cast<QPlainTextEdit&>(norvik.caja().ventana());
 };
@@ -221,21 +224,35 @@ TEST_F(ControlNorvikTest, ErroresEnSuLineaConSuSigno) {
     EXPECT_EQ(colores(1), "ppp");
 }
 
-TEST_F(ControlNorvikTest, DemasiadoTextoSeDiceYSeSigue) {
-    norvik.control().Text(std::u16string(32766, u'x'));
-    norvik.control().SelStart(32766);
-    QStringList fallos;
-    norvik.caja().alFallar = [&](const std::u16string& t) { fallos << QString::fromStdU16String(t); };
-    QTest::keyClicks(&editor, "yz");
-    pulsa(Qt::Key_Return); // colouring the line that is left is too much
-    QCoreApplication::processEvents();
-    EXPECT_EQ(fallos, QStringList{"Desbordamiento"});
-    EXPECT_EQ(norvik.control().Text().size(), 32770U);
-    pulsa(Qt::Key_Home, Qt::ControlModifier);
-    norvik.control().Text(u"");
-    QTest::keyClicks(&editor, "si");
-    pulsa(Qt::Key_Return);
-    EXPECT_EQ(colores(0), "rr");
+TEST_F(ControlNorvikTest, DemasiadoTextoSeDiceUnaVezYSeSigue) {
+    for (const std::size_t longitud : {32766U, 32767U}) {
+        norvik.control().Text(std::u16string(longitud - 9, u'x') + u"\r\nsi 12 y");
+        pulsa(Qt::Key_Down);
+        pulsa(Qt::Key_End);
+        QTest::keyClicks(&editor, "34");
+        QApplication::clipboard()->setText("56\n78");
+        pulsa(Qt::Key_Insert, Qt::ShiftModifier);
+        for (int vez = 0; vez < 3; ++vez) {
+            pulsa(Qt::Key_Up);
+            QCoreApplication::processEvents();
+            QTest::keyClicks(&editor, "z");
+            pulsa(Qt::Key_Return); // colouring what is left is too much each time
+            QCoreApplication::processEvents();
+            despues.setFocus();
+            QCoreApplication::processEvents();
+            norvik.setFocus();
+        }
+        EXPECT_EQ(norvik.control().Text().size(), longitud + 2 + 6 + 9);
+        EXPECT_FALSE(norvik.caja().ocultaSeleccion() && !norvik.HideSelection());
+        EXPECT_EQ(sistema.dameMensajes(),
+                  (std::vector<Mensaje>{{TextoDemasiadoLargo().texto(), u"Norvik", Icono::Critico}}));
+        norvik.control().Text(u"");
+        QTest::keyClicks(&editor, "si");
+        pulsa(Qt::Key_Return);
+        EXPECT_EQ(colores(0), "rr");
+        pulsa(Qt::Key_Up);
+    }
+    EXPECT_TRUE(sistema.mensajes.empty());
 }
 
 TEST_F(ControlNorvikTest, EnFondoOscuroTodoSeLee) {
