@@ -123,8 +123,9 @@ void BuscadorTokens::reune(const Definicion& definicion) {
     const std::uint64_t bit = std::uint64_t{1} << grupo.definiciones.size();
     grupo.definiciones.push_back(definicion);
     const ClaseUnidades* const primeras = definicion.expresion->expReg->primeras();
-    for (char16_t unidad = 0; unidad < grupo.empiezan.size(); ++unidad)
-        if (primeras == nullptr || primeras->contiene(unidad)) grupo.empiezan[unidad] |= bit;
+    for (std::size_t unidad = 0; unidad < grupo.empiezan.size(); ++unidad)
+        if (primeras == nullptr || primeras->contiene(static_cast<char16_t>(unidad)))
+            grupo.empiezan[unidad] |= bit;
     const bool altas = primeras == nullptr || (!primeras->rangos().empty() &&
                                                primeras->rangos().back().hasta >= grupo.empiezan.size());
     if (altas) grupo.empiezanAltas |= bit;

@@ -54,6 +54,7 @@ std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, const FichaRegla&
     if (numHijos == 0) return {};
     // One record: the table of the children, and they themselves.
     static_assert(alignof(Arbol) == alignof(Arbol*));
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
     std::byte* const registro = arena_.reservaBytes(numHijos * (sizeof(Arbol*) + sizeof(Arbol)));
     auto** const tabla = reinterpret_cast<Arbol**>(registro);
     auto* const hijos = reinterpret_cast<Arbol*>(tabla + numHijos);

@@ -28,8 +28,9 @@ void AutomataConjunto::afina(const Automata& automata) {
     const std::size_t numGrupos = automata.muestras_.size();
     std::vector<std::uint16_t> nuevas(numClases_ * numGrupos); // by class and group: class + 1, 0: none yet
     std::uint16_t numero = 0;
-    for (char16_t unidad = 0; unidad < clases_.size(); ++unidad) {
-        std::uint16_t& nueva = nuevas[clases_[unidad] * numGrupos + automata.grupoDe(unidad)];
+    for (std::size_t unidad = 0; unidad < clases_.size(); ++unidad) {
+        const std::size_t grupo = automata.grupoDe(static_cast<char16_t>(unidad));
+        std::uint16_t& nueva = nuevas[clases_[unidad] * numGrupos + grupo];
         if (nueva == 0) nueva = ++numero;
         clases_[unidad] = static_cast<std::uint8_t>(nueva - 1);
     }

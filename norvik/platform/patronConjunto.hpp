@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -45,7 +46,9 @@ private:
         std::uint8_t lugar;
         Automata::Numero estado;
 
-        auto operator<=>(const Miembro&) const = default;
+        bool operator<(const Miembro& otro) const {
+            return std::tie(lugar, estado) < std::tie(otro.lugar, otro.estado);
+        }
     };
     using Miembros = std::vector<Miembro>;
     static constexpr Numero desconocido = 0xFFFF;
