@@ -23,7 +23,10 @@ void PaginaPropiedades::cambiaSeleccion(const QList<ControlNorvik*>& controles) 
     control_ = controles.value(0);
     setEnabled(control_ != nullptr);
     if (control_ == nullptr) return;
-    connect(control_, &QObject::destroyed, this, [this] { setEnabled(control_ != nullptr); });
+    connect(control_, &QObject::destroyed, this, [this] {
+        control_ = nullptr;
+        setEnabled(false);
+    });
     const QScopedValueRollback<bool> leyendo(leyendo_, true);
     lee(*control_);
 }

@@ -9,6 +9,7 @@
 #include "norvik/tools/ventanas.hpp"
 
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QVBoxLayout>
 
 #include <optional>
@@ -53,12 +54,14 @@ void PPControl::dispone() {
     columna.addLayout(&nombre);
     columna.addWidget(&marco_);
     columna.addStretch();
-    auto& botones = nuevo<QVBoxLayout>(&marco_);
+    auto& botones = nuevo<QGridLayout>(&marco_);
+    int i = 0;
     for (QPushButton* boton : {&command4_, &command5_, &command6_}) {
         boton->setAutoDefault(false);
-        botones.addWidget(boton, 0, Qt::AlignLeft);
+        botones.addWidget(boton, i++, 0);
     }
-    botones.addWidget(&resultado_);
+    botones.addWidget(&resultado_, i, 0, 1, 2);
+    botones.setColumnStretch(1, 1);
 }
 
 void PPControl::conecta() {
@@ -91,7 +94,8 @@ bool PPControl::escribe(ControlNorvik& control) {
 
 void PPControl::tomaRanuras(ControlNorvik& control) {
     PPControl* const otra = duena();
-    if (otra != nullptr && otra != this) otra->deja(*otra->control(), Motivo::OtraSeleccion);
+    if (otra != nullptr && otra != this && otra->control() != nullptr)
+        otra->deja(*otra->control(), Motivo::OtraSeleccion);
     static_cast<void>(control.control().editCode());
     tomadas_ = ranurasDisenio();
     duena() = this;

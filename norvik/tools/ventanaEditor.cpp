@@ -6,9 +6,11 @@
 #include "norvik/tools/ventanas.hpp"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <QToolButton>
 
 namespace norvik {
 
@@ -70,6 +72,12 @@ QAction& VentanaEditor::sinAccion(const char* id, const QString& rotulo) {
 void VentanaEditor::ponEnBarra(QAction& accion, QLatin1String imagen) {
     accion.setIcon(icono(imagen));
     barra_.addAction(&accion);
+}
+
+void VentanaEditor::ponEnBarraConTexto(QAction& accion, QLatin1String imagen) {
+    ponEnBarra(accion, imagen);
+    qobject_cast<QToolButton*>(barra_.widgetForAction(&accion))
+        ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
 
 void VentanaEditor::ponMenus(const QString& primero, const QList<QAction*>& propias,
@@ -172,12 +180,19 @@ void VentanaEditor::changeEvent(QEvent* evento) {
 /// Not in the middle of a command, which then works on a window that is there.
 void VentanaEditor::closeEvent(QCloseEvent* evento) {
     evento->setAccepted(!ocupada_);
-    if (!ocupada_) alCerrar();
+    if (!ocupada_) acaba();
 }
 
 void VentanaEditor::cierra() {
-    alCerrar();
+    acaba();
     hide();
+}
+
+/// The find dialog, when it searches this window, goes with it.
+void VentanaEditor::acaba() {
+    const auto abiertas = findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDialog* ventana : abiertas) ventana->close();
+    alCerrar();
 }
 
 } // namespace norvik

@@ -29,6 +29,7 @@ protected:
     QAction& herramienta(const char* id, const QString& rotulo, const QKeySequence& teclas,
                          const std::function<void()>& orden);
     void ponEnBarra(QAction& accion, QLatin1String imagen);
+    void ponEnBarraConTexto(QAction& accion, QLatin1String imagen);
     /// The menus, the first with the window's own commands before the common ones; and the first line of the
     /// information box.
     void ponMenus(const QString& primero, const QList<QAction*>& propias, const QString& informacion);
@@ -45,6 +46,7 @@ protected:
 private:
     void ejecuta(const std::function<void()>& orden);
     QAction& sinAccion(const char* id, const QString& rotulo);
+    void acaba();
     void ponEdicion();
     void ponAyuda(const QString& informacion);
     void seleccionaTodo();

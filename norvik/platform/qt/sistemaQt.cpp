@@ -100,7 +100,10 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const bool cancelable = mensaje.botones == Botones::AceptarCancelar;
     caja.setEscapeButton(cancelable ? caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
                                     : aceptar);
+    const Puntero antes = puntero_;
+    SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
     caja.exec();
+    SistemaQt::ponPuntero(antes);
     return cancelable && caja.clickedButton() != aceptar ? Respuesta::Cancelar : Respuesta::Aceptar;
 }
 
