@@ -34,10 +34,20 @@ std::u16string cambia(std::u16string texto, std::u16string_view viejo, std::u16s
     return texto.replace(p, viejo.size(), nuevo);
 }
 
+/// The text whole, and in small pieces.
 std::string error(std::u16string_view texto) {
     Anfitrion a;
     const auto fallo = CargaModulo(texto, a.norvik);
-    return fallo ? aUtf8(fallo->mensaje()) : "";
+    const std::string mensaje = fallo ? aUtf8(fallo->mensaje()) : "";
+    const OrigenDeTexto aTrozos = [&] {
+        const auto trozo = texto.substr(0, 1 + texto.size() % 5);
+        texto.remove_prefix(trozo.size());
+        return std::u16string(trozo);
+    };
+    Anfitrion b;
+    const auto otro = CargaModulo(aTrozos, b.norvik);
+    EXPECT_EQ(otro ? aUtf8(otro->mensaje()) : "", mensaje);
+    return mensaje;
 }
 
 /// What one sees of a text under a language: verdict, message, tree, colours.
