@@ -38,7 +38,7 @@ std::u16string cambia(std::u16string texto, std::u16string_view viejo, std::u16s
 std::string error(std::u16string_view texto) {
     Anfitrion a;
     const auto fallo = CargaModulo(texto, a.norvik);
-    const std::string mensaje = fallo ? aUtf8(fallo->mensaje()) : "";
+    std::string mensaje = fallo ? aUtf8(fallo->mensaje()) : "";
     const OrigenDeTexto aTrozos = [&] {
         const auto trozo = texto.substr(0, 1 + texto.size() % 5);
         texto.remove_prefix(trozo.size());
