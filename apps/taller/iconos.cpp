@@ -12,9 +12,9 @@ namespace norvik::taller {
 
 namespace {
 
-// Every picture is drawn in a square of 16 units with a pen of one and a half.
+// Every picture is drawn in a square of 16 units with a fine pen.
 constexpr int lado = 16;
-constexpr double trazo = 1.4;
+constexpr double trazo = 1.15;
 
 void hoja(QPainter& p) {
     p.drawPolygon(QPolygonF({{3, 1.5}, {9.5, 1.5}, {13, 5}, {13, 14.5}, {3, 14.5}}));

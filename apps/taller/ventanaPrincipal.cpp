@@ -59,6 +59,8 @@ void VentanaPrincipal::compone() {
     resizeDocks({&arbol_}, {340}, Qt::Horizontal);
     acciones_.ver.addAction(arbol_.toggleViewAction());
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
+    lenguaje_.setContentsMargins(8, 0, 8, 0);
+    lugar_.setContentsMargins(8, 0, 8, 0);
     statusBar()->addPermanentWidget(&lenguaje_);
     statusBar()->addPermanentWidget(&lugar_);
 }
@@ -174,6 +176,7 @@ void VentanaPrincipal::muestraPropiedades(VentanaPropiedades::Pagina pagina) {
 
 void VentanaPrincipal::analiza() {
     analizado_ = &formulario_.activo();
+    statusBar()->clearMessage();
     if (!lenguajes_.analiza()) return;
     arbol_.show();
     statusBar()->showMessage(

@@ -5,10 +5,14 @@
 #include "lenguaje.hpp"
 #include "ventanaPrincipal.hpp"
 
+#include "norvik/tools/codigoGramatica.hpp"
+
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -193,6 +197,57 @@ TEST_F(TallerTest, ModoDeDisenio) {
     a.disenio.setChecked(false);
     EXPECT_TRUE(a.deshacer.isEnabled());
     EXPECT_FALSE(ventana.formulario().activo().findChild<VeloDisenio*>()->isVisible());
+}
+
+/// From an empty form to a language that was written, tried and saved.
+TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
+    sistema.conModal = [&](QWidget& modal) {
+        if (auto* const gramatica = qobject_cast<CodigoGramatica*>(&modal)) {
+            QWidget& texto = gramatica->Norvik1().caja().ventana();
+            for (const QString& linea : QString::fromUtf8(calculadora).split(u'\n')) {
+                gramatica->Norvik1().SelText(linea.trimmed());
+                QTest::keyClick(&texto, Qt::Key_Return);
+            }
+            EXPECT_TRUE(gramatica->close());
+            return;
+        }
+        auto& propiedades = dynamic_cast<VentanaPropiedades&>(modal);
+        EXPECT_EQ(propiedades.windowTitle(), "Propiedades de Norvik1[*]");
+        EXPECT_FALSE(propiedades.isWindowModified());
+        propiedades.findChild<QPushButton*>("Command4")->click();
+        propiedades.findChild<QComboBox*>("lenguaje")->setEditText("Suma");
+        EXPECT_TRUE(propiedades.isWindowModified());
+        propiedades.reject(); // the question is given up
+        EXPECT_TRUE(propiedades.isVisible());
+        dialogos.destinos = {Destino::Guardar};
+        propiedades.reject();
+        EXPECT_FALSE(propiedades.isVisible());
+    };
+    ordena(a.nuevoLenguaje);
+    const QString pregunta =
+        "&Aplicar Hay cambios sin aplicar en las propiedades de Norvik1. ¿Quiere aplicarlos?";
+    EXPECT_EQ(dialogos.toma(), QStringList({"modal Propiedades de Norvik1[*]",
+                                            "modal Definición de la Gramatica", pregunta, pregunta}));
+    EXPECT_EQ(norvik().NomLenguaje(), "Suma");
+    EXPECT_TRUE(ventana.formulario().modificado());
+    norvik().control().Text(u"1+2");
+    ordena(a.analizar);
+    EXPECT_EQ(ventana.arbol().modelo().nodos(), 5);
+    // Written here and not saved: another language asks.
+    ordena(a.nuevoLenguaje);
+    EXPECT_EQ(dialogos.toma(),
+              QStringList{"&Guardar ¿Quiere guardar en un fichero la especificación de Norvik1?"});
+    dialogos.ficheros = {ruta("f.nvf")};
+    ordena(a.guardarTodo);
+    EXPECT_FALSE(ventana.formulario().modificado());
+    sistema.conModal = nullptr;
+    ordena(a.propiedades); // looked at only
+    EXPECT_FALSE(ventana.formulario().modificado());
+    ordena(a.nuevoFormulario);
+    ventana.abre(ruta("f.nvf"));
+    norvik().control().Text(u"1+2");
+    ordena(a.analizar);
+    EXPECT_EQ(ventana.arbol().modelo().nodos(), 5);
 }
 
 TEST_F(TallerTest, FicherosQueSeSueltan) {
