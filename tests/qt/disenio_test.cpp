@@ -287,7 +287,8 @@ TEST_F(DisenioTest, LoQueFallaEnLaPaginaSeDiceYNadaSePierde) {
         {"Command5", "Basic", "A = ", alCompilar},
         {"Command5", "Basic", "A -> B;", sinRegla},
         {"Command5", "Basic", QString(40000, u' '), "|Desbordamiento: el texto pasa de 32766 caracteres|0"},
-        {"Command4", "Basic", QString(40000, u' '), "|Desbordamiento|0\nCodigoGramatica"},
+        {"Command4", "Basic", QString(40000, u' '),
+         "|Desbordamiento: el texto pasa de 32766 caracteres|0\nCodigoGramatica"},
     };
     for (const Caso& c : casos) {
         ponTextos(c.especificacion);
