@@ -1,6 +1,7 @@
 #include "norvik/tools/camposBusqueda.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/tools/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QHBoxLayout>
@@ -83,6 +84,7 @@ void hazEditable(QComboBox& lista, const char* nombre, const QString& accesible)
     constexpr int caracteres = 30;
     lista.setMinimumContentsLength(caracteres);
     lista.lineEdit()->setAccessibleName(accesible);
+    ponMenuDeTexto(*lista.lineEdit());
 }
 
 void ponTextos(QComboBox& lista, const std::vector<std::u16string>& textos) {

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QStorageInfo>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <system_error>
@@ -87,9 +88,10 @@ void directorio::conecta() {
             [this](const QModelIndex& elegida) {
                 if (elegida.isValid()) muestraCarpeta(carpetas_.filePath(elegida));
             });
-    // Folders are read in the background, and push down what stands below them.
-    connect(&carpetas_, &QFileSystemModel::directoryLoaded, this,
-            [this] { dir1_.scrollTo(dir1_.currentIndex()); });
+    // Folders are read in the background: the chosen one is there when those round it are, in order.
+    connect(&carpetas_, &QFileSystemModel::directoryLoaded, this, [this](const QString& leida) {
+        if (contiene(leida, dirDestino_.text())) QTimer::singleShot(0, this, &directorio::senalaCarpeta);
+    });
     connect(&command1_, &QPushButton::clicked, this, &directorio::acepta);
     connect(&command2_, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -117,11 +119,18 @@ void directorio::abre() {
     }
     drive1_.setCurrentIndex(unidad_);
     dir1_.setRootIndex(carpetas_.setRootPath(drive1_.itemData(unidad_).toString()));
-    const QModelIndex donde = carpetas_.index(carpeta);
+    muestraCarpeta(carpeta);
+    senalaCarpeta();
+    dir1_.setFocus();
+}
+
+/// Shows the chosen folder where it stands in the tree.
+void directorio::senalaCarpeta() {
+    const QModelIndex donde = carpetas_.index(dirDestino_.text());
+    if (donde == dir1_.rootIndex()) return;
     dir1_.setCurrentIndex(donde);
     dir1_.expand(donde);
-    muestraCarpeta(carpeta);
-    dir1_.setFocus();
+    dir1_.scrollTo(donde, QAbstractItemView::PositionAtCenter);
 }
 
 void directorio::eligeUnidad(int indice) {

@@ -36,6 +36,7 @@ private:
     void abre();
     void llenaUnidades();
     void eligeUnidad(int indice);
+    void senalaCarpeta();
     void muestraCarpeta(const QString& carpeta);
     void acepta();
 

@@ -3,6 +3,7 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/tools/directorio.hpp"
+#include "norvik/tools/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ void soloLectura(QPlainTextEdit& caja) {
     caja.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     caja.setUndoRedoEnabled(false);
     caja.setTabChangesFocus(true);
+    ponMenuDeTexto(caja);
 }
 
 /// Emphasises the headings of an automaton's states.
@@ -116,6 +118,8 @@ void Informe::llena() {
     QFont verdana(QStringLiteral("Verdana"));
     verdana.setStyleHint(QFont::SansSerif);
     texto_.setFont(verdana);
+    texto_.setTabStopDistance(
+        QFontMetricsF(verdana).horizontalAdvance(QStringLiteral("0000.  "))); // after numbers
     texto_.setPlainText(aQString(gramatica_.textoInformeGeneral()));
     automata_.setLineWrapMode(QPlainTextEdit::NoWrap);
     automata_.setPlainText(aQString(gramatica_.textoAutomata()));

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -14,7 +15,7 @@ using namespace norvik;
 namespace {
 
 struct Vista {
-    QString titulo, texto, botones;
+    QString titulo, texto, botones, resto;
     QMessageBox::Icon icono = QMessageBox::NoIcon;
 };
 
@@ -24,7 +25,12 @@ Vista contesta(SistemaQt& sistema, const Mensaje& mensaje, const QString& boton,
     QTimer::singleShot(0, [&] {
         auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(caja, nullptr);
-        vista = {caja->windowTitle(), caja->text(), {}, caja->icon()};
+        const auto* resto = caja->findChild<QPlainTextEdit*>();
+        vista = {caja->windowTitle(),
+                 caja->text(),
+                 {},
+                 resto == nullptr ? "" : resto->toPlainText(),
+                 caja->icon()};
         QAbstractButton* elegido = nullptr;
         for (QAbstractButton* b : caja->buttons()) {
             vista.botones += b->text() + ' ';
@@ -51,6 +57,12 @@ TEST(SistemaQt, CajasDeMensaje) {
     EXPECT_EQ(contesta(sistema, pregunta, "Cancelar", Respuesta::Cancelar).botones, "Aceptar Cancelar ");
     contesta(sistema, pregunta, "Aceptar", Respuesta::Aceptar);
     contesta(sistema, pregunta, "", Respuesta::Cancelar);
+    QString lineas; // too many for a screen
+    for (int i = 0; i < 300; ++i) lineas += QStringLiteral("línea %1\n").arg(i);
+    const Vista larga = contesta(sistema, {u"Problemas:\r\n\r\n" + lineas.toStdU16String(), u"Norvik"},
+                                 "Aceptar", Respuesta::Aceptar);
+    EXPECT_EQ(larga.texto, "Problemas:");
+    EXPECT_EQ(larga.resto, lineas.trimmed());
 }
 
 TEST(SistemaQt, PunteroDeLaAplicacion) {

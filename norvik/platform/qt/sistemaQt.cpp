@@ -4,14 +4,18 @@
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPushButton>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace norvik {
 
@@ -86,6 +90,29 @@ private:
     QEventLoop& bucle_;
 };
 
+/// A text of many lines would make the box higher than the screen: all but its first line can be scrolled.
+void acortaTexto(QMessageBox& caja) {
+    constexpr int muchas = 20;
+    const QString texto = caja.text();
+    if (texto.count(u'\n') < muchas) return;
+    const qsizetype corte = texto.indexOf(u'\n');
+    caja.setText(texto.left(corte).trimmed());
+    // The box's grid owns it.
+    QPlainTextEdit& resto = *std::make_unique<QPlainTextEdit>(texto.mid(corte + 1).trimmed()).release();
+    resto.setReadOnly(true);
+    resto.setTabChangesFocus(true);
+    resto.setAccessibleName(caja.text());
+    resto.setLineWrapMode(QPlainTextEdit::NoWrap);
+    const QFontMetrics letra = caja.fontMetrics();
+    constexpr int columnas = 70;
+    resto.setMinimumSize(letra.averageCharWidth() * columnas, letra.lineSpacing() * muchas);
+    auto& rejilla = static_cast<QGridLayout&>(*caja.layout());
+    QWidget* const botones = caja.findChild<QDialogButtonBox*>();
+    rejilla.removeWidget(botones);
+    for (QWidget* elemento : {static_cast<QWidget*>(&resto), botones})
+        rejilla.addWidget(elemento, rejilla.rowCount(), 0, 1, rejilla.columnCount());
+}
+
 } // namespace
 
 Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
@@ -100,6 +127,7 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const bool cancelable = mensaje.botones == Botones::AceptarCancelar;
     caja.setEscapeButton(cancelable ? caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
                                     : aceptar);
+    acortaTexto(caja);
     const Puntero antes = puntero_;
     SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
     caja.exec();
