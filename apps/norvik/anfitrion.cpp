@@ -12,10 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool esModulo(const fs::path& fichero) {
-    return aMinusculas(decodifica(fichero.extension().native())) == u".bas";
-}
-
 std::string leeBytesDe(const fs::path& fichero) {
     return fichero == flujo ? leeEntradaEstandar() : leeBytes(fichero);
 }

@@ -1,9 +1,10 @@
 #include "acciones.hpp"
 
-#include "iconos.hpp"
+#include "norvik/tools/iconos.hpp"
 
 #include <QMenuBar>
 
+#include <array>
 #include <optional>
 
 namespace norvik::taller {
@@ -46,7 +47,7 @@ Acciones::Acciones(QMainWindow& ventana)
 
 void Acciones::describe() {
     const auto s = [](const char* texto) { return QString::fromUtf8(texto); };
-    const Descripcion descripciones[] = {
+    const auto descripciones = std::to_array<Descripcion>({
         {nuevoTexto, s("&Nuevo texto"), QKeySequence::New, Dibujo::Nuevo},
         {abrirTexto, s("&Abrir texto…"), QKeySequence::Open, Dibujo::Abrir},
         {guardarTexto, s("&Guardar texto"), QKeySequence::Save, Dibujo::Guardar},
@@ -76,7 +77,7 @@ void Acciones::describe() {
         {analizar, s("A&nalizar"), s("F8"), Dibujo::Analizar},
         {informe, s("Ver &informe"), s("F9"), Dibujo::Informe},
         {acerca, s("&Acerca de Norvik")},
-    };
+    });
     for (const Descripcion& d : descripciones) {
         d.accion.setText(d.texto);
         d.accion.setShortcut(d.teclas);

@@ -19,8 +19,23 @@ public:
     virtual ~Dialogos() = default;
 
     virtual Destino pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) = 0;
-    Destino preguntaGuardar(const QString& texto) {
-        return pregunta(texto, QStringLiteral("&Guardar"), QStringLiteral("&No guardar"));
+    /// Asks, and saves with `accion` if that is the answer. False when the work stays as it is: the user
+    /// gives up, or it could not be saved.
+    template <typename Accion>
+    bool salvaOPierde(const QString& texto, const QString& guardar, const QString& descartar, Accion accion) {
+        switch (pregunta(texto, guardar, descartar)) {
+        case Destino::Guardar:
+            return accion();
+        case Destino::Descartar:
+            return true;
+        case Destino::Cancelar:
+            return false;
+        }
+        return false;
+    }
+    template <typename Accion>
+    bool guardaOPierde(const QString& texto, Accion accion) {
+        return salvaOPierde(texto, QStringLiteral("&Guardar"), QStringLiteral("&No guardar"), accion);
     }
     /// A file's path, or nothing when the user gives up. `filtros` as Qt writes them.
     virtual std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) = 0;

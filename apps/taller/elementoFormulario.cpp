@@ -1,7 +1,6 @@
 #include "elementoFormulario.hpp"
 
 #include "lenguaje.hpp"
-#include "rutas.hpp"
 
 #include <QAbstractScrollArea>
 #include <QDropEvent>
@@ -113,7 +112,7 @@ void ElementoFormulario::nuevoTexto() {
 void ElementoFormulario::abreTexto(const QString& fichero) {
     nuevoTexto();
     try {
-        norvik_.control().CargarFichero(ruta(fichero));
+        norvik_.control().CargarFichero(aRuta(fichero));
     } catch (const Desbordamiento&) {
         ponFichero(fichero);
         throw;
@@ -129,7 +128,7 @@ void ElementoFormulario::ponFichero(const QString& fichero) {
 }
 
 bool ElementoFormulario::guardaTexto(const QString& fichero) {
-    if (!norvik_.control().SalvarFichero(ruta(fichero))) return false;
+    if (!norvik_.control().SalvarFichero(aRuta(fichero))) return false;
     ponFichero(fichero);
     return true;
 }

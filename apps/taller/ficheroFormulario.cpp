@@ -3,10 +3,9 @@
 
 #include "ficheroFormulario.hpp"
 
-#include "rutas.hpp"
-
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
 
 #include <QDir>
 #include <QFileInfo>
@@ -58,13 +57,13 @@ ElementoGuardado deJson(const QDir& carpeta, const QJsonObject& json) {
 } // namespace
 
 std::vector<ElementoGuardado> leeFormulario(const QString& fichero) {
-    const std::string bytes = leeBytes(ruta(fichero));
+    const std::string bytes = leeBytes(aRuta(fichero));
     const QJsonObject json =
         QJsonDocument::fromJson({bytes.data(), static_cast<qsizetype>(bytes.size())}).object();
     const QDir carpeta = QFileInfo(fichero).absoluteDir();
     std::vector<ElementoGuardado> elementos;
-    for (const QJsonValue& control : json[QLatin1String("Controles")].toArray())
-        elementos.push_back(deJson(carpeta, control.toObject()));
+    const QJsonArray controles = json[QLatin1String("Controles")].toArray();
+    for (const auto& control : controles) elementos.push_back(deJson(carpeta, control.toObject()));
     if (elementos.empty())
         throw NoCoincidenLosTipos(u"«" + fichero.toStdU16String() + u"» no es un formulario de Norvik");
     return elementos;
@@ -75,7 +74,7 @@ void escribeFormulario(const QString& fichero, const std::vector<ElementoGuardad
     QByteArrayList controles;
     for (const ElementoGuardado& elemento : elementos) controles += aJson(carpeta, elemento);
     const QByteArray json = "{\n  \"Controles\": [\n" + controles.join(",\n") + "\n  ]\n}\n";
-    escribeBytes(ruta(fichero), {json.data(), static_cast<std::size_t>(json.size())}, Durabilidad::EnDisco);
+    escribeBytes(aRuta(fichero), {json.data(), static_cast<std::size_t>(json.size())}, Durabilidad::EnDisco);
 }
 
 } // namespace norvik::taller

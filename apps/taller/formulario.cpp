@@ -1,5 +1,7 @@
 #include "formulario.hpp"
 
+#include "norvik/tools/fallos.hpp"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -41,7 +43,7 @@ void Formulario::conecta(ElementoFormulario& elemento) {
 
 QString Formulario::nombreLibre() const {
     for (int i = 1;; ++i) {
-        const QString nombre = QStringLiteral("Norvik%1").arg(i);
+        QString nombre = QStringLiteral("Norvik%1").arg(i);
         if (std::none_of(elementos_.begin(), elementos_.end(),
                          [&](const auto& e) { return e->nombre() == nombre; }))
             return nombre;
@@ -138,11 +140,8 @@ void Formulario::anade(const std::vector<ElementoGuardado>& guardados) {
 QStringList Formulario::llena(ElementoFormulario& elemento, const ElementoGuardado& guardado) {
     QStringList avisos;
     const auto intenta = [&](const auto& accion) {
-        try {
-            accion();
-        } catch (const ErrorNorvik& e) {
-            avisos += aQString(e.texto());
-        }
+        const std::u16string fallo = falloDe(accion);
+        if (!fallo.empty()) avisos += aQString(fallo);
     };
     intenta([&] {
         if (!guardado.modulo.isEmpty()) elemento.ponModulo(guardado.modulo);

@@ -1,22 +1,13 @@
 #include "lenguaje.hpp"
 
-#include "rutas.hpp"
-
 #include "norvik/base/ficheros.hpp"
+#include "norvik/control/generacion.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
 #include "norvik/spec/lectorModulo.hpp"
-
-#include <QFileInfo>
 
 namespace norvik::taller {
 
 namespace {
-
-void olvidaLenguaje(Norvik& control) {
-    control.BorraLenguaje();
-    control.Gramatica().inicializaConjuntos();
-    control.Gramatica().inicializaGramatica();
-}
 
 /// Without a language the text is plain.
 std::u16string acaba(Norvik& control, const std::u16string& error) {
@@ -53,14 +44,11 @@ void descargaLenguaje(ControlNorvik& norvik) {
     norvik.control().ColoreaTodo();
 }
 
-bool esModulo(const QString& fichero) {
-    return QFileInfo(fichero).suffix().compare(QLatin1String("bas"), Qt::CaseInsensitive) == 0;
-}
-
 std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero) {
-    const std::u16string modulo = decodifica(leeBytes(ruta(fichero)));
+    TextoPorTrozos texto(aRuta(fichero));
+    const OrigenDeTexto origen = [&] { return texto.siguiente(); };
     olvidaLenguaje(norvik.control());
-    const auto error = CargaModulo(modulo, norvik.control());
+    const auto error = CargaModulo(origen, norvik.control());
     return acaba(norvik.control(), error ? error->mensaje() : std::u16string());
 }
 

@@ -24,6 +24,5 @@ std::u16string compilaLenguaje(ControlNorvik& norvik);
 void descargaLenguaje(ControlNorvik& norvik);
 /// That of a loading module.
 std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero);
-bool esModulo(const QString& fichero);
 
 } // namespace norvik::taller

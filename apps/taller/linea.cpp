@@ -43,14 +43,16 @@ std::variant<Arranque, Contesta> leeLinea(int argc, const char* const* argv) {
     bool pideVersion = false;
     app.set_help_flag();
     app.allow_extras();
-    app.add_flag("-h,--help", pideAyuda);
-    app.add_flag("--version", pideVersion);
+    app.add_flag("-h,--help", pideAyuda)->disable_flag_override();
+    app.add_flag("--version", pideVersion)->disable_flag_override();
     app.add_option("--lenguaje", lenguaje)->take_last();
     app.add_option("TEXTO", texto);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
-        return error("falta el valor de la opción «" + std::string(argv[argc - 1]) + "»");
+        const std::string ultima = argv[argc - 1];
+        return error(ultima == "--lenguaje" ? "falta el valor de la opción «" + ultima + "»"
+                                            : "--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
         return error("opción mal escrita");
     }

@@ -2,6 +2,8 @@
 
 #include "rutas.hpp"
 
+#include "norvik/tools/fallos.hpp"
+
 #include <algorithm>
 
 namespace norvik::taller {
@@ -25,14 +27,13 @@ void OrdenesFormulario::abre(const QString& fichero) {
 }
 
 bool OrdenesFormulario::escribe(const QString& fichero) {
-    try {
-        formulario_.guarda(fichero);
+    const std::u16string fallo = falloDe([&] { formulario_.guarda(fichero); });
+    if (fallo.empty()) {
         recientes_.anota(fichero);
         return true;
-    } catch (const ErrorNorvik& e) {
-        sistema_.muestraMensaje({e.texto(), {}, Icono::Critico, Botones::Aceptar});
-        return false;
     }
+    sistema_.muestraMensaje({fallo, {}, Icono::Critico, Botones::Aceptar});
+    return false;
 }
 
 bool OrdenesFormulario::guarda() {
@@ -57,15 +58,7 @@ bool OrdenesFormulario::puedePerderFormulario() {
     if (!formulario_.modificado()) return true;
     const QString pregunta =
         QStringLiteral("¿Quiere guardar los cambios del formulario «%1»?").arg(formulario_.titulo());
-    switch (dialogos_.preguntaGuardar(pregunta)) {
-    case Destino::Guardar:
-        return guarda();
-    case Destino::Descartar:
-        return true;
-    case Destino::Cancelar:
-        return false;
-    }
-    return false;
+    return dialogos_.guardaOPierde(pregunta, [this] { return guarda(); });
 }
 
 bool OrdenesFormulario::puedePerder() {

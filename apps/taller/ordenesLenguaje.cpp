@@ -4,6 +4,7 @@
 #include "rutas.hpp"
 
 #include "norvik/base/ficheros.hpp"
+#include "norvik/spec/lectorModulo.hpp"
 
 #include <QFileInfo>
 
@@ -28,8 +29,8 @@ void OrdenesLenguaje::abre(const QString& fichero) {
     ElementoFormulario& elemento = formulario_.activo();
     if (!puedePerder(elemento)) return;
     const bool nuevo = formulario_.fichero().isEmpty() && !formulario_.modificado();
-    const bool modulo = esModulo(fichero);
-    if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(ruta(fichero)));
+    const bool modulo = esModulo(aRuta(fichero));
+    if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(aRuta(fichero)));
     elemento.ponModulo(modulo ? fichero : QString());
     elemento.norvik().NomLenguaje(QFileInfo(fichero).completeBaseName());
     prepara(elemento);
@@ -43,7 +44,7 @@ bool OrdenesLenguaje::guardaEspecificacion() {
         dialogos_.eligeParaGuardar(QStringLiteral("Guardar la especificación"), filtroEspecificacion,
                                    nombre + u'.' + extensionEspecificacion, extensionEspecificacion);
     if (!fichero) return false;
-    escribeTexto(ruta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
+    escribeTexto(aRuta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
                  Durabilidad::EnDisco);
     return true;
 }
@@ -55,15 +56,7 @@ bool OrdenesLenguaje::puedePerder(ElementoFormulario& elemento) {
     if (!escrita || !formulario_.modificado()) return true;
     const QString pregunta =
         QStringLiteral("¿Quiere guardar en un fichero la especificación de %1?").arg(elemento.nombre());
-    switch (dialogos_.preguntaGuardar(pregunta)) {
-    case Destino::Guardar:
-        return guardaEspecificacion();
-    case Destino::Descartar:
-        return true;
-    case Destino::Cancelar:
-        return false;
-    }
-    return false;
+    return dialogos_.guardaOPierde(pregunta, [this] { return guardaEspecificacion(); });
 }
 
 bool OrdenesLenguaje::prepara(ElementoFormulario& elemento) {

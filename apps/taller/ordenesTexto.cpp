@@ -49,15 +49,7 @@ bool OrdenesTexto::puedePerder(ElementoFormulario& elemento) {
     if (!elemento.textoModificado()) return true;
     const QString pregunta =
         QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(elemento.tituloTexto());
-    switch (dialogos_.preguntaGuardar(pregunta)) {
-    case Destino::Guardar:
-        return guarda(elemento);
-    case Destino::Descartar:
-        return true;
-    case Destino::Cancelar:
-        return false;
-    }
-    return false;
+    return dialogos_.guardaOPierde(pregunta, [this, &elemento] { return guarda(elemento); });
 }
 
 } // namespace norvik::taller

@@ -2,10 +2,13 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <utility>
+
 namespace norvik::taller {
 
-Recientes::Recientes(QMenu& menu, QSettings& ajustes, const QString& clave)
-    : menu_(menu), ajustes_(ajustes), clave_(clave) {
+Recientes::Recientes(QMenu& menu, QSettings& ajustes, QString clave)
+    : menu_(menu), ajustes_(ajustes), clave_(std::move(clave)) {
     menu_.setToolTipsVisible(true);
     connect(&menu_, &QMenu::aboutToShow, this, &Recientes::llenaMenu);
 }

@@ -11,7 +11,7 @@ class Recientes final : public QObject {
     Q_OBJECT
 
 public:
-    Recientes(QMenu& menu, QSettings& ajustes, const QString& clave);
+    Recientes(QMenu& menu, QSettings& ajustes, QString clave);
 
     void anota(const QString& fichero);
     QStringList ficheros() const;

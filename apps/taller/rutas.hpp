@@ -1,15 +1,8 @@
 #pragma once
 
-#include <QFile>
 #include <QString>
 
-#include <filesystem>
-
 namespace norvik::taller {
-
-inline std::filesystem::path ruta(const QString& fichero) {
-    return QFile::encodeName(fichero).toStdString();
-}
 
 // Endings and filters of the files that the workbench opens and saves.
 inline const QString extensionFormulario = QStringLiteral("nvf");

@@ -3,6 +3,7 @@
 #include "portapapeles.hpp"
 #include "rutas.hpp"
 
+#include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QCloseEvent>
@@ -27,7 +28,6 @@ QStringList ficherosDe(const QMimeData& datos) {
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
-
     : sistema_(entorno.sistema), dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
       textosRecientes_(acciones_.textosRecientes, ajustes_, QStringLiteral("recientes/textos")),
       formulariosRecientes_(acciones_.formulariosRecientes, ajustes_,
@@ -157,8 +157,7 @@ void VentanaPrincipal::abre(const QString& fichero) {
     ejecuta(sistema_, [&] {
         const QString extension = QFileInfo(fichero).suffix().toLower();
         if (extension == extensionFormulario) return formularios_.abre(fichero);
-        if (extension == extensionEspecificacion || extension == QLatin1String("bas"))
-            return lenguajes_.abre(fichero);
+        if (extension == extensionEspecificacion || esModulo(aRuta(fichero))) return lenguajes_.abre(fichero);
         textos_.abre(fichero);
     });
 }

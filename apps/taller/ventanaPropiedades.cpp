@@ -51,15 +51,8 @@ bool VentanaPropiedades::puedeCerrarse() {
     if (!isWindowModified()) return true;
     const QString pregunta =
         QStringLiteral("Hay cambios sin aplicar en las propiedades de %1. ¿Quiere aplicarlos?").arg(nombre_);
-    switch (dialogos_.pregunta(pregunta, QStringLiteral("&Aplicar"), QStringLiteral("&No aplicar"))) {
-    case Destino::Guardar:
-        return aplica();
-    case Destino::Descartar:
-        return true;
-    case Destino::Cancelar:
-        return false;
-    }
-    return false;
+    return dialogos_.salvaOPierde(pregunta, QStringLiteral("&Aplicar"), QStringLiteral("&No aplicar"),
+                                  [this] { return aplica(); });
 }
 
 void VentanaPropiedades::done(int resultado) {

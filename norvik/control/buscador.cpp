@@ -131,7 +131,7 @@ void Buscador::reemplazaTodo(const Peticion& peticion, std::u16string_view con) 
           u"Reemplazo completado");
 }
 
-void Buscador::avisa(std::u16string_view texto, std::u16string_view titulo, Icono icono) {
+void Buscador::avisa(std::u16string_view texto, std::u16string_view titulo, Icono icono) const {
     if (destino_.sistema == nullptr) return;
     const bool cede = estado_.dialogoAbierto && ponEncima;
     if (cede) ponEncima(false);

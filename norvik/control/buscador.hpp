@@ -43,7 +43,8 @@ public:
     void reemplazaTodo(const Peticion& peticion, std::u16string_view con);
 
     /// Tells something above the dialog, which stands above all other windows.
-    void avisa(std::u16string_view texto, std::u16string_view titulo = {}, Icono icono = Icono::Informacion);
+    void avisa(std::u16string_view texto, std::u16string_view titulo = {},
+               Icono icono = Icono::Informacion) const;
     /// The dialog gives up its place above all windows (false) while a message is shown, and takes it again.
     std::function<void(bool encima)> ponEncima;
 

@@ -226,6 +226,10 @@ std::u16string ErrorModulo::mensaje() const {
     return u"Línea " + aTexto(linea) + u" del módulo: " + texto;
 }
 
+bool esModulo(const std::filesystem::path& fichero) {
+    return aMinusculas(decodifica(fichero.extension().native())) == u".bas";
+}
+
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control) {
     const OrigenDeTexto origen = [&] { return std::u16string(std::exchange(texto, {})); };
     return CargaModulo(origen, control);

@@ -20,6 +20,9 @@ struct ErrorModulo {
     std::u16string mensaje() const;
 };
 
+/// A file is taken for a loading module when its name ends like one.
+bool esModulo(const std::filesystem::path& fichero);
+
 /// Replays a loading module call by call, in the order in which a host program would execute it. Nothing is
 /// called unless the whole text is a module: exactly what the writer writes, save indentation, empty lines
 /// and the kind of line ends. A call that raises a failure ends the replay with the calls before it done. The

@@ -16,7 +16,7 @@ QPointer<buscar>& buscar::abierto() {
 
 void buscar::muestra(ControlNorvik& control) {
     if (abierto().isNull()) {
-        buscar& dialogo = nuevo<buscar>(control.window());
+        auto& dialogo = nuevo<buscar>(control.window());
         abierto() = &dialogo;
         dialogo.campos_.ponPeticion({estadoBusqueda().ultimaBusqueda});
         dialogo.buscador_.abre();

@@ -39,16 +39,15 @@ void CamposBusqueda::disponeAmbito() {
     nombra(ambito_, "Frame1", ambito_.title());
     ambito_.setEnabled(false);
     auto& columna = nuevo<QVBoxLayout>(&ambito_);
-    const QString textos[] = {QStringLiteral("Texto seleccionado"), QStringLiteral("Todo del texto"),
-                              QStringLiteral("Texto no selecciona.")};
-    const char* const nombres[] = {"Option1", "Option2", "Option3"};
-    constexpr std::size_t elTodo = 1;
-    for (std::size_t i = 0; i < std::size(textos); ++i) {
-        auto& opcion = nuevo<QRadioButton>(textos[i], &ambito_);
-        nombra(opcion, nombres[i], textos[i]);
-        opcion.setChecked(i == elTodo);
+    const auto pon = [&](const char* nombre, const QString& texto) {
+        auto& opcion = nuevo<QRadioButton>(texto, &ambito_);
+        nombra(opcion, nombre, texto);
         columna.addWidget(&opcion);
-    }
+        return &opcion;
+    };
+    pon("Option1", QStringLiteral("Texto seleccionado"));
+    pon("Option2", QStringLiteral("Todo del texto"))->setChecked(true);
+    pon("Option3", QStringLiteral("Texto no selecciona."));
 }
 
 Peticion CamposBusqueda::peticion() const {

@@ -17,8 +17,8 @@ CodigoGramatica::CodigoGramatica(SistemaQt& sistema, QWidget* padre)
                                   [this] { probarElLenguaje(); });
     QAction& informe =
         herramienta("VerInforme", QStringLiteral("Ver Informe ..."), Qt::Key_F6, [this] { verInforme(); });
-    ponEnBarraConTexto(prueba, QLatin1String("media-playback-start"));
-    ponEnBarraConTexto(informe, QLatin1String("text-x-generic"));
+    ponEnBarraConTexto(prueba, Dibujo::Ejecutar);
+    ponEnBarraConTexto(informe, Dibujo::Informe);
     ponMenus(QStringLiteral("&Gramática"), {&prueba, &informe},
              QStringLiteral("Editor de Gramática 1.0 alfa"));
     connect(&Norvik1(), &ControlNorvik::KeyUp, this, [this] { recoge(); });

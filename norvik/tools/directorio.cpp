@@ -16,18 +16,10 @@ namespace norvik {
 
 namespace {
 
-QString aRuta(const std::filesystem::path& carpeta) {
-    return QFile::decodeName(QByteArray::fromStdString(carpeta.string()));
-}
-
-std::filesystem::path deRuta(const QString& ruta) {
-    return QFile::encodeName(ruta).toStdString();
-}
-
 /// Why a folder cannot be listed.
 std::error_code fallo(const QString& carpeta) {
     std::error_code error;
-    const std::filesystem::directory_iterator entradas(deRuta(carpeta), error);
+    const std::filesystem::directory_iterator entradas(aRuta(carpeta), error);
     return error;
 }
 
@@ -109,7 +101,7 @@ void directorio::llenaUnidades() {
 
 /// The drive is the innermost that holds the folder.
 void directorio::abre() {
-    const QString ultima = aRuta(directorioDestino());
+    const QString ultima = deRuta(directorioDestino());
     directorioDestino().clear();
     const QString carpeta = QFileInfo(ultima).isDir() ? ultima : QDir::currentPath();
     for (int i = 1; i < drive1_.count(); ++i) {
@@ -152,7 +144,7 @@ void directorio::muestraCarpeta(const QString& carpeta) {
 }
 
 void directorio::acepta() {
-    directorioDestino() = deRuta(dirDestino_.text());
+    directorioDestino() = aRuta(dirDestino_.text());
     accept();
 }
 

@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <array>
+
 namespace norvik {
 
 /// A field of the page and the property that it shows, under the property's own name.
@@ -17,18 +19,21 @@ struct General::Opcion {
     bool esNumero = false;
 };
 
-const General::Opcion General::opciones[] = {
-    {"chkMuestraMensajesDeError", "MuestraMensajesDeError", u"Mostrar Mensajes de Error en los Análisis"},
-    {"chkMarcarErrores", "MarcarErrores", u"Marcar línea cuando se produzca un error."},
-    {"chkAutoNumero", "AutoNumero", u"Optimizar números al escribir."},
-    {"chkAutoTAB", "AutoTAB", u"Tabular automáticamente."},
-    {"txtEspaciosXTAB", "EspaciosXTAB", u"Número de espacios por Tab", true},
-    {"chkAutoCorreccion", "AutoCorreccion", u"Opción de AutoCorrección"},
-    {"chkLenguajeSensible", "LenguajeSensible", u"Lenguaje Sensible a Mayúsculas y Minúsculas."},
-    {"txtMargenIzquierdo", "MargenIzquierdo", u"Tamaño de alineación izquierda:", true},
-    {"chkLeftBorderVisible", "LeftBorderVisible", u"Mostrar Borde del Debugger"},
-    {"chkBorde3D", "Borde3D", u"Mostrar Borde 3D"},
-};
+std::span<const General::Opcion> General::opciones() {
+    static constexpr auto todas = std::to_array<Opcion>({
+        {"chkMuestraMensajesDeError", "MuestraMensajesDeError", u"Mostrar Mensajes de Error en los Análisis"},
+        {"chkMarcarErrores", "MarcarErrores", u"Marcar línea cuando se produzca un error."},
+        {"chkAutoNumero", "AutoNumero", u"Optimizar números al escribir."},
+        {"chkAutoTAB", "AutoTAB", u"Tabular automáticamente."},
+        {"txtEspaciosXTAB", "EspaciosXTAB", u"Número de espacios por Tab", true},
+        {"chkAutoCorreccion", "AutoCorreccion", u"Opción de AutoCorrección"},
+        {"chkLenguajeSensible", "LenguajeSensible", u"Lenguaje Sensible a Mayúsculas y Minúsculas."},
+        {"txtMargenIzquierdo", "MargenIzquierdo", u"Tamaño de alineación izquierda:", true},
+        {"chkLeftBorderVisible", "LeftBorderVisible", u"Mostrar Borde del Debugger"},
+        {"chkBorde3D", "Borde3D", u"Mostrar Borde 3D"},
+    });
+    return todas;
+}
 
 General::General(SistemaQt& sistema, QWidget* padre)
     : PaginaPropiedades(sistema, QStringLiteral("General"), padre) {
@@ -39,7 +44,7 @@ General::General(SistemaQt& sistema, QWidget* padre)
 void General::dispone() {
     auto& filas = nuevo<QFormLayout>(this);
     filas.addRow(&titular(QStringLiteral("Información de caracter genérico sobre el Norvik")));
-    for (const Opcion& o : opciones) {
+    for (const Opcion& o : opciones()) {
         const QString texto = aQString(o.texto);
         if (o.esNumero) {
             auto& campo = nuevo<QLineEdit>(this);
@@ -58,7 +63,7 @@ void General::dispone() {
 }
 
 void General::lee(ControlNorvik& control) {
-    for (const Opcion& o : opciones) {
+    for (const Opcion& o : opciones()) {
         const QVariant valor = control.property(o.propiedad);
         if (o.esNumero) {
             findChild<QLineEdit*>(QLatin1String(o.elemento))->setText(valor.toString());
@@ -70,7 +75,7 @@ void General::lee(ControlNorvik& control) {
 
 bool General::escribe(ControlNorvik& control) {
     bool todo = true;
-    for (const Opcion& o : opciones) {
+    for (const Opcion& o : opciones()) {
         if (o.esNumero) {
             todo = escribeNumero(control, o) && todo;
         } else {

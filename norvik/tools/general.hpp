@@ -2,6 +2,8 @@
 
 #include "norvik/tools/paginaPropiedades.hpp"
 
+#include <span>
+
 namespace norvik {
 
 /// The page of the editor's options.
@@ -17,7 +19,7 @@ protected:
 
 private:
     struct Opcion;
-    static const Opcion opciones[];
+    static std::span<const Opcion> opciones();
 
     void dispone();
     bool escribeNumero(ControlNorvik& control, const Opcion& opcion);

@@ -6,106 +6,156 @@
 #include <QPainterPath>
 #include <QPalette>
 
-#include <algorithm>
-#include <array>
-#include <iterator>
 #include <memory>
 
 namespace norvik {
 
 namespace {
 
-// Every picture is drawn in a square of 16 units, with a pen and a brush of the text's colour.
+// Every picture is drawn in a square of 16 units with a fine pen.
 constexpr int lado = 16;
+constexpr double trazo = 1.15;
 
-void dibujaEjecutar(QPainter& pintor) {
-    pintor.drawPolygon(QPolygonF({{4.5, 2.5}, {13, 8}, {4.5, 13.5}}));
+void hoja(QPainter& p) {
+    p.drawPolygon(QPolygonF({{3, 1.5}, {9.5, 1.5}, {13, 5}, {13, 14.5}, {3, 14.5}}));
+    p.drawPolyline(QPolygonF({{9.5, 1.5}, {9.5, 5}, {13, 5}}));
 }
 
-void dibujaHoja(QPainter& pintor) {
-    pintor.setBrush(Qt::NoBrush);
-    pintor.drawRect(QRectF(3.5, 1.5, 9, 13));
-    for (const double y : {4.5, 7.0, 9.5, 12.0}) pintor.drawLine(QPointF(5.5, y), QPointF(10.5, y));
+void carpeta(QPainter& p) {
+    p.drawPolygon(QPolygonF({{1.5, 13}, {1.5, 3}, {6, 3}, {7.5, 5}, {14.5, 5}, {14.5, 13}}));
+    p.drawLine(QPointF(1.5, 7.5), QPointF(14.5, 7.5));
 }
 
-void dibujaImpresora(QPainter& pintor) {
-    pintor.drawRect(QRectF(2, 6.5, 12, 4.5));
-    pintor.setBrush(Qt::NoBrush);
-    pintor.drawRect(QRectF(4.5, 1.5, 7, 5));
-    pintor.drawRect(QRectF(4.5, 11, 7, 3.5));
+void disquete(QPainter& p) {
+    p.drawPolygon(QPolygonF({{2, 2}, {11.5, 2}, {14, 4.5}, {14, 14}, {2, 14}}));
+    p.drawRect(QRectF(5, 2, 5, 3.5));
+    p.drawRect(QRectF(4.5, 9, 7, 5));
 }
 
-void dibujaDeshacer(QPainter& pintor) {
-    pintor.drawPolygon(QPolygonF({{2, 6}, {6.5, 2}, {6.5, 10}}));
-    pintor.setBrush(Qt::NoBrush);
-    QPainterPath arco(QPointF(6, 6));
-    arco.cubicTo(15, 5, 15, 13, 7.5, 13);
-    pintor.setPen(QPen(pintor.pen().color(), 1.8));
-    pintor.drawPath(arco);
+void impresora(QPainter& p) {
+    p.drawRect(QRectF(1.5, 6, 13, 5.5));
+    p.drawPolyline(QPolygonF({{4, 6}, {4, 1.5}, {12, 1.5}, {12, 6}}));
+    p.drawRect(QRectF(4, 9.5, 8, 5));
 }
 
-void dibujaRehacer(QPainter& pintor) {
-    pintor.translate(lado, 0);
-    pintor.scale(-1, 1);
-    dibujaDeshacer(pintor);
+void vuelta(QPainter& p) {
+    QPainterPath arco({3, 5.5});
+    arco.cubicTo(9, 4, 14, 6, 13, 13.5);
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(arco);
+    p.drawPolyline(QPolygonF({{6.5, 2}, {2.5, 5.6}, {6.5, 9.2}}));
 }
 
-void dibujaLupa(QPainter& pintor) {
-    pintor.setBrush(Qt::NoBrush);
-    pintor.setPen(QPen(pintor.pen().color(), 1.6));
-    pintor.drawEllipse(QPointF(6.5, 6.5), 4.3, 4.3);
-    pintor.setPen(QPen(pintor.pen().color(), 2.4, Qt::SolidLine, Qt::RoundCap));
-    pintor.drawLine(QPointF(10, 10), QPointF(13.5, 13.5));
+void otraVuelta(QPainter& p) {
+    p.translate(lado, 0);
+    p.scale(-1, 1);
+    vuelta(p);
 }
 
-struct Dibujo {
-    const char* tema;
-    void (*dibuja)(QPainter&);
-};
+void lupa(QPainter& p) {
+    p.drawEllipse(QPointF(6.5, 6.5), 4.5, 4.5);
+    p.setPen(QPen(p.pen().color(), 2.2, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(10.2, 10.2), QPointF(14, 14));
+}
 
-constexpr std::array dibujos = {Dibujo{"media-playback-start", dibujaEjecutar},
-                                Dibujo{"text-x-generic", dibujaHoja},
-                                Dibujo{"document-print", dibujaImpresora},
-                                Dibujo{"edit-undo", dibujaDeshacer},
-                                Dibujo{"edit-redo", dibujaRehacer},
-                                Dibujo{"edit-find", dibujaLupa}};
+void punta(QPainter& p) {
+    p.setBrush(p.pen().color());
+    p.drawPolygon(QPolygonF({{4.5, 2.5}, {13, 8}, {4.5, 13.5}}));
+}
 
-class MotorDeDibujo final : public QIconEngine {
+void arbol(QPainter& p) {
+    p.drawPolyline(QPolygonF({{3.5, 11}, {3.5, 8}, {12.5, 8}, {12.5, 11}}));
+    p.drawLine(QPointF(8, 5), QPointF(8, 11));
+    p.setBrush(p.pen().color());
+    p.drawRect(QRectF(6.2, 1.8, 3.6, 3.2));
+    for (const double x : {2.0, 6.5, 11.0}) p.drawEllipse(QRectF(x, 11, 3, 3));
+}
+
+void informe(QPainter& p) {
+    p.drawRect(QRectF(2, 2, 12, 12));
+    for (const double i : {6.0, 10.0}) p.drawLine(QPointF(2, i), QPointF(14, i));
+    p.drawLine(QPointF(6, 2), QPointF(6, 14));
+}
+
+void escuadra(QPainter& p) {
+    p.drawPolygon(QPolygonF({{2, 1.5}, {2, 14}, {14.5, 14}}));
+    p.drawPolygon(QPolygonF({{5, 8}, {5, 11}, {8.2, 11}}));
+}
+
+void mandos(QPainter& p) {
+    for (const auto& [y, x] : {std::pair(3.5, 10.5), std::pair(8.0, 5.5), std::pair(12.5, 9.0)}) {
+        p.drawLine(QPointF(1.5, y), QPointF(14.5, y));
+        p.save();
+        p.setBrush(p.pen().color());
+        p.drawEllipse(QPointF(x, y), 1.7, 1.7);
+        p.restore();
+    }
+}
+
+void pinta(Dibujo dibujo, QPainter& pintor) {
+    switch (dibujo) {
+    case Dibujo::Nuevo:
+        return hoja(pintor);
+    case Dibujo::Abrir:
+        return carpeta(pintor);
+    case Dibujo::Guardar:
+        return disquete(pintor);
+    case Dibujo::Imprimir:
+        return impresora(pintor);
+    case Dibujo::Deshacer:
+        return vuelta(pintor);
+    case Dibujo::Rehacer:
+        return otraVuelta(pintor);
+    case Dibujo::Buscar:
+        return lupa(pintor);
+    case Dibujo::Ejecutar:
+        return punta(pintor);
+    case Dibujo::Analizar:
+        return arbol(pintor);
+    case Dibujo::Informe:
+        return informe(pintor);
+    case Dibujo::Disenio:
+        return escuadra(pintor);
+    case Dibujo::Propiedades:
+        return mandos(pintor);
+    }
+}
+
+class Motor final : public QIconEngine {
 public:
-    explicit MotorDeDibujo(const Dibujo& dibujo) : dibujo_(dibujo) {}
+    explicit Motor(Dibujo dibujo) : dibujo_(dibujo) {}
 
-    void paint(QPainter* pintor, const QRect& lugar, QIcon::Mode modo, QIcon::State /*estado*/) override {
+    void paint(QPainter* pintor, const QRect& sitio, QIcon::Mode modo, QIcon::State /*estado*/) override {
         const auto grupo = modo == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const auto papel = modo == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        const QColor color = QGuiApplication::palette().color(grupo, papel);
+        const QPalette paleta = QGuiApplication::palette();
+        QColor fondo = paleta.color(grupo, QPalette::ButtonText);
         pintor->save();
         pintor->setRenderHint(QPainter::Antialiasing);
-        pintor->translate(lugar.topLeft());
-        pintor->scale(lugar.width() / double{lado}, lugar.height() / double{lado});
-        pintor->setPen(QPen(color, 1));
-        pintor->setBrush(color);
-        dibujo_.dibuja(*pintor);
+        pintor->translate(sitio.topLeft());
+        pintor->scale(sitio.width() / double{lado}, sitio.height() / double{lado});
+        pintor->setPen(QPen(fondo, trazo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        fondo.setAlpha(30);
+        pintor->setBrush(fondo);
+        pinta(dibujo_, *pintor);
         pintor->restore();
     }
     QPixmap pixmap(const QSize& medida, QIcon::Mode modo, QIcon::State estado) override {
-        QPixmap imagen(medida);
-        imagen.fill(Qt::transparent);
-        QPainter pintor(&imagen);
-        paint(&pintor, QRect({}, medida), modo, estado);
-        return imagen;
+        QPixmap mapa(medida);
+        mapa.fill(Qt::transparent);
+        QPainter pintor(&mapa);
+        paint(&pintor, {QPoint(), medida}, modo, estado);
+        return mapa;
     }
-    QIconEngine* clone() const override { return std::make_unique<MotorDeDibujo>(*this).release(); }
+    QIconEngine* clone() const override { return std::make_unique<Motor>(dibujo_).release(); }
 
 private:
-    const Dibujo& dibujo_;
+    Dibujo dibujo_;
 };
 
 } // namespace
 
-QIcon icono(QLatin1String tema) {
-    const auto* dibujo = std::ranges::find_if(dibujos, [&](const Dibujo& d) { return tema == d.tema; });
-    if (QIcon::hasThemeIcon(tema) || dibujo == std::end(dibujos)) return QIcon::fromTheme(tema);
-    return QIcon(std::make_unique<MotorDeDibujo>(*dibujo).release()); // the icon owns it
+QIcon icono(Dibujo dibujo) {
+    return QIcon(std::make_unique<Motor>(dibujo).release()); // which owns it
 }
 
 } // namespace norvik

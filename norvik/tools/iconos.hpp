@@ -1,12 +1,28 @@
 #pragma once
 
 #include <QIcon>
-#include <QLatin1String>
+
+#include <cstdint>
 
 namespace norvik {
 
-/// The icon that the desktop's theme has under a name; where it has none, one of ours, drawn in the colour of
-/// the text and sharp at any scale, or nothing when there is none either.
-QIcon icono(QLatin1String tema);
+enum class Dibujo : std::uint8_t {
+    Nuevo,
+    Abrir,
+    Guardar,
+    Imprimir,
+    Deshacer,
+    Rehacer,
+    Buscar,
+    Ejecutar,
+    Analizar,
+    Informe,
+    Disenio,
+    Propiedades
+};
+
+/// A picture of a command, drawn in the palette's colours, so that it is sharp at any scale and seen on any
+/// background.
+QIcon icono(Dibujo dibujo);
 
 } // namespace norvik

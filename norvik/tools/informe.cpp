@@ -134,7 +134,7 @@ void Informe::guarda() {
         const PunteroOcupado ocupado(sistema_);
         gramatica_.GuardaInforme(directorioDestino());
     }
-    guardado_.setText(QStringLiteral("Guardado en %1").arg(aQString(directorioDestino().u16string())));
+    guardado_.setText(QStringLiteral("Guardado en %1").arg(deRuta(directorioDestino())));
 }
 
 void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema,

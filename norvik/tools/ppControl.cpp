@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include <array>
 #include <optional>
 
 namespace norvik {
@@ -56,7 +57,7 @@ void PPControl::dispone() {
     columna.addStretch();
     auto& botones = nuevo<QGridLayout>(&marco_);
     int i = 0;
-    for (QPushButton* boton : {&command4_, &command5_, &command6_}) {
+    for (QPushButton* const boton : std::array{&command4_, &command5_, &command6_}) {
         boton->setAutoDefault(false);
         botones.addWidget(boton, i++, 0);
     }
@@ -129,9 +130,7 @@ void PPControl::editarGramatica() {
 /// installed anew each time, in place of the one before.
 std::optional<Mensaje> PPControl::construye() {
     Norvik& control = norvik1_.control();
-    control.BorraLenguaje();
-    control.Gramatica().inicializaConjuntos();
-    control.Gramatica().inicializaGramatica();
+    olvidaLenguaje(control);
     CargaMetaLenguaje(control);
     sistema().ponPuntero(Puntero::Ocupado);
     control.Text(ranurasDisenio().especificacion);
@@ -179,7 +178,7 @@ void PPControl::generarModulo() {
     if (directorioDestino().empty() || !construyeConAviso()) return;
     lenguajeAparte_.Gramatica().GuardaModuloGramatica(nombre, lenguajeAparte_.Lexico(), directorioDestino());
     const std::filesystem::path fichero = directorioDestino() / (nombre + u".bas");
-    resultado_.setText(QStringLiteral("Módulo guardado en %1").arg(aQString(fichero.u16string())));
+    resultado_.setText(QStringLiteral("Módulo guardado en %1").arg(deRuta(fichero)));
 }
 
 } // namespace norvik

@@ -7,7 +7,7 @@ namespace norvik {
 ProbarLenguaje::ProbarLenguaje(SistemaQt& sistema, QWidget* padre)
     : VentanaEditor(sistema, "ProbarLenguaje", QStringLiteral("Ventana para código de pruebas"), padre) {
     QAction& prueba = herramienta("Test", QStringLiteral("Test"), Qt::Key_F5, [this] { test(); });
-    ponEnBarraConTexto(prueba, QLatin1String("media-playback-start"));
+    ponEnBarraConTexto(prueba, Dibujo::Ejecutar);
     ponMenus(QStringLiteral("&Archivo"), {&prueba},
              QStringLiteral("Editor de códigos de prueba para gramática 1.0 alfa"));
 }

@@ -2,7 +2,6 @@
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
-#include "norvik/tools/iconos.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QCloseEvent>
@@ -69,13 +68,13 @@ QAction& VentanaEditor::sinAccion(const char* id, const QString& rotulo) {
     return accion;
 }
 
-void VentanaEditor::ponEnBarra(QAction& accion, QLatin1String imagen) {
-    accion.setIcon(icono(imagen));
+void VentanaEditor::ponEnBarra(QAction& accion, Dibujo dibujo) {
+    accion.setIcon(icono(dibujo));
     barra_.addAction(&accion);
 }
 
-void VentanaEditor::ponEnBarraConTexto(QAction& accion, QLatin1String imagen) {
-    ponEnBarra(accion, imagen);
+void VentanaEditor::ponEnBarraConTexto(QAction& accion, Dibujo dibujo) {
+    ponEnBarra(accion, dibujo);
     qobject_cast<QToolButton*>(barra_.widgetForAction(&accion))
         ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
@@ -92,7 +91,7 @@ void VentanaEditor::ponMenus(const QString& primero, const QList<QAction*>& prop
     menu.addSeparator();
     menu.addAction(&salir);
     barra_.addSeparator();
-    ponEnBarra(imprimir, QLatin1String("document-print"));
+    ponEnBarra(imprimir, Dibujo::Imprimir);
     ponEdicion();
     ponAyuda(informacion);
 }
@@ -119,10 +118,10 @@ void VentanaEditor::ponEdicion() {
     menu.addSeparator();
     menu.addActions({&todo, &borra});
     barra_.addSeparator();
-    ponEnBarra(*undo_, QLatin1String("edit-undo"));
-    ponEnBarra(*redo_, QLatin1String("edit-redo"));
+    ponEnBarra(*undo_, Dibujo::Deshacer);
+    ponEnBarra(*redo_, Dibujo::Rehacer);
     barra_.addSeparator();
-    ponEnBarra(busca, QLatin1String("edit-find"));
+    ponEnBarra(busca, Dibujo::Buscar);
     muestraHistorial();
 }
 

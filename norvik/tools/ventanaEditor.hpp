@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/tools/controlNorvik.hpp"
+#include "norvik/tools/iconos.hpp"
 
 #include <QAction>
 #include <QKeySequence>
@@ -28,8 +29,8 @@ protected:
     /// A command under its tool identifier.
     QAction& herramienta(const char* id, const QString& rotulo, const QKeySequence& teclas,
                          const std::function<void()>& orden);
-    void ponEnBarra(QAction& accion, QLatin1String imagen);
-    void ponEnBarraConTexto(QAction& accion, QLatin1String imagen);
+    void ponEnBarra(QAction& accion, Dibujo dibujo);
+    void ponEnBarraConTexto(QAction& accion, Dibujo dibujo);
     /// The menus, the first with the window's own commands before the common ones; and the first line of the
     /// information box.
     void ponMenus(const QString& primero, const QList<QAction*>& propias, const QString& informacion);

@@ -17,7 +17,7 @@ using namespace norvik;
 namespace {
 
 class DialogosBusquedaTest : public testing::Test {
-protected:
+public:
     DialogosBusquedaTest() {
         estadoBusqueda() = {};
         norvik.resize(300, 200);
@@ -29,6 +29,8 @@ protected:
         if (QDialog* dialogo = abierto()) dialogo->reject();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+
+protected:
     static QDialog* abierto() {
         QDialog* hallado = nullptr;
         for (QWidget* v : QApplication::topLevelWidgets()) {
@@ -146,7 +148,7 @@ TEST_F(DialogosBusquedaTest, LoQueFallaAlBuscarSeDice) {
 
 TEST_F(DialogosBusquedaTest, Reemplazar) {
     estadoBusqueda().ultimaBusqueda = u"ab";
-    sistema.usos.push_back([&](QWidget& d) {
+    sistema.usos.emplace_back([&](QWidget& d) {
         EXPECT_EQ(d.windowTitle(), "Reemplazar");
         EXPECT_TRUE(titulos(&d).endsWith("Buscar &siguiente|&Reemplazar|Reemplazar &todo|&Cancelar|"));
         EXPECT_FALSE(norvik.caja().ocultaSeleccion());
@@ -173,7 +175,7 @@ TEST_F(DialogosBusquedaTest, DeBuscarAReemplazar) {
     norvik.control().ShowBuscarDialog();
     escribe(abierto(), "Combo1", "cab");
     bool usado = false;
-    sistema.usos.push_back([&](QWidget& d) {
+    sistema.usos.emplace_back([&](QWidget& d) {
         usado = en<QComboBox>(&d, "Combo1").currentText() == "cab" && abierto() == nullptr;
     });
     en<QPushButton>(abierto(), "Command3").click();
@@ -185,7 +187,7 @@ TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeReemplaza) {
     auto suForm = std::make_unique<QWidget>();
     ControlNorvik* otro = std::make_unique<ControlNorvik>(sistema, suForm.get()).release(); // the form's
     suForm->show();
-    sistema.usos.push_back([&](QWidget&) { suForm.reset(); });
+    sistema.usos.emplace_back([&](QWidget&) { suForm.reset(); });
     otro->control().ShowReemplazarDialog();
     EXPECT_EQ(suForm, nullptr);
 }

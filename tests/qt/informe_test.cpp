@@ -26,10 +26,11 @@ constexpr std::u16string_view ambigua =
     u"Token mas = \"\\+\" (\"más\"); Token n = \"[0-9]\"; S -> A | B mas; A -> n; B -> n | A;";
 
 class InformeTest : public testing::Test {
-protected:
+public:
     InformeTest() { directorioDestino().clear(); }
     ~InformeTest() override { directorioDestino().clear(); }
 
+protected:
     /// Uses the report window of the control on a language.
     void muestra(std::u16string_view especificacion, const std::function<void(QWidget&)>& uso) {
         if (!especificacion.empty()) {
@@ -45,7 +46,7 @@ protected:
     }
     /// Chooses a folder when the chooser is shown.
     void elegira(const std::filesystem::path& carpeta) {
-        sistema.usos.push_back([this, carpeta](QWidget& d) {
+        sistema.usos.emplace_back([this, carpeta](QWidget& d) {
             auto& arbol = en<QTreeView>(d, "Dir1");
             auto& modelo = static_cast<QFileSystemModel&>(*arbol.model());
             arbol.setCurrentIndex(modelo.index(QString::fromStdString(carpeta.string())));
@@ -136,7 +137,7 @@ TEST_F(InformeTest, GuardarEnUnaCarpeta) {
         EXPECT_TRUE(std::filesystem::exists(carpeta / "informeGramatica.txt"));
         EXPECT_EQ(en<QLabel>(v, "guardado").text().toStdString(), "Guardado en " + carpeta.ruta().string());
 
-        sistema.usos.push_back([&](QWidget& d) { en<QPushButton>(d, "Command2").click(); });
+        sistema.usos.emplace_back([&](QWidget& d) { en<QPushButton>(d, "Command2").click(); });
         std::filesystem::remove(carpeta / "informeGramatica.txt");
         en<QPushButton>(v, "Command1").click();
         EXPECT_TRUE(directorioDestino().empty());

@@ -40,7 +40,7 @@ private:
     template <typename Cola>
     static typename Cola::value_type siguiente(Cola& cola, const typename Cola::value_type& omision) {
         if (cola.empty()) return omision;
-        const auto valor = cola.front();
+        auto valor = cola.front();
         cola.pop_front();
         return valor;
     }

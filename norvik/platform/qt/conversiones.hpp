@@ -3,10 +3,12 @@
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <QColor>
+#include <QFile>
 #include <QFont>
 #include <QString>
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,14 @@ inline QString aQString(std::u16string_view texto) {
 
 inline std::u16string_view vistaDe(const QString& texto) {
     return {QStringView(texto).utf16(), static_cast<std::size_t>(texto.size())};
+}
+
+/// Paths, whose bytes need be no text.
+inline std::filesystem::path aRuta(const QString& ruta) {
+    return QFile::encodeName(ruta).toStdString();
+}
+inline QString deRuta(const std::filesystem::path& ruta) {
+    return QFile::decodeName(QByteArray::fromStdString(ruta.native()));
 }
 
 /// A colour 0x00BBGGRR.
