@@ -42,7 +42,7 @@ void Buscador::cierra() {
 }
 
 /// Every match in the whole text; nothing when there is nothing to search with or in.
-std::optional<Buscador::Coincidencias> Buscador::coincidencias(const Peticion& peticion) {
+std::optional<Buscador::Coincidencias> Buscador::coincidencias(const Peticion& peticion) const {
     if (peticion.texto.empty() || destino_.textoDestino == nullptr) return std::nullopt;
     const auto emparejador = Emparejador::compila(patronDe(peticion), !peticion.coincidirMayusculas);
     if (!emparejador) {
@@ -74,7 +74,7 @@ void Buscador::buscaSiguiente(const Peticion& peticion) {
 }
 
 /// Selects, by the direction, the first match after a position or the last one before another.
-void Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) {
+void Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const {
     if (halladas.empty()) return avisa(u"No se encontró el texto de busqueda");
     const Coincidencia* tomada = nullptr;
     if (estado_.direccionBusqueda == abajo) {

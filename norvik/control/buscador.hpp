@@ -51,8 +51,8 @@ public:
 private:
     using Coincidencias = std::vector<Coincidencia>;
 
-    std::optional<Coincidencias> coincidencias(const Peticion& peticion);
-    void selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe);
+    std::optional<Coincidencias> coincidencias(const Peticion& peticion) const;
+    void selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const;
     void empieza(const Peticion& peticion);
     void recuerda();
 

@@ -12,7 +12,6 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
-#include <array>
 #include <optional>
 
 namespace norvik {
@@ -56,28 +55,30 @@ void PPControl::dispone() {
     columna.addWidget(&marco_);
     columna.addStretch();
     auto& botones = nuevo<QGridLayout>(&marco_);
-    int i = 0;
-    for (QPushButton* const boton : std::array{&command4_, &command5_, &command6_}) {
-        boton->setAutoDefault(false);
-        botones.addWidget(boton, i++, 0);
-    }
-    botones.addWidget(&resultado_, i, 0, 1, 2);
+    const auto pon = [&botones](QPushButton& boton, int fila) {
+        boton.setAutoDefault(false);
+        botones.addWidget(&boton, fila, 0);
+    };
+    pon(command4_, 0);
+    pon(command5_, 1);
+    pon(command6_, 2);
+    botones.addWidget(&resultado_, 3, 0, 1, 2);
     botones.setColumnStretch(1, 1);
 }
 
 void PPControl::conecta() {
     connect(&lenguaje_, &QComboBox::editTextChanged, this, [this] { marca(); });
-    const auto conOrden = [this](QPushButton& boton, void (PPControl::*orden)()) {
+    const auto conOrden = [this](QPushButton& boton, auto orden) {
         connect(&boton, &QPushButton::clicked, this, [this, orden] {
             ejecuta([this, orden] {
-                if (duena() != this) tomaRanuras(*control());
-                (this->*orden)();
+                if (duena().isNull() || duena() != this) tomaRanuras(*control());
+                orden();
             });
         });
     };
-    conOrden(command4_, &PPControl::editarGramatica);
-    conOrden(command5_, &PPControl::verInforme);
-    conOrden(command6_, &PPControl::generarModulo);
+    conOrden(command4_, [this] { editarGramatica(); });
+    conOrden(command5_, [this] { verInforme(); });
+    conOrden(command6_, [this] { generarModulo(); });
 }
 
 // ---- the page's events
