@@ -112,8 +112,9 @@ void etapasDelLenguaje(Materia& m) {
     etapa(
         "tabla", [] { paso.creaTablaSLR(); }, [hastaConjuntos] { hastaConjuntos(), paso.creaAutomata(); });
     etapa("modulo", [&m] {
-        benchmark::DoNotOptimize(
-            m.puesto.control.Gramatica().textoModulo(u"Medida", m.puesto.control.Lexico()));
+        m.puesto.control.Gramatica().escribeModulo(
+            u"Medida", m.puesto.control.Lexico(),
+            [](std::u16string_view pieza) { benchmark::DoNotOptimize(pieza.data()); });
     });
     etapa("carga_modulo", [&m] {
         m.sobra.control.BorraLenguaje();

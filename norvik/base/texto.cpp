@@ -74,10 +74,16 @@ locale_t localUnicode() {
     return local.get();
 }
 
+// Letters from `primera` on, 26 of them, go 32 places up or down; only beyond ASCII is the locale asked,
+// which takes the process a while to load.
 template <typename Conversion>
-std::u16string convierte(std::u16string_view texto, Conversion conversion) {
+std::u16string convierte(std::u16string_view texto, char16_t primera, Conversion conversion) {
     std::u16string resultado(texto);
     for (char16_t& c : resultado) {
+        if (c < 0x80) {
+            if (c >= primera && c < primera + 26) c ^= 0x20;
+            continue;
+        }
         const auto otra = conversion(static_cast<std::wint_t>(c));
         if (otra <= 0xFFFF) c = static_cast<char16_t>(otra);
     }
@@ -181,11 +187,11 @@ std::u16string aTexto(std::int64_t numero) {
 }
 
 std::u16string aMayusculas(std::u16string_view texto) {
-    return convierte(texto, [](std::wint_t c) { return towupper_l(c, localUnicode()); });
+    return convierte(texto, u'a', [](std::wint_t c) { return towupper_l(c, localUnicode()); });
 }
 
 std::u16string aMinusculas(std::u16string_view texto) {
-    return convierte(texto, [](std::wint_t c) { return towlower_l(c, localUnicode()); });
+    return convierte(texto, u'A', [](std::wint_t c) { return towlower_l(c, localUnicode()); });
 }
 
 bool esIdentificador(std::u16string_view texto) {

@@ -231,7 +231,12 @@ bool esModulo(const std::filesystem::path& fichero) {
 }
 
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control) {
-    const OrigenDeTexto origen = [&] { return std::u16string(std::exchange(texto, {})); };
+    const OrigenDeTexto origen = [&] {
+        constexpr std::size_t unTrozo = 16384;
+        const auto trozo = texto.substr(0, unTrozo);
+        texto.remove_prefix(trozo.size());
+        return std::u16string(trozo);
+    };
     return CargaModulo(origen, control);
 }
 
