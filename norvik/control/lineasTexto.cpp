@@ -13,11 +13,11 @@ std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
     if (n < 1) throw ArgumentoNoValido();
     std::size_t inicio = 0;
     std::size_t fin = std::min(texto.find(u'\r'), texto.size());
-    for (std::int16_t i = 2; i <= n; ++i) {
+    for (std::int32_t i = 2; i <= n; ++i) {
         inicio = fin + saltoDeLinea.size();
         fin = std::min(texto.find(u'\r', inicio - 1), texto.size());
-        if (fin < inicio) throw ArgumentoNoValido();
     }
+    if (fin < inicio) throw ArgumentoNoValido();
     return texto.substr(inicio, fin - inicio);
 }
 
