@@ -78,7 +78,7 @@ TEST_F(CajaTextoQtTest, TeclearEditaYAvisa) {
     teclea("c");
     EXPECT_EQ(texto(), u"ab\r\n\r\nc");
     EXPECT_EQ(caja.inicioSeleccion(), 7);
-    dameSucesos();
+    EXPECT_EQ(dameSucesos(), u"cscscs"); // on the empty line, too, Return is one change
     pulsa(Qt::Key_Left);
     EXPECT_EQ(dameSucesos(), u"s");
     pulsa(Qt::Key_Backspace);

@@ -211,9 +211,11 @@ void CajaTextoQt::recogeEdicion() {
     const Tramo seleccion{espejo_.trasEdicion(e, cursor.selectionStart()),
                           espejo_.trasEdicion(e, cursor.selectionEnd())};
     puesta_ = sincronizada_ = seleccion;
-    deLaVista_ = true;
     protege([&] {
         const EspejoDocumento::Edicion r = espejo_.recortada(e);
+        const bool mismoTexto = r.inicio == r.fin && r.nuevo.empty();
+        if (mismoTexto && seleccion == seleccionModelo()) return; // Return gives an empty line a format first
+        deLaVista_ = true;
         edita(r.inicio, r.fin - r.inicio, r.nuevo, seleccion.inicio, seleccion.fin - seleccion.inicio);
     });
 }
