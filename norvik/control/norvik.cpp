@@ -36,7 +36,9 @@ void Norvik::MarcaErrorLinea(std::int16_t numLinea) {
 }
 
 void Norvik::MarcaErrorToken() {
-    marcas_.marcaToken(lector_.inicioToken() - 1, lector_.posLectura() - 1, LineaToken(), lexico_.ColorError);
+    const bool parado = lector_.ultimoToken() == tokenError; // the reader stays at the wrong character
+    const std::int32_t fin = lector_.posLectura() - (parado ? 0 : 1);
+    marcas_.marcaToken(lector_.inicioToken() - 1, fin, LineaToken(), lexico_.ColorError);
 }
 
 void Norvik::MarcaErrorLineaToken() {

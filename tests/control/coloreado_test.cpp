@@ -170,14 +170,16 @@ TEST(Marcas, ColorearLaLineaQuitaLaMarca) {
 }
 
 TEST(Marcas, ElUltimoTokenLeido) {
-    Editor e(u"ab\r\n 123");
+    Editor e(u"ab\r\n 123#");
     e.norvik.InicializaLecturaTokens();
     e.norvik.Lex();
-    e.norvik.Lex();
-    e.norvik.MarcaErrorToken();
-    EXPECT_EQ(colores(e), "5-8:0000ff ");
+    for (const auto marcados : {"5-8:0000ff ", "5-9:0000ff "}) { // the second is a character by itself
+        e.norvik.Lex();
+        e.norvik.MarcaErrorToken();
+        EXPECT_EQ(colores(e), marcados);
+    }
     e.norvik.MarcaErrorLineaToken();
-    EXPECT_EQ(colores(e), "4-8:0000ff ");
+    EXPECT_EQ(colores(e), "4-9:0000ff ");
 }
 
 TEST(Marcas, SignosNumeradosDesdeElDos) {
