@@ -74,7 +74,7 @@ void Acciones::describe() {
         {nuevoLenguaje, s("&Nuevo lenguaje…")},
         {abrirLenguaje, s("&Abrir lenguaje…"), s("Ctrl+L")},
         {guardarEspecificacion, s("&Guardar la especificación como…")},
-        {analizar, s("A&nalizar"), s("F8"), Dibujo::Analizar},
+        {analizar, s("Anali&zar"), s("F8"), Dibujo::Analizar},
         {informe, s("Ver &informe"), s("F9"), Dibujo::Informe},
         {acerca, s("&Acerca de Norvik")},
     });

@@ -8,6 +8,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -148,9 +149,9 @@ void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {
 // ---- language
 
 void ElementoFormulario::ponModulo(const QString& fichero) {
-    modulo_ = fichero.isEmpty() ? fichero : QFileInfo(fichero).absoluteFilePath();
-    lenguajeAlDia_ = false;
-    emit otraPropiedad();
+    const QString ruta = fichero.isEmpty() ? fichero : QFileInfo(fichero).absoluteFilePath();
+    lenguajeAlDia_ = false; // the same file may have another language now
+    if (std::exchange(modulo_, ruta) != ruta) emit otraPropiedad();
 }
 
 std::u16string ElementoFormulario::preparaLenguaje() {

@@ -55,6 +55,7 @@ void Formulario::activa(ElementoFormulario& elemento) {
         elementos_[i]->ponSeleccionado(elementos_[i].get() == &elemento);
         if (elementos_[i].get() == &elemento) activo_ = i;
     }
+    elemento.setFocus();
     emit otroActivo();
 }
 

@@ -1,6 +1,9 @@
 #include "dialogosQt.hpp"
 #include "linea.hpp"
+#include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
+
+#include "norvik/tools/iconos.hpp"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -32,7 +35,7 @@ int trabaja(const Arranque& arranque) {
         QApplication::installTranslator(&deQt);
     QSettings ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("norvik"),
                       QStringLiteral("taller"));
-    SistemaQt sistema;
+    SistemaTaller sistema(ajustes);
     DialogosQt dialogos;
     VentanaPrincipal ventana(
         {sistema, dialogos, ajustes, ejemplosDe(carpetaDeEjemplos(QApplication::applicationDirPath()))});
@@ -51,7 +54,8 @@ int main(int argc, char** argv) {
     if (!hayPantalla()) return responde({"norvik-taller: no hay ninguna pantalla (DISPLAY)\n", 2});
     int soloElNombre = 1; // the other words are ours
     const QApplication aplicacion(soloElNombre, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Norvik"));
+    QApplication::setApplicationName(QStringLiteral("Norvik")); // no display name: it would end every title
     QApplication::setDesktopFileName(QStringLiteral("norvik-taller"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("norvik-taller"), icono(Dibujo::Analizar)));
     return trabaja(std::get<Arranque>(linea));
 }

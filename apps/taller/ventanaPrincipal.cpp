@@ -1,5 +1,6 @@
 #include "ventanaPrincipal.hpp"
 
+#include "lenguaje.hpp"
 #include "portapapeles.hpp"
 #include "rutas.hpp"
 
@@ -45,7 +46,7 @@ VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
     restoreGeometry(ajustes_.value(claveGeometria).toByteArray());
     restoreState(ajustes_.value(claveEstado).toByteArray());
     otroActivo();
-    formulario_.setFocus();
+    formulario_.activo().setFocus();
 }
 
 void VentanaPrincipal::compone() {
@@ -195,9 +196,12 @@ void VentanaPrincipal::actualizaTitulo() {
     ElementoFormulario& activo = formulario_.activo();
     const QString marcaFormulario = formulario_.modificado() ? QStringLiteral("*") : QString();
     setWindowModified(activo.textoModificado());
-    setWindowTitle(activo.tituloTexto() + QStringLiteral("[*] — ") + formulario_.titulo() + marcaFormulario);
+    setWindowTitle(activo.tituloTexto() + QStringLiteral("[*] — ") + formulario_.titulo() + marcaFormulario +
+                   QStringLiteral(" — Norvik"));
     const QString nombre = activo.norvik().NomLenguaje();
-    lenguaje_.setText(nombre.isEmpty() ? QStringLiteral("Sin lenguaje") : nombre);
+    const QString sinNombre = tieneLenguaje(activo.norvik()) ? QStringLiteral("Lenguaje sin nombre")
+                                                             : QStringLiteral("Sin lenguaje");
+    lenguaje_.setText(nombre.isEmpty() ? sinNombre : nombre);
 }
 
 void VentanaPrincipal::actualizaLugar() {

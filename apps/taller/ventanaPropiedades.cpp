@@ -7,6 +7,7 @@ namespace norvik::taller {
 VentanaPropiedades::VentanaPropiedades(ElementoFormulario& elemento, SistemaQt& sistema, Dialogos& dialogos,
                                        Pagina primera, QWidget* padre)
     : QDialog(padre), dialogos_(dialogos), nombre_(elemento.nombre()), paginas_(paginasDeNorvik(sistema)) {
+    setObjectName(QStringLiteral("propiedades"));
     setWindowTitle(QStringLiteral("Propiedades de %1[*]").arg(nombre_));
     for (const auto& pagina : paginas_) {
         fichas_.addTab(pagina.get(), pagina->titulo());
@@ -26,6 +27,7 @@ VentanaPropiedades::VentanaPropiedades(ElementoFormulario& elemento, SistemaQt& 
     connect(&aplicar_, &QPushButton::clicked, this, &VentanaPropiedades::aplica);
     connect(&cerrar_, &QPushButton::clicked, this, &QDialog::reject);
     actualiza();
+    fichas_.currentWidget()->setFocus();
 }
 
 void VentanaPropiedades::actualiza() {

@@ -1,7 +1,6 @@
 #include "norvik/tools/buscar.hpp"
 
 #include "norvik/tools/controlNorvik.hpp"
-#include "norvik/tools/reemplazar.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QEvent>
@@ -18,7 +17,7 @@ void buscar::muestra(ControlNorvik& control) {
     if (abierto().isNull()) {
         auto& dialogo = nuevo<buscar>(control.window());
         abierto() = &dialogo;
-        dialogo.campos_.ponPeticion({estadoBusqueda().ultimaBusqueda});
+        dialogo.campos_.prepara();
         dialogo.buscador_.abre();
     }
     abierto()->apunta(control);
@@ -43,6 +42,7 @@ buscar::buscar(QWidget* ventana) : QDialog(ventana) {
     setWindowFlag(Qt::WindowStaysOnTopHint);
     nombraElementos();
     dispone(*this, campos_, {&command1_, &command2_, &command3_});
+    command3_.setEnabled(false); // there is a command of its own for that
     conecta();
 }
 
@@ -61,7 +61,6 @@ void buscar::conecta() {
     connect(&campos_, &CamposBusqueda::textoCambiado, &command1_, &QPushButton::setEnabled);
     connect(&command1_, &QPushButton::clicked, this, &buscar::buscaSiguiente);
     connect(&command2_, &QPushButton::clicked, this, &QDialog::reject);
-    connect(&command3_, &QPushButton::clicked, this, &buscar::pasaAReemplazar);
 }
 
 /// Modal windows let only those be used that belong to them, so the dialog goes from window to window.
@@ -89,20 +88,14 @@ void buscar::changeEvent(QEvent* evento) {
     if (evento->type() == QEvent::ActivationChange && isActiveWindow()) campos_.enfoca();
 }
 
+/// While something is told, the control may go, and take this dialog along: the search works on a searcher of
+/// its own.
 void buscar::buscaSiguiente() {
-    const auto fallo = falloDe([this] { buscador_.buscaSiguiente(campos_.peticion()); });
-    if (!fallo.empty()) buscador_.avisa(fallo, {}, Icono::Ninguno);
-    campos_.ponHistorial();
-}
-
-void buscar::pasaAReemplazar() {
-    if (control_.isNull()) return;
-    ControlNorvik& control = *control_;
-    const auto muestraOtro = [&control, peticion = campos_.peticion()] {
-        Reemplazar::muestra(control, peticion);
-    };
-    QMetaObject::invokeMethod(&control, muestraOtro, Qt::QueuedConnection);
-    reject();
+    const QPointer<buscar> vivo(this);
+    Buscador buscador = buscador_;
+    const auto fallo = falloDe([&] { buscador.buscaSiguiente(campos_.peticion()); });
+    if (!fallo.empty()) buscador.avisa(fallo, {}, Icono::Ninguno);
+    if (!vivo.isNull()) campos_.ponHistorial();
 }
 
 } // namespace norvik

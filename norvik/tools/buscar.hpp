@@ -41,7 +41,6 @@ private:
     void conecta();
     void apunta(ControlNorvik& control);
     void buscaSiguiente();
-    void pasaAReemplazar();
 
     Buscador buscador_;
     QPointer<ControlNorvik> control_;

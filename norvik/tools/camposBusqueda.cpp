@@ -55,13 +55,12 @@ Peticion CamposBusqueda::peticion() const {
             check1_.isChecked(), check2_.isChecked()};
 }
 
-void CamposBusqueda::ponPeticion(const Peticion& peticion) {
+void CamposBusqueda::prepara() {
+    const std::u16string& ultima = estadoBusqueda().ultimaBusqueda;
     ponHistorial();
-    combo1_.setEditText(aQString(peticion.texto));
+    combo1_.setEditText(aQString(ultima));
     combo2_.setCurrentIndex(0);
-    check1_.setChecked(peticion.soloPalabrasCompletas);
-    check2_.setChecked(peticion.coincidirMayusculas);
-    emit textoCambiado(!peticion.texto.empty());
+    emit textoCambiado(!ultima.empty());
 }
 
 void CamposBusqueda::ponHistorial() {

@@ -21,8 +21,8 @@ public:
     explicit CamposBusqueda(QWidget* padre);
 
     Peticion peticion() const;
-    /// Fills the fields for a dialog that opens; the direction is the first one.
-    void ponPeticion(const Peticion& peticion);
+    /// Fills the fields for a dialog that opens: the last search, in the first direction.
+    void prepara();
     /// Lists what the process has searched so far; what is being written stays.
     void ponHistorial();
     /// One more list, below the text to search.

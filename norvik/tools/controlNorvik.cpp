@@ -128,7 +128,7 @@ void ControlNorvik::muestraBuscar() {
 }
 
 void ControlNorvik::muestraReemplazar() {
-    Reemplazar::muestra(*this, {estadoBusqueda().ultimaBusqueda});
+    Reemplazar::muestra(*this);
 }
 
 void ControlNorvik::muestraAcerca() {

@@ -56,6 +56,7 @@ void directorio::nombraElementos() {
 }
 
 void directorio::dispone() {
+    carpetas_.setIconProvider(&iconos_);
     dir1_.setModel(&carpetas_);
     for (int columna = 1; columna < carpetas_.columnCount(); ++columna) dir1_.hideColumn(columna);
     dir1_.setHeaderHidden(true);

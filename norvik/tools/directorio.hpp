@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QPushButton>
 #include <QTreeView>
@@ -41,6 +42,7 @@ private:
     void acepta();
 
     Sistema& sistema_;
+    QFileIconProvider iconos_;
     QFileSystemModel carpetas_;
     QComboBox drive1_{this};
     QTreeView dir1_{this};

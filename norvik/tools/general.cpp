@@ -39,6 +39,7 @@ General::General(SistemaQt& sistema, QWidget* padre)
     : PaginaPropiedades(sistema, QStringLiteral("General"), padre) {
     setObjectName(QStringLiteral("General"));
     dispone();
+    setFocusProxy(findChild<QCheckBox*>(QLatin1String(opciones().front().elemento)));
 }
 
 void General::dispone() {

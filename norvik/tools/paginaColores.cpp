@@ -81,6 +81,7 @@ PaginaColores::PaginaColores(SistemaQt& sistema, QWidget* padre)
     columna.addWidget(&marco);
     connect(&propiedades_, &QListWidget::currentRowChanged, this, [this] { muestraElegida(); });
     propiedades_.setCurrentRow(0);
+    setFocusProxy(&propiedades_);
 }
 
 QLayout& PaginaColores::paleta() {

@@ -37,6 +37,7 @@ PPControl::PPControl(SistemaQt& sistema, QWidget* padre)
     nombra(resultado_, "resultado", QStringLiteral("Resultado"));
     nombra(norvik1_, "Norvik1", QStringLiteral("Especificación"));
     norvik1_.hide(); // it only parses
+    setFocusProxy(&lenguaje_);
     dispone();
     conecta();
 }

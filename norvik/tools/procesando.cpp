@@ -12,7 +12,6 @@ Procesando::Procesando(QWidget* sobre)
     nombra(*this, "Procesando", QStringLiteral("Procesando ..."));
     setWindowTitle(QStringLiteral("Procesando ..."));
     setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_ShowWithoutActivating);
     auto& textos = nuevo<QVBoxLayout>(this);
     const int margen = fontMetrics().height() * 2;
@@ -24,7 +23,7 @@ Procesando::Procesando(QWidget* sobre)
     textos.addWidget(&titulo, 0, Qt::AlignCenter);
     textos.addWidget(&nuevo<QLabel>(QStringLiteral("Espere, por favor."), this), 0, Qt::AlignCenter);
     adjustSize();
-    if (sobre != nullptr) move(sobre->window()->frameGeometry().center() - rect().center());
+    if (sobre != nullptr) centra(*this, *sobre);
     show();
 }
 

@@ -4,8 +4,8 @@
 
 namespace norvik {
 
-/// The progress notice. It comes up without blocking and stays above all other windows until it is closed or
-/// goes; meanwhile what the user does reaches none of them, so that long work can let events run.
+/// The progress notice. It comes up without blocking or taking the focus, and stays above all other windows
+/// until it is closed or goes. Who shows it refuses what must not be done meanwhile.
 class Procesando final : public QFrame {
     Q_OBJECT
 

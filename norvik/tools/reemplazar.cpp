@@ -8,14 +8,14 @@
 
 namespace norvik {
 
-void Reemplazar::muestra(ControlNorvik& control, const Peticion& peticion) {
+void Reemplazar::muestra(ControlNorvik& control) {
     buscar::ponEncima(false);
-    muestraModal<Reemplazar>(control.sistema(), control, peticion);
+    muestraModal<Reemplazar>(control.sistema(), control);
     buscar::ponEncima(true);
 }
 
-Reemplazar::Reemplazar(ControlNorvik& control, const Peticion& peticion)
-    : QDialog(control.window()), destino_(control.control().destinoBusqueda()) {
+Reemplazar::Reemplazar(ControlNorvik& control) : QDialog(control.window()) {
+    busqueda_->destino = control.control().destinoBusqueda();
     setObjectName(QStringLiteral("Reemplazar"));
     setWindowTitle(QStringLiteral("Reemplazar"));
     nombraElementos();
@@ -23,13 +23,13 @@ Reemplazar::Reemplazar(ControlNorvik& control, const Peticion& peticion)
     dispone(*this, campos_, {&command1_, &command2_, &command3_, &command4_});
     conecta();
     connect(&control, &QObject::destroyed, this, [this] {
-        destino_ = {};
+        busqueda_->destino = {};
         reject();
     });
     ponTextos(combo3_, estadoBusqueda().historialReemplazos);
-    campos_.ponPeticion(peticion);
+    campos_.prepara();
     campos_.enfoca();
-    destino_.descubreSeleccion();
+    busqueda_->destino.descubreSeleccion();
 }
 
 void Reemplazar::nombraElementos() {
@@ -41,9 +41,9 @@ void Reemplazar::nombraElementos() {
 }
 
 void Reemplazar::conecta() {
-    conecta(command1_, [this] { buscador_.buscaSiguiente(campos_.peticion()); });
-    conecta(command2_, [this] { buscador_.reemplaza(campos_.peticion(), con()); });
-    conecta(command3_, [this] { buscador_.reemplazaTodo(campos_.peticion(), con()); });
+    conecta(command1_, [this](Buscador& b) { b.buscaSiguiente(campos_.peticion()); });
+    conecta(command2_, [this](Buscador& b) { b.reemplaza(campos_.peticion(), con()); });
+    conecta(command3_, [this](Buscador& b) { b.reemplazaTodo(campos_.peticion(), con()); });
     connect(&command4_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -52,10 +52,18 @@ template <typename Orden>
 void Reemplazar::conecta(QPushButton& boton, Orden orden) {
     connect(&campos_, &CamposBusqueda::textoCambiado, &boton, &QPushButton::setEnabled);
     connect(&boton, &QPushButton::clicked, this, [this, orden] {
-        const std::u16string fallo = falloDe(orden);
-        if (!fallo.empty()) buscador_.avisa(fallo, {}, Icono::Ninguno);
-        recuerda();
+        const QPointer<Reemplazar> vivo(this);
+        const auto busqueda = busqueda_;
+        const std::u16string fallo = falloDe([&] { orden(busqueda->buscador); });
+        if (!fallo.empty()) busqueda->buscador.avisa(fallo, {}, Icono::Ninguno);
+        if (!vivo.isNull()) recuerda();
     });
+}
+
+/// The control is still there, or the target is empty.
+void Reemplazar::abandona() {
+    busqueda_->destino.devuelveSeleccion();
+    busqueda_->destino = {};
 }
 
 void Reemplazar::recuerda() {

@@ -7,6 +7,8 @@
 #include <QDialog>
 #include <QPushButton>
 
+#include <memory>
+
 namespace norvik {
 
 class ControlNorvik;
@@ -17,23 +19,30 @@ class Reemplazar final : public QDialog {
 
 public:
     /// Shows the dialog and comes back when it is closed.
-    static void muestra(ControlNorvik& control, const Peticion& peticion);
+    static void muestra(ControlNorvik& control);
 
-    Reemplazar(ControlNorvik& control, const Peticion& peticion);
+    explicit Reemplazar(ControlNorvik& control);
     Reemplazar(const Reemplazar&) = delete;
     Reemplazar& operator=(const Reemplazar&) = delete;
-    ~Reemplazar() override { destino_.devuelveSeleccion(); }
+    ~Reemplazar() override { abandona(); }
 
 private:
+    /// The text that is searched and what searches it: kept by a command, too, which may tell something while
+    /// the control goes and takes the dialog along.
+    struct Busqueda {
+        DestinoBusqueda destino;
+        Buscador buscador{destino};
+    };
+
     void nombraElementos();
     void conecta();
     template <typename Orden>
     void conecta(QPushButton& boton, Orden orden);
     std::u16string con() const { return combo3_.currentText().toStdU16String(); }
     void recuerda();
+    void abandona();
 
-    DestinoBusqueda destino_;
-    Buscador buscador_{destino_};
+    const std::shared_ptr<Busqueda> busqueda_ = std::make_shared<Busqueda>();
     CamposBusqueda campos_{this};
     QComboBox combo3_{this};
     QPushButton command1_{QStringLiteral("Buscar &siguiente"), this};

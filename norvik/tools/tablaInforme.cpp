@@ -35,6 +35,7 @@ void TablaInforme::ajusta(const ModeloTabla& modelo) {
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(letra.height() * 3 / 2);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    verticalHeader()->setMinimumWidth(letra.horizontalAdvance(QString::number(modelo.rowCount())) + margen);
 }
 
 /// The rows and columns that the selection has cells in, one row a line, columns separated by tabs.

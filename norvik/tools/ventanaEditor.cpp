@@ -36,6 +36,7 @@ VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QStri
     constexpr int columnas = 90;
     constexpr int lineas = 32;
     resize(letra.horizontalAdvance(u'x') * columnas, letra.lineSpacing() * lineas);
+    if (padre != nullptr) centra(*this, *padre);
     muestraLugar();
 }
 
@@ -74,6 +75,7 @@ void VentanaEditor::ponEnBarra(QAction& accion, Dibujo dibujo) {
 }
 
 void VentanaEditor::ponEnBarraConTexto(QAction& accion, Dibujo dibujo) {
+    accion.setIconText(accion.text()); // the caption to the letter
     ponEnBarra(accion, dibujo);
     qobject_cast<QToolButton*>(barra_.widgetForAction(&accion))
         ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

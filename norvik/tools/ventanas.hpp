@@ -4,9 +4,11 @@
 #include "norvik/tools/fallos.hpp"
 
 #include <QPointer>
+#include <QScreen>
 #include <QString>
 #include <QWidget>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -23,6 +25,15 @@ Tipo& nuevo(Argumentos&&... argumentos) {
 inline void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
     elemento.setObjectName(QLatin1String(nombre));
     elemento.setAccessibleName(accesible);
+}
+
+/// Puts a window in the middle of another one, or as near as the screen lets it.
+inline void centra(QWidget& ventana, const QWidget& sobre) {
+    const QRect pantalla = sobre.screen()->availableGeometry();
+    const QPoint ultimo = pantalla.bottomRight() - ventana.rect().bottomRight();
+    const QPoint sitio = sobre.window()->frameGeometry().center() - ventana.rect().center();
+    ventana.move(std::max(std::min(sitio.x(), ultimo.x()), pantalla.left()),
+                 std::max(std::min(sitio.y(), ultimo.y()), pantalla.top()));
 }
 
 /// Shows a modal window, made for it, until it is closed. Its parent may die meanwhile, and take it along.

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -78,7 +79,7 @@ TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
     EXPECT_EQ(titulos(dialogo),
               "Sólo palabras completas|Coincidir mayúsculas y minúsculas|Texto seleccionado-|"
               "Todo del texto-|Texto no selecciona.-|Buscar &siguiente|&Cancelar|"
-              "&Reemplazar ...|");
+              "&Reemplazar ...-|");
     auto& lista = en<QComboBox>(dialogo, "Combo1");
     EXPECT_EQ(lista.count(), 2);
     EXPECT_EQ(lista.currentText(), "uno");
@@ -171,25 +172,33 @@ TEST_F(DialogosBusquedaTest, Reemplazar) {
     EXPECT_EQ(norvik.Text(), "ab xyz cabo abc");
 }
 
-TEST_F(DialogosBusquedaTest, DeBuscarAReemplazar) {
-    norvik.control().ShowBuscarDialog();
-    escribe(abierto(), "Combo1", "cab");
-    bool usado = false;
-    sistema.usos.emplace_back([&](QWidget& d) {
-        usado = en<QComboBox>(&d, "Combo1").currentText() == "cab" && abierto() == nullptr;
-    });
-    en<QPushButton>(abierto(), "Command3").click();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(usado);
-}
-
-TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeReemplaza) {
-    auto suForm = std::make_unique<QWidget>();
-    ControlNorvik* otro = std::make_unique<ControlNorvik>(sistema, suForm.get()).release(); // the form's
-    suForm->show();
-    sistema.usos.emplace_back([&](QWidget&) { suForm.reset(); });
-    otro->control().ShowReemplazarDialog();
+/// The control goes while a dialog is open, or while something is told about its text.
+TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeBusca) {
+    std::unique_ptr<QWidget> suForm;
+    const auto otro = [&]() -> ControlNorvik& {
+        suForm = std::make_unique<QWidget>();
+        suForm->show();
+        return *std::make_unique<ControlNorvik>(suForm.get()).release(); // the form's
+    };
+    const auto seVa = [&] { QTimer::singleShot(0, suForm.get(), [&] { suForm.reset(); }); };
+    ControlNorvik& conBuscar = otro();
+    conBuscar.control().ShowBuscarDialog();
+    escribe(abierto(), "Combo1", "zzz");
+    seVa();
+    en<QPushButton>(abierto(), "Command1").click(); // its message waits for an answer
     EXPECT_EQ(suForm, nullptr);
+    EXPECT_EQ(abierto(), nullptr);
+    for (const char* const boton : {"Command1", "Command3", ""}) {
+        ControlNorvik& conReemplazar = otro();
+        QTimer::singleShot(0, suForm.get(), [&] {
+            QWidget* const dialogo = QApplication::activeModalWidget();
+            escribe(dialogo, "Combo1", "zzz");
+            seVa();
+            if (*boton != 0) en<QPushButton>(dialogo, boton).click();
+        });
+        conReemplazar.control().ShowReemplazarDialog();
+        EXPECT_EQ(suForm, nullptr) << boton;
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "apoyo/carpetaTemporal.hpp"
 #include "lenguaje.hpp"
+#include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
 #include "norvik/tools/codigoGramatica.hpp"
@@ -10,10 +11,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -30,7 +34,6 @@ E -> E mas num | num;
 
 class TallerTest : public testing::Test {
 protected:
-    TallerTest() { norvik().setFocus(); }
     ControlNorvik& norvik() { return ventana.formulario().activo().norvik(); }
     QString ruta(std::string_view nombre) const {
         return QString::fromStdString((carpeta / nombre).string());
@@ -58,9 +61,10 @@ protected:
 } // namespace
 
 TEST_F(TallerTest, AbreEscribeYGuarda) {
+    EXPECT_EQ(ventana.focusWidget(), &norvik().caja().ventana()); // writing can start
     const QString uno = pon("uno.txt", "a\nb\n");
     ventana.abre(uno);
-    EXPECT_EQ(ventana.windowTitle(), "uno.txt[*] — Formulario sin título");
+    EXPECT_EQ(ventana.windowTitle(), "uno.txt[*] — Formulario sin título — Norvik");
     escribe("x");
     EXPECT_TRUE(ventana.isWindowModified());
     ordena(a.guardarTexto);
@@ -72,7 +76,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     dialogos.ficheros = {ruta("dos.txt")};
     ordena(a.guardarTextoComo);
     EXPECT_EQ(dialogos.toma(), QStringList{"guardar Guardar texto [uno.txt]"});
-    EXPECT_EQ(ventana.windowTitle(), "dos.txt[*] — Formulario sin título");
+    EXPECT_EQ(ventana.windowTitle(), "dos.txt[*] — Formulario sin título — Norvik");
     EXPECT_EQ(ajustes.value("recientes/textos").toStringList(), QStringList({ruta("dos.txt"), uno}));
     ventana.abre(ruta("falta.txt"));
     EXPECT_EQ(dialogos.toma().size(), 1);
@@ -263,4 +267,37 @@ TEST_F(TallerTest, FicherosQueSeSueltan) {
     QApplication::sendEvent(texto, &evento);
     EXPECT_TRUE(tieneLenguaje(norvik()));
     EXPECT_EQ(norvik().Text(), "1");
+}
+
+TEST_F(TallerTest, CadaVentanaVuelveComoSeDejo) {
+    SistemaTaller deVerdad(ajustes);
+    const auto muestra = [&](QSize otra) {
+        QDialog dialogo;
+        dialogo.setObjectName("dialogo");
+        QTimer::singleShot(0, &dialogo, [&] {
+            if (otra.isValid()) dialogo.resize(otra);
+            dialogo.close();
+        });
+        deVerdad.muestraModal(dialogo);
+        return dialogo.size();
+    };
+    EXPECT_EQ(muestra({321, 234}), QSize(321, 234));
+    EXPECT_EQ(muestra({}), QSize(321, 234));
+    ventana.resize(777, 555);
+    EXPECT_TRUE(cierra());
+    const VentanaPrincipal otra({sistema, dialogos, ajustes, {}});
+    EXPECT_EQ(otra.size(), QSize(777, 555));
+}
+
+TEST_F(TallerTest, NingunaTeclaDeMenuSeRepite) {
+    const auto teclas = [](const QList<QAction*>& acciones) {
+        QStringList usadas;
+        for (const QAction* accion : acciones) usadas << QKeySequence::mnemonic(accion->text()).toString();
+        usadas.removeAll(QString());
+        return usadas;
+    };
+    const QList<QAction*> menus = ventana.menuBar()->actions();
+    EXPECT_EQ(teclas(menus).removeDuplicates(), 0);
+    for (const QAction* menu : menus)
+        EXPECT_EQ(teclas(menu->menu()->actions()).removeDuplicates(), 0) << menu->text().toStdString();
 }

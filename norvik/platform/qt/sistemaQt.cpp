@@ -119,20 +119,25 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const QString titulo =
         mensaje.titulo.empty() ? QApplication::applicationDisplayName() : aQString(mensaje.titulo);
     QWidget* encimaDe = QApplication::activeModalWidget();
-    QMessageBox caja(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto), QMessageBox::NoButton,
-                     encimaDe != nullptr ? encimaDe : ventana_.data());
-    caja.setTextFormat(Qt::PlainText);
-    QPushButton* aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
-    caja.setDefaultButton(aceptar);
+    auto caja = std::make_unique<QMessageBox>(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto),
+                                              QMessageBox::NoButton,
+                                              encimaDe != nullptr ? encimaDe : ventana_.data());
+    caja->setTextFormat(Qt::PlainText);
+    QPushButton* const aceptar = caja->addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+    caja->setDefaultButton(aceptar);
     const bool cancelable = mensaje.botones == Botones::AceptarCancelar;
-    caja.setEscapeButton(cancelable ? caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
-                                    : aceptar);
-    acortaTexto(caja);
+    caja->setEscapeButton(cancelable ? caja->addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
+                                     : aceptar);
+    acortaTexto(*caja);
     const Puntero antes = puntero_;
     SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
-    caja.exec();
-    SistemaQt::ponPuntero(antes);
-    return cancelable && caja.clickedButton() != aceptar ? Respuesta::Cancelar : Respuesta::Aceptar;
+    const QPointer<QMessageBox> viva(caja.get());
+    const QPointer<QObject> vivo(&testigo_);
+    caja->exec();
+    if (!vivo.isNull()) SistemaQt::ponPuntero(antes);
+    if (viva.isNull()) static_cast<void>(caja.release()); // its parent took it along
+    const bool aceptada = !viva.isNull() && caja->clickedButton() == aceptar;
+    return cancelable && !aceptada ? Respuesta::Cancelar : Respuesta::Aceptar;
 }
 
 void SistemaQt::ponPuntero(Puntero puntero) {

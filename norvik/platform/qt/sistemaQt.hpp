@@ -31,6 +31,7 @@ public:
 
 private:
     QPointer<QWidget> ventana_;
+    QObject testigo_; ///< lives as long as this object, which may go while a box is shown
     QString fichero_;
     Puntero puntero_ = Puntero::Normal;
 };
