@@ -4,6 +4,9 @@
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <span>
 
 // The loading module as Visual Basic source: the definitions, the rules, the table and its symbols as calls
 // on a control. A procedure takes 2000 entries of the table; the next entry opens another, which the first
@@ -90,6 +93,19 @@ void escribeElemento(std::u16string& texto, std::int16_t fila, std::int16_t colu
     escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
 }
 
+/// Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is read
+/// four values at a time.
+std::size_t saltaCeros(std::span<const std::int16_t> valores, std::size_t desde) {
+    std::uint64_t cuatro = 0;
+    constexpr std::size_t paso = sizeof cuatro / sizeof(std::int16_t);
+    for (; desde + paso <= valores.size(); desde += paso) {
+        std::memcpy(&cuatro, valores.data() + desde, sizeof cuatro);
+        if (cuatro != 0) break;
+    }
+    while (desde < valores.size() && valores[desde] == 0) ++desde;
+    return desde;
+}
+
 } // namespace
 
 /// The two entries that reading the table makes up, in column order.
@@ -131,13 +147,12 @@ std::int16_t gramatica::columnasVigentes() const {
 /// The stored entries other than 0 of a row.
 std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
     std::vector<Celda> lista;
-    const std::int16_t ancho = columnasVigentes();
+    const auto ancho = static_cast<std::size_t>(columnasVigentes());
     if (ancho == 0) return lista;
-    std::int16_t columna = 0;
-    for (const std::int16_t valor : tabla_.filaGuardada(fila)) {
-        if (columna++ == ancho) break;
-        if (valor != 0) lista.push_back({fila, columna, valor});
-    }
+    const std::span<const std::int16_t> guardada = tabla_.filaGuardada(fila);
+    const std::span<const std::int16_t> valores = guardada.first(std::min(ancho, guardada.size()));
+    for (std::size_t c = saltaCeros(valores, 0); c < valores.size(); c = saltaCeros(valores, c + 1))
+        lista.push_back({fila, static_cast<std::int16_t>(c + 1), valores[c]});
     return lista;
 }
 
