@@ -34,7 +34,7 @@ void gramatica::inicializaConjuntos() {
     terminales_.borrarTodo();
     variables_.borrarTodo();
     simbolos_.borrarTodo();
-    columnas_.calculadas = false;
+    cambia();
     estadosAutomata_.clear();
     numEstados_ = 0;
 }

@@ -69,6 +69,8 @@ public:
     /// A body with a dot before its symbol at a 0-based position.
     static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto);
 
+    /// Changes whenever rules, symbols or table may have changed.
+    std::uint64_t edicion() const { return edicion_; }
     const conjunto& terminales() const { return terminales_; }
     const conjunto& variables() const { return variables_; }
     /// The table's symbols in column order.
@@ -182,6 +184,10 @@ private:
     static void compruebaRegla(std::int16_t regla) {
         if (regla < 1 || regla > maximoReglas) throw SubindiceFueraDeIntervalo();
     }
+    void cambia() {
+        columnas_.calculadas = false;
+        ++edicion_;
+    }
     const Regla& reglaEn(std::int16_t regla) const;
     bool hayReglaInicial() const { return !reglas_.empty() && !reglas_.front().cabeza.empty(); }
     /// The rules split so far, completed.
@@ -236,6 +242,7 @@ private:
     std::int16_t numEstados_ = 0;
     TablaSLR tabla_;
     TablaSLR conflictos_;
+    std::uint64_t edicion_ = 0;
 };
 
 inline std::int16_t gramatica::GetCodigoVariable(std::int16_t regla) const {

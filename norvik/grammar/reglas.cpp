@@ -30,7 +30,7 @@ void gramatica::inicializaGramatica() {
 }
 
 void gramatica::SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t /*codigo*/) {
-    columnas_.calculadas = false;
+    cambia();
     do {
         if (reglas_.size() == maximoReglas)
             throw SubindiceFueraDeIntervalo(
@@ -45,7 +45,7 @@ void gramatica::SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo,
 
 void gramatica::SetSimbolo(std::u16string_view simbolo) {
     if (simbolo.empty()) return;
-    columnas_.calculadas = false;
+    cambia();
     const std::u16string texto(simbolo);
     simbolos_.insertar(texto);
     (esMayusculaAZ(simbolo.front()) ? variables_ : terminales_).insertar(texto);

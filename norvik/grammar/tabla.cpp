@@ -102,7 +102,7 @@ void gramatica::creaTablaSLR() {
 /// Terminals and heads in order of first occurrence, then all of them in column order.
 void gramatica::reuneSimbolos() {
     const ReglasPartidas& reglas = partidas();
-    columnas_.calculadas = false;
+    cambia();
     std::vector<bool> vistos(reglas.numSimbolos());
     std::vector<bool> cabezas(reglas.numSimbolos());
     const auto inserta = [&](Simbolo simbolo, std::vector<bool>& yaEstan, conjunto& conj) {
@@ -164,10 +164,12 @@ void gramatica::rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const {
 
 void gramatica::SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) {
     tabla_ = TablaSLR(filas, columnas);
+    cambia();
 }
 
 void gramatica::SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor) {
     tabla_.pon(fila, columna, valor);
+    cambia();
 }
 
 std::int16_t gramatica::conflicto(std::int16_t fila, std::int16_t columna) const {

@@ -30,6 +30,7 @@ void pilaTokens::Inicializa() {
     porNombre_.clear();
     tokensLenguaje_.clear();
     expresionesRegulares_.clear();
+    ++edicion_;
 }
 
 std::int16_t pilaTokens::getNumTokensLenguaje() const {

@@ -57,6 +57,8 @@ public:
                                        bool sensibleTamanio, std::u16string_view pseudoToken);
     std::u16string SetOperador(std::u16string_view lexema, std::u16string_view token, bool sensibleTamanio,
                                std::u16string_view pseudoToken);
+    /// Changes whenever the definitions may have changed.
+    std::uint64_t edicion() const { return edicion_; }
     /// The definitions of a name in registration order, null when none bears it.
     const std::vector<const expresionRegular*>* definicionesLlamadas(std::u16string_view nombre) const;
 
@@ -85,6 +87,7 @@ private:
     std::unordered_map<std::u16string_view, std::vector<const expresionRegular*>> porNombre_;
     std::optional<BuscadorTokens> buscador_; ///< made at the first recognition of a language
     MapaTokens mapaTokens_{tokensLenguaje_};
+    std::uint64_t edicion_ = 0;
 };
 
 } // namespace norvik

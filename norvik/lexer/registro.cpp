@@ -79,6 +79,7 @@ std::u16string pilaTokens::SetOperador(std::u16string_view lexema, std::u16strin
 }
 
 void pilaTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
+    ++edicion_;
     expresionesRegulares_.push_back(std::move(definicion));
     const expresionRegular* const nueva = expresionesRegulares_.back().get();
     porNombre_[nueva->nomER].push_back(nueva);

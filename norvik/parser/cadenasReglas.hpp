@@ -9,7 +9,7 @@
 
 namespace norvik {
 
-/// Runs of reductions by rules of one symbol that a parse has made. Such a run leaves what stands below the
+/// Runs of reductions by rules of one symbol that the parses of a language have made. Such a run leaves what stands below the
 /// top of the stack as it is, so that the two states at the top and the token's column say all about it.
 /// Operators in a dozen levels make these runs nearly the whole of a parse, and the same ones again and
 /// again.
@@ -32,9 +32,19 @@ public:
     /// Rules that a run has at most.
     static constexpr std::size_t maximo = 32;
 
-    /// For the parse of a text of a length: a short one meets few runs.
-    explicit CadenasReglas(std::size_t largoTexto)
-        : cadenas_(std::bit_ceil(std::clamp<std::size_t>(largoTexto / 8, 64, 4096))) {}
+    /// Forgets every run, as another language asks for.
+    void olvida() {
+        cadenas_.clear();
+        reglas_.clear();
+    }
+    /// To be called before the parse of a text of a length: a short one meets few runs, and more room than
+    /// there was begins empty.
+    void haceSitio(std::size_t largoTexto) {
+        const std::size_t sitio = std::bit_ceil(std::clamp<std::size_t>(largoTexto / 8, 64, 4096));
+        if (sitio <= cadenas_.size() && reglas_.size() < maximoReglas) return;
+        reglas_.clear();
+        cadenas_.assign(std::max(sitio, cadenas_.size()), {});
+    }
 
     /// The run at a place, null when none is known.
     const Cadena* en(const Lugar& lugar) const {
@@ -54,6 +64,8 @@ public:
     }
 
 private:
+    static constexpr std::size_t maximoReglas = 1 << 16; ///< they stay when their run has lost its place
+
     std::size_t ranura(const Lugar& lugar) const {
         const auto mezcla = static_cast<std::uint32_t>(lugar.debajo) * 0x9E3779B1U +
                             static_cast<std::uint32_t>(lugar.cima) * 0x85EBCA77U +

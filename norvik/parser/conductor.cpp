@@ -6,15 +6,12 @@
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
-#include "norvik/parser/cadenasReglas.hpp"
 #include "norvik/parser/constructorArbol.hpp"
 #include "norvik/parser/lectorTokens.hpp"
-#include "norvik/parser/lenguajeAnalisis.hpp"
 #include "norvik/parser/pilaSLR.hpp"
 
 #include <array>
 #include <span>
-#include <utility>
 
 namespace norvik {
 
@@ -25,10 +22,10 @@ enum class Desenlace { Aceptado, ErrorLexico, ErrorSintactico };
 // One parse. The reader keeps the last token as its own, however the parse ends.
 class Analisis {
 public:
-    Analisis(LectorTokens& lector, const FuenteTexto& fuente, LenguajeAnalisis lenguaje, Traza& traza,
-             bool conLineas)
-        : lector_(lector), fuente_(fuente), lenguaje_(std::move(lenguaje)), traza_(traza),
-          conLineas_(conLineas), cadenas_(fuente.texto().size()) {}
+    Analisis(LectorTokens& lector, const FuenteTexto& fuente, LenguajeAnalisis& lenguaje,
+             CadenasReglas& cadenas, Traza& traza, bool conLineas)
+        : lector_(lector), fuente_(fuente), lenguaje_(lenguaje), cadenas_(cadenas), traza_(traza),
+          conLineas_(conLineas) {}
 
     Desenlace ejecuta() {
         pila_.PUSH(0, 0, 0);
@@ -126,11 +123,11 @@ private:
 
     LectorTokens& lector_;
     const FuenteTexto& fuente_;
-    LenguajeAnalisis lenguaje_;
+    LenguajeAnalisis& lenguaje_;
+    CadenasReglas& cadenas_;
     Traza& traza_;
     bool conLineas_;
     pilaSLR pila_;
-    CadenasReglas cadenas_;
     std::int16_t columna_ = 0;
     Posicion posicion_;
 };
@@ -151,8 +148,9 @@ bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
     lector_.inicializa(fuente);
     arbol_.reinicia();
     traza_.vaciaTraza(lector_.textoReconocido());
-    Analisis analisis(lector_, fuente, LenguajeAnalisis(lexico_, gramatica_), traza_,
-                      lineas == Lineas::DelTexto);
+    if (lenguaje_.actualiza()) cadenas_.olvida();
+    cadenas_.haceSitio(fuente.texto().size());
+    Analisis analisis(lector_, fuente, lenguaje_, cadenas_, traza_, lineas == Lineas::DelTexto);
     Mensaje mensaje;
     switch (analisis.ejecuta()) {
     case Desenlace::Aceptado:

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "norvik/parser/arbolSintactico.hpp"
+#include "norvik/parser/cadenasReglas.hpp"
+#include "norvik/parser/lenguajeAnalisis.hpp"
 #include "norvik/parser/traza.hpp"
 #include "norvik/platform/sistema.hpp"
 
@@ -31,7 +33,7 @@ public:
 
     /// All must outlive the driver.
     ConductorSLR(LectorTokens& lector, const pilaTokens& lexico, const gramatica& gramatica)
-        : lector_(lector), lexico_(lexico), gramatica_(gramatica) {}
+        : lector_(lector), lexico_(lexico), gramatica_(gramatica), lenguaje_(lexico, gramatica) {}
 
     AvisoError alFallar;
 
@@ -58,6 +60,8 @@ private:
     LectorTokens& lector_;
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
+    LenguajeAnalisis lenguaje_;
+    CadenasReglas cadenas_;
     ArbolSintactico arbol_;
     Traza traza_;
     std::int16_t codigoError_ = sinError;

@@ -7,12 +7,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
 namespace norvik {
 
-/// What a parse asks of its language again and again, by number instead of by name, and in the form that
+/// What parses ask of their language again and again, by number instead of by name, and in the form that
 /// costs least.
 class LenguajeAnalisis {
 public:
@@ -25,15 +26,26 @@ public:
         std::int16_t columnaCabeza = columnaDesconocida;
     };
 
+    /// Both must outlive it; it knows nothing of them before it is brought up to date.
     LenguajeAnalisis(const pilaTokens& lexico, const gramatica& gramatica)
-        : lexico_(lexico), gramatica_(gramatica), columnas_(lexico.tokensLenguaje().size(), sinConsultar),
-          columnaFin_(gramatica.GetCodigoToken(tokenFin)) {
-        const std::int16_t numEstados = gramatica.GetDimensionFilasSLR();
+        : lexico_(lexico), gramatica_(gramatica) {}
+
+    /// Takes over a language that has changed since the last time; false when it has not.
+    bool actualiza() {
+        const Edicion edicion{lexico_.edicion(), gramatica_.edicion()};
+        if (edicion_ == edicion) return false;
+        edicion_.reset();
+        columnas_.assign(lexico_.tokensLenguaje().size(), sinConsultar);
+        columnaFin_ = gramatica_.GetCodigoToken(tokenFin);
+        filas_.clear();
+        const std::int16_t numEstados = gramatica_.GetDimensionFilasSLR();
         for (std::int16_t estado = 0; estado < numEstados; ++estado)
-            filas_.push_back(gramatica.GetFilaTablaSLR(estado));
-        const std::int16_t numReglas = gramatica.getNumReglas();
-        reglas_.emplace_back();
+            filas_.push_back(gramatica_.GetFilaTablaSLR(estado));
+        reglas_.assign(1, Regla{});
+        const std::int16_t numReglas = gramatica_.getNumReglas();
         for (std::int16_t regla = 1; regla <= numReglas; ++regla) reglas_.push_back(consultaRegla(regla));
+        edicion_ = edicion;
+        return true;
     }
 
     /// Column of a token in the table.
@@ -60,6 +72,13 @@ public:
 private:
     static constexpr std::int16_t sinConsultar = -3;
 
+    struct Edicion {
+        std::uint64_t lexico = 0;
+        std::uint64_t gramatica = 0;
+
+        bool operator==(const Edicion&) const = default;
+    };
+
     Regla consultaRegla(std::int16_t numRegla) const {
         return {gramatica_.GetNumElementosRegla(numRegla), gramatica_.GetCodigoVariable(numRegla)};
     }
@@ -70,10 +89,11 @@ private:
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
+    std::optional<Edicion> edicion_; ///< of what stands below; none at first
     std::vector<std::int16_t> columnas_; ///< by definition, each looked up when it is first needed
     std::vector<std::span<const std::int16_t>> filas_;
     std::vector<Regla> reglas_; ///< by number
-    std::int16_t columnaFin_;
+    std::int16_t columnaFin_ = columnaDesconocida;
 };
 
 } // namespace norvik
