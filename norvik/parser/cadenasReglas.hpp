@@ -40,7 +40,7 @@ public:
     /// To be called before the parse of a text of a length: a short one meets few runs, and more room than
     /// there was begins empty.
     void haceSitio(std::size_t largoTexto) {
-        const std::size_t sitio = std::bit_ceil(std::clamp<std::size_t>(largoTexto / 8, 64, 4096));
+        const std::size_t sitio = std::bit_ceil(std::clamp<std::size_t>(largoTexto / 4, 64, 8192));
         if (sitio <= cadenas_.size() && reglas_.size() < maximoReglas) return;
         reglas_.clear();
         cadenas_.assign(std::max(sitio, cadenas_.size()), {});

@@ -48,7 +48,7 @@ private:
             }
             const auto hijos = arbol_.hazRegla(*nodo, *regla.ficha, regla.numHijos);
             if (hijos.empty()) return;
-            pendientes_.insert(pendientes_.end(), hijos.begin(), hijos.end() - 1);
+            for (Arbol* const hijo : hijos.first(hijos.size() - 1)) pendientes_.push_back(hijo);
             nodo = hijos.back();
         }
         hazHoja(*nodo);
