@@ -9,10 +9,10 @@
 
 namespace norvik {
 
-/// Runs of reductions by rules of one symbol that the parses of a language have made. Such a run leaves what stands below the
-/// top of the stack as it is, so that the two states at the top and the token's column say all about it.
-/// Operators in a dozen levels make these runs nearly the whole of a parse, and the same ones again and
-/// again.
+/// Runs of reductions by rules of one symbol that the parses of a language have made. Such a run leaves what
+/// stands below the top of the stack as it is, so that the two states at the top and the token's column say
+/// all about it. Operators in a dozen levels make these runs nearly the whole of a parse, and the same ones
+/// again and again.
 class CadenasReglas {
 public:
     struct Lugar {

@@ -89,7 +89,7 @@ private:
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
-    std::optional<Edicion> edicion_; ///< of what stands below; none at first
+    std::optional<Edicion> edicion_;     ///< of what stands below; none at first
     std::vector<std::int16_t> columnas_; ///< by definition, each looked up when it is first needed
     std::vector<std::span<const std::int16_t>> filas_;
     std::vector<Regla> reglas_; ///< by number

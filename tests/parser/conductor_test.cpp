@@ -131,6 +131,22 @@ TEST(Conductor, ElArbolSobreviveALaGramaticaYAlTexto) {
     EXPECT_EQ(lenguaje.arbol(), u"S -> palabra [1]\n  'UNA' (1, 1)\n");
 }
 
+TEST(Conductor, UnLenguajeCambiadoNoSeConfundeConElAnterior) {
+    Lenguaje lenguaje(generada(u"S -> A; A -> B; B -> a"));
+    ASSERT_TRUE(lenguaje.analiza(u"a"));
+    lenguaje.reglas->inicializaGramatica();
+    lenguaje.reglas->SetRegla(u"S", u"B");
+    lenguaje.reglas->SetRegla(u"B", u"a");
+    genera(*lenguaje.reglas);
+    EXPECT_TRUE(lenguaje.analiza(u"a"));
+    EXPECT_EQ(lenguaje.arbol(), u"S -> B [1]\n  B -> a [2]\n    'a' (1, 1)\n");
+    lenguaje.lexico.Inicializa();
+    lenguaje.token(u"a", u"b", u"", Norvik_ExpReg);
+    lenguaje.token(u"b", u"a", u"", Norvik_ExpReg);
+    EXPECT_FALSE(lenguaje.analiza(u"a"));
+    EXPECT_TRUE(lenguaje.analiza(u"b"));
+}
+
 TEST(Conductor, UnAnalisisDesdeElAvisoDeErrorEsPosible) {
     Lenguaje lenguaje(generada(u"S -> a"));
     lenguaje.conductor.alFallar = [&](const Mensaje&) { EXPECT_TRUE(lenguaje.analiza(u"a")); };
