@@ -32,7 +32,7 @@ void Salida::vuelca() {
 
 void Salida::avisa(std::u16string_view mensaje) {
     std::string linea = aUtf8(mensaje);
-    linea += '\n';
+    if (!linea.ends_with('\n')) linea += '\n';
     escribeTodo(STDERR_FILENO, linea); // there is nobody to tell that this failed
 }
 

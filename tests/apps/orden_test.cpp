@@ -129,6 +129,7 @@ TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
     EXPECT_EQ(conflictos.estado, 0);
     EXPECT_EQ(conflictos.salida.substr(0, 37), "Informe sobre la gramática actual:\r\n");
     EXPECT_EQ(conflictos.errores.substr(0, 35), "Problemas detectados:\r\n\r\nConflicto ");
+    EXPECT_EQ(conflictos.errores, ejecuta({"informe", ruta("a.nvk"), "-o", carpeta_.ruta()}).salida);
 }
 
 TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
