@@ -17,6 +17,7 @@ ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema
     norvik_.setObjectName(nombre);
     norvik_.setAccessibleName(nombre);
     velo_.setAccessibleName(nombre);
+    setAccessibleName(nombre);
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.setSpacing(2);
     columna_.addWidget(&titulo_);
@@ -169,7 +170,8 @@ void ElementoFormulario::ponModo(Modo modo) {
     const bool disenio = modo == Modo::Disenio;
     velo_.setVisible(disenio);
     velo_.raise();
-    norvik_.caja().ventana().setFocusPolicy(disenio ? Qt::NoFocus : Qt::StrongFocus);
+    for (QWidget* e : {&norvik_.caja().ventana(), norvik_.findChild<QWidget*>(QStringLiteral("tabulador"))})
+        e->setFocusPolicy(disenio ? Qt::NoFocus : Qt::StrongFocus); // nothing is written
     setFocusProxy(disenio ? static_cast<QWidget*>(&velo_) : &norvik_);
 }
 

@@ -9,6 +9,7 @@ PanelMensaje::PanelMensaje(QWidget* padre) : QFrame(padre) {
     setAccessibleName(QStringLiteral("Error del análisis"));
     const int lado = style()->pixelMetric(QStyle::PM_SmallIconSize);
     signo_.setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(lado, lado));
+    signo_.setAccessibleName(QStringLiteral("Aviso"));
     mensaje_.setWordWrap(true);
     mensaje_.setTextFormat(Qt::PlainText);
     mensaje_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

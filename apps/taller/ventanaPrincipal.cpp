@@ -62,6 +62,7 @@ void VentanaPrincipal::compone() {
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
     lenguaje_.setContentsMargins(8, 0, 8, 0);
     lugar_.setContentsMargins(8, 0, 8, 0);
+    statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
     statusBar()->addPermanentWidget(&lenguaje_);
     statusBar()->addPermanentWidget(&lugar_);
 }
@@ -91,8 +92,12 @@ void VentanaPrincipal::conectaEdicion() {
     const auto conControl = [this](QAction& accion, auto orden) {
         conecta(accion, [this, orden] { orden(formulario_.activo().norvik()); });
     };
-    conControl(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
-    conControl(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
+    const auto enHistorial = [this, conControl](QAction& accion, auto orden) {
+        conControl(accion, orden);
+        connect(&accion, &QAction::triggered, this, &VentanaPrincipal::actualizaOrdenes);
+    };
+    enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
+    enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
     conControl(a.cortar, corta);
     conControl(a.copiar, copia);
     conControl(a.pegar, pega);
@@ -121,6 +126,7 @@ void VentanaPrincipal::conectaFormulario() {
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
+        actualizaOrdenes();
     });
     connect(&formulario_, &Formulario::cambiado, this, [this] {
         actualizaTitulo();
@@ -213,9 +219,12 @@ void VentanaPrincipal::actualizaLugar() {
 void VentanaPrincipal::actualizaOrdenes() {
     Acciones& a = acciones_;
     const bool disenio = formulario_.modo() == Modo::Disenio;
-    for (QAction* const accion : {&a.deshacer, &a.rehacer, &a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo,
-                                  &a.buscar, &a.reemplazar})
+    for (QAction* const accion :
+         {&a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo, &a.buscar, &a.reemplazar})
         accion->setEnabled(!disenio);
+    const Historial& historial = formulario_.activo().norvik().control().historial();
+    a.deshacer.setEnabled(!disenio && historial.undos().cuantas() > 1);
+    a.rehacer.setEnabled(!disenio && historial.redos().cuantas() > 0);
     a.quitar.setEnabled(formulario_.elementos().size() > 1);
 }
 

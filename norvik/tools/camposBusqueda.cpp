@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace norvik {
 
 CamposBusqueda::CamposBusqueda(QWidget* padre) : QWidget(padre) {
@@ -69,8 +71,10 @@ void CamposBusqueda::ponHistorial() {
 
 void CamposBusqueda::pon(QComboBox& lista, const QString& rotulo) {
     filas_.insertRow(1, rotulo, &lista);
-    setTabOrder(&combo1_, &lista);
-    setTabOrder(&lista, &combo2_);
+    // A list comes after the text box inside the one before it, which is the newest element.
+    QWidget* anterior = &combo1_;
+    for (QWidget* siguiente : std::initializer_list<QWidget*>{&lista, &combo2_, &check1_, &check2_})
+        setTabOrder(std::exchange(anterior, siguiente), siguiente);
 }
 
 void hazEditable(QComboBox& lista, const char* nombre, const QString& accesible) {
@@ -98,7 +102,11 @@ void dispone(QDialog& dialogo, CamposBusqueda& campos, std::initializer_list<QPu
     fila.addWidget(&campos, 1);
     auto& columna = nuevo<QVBoxLayout>();
     fila.addLayout(&columna);
-    for (QPushButton* boton : botones) columna.addWidget(boton);
+    QWidget* anterior = &campos.ultimo();
+    for (QPushButton* boton : botones) {
+        columna.addWidget(boton);
+        QWidget::setTabOrder(std::exchange(anterior, boton), boton);
+    }
     columna.addStretch();
     (*botones.begin())->setDefault(true);
     fila.setSizeConstraint(QLayout::SetMinimumSize);

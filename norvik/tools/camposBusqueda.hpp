@@ -27,6 +27,8 @@ public:
     void ponHistorial();
     /// One more list, below the text to search.
     void pon(QComboBox& lista, const QString& rotulo);
+    /// The last one that the tab key comes to.
+    QWidget& ultimo() { return check2_; }
     /// The text is about to be written.
     void enfoca() { combo1_.setFocus(Qt::TabFocusReason); }
 

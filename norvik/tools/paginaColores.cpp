@@ -47,15 +47,18 @@ constexpr std::array coloresDePaleta = {
 
 constexpr int columnasDePaleta = 8;
 
+QSize medidaDeMuestra(const QWidget& en) {
+    const int lado = en.fontMetrics().height();
+    return {lado, lado};
+}
+
 /// A sample of a colour, with an edge that shows on any background.
 QIcon muestra(const QColor& color, const QWidget& en) {
-    const int lado = en.fontMetrics().height();
-    QPixmap imagen(QSize(lado, lado) * en.devicePixelRatioF());
+    const QRect entera(QPoint(), medidaDeMuestra(en));
+    QPixmap imagen(entera.size() * en.devicePixelRatioF());
     imagen.setDevicePixelRatio(en.devicePixelRatioF());
-    imagen.fill(color);
-    QPainter pintor(&imagen);
-    pintor.setPen(en.palette().color(QPalette::Mid));
-    pintor.drawRect(0, 0, lado - 1, lado - 1);
+    imagen.fill(en.palette().color(QPalette::Mid));
+    QPainter(&imagen).fillRect(entera.adjusted(1, 1, -1, -1), color);
     return imagen;
 }
 
@@ -69,6 +72,7 @@ PaginaColores::PaginaColores(SistemaQt& sistema, QWidget* padre)
     : PaginaPropiedades(sistema, QStringLiteral("Colores"), padre) {
     setObjectName(QStringLiteral("StandardColor"));
     nombra(propiedades_, "propiedades", QStringLiteral("Colores del Norvik"));
+    propiedades_.setIconSize(medidaDeMuestra(*this));
     for (const ColorDelControl& c : coloresDelControl)
         propiedades_.addItem(QStringLiteral("%1 (%2)").arg(QLatin1String(c.propiedad), aQString(c.uso)));
     auto& columna = nuevo<QVBoxLayout>(this);
@@ -92,6 +96,7 @@ QLayout& PaginaColores::paleta() {
         nombra(boton, "", aQString(c.nombre));
         boton.setToolTip(boton.accessibleName());
         boton.setIcon(muestra(QColor(c.color), *this));
+        boton.setIconSize(medidaDeMuestra(*this));
         boton.setFocusPolicy(Qt::StrongFocus);
         connect(&boton, &QToolButton::clicked, this, [this, &c] { eligeColor(QColor(c.color)); });
         paleta.addWidget(&boton, i / columnasDePaleta, i % columnasDePaleta);

@@ -54,7 +54,6 @@ QLabel& PaginaPropiedades::titular(const QString& texto) {
     QFont letra = titular.font();
     letra.setBold(true);
     titular.setFont(letra);
-    titular.setWordWrap(true);
     return titular;
 }
 

@@ -24,7 +24,7 @@ VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QStri
     barra_.setMovable(false);
     barra_.setFocusPolicy(Qt::NoFocus);
     addToolBar(&barra_);
-    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    nombra(*statusBar(), "StatusBar1", QStringLiteral("Barra de estado"));
     nombra(lugar_, "Panel1", QStringLiteral("Lugar del cursor"));
     statusBar()->addWidget(&lugar_);
     norvik1_.Colorear(true);

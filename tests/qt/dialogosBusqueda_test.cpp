@@ -153,6 +153,12 @@ TEST_F(DialogosBusquedaTest, Reemplazar) {
         EXPECT_EQ(d.windowTitle(), "Reemplazar");
         EXPECT_TRUE(titulos(&d).endsWith("Buscar &siguiente|&Reemplazar|Reemplazar &todo|&Cancelar|"));
         EXPECT_FALSE(norvik.caja().ocultaSeleccion());
+        QString recorrido;
+        for (int i = 0; i < 9; ++i) {
+            recorrido += d.focusWidget()->objectName() + ' ';
+            QTest::keyClick(d.focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(recorrido, "Combo1 Combo3 Combo2 Check1 Check2 Command1 Command2 Command3 Command4 ");
         escribe(&d, "Combo3", "xyz");
         en<QPushButton>(&d, "Command2").click();
         EXPECT_EQ(seleccion(), "ab [AB] cabo abc");

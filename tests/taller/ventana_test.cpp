@@ -65,6 +65,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     const QString uno = pon("uno.txt", "a\nb\n");
     ventana.abre(uno);
     EXPECT_EQ(ventana.windowTitle(), "uno.txt[*] — Formulario sin título — Norvik");
+    EXPECT_FALSE(a.deshacer.isEnabled());
     escribe("x");
     EXPECT_TRUE(ventana.isWindowModified());
     ordena(a.guardarTexto);
@@ -72,6 +73,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     EXPECT_EQ(apoyo::bytesDe(carpeta / "uno.txt"), "xa\r\nb\r\n");
     escribe("y");
     ordena(a.deshacer);
+    EXPECT_TRUE(a.rehacer.isEnabled());
     EXPECT_EQ(norvik().control().Text(), u"xa\r\nb");
     dialogos.ficheros = {ruta("dos.txt")};
     ordena(a.guardarTextoComo);
@@ -190,16 +192,18 @@ TEST_F(TallerTest, ModoDeDisenio) {
     ordena(a.anadir);
     ventana.show();
     a.disenio.setChecked(true);
-    EXPECT_FALSE(a.deshacer.isEnabled());
+    EXPECT_FALSE(a.buscar.isEnabled());
     ElementoFormulario& primero = *ventana.formulario().elementos()[0];
     auto* velo = primero.findChild<VeloDisenio*>();
     ASSERT_TRUE(velo->isVisible());
+    QTest::keyClick(ventana.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(norvik().Text(), "");
     QTest::mouseClick(velo, Qt::LeftButton);
     EXPECT_EQ(&ventana.formulario().activo(), &primero);
     ordena(a.quitar);
     EXPECT_EQ(ventana.formulario().activo().nombre(), "Norvik2");
     a.disenio.setChecked(false);
-    EXPECT_TRUE(a.deshacer.isEnabled());
+    EXPECT_TRUE(a.buscar.isEnabled());
     EXPECT_FALSE(ventana.formulario().activo().findChild<VeloDisenio*>()->isVisible());
 }
 
