@@ -121,6 +121,31 @@ TEST_F(ControlNorvikTest, PegarDosLineasLasColorea) {
     EXPECT_EQ(texto(), u"si 1\r\nno 2");
 }
 
+TEST_F(ControlNorvikTest, LoCompuestoEsLoEscrito) {
+    norvik.control().Text(u"si 12");
+    norvik.control().ColoreaTodo();
+    norvik.control().SelStart(5);
+    const auto compone = [&](const char* aMedias, const char* hecho) {
+        QInputMethodEvent evento(aMedias, {});
+        evento.setCommitString(hecho);
+        QApplication::sendEvent(&editor, &evento);
+    };
+    const auto& undos = norvik.control().historial().undos();
+    const auto cuantas = undos.cuantas();
+    compone("3", "");
+    EXPECT_EQ(texto(), u"si 12");
+    EXPECT_EQ(undos.cuantas(), cuantas);
+    compone("", "34");
+    EXPECT_EQ(texto(), u"si 1234");
+    EXPECT_EQ(colores(0), "ppppppp");
+    EXPECT_EQ(undos.cuantas(), cuantas + 1);
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(colores(0), "rrpnnnn");
+    norvik.control().Undo();
+    norvik.control().Undo();
+    EXPECT_EQ(editor.toPlainText(), "si 12");
+}
+
 TEST_F(ControlNorvikTest, DeshacerDesdeElTeclado) {
     QTest::keyClicks(&editor, "abc");
     norvik.control().Undo();
