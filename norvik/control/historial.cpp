@@ -37,8 +37,8 @@ bool quedaSeleccionado(std::u16string_view puesto) {
     return puesto.size() >= 2 && puesto != saltoDeLinea;
 }
 
-} // namespace
-
+/// The characters by which the longer of two texts exceeds the shorter, taken from the longer so that they
+/// end just before a 1-based position in it; all of it when they would start before it does.
 std::u16string_view textoDiferencia(std::u16string_view a, std::u16string_view b, std::int32_t p) {
     const bool esA = a.size() > b.size();
     const std::u16string_view largo = esA ? a : b;
@@ -46,9 +46,10 @@ std::u16string_view textoDiferencia(std::u16string_view a, std::u16string_view b
     const std::int32_t d = longitud(largo) - longitud(corto);
     const std::int32_t inicio = p - d;
     if (inicio < 1) return largo;
-    if (inicio > longitud(largo)) return {};
     return largo.substr(static_cast<std::size_t>(inicio - 1), static_cast<std::size_t>(d));
 }
+
+} // namespace
 
 void Historial::InicializaUndosYRedos() {
     PasosFirmes paso;

@@ -52,8 +52,4 @@ private:
     bool esSustitucion_ = false;
 };
 
-/// The characters by which the longer of two texts exceeds the shorter, taken from the longer so that they
-/// end just before a 1-based position; all of it when they would start before it does.
-std::u16string_view textoDiferencia(std::u16string_view a, std::u16string_view b, std::int32_t p);
-
 } // namespace norvik

@@ -131,18 +131,3 @@ TEST(Genera, UnFalloNoDejaMediaTabla) {
     EXPECT_TRUE(a.compila(u"Token a = \"a\"; S -> a;"));
     EXPECT_TRUE(a.analiza(u"a"));
 }
-
-TEST(Control, ValoresAlCrearse) {
-    Anfitrion a;
-    const Norvik& n = a.norvik;
-    for (const bool opcion : {n.LenguajeSensible(), n.AutoCorreccion(), n.MarcarErrores(),
-                              n.MuestraMensajesDeError(), n.Colorear(), n.TextoModificado()}) {
-        EXPECT_FALSE(opcion);
-    }
-    EXPECT_TRUE(n.AutoNumero() && a.caja.ocultaSeleccion());
-    const std::int32_t colores[] = {n.ColorPR(),        n.ColorOperadores(), n.ColorComentarios(),
-                                    n.ColorEtiquetas(), n.ColorNumeros(),    n.ColorError(),
-                                    n.ColorCadena(),    n.ColorCaracter(),   n.ColorFechas()};
-    const std::int32_t esperados[] = {0x800000, 0x000080, 0x008000, 0xFF8080, 0x808000, 0x0000FF, 0, 0, 0};
-    EXPECT_TRUE(std::equal(std::begin(colores), std::end(colores), std::begin(esperados)));
-}

@@ -35,36 +35,6 @@ TEST(Texto, PropiedadesDeLaCaja) {
     EXPECT_THROW(static_cast<void>(a.norvik.SelLength()), Desbordamiento);
 }
 
-TEST(Ficheros, CargarReemplazaYColorea) {
-    const CarpetaTemporal carpeta;
-    Anfitrion a;
-    ASSERT_TRUE(a.compila(u"Token n = \"[0-9]+\", TipoToken = TTNumero; S -> n;"));
-    a.norvik.Colorear(true);
-    const struct {
-        std::string_view bytes;
-        std::u16string_view texto;
-        std::string pintados;
-    } casos[] = {{"", u"", ""},
-                 {"12\n\n3\n", u"12\r\n\r\n3", "1100001"},
-                 {"12\r\n\r\n3", u"12\r\n\r\n3", "1100001"},
-                 {"\xF1 1\r", u"ñ 1", "001"},
-                 {"\xC3\xB1 1", u"ñ 1", "001"}};
-    for (const auto& c : casos) {
-        a.norvik.Text(u"lo de antes");
-        a.norvik.SelText(u"x");
-        EXPECT_TRUE(a.norvik.CargarFichero(carpeta.pon("f.txt", c.bytes)));
-        EXPECT_EQ(a.norvik.Text(), c.texto);
-        EXPECT_EQ(a.pintados(), c.pintados);
-        EXPECT_FALSE(a.norvik.TextoModificado());
-        EXPECT_EQ(a.norvik.SelStart(), 0);
-    }
-    for (const auto& malo : {carpeta / "no.txt", carpeta.ruta()}) {
-        a.norvik.Text(u"lo de antes");
-        EXPECT_THROW(a.norvik.CargarFichero(malo), ErrorDeFichero);
-        EXPECT_EQ(a.norvik.Text(), u""); // emptied first
-    }
-}
-
 TEST(Ficheros, LoGuardadoVuelveIgual) {
     const CarpetaTemporal carpeta;
     for (const std::u16string_view texto :
@@ -82,4 +52,19 @@ TEST(Ficheros, LoGuardadoVuelveIgual) {
     EXPECT_FALSE(a.norvik.SalvarFichero(carpeta / "no hay/f.txt"));
     EXPECT_FALSE(a.norvik.SalvarFichero(carpeta.ruta()));
     EXPECT_FALSE(a.norvik.SalvarFichero("/dev/full"));
+}
+
+TEST(Historial, MasDe32767Cambios) {
+    Anfitrion a;
+    for (int i = 0; i < 32767; ++i)
+        a.norvik.SelText(i % 2 == 0 ? u"a" : u"b"), a.norvik.SelStart(0), a.norvik.SelLength(1);
+    EXPECT_NO_THROW(a.norvik.InicializaUndosYRedos());
+    for (int i = 0; i < 32768; ++i) a.norvik.SelText(u"a"), a.norvik.SelStart(0), a.norvik.SelLength(1);
+    EXPECT_THROW(a.norvik.BorraTodo(), Desbordamiento);
+    EXPECT_EQ(a.norvik.Text(), u"");
+    a.norvik.SelText(u"x");
+    a.norvik.SelText(u"y");
+    a.norvik.Undo();
+    EXPECT_EQ(a.norvik.Text(), u"x");
+    EXPECT_NO_THROW(a.norvik.BorraTodo());
 }

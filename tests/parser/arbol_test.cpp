@@ -91,6 +91,9 @@ TEST(Arbol, InicializaVaciaTambienLosDescendientes) {
         EXPECT_EQ(nodo->GetLexema().size() + nodo->GetNomRegla().size() + nodo->GetRegla().size(), 0U);
     }
     EXPECT_EQ(nieto.GetLinea(), 7);
+    nieto.SetLexema(u"MiVar");
+    EXPECT_EQ(nieto.GetULexema(), u"MIVAR");
+    EXPECT_EQ(nieto.GetLexema(), u"MiVar");
     nieto.SetHijo(hijo);
     EXPECT_EQ(nieto.GetHijo(1), &hijo);
 }
@@ -146,13 +149,6 @@ TEST(Arbol, NavegaEnUnaDireccionYBuscaReglas) {
     EXPECT_EQ(a->GetDescendienteConReglaEnDireccion(2, Norvik_Izquierda), a);
     EXPECT_EQ(raiz.GetDescendienteConReglaEnDireccion(9, Norvik_Derecha), deC[0]);
     EXPECT_EQ(raiz.GetDescendienteConReglaEnDireccion(1, otraDireccion), nullptr);
-}
-
-TEST(Arbol, ElLexemaEnMayusculasNoCambiaElLexema) {
-    ArbolSintactico arbol;
-    arbol.raiz().SetLexema(u"MiVar");
-    EXPECT_EQ(arbol.raiz().GetULexema(), u"MIVAR");
-    EXPECT_EQ(arbol.raiz().GetLexema(), u"MiVar");
 }
 
 TEST(Arbol, AguantaProfundidadYAnchura) {

@@ -128,24 +128,15 @@ TEST(Lectura, UnTextoDemasiadoLargoNoSeLeeYElLectorSigueUtil) {
 
 TEST(PilaSLR, GuardaEstadoLineaYColumna) {
     pilaSLR pila;
-    EXPECT_EQ(pila.POP(), 0);
-    EXPECT_TRUE(pila.esVacia());
-    for (int vuelta = 0; vuelta < 2; ++vuelta) {
-        pila.PUSH(5, 3, 7);
-        pila.PUSH(9, 4, 1);
-        EXPECT_EQ(pila.cima(), 9);
-        EXPECT_EQ(pila.cimaLineas(), 4);
-        EXPECT_EQ(pila.cimaColumnas(), 1);
-        EXPECT_EQ(pila.POP(), 9);
-        EXPECT_EQ(pila.cima(), 5);
-        EXPECT_EQ(pila.cimaLineas(), 3);
-        EXPECT_EQ(pila.cimaColumnas(), 7);
-        pila.Vaciar();
-        EXPECT_EQ(pila.cima() + pila.cimaLineas() + pila.cimaColumnas(), 0);
-    }
-    pila.PUSH(1, 32768, -32769);
+    EXPECT_EQ(pila.POP() + pila.cima() + pila.cimaLineas() + pila.cimaColumnas(), 0);
+    pila.PUSH(5, 3, 7);
+    pila.PUSH(9, 32768, -32769);
     EXPECT_THROW(pila.cimaLineas(), Desbordamiento);
     EXPECT_THROW(pila.cimaColumnas(), Desbordamiento);
+    EXPECT_EQ(pila.POP(), 9);
+    EXPECT_EQ(pila.cima(), 5);
+    EXPECT_EQ(pila.cimaLineas(), 3);
+    EXPECT_EQ(pila.cimaColumnas(), 7);
     pila.POP(4);
     EXPECT_TRUE(pila.esVacia());
 }
