@@ -1,6 +1,7 @@
 #include "salida.hpp"
 
 #include "norvik/base/causas.hpp"
+#include "norvik/base/descriptor.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
@@ -8,20 +9,6 @@
 #include <unistd.h>
 
 namespace norvik::orden {
-
-namespace {
-
-bool escribeTodo(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t escritos = write(descriptor, bytes.data(), bytes.size());
-        if (escritos < 0 && errno == EINTR) continue;
-        if (escritos < 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(escritos));
-    }
-    return true;
-}
-
-} // namespace
 
 void Salida::vuelca() {
     const bool escrito = escribeTodo(STDOUT_FILENO, pendiente_);

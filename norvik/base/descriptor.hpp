@@ -1,8 +1,22 @@
 #pragma once
 
+#include <cerrno>
+#include <cstddef>
+#include <string_view>
 #include <unistd.h>
 
 namespace norvik {
+
+/// Writes all bytes to an open file of the system; false, with the cause in errno, when that fails.
+inline bool escribeTodo(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t escritos = write(descriptor, bytes.data(), bytes.size());
+        if (escritos < 0 && errno == EINTR) continue;
+        if (escritos < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(escritos));
+    }
+    return true;
+}
 
 /// An open file of the system, closed with its owner.
 class Descriptor {

@@ -76,16 +76,6 @@ std::string leeTodo(int descriptor, std::u16string_view nombre) {
     return bytes;
 }
 
-bool escribeTodo(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t escritos = write(descriptor, bytes.data(), bytes.size());
-        if (escritos < 0 && errno == EINTR) continue;
-        if (escritos < 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(escritos));
-    }
-    return true;
-}
-
 // Writes a file's content to a descriptor; false, with the cause in errno, when that fails.
 using Llenado = std::function<bool(int descriptor)>;
 
