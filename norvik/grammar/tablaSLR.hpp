@@ -28,7 +28,7 @@ public:
     }
     /// The cells of a row, to be read; none when nothing was written in it. Raises the same.
     std::span<const std::int16_t> filaGuardada(int numero) const {
-        comprueba(numero, 1);
+        compruebaFila(numero);
         return filas_[static_cast<std::size_t>(numero) - 1];
     }
     /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
@@ -37,9 +37,12 @@ public:
     std::span<std::int16_t> fila(int numero);
 
 private:
+    void compruebaFila(int fila) const {
+        if (fila < 1 || static_cast<std::size_t>(fila) > filas_.size()) throw SubindiceFueraDeIntervalo();
+    }
     void comprueba(int fila, int columna) const {
-        if (fila < 1 || static_cast<std::size_t>(fila) > filas_.size() || columna < 1 || columna > columnas_)
-            throw SubindiceFueraDeIntervalo();
+        compruebaFila(fila);
+        if (columna < 1 || columna > columnas_) throw SubindiceFueraDeIntervalo();
     }
 
     std::vector<std::vector<std::int16_t>> filas_;

@@ -202,6 +202,8 @@ TEST(Conductor, UnaTablaDaniadaAcabaEnUnFallo) {
     EXPECT_EQ(pronto.arbol(), u"'a' (1, 1)\n");
     Lenguaje sinTabla(gramaticaDe(u"S -> a"));
     EXPECT_FALSE(sinTabla.analiza(u"a"));
+    sinTabla.reglas->SetDimensionTablaSLR(3, 0);
+    EXPECT_FALSE(sinTabla.analiza(u"a"));
     EXPECT_EQ(sinTabla.conductor.GetmensajeError(),
               u"Error: Se ha encontrado 'a' (Línea 1, Columna 1). Se esperaba .");
 }
