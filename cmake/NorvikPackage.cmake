@@ -13,7 +13,10 @@ endfunction()
 
 norvik_install_program(norvik orden)
 install(DIRECTORY ejemplos DESTINATION "${CMAKE_INSTALL_DATADIR}/norvik" COMPONENT orden)
-install(FILES LEEME.md README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT orden)
+# The documents as they lie in the sources, so that what they refer to is there.
+install(FILES LEEME.md README.md CHANGELOG.md CONTRIBUTING.md DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT orden)
+install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT orden PATTERN "*.cpp" EXCLUDE)
 
 if(TARGET norvik-taller)
   norvik_install_program(norvik-taller taller)

@@ -50,7 +50,7 @@ VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
 }
 
 void VentanaPrincipal::compone() {
-    resize(1000, 680);
+    mide(*this, {1000, 680});
     columna_.setContentsMargins(4, 0, 4, 0);
     columna_.addWidget(&formulario_, 1);
     columna_.addWidget(&mensaje_);

@@ -72,7 +72,7 @@ void directorio::dispone() {
     columna.addWidget(&dirDestino_);
     columna.addWidget(&botones);
     const QFontMetrics letra = fontMetrics();
-    resize(letra.averageCharWidth() * 70, letra.lineSpacing() * 24);
+    mide(*this, {letra.averageCharWidth() * 70, letra.lineSpacing() * 24});
 }
 
 void directorio::conecta() {

@@ -89,7 +89,7 @@ void Informe::dispone() {
     columna.addWidget(&barra);
     columna.addWidget(&ssTab1_, 1);
     const QFontMetrics letra = fontMetrics();
-    resize(letra.averageCharWidth() * 110, letra.lineSpacing() * 36);
+    mide(*this, {letra.averageCharWidth() * 110, letra.lineSpacing() * 36});
     texto_.setFocus();
 }
 

@@ -35,7 +35,7 @@ VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QStri
     const QFontMetrics letra(norvik1_.Font());
     constexpr int columnas = 90;
     constexpr int lineas = 32;
-    resize(letra.horizontalAdvance(u'x') * columnas, letra.lineSpacing() * lineas);
+    mide(*this, {letra.horizontalAdvance(u'x') * columnas, letra.lineSpacing() * lineas});
     if (padre != nullptr) centra(*this, *padre);
     muestraLugar();
 }

@@ -27,6 +27,11 @@ inline void nombra(QWidget& elemento, const char* nombre, const QString& accesib
     elemento.setAccessibleName(accesible);
 }
 
+/// Gives a window a size, or as much of it as its screen has for it and its frame.
+inline void mide(QWidget& ventana, const QSize& deseada) {
+    ventana.resize(deseada.boundedTo(ventana.screen()->availableSize() * 0.9));
+}
+
 /// Puts a window in the middle of another one, or as near as the screen lets it.
 inline void centra(QWidget& ventana, const QWidget& sobre) {
     const QRect pantalla = sobre.screen()->availableGeometry();
