@@ -21,16 +21,6 @@ std::u16string lexemas(const Arbol& nodo) {
     return texto;
 }
 
-TEST(Arbol, UnNodoNuevoEstaVacio) {
-    ArbolSintactico arbol;
-    Arbol& raiz = arbol.raiz();
-    EXPECT_TRUE(raiz.GetEsHoja());
-    EXPECT_EQ(raiz.GetNumHijos(), 0);
-    EXPECT_EQ(raiz.toString(), u"'' (0, 0)\n");
-    EXPECT_EQ(raiz.GetHijo(1), nullptr);
-    EXPECT_THROW(raiz.GetHijo(0), IndiceNoValido);
-}
-
 TEST(Arbol, SetHijoPoneDelanteYSetHijoIzquierdaAlFinal) {
     ArbolSintactico arbol;
     Arbol& raiz = arbol.raiz();
@@ -75,6 +65,9 @@ TEST(Arbol, UnNodoCuelgaDeUnSoloSitio) {
 
 TEST(Arbol, InicializaVaciaTambienLosDescendientes) {
     ArbolSintactico arbol;
+    EXPECT_EQ(arbol.raiz().toString(), u"'' (0, 0)\n");
+    EXPECT_EQ(arbol.raiz().GetHijo(1), nullptr);
+    EXPECT_THROW(arbol.raiz().GetHijo(0), IndiceNoValido);
     Arbol& hijo = hoja(arbol, u"h");
     Arbol& nieto = hoja(arbol, u"n");
     hijo.SetNumRegla(u"2");

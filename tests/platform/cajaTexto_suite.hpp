@@ -78,12 +78,19 @@ TEST_P(CajaTextoTest, LosCambiosSeAvisanComoLosDelUsuario) {
     EXPECT_EQ(dameSucesos(), u"s");
     caja.ponColorSeleccion(5);
     EXPECT_EQ(dameSucesos(), u"");
+    EXPECT_FALSE(caja.modificado());
     caja.reemplazaSeleccion(u"x");
     EXPECT_EQ(dameSucesos(), u"cs");
+    EXPECT_TRUE(caja.modificado());
+    caja.ponModificado(false);
     caja.reemplazaSeleccion(u"");
     EXPECT_EQ(dameSucesos(), u""); // nothing by nothing
+    EXPECT_FALSE(caja.modificado());
+    caja.reemplazaSeleccion(u"y");
+    dameSucesos();
     caja.ponTexto(u"");
     EXPECT_EQ(dameSucesos(), u"cs");
+    EXPECT_FALSE(caja.modificado());
 }
 
 TEST_P(CajaTextoTest, ElAvisoVeElTextoNuevo) {
@@ -96,21 +103,6 @@ TEST_P(CajaTextoTest, ElAvisoVeElTextoNuevo) {
     caja.selecciona(4, 0);
     caja.reemplazaSeleccion(u"\r\n");
     EXPECT_EQ(vistos, (std::vector<std::int32_t>{2, 0, 3, 6}));
-}
-
-TEST_P(CajaTextoTest, ModificadoDesdeQueSeEdita) {
-    caja.ponTexto(u"abc");
-    EXPECT_FALSE(caja.modificado());
-    caja.selecciona(0, 1);
-    caja.ponColorSeleccion(3);
-    EXPECT_FALSE(caja.modificado());
-    caja.reemplazaSeleccion(u"x");
-    EXPECT_TRUE(caja.modificado());
-    caja.ponModificado(false);
-    EXPECT_FALSE(caja.modificado());
-    caja.reemplazaSeleccion(u"y");
-    caja.ponTexto(u"abc");
-    EXPECT_FALSE(caja.modificado());
 }
 
 TEST_P(CajaTextoTest, CadaCaracterTieneSuColor) {

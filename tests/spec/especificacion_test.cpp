@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 
 using namespace norvik;
@@ -58,23 +59,11 @@ raya 2 0 (|) \|
 coma 0 0 (,) ,
 id 0 0 (identificador) [A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*
 )"));
-    EXPECT_TRUE(publico.lexico().ends_with(R"(tipoToken 9 0 (TTAutoExpReg) TTAutoExpReg
-tipoToken 9 0 (TTFecha) TTFecha
-baseT 1 0 () BaseToken
-tipoT 1 0 () TipoToken
-expreg 1 0 () ExpReg
-token 1 0 () Token
-igual 0 0 () =
-flecha 2 0 () \-\>
-lkey 2 0 () \{
-rkey 2 0 () \}
-lpar 2 0 () \(
-rpar 2 0 () \)
-pyc 0 0 () ;
-raya 2 0 () \|
-coma 0 0 () ,
-id 0 0 (identificador) [A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*
-)"));
+    // Loaded call by call, the operators have no names to be shown and there is one more kind.
+    const std::regex nombres(R"(\((->|[{}();|,])\) )");
+    std::string otro = std::regex_replace(directo.lexico(), nombres, "() ");
+    otro.insert(otro.find("baseT 1"), "tipoToken 9 0 (TTFecha) TTFecha\n");
+    EXPECT_EQ(publico.lexico(), otro);
     EXPECT_TRUE(directo.analiza(u"TOKEN a = \"x\"; ExpReg b = \"y\";"));
     EXPECT_FALSE(publico.analiza(u"TOKEN a = \"x\";")); // here case counts
     EXPECT_TRUE(publico.analiza(u"Token a = \"x\", TipoToken = TTFecha;"));
