@@ -214,6 +214,14 @@ public:
     bool AutoNumero() const { return lexico_.autoNumber; }
     void AutoNumero(bool valor) { pon(lexico_.autoNumber, valor, u"AutoNumero"); }
 
+    // What the container keeps for the design-time tools.
+    const std::u16string& ContenidoG() const { return opciones_.contenidoG; }
+    void ContenidoG(std::u16string_view especificacion) {
+        pon(opciones_.contenidoG, especificacion, u"ContenidoG");
+    }
+    const std::u16string& CodigoPrueba() const { return opciones_.codigoPrueba; }
+    void CodigoPrueba(std::u16string_view texto) { pon(opciones_.codigoPrueba, texto, u"CodigoPrueba"); }
+
     // Colours of the token kinds, 0x00BBGGRR: definitions take them when they are registered.
     std::int32_t ColorPR() const { return lexico_.colorPalabrasReservadas; }
     void ColorPR(std::int32_t color) { pon(lexico_.colorPalabrasReservadas, color, u"ColorPR"); }

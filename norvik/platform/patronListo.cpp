@@ -14,6 +14,15 @@ namespace norvik {
 
 namespace {
 
+// Counts are spelled out up to this many copies, while the whole has no more pieces than that.
+constexpr std::uint32_t copiasMaximas = 64;
+constexpr std::size_t piezasMaximas = 4000;
+
+bool esSencilla(const Repeticion& r) {
+    return r.esUna() || (r.minimo <= 1 && r.maximo == Repeticion::sinLimite) ||
+           (r.minimo == 0 && r.maximo == 1);
+}
+
 class Reduce {
 public:
     Reduce(const Patron& patron, PatronListo& listo) : patron_(patron), listo_(listo) {
@@ -96,7 +105,16 @@ void Reduce::reduceUnidad(Pieza pieza) {
         listo_.clases.push_back(ClaseUnidades::deUnidad(pieza.unidad, true));
     }
     anota(pieza.repeticion.esUna());
-    aniade(pieza);
+    const Repeticion r = pieza.repeticion;
+    const bool sinLimite = r.maximo == Repeticion::sinLimite;
+    const std::uint32_t copias = sinLimite ? r.minimo : r.maximo;
+    if (esSencilla(r) || copias == 0 || copias > copiasMaximas || piezas_.size() + copias > piezasMaximas)
+        return aniade(pieza);
+    for (std::uint32_t copia = 1; copia <= copias; ++copia) {
+        const bool ultima = copia == copias && sinLimite;
+        pieza.repeticion = {copia <= r.minimo ? 1U : 0U, ultima ? Repeticion::sinLimite : 1U, r.perezosa};
+        aniade(pieza);
+    }
 }
 
 void Reduce::cierra(const Pieza& pieza) {

@@ -5,7 +5,8 @@
 namespace norvik {
 
 /// A pattern made ready for matching: its classes are sets of units and letter case is spelled out in them
-/// (except for references); groups that only wrap are gone, alternatives of one unit are classes.
+/// (except for references); groups that only wrap are gone, alternatives of one unit are classes, small
+/// counts are copies.
 struct PatronListo {
     std::vector<Pieza> piezas;
     std::vector<ClaseUnidades> clases;

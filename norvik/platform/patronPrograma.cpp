@@ -1,10 +1,8 @@
 // A pattern assembled into a program, in one pass over its pieces.
 //
 // A repetition whose body always takes something and that counts no more than "none or one at least" is a
-// branch and a jump. A small count of one unit is spelled out, so that an automaton can be made of it: copies
-// that may be absent stand one inside the other, x(x(x)?)?, for side by side, xx?x?, the ways to share a text
-// among them are too many to try. Any other repetition is a loop that counts its turns, remembers where each
-// began and forgets the captures of its body.
+// branch and a jump; any other is a loop that counts its turns, remembers where each began and forgets the
+// captures of its body.
 #include "norvik/platform/patronPrograma.hpp"
 
 #include <algorithm>
@@ -14,14 +12,6 @@
 namespace norvik {
 
 namespace {
-
-// Counts are spelled out up to this many copies, while the whole has no more instructions than that.
-constexpr std::uint32_t copiasMaximas = 64;
-constexpr std::size_t instruccionesMaximas = 4000;
-
-bool esSencilla(const Repeticion& r) {
-    return (r.minimo <= 1 && r.maximo == Repeticion::sinLimite) || (r.minimo == 0 && r.maximo == 1);
-}
 
 // Assembles the program in one pass over the pieces.
 class Ensambla {
@@ -54,9 +44,6 @@ private:
     std::uint32_t aqui() const { return static_cast<std::uint32_t>(p_.codigo.size()); }
     void emite(Operacion operacion, std::uint32_t a = 0) { p_.codigo.push_back({operacion, a}); }
     void ensambla(const Pieza& pieza);
-    void suelta(const Pieza& pieza, Operacion operacion, std::uint32_t a);
-    bool seDeletrea(const Pieza& pieza) const;
-    void deletrea(const Repeticion& repeticion, Operacion operacion, std::uint32_t a);
     void abre(const Pieza& pieza);
     void alternativa(const Pieza& pieza);
     void cierra(const Pieza& pieza);
@@ -78,13 +65,18 @@ private:
 };
 
 void Ensambla::ensambla(const Pieza& pieza) {
+    const auto suelta = [&](Operacion operacion, std::uint32_t a) {
+        const EnCurso enCurso = abreRepeticion(pieza);
+        emite(operacion, a);
+        cierraRepeticion(pieza.repeticion, enCurso);
+    };
     switch (pieza.tipo) {
     case TipoPieza::Unidad:
-        return suelta(pieza, Operacion::Unidad, pieza.unidad);
+        return suelta(Operacion::Unidad, pieza.unidad);
     case TipoPieza::Clase:
-        return suelta(pieza, Operacion::Clase, pieza.numero);
+        return suelta(Operacion::Clase, pieza.numero);
     case TipoPieza::Referencia:
-        return suelta(pieza, Operacion::Referencia, pieza.numero);
+        return suelta(Operacion::Referencia, pieza.numero);
     case TipoPieza::Inicio:
         return emite(Operacion::Inicio);
     case TipoPieza::Final:
@@ -100,38 +92,6 @@ void Ensambla::ensambla(const Pieza& pieza) {
     case TipoPieza::Cierra:
         return cierra(pieza);
     }
-}
-
-void Ensambla::suelta(const Pieza& pieza, Operacion operacion, std::uint32_t a) {
-    if (seDeletrea(pieza)) return deletrea(pieza.repeticion, operacion, a);
-    const EnCurso enCurso = abreRepeticion(pieza);
-    emite(operacion, a);
-    cierraRepeticion(pieza.repeticion, enCurso);
-}
-
-bool Ensambla::seDeletrea(const Pieza& pieza) const {
-    const Repeticion& r = pieza.repeticion;
-    const std::uint32_t copias = r.maximo == Repeticion::sinLimite ? r.minimo : r.maximo;
-    return pieza.esDeUnaUnidad() && !r.esUna() && !esSencilla(r) && copias != 0 && copias <= copiasMaximas &&
-           p_.codigo.size() + copias <= instruccionesMaximas;
-}
-
-void Ensambla::deletrea(const Repeticion& repeticion, Operacion operacion, std::uint32_t a) {
-    const bool sinLimite = repeticion.maximo == Repeticion::sinLimite;
-    const std::uint32_t fijas = sinLimite ? repeticion.minimo - 1 : repeticion.minimo;
-    for (std::uint32_t copia = 0; copia < fijas; ++copia) emite(operacion, a);
-    if (sinLimite) {
-        const EnCurso ultima{aqui(), std::nullopt};
-        emite(operacion, a);
-        return cierraRepeticion({1, Repeticion::sinLimite, repeticion.perezosa}, ultima);
-    }
-    std::vector<std::uint32_t> pruebas; // the branches to the end
-    for (std::uint32_t copia = fijas; copia < repeticion.maximo; ++copia) {
-        pruebas.push_back(aqui());
-        emite(repeticion.perezosa ? Operacion::Aplaza : Operacion::Prueba);
-        emite(operacion, a);
-    }
-    for (const std::uint32_t prueba : pruebas) p_.codigo[prueba].a = aqui();
 }
 
 void Ensambla::abre(const Pieza& pieza) {
@@ -189,7 +149,9 @@ bool Ensambla::necesitaBucle(const Pieza& pieza) const {
     const Repeticion& r = pieza.repeticion;
     const bool anulable =
         pieza.tipo == TipoPieza::Referencia || (pieza.tipo == TipoPieza::Abre && pieza.anulable);
-    return anulable || !esSencilla(r) || capturasDentro(pieza).hasta > capturasDentro(pieza).desde;
+    const bool sencilla =
+        (r.minimo <= 1 && r.maximo == Repeticion::sinLimite) || (r.minimo == 0 && r.maximo == 1);
+    return anulable || !sencilla || capturasDentro(pieza).hasta > capturasDentro(pieza).desde;
 }
 
 std::uint32_t Ensambla::nuevoBucle(const Pieza& pieza) {

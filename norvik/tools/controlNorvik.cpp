@@ -68,6 +68,12 @@ void ControlNorvik::cuentaFallo(const std::u16string& texto) {
     sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
+/// A file that keeps properties may have line breaks of its own.
+QString ControlNorvik::conSaltos(QString texto) {
+    texto.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    return texto.replace(u'\n', QLatin1String("\r\n"));
+}
+
 // ---- keyboard and mouse
 
 bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {

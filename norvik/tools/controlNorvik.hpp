@@ -28,6 +28,15 @@
     void Nombre(int valor) {                                                                                 \
         control_.Nombre(a16(valor));                                                                         \
     }
+/// A colour 0x00BBGGRR, and the same as Qt's property.
+#define NORVIK_PROPIEDAD_COLOR(Nombre)                                                                       \
+    NORVIK_PROPIEDAD(int, Nombre)                                                                            \
+    QColor Nombre##Qt() const {                                                                              \
+        return colorQt(control_.Nombre());                                                                   \
+    }                                                                                                        \
+    void Nombre##Qt(const QColor& valor) {                                                                   \
+        control_.Nombre(valor.isValid() ? deQColor(valor) : sinColor);                                       \
+    }
 #define NORVIK_PROPIEDAD_TEXTO(Nombre)                                                                       \
     QString Nombre() const {                                                                                 \
         return aQString(control_.Nombre());                                                                  \
@@ -42,7 +51,8 @@ namespace norvik {
 /// control itself, `control()`; its options and events are here as properties and signals under their own
 /// names. A slot that is connected directly may change the arguments of a signal.
 ///
-/// Lengths are in twips, colours 0x00BBGGRR, positions 0-based. A number that does not fit 16 bits raises
+/// Lengths are in twips, positions 0-based; a colour is 0x00BBGGRR to its member, a `QColor` as property (an
+/// invalid one is none). A number that does not fit 16 bits raises
 /// `Desbordamiento`, as everywhere.
 class ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
@@ -59,18 +69,20 @@ class ControlNorvik : public QWidget, private Contenedor {
     Q_PROPERTY(bool Colorear READ Colorear WRITE Colorear)
     Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE NomLenguaje)
     Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE AutoNumero)
-    Q_PROPERTY(int ColorPR READ ColorPR WRITE ColorPR)
-    Q_PROPERTY(int ColorOperadores READ ColorOperadores WRITE ColorOperadores)
-    Q_PROPERTY(int ColorComentarios READ ColorComentarios WRITE ColorComentarios)
-    Q_PROPERTY(int ColorEtiquetas READ ColorEtiquetas WRITE ColorEtiquetas)
-    Q_PROPERTY(int ColorNumeros READ ColorNumeros WRITE ColorNumeros)
-    Q_PROPERTY(int ColorError READ ColorError WRITE ColorError)
-    Q_PROPERTY(int ColorCadena READ ColorCadena WRITE ColorCadena)
-    Q_PROPERTY(int ColorCaracter READ ColorCaracter WRITE ColorCaracter)
-    Q_PROPERTY(int ColorFechas READ ColorFechas WRITE ColorFechas)
-    Q_PROPERTY(QFont Font READ Font WRITE Font STORED false)
-    Q_PROPERTY(bool TextoModificado READ TextoModificado WRITE TextoModificado STORED false)
-    Q_PROPERTY(QString Text READ Text WRITE Text STORED false)
+    Q_PROPERTY(QColor ColorPR READ ColorPRQt WRITE ColorPRQt)
+    Q_PROPERTY(QColor ColorOperadores READ ColorOperadoresQt WRITE ColorOperadoresQt)
+    Q_PROPERTY(QColor ColorComentarios READ ColorComentariosQt WRITE ColorComentariosQt)
+    Q_PROPERTY(QColor ColorEtiquetas READ ColorEtiquetasQt WRITE ColorEtiquetasQt)
+    Q_PROPERTY(QColor ColorNumeros READ ColorNumerosQt WRITE ColorNumerosQt)
+    Q_PROPERTY(QColor ColorError READ ColorErrorQt WRITE ColorErrorQt)
+    Q_PROPERTY(QColor ColorCadena READ ColorCadenaQt WRITE ColorCadenaQt)
+    Q_PROPERTY(QColor ColorCaracter READ ColorCaracterQt WRITE ColorCaracterQt)
+    Q_PROPERTY(QColor ColorFechas READ ColorFechasQt WRITE ColorFechasQt)
+    Q_PROPERTY(QFont Font READ Font WRITE Font)
+    Q_PROPERTY(QString ContenidoG READ ContenidoG WRITE ContenidoG)
+    Q_PROPERTY(QString CodigoPrueba READ CodigoPrueba WRITE CodigoPrueba)
+    Q_PROPERTY(bool TextoModificado READ TextoModificado WRITE TextoModificado STORED false DESIGNABLE false)
+    Q_PROPERTY(QString Text READ Text WRITE Text STORED false DESIGNABLE false)
     Q_PROPERTY(QString SelText READ SelText WRITE SelText STORED false DESIGNABLE false)
     Q_PROPERTY(int SelStart READ SelStart WRITE SelStart STORED false DESIGNABLE false)
     Q_PROPERTY(int SelLength READ SelLength WRITE SelLength STORED false DESIGNABLE false)
@@ -102,17 +114,23 @@ public:
     NORVIK_PROPIEDAD(bool, Colorear)
     NORVIK_PROPIEDAD_TEXTO(NomLenguaje)
     NORVIK_PROPIEDAD(bool, AutoNumero)
-    NORVIK_PROPIEDAD(int, ColorPR)
-    NORVIK_PROPIEDAD(int, ColorOperadores)
-    NORVIK_PROPIEDAD(int, ColorComentarios)
-    NORVIK_PROPIEDAD(int, ColorEtiquetas)
-    NORVIK_PROPIEDAD(int, ColorNumeros)
-    NORVIK_PROPIEDAD(int, ColorError)
-    NORVIK_PROPIEDAD(int, ColorCadena)
-    NORVIK_PROPIEDAD(int, ColorCaracter)
-    NORVIK_PROPIEDAD(int, ColorFechas)
+    NORVIK_PROPIEDAD_COLOR(ColorPR)
+    NORVIK_PROPIEDAD_COLOR(ColorOperadores)
+    NORVIK_PROPIEDAD_COLOR(ColorComentarios)
+    NORVIK_PROPIEDAD_COLOR(ColorEtiquetas)
+    NORVIK_PROPIEDAD_COLOR(ColorNumeros)
+    NORVIK_PROPIEDAD_COLOR(ColorError)
+    NORVIK_PROPIEDAD_COLOR(ColorCadena)
+    NORVIK_PROPIEDAD_COLOR(ColorCaracter)
+    NORVIK_PROPIEDAD_COLOR(ColorFechas)
     QFont Font() const { return aQFont(control_.Font()); }
     void Font(const QFont& letra) { control_.Font(deQFont(letra)); }
+    /// The specification of a language and a text to try it with. Their line breaks, of whatever kind when
+    /// they are set, are CR LF.
+    QString ContenidoG() const { return aQString(control_.ContenidoG()); }
+    void ContenidoG(const QString& texto) { control_.ContenidoG(vistaDe(conSaltos(texto))); }
+    QString CodigoPrueba() const { return aQString(control_.CodigoPrueba()); }
+    void CodigoPrueba(const QString& texto) { control_.CodigoPrueba(vistaDe(conSaltos(texto))); }
     NORVIK_PROPIEDAD(bool, TextoModificado)
     NORVIK_PROPIEDAD_TEXTO(Text)
     NORVIK_PROPIEDAD_TEXTO(SelText)
@@ -145,6 +163,8 @@ protected:
 
 private:
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
+    static QColor colorQt(std::int32_t color) { return color == sinColor ? QColor() : aQColor(color); }
+    static QString conSaltos(QString texto);
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
     Medidas medidas() const override;
     void muestraMarco(bool visible) override { elementos_.muestraMarco(visible); }
@@ -175,4 +195,5 @@ private:
 
 #undef NORVIK_PROPIEDAD
 #undef NORVIK_PROPIEDAD_16
+#undef NORVIK_PROPIEDAD_COLOR
 #undef NORVIK_PROPIEDAD_TEXTO

@@ -58,7 +58,8 @@ QIcon muestra(const QColor& color, const QWidget& en) {
     QPixmap imagen(entera.size() * en.devicePixelRatioF());
     imagen.setDevicePixelRatio(en.devicePixelRatioF());
     imagen.fill(en.palette().color(QPalette::Mid));
-    QPainter(&imagen).fillRect(entera.adjusted(1, 1, -1, -1), color);
+    QPainter(&imagen).fillRect(entera.adjusted(1, 1, -1, -1),
+                               color.isValid() ? color : en.palette().color(QPalette::Base));
     return imagen;
 }
 
@@ -144,7 +145,7 @@ void PaginaColores::muestraElegida() {
 void PaginaColores::lee(ControlNorvik& control) {
     for (int i = 0; i < propiedades_.count(); ++i) {
         const auto& c = coloresDelControl[static_cast<std::size_t>(i)];
-        ponColor(*propiedades_.item(i), aQColor(control.property(c.propiedad).toInt()));
+        ponColor(*propiedades_.item(i), control.property(c.propiedad).value<QColor>());
     }
 }
 
@@ -152,8 +153,9 @@ bool PaginaColores::escribe(ControlNorvik& control) {
     for (int i = 0; i < propiedades_.count(); ++i) {
         const char* propiedad = coloresDelControl[static_cast<std::size_t>(i)].propiedad;
         const QColor color = colorDe(*propiedades_.item(i));
-        if (color == aQColor(control.property(propiedad).toInt())) continue; // a value that is none stays
-        control.setProperty(propiedad, color.blue() << 16 | color.green() << 8 | color.red());
+        if (color == control.property(propiedad).value<QColor>())
+            continue; // more than its bytes may be there
+        control.setProperty(propiedad, color);
     }
     return true;
 }

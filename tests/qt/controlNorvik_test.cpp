@@ -182,8 +182,8 @@ TEST_F(ControlNorvikTest, LosEventosSonSenales) {
     QTest::mouseClick(elemento("debugBox"), Qt::LeftButton, {}, {5, 5});
     EXPECT_EQ(sucesos, QStringList({"click", "click"}));
     sucesos.clear();
-    norvik.setProperty("ColorPR", 0x123456);
-    norvik.setProperty("ColorPR", 0x123456);
+    norvik.setProperty("ColorPR", QColor(0x56, 0x34, 0x12));
+    norvik.setProperty("ColorPR", QColor(0x56, 0x34, 0x12));
     norvik.setProperty("NomLenguaje", "C");
     EXPECT_EQ(sucesos, QStringList({"ColorPR", "NombreLenguaje"}));
     EXPECT_EQ(norvik.control().ColorPR(), 0x123456);
@@ -192,7 +192,7 @@ TEST_F(ControlNorvikTest, LosEventosSonSenales) {
 
 TEST_F(ControlNorvikTest, TodasLasOpcionesSonPropiedades) {
     const QMetaObject& meta = ControlNorvik::staticMetaObject;
-    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 30);
+    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 32);
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty p = meta.property(i);
         const QVariant valor = p.read(&norvik);

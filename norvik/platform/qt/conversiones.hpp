@@ -35,6 +35,10 @@ inline QColor aQColor(std::int32_t color) {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
 }
 
+inline std::int32_t deQColor(const QColor& color) {
+    return color.blue() << 16 | color.green() << 8 | color.red();
+}
+
 /// The colour as it can be read on a background: on a dark one, colours chosen for light paper are made
 /// lighter until they stand out.
 QColor legible(const QColor& color, const QColor& fondo);
