@@ -1,24 +1,11 @@
 #include "dialogosQt.hpp"
 
-#include <QApplication>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 
 namespace norvik::taller {
 
 Destino DialogosQt::pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) {
-    QWidget* const encimaDe = QApplication::activeModalWidget();
-    QMessageBox caja(QMessageBox::Warning, QApplication::applicationDisplayName(), pregunta,
-                     QMessageBox::NoButton, encimaDe != nullptr ? encimaDe : ventana_.data());
-    caja.setTextFormat(Qt::PlainText);
-    QPushButton* const si = caja.addButton(guardar, QMessageBox::AcceptRole);
-    QPushButton* const no = caja.addButton(descartar, QMessageBox::DestructiveRole);
-    caja.setEscapeButton(caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole));
-    caja.setDefaultButton(si);
-    caja.exec();
-    if (caja.clickedButton() == si) return Destino::Guardar;
-    return caja.clickedButton() == no ? Destino::Descartar : Destino::Cancelar;
+    return preguntaDestino(pregunta, guardar, descartar, ventana_);
 }
 
 std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& aceptar) {

@@ -2,7 +2,6 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/control/generacion.hpp"
-#include "norvik/control/ranurasDisenio.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 namespace norvik::taller {
@@ -23,13 +22,11 @@ bool tieneLenguaje(ControlNorvik& norvik) {
 }
 
 const std::u16string& especificacionDe(ControlNorvik& norvik) {
-    return norvik.control().opciones().contenidoG;
+    return norvik.control().ContenidoG();
 }
 
 void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion) {
-    norvik.control().editCode();
-    ranurasDisenio().especificacion = especificacion;
-    norvik.control().editCode(true);
+    norvik.control().ContenidoG(especificacion);
 }
 
 std::u16string compilaLenguaje(ControlNorvik& norvik) {

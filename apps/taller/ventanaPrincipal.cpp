@@ -175,7 +175,10 @@ void VentanaPrincipal::ponModo(bool disenio) {
 }
 
 void VentanaPrincipal::muestraPropiedades(VentanaPropiedades::Pagina pagina) {
-    muestraModal<VentanaPropiedades>(sistema_, formulario_.activo(), sistema_, dialogos_, pagina, this);
+    ElementoFormulario& elemento = formulario_.activo();
+    const auto pregunta = [this](const auto&... textos) { return dialogos_.pregunta(textos...); };
+    muestraModal<VentanaPropiedades>(sistema_, elemento.norvik(), elemento.nombre(), sistema_, pregunta,
+                                     pagina, this);
     if (formulario_.modo() == Modo::Ejecucion) lenguajes_.preparaTodos();
     actualizaTitulo();
 }

@@ -3,7 +3,8 @@
 #include "acciones.hpp"
 #include "ordenesFormulario.hpp"
 #include "ordenesLenguaje.hpp"
-#include "ventanaPropiedades.hpp"
+
+#include "norvik/tools/ventanaPropiedades.hpp"
 
 #include <QMainWindow>
 #include <QVBoxLayout>

@@ -1,17 +1,18 @@
-#include "ventanaPropiedades.hpp"
+#include "norvik/tools/ventanaPropiedades.hpp"
 
 #include <algorithm>
+#include <utility>
 
-namespace norvik::taller {
+namespace norvik {
 
-VentanaPropiedades::VentanaPropiedades(ElementoFormulario& elemento, SistemaQt& sistema, Dialogos& dialogos,
-                                       Pagina primera, QWidget* padre)
-    : QDialog(padre), dialogos_(dialogos), nombre_(elemento.nombre()), paginas_(paginasDeNorvik(sistema)) {
+VentanaPropiedades::VentanaPropiedades(ControlNorvik& control, const QString& nombre, SistemaQt& sistema,
+                                       PreguntaDestino pregunta, Pagina primera, QWidget* padre)
+    : QDialog(padre), pregunta_(std::move(pregunta)), nombre_(nombre), paginas_(paginasDeNorvik(sistema)) {
     setObjectName(QStringLiteral("propiedades"));
     setWindowTitle(QStringLiteral("Propiedades de %1[*]").arg(nombre_));
     for (const auto& pagina : paginas_) {
         fichas_.addTab(pagina.get(), pagina->titulo());
-        pagina->cambiaSeleccion({&elemento.norvik()});
+        pagina->cambiaSeleccion({&control});
         connect(pagina.get(), &PaginaPropiedades::cambio, this, &VentanaPropiedades::actualiza);
     }
     fichas_.setCurrentIndex(static_cast<int>(primera));
@@ -44,6 +45,7 @@ bool VentanaPropiedades::aplica() {
         fichas_.setCurrentWidget(pagina.get());
         return false;
     }
+    emit aplicado();
     return true;
 }
 
@@ -53,8 +55,8 @@ bool VentanaPropiedades::puedeCerrarse() {
     if (!isWindowModified()) return true;
     const QString pregunta =
         QStringLiteral("Hay cambios sin aplicar en las propiedades de %1. ¿Quiere aplicarlos?").arg(nombre_);
-    return dialogos_.salvaOPierde(pregunta, QStringLiteral("&Aplicar"), QStringLiteral("&No aplicar"),
-                                  [this] { return aplica(); });
+    return cumple(pregunta_(pregunta, QStringLiteral("&Aplicar"), QStringLiteral("&No aplicar")),
+                  [this] { return aplica(); });
 }
 
 void VentanaPropiedades::done(int resultado) {
@@ -63,4 +65,4 @@ void VentanaPropiedades::done(int resultado) {
     QDialog::done(resultado);
 }
 
-} // namespace norvik::taller
+} // namespace norvik

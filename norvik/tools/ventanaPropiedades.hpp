@@ -1,8 +1,6 @@
 #pragma once
 
-#include "dialogos.hpp"
-#include "elementoFormulario.hpp"
-
+#include "norvik/tools/destino.hpp"
 #include "norvik/tools/paginaPropiedades.hpp"
 
 #include <QDialog>
@@ -11,12 +9,13 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
-namespace norvik::taller {
+namespace norvik {
 
-/// The property pages of a control of the form.
+/// The property pages of a control, in a window of their own, with which its container edits it.
 class VentanaPropiedades final : public QDialog {
     Q_OBJECT
 
@@ -24,18 +23,22 @@ public:
     /// In the order of the control's pages.
     enum class Pagina : std::uint8_t { General, Gramatica, Colores };
 
-    VentanaPropiedades(ElementoFormulario& elemento, SistemaQt& sistema, Dialogos& dialogos, Pagina primera,
-                       QWidget* padre);
+    /// `sistema` must outlive it; `pregunta` is asked what is to become of changes that were not applied.
+    VentanaPropiedades(ControlNorvik& control, const QString& nombre, SistemaQt& sistema,
+                       PreguntaDestino pregunta, Pagina primera, QWidget* padre);
 
-    /// Asks what is to become of what was not applied; does not close while a page is at work.
+    /// Asks when there is something to ask; does not close while a page is at work.
     void done(int resultado) override;
+
+signals:
+    void aplicado();
 
 private:
     bool aplica();
     bool puedeCerrarse();
     void actualiza();
 
-    Dialogos& dialogos_;
+    PreguntaDestino pregunta_;
     QString nombre_;
     QVBoxLayout columna_;
     QHBoxLayout botones_;
@@ -45,4 +48,4 @@ private:
     QPushButton cerrar_{QStringLiteral("&Cerrar")};
 };
 
-} // namespace norvik::taller
+} // namespace norvik
