@@ -1,5 +1,5 @@
 # The programs as the system's user meets them, and Debian packages of them: norvik (the command), norvik-taller
-# (the workbench) and norvik-dev (the libraries).
+# (the workbench), norvik-disenador (the plugin of Qt Designer) and norvik-dev (the libraries).
 string(TIMESTAMP NORVIK_FECHA "%Y-%m-%d")
 set(NORVIK_PAQUETE "${PROJECT_SOURCE_DIR}/paquete")
 
@@ -28,12 +28,16 @@ if(TARGET norvik-taller)
   set(NORVIK_COMPONENTE_TALLER taller)
 endif()
 
+if(TARGET norvik-disenador)
+  set(NORVIK_COMPONENTE_DISENADOR disenador)
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "Norvik <norvik@localhost>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL orden ${NORVIK_COMPONENTE_TALLER} desarrollo)
+set(CPACK_COMPONENTS_ALL orden ${NORVIK_COMPONENTE_TALLER} ${NORVIK_COMPONENTE_DISENADOR} desarrollo)
 set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -45,6 +49,10 @@ set(CPACK_DEBIAN_TALLER_PACKAGE_NAME norvik-taller)
 set(CPACK_DEBIAN_TALLER_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TALLER_PACKAGE_DEPENDS norvik)
 set(CPACK_DEBIAN_TALLER_PACKAGE_RECOMMENDS qt6-translations-l10n)
+set(CPACK_DEBIAN_DISENADOR_DESCRIPTION "Control Norvik para los formularios de Qt Designer\n Complemento con el que el diseñador de formularios lo coloca y edita sus propiedades.")
+set(CPACK_DEBIAN_DISENADOR_PACKAGE_NAME norvik-disenador)
+set(CPACK_DEBIAN_DISENADOR_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_DISENADOR_PACKAGE_RECOMMENDS "designer-qt6, norvik-dev")
 set(CPACK_DEBIAN_DESARROLLO_DESCRIPTION "Control de edición que conoce lenguajes, para programas en C++\n Bibliotecas estáticas, cabeceras y paquete de CMake.")
 set(CPACK_DEBIAN_DESARROLLO_PACKAGE_NAME norvik-dev)
 set(CPACK_DEBIAN_DESARROLLO_PACKAGE_SECTION libdevel)
