@@ -91,8 +91,8 @@ void buscar::changeEvent(QEvent* evento) {
 /// While something is told, the control may go, and take this dialog along: the search works on a searcher of
 /// its own.
 void buscar::buscaSiguiente() {
-    const QPointer<buscar> vivo(this);
     Buscador buscador = buscador_;
+    const QPointer<buscar> vivo(this);
     const auto fallo = falloDe([&] { buscador.buscaSiguiente(campos_.peticion()); });
     if (!fallo.empty()) buscador.avisa(fallo, {}, Icono::Ninguno);
     if (!vivo.isNull()) campos_.ponHistorial();

@@ -48,16 +48,17 @@ void Reemplazar::conecta() {
 }
 
 /// A command needs a text to search.
-template <typename Orden>
-void Reemplazar::conecta(QPushButton& boton, Orden orden) {
+void Reemplazar::conecta(QPushButton& boton, const Orden& orden) {
     connect(&campos_, &CamposBusqueda::textoCambiado, &boton, &QPushButton::setEnabled);
-    connect(&boton, &QPushButton::clicked, this, [this, orden] {
-        const QPointer<Reemplazar> vivo(this);
-        const auto busqueda = busqueda_;
-        const std::u16string fallo = falloDe([&] { orden(busqueda->buscador); });
-        if (!fallo.empty()) busqueda->buscador.avisa(fallo, {}, Icono::Ninguno);
-        if (!vivo.isNull()) recuerda();
-    });
+    connect(&boton, &QPushButton::clicked, this, [this, orden] { ejecuta(orden); });
+}
+
+void Reemplazar::ejecuta(const Orden& orden) {
+    const std::shared_ptr<Busqueda> busqueda = busqueda_;
+    const QPointer<Reemplazar> vivo(this);
+    const std::u16string fallo = falloDe([&] { orden(busqueda->buscador); });
+    if (!fallo.empty()) busqueda->buscador.avisa(fallo, {}, Icono::Ninguno);
+    if (!vivo.isNull()) recuerda();
 }
 
 /// The control is still there, or the target is empty.

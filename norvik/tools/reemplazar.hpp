@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QPushButton>
 
+#include <functional>
 #include <memory>
 
 namespace norvik {
@@ -36,8 +37,9 @@ private:
 
     void nombraElementos();
     void conecta();
-    template <typename Orden>
-    void conecta(QPushButton& boton, Orden orden);
+    using Orden = std::function<void(Buscador&)>;
+    void conecta(QPushButton& boton, const Orden& orden);
+    void ejecuta(const Orden& orden);
     std::u16string con() const { return combo3_.currentText().toStdU16String(); }
     void recuerda();
     void abandona();
