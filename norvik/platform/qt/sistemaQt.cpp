@@ -113,6 +113,19 @@ void acortaTexto(QMessageBox& caja) {
         rejilla.addWidget(elemento, rejilla.rowCount(), 0, 1, rejilla.columnCount());
 }
 
+/// A short text would make the box too narrow for its title, beside which stand an icon and buttons.
+void daSitioAlTitulo(QMessageBox& caja) {
+    QFont negrita = caja.font();
+    negrita.setBold(true);
+    const QFontMetrics letra(negrita);
+    constexpr int alrededor = 8;
+    const int ancho = letra.horizontalAdvance(caja.windowTitle()) + letra.height() * alrededor;
+    auto& rejilla = static_cast<QGridLayout&>(*caja.layout());
+    // The box's grid owns it.
+    rejilla.addItem(std::make_unique<QSpacerItem>(ancho, 0).release(), rejilla.rowCount(), 0, 1,
+                    rejilla.columnCount());
+}
+
 } // namespace
 
 Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
@@ -129,6 +142,7 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     caja->setEscapeButton(cancelable ? caja->addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
                                      : aceptar);
     acortaTexto(*caja);
+    daSitioAlTitulo(*caja);
     const Puntero antes = puntero_;
     SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
     const QPointer<QMessageBox> viva(caja.get());
