@@ -5,9 +5,10 @@
 
 namespace norvik {
 
-VentanaPropiedades::VentanaPropiedades(ControlNorvik& control, const QString& nombre, SistemaQt& sistema,
+VentanaPropiedades::VentanaPropiedades(ControlNorvik& control, QString nombre, SistemaQt& sistema,
                                        PreguntaDestino pregunta, Pagina primera, QWidget* padre)
-    : QDialog(padre), pregunta_(std::move(pregunta)), nombre_(nombre), paginas_(paginasDeNorvik(sistema)) {
+    : QDialog(padre), pregunta_(std::move(pregunta)), nombre_(std::move(nombre)),
+      paginas_(paginasDeNorvik(sistema)) {
     setObjectName(QStringLiteral("propiedades"));
     setWindowTitle(QStringLiteral("Propiedades de %1[*]").arg(nombre_));
     for (const auto& pagina : paginas_) {

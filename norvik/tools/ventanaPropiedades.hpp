@@ -24,8 +24,8 @@ public:
     enum class Pagina : std::uint8_t { General, Gramatica, Colores };
 
     /// `sistema` must outlive it; `pregunta` is asked what is to become of changes that were not applied.
-    VentanaPropiedades(ControlNorvik& control, const QString& nombre, SistemaQt& sistema,
-                       PreguntaDestino pregunta, Pagina primera, QWidget* padre);
+    VentanaPropiedades(ControlNorvik& control, QString nombre, SistemaQt& sistema, PreguntaDestino pregunta,
+                       Pagina primera, QWidget* padre);
 
     /// Asks when there is something to ask; does not close while a page is at work.
     void done(int resultado) override;

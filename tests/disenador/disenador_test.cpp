@@ -72,7 +72,7 @@ struct DisenadorTest : testing::Test {
             QString("<ui version='4.0'><class>F</class><widget class='QWidget' name='F'>%1</widget></ui>")
                 .arg(dentro));
     }
-    QDesignerPropertySheetExtension& hoja(QWidget& control) {
+    QDesignerPropertySheetExtension& hoja(QWidget& control) const {
         return *qt_extension<QDesignerPropertySheetExtension*>(editor->extensionManager(), &control);
     }
     /// The window of a control's pages.
@@ -235,7 +235,7 @@ TEST_F(DisenadorTest, UnControlSePuedeBorrarConSusPaginasAbiertas) {
     conModal(
         "norvik::CodigoGramatica",
         [&](QWidget& gramatica) {
-            delete &formulario;
+            std::unique_ptr<QDesignerFormWindowInterface>(&formulario).reset();
             gramatica.close();
         },
         [&] { pulsa(otras, "Command4"); });
