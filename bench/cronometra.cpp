@@ -1,6 +1,7 @@
 // Runs commands in turn, many times over, and prints what each took: medians of wall and of processor time in
-// milliseconds, and peak memory in KiB. Taking turns, the commands see the same machine; the processor's time
-// is the fairer figure on one that has other work.
+// milliseconds, and peak memory in KiB. Taking turns, the commands see the same machine, and since each round
+// has an order of its own, no command is always the one that finds the caches full of a greater one's data.
+// The processor's time is the fairer figure on a machine that has other work.
 //
 //   cronometra ROUNDS -- COMMAND ARGUMENT... -- COMMAND ARGUMENT... ...
 //
@@ -12,6 +13,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
+#include <numeric>
+#include <random>
 #include <spawn.h>
 #include <string_view>
 #include <sys/resource.h>
@@ -85,8 +88,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::vector<Medidas> medidas(todas.size());
+    std::vector<std::size_t> turnos(todas.size());
+    std::iota(turnos.begin(), turnos.end(), std::size_t{0});
+    std::minstd_rand azar; // the same orders in each measurement
     for (int vuelta = 0; vuelta < vueltas; vuelta++) {
-        for (std::size_t i = 0; i < todas.size(); i++) {
+        std::shuffle(turnos.begin(), turnos.end(), azar);
+        for (const std::size_t i : turnos) {
             if (ejecuta(todas[i], medidas[i])) continue;
             std::cerr << "cronometra: failed:";
             for (const char* trozo : todas[i]) std::cerr << ' ' << (trozo ? trozo : "\n");
