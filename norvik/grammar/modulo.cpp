@@ -187,7 +187,9 @@ void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexi
     escribeSimbolos(texto);
     cierraProcedimiento(texto);
     escribeLinea(texto);
+    entregaSiSonMuchas(texto, sumidero);
     escribeTokens(texto, lexico);
+    entregaSiSonMuchas(texto, sumidero);
     escribeCargaReglas(texto, nombre);
     sumidero(texto);
 }

@@ -91,13 +91,13 @@ private:
 struct Emparejador::Compilado {
     Patron patron;
     std::optional<std::u16string> palabra;
-    std::mutex enUso; // searches share what they build
-    std::optional<Buscador> buscador;
+    std::mutex enUso;                   // searches share what they build
+    std::unique_ptr<Buscador> buscador; // none yet, and never one for a plain word
 
     // To be called by the one who uses it.
     Buscador& listo() {
         if (!buscador) {
-            buscador.emplace(PatronListo(patron));
+            buscador = std::make_unique<Buscador>(PatronListo(patron));
             patron.piezas = {};
             patron.clases = {};
         }
