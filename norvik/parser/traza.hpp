@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -39,7 +40,12 @@ public:
     void vaciaTraza(std::u16string_view texto);
     /// They raise `Desbordamiento` when the trace is full.
     void registraDesplazamiento(std::u16string_view lexema, std::int32_t linea, std::int32_t columna,
-                                Procedencia procedencia = Procedencia::Texto);
+                                Procedencia procedencia = Procedencia::Texto) {
+        if (desplazamientos_.size() == maximoDesplazamientos) fallaLlena();
+        apunta(0);
+        desplazamientos_.push_back(
+            {lugarDe(lexema), static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
+    }
     void registraReduccion(std::int16_t numRegla) { apunta(numRegla); }
     void registraReducciones(std::span<const std::int16_t> reglas) {
         if (reglas.size() > maximo - pasos_.size()) fallaLlena();
@@ -81,7 +87,14 @@ private:
         pasos_.push_back(regla);
     }
     /// Where in the buffer a lexeme stands, copied to its end when it is no part of the text.
-    std::uint32_t lugarDe(std::u16string_view lexema);
+    std::uint32_t lugarDe(std::u16string_view lexema) {
+        const std::less_equal<> hasta;
+        if (hasta(texto_.data(), lexema.data()) &&
+            hasta(lexema.data() + lexema.size(), texto_.data() + texto_.size()))
+            return static_cast<std::uint32_t>(lexema.data() - texto_.data());
+        textos_.append(lexema);
+        return static_cast<std::uint32_t>(textos_.size() - lexema.size());
+    }
     [[noreturn]] static void fallaLlena();
 
     std::vector<std::int16_t> pasos_; ///< rule of a reduction, 0 for a shift
