@@ -41,7 +41,8 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
                                  Intentos& intentos) {
     intentos.coinciden = 0;
     intentos.indecisos = cuales;
-    Numero estado = inicial(cuales, sujeto[inicio]);
+    const Numero primero = inicial(cuales, sujeto[inicio]);
+    Numero estado = primero;
     if (estado == desconocido) return;
     const std::size_t tope = std::min(sujeto.size(), inicio + camino);
     std::size_t i = inicio;
@@ -56,7 +57,10 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
         intentos.indecisos = vivos_[estado];
         if (i == tope || destino == desconocido) break;
         const std::uint64_t fallidos = vivos_[estado] & ~vivos_[destino] & ~intentos.coinciden;
-        if (fallidos != 0) anotaFallidos(sujeto, inicio, racha, i, estado, fallidos, intentos);
+        if (fallidos != 0) {
+            const std::size_t enVano = saltaEnVano(sujeto, inicio + 1, racha, i, primero, estado);
+            paraCadaBit(fallidos, [&](std::size_t lugar) { intentos.fin[lugar] = enVano; });
+        }
         intentos.indecisos = vivos_[destino];
         if (intentos.indecisos == 0) break;
         estado = destino;
@@ -64,13 +68,12 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
     intentos.coinciden &= ~intentos.indecisos;
 }
 
-void AutomataConjunto::anotaFallidos(std::u16string_view sujeto, std::size_t inicio, std::size_t racha,
-                                     std::size_t i, Numero estado, std::uint64_t fallidos,
-                                     Intentos& intentos) const {
-    for (const Miembro& miembro : miembros_[estado])
-        if ((fallidos >> miembro.lugar & 1U) != 0)
-            intentos.fin[miembro.lugar] =
-                automatas_[miembro.lugar]->saltaEnVano(sujeto, inicio + 1, racha, i, miembro.estado);
+// Walks have ended at `hasta`, where they had been in `estado` since `desde`. Walks that come to this state in
+// between end like them: the first position from `i` on whose walk does not do so at once.
+std::size_t AutomataConjunto::saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde,
+                                          std::size_t hasta, Numero primero, Numero estado) {
+    while (i + 1 >= desde && i < hasta && siguiente(primero, sujeto[i]) == estado) ++i;
+    return i;
 }
 
 AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, char16_t unidad) {

@@ -62,8 +62,8 @@ private:
     }
     Numero calcula(Numero estado, char16_t unidad);
     Numero numeroDe(Miembros miembros);
-    void anotaFallidos(std::u16string_view sujeto, std::size_t inicio, std::size_t racha, std::size_t i,
-                       Numero estado, std::uint64_t fallidos, Intentos& intentos) const;
+    std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde, std::size_t hasta,
+                            Numero primero, Numero estado);
 
     std::vector<Automata*> automatas_;
     std::array<std::uint8_t, 256> clases_{}; // units that no member tells apart
