@@ -68,8 +68,8 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
     intentos.coinciden &= ~intentos.indecisos;
 }
 
-// Walks have ended at `hasta`, where they had been in `estado` since `desde`. Walks that come to this state in
-// between end like them: the first position from `i` on whose walk does not do so at once.
+// Walks have ended at `hasta`, where they had been in `estado` since `desde`. Walks that come to this state
+// in between end like them: the first position from `i` on whose walk does not do so at once.
 std::size_t AutomataConjunto::saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde,
                                           std::size_t hasta, Numero primero, Numero estado) {
     while (i + 1 >= desde && i < hasta && siguiente(primero, sujeto[i]) == estado) ++i;
