@@ -94,7 +94,7 @@ void VentanaPrincipal::conectaEdicion() {
     };
     const auto enHistorial = [this, conControl](QAction& accion, auto orden) {
         conControl(accion, orden);
-        connect(&accion, &QAction::triggered, this, &VentanaPrincipal::actualizaOrdenes);
+        connect(&accion, &QAction::triggered, this, &VentanaPrincipal::actualizaHistorial);
     };
     enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
     enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
@@ -126,7 +126,7 @@ void VentanaPrincipal::conectaFormulario() {
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
-        actualizaOrdenes();
+        actualizaHistorial();
     });
     connect(&formulario_, &Formulario::cambiado, this, [this] {
         actualizaTitulo();
@@ -225,10 +225,16 @@ void VentanaPrincipal::actualizaOrdenes() {
     for (QAction* const accion :
          {&a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo, &a.buscar, &a.reemplazar})
         accion->setEnabled(!disenio);
+    a.quitar.setEnabled(formulario_.elementos().size() > 1);
+    actualizaHistorial();
+}
+
+void VentanaPrincipal::actualizaHistorial() {
+    Acciones& a = acciones_;
+    const bool disenio = formulario_.modo() == Modo::Disenio;
     const Historial& historial = formulario_.activo().norvik().control().historial();
     a.deshacer.setEnabled(!disenio && historial.undos().cuantas() > 1);
     a.rehacer.setEnabled(!disenio && historial.redos().cuantas() > 0);
-    a.quitar.setEnabled(formulario_.elementos().size() > 1);
 }
 
 // ---- the window

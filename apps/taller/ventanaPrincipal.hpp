@@ -56,6 +56,7 @@ private:
     void actualizaTitulo();
     void actualizaLugar();
     void actualizaOrdenes();
+    void actualizaHistorial();
 
     SistemaQt& sistema_;
     Dialogos& dialogos_;

@@ -36,7 +36,8 @@ void Norvik::MarcaErrorLinea(std::int16_t numLinea) {
 }
 
 void Norvik::MarcaErrorToken() {
-    const bool parado = lector_.ultimoToken() == tokenError; // the reader stays at the wrong character
+    // The reader stays at a wrong character.
+    const bool parado = lector_.leido().definicion == TokenLeido::desconocido;
     const std::int32_t fin = lector_.posLectura() - (parado ? 0 : 1);
     marcas_.marcaToken(lector_.inicioToken() - 1, fin, LineaToken(), lexico_.ColorError);
 }

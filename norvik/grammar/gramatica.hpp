@@ -184,6 +184,7 @@ private:
     static void compruebaRegla(std::int16_t regla) {
         if (regla < 1 || regla > maximoReglas) throw SubindiceFueraDeIntervalo();
     }
+    /// Rules or symbols change.
     void cambia() {
         columnas_.calculadas = false;
         ++edicion_;

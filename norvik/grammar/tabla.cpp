@@ -164,12 +164,12 @@ void gramatica::rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const {
 
 void gramatica::SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) {
     tabla_ = TablaSLR(filas, columnas);
-    cambia();
+    ++edicion_;
 }
 
 void gramatica::SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor) {
     tabla_.pon(fila, columna, valor);
-    cambia();
+    ++edicion_;
 }
 
 std::int16_t gramatica::conflicto(std::int16_t fila, std::int16_t columna) const {

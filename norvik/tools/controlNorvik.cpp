@@ -69,9 +69,8 @@ void ControlNorvik::cuentaFallo(const std::u16string& texto) {
 }
 
 /// A file that keeps properties may have line breaks of its own.
-QString ControlNorvik::conSaltos(QString texto) {
-    texto.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-    return texto.replace(u'\n', QLatin1String("\r\n"));
+QString ControlNorvik::conSaltos(const QString& texto) {
+    return conSaltosDeQt(texto).replace(u'\n', QLatin1String("\r\n"));
 }
 
 // ---- keyboard and mouse

@@ -52,8 +52,7 @@ namespace norvik {
 /// names. A slot that is connected directly may change the arguments of a signal.
 ///
 /// Lengths are in twips, positions 0-based; a colour is 0x00BBGGRR to its member, a `QColor` as property (an
-/// invalid one is none). A number that does not fit 16 bits raises
-/// `Desbordamiento`, as everywhere.
+/// invalid one is none). A number that does not fit 16 bits raises `Desbordamiento`, as everywhere.
 class ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
     Q_PROPERTY(bool Borde3D READ Borde3D WRITE Borde3D)
@@ -164,7 +163,7 @@ protected:
 private:
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
     static QColor colorQt(std::int32_t color) { return color == sinColor ? QColor() : aQColor(color); }
-    static QString conSaltos(QString texto);
+    static QString conSaltos(const QString& texto);
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
     Medidas medidas() const override;
     void muestraMarco(bool visible) override { elementos_.muestraMarco(visible); }

@@ -248,9 +248,7 @@ void CajaTextoQt::suelta(const QString& texto, int posicion, bool mueve) {
 }
 
 QString CajaTextoQt::textoParaCopiar() const {
-    return aQString(textoSeleccionado())
-        .replace(QLatin1String("\r\n"), QLatin1String("\n"))
-        .replace(u'\r', u'\n');
+    return conSaltosDeQt(aQString(textoSeleccionado()));
 }
 
 void CajaTextoQt::avisaFallo(const std::u16string& texto) {

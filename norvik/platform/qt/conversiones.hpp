@@ -22,6 +22,11 @@ inline std::u16string_view vistaDe(const QString& texto) {
     return {QStringView(texto).utf16(), static_cast<std::size_t>(texto.size())};
 }
 
+/// A text with line breaks of any kind, with Qt's, which is a line feed.
+inline QString conSaltosDeQt(QString texto) {
+    return texto.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+}
+
 /// Paths, whose bytes need be no text.
 inline std::filesystem::path aRuta(const QString& ruta) {
     return QFile::encodeName(ruta).toStdString();

@@ -182,9 +182,7 @@ void SistemaQt::imprime(std::u16string_view texto) {
     if (!fichero_.isEmpty()) impresora.setOutputFileName(fichero_);
     if (!impresora.isValid()) throw ErrorNorvik(u"No hay ninguna impresora");
     Impresion impresion(impresora);
-    const QString lineas =
-        aQString(texto).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-    for (const QString& linea : lineas.split(u'\n')) impresion.imprimeLinea(linea);
+    for (const QString& linea : conSaltosDeQt(aQString(texto)).split(u'\n')) impresion.imprimeLinea(linea);
 }
 
 } // namespace norvik
