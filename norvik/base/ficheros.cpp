@@ -56,7 +56,7 @@ Descriptor abre(const fs::path& fichero) {
 
 // Appends some bytes more; false at the end.
 bool leeMas(int descriptor, std::u16string_view nombre, std::string& bytes) {
-    std::array<char, 65536> trozo{};
+    std::array<char, 65536> trozo; // not cleared: most files are short
     for (;;) {
         const ssize_t leidos = read(descriptor, trozo.data(), trozo.size());
         if (leidos < 0 && errno == EINTR) continue;

@@ -18,6 +18,7 @@
 
 namespace norvik {
 
+class EscritorLineas;
 class pilaTokens;
 class Sistema;
 
@@ -205,18 +206,18 @@ private:
     void rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const;
     bool esColumnaDeVariable(std::int16_t columna) const;
 
-    // Parts of the report, appended to a text.
-    void escribeReglas(std::u16string& texto) const;
+    // Parts of the report.
+    void escribeReglas(EscritorLineas& salida) const;
     void escribeConjuntos(std::u16string_view titulo, std::u16string_view nombre,
-                          const std::vector<ConjuntoNumerado>& conjuntos, std::u16string& texto) const;
-    void escribePredict(std::u16string& texto) const;
+                          const std::vector<ConjuntoNumerado>& conjuntos, EscritorLineas& salida) const;
+    void escribePredict(EscritorLineas& salida) const;
     std::u16string listaDe(const ConjuntoNumerado& conjunto) const;
-    void escribeEstado(const estadoAutomata& estado, std::u16string& texto) const;
-    std::u16string transiciones(const estadoAutomata& estado) const;
-    void escribeTabla(std::u16string& texto, const SumideroDeTexto& sumidero) const;
-    void escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const;
+    void escribeEstado(const estadoAutomata& estado, EscritorLineas& salida) const;
+    void escribeTransiciones(const estadoAutomata& estado, EscritorLineas& salida) const;
+    void escribeTabla(EscritorLineas& salida) const;
+    void escribeEntrada(std::int16_t fila, std::int16_t columna, EscritorLineas& salida) const;
     std::u16string accion(std::int16_t fila, std::int16_t columna) const;
-    std::u16string problemasFila(std::int16_t fila) const;
+    void escribeProblemas(std::int16_t fila, EscritorLineas& salida) const;
 
     // Parts of the modules.
     struct Celda {
@@ -226,11 +227,10 @@ private:
     };
     std::vector<Celda> celdasFijas() const;
     std::vector<Celda> celdas(std::int16_t fila) const;
-    void escribeTablaCpp(std::u16string& texto, const SumideroDeTexto& sumidero) const;
-    void escribeEntradas(std::u16string& texto, std::u16string_view nombre,
-                         const SumideroDeTexto& sumidero) const;
-    void escribeSimbolos(std::u16string& texto) const;
-    void escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const;
+    void escribeTablaCpp(EscritorLineas& salida) const;
+    void escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const;
+    void escribeSimbolos(EscritorLineas& salida) const;
+    void escribeCargaReglas(EscritorLineas& salida, std::u16string_view nombre) const;
 
     std::deque<Regla> reglas_;
     mutable ReglasPartidas partidas_; // cache of `reglas_`, completed when it is asked for

@@ -1,6 +1,6 @@
 #include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/escritorLineas.hpp"
 #include "norvik/grammar/gramatica.hpp"
-#include "norvik/grammar/lineas.hpp"
 #include "norvik/platform/sistema.hpp"
 
 #include <algorithm>
@@ -16,25 +16,25 @@ constexpr std::u16string_view nota = u"(NOTA: El símbolo 'Ø' representa la cad
 const std::u16string raya(48, u'-');
 const std::u16string barras(110, u'/');
 
-void escribeSeparador(std::u16string& texto) {
-    escribeLinea(texto, raya);
-    escribeLinea(texto);
+void escribeSeparador(EscritorLineas& salida) {
+    salida.escribe(raya);
+    salida.escribe();
 }
 
 } // namespace
 
 // Rules and sets -------------------------------------------------------------------------------------------
 
-void gramatica::escribeReglas(std::u16string& texto) const {
-    escribeLinea(texto, u"Informe sobre la gramática actual:");
-    escribeLinea(texto);
-    escribeLinea(texto);
-    escribeLinea(texto, u"Reglas de la Gramática:");
-    escribeLinea(texto);
+void gramatica::escribeReglas(EscritorLineas& salida) const {
+    salida.escribe(u"Informe sobre la gramática actual:");
+    salida.escribe();
+    salida.escribe();
+    salida.escribe(u"Reglas de la Gramática:");
+    salida.escribe();
     int i = 0;
-    for (const Regla& regla : reglas_) escribeLinea(texto, ++i, u".\t", regla.cabeza, u" -> ", regla.cuerpo);
-    escribeLinea(texto);
-    escribeLinea(texto);
+    for (const Regla& regla : reglas_) salida.escribe(++i, u".\t", regla.cabeza, u" -> ", regla.cuerpo);
+    salida.escribe();
+    salida.escribe();
 }
 
 std::u16string gramatica::listaDe(const ConjuntoNumerado& conjunto) const {
@@ -48,80 +48,78 @@ std::u16string gramatica::listaDe(const ConjuntoNumerado& conjunto) const {
 
 void gramatica::escribeConjuntos(std::u16string_view titulo, std::u16string_view nombre,
                                  const std::vector<ConjuntoNumerado>& conjuntos,
-                                 std::u16string& texto) const {
-    escribeLinea(texto);
-    escribeLinea(texto, titulo);
-    escribeLinea(texto);
+                                 EscritorLineas& salida) const {
+    salida.escribe();
+    salida.escribe(titulo);
+    salida.escribe();
     for (const ConjuntoNumerado& conjunto : conjuntos)
-        escribeLinea(texto, nombre, u"(", partidas_.texto(conjunto.nombre), u") = {", listaDe(conjunto),
-                     u"}");
-    escribeLinea(texto);
-    escribeLinea(texto);
+        salida.escribe(nombre, u"(", partidas_.texto(conjunto.nombre), u") = {", listaDe(conjunto), u"}");
+    salida.escribe();
+    salida.escribe();
 }
 
-void gramatica::escribePredict(std::u16string& texto) const {
-    escribeLinea(texto, u"Conjuntos Predict:");
-    escribeLinea(texto);
+void gramatica::escribePredict(EscritorLineas& salida) const {
+    salida.escribe(u"Conjuntos Predict:");
+    salida.escribe();
     std::int16_t k = 0;
     for (const ConjuntoNumerado& conjunto : conjuntos_.predict) {
         const auto& [cabeza, cuerpo, elementos] = reglaEn(++k);
-        escribeLinea(texto, u"PREDICT(", cabeza, u" -> ", cuerpo, u")  =  {", listaDe(conjunto), u"}");
+        salida.escribe(u"PREDICT(", cabeza, u" -> ", cuerpo, u")  =  {", listaDe(conjunto), u"}");
     }
-    escribeLinea(texto);
-    escribeLinea(texto);
+    salida.escribe();
+    salida.escribe();
 }
 
 std::u16string gramatica::textoInformeGeneral() const {
-    std::u16string texto;
-    escribeReglas(texto);
-    escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, texto);
-    escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, texto);
-    escribePredict(texto);
-    escribeLinea(texto, u"Símbolos terminales: ", terminales_.toStringConjunto());
-    escribeLinea(texto, u"Símbolos no terminales: ", variables_.toStringConjunto());
-    escribeLinea(texto, nota);
-    return texto;
+    return textoDeLineas([&](EscritorLineas& salida) {
+        escribeReglas(salida);
+        escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, salida);
+        escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, salida);
+        escribePredict(salida);
+        salida.escribe(u"Símbolos terminales: ", terminales_.toStringConjunto());
+        salida.escribe(u"Símbolos no terminales: ", variables_.toStringConjunto());
+        salida.escribe(nota);
+    });
 }
 
 // Automaton ------------------------------------------------------------------------------------------------
 
 std::u16string gramatica::textoAutomata() const {
-    std::u16string texto;
-    for (const estadoAutomata& estado : estadosAutomata_) escribeEstado(estado, texto);
-    return texto;
+    return textoDeLineas([&](EscritorLineas& salida) {
+        for (const estadoAutomata& estado : estadosAutomata_) escribeEstado(estado, salida);
+    });
 }
 
-void gramatica::escribeEstado(const estadoAutomata& estado, std::u16string& texto) const {
+void gramatica::escribeEstado(const estadoAutomata& estado, EscritorLineas& salida) const {
     const std::u16string_view inicial = reglas_.front().cabeza;
-    escribeLinea(texto, u"Estado ", estado.getNumEstado(), u":");
-    escribeLinea(texto);
-    if (estado.getNumEstado() == 0) escribeLinea(texto, sangria, inicial, u"' -> .", inicial);
-    if (estado.getNumEstado() == 1) escribeLinea(texto, sangria, inicial, u"' -> ", inicial, u".");
+    salida.escribe(u"Estado ", estado.getNumEstado(), u":");
+    salida.escribe();
+    if (estado.getNumEstado() == 0) salida.escribe(sangria, inicial, u"' -> .", inicial);
+    if (estado.getNumEstado() == 1) salida.escribe(sangria, inicial, u"' -> ", inicial, u".");
     for (const auto [numero, punto] : estado.items()) {
         const Regla& regla = reglaEn(numero);
         const std::u16string cuerpo =
             partidas_.esVacia(numero) ? std::u16string(u".") : dameReglaString(regla.cuerpo, punto);
-        escribeLinea(texto, sangria, regla.cabeza, u" -> ", cuerpo);
+        salida.escribe(sangria, regla.cabeza, u" -> ", cuerpo);
     }
-    const std::u16string lineas = transiciones(estado);
-    if (!lineas.empty()) escribeLinea(texto, u"Transiciones:");
-    texto += lineas;
-    escribeSeparador(texto);
+    escribeTransiciones(estado, salida);
+    escribeSeparador(salida);
 }
 
-std::u16string gramatica::transiciones(const estadoAutomata& estado) const {
-    std::u16string lineas;
-    if (estado.getNumEstado() == 0) escribeLinea(lineas, sangria, reglas_.front().cabeza, u" -> ", 1);
+void gramatica::escribeTransiciones(const estadoAutomata& estado, EscritorLineas& salida) const {
+    const auto haySalida = [](std::int16_t adyacente) { return adyacente != estadoAutomata::sinTransicion; };
+    if (estado.getNumEstado() != 0 && std::ranges::none_of(estado.adyacentes(), haySalida)) return;
+    salida.escribe(u"Transiciones:");
+    if (estado.getNumEstado() == 0) salida.escribe(sangria, reglas_.front().cabeza, u" -> ", 1);
     std::vector<bool> vistos(partidas_.numSimbolos());
     for (std::size_t i = 0; i < estado.items().size(); ++i) {
-        if (estado.adyacentes()[i] == estadoAutomata::sinTransicion) continue;
+        if (!haySalida(estado.adyacentes()[i])) continue;
         const auto [regla, punto] = estado.items()[i];
         const Simbolo siguiente = partidas_.cuerpo(regla)[static_cast<std::size_t>(punto)];
         if (vistos[static_cast<std::size_t>(siguiente)]) continue;
         vistos[static_cast<std::size_t>(siguiente)] = true;
-        escribeLinea(lineas, sangria, partidas_.texto(siguiente), u" -> ", estado.adyacentes()[i]);
+        salida.escribe(sangria, partidas_.texto(siguiente), u" -> ", estado.adyacentes()[i]);
     }
-    return lineas;
 }
 
 // Table ----------------------------------------------------------------------------------------------------
@@ -155,63 +153,57 @@ std::u16string gramatica::celdaTabla(std::int16_t fila, std::int16_t columna) co
     return esColumnaDeVariable(columna) ? aTexto(valor) : accion(fila, columna);
 }
 
-void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, std::u16string& texto) const {
+void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, EscritorLineas& salida) const {
     if (enConflicto(fila, columna))
-        escribeLinea(texto, u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(fila, columna), u";");
+        salida.escribe(u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(fila, columna), u";");
     else
-        escribeLinea(texto, sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ",
-                     tabla_.en(fila, columna), u";");
+        salida.escribe(sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ", tabla_.en(fila, columna),
+                       u";");
 }
 
-void gramatica::escribeTabla(std::u16string& texto, const SumideroDeTexto& sumidero) const {
+void gramatica::escribeTabla(EscritorLineas& salida) const {
     const std::int16_t total = simbolos_.totalElementos();
-    escribeLinea(texto, u"//Simbolos:");
+    salida.escribe(u"//Simbolos:");
     for (std::int16_t c = 1; c <= total; ++c)
-        escribeLinea(texto, u"columna ", c - 1, u" = ", encabezadoColumna(c));
-    escribeLinea(texto);
-    escribeLinea(texto, u"//Tabla: (Desplazamientos: números positivos. Reducciones: números negativos)");
-    if (const int c = columnas().inicial; c >= 0) escribeLinea(texto, sangria, u"tablaSLR[0][", c, u"] = 1");
-    if (const int c = columnas().fin; c >= 0)
-        escribeLinea(texto, sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
-    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        for (const auto& [fila, columna, valor] : celdas(f)) escribeEntrada(fila, columna, texto);
-        entregaSiSonMuchas(texto, sumidero);
-    }
+        salida.escribe(u"columna ", c - 1, u" = ", encabezadoColumna(c));
+    salida.escribe();
+    salida.escribe(u"//Tabla: (Desplazamientos: números positivos. Reducciones: números negativos)");
+    if (const int c = columnas().inicial; c >= 0) salida.escribe(sangria, u"tablaSLR[0][", c, u"] = 1");
+    if (const int c = columnas().fin; c >= 0) salida.escribe(sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
+    for (std::int16_t f = 1; f <= filasVigentes(); ++f)
+        for (const auto& [fila, columna, valor] : celdas(f)) escribeEntrada(fila, columna, salida);
 }
 
 // The whole file -------------------------------------------------------------------------------------------
 
 void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
-    std::u16string texto;
-    escribeReglas(texto);
-    escribeSeparador(texto);
-    escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, texto);
-    escribeSeparador(texto);
-    escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, texto);
-    escribeSeparador(texto);
-    escribePredict(texto);
-    escribeLinea(texto, nota);
-    escribeLinea(texto);
-    escribeLinea(texto, barras);
-    escribeLinea(texto);
-    escribeLinea(texto, u"Especificación del automata:");
-    escribeLinea(texto);
-    escribeLinea(texto);
-    for (const estadoAutomata& estado : estadosAutomata_) {
-        escribeEstado(estado, texto);
-        entregaSiSonMuchas(texto, sumidero);
-    }
-    escribeLinea(texto, barras);
-    escribeLinea(texto);
-    escribeLinea(texto);
-    escribeLinea(texto, u"//Tabla SLR:");
-    escribeLinea(texto);
-    escribeLinea(texto, u"//A continuación se hace un inciso acerca de qué símbolos pertenecen a");
-    escribeLinea(texto, u"//cada índice j (siendo la dimensión tipo [i][j]) de la tabla SLR detallada.");
-    escribeLinea(texto);
-    escribeTabla(texto, sumidero);
-    escribeLinea(texto, barras);
-    sumidero(texto);
+    EscritorLineas salida(sumidero);
+    escribeReglas(salida);
+    escribeSeparador(salida);
+    escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, salida);
+    escribeSeparador(salida);
+    escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, salida);
+    escribeSeparador(salida);
+    escribePredict(salida);
+    salida.escribe(nota);
+    salida.escribe();
+    salida.escribe(barras);
+    salida.escribe();
+    salida.escribe(u"Especificación del automata:");
+    salida.escribe();
+    salida.escribe();
+    for (const estadoAutomata& estado : estadosAutomata_) escribeEstado(estado, salida);
+    salida.escribe(barras);
+    salida.escribe();
+    salida.escribe();
+    salida.escribe(u"//Tabla SLR:");
+    salida.escribe();
+    salida.escribe(u"//A continuación se hace un inciso acerca de qué símbolos pertenecen a");
+    salida.escribe(u"//cada índice j (siendo la dimensión tipo [i][j]) de la tabla SLR detallada.");
+    salida.escribe();
+    escribeTabla(salida);
+    salida.escribe(barras);
+    salida.acaba();
 }
 
 std::u16string gramatica::textoInforme() const {
@@ -227,34 +219,30 @@ void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {
 
 // Conflicts ------------------------------------------------------------------------------------------------
 
-std::u16string gramatica::problemasFila(std::int16_t fila) const {
-    std::u16string texto;
+void gramatica::escribeProblemas(std::int16_t fila, EscritorLineas& salida) const {
     bool vacia = true;
     for (std::int16_t c = 1; c < columnasVigentes(); ++c) {
         if (tabla_.en(fila, c) == 0) continue;
         vacia = false;
         if (enConflicto(fila, c))
-            escribeLinea(texto, u"Conflicto ", celdaTabla(fila, c), u" en el estado ", fila - 1,
-                         u", símbolo ", encabezadoColumna(c), u".");
+            salida.escribe(u"Conflicto ", celdaTabla(fila, c), u" en el estado ", fila - 1, u", símbolo ",
+                           encabezadoColumna(c), u".");
     }
     if (vacia)
-        escribeLinea(texto, u"La fila ", fila - 1, u" de la tabla SLR correspondiente al estado ", fila - 1,
-                     u" del automata no posee ni desplazamientos ni reducciones.");
-    return texto;
+        salida.escribe(u"La fila ", fila - 1, u" de la tabla SLR correspondiente al estado ", fila - 1,
+                       u" del automata no posee ni desplazamientos ni reducciones.");
 }
 
 // Row 2 holds the acceptance, the last column is not looked at.
 std::u16string gramatica::textoProblemas() const {
-    std::u16string texto;
-    const auto filas =
-        std::min<std::size_t>(estadosAutomata_.size(), static_cast<std::size_t>(tabla_.filas()));
-    for (std::int16_t fila = 1; static_cast<std::size_t>(fila) <= filas; ++fila)
-        if (fila != 2) texto += problemasFila(fila);
-    if (texto.empty()) return u"La gramática carece de problema alguno.";
-    std::u16string mensaje;
-    escribeLinea(mensaje, u"Problemas detectados:");
-    escribeLinea(mensaje);
-    return mensaje + texto;
+    const std::u16string problemas = textoDeLineas([&](EscritorLineas& salida) {
+        const auto filas =
+            std::min<std::size_t>(estadosAutomata_.size(), static_cast<std::size_t>(tabla_.filas()));
+        for (std::int16_t fila = 1; static_cast<std::size_t>(fila) <= filas; ++fila)
+            if (fila != 2) escribeProblemas(fila, salida);
+    });
+    if (problemas.empty()) return u"La gramática carece de problema alguno.";
+    return std::u16string(u"Problemas detectados:").append(saltoDeLinea).append(saltoDeLinea) + problemas;
 }
 
 void gramatica::MuestraProblemas(Sistema& sistema) const {

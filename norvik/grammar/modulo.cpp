@@ -1,6 +1,6 @@
 #include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/escritorLineas.hpp"
 #include "norvik/grammar/gramatica.hpp"
-#include "norvik/grammar/lineas.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <algorithm>
@@ -18,10 +18,6 @@ namespace {
 constexpr int maximoEntradas = 2000;
 constexpr std::u16string_view llamada = u"\tNorvikRefParam.";
 
-std::u16string entreComillas(std::u16string_view texto) {
-    return u'"' + std::u16string(texto) + u'"';
-}
-
 /// A literal in which every quote is joined in by its code.
 std::u16string literal(std::u16string_view texto) {
     std::u16string resultado = u"\"";
@@ -34,63 +30,63 @@ std::u16string literal(std::u16string_view texto) {
     return resultado + u'"';
 }
 
-void abreProcedimiento(std::u16string& texto, std::u16string_view nombre) {
-    escribeLinea(texto);
-    escribeLinea(texto, u"Public Sub ", nombre, u"(NorvikRefParam As Norvik)");
-    escribeLinea(texto);
+void abreProcedimiento(EscritorLineas& salida, std::u16string_view nombre) {
+    salida.escribe();
+    salida.escribe(u"Public Sub ", nombre, u"(NorvikRefParam As Norvik)");
+    salida.escribe();
 }
 
-void cierraProcedimiento(std::u16string& texto) {
-    escribeLinea(texto);
-    escribeLinea(texto, u"End Sub");
+void cierraProcedimiento(EscritorLineas& salida) {
+    salida.escribe();
+    salida.escribe(u"End Sub");
 }
 
 /// Closes a procedure with a call of the next one, and opens that.
-void abreOtroProcedimiento(std::u16string& texto, std::u16string_view nombre, int numero) {
+void abreOtroProcedimiento(EscritorLineas& salida, std::u16string_view nombre, int numero) {
     const std::u16string otro = u"CargaLenguaje" + aTexto(numero);
-    escribeLinea(texto);
-    escribeLinea(texto, u"\t", nombre, u".", otro, u" NorvikRefParam");
-    cierraProcedimiento(texto);
-    abreProcedimiento(texto, otro);
+    salida.escribe();
+    salida.escribe(u"\t", nombre, u".", otro, u" NorvikRefParam");
+    cierraProcedimiento(salida);
+    abreProcedimiento(salida, otro);
 }
 
-void escribeCabecera(std::u16string& texto, std::u16string_view nombre) {
+void escribeCabecera(EscritorLineas& salida, std::u16string_view nombre) {
     const std::u16string raya = u'\'' + std::u16string(110, u'/');
-    escribeLinea(texto, u"Attribute VB_Name = ", entreComillas(nombre));
-    escribeLinea(texto, u"Option Explicit");
-    escribeLinea(texto, raya);
-    escribeLinea(texto, u"' Módulo de carga del lenguaje ", nombre);
-    escribeLinea(texto, u"'");
-    escribeLinea(texto, u"'\tpara ejecutar escriba ", nombre, u".CargaLenguaje(NorvikControl)");
-    escribeLinea(texto, u"'\tsiendo NorvikControl en control Norvik donde desea inyectar el lenguaje.");
-    escribeLinea(texto, u"'");
-    escribeLinea(texto, raya);
-    abreProcedimiento(texto, u"CargaLenguaje");
-    escribeLinea(texto, u"\t'Esta función carga la tabla SLR en un control Norvik");
-    escribeLinea(texto, u"\t'que ha sido pasado por referencia como parámetro.");
-    escribeLinea(texto);
-    escribeLinea(texto, u"\t", nombre, u".CargaTokensLenguaje NorvikRefParam");
-    escribeLinea(texto, u"\t", nombre, u".CargaGramaticaLenguaje NorvikRefParam");
+    salida.escribe(u"Attribute VB_Name = \"", nombre, u"\"");
+    salida.escribe(u"Option Explicit");
+    salida.escribe(raya);
+    salida.escribe(u"' Módulo de carga del lenguaje ", nombre);
+    salida.escribe(u"'");
+    salida.escribe(u"'\tpara ejecutar escriba ", nombre, u".CargaLenguaje(NorvikControl)");
+    salida.escribe(u"'\tsiendo NorvikControl en control Norvik donde desea inyectar el lenguaje.");
+    salida.escribe(u"'");
+    salida.escribe(raya);
+    abreProcedimiento(salida, u"CargaLenguaje");
+    salida.escribe(u"\t'Esta función carga la tabla SLR en un control Norvik");
+    salida.escribe(u"\t'que ha sido pasado por referencia como parámetro.");
+    salida.escribe();
+    salida.escribe(u"\t", nombre, u".CargaTokensLenguaje NorvikRefParam");
+    salida.escribe(u"\t", nombre, u".CargaGramaticaLenguaje NorvikRefParam");
 }
 
-void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
-    abreProcedimiento(texto, u"CargaTokensLenguaje");
-    escribeLinea(texto);
-    escribeLinea(texto, u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
-    escribeLinea(texto);
+void escribeTokens(EscritorLineas& salida, const pilaTokens& lexico) {
+    abreProcedimiento(salida, u"CargaTokensLenguaje");
+    salida.escribe();
+    salida.escribe(u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
+    salida.escribe();
     for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
         const expresionRegular& token = lexico.getTokenLenguaje(i);
-        escribeLinea(texto, llamada, u"SetER ", literal(token.getExpReg()), u", ",
-                     entreComillas(token.GetToken()), u", True, ", token.GetTipo(), u", ",
-                     entreComillas(token.GetPseudoToken()), u", ", token.base, u", ", token.GetColor());
+        salida.escribe(llamada, u"SetER ", literal(token.getExpReg()), u", \"", token.GetToken(),
+                       u"\", True, ", token.GetTipo(), u", \"", token.GetPseudoToken(), u"\", ", token.base,
+                       u", ", token.GetColor());
     }
-    cierraProcedimiento(texto);
-    escribeLinea(texto);
-    escribeLinea(texto);
+    cierraProcedimiento(salida);
+    salida.escribe();
+    salida.escribe();
 }
 
-void escribeElemento(std::u16string& texto, std::int16_t fila, std::int16_t columna, std::int16_t valor) {
-    escribeLinea(texto, llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
+void escribeElemento(EscritorLineas& salida, std::int16_t fila, std::int16_t columna, std::int16_t valor) {
+    salida.escribe(llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
 }
 
 /// Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is read
@@ -118,20 +114,18 @@ std::vector<gramatica::Celda> gramatica::celdasFijas() const {
     return fijas;
 }
 
-void gramatica::escribeEntradas(std::u16string& texto, std::u16string_view nombre,
-                                const SumideroDeTexto& sumidero) const {
+void gramatica::escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const {
     int entradas = 0;
     int procedimiento = 0;
     for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
         for (const auto& [fila, columna, valor] : celdas(f)) {
             if (entradas == maximoEntradas) {
-                abreOtroProcedimiento(texto, nombre, ++procedimiento);
+                abreOtroProcedimiento(salida, nombre, ++procedimiento);
                 entradas = 0;
             }
-            escribeElemento(texto, fila, columna, valor);
+            escribeElemento(salida, fila, columna, valor);
             ++entradas;
         }
-        entregaSiSonMuchas(texto, sumidero);
     }
 }
 
@@ -156,42 +150,39 @@ std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
     return lista;
 }
 
-void gramatica::escribeSimbolos(std::u16string& texto) const {
-    escribeLinea(texto);
+void gramatica::escribeSimbolos(EscritorLineas& salida) const {
+    salida.escribe();
     for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
-        escribeLinea(texto, llamada, u"InsertarSimboloGramatica ", entreComillas(encabezadoColumna(c)));
+        salida.escribe(llamada, u"InsertarSimboloGramatica \"", encabezadoColumna(c), u"\"");
 }
 
-void gramatica::escribeCargaReglas(std::u16string& texto, std::u16string_view nombre) const {
-    abreProcedimiento(texto, u"CargaGramaticaLenguaje");
-    escribeLinea(texto);
-    escribeLinea(texto, u"'Función para cargar las reglas del lenguaje ", nombre);
-    escribeLinea(texto);
+void gramatica::escribeCargaReglas(EscritorLineas& salida, std::u16string_view nombre) const {
+    abreProcedimiento(salida, u"CargaGramaticaLenguaje");
+    salida.escribe();
+    salida.escribe(u"'Función para cargar las reglas del lenguaje ", nombre);
+    salida.escribe();
     const std::int16_t total = getNumReglas();
     for (std::int16_t r = 1; r <= total; ++r)
-        escribeLinea(texto, llamada, u"SetRegla \"", GetLeftRegla(r), u" -> ", GetRightRegla(r), u"\"");
-    cierraProcedimiento(texto);
-    escribeLinea(texto);
-    escribeLinea(texto);
+        salida.escribe(llamada, u"SetRegla \"", GetLeftRegla(r), u" -> ", GetRightRegla(r), u"\"");
+    cierraProcedimiento(salida);
+    salida.escribe();
+    salida.escribe();
 }
 
 void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
                               const SumideroDeTexto& sumidero) const {
-    std::u16string texto;
-    escribeCabecera(texto, nombre);
-    escribeLinea(texto, llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ",
-                 simbolos_.totalElementos());
-    escribeLinea(texto);
-    for (const auto& [fila, columna, valor] : celdasFijas()) escribeElemento(texto, fila, columna, valor);
-    escribeEntradas(texto, nombre, sumidero);
-    escribeSimbolos(texto);
-    cierraProcedimiento(texto);
-    escribeLinea(texto);
-    entregaSiSonMuchas(texto, sumidero);
-    escribeTokens(texto, lexico);
-    entregaSiSonMuchas(texto, sumidero);
-    escribeCargaReglas(texto, nombre);
-    sumidero(texto);
+    EscritorLineas salida(sumidero);
+    escribeCabecera(salida, nombre);
+    salida.escribe(llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ", simbolos_.totalElementos());
+    salida.escribe();
+    for (const auto& [fila, columna, valor] : celdasFijas()) escribeElemento(salida, fila, columna, valor);
+    escribeEntradas(salida, nombre);
+    escribeSimbolos(salida);
+    cierraProcedimiento(salida);
+    salida.escribe();
+    escribeTokens(salida, lexico);
+    escribeCargaReglas(salida, nombre);
+    salida.acaba();
 }
 
 std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {

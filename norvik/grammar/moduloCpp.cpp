@@ -1,6 +1,6 @@
 #include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/escritorLineas.hpp"
 #include "norvik/grammar/gramatica.hpp"
-#include "norvik/grammar/lineas.hpp"
 #include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
@@ -46,47 +46,46 @@ std::u16string identificador(std::u16string_view nombre) {
 }
 
 /// A table of texts and the loop that passes them on. An array has at least one element: none, no loop.
-void escribeTextos(std::u16string& texto, std::u16string_view tabla, std::u16string_view operacion,
+void escribeTextos(EscritorLineas& salida, std::u16string_view tabla, std::u16string_view operacion,
                    const std::vector<std::u16string>& textos) {
     if (textos.empty()) return;
-    escribeLinea(texto);
-    escribeLinea(texto, u"    static constexpr std::u16string_view ", tabla, u"[] = {");
-    for (const std::u16string& elemento : textos) escribeLinea(texto, u"        ", literal(elemento), u",");
-    escribeLinea(texto, u"    };");
-    escribeLinea(texto, u"    for (const auto elemento : ", tabla, u") control.", operacion, u"(elemento);");
+    salida.escribe();
+    salida.escribe(u"    static constexpr std::u16string_view ", tabla, u"[] = {");
+    for (const std::u16string& elemento : textos) salida.escribe(u"        ", literal(elemento), u",");
+    salida.escribe(u"    };");
+    salida.escribe(u"    for (const auto elemento : ", tabla, u") control.", operacion, u"(elemento);");
 }
 
-void escribeTokens(std::u16string& texto, const pilaTokens& lexico) {
+void escribeTokens(EscritorLineas& salida, const pilaTokens& lexico) {
     for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
         const expresionRegular& token = lexico.getTokenLenguaje(i);
-        escribeLinea(texto, u"    control.SetER(", literal(definicionDePatron(token.getExpReg())), u", ",
-                     literal(token.GetToken()), u", true, norvik::TipoExpReg{", token.GetTipo(), u"}, ",
-                     literal(token.GetPseudoToken()), u", norvik::baseNumerica{", token.base, u"}, ",
-                     token.GetColor(), u");");
+        salida.escribe(u"    control.SetER(", literal(definicionDePatron(token.getExpReg())), u", ",
+                       literal(token.GetToken()), u", true, norvik::TipoExpReg{", token.GetTipo(), u"}, ",
+                       literal(token.GetPseudoToken()), u", norvik::baseNumerica{", token.base, u"}, ",
+                       token.GetColor(), u");");
     }
 }
 
 } // namespace
 
-void gramatica::escribeTablaCpp(std::u16string& texto, const SumideroDeTexto& sumidero) const {
-    escribeLinea(texto);
-    escribeLinea(texto, u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ",
-                 simbolos_.totalElementos(), u");");
+void gramatica::escribeTablaCpp(EscritorLineas& salida) const {
+    salida.escribe();
+    salida.escribe(u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ", simbolos_.totalElementos(),
+                   u");");
     bool abierta = false;
     const auto escribe = [&](const Celda& celda) {
-        if (!abierta) escribeLinea(texto, u"    static constexpr short entradas[][3] = {");
+        if (!abierta) salida.escribe(u"    static constexpr short entradas[][3] = {");
         abierta = true;
-        escribeLinea(texto, u"        {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
+        salida.escribe(u"        {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
     };
     std::ranges::for_each(celdasFijas(), escribe);
     for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
         std::ranges::for_each(celdas(f), escribe);
-        entregaSiSonMuchas(texto, sumidero);
     }
     if (!abierta) return;
-    escribeLinea(texto, u"    };");
-    escribeLinea(texto, u"    for (const auto& [fila, columna, valor] : entradas)");
-    escribeLinea(texto, u"        control.SetElementoTablaSLR(fila, columna, valor);");
+    salida.escribe(u"    };");
+    salida.escribe(u"    for (const auto& [fila, columna, valor] : entradas)");
+    salida.escribe(u"        control.SetElementoTablaSLR(fila, columna, valor);");
 }
 
 void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
@@ -99,25 +98,25 @@ void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& l
     for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
         simbolos.emplace_back(encabezadoColumna(c));
 
-    std::u16string texto;
-    escribeLinea(texto, u"// Carga del lenguaje ", identificador(nombre), u": llame a ",
-                 identificador(nombre), u"::CargaLenguaje(control).");
-    escribeLinea(texto, u"#pragma once");
-    escribeLinea(texto);
-    escribeLinea(texto, u"#include \"norvik/control/norvik.hpp\"");
-    escribeLinea(texto);
-    escribeLinea(texto, u"namespace ", identificador(nombre), u" {");
-    escribeLinea(texto);
-    escribeLinea(texto, u"inline void CargaLenguaje(norvik::Norvik& control) {");
-    escribeLinea(texto, u"    using namespace std::string_view_literals;");
-    escribeTokens(texto, lexico);
-    escribeTextos(texto, u"reglas", u"SetRegla", reglas);
-    escribeTablaCpp(texto, sumidero);
-    escribeTextos(texto, u"simbolos", u"InsertarSimboloGramatica", simbolos);
-    escribeLinea(texto, u"}");
-    escribeLinea(texto);
-    escribeLinea(texto, u"} // namespace ", identificador(nombre));
-    sumidero(texto);
+    EscritorLineas salida(sumidero);
+    salida.escribe(u"// Carga del lenguaje ", identificador(nombre), u": llame a ", identificador(nombre),
+                   u"::CargaLenguaje(control).");
+    salida.escribe(u"#pragma once");
+    salida.escribe();
+    salida.escribe(u"#include \"norvik/control/norvik.hpp\"");
+    salida.escribe();
+    salida.escribe(u"namespace ", identificador(nombre), u" {");
+    salida.escribe();
+    salida.escribe(u"inline void CargaLenguaje(norvik::Norvik& control) {");
+    salida.escribe(u"    using namespace std::string_view_literals;");
+    escribeTokens(salida, lexico);
+    escribeTextos(salida, u"reglas", u"SetRegla", reglas);
+    escribeTablaCpp(salida);
+    escribeTextos(salida, u"simbolos", u"InsertarSimboloGramatica", simbolos);
+    salida.escribe(u"}");
+    salida.escribe();
+    salida.escribe(u"} // namespace ", identificador(nombre));
+    salida.acaba();
 }
 
 std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {

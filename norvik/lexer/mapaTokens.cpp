@@ -22,8 +22,8 @@ void MapaTokens::reinicia(std::int32_t inicio, std::u16string_view texto) {
 std::optional<MapaTokens::Entrada> MapaTokens::en(std::int32_t posicion) const {
     const Celda* const celda = this->celda(posicion);
     if (celda == nullptr) return std::nullopt;
-    const auto* const definicion = (*definiciones_)[static_cast<std::size_t>(celda->definicion)];
-    return Entrada{definicion, celda->longitud, texto(*celda)};
+    const auto* const definicion = (*definiciones_)[static_cast<std::size_t>(celda->definicion())];
+    return Entrada{definicion, celda->longitud(), texto(*celda)};
 }
 
 void MapaTokens::borra(std::int32_t posicion) {
@@ -31,7 +31,7 @@ void MapaTokens::borra(std::int32_t posicion) {
 }
 
 bool MapaTokens::esVacio() const {
-    return std::ranges::all_of(celdas_, [](const Celda& celda) { return celda.definicion < 0; });
+    return std::ranges::none_of(celdas_, &Celda::hayToken);
 }
 
 std::u16string MapaTokens::toString() const {

@@ -4,7 +4,9 @@
 #include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
+#include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <utility>
 
 namespace norvik {
@@ -79,6 +81,7 @@ std::u16string pilaTokens::SetOperador(std::u16string_view lexema, std::u16strin
 }
 
 void pilaTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
+    if (expresionesRegulares_.size() == std::numeric_limits<std::int16_t>::max()) throw Desbordamiento();
     ++edicion_;
     expresionesRegulares_.push_back(std::move(definicion));
     const expresionRegular* const nueva = expresionesRegulares_.back().get();

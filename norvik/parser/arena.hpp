@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <type_traits>
 #include <vector>
@@ -42,14 +43,22 @@ public:
     }
 
 private:
-    using Bloque = std::vector<std::byte>;
+    // Not cleared: what has no object yet is not looked at.
+    struct Bloque {
+        explicit Bloque(std::size_t bytes)
+            : memoria(std::make_unique_for_overwrite<std::byte[]>(bytes)), tamanio(bytes) {}
+
+        std::unique_ptr<std::byte[]> memoria;
+        std::size_t tamanio;
+    };
 
     // Goes on to a block with room, a new one if there is none.
     void pasaDeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;
-        while (usados_ < bloques_.size() && bloques_[usados_].size() < bytes) ++usados_;
+        while (usados_ < bloques_.size() && bloques_[usados_].tamanio < bytes) ++usados_;
         if (usados_ == bloques_.size()) bloques_.emplace_back(std::max(bytes, minimo));
-        libre_ = bloques_[usados_++];
+        const Bloque& bloque = bloques_[usados_++];
+        libre_ = {bloque.memoria.get(), bloque.tamanio};
     }
 
     std::vector<Bloque> bloques_;

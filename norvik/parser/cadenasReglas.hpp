@@ -1,10 +1,9 @@
 #pragma once
 
-#include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace norvik {
@@ -32,18 +31,13 @@ public:
     /// Rules that a run has at most.
     static constexpr std::size_t maximo = 32;
 
+    CadenasReglas() : cadenas_(minimoLugares) {}
+
     /// Forgets every run, as another language asks for.
     void olvida() {
-        cadenas_.clear();
+        cadenas_.assign(minimoLugares, {});
         reglas_.clear();
-    }
-    /// To be called before the parse of a text of a length: a short one meets few runs, and more room than
-    /// there was begins empty.
-    void haceSitio(std::size_t largoTexto) {
-        const std::size_t sitio = std::bit_ceil(std::clamp<std::size_t>(largoTexto / 4, 64, 8192));
-        if (sitio <= cadenas_.size() && reglas_.size() < maximoReglas) return;
-        reglas_.clear();
-        cadenas_.assign(std::max(sitio, cadenas_.size()), {});
+        ocupados_ = 0;
     }
 
     /// The run at a place, null when none is known.
@@ -58,14 +52,25 @@ public:
     /// Stores a run, perhaps in place of another one.
     void guarda(const Lugar& lugar, std::int16_t estado, std::int16_t accion,
                 std::span<const std::int16_t> reglas) {
-        cadenas_[ranura(lugar)] = {lugar, estado, static_cast<std::uint32_t>(reglas_.size()),
-                                   static_cast<std::uint16_t>(reglas.size()), accion};
+        if (reglas_.size() >= maximoReglas) olvida();
+        if (ocupados_ >= cadenas_.size() / 4 && cadenas_.size() < maximoLugares) crece();
+        Cadena& sitio = cadenas_[ranura(lugar)];
+        if (sitio.estado == 0) ++ocupados_;
+        sitio = {lugar, estado, static_cast<std::uint32_t>(reglas_.size()),
+                 static_cast<std::uint16_t>(reglas.size()), accion};
         reglas_.insert(reglas_.end(), reglas.begin(), reglas.end());
     }
 
 private:
+    static constexpr std::size_t minimoLugares = 64;
+    static constexpr std::size_t maximoLugares = 8192;
     static constexpr std::size_t maximoReglas = 1 << 16; ///< they stay when their run has lost its place
 
+    void crece() {
+        const std::vector<Cadena> viejas = std::exchange(cadenas_, std::vector<Cadena>(2 * cadenas_.size()));
+        for (const Cadena& cadena : viejas)
+            if (cadena.estado != 0) cadenas_[ranura(cadena.lugar)] = cadena;
+    }
     std::size_t ranura(const Lugar& lugar) const {
         const auto mezcla = static_cast<std::uint32_t>(lugar.debajo) * 0x9E3779B1U +
                             static_cast<std::uint32_t>(lugar.cima) * 0x85EBCA77U +
@@ -75,6 +80,7 @@ private:
 
     std::vector<Cadena> cadenas_; ///< a power of two
     std::vector<std::int16_t> reglas_;
+    std::size_t ocupados_ = 0;
 };
 
 } // namespace norvik

@@ -149,7 +149,6 @@ bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
     arbol_.reinicia();
     traza_.vaciaTraza(lector_.textoReconocido());
     if (lenguaje_.actualiza()) cadenas_.olvida();
-    cadenas_.haceSitio(fuente.texto().size());
     Analisis analisis(lector_, fuente, lenguaje_, cadenas_, traza_, lineas == Lineas::DelTexto);
     Mensaje mensaje;
     switch (analisis.ejecuta()) {

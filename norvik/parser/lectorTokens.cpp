@@ -45,7 +45,7 @@ void LectorTokens::lee(const FuenteTexto& fuente) {
     while (posLectura_ <= static_cast<std::int32_t>(texto.size())) {
         inicioToken_ = posLectura_;
         const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
-        if (celda == nullptr || celda->longitud == 0) {
+        if (celda == nullptr || celda->longitud() == 0) {
             const auto caracter = texto.substr(static_cast<std::size_t>(posLectura_) - 1, 1);
             if (!esBlanco(caracter.front())) {
                 leido_ = {TokenLeido::desconocido, caracter};
@@ -54,10 +54,11 @@ void LectorTokens::lee(const FuenteTexto& fuente) {
             ++posLectura_;
             continue;
         }
-        const std::int16_t tipo = lexico_.tokensLenguaje()[static_cast<std::size_t>(celda->definicion)]->tipo;
-        posLectura_ += celda->longitud;
+        const std::int16_t tipo =
+            lexico_.tokensLenguaje()[static_cast<std::size_t>(celda->definicion())]->tipo;
+        posLectura_ += celda->longitud();
         if (esComentario(tipo)) continue;
-        leido_ = {celda->definicion, sinDelimitadores(mapa.texto(*celda), tipo)};
+        leido_ = {celda->definicion(), sinDelimitadores(mapa.texto(*celda), tipo)};
         return;
     }
     leeFinal();
@@ -68,7 +69,7 @@ void LectorTokens::leeFinal() {
     MapaTokens& mapa = lexico_.mapaTokens();
     const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
     leido_ = celda == nullptr ? TokenLeido{TokenLeido::fin, tokenFin}
-                              : TokenLeido{celda->definicion, mapa.texto(*celda)};
+                              : TokenLeido{celda->definicion(), mapa.texto(*celda)};
     mapa.borra(posLectura_);
 }
 

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+/// Gathers lines and hands them over many at a time. What is left at the end is handed over by `acaba`.
+class EscritorLineas {
+public:
+    /// The sink must outlive the writer.
+    explicit EscritorLineas(const SumideroDeTexto& sumidero) : sumidero_(sumidero) {}
+
+    /// A line made of texts and numbers, and its line break.
+    template <typename... Piezas>
+    void escribe(const Piezas&... piezas) {
+        const std::size_t cabe = (maximoDe(piezas) + ... + saltoDeLinea.size());
+        if (sitio_ - largo_ < cabe) haceSitio(cabe);
+        char16_t* fin = lineas_.get() + largo_;
+        ((fin = copia(piezas, fin)), ...);
+        largo_ = static_cast<std::size_t>(copia(saltoDeLinea, fin) - lineas_.get());
+    }
+    void acaba() {
+        if (largo_ != 0) sumidero_({lineas_.get(), largo_});
+        largo_ = 0;
+    }
+
+private:
+    static constexpr std::size_t muchas = 8192;
+    static constexpr std::size_t cifrasDeUnNumero = 20;
+
+    static std::size_t maximoDe(std::u16string_view pieza) { return pieza.size(); }
+    static std::size_t maximoDe(std::integral auto) { return cifrasDeUnNumero; }
+
+    // A literal's length is known beforehand, and its copy a few moves.
+    template <std::size_t N>
+    static char16_t* copia(const char16_t (&literal)[N], char16_t* donde) {
+        return std::copy_n(literal, N - 1, donde);
+    }
+    static char16_t* copia(std::u16string_view pieza, char16_t* donde) {
+        return std::copy_n(pieza.data(), pieza.size(), donde);
+    }
+    static char16_t* copia(std::integral auto numero, char16_t* donde) {
+        std::array<char, cifrasDeUnNumero> cifras; // NOLINT: to_chars fills it
+        return std::copy(cifras.data(),
+                         std::to_chars(cifras.data(), cifras.data() + cifras.size(), numero).ptr, donde);
+    }
+
+    void haceSitio(std::size_t cabe) {
+        acaba();
+        if (cabe <= sitio_) return;
+        sitio_ = std::max(cabe, muchas);
+        lineas_ = std::make_unique_for_overwrite<char16_t[]>(sitio_);
+    }
+
+    const SumideroDeTexto& sumidero_;
+    std::unique_ptr<char16_t[]> lineas_;
+    std::size_t sitio_ = 0;
+    std::size_t largo_ = 0;
+};
+
+/// The whole text of what writes lines.
+template <typename Escritura>
+std::u16string textoDeLineas(const Escritura& escritura) {
+    std::u16string texto;
+    const SumideroDeTexto sumidero = [&](std::u16string_view lineas) { texto += lineas; };
+    EscritorLineas salida(sumidero);
+    escritura(salida);
+    salida.acaba();
+    return texto;
+}
+
+} // namespace norvik
