@@ -45,7 +45,7 @@ std::string codifica(std::u16string_view texto) {
 
 std::u16string normalizaLineas(std::u16string_view texto) {
     std::u16string resultado;
-    resultado.reserve(texto.size());
+    resultado.reserve(texto.size() + static_cast<std::size_t>(std::ranges::count(texto, u'\n')));
     while (!texto.empty()) {
         const std::size_t fin = texto.find_first_of(saltoDeLinea);
         resultado.append(texto.substr(0, fin));

@@ -128,7 +128,13 @@ void ConstructorAutomata::construyeTransiciones(estadoAutomata estado) {
 
 void ConstructorAutomata::apila(estadoAutomata estado) {
     anota(estado);
+    const bool tieneSalida = std::ranges::any_of(
+        estado.adyacentes(), [](std::int16_t a) { return a != estadoAutomata::sinTransicion; });
     estados_.push_back(std::move(estado));
+    if (!tieneSalida) {
+        enLista_.back().momento = ++reloj_;
+        return;
+    }
     Marco& marco = pila_.emplace_back();
     marco.estado = estados_.size() - 1;
     agrupa(marco);
@@ -136,16 +142,22 @@ void ConstructorAutomata::apila(estadoAutomata estado) {
 
 /// Enters a state that is about to be appended into the search for targets.
 void ConstructorAutomata::anota(const estadoAutomata& estado) {
-    EnLista& ficha = enLista_.emplace_back();
+    EnLista ficha;
+    ficha.inicio = nucleos_.size();
     for (const Item item : estado.items()) {
         if (item.punto == 0) continue;
         compruebaItem(item);
-        ficha.nucleo.push_back(numero(item));
+        nucleos_.push_back(numero(item));
         ficha.firma |= bit(numero(item));
-        poseedores_[indice(numero(item))].push_back(static_cast<int>(enLista_.size()) - 1);
+        auto& [cuantos, ultima] = poseedores_[indice(numero(item))];
+        posesiones_.push_back({static_cast<int>(enLista_.size()), ultima});
+        ultima = static_cast<int>(posesiones_.size()) - 1;
+        ++cuantos;
     }
-    std::sort(ficha.nucleo.begin(), ficha.nucleo.end());
+    ficha.largo = nucleos_.size() - ficha.inicio;
+    std::sort(nucleos_.end() - static_cast<std::ptrdiff_t>(ficha.largo), nucleos_.end());
     ficha.momento = ++reloj_;
+    enLista_.push_back(ficha);
 }
 
 /// The group of an item's next symbol while a state is being grouped.
@@ -217,20 +229,21 @@ void ConstructorAutomata::fija(std::span<const std::int16_t> miembros, std::int1
 
 /// The first state in the list's present order that contains the kernel sought.
 std::optional<std::int16_t> ConstructorAutomata::busca() const {
-    const auto candidatos = [this](Item item) { return poseedores_[indice(numero(item))].size(); };
+    const auto candidatos = [this](Item item) { return poseedores_[indice(numero(item))].cuantos; };
     const Item raro = *std::ranges::min_element(nucleo_, {}, candidatos);
     std::uint64_t firma = 0;
     for (const Item item : nucleo_) firma |= bit(numero(item));
-    const int* mejor = nullptr;
-    for (const int& candidato : poseedores_[indice(numero(raro))]) {
+    std::optional<int> mejor;
+    for (int p = poseedores_[indice(numero(raro))].ultima; p >= 0; p = posesiones_[indice(p)].anterior) {
+        const int candidato = posesiones_[indice(p)].estado;
         const EnLista& ficha = enLista_[indice(candidato)];
         if ((firma & ~ficha.firma) != 0) continue;
-        if (mejor != nullptr && enLista_[indice(*mejor)].momento < ficha.momento) continue;
+        if (mejor && enLista_[indice(*mejor)].momento < ficha.momento) continue;
         const bool contiene = std::ranges::all_of(
-            nucleo_, [&](Item item) { return std::ranges::binary_search(ficha.nucleo, numero(item)); });
-        if (contiene) mejor = &candidato;
+            nucleo_, [&](Item item) { return std::ranges::binary_search(nucleo(ficha), numero(item)); });
+        if (contiene) mejor = candidato;
     }
-    if (mejor == nullptr) return std::nullopt;
+    if (!mejor) return std::nullopt;
     return estados_[indice(*mejor)].getNumEstado();
 }
 

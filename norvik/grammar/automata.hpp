@@ -34,9 +34,19 @@ public:
 private:
     /// What the search for a target needs to know of a state in the list.
     struct EnLista {
-        std::vector<int> nucleo; ///< numbers of its items with a dot beyond the start, ascending
-        std::uint64_t firma = 0; ///< one bit for each of them, hashed
+        std::size_t inicio = 0; ///< of its kernel in `nucleos_`
+        std::size_t largo = 0;
+        std::uint64_t firma = 0; ///< one bit for each of its items, hashed
         std::uint32_t momento = 0;
+    };
+    /// The states that have an item in their kernel, as a list through `posesiones_`; −1 is its end.
+    struct Poseedores {
+        int cuantos = 0;
+        int ultima = -1;
+    };
+    struct Posesion {
+        int estado = 0;
+        int anterior = -1;
     };
     /// Items of a state with the same next symbol, as a part of `Marco::miembros`.
     struct Grupo {
@@ -60,6 +70,9 @@ private:
     void cierra(Simbolo variable, estadoAutomata& estado);
     bool aniadeNuevo(Item item, estadoAutomata& estado);
     void apila(estadoAutomata estado);
+    std::span<const int> nucleo(const EnLista& ficha) const {
+        return std::span(nucleos_).subspan(ficha.inicio, ficha.largo);
+    }
     void anota(const estadoAutomata& estado);
     void agrupa(Marco& marco);
     std::int16_t& grupoDe(Item item);
@@ -72,9 +85,11 @@ private:
     std::int16_t numEstados_ = 0;
     std::uint32_t reloj_ = 0; // ticks whenever a state is appended to the list
     std::vector<estadoAutomata> estados_;
-    std::vector<EnLista> enLista_;             // parallel to `estados_`
-    std::vector<int> primerItem_;              // by rule: number of its item with dot 0
-    std::vector<std::vector<int>> poseedores_; // by number of item: states that have it in their kernel
+    std::vector<EnLista> enLista_; // parallel to `estados_`
+    std::vector<int> nucleos_;     // numbers of each state's items with a dot beyond the start, ascending
+    std::vector<int> primerItem_;  // by rule: number of its item with dot 0
+    std::vector<Poseedores> poseedores_; // by number of item
+    std::vector<Posesion> posesiones_;
     std::vector<std::uint32_t> presentes_;     // by number of item: turn in which it was added
     std::vector<std::uint32_t> turnoCabeza_;   // by symbol: turn in which its rules were taken up …
     std::vector<int> siguienteRegla_;          // … and the next of them

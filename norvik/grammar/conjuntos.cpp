@@ -64,7 +64,7 @@ void gramatica::creaPrimeros(std::u16string_view cadena, conjunto& conj, bool re
     ReglasPartidas& reglas = partidas();
     if (regla < 0 || regla > reglas.numReglas()) throw SubindiceFueraDeIntervalo();
     std::vector<Simbolo> cuerpo;
-    for (const auto simbolo : parteEnSimbolos(cadena)) cuerpo.push_back(reglas.numera(simbolo));
+    paraCadaSimbolo(cadena, [&](std::u16string_view simbolo) { cuerpo.push_back(reglas.numera(simbolo)); });
     if (cuerpo.empty()) cuerpo.push_back(ReglasPartidas::vacio);
     CalculoPrimeros primeros(reglas, conjuntos_);
     if (conj.contieneCadenaVacia()) primeros.trabajo().inserta(ReglasPartidas::vacio);

@@ -226,7 +226,6 @@ private:
         std::int16_t valor = 0;
     };
     std::vector<Celda> celdasFijas() const;
-    std::vector<Celda> celdas(std::int16_t fila) const;
     void escribeTablaCpp(EscritorLineas& salida) const;
     void escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const;
     void escribeSimbolos(EscritorLineas& salida) const;

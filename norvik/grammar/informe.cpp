@@ -171,7 +171,9 @@ void gramatica::escribeTabla(EscritorLineas& salida) const {
     if (const int c = columnas().inicial; c >= 0) salida.escribe(sangria, u"tablaSLR[0][", c, u"] = 1");
     if (const int c = columnas().fin; c >= 0) salida.escribe(sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
     for (std::int16_t f = 1; f <= filasVigentes(); ++f)
-        for (const auto& [fila, columna, valor] : celdas(f)) escribeEntrada(fila, columna, salida);
+        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t /*valor*/) {
+            escribeEntrada(f, columna, salida);
+        });
 }
 
 // The whole file -------------------------------------------------------------------------------------------

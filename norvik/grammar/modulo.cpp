@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
-#include <span>
 
 // The loading module as Visual Basic source: the definitions, the rules, the table and its symbols as calls
 // on a control. A procedure takes 2000 entries of the table; the next entry opens another, which the first
@@ -89,19 +87,6 @@ void escribeElemento(EscritorLineas& salida, std::int16_t fila, std::int16_t col
     salida.escribe(llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
 }
 
-/// Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is read
-/// four values at a time.
-std::size_t saltaCeros(std::span<const std::int16_t> valores, std::size_t desde) {
-    std::uint64_t cuatro = 0;
-    constexpr std::size_t paso = sizeof cuatro / sizeof(std::int16_t);
-    for (; desde + paso <= valores.size(); desde += paso) {
-        std::memcpy(&cuatro, valores.data() + desde, sizeof cuatro);
-        if (cuatro != 0) break;
-    }
-    while (desde < valores.size() && valores[desde] == 0) ++desde;
-    return desde;
-}
-
 } // namespace
 
 /// The two entries that reading the table makes up, in column order.
@@ -118,14 +103,14 @@ void gramatica::escribeEntradas(EscritorLineas& salida, std::u16string_view nomb
     int entradas = 0;
     int procedimiento = 0;
     for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        for (const auto& [fila, columna, valor] : celdas(f)) {
+        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t valor) {
             if (entradas == maximoEntradas) {
                 abreOtroProcedimiento(salida, nombre, ++procedimiento);
                 entradas = 0;
             }
-            escribeElemento(salida, fila, columna, valor);
+            escribeElemento(salida, f, columna, valor);
             ++entradas;
-        }
+        });
     }
 }
 
@@ -136,18 +121,6 @@ std::int16_t gramatica::filasVigentes() const {
 
 std::int16_t gramatica::columnasVigentes() const {
     return std::min(simbolos_.totalElementos(), tabla_.columnas());
-}
-
-/// The stored entries other than 0 of a row.
-std::vector<gramatica::Celda> gramatica::celdas(std::int16_t fila) const {
-    std::vector<Celda> lista;
-    const auto ancho = static_cast<std::size_t>(columnasVigentes());
-    if (ancho == 0) return lista;
-    const std::span<const std::int16_t> guardada = tabla_.filaGuardada(fila);
-    const std::span<const std::int16_t> valores = guardada.first(std::min(ancho, guardada.size()));
-    for (std::size_t c = saltaCeros(valores, 0); c < valores.size(); c = saltaCeros(valores, c + 1))
-        lista.push_back({fila, static_cast<std::int16_t>(c + 1), valores[c]});
-    return lista;
 }
 
 void gramatica::escribeSimbolos(EscritorLineas& salida) const {

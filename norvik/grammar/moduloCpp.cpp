@@ -73,14 +73,15 @@ void gramatica::escribeTablaCpp(EscritorLineas& salida) const {
     salida.escribe(u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ", simbolos_.totalElementos(),
                    u");");
     bool abierta = false;
-    const auto escribe = [&](const Celda& celda) {
+    const auto escribe = [&](std::int16_t fila, std::int16_t columna, std::int16_t valor) {
         if (!abierta) salida.escribe(u"    static constexpr short entradas[][3] = {");
         abierta = true;
-        salida.escribe(u"        {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
+        salida.escribe(u"        {", fila, u", ", columna, u", ", valor, u"},");
     };
-    std::ranges::for_each(celdasFijas(), escribe);
+    for (const auto& [fila, columna, valor] : celdasFijas()) escribe(fila, columna, valor);
     for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        std::ranges::for_each(celdas(f), escribe);
+        tabla_.paraCadaEntrada(f, columnasVigentes(),
+                               [&](std::int16_t columna, std::int16_t valor) { escribe(f, columna, valor); });
     }
     if (!abierta) return;
     salida.escribe(u"    };");

@@ -11,7 +11,8 @@ namespace norvik {
 namespace {
 
 std::int16_t cuentaElementos(std::u16string_view cuerpo) {
-    std::size_t total = parteEnSimbolos(cuerpo).size();
+    std::size_t total = 0;
+    paraCadaSimbolo(cuerpo, [&](std::u16string_view /*simbolo*/) { ++total; });
     const bool acabaEnVacia =
         cuerpo.ends_with(cadenaVacia) && (cuerpo.size() == 1 || cuerpo[cuerpo.size() - 2] == u' ');
     return a16(total - (acabaEnVacia ? 1 : 0));
@@ -73,10 +74,12 @@ std::int16_t gramatica::getNumReglas() const {
 }
 
 std::u16string gramatica::GetElementoRegla(std::int16_t regla, std::int16_t posicion) const {
-    const auto simbolos = parteEnSimbolos(reglaEn(regla).cuerpo);
-    if (simbolos.empty()) return {};
-    const int ultima = static_cast<int>(simbolos.size()) - 1;
-    return std::u16string(simbolos[static_cast<std::size_t>(std::clamp<int>(posicion, 0, ultima))]);
+    std::u16string_view elemento; // the last one when there are not so many
+    int quedan = std::max<int>(posicion, 0);
+    paraCadaSimbolo(reglaEn(regla).cuerpo, [&](std::u16string_view simbolo) {
+        if (quedan-- >= 0) elemento = simbolo;
+    });
+    return std::u16string(elemento);
 }
 
 std::int16_t gramatica::GetNumSimbolos() const {
@@ -129,14 +132,14 @@ std::int16_t gramatica::estaEnRegla(std::u16string_view cuerpo, std::u16string_v
 std::u16string gramatica::dameReglaString(std::u16string_view cuerpo, std::int16_t punto) {
     std::u16string texto;
     int i = 0;
-    for (const auto simbolo : parteEnSimbolos(cuerpo)) {
+    paraCadaSimbolo(cuerpo, [&](std::u16string_view simbolo) {
         if (i == punto)
             texto += u'.';
         else if (i != 0)
             texto += u' ';
         texto += simbolo;
         ++i;
-    }
+    });
     if (i == punto) texto += u'.';
     return texto;
 }

@@ -4,16 +4,6 @@
 
 namespace norvik {
 
-std::vector<std::u16string_view> parteEnSimbolos(std::u16string_view texto) {
-    std::vector<std::u16string_view> simbolos;
-    for (std::size_t i = texto.find_first_not_of(u' '); i < texto.size();) {
-        const std::size_t fin = std::min(texto.find(u' ', i), texto.size());
-        simbolos.push_back(texto.substr(i, fin - i));
-        i = texto.find_first_not_of(u' ', fin);
-    }
-    return simbolos;
-}
-
 ReglasPartidas::ReglasPartidas() : reglas_(1) {
     registra(cadenaVacia);
 }
@@ -38,7 +28,8 @@ void ReglasPartidas::parte(const Regla& regla) {
     Partida partida;
     partida.inicio = simbolosDeCuerpos_.size();
     if (!regla.cabeza.empty()) partida.cabeza = registra(regla.cabeza);
-    for (const auto simbolo : parteEnSimbolos(regla.cuerpo)) simbolosDeCuerpos_.push_back(registra(simbolo));
+    paraCadaSimbolo(regla.cuerpo,
+                    [this](std::u16string_view simbolo) { simbolosDeCuerpos_.push_back(registra(simbolo)); });
     if (simbolosDeCuerpos_.size() == partida.inicio) simbolosDeCuerpos_.push_back(vacio);
     partida.longitud = simbolosDeCuerpos_.size() - partida.inicio;
     reglas_.push_back(partida);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <span>
@@ -21,8 +23,15 @@ struct Regla {
 using Simbolo = std::int32_t;
 using Cuerpo = std::span<const Simbolo>;
 
-/// The symbols of a text separated by spaces; the text must outlive them.
-std::vector<std::u16string_view> parteEnSimbolos(std::u16string_view texto);
+/// Calls with each symbol of a text, which are separated by spaces.
+template <typename Accion>
+void paraCadaSimbolo(std::u16string_view texto, const Accion& accion) {
+    for (std::size_t i = texto.find_first_not_of(u' '); i < texto.size();) {
+        const std::size_t fin = std::min(texto.find(u' ', i), texto.size());
+        accion(texto.substr(i, fin - i));
+        i = texto.find_first_not_of(u' ', fin);
+    }
+}
 
 /// The rules with their symbols as numbers: what the analyses work on. An empty body reads as Ø.
 /// Rule indexes are 1-based; texts are views into the rules, which must stay where they are.

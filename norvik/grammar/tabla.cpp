@@ -143,8 +143,10 @@ void gramatica::rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const {
         for (const Simbolo simbolo : elementos)
             siguientes[static_cast<std::size_t>(nombre)].push_back(columna(simbolo));
     int numero = 0;
+    std::vector<std::int16_t> fila(static_cast<std::size_t>(tabla.columnas()));
     for (const estadoAutomata& estado : estadosAutomata_) {
-        const std::span<std::int16_t> fila = tabla.fila(++numero);
+        ++numero;
+        std::ranges::fill(fila, std::int16_t{0});
         for (std::size_t i = 0; i < estado.items().size(); ++i) {
             const auto [regla, punto] = estado.items()[i];
             const std::int16_t destino = estado.adyacentes()[i];
@@ -159,6 +161,7 @@ void gramatica::rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const {
                     conflictos.pon(numero, static_cast<int>(c) + 1, regla);
             }
         }
+        tabla.ponFila(numero, fila);
     }
 }
 

@@ -15,21 +15,28 @@ TablaSLR::TablaSLR(std::int16_t filas, std::int16_t columnas) : columnas_(column
 
 void TablaSLR::pon(int fila, int columna, std::int16_t valor) {
     comprueba(fila, columna);
-    const bool vacia = filas_[static_cast<std::size_t>(fila) - 1].empty();
-    if (vacia && valor == 0) return;
-    this->fila(fila)[static_cast<std::size_t>(columna) - 1] = valor;
+    auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
+    const auto sitio = static_cast<std::size_t>(columna) - 1;
+    if (sitio >= valores.size()) {
+        if (valor == 0) return;
+        const auto ancho = static_cast<std::size_t>(columnas_);
+        reserva(ancho - valores.size());
+        valores.resize(ancho);
+    }
+    valores[sitio] = valor;
 }
 
-std::span<std::int16_t> TablaSLR::fila(int numero) {
-    comprueba(numero, 1);
-    auto& valores = filas_[static_cast<std::size_t>(numero) - 1];
-    if (valores.empty()) {
-        const auto ancho = static_cast<std::size_t>(columnas_);
-        if (reservadas_ + ancho > maximoCeldas) throw Desbordamiento();
-        valores.resize(ancho);
-        reservadas_ += ancho;
-    }
-    return valores;
+void TablaSLR::ponFila(int fila, std::span<const std::int16_t> valores) {
+    compruebaFila(fila);
+    const auto fin =
+        std::find_if(valores.rbegin(), valores.rend(), [](std::int16_t v) { return v != 0; }).base();
+    reserva(static_cast<std::size_t>(fin - valores.begin()));
+    filas_[static_cast<std::size_t>(fila) - 1].assign(valores.begin(), fin);
+}
+
+void TablaSLR::reserva(std::size_t celdas) {
+    if (reservadas_ + celdas > maximoCeldas) throw Desbordamiento();
+    reservadas_ += celdas;
 }
 
 } // namespace norvik

@@ -2,15 +2,18 @@
 
 #include "norvik/base/errores.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <vector>
 
 namespace norvik {
 
 /// A table of 16-bit numbers, all 0 at first. A row takes memory once something is written in it, so that
-/// absurd dimensions cost nothing until they are filled.
+/// absurd dimensions cost nothing until they are filled, and one that is written whole takes none for the
+/// zeros at its end.
 class TablaSLR {
 public:
     TablaSLR() = default;
@@ -24,17 +27,27 @@ public:
     std::int16_t en(int fila, int columna) const {
         comprueba(fila, columna);
         const auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
-        return valores.empty() ? std::int16_t{0} : valores[static_cast<std::size_t>(columna) - 1];
+        const auto sitio = static_cast<std::size_t>(columna) - 1;
+        return sitio < valores.size() ? valores[sitio] : std::int16_t{0};
     }
-    /// The cells of a row, to be read; none when nothing was written in it. Raises the same.
+    /// The cells of a row, to be read; those that are missing at its end are 0. Raises the same.
     std::span<const std::int16_t> filaGuardada(int numero) const {
         compruebaFila(numero);
         return filas_[static_cast<std::size_t>(numero) - 1];
     }
+    /// Calls with the 1-based column and the value of each entry other than 0 in the first columns of a row,
+    /// from left to right; raises the same.
+    template <typename Accion>
+    void paraCadaEntrada(int fila, std::int16_t columnas, const Accion& accion) const {
+        std::span<const std::int16_t> valores = filaGuardada(fila);
+        valores = valores.first(std::min(valores.size(), static_cast<std::size_t>(columnas)));
+        for (std::size_t c = saltaCeros(valores, 0); c < valores.size(); c = saltaCeros(valores, c + 1))
+            accion(static_cast<std::int16_t>(c + 1), valores[c]);
+    }
     /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
     void pon(int fila, int columna, std::int16_t valor);
-    /// The cells of a row, to be written; raises the same.
-    std::span<std::int16_t> fila(int numero);
+    /// Writes a whole row, which has a value for each column; raises the same.
+    void ponFila(int fila, std::span<const std::int16_t> valores);
 
 private:
     void compruebaFila(int fila) const {
@@ -44,6 +57,20 @@ private:
         compruebaFila(fila);
         if (columna < 1 || columna > columnas_) throw SubindiceFueraDeIntervalo();
     }
+
+    // Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is
+    // read four values at a time.
+    static std::size_t saltaCeros(std::span<const std::int16_t> valores, std::size_t desde) {
+        std::uint64_t cuatro = 0;
+        constexpr std::size_t paso = sizeof cuatro / sizeof(std::int16_t);
+        for (; desde + paso <= valores.size(); desde += paso) {
+            std::memcpy(&cuatro, valores.data() + desde, sizeof cuatro);
+            if (cuatro != 0) break;
+        }
+        while (desde < valores.size() && valores[desde] == 0) ++desde;
+        return desde;
+    }
+    void reserva(std::size_t celdas);
 
     std::vector<std::vector<std::int16_t>> filas_;
     std::int16_t columnas_ = 0;

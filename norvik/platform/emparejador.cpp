@@ -25,6 +25,11 @@ namespace {
 
 constexpr std::size_t patronMasLargo = 32767;
 
+// Such a pattern, most definitions' own, is the very word that it matches.
+bool sinOperadores(std::u16string_view patron) {
+    return !patron.empty() && patron.find_first_of(u"\\()[{*+?.^$|") == std::u16string_view::npos;
+}
+
 Coincidencia coincidencia(std::size_t inicio, std::size_t fin) {
     return {static_cast<std::int32_t>(inicio), static_cast<std::int32_t>(fin - inicio)};
 }
@@ -112,12 +117,16 @@ Emparejador::~Emparejador() = default;
 
 std::optional<Emparejador> Emparejador::compila(std::u16string_view patron, bool ignoraMayusculas) {
     if (patron.size() > patronMasLargo) return std::nullopt;
+    auto compilado = std::make_unique<Compilado>();
+    compilado->patron.ignoraMayusculas = ignoraMayusculas;
+    if (sinOperadores(patron)) {
+        compilado->palabra = patron;
+        return Emparejador(std::move(compilado));
+    }
     auto leido = leePatron(patron, ignoraMayusculas);
     if (!leido) return std::nullopt;
-    auto compilado = std::make_unique<Compilado>();
     compilado->palabra = leido->palabra();
     if (!compilado->palabra) compilado->patron = std::move(*leido);
-    compilado->patron.ignoraMayusculas = ignoraMayusculas;
     return Emparejador(std::move(compilado));
 }
 
