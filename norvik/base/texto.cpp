@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cwctype>
 #include <memory>
+#include <type_traits>
 
 namespace norvik {
 
@@ -90,17 +91,18 @@ std::u16string convierte(std::u16string_view texto, char16_t primera, Conversion
     return resultado;
 }
 
-// Copies the leading blocks of ASCII characters and tells how many characters they are.
-std::size_t copiaBloquesAscii(std::u16string_view texto, char* bytes) {
+// How many of the leading units are ASCII for sure: they are looked at a block at a time.
+template <typename Unidad>
+std::size_t bloquesAscii(std::basic_string_view<Unidad> texto) {
     constexpr std::size_t bloque = 16;
-    std::size_t copiados = 0;
-    for (; copiados + bloque <= texto.size(); copiados += bloque) {
-        unsigned bits = 0;
-        for (std::size_t i = 0; i < bloque; ++i) bits |= texto[copiados + i];
+    std::size_t vistos = 0;
+    for (; vistos + bloque <= texto.size(); vistos += bloque) {
+        std::make_unsigned_t<Unidad> bits = 0;
+        for (std::size_t i = 0; i < bloque; ++i)
+            bits |= static_cast<std::make_unsigned_t<Unidad>>(texto[vistos + i]);
         if (bits >= 0x80) break;
-        for (std::size_t i = 0; i < bloque; ++i) bytes[copiados + i] = static_cast<char>(texto[copiados + i]);
     }
-    return copiados;
+    return vistos;
 }
 
 } // namespace
@@ -122,25 +124,32 @@ std::string aUtf8(std::u16string_view texto) {
 }
 
 std::optional<std::u16string> desdeUtf8(std::string_view bytes) {
-    std::u16string texto;
-    texto.reserve(bytes.size());
+    std::u16string texto(bytes.size(), u'\0'); // no sequence gives more units than it has bytes
+    char16_t* fin = texto.data();
     while (!bytes.empty()) {
+        const std::size_t ascii = bloquesAscii(bytes);
+        fin = std::copy_n(bytes.begin(), ascii, fin);
+        bytes.remove_prefix(ascii);
+        if (bytes.empty()) break;
         const Secuencia secuencia = leeSecuencia(bytes);
         if (secuencia.longitud == 0) return std::nullopt;
         bytes.remove_prefix(secuencia.longitud);
         if (secuencia.punto < 0x10000) {
-            texto.push_back(static_cast<char16_t>(secuencia.punto));
+            *fin++ = static_cast<char16_t>(secuencia.punto);
         } else {
             const char32_t resto = secuencia.punto - 0x10000;
-            texto.push_back(static_cast<char16_t>(0xD800 + (resto >> 10)));
-            texto.push_back(static_cast<char16_t>(0xDC00 + (resto & 0x3FF)));
+            *fin++ = static_cast<char16_t>(0xD800 + (resto >> 10));
+            *fin++ = static_cast<char16_t>(0xDC00 + (resto & 0x3FF));
         }
     }
+    texto.resize(static_cast<std::size_t>(fin - texto.data()));
     return texto;
 }
 
 bool esUtf8(std::string_view bytes) {
     while (!bytes.empty()) {
+        bytes.remove_prefix(bloquesAscii(bytes));
+        if (bytes.empty()) break;
         const Secuencia secuencia = leeSecuencia(bytes);
         if (secuencia.longitud == 0) return false;
         bytes.remove_prefix(secuencia.longitud);
@@ -151,7 +160,9 @@ bool esUtf8(std::string_view bytes) {
 std::optional<std::string> aWindows1252(std::u16string_view texto) {
     std::string bytes(texto.size(), '\0');
     for (std::size_t i = 0; i < texto.size(); ++i) {
-        i += copiaBloquesAscii(texto.substr(i), &bytes[i]);
+        const auto ascii = texto.substr(i, bloquesAscii(texto.substr(i)));
+        std::ranges::transform(ascii, &bytes[i], [](char16_t c) { return static_cast<char>(c); });
+        i += ascii.size();
         if (i == texto.size()) break;
         const char16_t c = texto[i];
         if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {

@@ -26,11 +26,12 @@ public:
 
     enum class Procedencia : std::uint8_t { Texto, FinDeTexto };
 
+    /// No text is so long that its lengths and positions would not fit.
     struct Desplazamiento {
         std::uint32_t inicio = 0; ///< of the lexeme in the buffer
-        std::uint32_t longitud = 0;
-        std::int32_t linea = 0;
-        std::int32_t columna = 0;
+        std::uint16_t longitud = 0;
+        std::uint16_t linea = 0;
+        std::uint16_t columna = 0;
         Procedencia procedencia = Procedencia::Texto;
     };
 
@@ -43,8 +44,9 @@ public:
                                 Procedencia procedencia = Procedencia::Texto) {
         if (desplazamientos_.size() == maximoDesplazamientos) fallaLlena();
         apunta(0);
-        desplazamientos_.push_back(
-            {lugarDe(lexema), static_cast<std::uint32_t>(lexema.size()), linea, columna, procedencia});
+        desplazamientos_.push_back({lugarDe(lexema), static_cast<std::uint16_t>(lexema.size()),
+                                    static_cast<std::uint16_t>(linea), static_cast<std::uint16_t>(columna),
+                                    procedencia});
     }
     void registraReduccion(std::int16_t numRegla) { apunta(numRegla); }
     void registraReducciones(std::span<const std::int16_t> reglas) {
