@@ -119,8 +119,9 @@ void comparaConElPuntoFijo(const gramatica& suya, const Reglas& reglas) {
         for (const auto& [cabeza, cuerpo] : reglas) {
             const std::size_t antes = primeros[cabeza].size();
             bool sigue = true;
-            for (const auto simbolo : parteEnSimbolos(cuerpo)) {
-                const std::u16string texto(simbolo);
+            for (auto resto = literal::recortado(cuerpo); !resto.empty();
+                 resto = literal::trasPrimero(resto)) {
+                const std::u16string texto = literal::primerSimbolo(resto);
                 if (texto == u"Ø") continue;
                 std::set<std::u16string> suyos = literal::variable(texto) ? primeros[texto] : std::set{texto};
                 sigue = suyos.erase(u"Ø") != 0;
