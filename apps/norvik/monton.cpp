@@ -16,7 +16,7 @@ Monton::Monton() {
 #if defined(__GLIBC__) && defined(MADV_HUGEPAGE)
     constexpr int tamanio = 8 << 20;
     constexpr std::uintptr_t paginaGrande = 2 << 20;
-    constexpr std::uintptr_t enPaginasMenudas = std::uintptr_t{512} << 10;
+    constexpr std::uintptr_t enPaginasMenudas = std::uintptr_t{1280} << 10;
     constexpr std::uintptr_t primerHueco = std::uintptr_t{256} << 10;
     mallopt(M_MMAP_THRESHOLD, tamanio);
     mallopt(M_TRIM_THRESHOLD, 4 * tamanio);
