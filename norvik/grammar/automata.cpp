@@ -131,7 +131,7 @@ void ConstructorAutomata::apila(estadoAutomata estado) {
     const bool tieneSalida = std::ranges::any_of(
         estado.adyacentes(), [](std::int16_t a) { return a != estadoAutomata::sinTransicion; });
     estados_.push_back(std::move(estado));
-    if (!tieneSalida) {
+    if (!tieneSalida) { // begun and finished
         enLista_.back().momento = ++reloj_;
         return;
     }

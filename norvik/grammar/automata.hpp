@@ -34,7 +34,7 @@ public:
 private:
     /// What the search for a target needs to know of a state in the list.
     struct EnLista {
-        std::size_t inicio = 0; ///< of its kernel in `nucleos_`
+        std::size_t inicio = 0; ///< in `nucleos_`, of the numbers of its items with a dot beyond the start
         std::size_t largo = 0;
         std::uint64_t firma = 0; ///< one bit for each of its items, hashed
         std::uint32_t momento = 0;
@@ -85,9 +85,9 @@ private:
     std::int16_t numEstados_ = 0;
     std::uint32_t reloj_ = 0; // ticks whenever a state is appended to the list
     std::vector<estadoAutomata> estados_;
-    std::vector<EnLista> enLista_; // parallel to `estados_`
-    std::vector<int> nucleos_;     // numbers of each state's items with a dot beyond the start, ascending
-    std::vector<int> primerItem_;  // by rule: number of its item with dot 0
+    std::vector<EnLista> enLista_;       // parallel to `estados_`
+    std::vector<int> nucleos_;           // the kernels one after another, each ascending
+    std::vector<int> primerItem_;        // by rule: number of its item with dot 0
     std::vector<Poseedores> poseedores_; // by number of item
     std::vector<Posesion> posesiones_;
     std::vector<std::uint32_t> presentes_;     // by number of item: turn in which it was added

@@ -50,7 +50,7 @@ private:
         return std::copy_n(pieza.data(), pieza.size(), donde);
     }
     static char16_t* copia(std::integral auto numero, char16_t* donde) {
-        std::array<char, cifrasDeUnNumero> cifras; // NOLINT: to_chars fills it
+        std::array<char, cifrasDeUnNumero> cifras;
         return std::copy(cifras.data(),
                          std::to_chars(cifras.data(), cifras.data() + cifras.size(), numero).ptr, donde);
     }

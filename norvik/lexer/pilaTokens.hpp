@@ -49,7 +49,8 @@ public:
     const std::vector<const expresionRegular*>& tokensLenguaje() const { return tokensLenguaje_; }
 
     /// Registers a definition. Returns the message of the first error, empty on success; on error nothing is
-    /// registered. The colour comes from the kind, `colorOpcional` has no effect.
+    /// registered. The colour comes from the kind, `colorOpcional` has no effect. Raises `Desbordamiento`
+    /// beyond 32 767 definitions.
     std::u16string SetER(std::u16string_view expresionRegular, std::u16string_view nomER, bool esToken,
                          bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
                          std::int32_t base, std::int32_t colorOpcional);
