@@ -8,7 +8,6 @@
 #include <charconv>
 #include <concepts>
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -24,13 +23,13 @@ public:
     template <typename... Piezas>
     void escribe(const Piezas&... piezas) {
         const std::size_t cabe = (maximoDe(piezas) + ... + saltoDeLinea.size());
-        if (sitio_ - largo_ < cabe) haceSitio(cabe);
-        char16_t* fin = lineas_.get() + largo_;
+        if (lineas_.size() - largo_ < cabe) haceSitio(cabe);
+        char16_t* fin = lineas_.data() + largo_;
         ((fin = copia(piezas, fin)), ...);
-        largo_ = static_cast<std::size_t>(copia(saltoDeLinea, fin) - lineas_.get());
+        largo_ = static_cast<std::size_t>(copia(saltoDeLinea, fin) - lineas_.data());
     }
     void acaba() {
-        if (largo_ != 0) sumidero_({lineas_.get(), largo_});
+        if (largo_ != 0) sumidero_({lineas_.data(), largo_});
         largo_ = 0;
     }
 
@@ -43,6 +42,7 @@ private:
 
     // A literal's length is known beforehand, and its copy a few moves.
     template <std::size_t N>
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): what a literal is
     static char16_t* copia(const char16_t (&literal)[N], char16_t* donde) {
         return std::copy_n(literal, N - 1, donde);
     }
@@ -57,15 +57,12 @@ private:
 
     void haceSitio(std::size_t cabe) {
         acaba();
-        if (cabe <= sitio_) return;
-        sitio_ = std::max(cabe, muchas);
-        lineas_ = std::make_unique_for_overwrite<char16_t[]>(sitio_);
+        if (lineas_.size() < cabe) lineas_.resize(std::max(cabe, muchas));
     }
 
     const SumideroDeTexto& sumidero_;
-    std::unique_ptr<char16_t[]> lineas_;
-    std::size_t sitio_ = 0;
-    std::size_t largo_ = 0;
+    std::u16string lineas_; ///< all of its room
+    std::size_t largo_ = 0; ///< what is written of it
 };
 
 /// The whole text of what writes lines.

@@ -43,20 +43,21 @@ public:
     }
 
 private:
-    // Not cleared: what has no object yet is not looked at.
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): a vector would clear it, and no one looks where no object is
+    using Memoria = std::byte[];
     struct Bloque {
-        explicit Bloque(std::size_t bytes)
-            : memoria(std::make_unique_for_overwrite<std::byte[]>(bytes)), tamanio(bytes) {}
-
-        std::unique_ptr<std::byte[]> memoria;
-        std::size_t tamanio;
+        std::unique_ptr<Memoria> memoria;
+        std::size_t tamanio = 0;
     };
 
     // Goes on to a block with room, a new one if there is none.
     void pasaDeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;
         while (usados_ < bloques_.size() && bloques_[usados_].tamanio < bytes) ++usados_;
-        if (usados_ == bloques_.size()) bloques_.emplace_back(std::max(bytes, minimo));
+        if (usados_ == bloques_.size()) {
+            const std::size_t tamanio = std::max(bytes, minimo);
+            bloques_.push_back({std::make_unique_for_overwrite<Memoria>(tamanio), tamanio});
+        }
         const Bloque& bloque = bloques_[usados_++];
         libre_ = {bloque.memoria.get(), bloque.tamanio};
     }
