@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grammar/apoyoGramatica.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
@@ -55,16 +56,6 @@ struct Anfitrion {
     bool enReposo() const {
         return sistema.puntero() == Puntero::Normal && caja.bloqueos == 0 && !caja.ocultaSeleccion();
     }
-    /// One digit a character: 0 plain, 1 any other colour.
-    std::string pintados() const {
-        std::string todos(caja.texto().size(), '0');
-        for (const auto& tramo : caja.colores()) {
-            const auto longitud = static_cast<std::size_t>(tramo.longitud);
-            if (tramo.color != 0)
-                todos.replace(static_cast<std::size_t>(tramo.inicio), longitud, longitud, '1');
-        }
-        return todos;
-    }
     /// Token definitions, one a line: name, kind, base, display name, pattern.
     std::string lexico() {
         std::u16string texto;
@@ -83,18 +74,7 @@ struct Anfitrion {
         }
         return texto;
     }
-    /// The table as it is read, a row a line; columns as they are named.
-    std::string tabla() {
-        std::string texto;
-        auto& g = norvik.Gramatica();
-        for (std::int16_t e = 0; e < g.GetDimensionFilasSLR(); ++e) {
-            for (std::int16_t c = 0; c < g.GetNumSimbolos(); ++c) {
-                texto += std::to_string(g.GetElementoTablaSLR(e, c)) + " ";
-            }
-            texto += "\n";
-        }
-        return texto;
-    }
+    std::u16string tabla() { return ::norvik::tabla(norvik.Gramatica()); }
 };
 
 inline std::string mensajes(const std::vector<Mensaje>& todos) {

@@ -5,7 +5,6 @@
 #include <array>
 #include <fcntl.h>
 #include <pty.h>
-#include <spawn.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <termios.h>
@@ -20,26 +19,19 @@ class Flujo {
 public:
     Flujo(Destino destino, const std::filesystem::path& fichero) : destino_(destino), fichero_(fichero) {
         std::array<int, 2> extremos{-1, -1};
-        switch (destino) {
-        case Destino::Captura:
-            suyo_ = open(fichero.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-            break;
-        case Destino::DiscoLleno:
+        termios modo{};
+        cfmakeraw(&modo);
+        if (destino == Destino::Captura)
+            suyo_ = open(fichero.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        else if (destino == Destino::DiscoLleno)
             suyo_ = open("/dev/full", O_WRONLY | O_CLOEXEC);
-            break;
-        case Destino::LectorQueSeFue:
-            if (pipe2(extremos.data(), O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
+        else if (destino == Destino::Terminal)
+            openpty(&nuestro_, &suyo_, nullptr, &modo, nullptr);
+        else if (destino == Destino::LectorQueSeFue && pipe2(extremos.data(), O_CLOEXEC) == 0) {
             close(extremos[0]);
             suyo_ = extremos[1];
-            break;
-        case Destino::Terminal:
-            if (openpty(&nuestro_, &suyo_, nullptr, nullptr, nullptr) != 0)
-                throw std::runtime_error("openpty");
-            sinConversion();
-            break;
-        case Destino::Cerrado:
-            break;
         }
+        if (suyo_ < 0 && destino != Destino::Cerrado) throw std::runtime_error("Flujo");
     }
     Flujo(const Flujo&) = delete;
     Flujo& operator=(const Flujo&) = delete;
@@ -48,12 +40,7 @@ public:
         close(nuestro_);
     }
 
-    void conecta(posix_spawn_file_actions_t& acciones, int numero) const {
-        if (destino_ == Destino::Cerrado)
-            posix_spawn_file_actions_addclose(&acciones, numero);
-        else
-            posix_spawn_file_actions_adddup2(&acciones, suyo_, numero);
-    }
+    void conecta(int numero) const { suyo_ < 0 ? close(numero) : dup2(suyo_, numero); }
 
     // A terminal holds a few thousand characters by itself: enough for the tests that use one.
     std::string contenido() {
@@ -68,13 +55,6 @@ public:
     }
 
 private:
-    void sinConversion() const {
-        termios modo{};
-        tcgetattr(suyo_, &modo);
-        cfmakeraw(&modo);
-        tcsetattr(suyo_, TCSANOW, &modo);
-    }
-
     Destino destino_;
     std::filesystem::path fichero_;
     int suyo_ = -1;
@@ -89,12 +69,6 @@ std::vector<char*> punteros(std::vector<std::string>& textos) {
     return resultado;
 }
 
-int espera(pid_t proceso) {
-    int estado = 0;
-    waitpid(proceso, &estado, 0);
-    return WIFSIGNALED(estado) ? -WTERMSIG(estado) : WEXITSTATUS(estado);
-}
-
 } // namespace
 
 Resultado ejecuta(const std::vector<std::string>& argumentos, const Entorno& entorno) {
@@ -102,22 +76,23 @@ Resultado ejecuta(const std::vector<std::string>& argumentos, const Entorno& ent
     const int entrada = open(carpeta.pon("entrada", entorno.entrada).c_str(), O_RDONLY | O_CLOEXEC);
     Flujo salida(entorno.salida, carpeta / "salida");
     Flujo errores(entorno.errores, carpeta / "errores");
-    posix_spawn_file_actions_t acciones{};
-    posix_spawn_file_actions_init(&acciones);
-    posix_spawn_file_actions_adddup2(&acciones, entrada, STDIN_FILENO);
-    salida.conecta(acciones, STDOUT_FILENO);
-    errores.conecta(acciones, STDERR_FILENO);
-
     std::vector<std::string> palabras{NORVIK_COMMAND};
     palabras.insert(palabras.end(), argumentos.begin(), argumentos.end());
     std::vector<std::string> variables = entorno.variables;
-    pid_t proceso = 0;
-    const int error = posix_spawn(&proceso, NORVIK_COMMAND, &acciones, nullptr, punteros(palabras).data(),
-                                  variables.empty() ? environ : punteros(variables).data());
-    posix_spawn_file_actions_destroy(&acciones);
+    const std::vector<char*> argv = punteros(palabras);
+    const std::vector<char*> envp = punteros(variables);
+    const pid_t proceso = fork();
+    if (proceso == 0) {
+        dup2(entrada, STDIN_FILENO);
+        salida.conecta(STDOUT_FILENO);
+        errores.conecta(STDERR_FILENO);
+        execve(NORVIK_COMMAND, argv.data(), variables.empty() ? environ : envp.data());
+        _exit(127);
+    }
     close(entrada);
-    if (error != 0) throw std::runtime_error("posix_spawn");
-    const int estado = espera(proceso);
+    int estado = 0;
+    waitpid(proceso, &estado, 0);
+    estado = WIFSIGNALED(estado) ? -WTERMSIG(estado) : WEXITSTATUS(estado);
     return {salida.contenido(), errores.contenido(), estado};
 }
 

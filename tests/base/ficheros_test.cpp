@@ -1,6 +1,7 @@
 #include "norvik/base/ficheros.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"
+#include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 
 #include <gtest/gtest.h>
@@ -11,12 +12,12 @@
 #include <sys/stat.h>
 #include <thread>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 namespace fs = std::filesystem;
-using apoyo::bytesDe;
-using apoyo::CarpetaTemporal;
+using namespace apoyo;
 
 std::u16string mensajeDe(const std::function<void()>& accion) {
     try {
@@ -27,15 +28,9 @@ std::u16string mensajeDe(const std::function<void()>& accion) {
     return u"(ningún error)";
 }
 
-struct FilaCodificacion {
-    const char* nombre;
-    std::u16string texto;
-    std::string bytes;
-};
-
 TEST(Ficheros, EligeLaCodificacionQueDevuelveElTexto) {
     const std::string marca = "\xEF\xBB\xBF";
-    const FilaCodificacion filas[] = {
+    const std::tuple<const char*, std::u16string, std::string> filas[] = {
         {"vacío", u"", ""},
         {"ASCII con NUL", std::u16string{u'a', 0, u'b'}, std::string("a\0b", 3)},
         {"byte suelto", u"año €", "a\xF1o \x80"},
@@ -55,15 +50,10 @@ TEST(Ficheros, EligeLaCodificacionQueDevuelveElTexto) {
 }
 
 TEST(Ficheros, PorTrozosSeLeeLoMismo) {
-    const auto veces = [](int n, const std::string& bytes) {
-        std::string todos;
-        for (int i = 0; i < n; ++i) todos += bytes;
-        return todos;
-    };
     const CarpetaTemporal carpeta;
     for (const std::string& bytes :
-         {std::string(), veces(2, "\xEF\xBB\xBF"), veces(50000, "a\xF1o "), veces(90000, "\xCE\x94"),
-          veces(30000, "\xF0\x9F\x98\x80\r\n"), "\xEF\xBB\xBF" + veces(70000, "\xCE\x94x") + "\xFF"}) {
+         {std::string(), repite("\xEF\xBB\xBF", 2), repite("a\xF1o ", 50000), repite("\xCE\x94", 90000),
+          repite("\xF0\x9F\x98\x80\r\n", 30000), "\xEF\xBB\xBF" + repite("\xCE\x94x", 70000) + "\xFF"}) {
         TextoPorTrozos fichero(carpeta.pon("f.txt", bytes));
         std::u16string texto;
         for (auto trozo = fichero.siguiente(); !trozo.empty(); trozo = fichero.siguiente()) texto += trozo;
@@ -72,17 +62,15 @@ TEST(Ficheros, PorTrozosSeLeeLoMismo) {
 }
 
 TEST(Ficheros, NormalizaLosFinalesDeLinea) {
-    const std::pair<std::u16string_view, std::u16string_view> filas[] = {
-        {u"", u""},
-        {u"\n", u""},
-        {u"a", u"a"},
-        {u"a\r\n", u"a"},
-        {u"a\rb\nc\r\n", u"a\r\nb\r\nc"},
-        {u"\n\r", u"\r\n"},
-        {u"a\n\n", u"a\r\n"},
-        {u"\r\r\n", u"\r\n"},
-        {u"\r\n\r\n\r\n", u"\r\n\r\n"},
-    };
+    const std::pair<std::u16string_view, std::u16string_view> filas[] = {{u"", u""},
+                                                                         {u"\n", u""},
+                                                                         {u"a", u"a"},
+                                                                         {u"a\r\n", u"a"},
+                                                                         {u"a\rb\nc\r\n", u"a\r\nb\r\nc"},
+                                                                         {u"\n\r", u"\r\n"},
+                                                                         {u"a\n\n", u"a\r\n"},
+                                                                         {u"\r\r\n", u"\r\n"},
+                                                                         {u"\r\n\r\n\r\n", u"\r\n\r\n"}};
     for (const auto& [entrada, salida] : filas)
         EXPECT_EQ(normalizaLineas(entrada), salida) << testing::PrintToString(entrada);
 }
@@ -182,4 +170,3 @@ TEST(Ficheros, UnaTuberiaSeEscribeDirectamente) {
 }
 
 } // namespace
-} // namespace norvik

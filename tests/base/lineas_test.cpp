@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 TEST(Lineas, CadaCaracterEstaEnSuLinea) {
@@ -22,4 +23,3 @@ TEST(Lineas, CadaCaracterEstaEnSuLinea) {
 }
 
 } // namespace
-} // namespace norvik

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 TEST(Texto, Utf8EsLaIdentidadEnTodoElRepertorio) {
@@ -48,4 +49,3 @@ TEST(Numeros, LoQueNoCabeDesborda) {
 }
 
 } // namespace
-} // namespace norvik

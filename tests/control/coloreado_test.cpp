@@ -77,27 +77,24 @@ TEST(Coloreado, ApagadoNoHaceNada) {
 }
 
 TEST(Coloreado, CorrigeLasPalabrasDeCajaFija) {
-    const struct {
-        bool corrige, sensible;
-        std::u16string_view queda;
-        std::string colores;
-    } casos[] = {{true, false, u"begin Fija ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
-                 {true, true, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
-                 {false, false, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "}};
-    for (const auto& c : casos) {
+    const std::tuple<bool, bool, std::u16string_view, std::string> casos[] = {
+        {true, false, u"begin Fija ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
+        {true, true, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "},
+        {false, false, u"BEGIN FIJA ABC+begin", "0-5:800000 14-15:000080 15-20:800000 "}};
+    for (const auto& [corrige, sensible, queda, vistos] : casos) {
         Editor e(u"BEGIN FIJA ABC+begin");
-        e.norvik.AutoCorreccion(c.corrige);
-        e.norvik.LenguajeSensible(c.sensible);
+        e.norvik.AutoCorreccion(corrige);
+        e.norvik.LenguajeSensible(sensible);
         e.norvik.ColoreaTodo();
-        EXPECT_EQ(e.norvik.Text(), c.queda);
-        EXPECT_EQ(colores(e), c.colores);
+        EXPECT_EQ(e.norvik.Text(), queda);
+        EXPECT_EQ(colores(e), vistos);
     }
-    Editor sinColor(u"END FIJA");
-    sinColor.norvik.AutoCorreccion(true);
-    sinColor.norvik.ColorPR(-1);
-    sinColor.norvik.SetPalabraReservada(u"end");
-    sinColor.norvik.ColoreaTodo();
-    EXPECT_EQ(sinColor.norvik.Text(), u"END Fija");
+    Editor apagado(u"END FIJA");
+    apagado.norvik.AutoCorreccion(true);
+    apagado.norvik.ColorPR(-1);
+    apagado.norvik.SetPalabraReservada(u"end");
+    apagado.norvik.ColoreaTodo();
+    EXPECT_EQ(apagado.norvik.Text(), u"END Fija");
 }
 
 TEST(Coloreado, LineaALineaComoDeUnaVez) {
@@ -119,29 +116,26 @@ TEST(Coloreado, LineaALineaComoDeUnaVez) {
 }
 
 TEST(Marcas, UnaLineaSinSuSalto) {
-    const struct {
-        std::u16string_view texto;
-        std::int16_t linea;
-        std::string colores;
-    } casos[] = {{u"ab\r\ncd\r\nef", 1, "0-2:00ff00 "},
-                 {u"ab\r\ncd\r\nef", 2, "4-6:00ff00 "},
-                 {u"ab\r\ncd\r\nef", 3, "8-10:00ff00 "},
-                 {u"ab\r\ncd\r\nef", 4, ""},
-                 {u"ab\r\ncd\r\nef", 0, ""},
-                 {u"ab\r\ncd\r\nef", -5, ""},
-                 {u"abc", 1, "0-3:00ff00 "},
-                 {u"", 1, ""},
-                 {u"ab\r\n\r\nef", 2, ""}};
-    for (const auto& c : casos) {
-        Editor e(c.texto);
+    const std::tuple<std::u16string_view, std::int16_t, std::string> casos[] = {
+        {u"ab\r\ncd\r\nef", 1, "0-2:00ff00 "},
+        {u"ab\r\ncd\r\nef", 2, "4-6:00ff00 "},
+        {u"ab\r\ncd\r\nef", 3, "8-10:00ff00 "},
+        {u"ab\r\ncd\r\nef", 4, ""},
+        {u"ab\r\ncd\r\nef", 0, ""},
+        {u"ab\r\ncd\r\nef", -5, ""},
+        {u"abc", 1, "0-3:00ff00 "},
+        {u"", 1, ""},
+        {u"ab\r\n\r\nef", 2, ""}};
+    for (const auto& [texto, linea, vistos] : casos) {
+        Editor e(texto);
         e.caja.selecciona(1, 1);
         const auto cursor = e.norvik.SelStart();
         e.norvik.ColorError(0x00FF00); // read at each marking
-        e.norvik.MarcaErrorLinea(c.linea);
-        EXPECT_EQ(colores(e), c.colores) << aUtf8(c.texto) << c.linea;
+        e.norvik.MarcaErrorLinea(linea);
+        EXPECT_EQ(colores(e), vistos) << aUtf8(texto) << linea;
         EXPECT_EQ(e.norvik.SelStart(), cursor);
         EXPECT_TRUE(e.enReposo());
-        EXPECT_EQ(e.caja.colorSeleccion(), c.linea == 1 && cursor == 1 ? 0x00FF00 : 0);
+        EXPECT_EQ(e.caja.colorSeleccion(), linea == 1 && cursor == 1 ? 0x00FF00 : 0);
     }
 }
 
@@ -166,21 +160,19 @@ TEST(Marcas, SignosNumeradosDesdeElDos) {
 }
 
 TEST(Analisis, UnErrorSeMuestraYSeMarcaSiSeQuiere) {
-    const struct {
-        std::u16string_view texto;
-        std::string titulo, colores;
-    } casos[] = {{u"1 +\r\n# 2", "ERROR Léxico", "5-8:0000ff "},
-                 {u"1 +", "ERROR de Sintaxis", "0-3:0000ff "},
-                 {u"fija", "ERROR de Sintaxis", "0-4:0000ff "}};
-    for (const auto& c : casos) {
+    const std::tuple<std::u16string_view, std::string, std::string> casos[] = {
+        {u"1 +\r\n# 2", "ERROR Léxico", "5-8:0000ff "},
+        {u"1 +", "ERROR de Sintaxis", "0-3:0000ff "},
+        {u"fija", "ERROR de Sintaxis", "0-4:0000ff "}};
+    for (const auto& [texto, titulo, vistos] : casos) {
         for (const bool activo : {false, true}) {
-            Editor e(c.texto);
+            Editor e(texto);
             e.norvik.MuestraMensajesDeError(activo);
             e.norvik.MarcarErrores(activo);
             EXPECT_FALSE(e.norvik.ConstruyeArbolSintactico());
-            const std::string mensaje = c.titulo + ": " + aUtf8(e.norvik.GetmensajeError()) + "\n";
+            const std::string mensaje = titulo + ": " + aUtf8(e.norvik.GetmensajeError()) + "\n";
             EXPECT_EQ(mensajes(e.sistema.mensajes), activo ? mensaje : "");
-            EXPECT_EQ(colores(e), activo ? c.colores : "");
+            EXPECT_EQ(colores(e), activo ? vistos : "");
         }
     }
 }

@@ -6,11 +6,12 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
+#include "platform/cajas.hpp"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <random>
 #include <string>
 #include <utility>
@@ -18,13 +19,7 @@
 
 namespace norvik {
 
-struct FabricaDeCaja {
-    const char* nombre;
-    std::unique_ptr<CajaTexto> (*crea)();
-};
-
-class ControlTest : public testing::TestWithParam<FabricaDeCaja> {
-protected:
+struct ControlTest : testing::TestWithParam<Fabrica> {
     ControlTest() {
         norvik.SetPalabraReservada(u"begin");
         norvik.SetER(u"[0-9]+", u"num", true, Norvik_Numero);
@@ -85,7 +80,7 @@ protected:
         return texto.insert(inicio + longitud, u"]").insert(inicio, u"[");
     }
 
-    const std::unique_ptr<CajaTexto> propia = GetParam().crea();
+    const std::unique_ptr<CajaTexto> propia = GetParam()();
     CajaTexto& caja = *propia;
     std::vector<Mensaje> mensajes;
     SistemaMemoria sistema{[this](const Mensaje& m) { mensajes.push_back(m); }};
@@ -115,14 +110,12 @@ TEST_P(ControlTest, LineasYColumnas) {
     EXPECT_EQ(norvik.TotalLineas(), 0);
     norvik.Text(u"uno\r\n\r\ntres");
     EXPECT_EQ(norvik.TotalLineas(), 3);
-    const struct {
-        std::int32_t cursor;
-        int linea, columna;
-    } casos[] = {{0, 1, 1}, {3, 1, 4}, {5, 2, 1}, {7, 3, 1}, {11, 3, 5}};
-    for (const auto& c : casos) {
-        caja.selecciona(c.cursor, 0);
-        EXPECT_EQ(norvik.LineaActual(), c.linea) << c.cursor;
-        EXPECT_EQ(norvik.ColumnaActual(), c.columna) << c.cursor;
+    const std::tuple<std::int32_t, int, int> casos[] = {
+        {0, 1, 1}, {3, 1, 4}, {5, 2, 1}, {7, 3, 1}, {11, 3, 5}};
+    for (const auto& [cursor, linea, columna] : casos) {
+        caja.selecciona(cursor, 0);
+        EXPECT_EQ(norvik.LineaActual(), linea) << cursor;
+        EXPECT_EQ(norvik.ColumnaActual(), columna) << cursor;
     }
     EXPECT_EQ(norvik.ContenidoLinea(1), u"uno");
     EXPECT_EQ(norvik.ContenidoLinea(2), u"");
@@ -175,23 +168,19 @@ TEST_P(ControlTest, ElMarcadoDeErrorSeVaAlCambiar) {
 }
 
 TEST_P(ControlTest, SangriaDeLaLineaNueva) {
-    const struct {
-        std::u16string_view texto;
-        std::int32_t cursor;
-        bool autoTAB;
-        std::u16string_view queda;
-    } casos[] = {{u"    a", 5, true, u"    a\r\n    |"},
-                 {u"    a", 4, true, u"    \r\n|a"},
-                 {u"    a", 5, false, u"    a\r\n|"},
-                 {u"\t  a", 4, true, u"\t  a\r\n|"},
-                 {u"  \ta\r\nb", 4, true, u"  \ta\r\n  |\r\nb"},
-                 {u"   ", 3, true, u"   \r\n   |"},
-                 {u"", 0, true, u"\r\n|"}};
-    for (const auto& c : casos) {
-        norvik.AutoTAB(c.autoTAB);
-        empieza(c.texto, c.cursor);
+    const std::tuple<std::u16string_view, std::int32_t, bool, std::u16string_view> casos[] = {
+        {u"    a", 5, true, u"    a\r\n    |"},
+        {u"    a", 4, true, u"    \r\n|a"},
+        {u"    a", 5, false, u"    a\r\n|"},
+        {u"\t  a", 4, true, u"\t  a\r\n|"},
+        {u"  \ta\r\nb", 4, true, u"  \ta\r\n  |\r\nb"},
+        {u"   ", 3, true, u"   \r\n   |"},
+        {u"", 0, true, u"\r\n|"}};
+    for (const auto& [texto, cursor, autoTAB, queda] : casos) {
+        norvik.AutoTAB(autoTAB);
+        empieza(texto, cursor);
         pulsa(tecla::retorno, saltoDeLinea);
-        EXPECT_EQ(foto(), c.queda);
+        EXPECT_EQ(foto(), queda);
     }
     empieza(u"  a\r\n", 0); // on the first line nothing is above
     pulsa(tecla::retorno, u"");
@@ -225,35 +214,33 @@ TEST_P(ControlTest, OcupadoNadaLlegaAlAnfitrion) {
 // --- Undo ---
 
 TEST_P(ControlTest, DeshacerYRehacer) {
-    const struct {
-        std::u16string_view texto;
-        std::int32_t inicio, longitud;
-        std::u16string_view nuevo, deshecho, rehecho;
-    } casos[] = {
-        {u"una palabra", 4, 7, u"", u"una [palabra]", u"una |"},
-        {u"abc", 1, 1, u"", u"ab|c", u"a|c"},
-        {u"a\r\nb", 1, 2, u"", u"a\r\n|b", u"a|b"},
-        {u"ab", 1, 0, u"x", u"a|b", u"ax|b"},
-        {u"ab", 1, 0, u"xyz", u"a|b", u"a[xyz]b"},
-        {u"ab", 1, 0, u"\r\n", u"a|b", u"a\r\n|b"},
-        {u"abcdef", 1, 3, u"X", u"aX[cd]ef", u"aX|ef"}, // known: lengths alone are compared
-        {u"abc", 0, 2, u"xy", u"xy|c", u"xy|c"},
-        {u"abc", 0, 1, u"xyz", u"x|bc", u"x[yz]bc"},
-    };
-    for (const auto& c : casos) {
+    const std::tuple<std::u16string_view, std::int32_t, std::int32_t, std::u16string_view,
+                     std::u16string_view, std::u16string_view>
+        casos[] = {
+            {u"una palabra", 4, 7, u"", u"una [palabra]", u"una |"},
+            {u"abc", 1, 1, u"", u"ab|c", u"a|c"},
+            {u"a\r\nb", 1, 2, u"", u"a\r\n|b", u"a|b"},
+            {u"ab", 1, 0, u"x", u"a|b", u"ax|b"},
+            {u"ab", 1, 0, u"xyz", u"a|b", u"a[xyz]b"},
+            {u"ab", 1, 0, u"\r\n", u"a|b", u"a\r\n|b"},
+            {u"abcdef", 1, 3, u"X", u"aX[cd]ef", u"aX|ef"}, // known: lengths alone are compared
+            {u"abc", 0, 2, u"xy", u"xy|c", u"xy|c"},
+            {u"abc", 0, 1, u"xyz", u"x|bc", u"x[yz]bc"},
+        };
+    for (const auto& [texto, inicio, longitud, nuevo, deshecho, rehecho] : casos) {
         norvik.BorraTodo();
-        norvik.Text(c.texto);
-        caja.selecciona(c.inicio, c.longitud);
-        caja.reemplazaSeleccion(c.nuevo);
+        norvik.Text(texto);
+        caja.selecciona(inicio, longitud);
+        caja.reemplazaSeleccion(nuevo);
         dameSucesos();
         norvik.Undo();
-        EXPECT_EQ(foto(), c.deshecho);
+        EXPECT_EQ(foto(), deshecho);
         norvik.Undo(); // the base stays
-        EXPECT_EQ(foto(), c.deshecho);
+        EXPECT_EQ(foto(), deshecho);
         norvik.Redo();
-        EXPECT_EQ(foto(), c.rehecho);
+        EXPECT_EQ(foto(), rehecho);
         norvik.Redo();
-        EXPECT_EQ(foto(), c.rehecho);
+        EXPECT_EQ(foto(), rehecho);
         EXPECT_EQ(dameSucesos().find_first_of("cs"), std::string::npos);
         EXPECT_TRUE(enReposo());
     }
@@ -261,34 +248,13 @@ TEST_P(ControlTest, DeshacerYRehacer) {
 
 /// The control's text and lists, all of them whole, by the rules of Undo and Redo taken literally.
 struct ModeloDeHistorial {
-    std::u16string texto;
-    std::int32_t inicio = 0, longitud = 0;
+    CajaTextoMemoria caja;
     std::vector<UndoElement> undos, redos;
 
     static std::int32_t largo(std::u16string_view t) { return static_cast<std::int32_t>(t.size()); }
-    void selecciona(std::int32_t i, std::int32_t n) {
-        inicio = std::min(i, largo(texto));
-        longitud = std::min(n, largo(texto) - inicio);
-    }
-    void reemplaza(std::u16string_view nuevo) {
-        texto.replace(static_cast<std::size_t>(inicio), static_cast<std::size_t>(longitud), nuevo);
-        inicio += largo(nuevo);
-        longitud = 0;
-    }
     void apunta() {
         redos.clear();
-        undos.push_back({inicio, largo(texto), texto});
-    }
-    void edita(std::u16string_view nuevo) {
-        if (nuevo.empty() && longitud == 0) return;
-        reemplaza(nuevo);
-        apunta();
-    }
-    void pon(std::u16string_view nuevo) {
-        if (nuevo == texto) return;
-        texto = nuevo;
-        inicio = longitud = 0;
-        apunta();
+        undos.push_back({caja.inicioSeleccion(), largo(caja.texto()), std::u16string(caja.texto())});
     }
     static std::u16string diferencia(const std::u16string& a, const std::u16string& b, std::int32_t p) {
         const auto& largo = a.size() > b.size() ? a : b;
@@ -298,42 +264,39 @@ struct ModeloDeHistorial {
         return largo.substr(static_cast<std::size_t>(p - d - 1), static_cast<std::size_t>(d));
     }
     void inserta(const std::u16string& r) {
-        longitud = 0;
-        const std::int32_t donde = inicio;
-        reemplaza(r);
-        if (r != saltoDeLinea && r.size() >= 2) selecciona(donde, largo(r));
+        const std::int32_t donde = caja.inicioSeleccion();
+        caja.reemplazaSeleccion(r);
+        if (r != saltoDeLinea && r.size() >= 2) caja.selecciona(donde, largo(r));
     }
     void deshaz() {
         if (undos.size() < 2) return;
-        const UndoElement act = undos.back();
+        redos.push_back(undos.back());
         undos.pop_back();
+        const UndoElement& act = redos.back();
         const UndoElement& ant = undos.back();
         const std::int32_t d = act.TextLen - ant.TextLen;
         if (d > 0) {
-            if (act.SelStart - d >= 0) selecciona(act.SelStart - d, 0);
-            selecciona(inicio, d);
-            reemplaza(u"");
+            caja.selecciona(act.SelStart >= d ? act.SelStart - d : caja.inicioSeleccion(), d);
+            caja.reemplazaSeleccion(u"");
         } else {
-            const auto r = diferencia(ant.Text, act.Text, std::abs(d) + act.SelStart + 1);
-            selecciona(act.SelStart, 0);
-            inserta(r);
+            caja.selecciona(act.SelStart, 0);
+            inserta(diferencia(ant.Text, act.Text, act.SelStart + 1 - d));
         }
-        redos.push_back(act);
     }
     void rehaz() {
         if (redos.empty()) return;
-        const UndoElement e = redos.back();
+        undos.push_back(redos.back());
         redos.pop_back();
-        if (e.TextLen < largo(texto)) {
-            const std::int32_t sobran = largo(texto) - e.TextLen;
-            selecciona(e.SelStart, sobran);
-            reemplaza(u"");
+        const UndoElement& e = undos.back();
+        if (e.TextLen < largo(caja.texto())) {
+            caja.selecciona(e.SelStart, largo(caja.texto()) - e.TextLen);
+            caja.reemplazaSeleccion(u"");
         } else {
-            const auto r = diferencia(texto, e.Text, e.SelStart + 1);
-            if (e.SelStart - largo(r) >= 0) selecciona(e.SelStart - largo(r), 0);
+            const auto r = diferencia(std::u16string(caja.texto()), e.Text, e.SelStart + 1);
+            const std::int32_t antes = e.SelStart - largo(r);
+            caja.selecciona(antes >= 0 ? antes : caja.inicioSeleccion(), 0);
             inserta(r);
         }
-        undos.push_back(e);
     }
 };
 
@@ -346,8 +309,9 @@ TEST_P(ControlTest, EdicionesAlAzarComoUnModeloLlano) {
     for (int paso = 0; paso < 1200; ++paso) {
         const auto dado = azar() % 10;
         if (paso == 100) {
+            for (auto* lista : {&m.undos, &m.redos}) lista->clear();
             norvik.BorraTodo();
-            m = {};
+            m.caja.ponTexto(u"");
         } else if (dado < 2) {
             norvik.Undo();
             m.deshaz();
@@ -355,22 +319,22 @@ TEST_P(ControlTest, EdicionesAlAzarComoUnModeloLlano) {
             norvik.Redo();
             m.rehaz();
         } else if (dado == 4) {
-            const std::u16string nuevo = u"z" + m.texto + u"z";
+            const std::u16string nuevo = u"z" + std::u16string(m.caja.texto()) + u"z";
             norvik.Text(nuevo);
-            m.pon(nuevo);
+            m.caja.ponTexto(nuevo);
+            m.apunta();
         } else {
-            const auto inicio = static_cast<std::int32_t>(azar() % (m.texto.size() + 1));
+            const auto inicio = static_cast<std::int32_t>(azar() % (m.caja.texto().size() + 1));
             const auto longitud = static_cast<std::int32_t>(azar() % 8 == 0 ? 400 : azar() % 4);
             const auto pieza = piezas[azar() % std::size(piezas)];
-            caja.selecciona(inicio, longitud);
-            m.selecciona(inicio, longitud);
+            for (CajaTexto* c : {&caja, static_cast<CajaTexto*>(&m.caja)}) c->selecciona(inicio, longitud);
+            if (!pieza.empty() || caja.longitudSeleccion() > 0) m.caja.reemplazaSeleccion(pieza), m.apunta();
             caja.reemplazaSeleccion(pieza);
-            m.edita(pieza);
         }
-        if (paso % 100 == 99) norvik.MarcaErrorLinea(1), m.longitud = 0;
-        ASSERT_EQ(caja.texto(), m.texto) << paso;
-        ASSERT_EQ(caja.inicioSeleccion(), m.inicio) << paso;
-        ASSERT_EQ(caja.longitudSeleccion(), m.longitud) << paso;
+        if (paso % 100 == 99) norvik.MarcaErrorLinea(1), m.caja.selecciona(m.caja.inicioSeleccion(), 0);
+        ASSERT_EQ(caja.texto(), m.caja.texto()) << paso;
+        ASSERT_EQ(caja.inicioSeleccion(), m.caja.inicioSeleccion()) << paso;
+        ASSERT_EQ(caja.longitudSeleccion(), m.caja.longitudSeleccion()) << paso;
         const Historial& h = norvik.historial();
         ASSERT_EQ(h.undos().cuantas(), m.undos.size()) << paso;
         ASSERT_EQ(h.redos().cuantas(), m.redos.size()) << paso;

@@ -20,22 +20,18 @@ TEST(Disposicion, ConMarcoYMargen) {
 }
 
 TEST(Disposicion, SegunLasOpciones) {
-    const struct {
-        bool marco, margenDeSenales;
-        std::int16_t margen;
-        std::int32_t texto, ancho;
-        bool espaciador;
-    } casos[] = {{true, true, 29, 374, 596, false},   {true, true, 30, 375, 595, true},
-                 {false, true, 150, 480, 505, true},  {true, false, 150, 30, 940, false},
-                 {false, false, 150, 15, 970, false}, {true, true, -20, 325, 645, false}};
-    for (const auto& c : casos) {
-        const Superficie s{1000, 500, 15, 15, c.marco, c.margenDeSenales, c.margen};
+    const std::tuple<bool, bool, std::int16_t, std::int32_t, std::int32_t, bool> casos[] = {
+        {true, true, 29, 374, 596, false},   {true, true, 30, 375, 595, true},
+        {false, true, 150, 480, 505, true},  {true, false, 150, 30, 940, false},
+        {false, false, 150, 15, 970, false}, {true, true, -20, 325, 645, false}};
+    for (const auto& [marco, margenDeSenales, margen, texto, ancho, espaciador] : casos) {
+        const Superficie s{1000, 500, 15, 15, marco, margenDeSenales, margen};
         const auto d = disponeElementos(s);
         ASSERT_TRUE(d);
-        EXPECT_EQ(d->texto.x, c.texto);
-        EXPECT_EQ(d->texto.ancho, c.ancho);
-        EXPECT_EQ(izquierdaDelTexto(s), c.texto);
-        EXPECT_EQ(d->controlSpace.has_value(), c.espaciador);
+        EXPECT_EQ(d->texto.x, texto);
+        EXPECT_EQ(d->texto.ancho, ancho);
+        EXPECT_EQ(izquierdaDelTexto(s), texto);
+        EXPECT_EQ(d->controlSpace.has_value(), espaciador);
         EXPECT_EQ(izquierdaFueraDeLaVista(s), 1100);
     }
 }

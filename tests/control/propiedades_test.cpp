@@ -51,6 +51,37 @@ BolsaPropiedades guarda(const Norvik& norvik) {
     return bolsa;
 }
 
+TEST(Propiedades, FuenteDeLaSeleccion) {
+    Contenido c;
+    c.n.Text(u"abc");
+    c.caja.selecciona(0, 1);
+    c.n.SelFontName(u"Arial");
+    c.n.SelFontSize(14);
+    EXPECT_EQ(c.n.SelFontName(), u"Arial");
+    EXPECT_EQ(c.n.SelFontSize(), 14);
+    c.caja.ponTamanoFuenteSeleccion(400000000);
+    EXPECT_THROW(static_cast<void>(c.n.SelFontSize()), Desbordamiento);
+}
+
+TEST(Propiedades, IntercambioConElDisenio) {
+    ranurasDisenio() = {};
+    Contenido c;
+    BolsaPropiedades bolsa;
+    bolsa.escribeTexto(u"ContenidoG", u"S -> a;", {});
+    bolsa.escribeTexto(u"CodigoPrueba", u"a a", {});
+    c.n.restauraPropiedades(bolsa);
+    EXPECT_FALSE(c.n.editCode().has_value());
+    EXPECT_EQ(ranurasDisenio().especificacion, u"S -> a;");
+    ranurasDisenio() = {u"T -> b;", u"b", true};
+    c.contenedor.damePasos();
+    c.n.editCode(std::any(3));
+    EXPECT_EQ(c.contenedor.damePasos(), u"ContenidoG ContenidoG CodigoPrueba pendienteGuardarG ");
+    EXPECT_EQ(c.n.opciones().contenidoG, u"T -> b;");
+    EXPECT_EQ(c.n.opciones().codigoPrueba, u"b");
+    EXPECT_TRUE(c.n.opciones().pendienteGuardarG);
+    EXPECT_EQ(ranurasDisenio().especificacion + ranurasDisenio().textoPrueba, u"");
+}
+
 } // namespace
 
 TEST(Propiedades, CadaUnaAvisaCuandoCambia) {
@@ -93,37 +124,6 @@ TEST(Propiedades, CadaUnaAvisaCuandoCambia) {
     n.MuestraInforme();
     n.SetTraduccion(1, u"a", u"b");
     EXPECT_EQ(c.contenedor.damePasos(), u"signo 2 en 468 acerca informe ");
-}
-
-TEST(Propiedades, FuenteDeLaSeleccion) {
-    Contenido c;
-    c.n.Text(u"abc");
-    c.caja.selecciona(0, 1);
-    c.n.SelFontName(u"Arial");
-    c.n.SelFontSize(14);
-    EXPECT_EQ(c.n.SelFontName(), u"Arial");
-    EXPECT_EQ(c.n.SelFontSize(), 14);
-    c.caja.ponTamanoFuenteSeleccion(400000000);
-    EXPECT_THROW(static_cast<void>(c.n.SelFontSize()), Desbordamiento);
-}
-
-TEST(Propiedades, IntercambioConElDisenio) {
-    ranurasDisenio() = {};
-    Contenido c;
-    BolsaPropiedades bolsa;
-    bolsa.escribeTexto(u"ContenidoG", u"S -> a;", {});
-    bolsa.escribeTexto(u"CodigoPrueba", u"a a", {});
-    c.n.restauraPropiedades(bolsa);
-    EXPECT_FALSE(c.n.editCode().has_value());
-    EXPECT_EQ(ranurasDisenio().especificacion, u"S -> a;");
-    ranurasDisenio() = {u"T -> b;", u"b", true};
-    c.contenedor.damePasos();
-    c.n.editCode(std::any(3));
-    EXPECT_EQ(c.contenedor.damePasos(), u"ContenidoG ContenidoG CodigoPrueba pendienteGuardarG ");
-    EXPECT_EQ(c.n.opciones().contenidoG, u"T -> b;");
-    EXPECT_EQ(c.n.opciones().codigoPrueba, u"b");
-    EXPECT_TRUE(c.n.opciones().pendienteGuardarG);
-    EXPECT_EQ(ranurasDisenio().especificacion + ranurasDisenio().textoPrueba, u"");
 }
 
 TEST(Bolsa, UnControlNuevo) {

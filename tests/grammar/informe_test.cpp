@@ -1,21 +1,13 @@
 #include "apoyoGramatica.hpp"
 
+#include "norvik/base/ficheros.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <gtest/gtest.h>
 
-namespace norvik {
-namespace {
+using namespace norvik;
 
-/// Line feeds as the texts' line breaks.
-std::u16string conSaltos(std::u16string_view texto) {
-    std::u16string resultado;
-    for (const char16_t c : texto) {
-        if (c == u'\n') resultado += u'\r';
-        resultado += c;
-    }
-    return resultado;
-}
+namespace {
 
 TEST(Informe, EnteroDeUnaRegla) {
     const std::u16string raya = std::u16string(48, u'-') + u"\n";
@@ -38,7 +30,7 @@ TEST(Informe, EnteroDeUnaRegla) {
         u"    tablaSLR[0][2] = 1\n    tablaSLR[1][1] = ACEPTAR\n"
         u"    tablaSLR[0][0] = 2;\n    tablaSLR[2][1] = -1;\n" +
         barras;
-    EXPECT_EQ(aUtf8(generada(u"S -> a")->textoInforme()), aUtf8(conSaltos(esperado)));
+    EXPECT_EQ(aUtf8(generada(u"S -> a")->textoInforme()), aUtf8(normalizaLineas(esperado)) + "\r\n");
 }
 
 TEST(Informe, CuerposVaciosComoSeGuardaron) {
@@ -63,10 +55,7 @@ TEST(Informe, CeldasYProblemas) {
     EXPECT_EQ(g->celdaTabla(6, 1), u"R2");
     EXPECT_EQ(g->celdaTabla(6, 2), u"");
     EXPECT_NE(g->textoInforme().find(u"\r\ntablaSLR[4][0]= D5 / R4;\r\n"), std::u16string::npos);
-    struct Caso {
-        std::u16string reglas, mensaje;
-    };
-    for (const auto& [reglas, mensaje] : std::vector<Caso>{
+    for (const auto& [reglas, mensaje] : std::vector<std::pair<std::u16string, std::u16string>>{
              {u"S -> a", u"La gramática carece de problema alguno."},
              {u"S -> A b; A -> a b; A -> a",
               u"Problemas detectados:\r\n\r\nConflicto D5 / R3 en el estado 4, símbolo b.\r\n"},
@@ -108,7 +97,8 @@ TEST(Modulo, EnteroDeUnaRegla) {
         u"\nPublic Sub CargaGramaticaLenguaje(NorvikRefParam As Norvik)\n\n"
         u"\n'Función para cargar las reglas del lenguaje Calc\n\n\tNorvikRefParam.SetRegla \"S -> a\"\n\n"
         u"End Sub\n\n\n";
-    EXPECT_EQ(aUtf8(generada(u"S -> a")->textoModulo(u"Calc", lexico)), aUtf8(conSaltos(esperado)));
+    EXPECT_EQ(aUtf8(generada(u"S -> a")->textoModulo(u"Calc", lexico)),
+              aUtf8(normalizaLineas(esperado)) + "\r\n");
 }
 
 TEST(Modulo, SeParteCadaDosMilEntradas) {
@@ -142,4 +132,3 @@ TEST(Modulo, EnCppLosTextosSonAscii) {
 }
 
 } // namespace
-} // namespace norvik

@@ -4,6 +4,7 @@
 #include "norvik/grammar/gramatica.hpp"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <set>
 #include <stdexcept>
@@ -31,9 +32,6 @@ inline void inserta(Lista& lista, const Texto& x) {
 inline void suma(Lista& lista, const Lista& otra) {
     for (const Texto& x : otra) inserta(lista, x);
 }
-inline Texto recortado(const Texto& texto) {
-    return Texto(recorta(texto));
-}
 inline bool variable(const Texto& texto) {
     return !texto.empty() && texto[0] >= u'A' && texto[0] <= u'Z';
 }
@@ -44,7 +42,7 @@ inline Texto primerSimbolo(const Texto& texto) {
     return texto.substr(0, texto.find(u' '));
 }
 inline Texto trasPrimero(const Texto& texto) {
-    return hayBlanco(texto) ? recortado(texto.substr(texto.find(u' '))) : Texto();
+    return hayBlanco(texto) ? Texto(recorta(texto.substr(texto.find(u' ')))) : Texto();
 }
 
 struct Nombrado {
@@ -77,7 +75,7 @@ public:
     }
 
     std::vector<Nombrado> primeros, siguientes, predict;
-    std::vector<Estado> estados;
+    std::map<int, Estado> estados;
     std::vector<std::vector<int>> tabla, conflictos;
     Lista simbolos;
 
@@ -122,8 +120,6 @@ public:
             if (cab(i) == cab(1) && primerSimbolo(cue(i)) == cab(1)) nucleo.emplace_back(i, 1);
         aniadeNucleo(nucleo, uno);
         transiciones(uno);
-        std::sort(estados.begin(), estados.end(),
-                  [](const Estado& a, const Estado& b) { return a.numero < b.numero; });
     }
 
     /// False when a symbol has no column.
@@ -142,9 +138,9 @@ public:
         const std::size_t ancho = terminales.size() + 1 + variables.size();
         tabla.assign(estados.size(), std::vector<int>(ancho));
         conflictos = tabla;
-        for (std::size_t f = 0; f < estados.size(); ++f)
-            for (const Item& item : estados[f].items)
-                if (!escribe(f, item)) return false;
+        for (const auto& [numero, estado] : estados)
+            for (const Item& item : estado.items)
+                if (!escribe(u(numero), item)) return false;
         return true;
     }
 
@@ -189,7 +185,7 @@ private:
 
     void creaPrimeros(const Texto& cadena, Lista& conj, bool recursivo, int indice, int hondo) {
         if (hondo > 200) throw NoTermina();
-        Texto resto = recortado(cadena);
+        Texto resto(recorta(cadena));
         bool limpio = true;
         if (indice != 0 && recursivo && indice == actual_) return;
         const auto acaba = [&] {
@@ -251,7 +247,7 @@ private:
         const auto trasAparicion = [&](const Texto& resto) -> std::optional<Texto> {
             const int p = estaEnRegla(resto, nombre);
             if (p == 0) return std::nullopt;
-            return recortado(resto.substr(u(p - 1) + nombre.size()));
+            return Texto(recorta(resto.substr(u(p - 1) + nombre.size())));
         };
         for (int k = 1; k <= n(); ++k)
             for (auto resto = trasAparicion(cue(k)); resto; resto = trasAparicion(*resto)) {
@@ -302,12 +298,8 @@ private:
     }
 
     void transiciones(const Estado& estado) {
-        Estado actual = estado;
-        estados.push_back(actual);
-        const auto guarda = [&] {
-            for (Estado& x : estados)
-                if (x.numero == actual.numero) x = actual;
-        };
+        Estado& actual = estados[estado.numero] = estado;
+        orden_.push_back(actual.numero);
         for (std::size_t i = 0; i < actual.items.size(); ++i) {
             if (actual.items[i].destino == -1) continue;
             const Texto x = siguiente(actual.items[i]);
@@ -315,30 +307,23 @@ private:
             for (const Item& item : actual.items)
                 if (item.destino != -1 && siguiente(item) == x)
                     nucleo.emplace_back(item.regla, item.punto + 1);
-            int destino = -1;
-            for (const Estado& e : estados) {
-                const bool contiene = std::all_of(nucleo.begin(), nucleo.end(),
-                                                  [&](auto par) { return e.tiene(par.first, par.second); });
-                if (!contiene) continue;
-                destino = e.numero;
-                break;
-            }
-            const bool nuevo = destino == -1;
-            if (nuevo) destino = numEstados_;
+            const auto suyo = std::find_if(orden_.begin(), orden_.end(), [&](int e) {
+                return std::all_of(nucleo.begin(), nucleo.end(),
+                                   [&](auto par) { return estados[e].tiene(par.first, par.second); });
+            });
+            const bool nuevo = suyo == orden_.end();
+            const int destino = nuevo ? numEstados_ : *suyo;
             for (const auto& [r, d] : nucleo)
                 for (Item& item : actual.items)
                     if (item.regla == r && item.punto == d - 1) item.destino = destino;
-            guarda();
             if (!nuevo) continue;
             Estado otro{numEstados_++, {}};
             if (numEstados_ > 300) throw NoTermina();
             aniadeNucleo(nucleo, otro);
             transiciones(otro);
         }
-        const auto sitio = std::find_if(estados.begin(), estados.end(),
-                                        [&](const Estado& e) { return e.numero == actual.numero; });
-        estados.erase(sitio);
-        estados.push_back(actual);
+        std::erase(orden_, actual.numero); // done: it is looked at after the others
+        orden_.push_back(actual.numero);
     }
 
     bool escribe(std::size_t f, const Item& item) {
@@ -365,6 +350,7 @@ private:
     std::vector<std::pair<Texto, Texto>> reglas_;
     std::vector<bool> pendientes_;
     std::set<int> visitados_;
+    std::vector<int> orden_; // in which the states are looked at
     int actual_ = 0;
     int numEstados_ = 0;
 };

@@ -4,19 +4,15 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 TEST(Reglas, UnaPorAlternativa) {
-    struct Caso {
-        std::u16string cuerpo, esperado;
-    };
-    for (const auto& [cuerpo, esperado] : std::vector<Caso>{{u"a B | c", u"[a B][c]"},
-                                                            {u"x |", u"[x]"},
-                                                            {u"| x", u"[][x]"},
-                                                            {u"", u"[]"},
-                                                            {u"  a  b|  |c  ", u"[a  b][][c]"},
-                                                            {u"a | |", u"[a][]"}}) {
+    const std::pair<std::u16string, std::u16string> casos[] = {
+        {u"a B | c", u"[a B][c]"},          {u"x |", u"[x]"},    {u"| x", u"[][x]"}, {u"", u"[]"},
+        {u"  a  b|  |c  ", u"[a  b][][c]"}, {u"a | |", u"[a][]"}};
+    for (const auto& [cuerpo, esperado] : casos) {
         gramatica g;
         g.SetRegla(u"A", cuerpo);
         std::u16string reglas;
@@ -27,19 +23,11 @@ TEST(Reglas, UnaPorAlternativa) {
 }
 
 TEST(Reglas, ElementosDeUnCuerpo) {
-    struct Caso {
-        std::u16string cuerpo;
-        int elementos;
-        std::u16string primero, segundo, ultimo;
-    };
-    for (const auto& [cuerpo, elementos, primero, segundo, ultimo] :
-         std::vector<Caso>{{u"a B c", 3, u"a", u"B", u"c"},
-                           {u"Ø", 0, u"Ø", u"Ø", u"Ø"},
-                           {u"", 0, u"", u"", u""},
-                           {u"a Ø", 1, u"a", u"Ø", u"Ø"},
-                           {u"Ø a", 2, u"Ø", u"a", u"a"},
-                           {u"a bØ", 2, u"a", u"bØ", u"bØ"},
-                           {u"a   b", 2, u"a", u"b", u"b"}}) {
+    const std::tuple<std::u16string, int, std::u16string, std::u16string, std::u16string> casos[] = {
+        {u"a B c", 3, u"a", u"B", u"c"}, {u"Ø", 0, u"Ø", u"Ø", u"Ø"},   {u"", 0, u"", u"", u""},
+        {u"a Ø", 1, u"a", u"Ø", u"Ø"},   {u"Ø a", 2, u"Ø", u"a", u"a"}, {u"a bØ", 2, u"a", u"bØ", u"bØ"},
+        {u"a   b", 2, u"a", u"b", u"b"}};
+    for (const auto& [cuerpo, elementos, primero, segundo, ultimo] : casos) {
         gramatica g;
         g.SetRegla(u"A", cuerpo);
         EXPECT_EQ(g.GetNumElementosRegla(1), elementos) << aUtf8(cuerpo);
@@ -85,34 +73,22 @@ TEST(Reglas, SimbolosYColumnas) {
 }
 
 TEST(Reglas, BuscaUnSimboloEnElTexto) {
-    struct Caso {
-        std::u16string cuerpo, simbolo;
-        int posicion;
-    };
-    for (const auto& [cuerpo, simbolo, posicion] : std::vector<Caso>{{u"a B c", u"B", 3},
-                                                                     {u"a BB c", u"B", 0},
-                                                                     {u"a B", u"B", 3},
-                                                                     {u"B", u"B", 1},
-                                                                     {u"BB B", u"B", 4},
-                                                                     {u"a BB B", u"B", 0},
-                                                                     {u"a BB B c", u"B", 6},
-                                                                     {u"aB B", u"B", 4}})
-        EXPECT_EQ(gramatica::estaEnRegla(cuerpo, simbolo), posicion) << aUtf8(cuerpo);
+    const std::pair<std::u16string, int> casos[] = {{u"a B c", 3},    {u"a BB c", 0}, {u"a B", 3},
+                                                    {u"B", 1},        {u"BB B", 4},   {u"a BB B", 0},
+                                                    {u"a BB B c", 6}, {u"aB B", 4}};
+    for (const auto& [cuerpo, posicion] : casos)
+        EXPECT_EQ(gramatica::estaEnRegla(cuerpo, u"B"), posicion) << aUtf8(cuerpo);
 }
 
 TEST(Reglas, PuntoEnUnCuerpo) {
-    struct Caso {
-        std::u16string cuerpo;
-        std::int16_t punto;
-        std::u16string texto;
-    };
-    for (const auto& [cuerpo, punto, texto] : std::vector<Caso>{{u"a B c", 0, u".a B c"},
-                                                                {u"a  B c", 1, u"a.B c"},
-                                                                {u"a B c", 3, u"a B c."},
-                                                                {u"a B c", 4, u"a B c"},
-                                                                {u"Ø", 0, u".Ø"},
-                                                                {u"Ø", 1, u"Ø."},
-                                                                {u"", 0, u"."}})
+    const std::tuple<std::u16string, std::int16_t, std::u16string> casos[] = {{u"a B c", 0, u".a B c"},
+                                                                              {u"a  B c", 1, u"a.B c"},
+                                                                              {u"a B c", 3, u"a B c."},
+                                                                              {u"a B c", 4, u"a B c"},
+                                                                              {u"Ø", 0, u".Ø"},
+                                                                              {u"Ø", 1, u"Ø."},
+                                                                              {u"", 0, u"."}};
+    for (const auto& [cuerpo, punto, texto] : casos)
         EXPECT_EQ(gramatica::dameReglaString(cuerpo, punto), texto);
 }
 
@@ -123,4 +99,3 @@ TEST(Reglas, NombraLaUltimaVariableSinRegla) {
 }
 
 } // namespace
-} // namespace norvik

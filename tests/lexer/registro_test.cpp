@@ -1,10 +1,12 @@
+#include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 std::u16string registra(pilaTokens& lexico, std::u16string_view texto, std::u16string_view nombre,
@@ -22,89 +24,70 @@ void registraAuxiliares(pilaTokens& lexico) {
     registra(lexico, u"z", u"\\<b\\c", false);
 }
 
-std::u16string errorA(std::u16string_view nombre) {
+std::u16string errorA(const std::u16string& nombre) {
     return u"Error en el uso del operador codAscii (sintaxis: '\\c(numero)') en la expresión regular '" +
-           std::u16string(nombre) + u"'.";
+           nombre + u"'.";
 }
 
-std::u16string errorB(std::u16string_view nombre, std::u16string_view texto) {
-    return u"La definición de la expresión regular '" + std::u16string(nombre) + u"':\r\n\t\t" +
-           std::u16string(texto) + u"\r\nes incorrecta. Revísela para obtener un análisis léxico adecuado.";
+std::u16string errorB(const std::u16string& nombre, const std::u16string& texto) {
+    return u"La definición de la expresión regular '" + nombre + u"':\r\n\t\t" + texto +
+           u"\r\nes incorrecta. Revísela para obtener un análisis léxico adecuado.";
 }
 
-std::u16string errorC(std::u16string_view nombre, std::u16string_view referencia) {
-    const std::u16string q(referencia);
-    const std::u16string n(nombre);
+std::u16string errorC(const std::u16string& n, const std::u16string& q) {
     return u"Error en la invocación de la expresión regular '" + q + u"' desde la expresión regular '" + n +
            u"'.\r\nLa expresión regular '" + q + u"' o no existe o no se ha definido antes que '" + n + u"'.";
 }
 
 TEST(Registro, ExpandeElTextoYDaSuLectura) {
-    struct Caso {
-        std::u16string texto, patron, lectura;
-    };
-    const Caso casos[] = {
+    const std::tuple<std::u16string, std::u16string, std::u16string> casos[] = {
         {u"<digito>+", u"[0-9]+", u"+"},
-        {u"<letra>(<digito>|<letra>)*", u"[A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*", u"(|)*"},
         {u"\\-\\>", u"\\-\\>", u"->"},
         {u"\\<a>", u"\\<a>", u"<a>"},
         {u"\\c(65)\\c(066)", u"AB", u""},
-        {u"\\c(13)\\c(128)\\c(241)", u"\r\u20ACñ", u""},
         {u"\\\\c(65)", u"A", u""},
         {u"\\\\d", u"\\d", u"d"},
         {u"begin", u"begin", u"begin"},
         {u"<a>z", u"x|yz", u"equisz"},
-        {u"<baseToken>", u"BTBinariaBTOctal", u"TBBinariaTBOctal"},
         {u"a<b", u"a", u"a"},
         {u"a\\", u"a", u"a"},
         {u"a\\<<di", u"a\\<", u"a<"},
         {u"", u"", u""},
         {u"<a\\c(65)>", u"Ax|y", u"equis"},
+        {u"<letra>(<digito>|<letra>)*", u"[A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*", u"(|)*"},
+        {u"\\c(13)\\c(128)\\c(241)", u"\r\u20ACñ", u""},
+        {u"<baseToken>", u"BTBinariaBTOctal", u"TBBinariaTBOctal"},
     };
-    for (const Caso& caso : casos) {
+    for (const auto& [texto, patron, lectura] : casos) {
         pilaTokens lexico;
         registraAuxiliares(lexico);
-        EXPECT_EQ(registra(lexico, caso.texto, u"n"), u"") << aUtf8(caso.texto);
+        EXPECT_EQ(registra(lexico, texto, u"n"), u"") << aUtf8(texto);
         const auto& nueva = *lexico.tokensLenguaje().back();
-        EXPECT_EQ(nueva.getExpReg(), caso.patron) << aUtf8(caso.texto);
-        EXPECT_EQ(nueva.GetPseudoTmp(), caso.lectura) << aUtf8(caso.texto);
+        EXPECT_EQ(nueva.getExpReg(), patron) << aUtf8(texto);
+        EXPECT_EQ(nueva.GetPseudoTmp(), lectura) << aUtf8(texto);
     }
 }
 
 TEST(Registro, UnErrorDaSuMensajeYNoDejaRastro) {
-    struct Caso {
-        std::u16string texto, mensaje;
-    };
+    using namespace std::string_literals;
     const std::u16string enorme = u"\\c(" + std::u16string(100000, u'9') + u")";
     const std::u16string largo(40000, u'a');
-    const Caso casos[] = {
-        {u"\\c", errorA(u"n")},
-        {u"\\c13", errorA(u"n")},
-        {u"\\c()", errorA(u"n")},
-        {u"\\c(", errorA(u"n")},
-        {u"\\c(12", errorA(u"n")},
-        {u"\\c(1x)", errorA(u"n")},
-        {u"\\c(999", errorA(u"n")},
-        {u"\\c(256)\\c", errorB(u"n", u"\\c(256)\\c")},
-        {enorme, errorB(u"n", enorme)},
-        {u"[0-9", errorB(u"n", u"[0-9")},
-        {u"\\c(91)", errorB(u"n", u"\\c(91)")},
-        {largo, errorB(u"n", largo)},
-        {largo + u"\\c", errorA(u"n")},
-        {u"<nint>\\c", errorC(u"n", u"nint")},
-        {u"<DIGITO>", errorC(u"n", u"DIGITO")},
-        {u"<n>", errorC(u"n", u"n")},
-        {u"<<a>", errorC(u"n", u"<a")},
-        {u"<a\\->", errorC(u"n", u"a\\-")},
-        {u"<>", errorC(u"n", u"")},
-    };
-    for (const Caso& caso : casos) {
+    const auto rechaza = [](const std::u16string& texto, const std::u16string& mensaje) {
         pilaTokens lexico;
         registraAuxiliares(lexico);
-        EXPECT_EQ(registra(lexico, caso.texto, u"n"), caso.mensaje) << aUtf8(caso.texto.substr(0, 80));
+        EXPECT_EQ(registra(lexico, texto, u"n"), mensaje) << aUtf8(texto.substr(0, 80));
         EXPECT_EQ(lexico.getNumTokensLenguaje(), 2);
         EXPECT_EQ(lexico.expresionesRegulares().size(), 6U);
-    }
+    };
+    for (const auto* const texto : {u"\\c", u"\\c13", u"\\c()", u"\\c(", u"\\c(12", u"\\c(1x)", u"\\c(999"})
+        rechaza(texto, errorA(u"n"));
+    rechaza(largo + u"\\c", errorA(u"n"));
+    for (const std::u16string& texto : {enorme, largo, u"\\c(256)\\c"s, u"[0-9"s, u"\\c(91)"s})
+        rechaza(texto, errorB(u"n", texto));
+    const std::pair<std::u16string, std::u16string> invocaciones[] = {
+        {u"<nint>\\c", u"nint"}, {u"<DIGITO>", u"DIGITO"}, {u"<n>", u"n"},
+        {u"<<a>", u"<a"},        {u"<a\\->", u"a\\-"},     {u"<>", u""}};
+    for (const auto& [texto, invocada] : invocaciones) rechaza(texto, errorC(u"n", invocada));
     pilaTokens lexico;
     EXPECT_EQ(lexico.SetER(u"a", u"n", true, true, u"", 0, 65536, sinColor), errorB(u"n", u"a"));
     EXPECT_EQ(lexico.getNumTokensLenguaje(), 0);
@@ -121,8 +104,7 @@ TEST(Registro, LasDefinicionesQueSeDoblanSeParanEnElLimite) {
         EXPECT_EQ(registra(lexico, texto, nombre, false), cabe ? u"" : errorB(nombre, texto)) << i;
         if (cabe) anterior = nombre;
     }
-    std::u16string texto;
-    for (int i = 0; i < 100000; ++i) texto += u"<d5>";
+    const std::u16string texto = apoyo::repite(u"<d5>", 100000);
     EXPECT_EQ(registra(lexico, texto, u"n"), errorB(u"n", texto));
 }
 
@@ -150,47 +132,4 @@ TEST(Registro, CadaTipoTomaSuColorAlRegistrarse) {
     EXPECT_THROW(lexico.getTokenLenguaje(13), IndiceNoValido);
 }
 
-TEST(Registro, PalabrasOperadoresYAuxiliares) {
-    pilaTokens lexico;
-    EXPECT_EQ(registra(lexico, u"[0-9]", u"digito", false), u"");
-    EXPECT_EQ(lexico.SetPalabraReservada(u"a.b", u"pr", false, u"pseudo"), u"");
-    EXPECT_EQ(lexico.SetOperador(u"\\-\\>", u"flecha", true, u""), u"");
-    EXPECT_EQ(lexico.getNumTokensLenguaje(), 2);
-    EXPECT_EQ(lexico.expresionesRegulares().front()->GetToken(), u"");
-    EXPECT_EQ(lexico.expresionesRegulares().front()->Longitud(), 5);
-    EXPECT_EQ(lexico.getTokenLenguaje(1).GetTipo(), Norvik_PalabraReservada);
-    EXPECT_EQ(lexico.getTokenLenguaje(1).GetPseudoToken(), u"pseudo");
-    EXPECT_EQ(lexico.getTokenLenguaje(2).GetTipo(), Norvik_Operador);
-    EXPECT_EQ(lexico.ReconoceTokens(u"AxB->").toString(), u"1 3 pr\n4 2 flecha\n");
-    lexico.Inicializa();
-    EXPECT_EQ(lexico.getNumTokensLenguaje(), 0);
-    EXPECT_TRUE(lexico.mapaTokens().esVacio());
-    EXPECT_EQ(registra(lexico, u"<digito>", u"n"), errorC(u"n", u"digito"));
-}
-
-TEST(Registro, LosMensajesNombranLosTokens) {
-    pilaTokens lexico;
-    registra(lexico, u"BTBinaria", u"base", true, u"TBBinaria");
-    registra(lexico, u"\\=\\>", u"igual");
-    registra(lexico, u"BTOctal", u"base");
-    registra(lexico, u"<base>", u"aux", false, u"auxiliar");
-    struct Caso {
-        std::u16string token, lexemas, leido;
-    };
-    const Caso casos[] = {
-        {u"base", u"TBBinaria, 'BTOctal'", u"TBBinaria"},
-        {u"igual", u"'=>'", u"'leído'"},
-        {u"EOF", u"final del fichero", u"final del fichero"},
-        {u"$", u"final del fichero", u"final del fichero"},
-        {u"BASE", u"", u""},
-        {u"aux", u"", u""},
-    };
-    for (const Caso& caso : casos) {
-        EXPECT_EQ(lexico.toStringLexemasPorToken(caso.token), caso.lexemas) << aUtf8(caso.token);
-        EXPECT_EQ(lexico.toStringPseudoTokenPorToken({u"leído", caso.token}), caso.leido)
-            << aUtf8(caso.token);
-    }
-}
-
 } // namespace
-} // namespace norvik

@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 constexpr auto otraDireccion = static_cast<Direccion>(7);
@@ -172,4 +173,3 @@ TEST(Arbol, AguantaProfundidadYAnchura) {
 }
 
 } // namespace
-} // namespace norvik

@@ -8,7 +8,8 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 // Lower-case letters, one token each; numbers, strings, and words of capitals.
@@ -44,10 +45,7 @@ struct Lenguaje {
 };
 
 TEST(Conductor, UnTextoAceptadoDaSuArbol) {
-    struct Caso {
-        std::u16string reglas, texto, arbol;
-    };
-    const Caso casos[] = {
+    const std::tuple<std::u16string, std::u16string, std::u16string> casos[] = {
         {u"S -> a b", u"a\r\n b", u"S -> a b [1]\n  'a' (1, 1)\n  'b' (2, 2)\n"},
         {u"S -> Ø", u"", u"S -> Ø [1]\n"},
         {u"S -> A b A; A -> Ø; A -> a", u"b a",
@@ -61,15 +59,15 @@ TEST(Conductor, UnTextoAceptadoDaSuArbol) {
         {u"S -> a $", u"a", u""},
         {u"S -> A $; A -> a", u"a", u"S -> A $ [1]\n  'a' (1, 1)\n  '2' (0, 0)\n"},
     };
-    for (const Caso& caso : casos) {
-        Lenguaje lenguaje(generada(caso.reglas));
-        if (caso.arbol.empty()) {
-            EXPECT_THROW(lenguaje.analiza(caso.texto), IndiceNoValido) << aUtf8(caso.reglas);
+    for (const auto& [reglas, texto, arbol] : casos) {
+        Lenguaje lenguaje(generada(reglas));
+        if (arbol.empty()) {
+            EXPECT_THROW(lenguaje.analiza(texto), IndiceNoValido) << aUtf8(reglas);
             EXPECT_EQ(lenguaje.arbol(), u"'' (0, 0)\n");
             continue;
         }
-        EXPECT_TRUE(lenguaje.analiza(caso.texto)) << aUtf8(caso.reglas);
-        EXPECT_EQ(lenguaje.arbol(), caso.arbol) << aUtf8(caso.reglas);
+        EXPECT_TRUE(lenguaje.analiza(texto)) << aUtf8(reglas);
+        EXPECT_EQ(lenguaje.arbol(), arbol) << aUtf8(reglas);
         EXPECT_EQ(lenguaje.conductor.GetCodigoError(), sinError);
         EXPECT_EQ(lenguaje.conductor.traza().numElementosTraza(), 0U);
         EXPECT_TRUE(lenguaje.mensajes.empty());
@@ -77,11 +75,7 @@ TEST(Conductor, UnTextoAceptadoDaSuArbol) {
 }
 
 TEST(Conductor, ElPrimerErrorAcabaElAnalisis) {
-    struct Caso {
-        std::u16string texto, mensaje;
-        std::int16_t codigo;
-    };
-    const Caso casos[] = {
+    const std::tuple<std::u16string, std::u16string, std::int16_t> casos[] = {
         {u"#", u"Error (Línea 1, Columna 1): caracter '#' incorrecto.", errorLexico},
         {u"a\r\nb 1\r\n  #", u"Error (Línea 3, Columna 3): caracter '#' incorrecto.", errorLexico},
         {u"a 1", u"Error: Se ha encontrado número (Línea 1, Columna 3). Se esperaba 'b'.", errorSintactico},
@@ -91,18 +85,18 @@ TEST(Conductor, ElPrimerErrorAcabaElAnalisis) {
         {u"a h", u"Error: Se ha encontrado 'h' (Línea 1, Columna 3). Se esperaba 'b'.", errorSintactico},
     };
     Lenguaje lenguaje(generada(u"S -> a b T; T -> num"));
-    for (const Caso& caso : casos) {
+    for (const auto& [texto, mensaje, codigo] : casos) {
         lenguaje.mensajes.clear();
         for (const bool invisible : {false, true}) {
-            EXPECT_FALSE(invisible ? lenguaje.analizaInvisible(caso.texto) : lenguaje.analiza(caso.texto));
-            EXPECT_EQ(lenguaje.conductor.GetmensajeError(), caso.mensaje);
-            EXPECT_EQ(lenguaje.conductor.GetCodigoError(), caso.codigo);
+            EXPECT_FALSE(invisible ? lenguaje.analizaInvisible(texto) : lenguaje.analiza(texto));
+            EXPECT_EQ(lenguaje.conductor.GetmensajeError(), mensaje);
+            EXPECT_EQ(lenguaje.conductor.GetCodigoError(), codigo);
             EXPECT_EQ(lenguaje.arbol(), u"'' (0, 0)\n");
         }
-        const bool lexico = caso.codigo == errorLexico;
-        const Mensaje mensaje{caso.mensaje, lexico ? u"ERROR Léxico" : u"ERROR de Sintaxis",
-                              Icono::Exclamacion, Botones::Aceptar};
-        EXPECT_EQ(lenguaje.mensajes, (std::vector<Mensaje>{mensaje, mensaje}));
+        const bool lexico = codigo == errorLexico;
+        const Mensaje aviso{mensaje, lexico ? u"ERROR Léxico" : u"ERROR de Sintaxis", Icono::Exclamacion,
+                            Botones::Aceptar};
+        EXPECT_EQ(lenguaje.mensajes, (std::vector<Mensaje>{aviso, aviso}));
     }
     EXPECT_TRUE(lenguaje.analiza(u"a b\r\n 7"));
     EXPECT_EQ(lenguaje.arbol(),
@@ -120,15 +114,6 @@ TEST(Conductor, LosNombresDeDefinicionQueUsaElLectorValenComoTales) {
     EXPECT_TRUE(lenguaje.analiza(u"a!"));
     EXPECT_FALSE(lenguaje.analiza(u"a?"));
     EXPECT_EQ(lenguaje.conductor.GetmensajeError(), u"Error (Línea 1, Columna 2): caracter '?' incorrecto.");
-}
-
-TEST(Conductor, ElArbolSobreviveALaGramaticaYAlTexto) {
-    Lenguaje lenguaje(generada(u"S -> palabra"));
-    ASSERT_TRUE(lenguaje.analiza(u"UNA"));
-    lenguaje.reglas->inicializaGramatica();
-    lenguaje.lexico.Inicializa();
-    lenguaje.editor.ponTexto(u"otro");
-    EXPECT_EQ(lenguaje.arbol(), u"S -> palabra [1]\n  'UNA' (1, 1)\n");
 }
 
 TEST(Conductor, UnLenguajeCambiadoNoSeConfundeConElAnterior) {
@@ -220,5 +205,13 @@ TEST(Conductor, UnaTablaQueNoDejaDeReducirAcabaEnUnFallo) {
     EXPECT_LT(alFinal.conductor.traza().numElementosTraza(), 100'000U);
 }
 
+TEST(Conductor, ElArbolSobreviveALaGramaticaYAlTexto) {
+    Lenguaje lenguaje(generada(u"S -> palabra"));
+    ASSERT_TRUE(lenguaje.analiza(u"UNA"));
+    lenguaje.reglas->inicializaGramatica();
+    lenguaje.lexico.Inicializa();
+    lenguaje.editor.ponTexto(u"otro");
+    EXPECT_EQ(lenguaje.arbol(), u"S -> palabra [1]\n  'UNA' (1, 1)\n");
+}
+
 } // namespace
-} // namespace norvik

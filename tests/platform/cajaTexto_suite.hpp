@@ -1,11 +1,10 @@
 // What a text box must do, whatever it is made of: one suite. Whoever includes it says on which boxes.
 #pragma once
 
-#include "norvik/platform/cajaTexto.hpp"
+#include "platform/cajas.hpp"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <random>
 #include <string>
 #include <utility>
@@ -15,13 +14,7 @@ namespace norvik {
 
 using namespace std::string_literals;
 
-struct Fabrica {
-    const char* nombre;
-    std::unique_ptr<CajaTexto> (*crea)();
-};
-
-class CajaTextoTest : public testing::TestWithParam<Fabrica> {
-protected:
+struct CajaTextoTest : testing::TestWithParam<Fabrica> {
     CajaTextoTest() {
         caja.eventos.cambio = [this] { sucesos += u'c'; };
         caja.eventos.cambioDeSeleccion = [this] { sucesos += u's'; };
@@ -51,20 +44,19 @@ protected:
         return todos;
     }
 
-    const std::unique_ptr<CajaTexto> propia = GetParam().crea();
+    const std::unique_ptr<CajaTexto> propia = GetParam()();
     CajaTexto& caja = *propia;
     std::u16string sucesos;
 };
 
 TEST_P(CajaTextoTest, LaSeleccionQuedaDentroDelTexto) {
     caja.ponTexto(u"0123456789");
-    const struct {
-        std::int32_t inicio, longitud, quedaInicio, quedaLongitud;
-    } casos[] = {{3, 4, 3, 4}, {8, 5, 8, 2}, {20, 5, 10, 0}, {-3, 2, 0, 2}, {4, -1, 4, 0}, {0, 10, 0, 10}};
-    for (const auto& c : casos) {
-        caja.selecciona(c.inicio, c.longitud);
-        EXPECT_EQ(caja.inicioSeleccion(), c.quedaInicio) << c.inicio << ',' << c.longitud;
-        EXPECT_EQ(caja.longitudSeleccion(), c.quedaLongitud) << c.inicio << ',' << c.longitud;
+    const std::tuple<std::int32_t, std::int32_t, std::int32_t, std::int32_t> casos[] = {
+        {3, 4, 3, 4}, {8, 5, 8, 2}, {20, 5, 10, 0}, {-3, 2, 0, 2}, {4, -1, 4, 0}, {0, 10, 0, 10}};
+    for (const auto& [inicio, longitud, quedaInicio, quedaLongitud] : casos) {
+        caja.selecciona(inicio, longitud);
+        EXPECT_EQ(caja.inicioSeleccion(), quedaInicio) << inicio << ',' << longitud;
+        EXPECT_EQ(caja.longitudSeleccion(), quedaLongitud) << inicio << ',' << longitud;
     }
 }
 
@@ -206,21 +198,17 @@ TEST_P(CajaTextoTest, FuentePropiaYFuentesDeCaracteres) {
 
 TEST_P(CajaTextoTest, Busca) {
     caja.ponTexto(u"cabo ab Ñu\r\nAB ñu_1 ab");
-    const struct {
-        std::u16string cadena;
-        std::int32_t desde, hasta, opciones, resultado;
-    } casos[] = {
+    const std::tuple<std::u16string, std::int32_t, std::int32_t, std::int32_t, std::int32_t> casos[] = {
         {u"ab", 0, 99, 0, 1},    {u"ab", 2, 99, 0, 5},   {u"ab", 6, 99, 0, 12}, {u"ab", 6, 99, 4, 20},
         {u"ab", 0, 99, 2, 5},    {u"ab", 0, 99, 6, 5},   {u"AB", 0, 99, 4, 12}, {u"ñU", 0, 99, 0, 8},
         {u"ñu", 10, 99, 2, -1},  {u"ab", 0, 2, 0, -1},   {u"ab", 0, 3, 0, 1},   {u"", 0, 99, 0, -1},
         {u"\r\n", 0, 99, 0, 10}, {u"ab", 50, 99, 0, -1}, {u"ab", 9, 3, 0, -1},  {u"ab", -7, 99, 8, 1}};
-    for (const auto& c : casos) {
+    for (const auto& [cadena, desde, hasta, opciones, resultado] : casos) {
         caja.selecciona(3, 1);
-        EXPECT_EQ(caja.busca(c.cadena, c.desde, c.hasta, c.opciones), c.resultado)
-            << c.desde << ' ' << c.opciones;
-        const bool resalta = c.resultado >= 0 && c.opciones < 8;
-        EXPECT_EQ(caja.inicioSeleccion(), resalta ? c.resultado : 3);
-        EXPECT_EQ(caja.longitudSeleccion(), resalta ? static_cast<std::int32_t>(c.cadena.size()) : 1);
+        EXPECT_EQ(caja.busca(cadena, desde, hasta, opciones), resultado) << desde << ' ' << opciones;
+        const bool resalta = resultado >= 0 && opciones < 8;
+        EXPECT_EQ(caja.inicioSeleccion(), resalta ? resultado : 3);
+        EXPECT_EQ(caja.longitudSeleccion(), resalta ? static_cast<std::int32_t>(cadena.size()) : 1);
     }
 }
 

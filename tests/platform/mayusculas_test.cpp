@@ -7,7 +7,8 @@
 #include <numeric>
 #include <string>
 
-namespace norvik {
+using namespace norvik;
+
 namespace {
 
 // The library's own answer for every unit against every unit.
@@ -38,4 +39,3 @@ TEST(Mayusculas, ElPliegueEsLaRelacionDeLaBiblioteca) {
 }
 
 } // namespace
-} // namespace norvik

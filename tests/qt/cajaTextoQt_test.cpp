@@ -1,15 +1,10 @@
 // What the text box does on a screen: keys, mouse, clipboard, and that the editor shows what the box holds.
+#include "control/control_suite.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "platform/cajaTexto_suite.hpp"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QPlainTextEdit>
 #include <QTest>
-#include <QTextBlock>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <random>
 
@@ -17,10 +12,7 @@ namespace norvik {
 
 namespace {
 
-constexpr Fabrica qt = {"qt", []() -> std::unique_ptr<CajaTexto> { return std::make_unique<CajaTextoQt>(); }};
-
-class CajaTextoQtTest : public testing::Test {
-protected:
+struct CajaTextoQtTest : testing::Test {
     CajaTextoQtTest() {
         formulario.resize(400, 300);
         editor.setGeometry(0, 0, 400, 250);
@@ -66,8 +58,8 @@ protected:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Qt, CajaTextoTest, testing::Values(qt),
-                         [](const auto& caso) { return caso.param.nombre; });
+INSTANTIATE_TEST_SUITE_P(Qt, CajaTextoTest, testing::Values(crea<CajaTextoQt>));
+INSTANTIATE_TEST_SUITE_P(Qt, ControlTest, testing::Values(crea<CajaTextoQt>));
 
 TEST_F(CajaTextoQtTest, TeclearEditaYAvisa) {
     teclea("ab");

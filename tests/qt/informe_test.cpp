@@ -5,15 +5,8 @@
 #include "norvik/tools/informe.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTableView>
 #include <QTest>
-#include <QTextBlock>
-#include <QTreeView>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -25,12 +18,10 @@ namespace {
 constexpr std::u16string_view ambigua =
     u"Token mas = \"\\+\" (\"más\"); Token n = \"[0-9]\"; S -> A | B mas; A -> n; B -> n | A;";
 
-class InformeTest : public testing::Test {
-public:
+struct InformeTest : testing::Test {
     InformeTest() { directorioDestino().clear(); }
     ~InformeTest() override { directorioDestino().clear(); }
 
-protected:
     /// Uses the report window of the control on a language.
     void muestra(std::u16string_view especificacion, const std::function<void(QWidget&)>& uso) {
         if (!especificacion.empty()) {
@@ -46,7 +37,7 @@ protected:
     }
     /// Chooses a folder when the chooser is shown.
     void elegira(const std::filesystem::path& carpeta) {
-        sistema.usos.emplace_back([this, carpeta](QWidget& d) {
+        sistema.usos.emplace_back([carpeta](QWidget& d) {
             auto& arbol = en<QTreeView>(d, "Dir1");
             auto& modelo = static_cast<QFileSystemModel&>(*arbol.model());
             arbol.setCurrentIndex(modelo.index(QString::fromStdString(carpeta.string())));

@@ -5,11 +5,8 @@
 #include "norvik/tools/ppControl.hpp"
 #include "sistemaDePrueba.hpp"
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QSignalSpy>
-#include <QSpinBox>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 

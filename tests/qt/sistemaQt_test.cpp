@@ -1,12 +1,9 @@
 #include "apoyo/carpetaTemporal.hpp"
+#include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -57,12 +54,11 @@ TEST(SistemaQt, CajasDeMensaje) {
     EXPECT_EQ(contesta(sistema, pregunta, "Cancelar", Respuesta::Cancelar).botones, "Aceptar Cancelar ");
     contesta(sistema, pregunta, "Aceptar", Respuesta::Aceptar);
     contesta(sistema, pregunta, "", Respuesta::Cancelar);
-    QString lineas; // too many for a screen
-    for (int i = 0; i < 300; ++i) lineas += QStringLiteral("línea %1\n").arg(i);
-    const Vista larga = contesta(sistema, {u"Problemas:\r\n\r\n" + lineas.toStdU16String(), u"Norvik"},
-                                 "Aceptar", Respuesta::Aceptar);
+    const std::u16string lineas = apoyo::repite(u"línea\n", 300); // too many for a screen
+    const Vista larga =
+        contesta(sistema, {u"Problemas:\r\n\r\n" + lineas, u"Norvik"}, "Aceptar", Respuesta::Aceptar);
     EXPECT_EQ(larga.texto, "Problemas:");
-    EXPECT_EQ(larga.resto, lineas.trimmed());
+    EXPECT_EQ(larga.resto, QString::fromStdU16String(lineas).trimmed());
 }
 
 TEST(SistemaQt, PunteroDeLaAplicacion) {
@@ -88,9 +84,7 @@ TEST(SistemaQt, ImprimeEnPdf) {
     const QByteArray una = bytesDe("una.pdf", u"hola\r\nñandú");
     EXPECT_TRUE(una.startsWith("%PDF"));
     EXPECT_EQ(paginas(una), 1);
-    std::u16string largo;
-    for (int i = 0; i < 150; ++i) largo += u"línea\r\n";
-    EXPECT_EQ(paginas(bytesDe("varias.pdf", largo)), 3);
+    EXPECT_EQ(paginas(bytesDe("varias.pdf", apoyo::repite(u"línea\r\n", 150))), 3);
     EXPECT_EQ(paginas(bytesDe("ancha.pdf", std::u16string(15000, u'x'))),
               paginas(bytesDe("ancha2.pdf", std::u16string(15000, u'y'))));
     SistemaQt sistema;

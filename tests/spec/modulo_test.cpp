@@ -48,15 +48,35 @@ std::string error(std::u16string_view texto) {
     return mensaje;
 }
 
-/// What one sees of a text under a language: verdict, message, tree, colours.
-std::string vista(Anfitrion& a, std::u16string_view texto) {
-    a.norvik.Colorear(true);
-    std::string todo = std::to_string(a.analiza(texto));
-    todo += aUtf8(a.norvik.GetmensajeError()) + aUtf8(a.norvik.GetArbolSintactico().toString());
-    a.norvik.ColoreaTodo();
-    for (const auto& t : a.caja.colores())
-        todo += std::to_string(t.inicio) + ":" + std::to_string(t.color) + " ";
-    return todo;
+TEST(Modulo, LosErroresLexicosSeMuestranYLaCargaSigue) {
+    Anfitrion a;
+    EXPECT_FALSE(
+        CargaModulo(cambia(modulo(u"Token a = \"a\"; S -> a;"), u"SetER \"a\"", u"SetER \"[a\""), a.norvik));
+    EXPECT_EQ(
+        mensajes(a.sistema.mensajes),
+        "Norvik: Error en especificación léxica: La definición de la expresión regular 'a':\r\n\t\t[a\r\n"
+        "es incorrecta. Revísela para obtener un análisis léxico adecuado.\n");
+    EXPECT_EQ(a.reglas(), "S -> a\n");
+}
+
+TEST(Modulo, TablasDeMuchosProcedimientos) {
+    std::u16string especificacion;
+    std::u16string regla = u"S -> S t0 | t0";
+    for (int i = 0; i < 60; ++i) {
+        const std::u16string t = u"t" + aTexto(i);
+        especificacion += u"Token " + t + u" = \"" + t + u"\";";
+        regla += u" | " + t + u" S " + t;
+    }
+    const std::u16string texto = modulo(especificacion + regla + u";");
+    EXPECT_NE(texto.find(u"Sub CargaLenguaje2("), std::u16string::npos);
+    Anfitrion origen;
+    origen.compila(especificacion + regla + u";");
+    Anfitrion destino;
+    EXPECT_FALSE(CargaModulo(texto, destino.norvik));
+    const gramatica& suya = origen.norvik.Gramatica();
+    for (std::int16_t e = 0; e < suya.GetDimensionFilasSLR(); ++e)
+        for (std::int16_t c = 0; c < suya.GetNumSimbolos(); ++c)
+            ASSERT_EQ(destino.norvik.Gramatica().GetElementoTablaSLR(e, c), suya.GetElementoTablaSLR(e, c));
 }
 
 } // namespace
@@ -76,9 +96,6 @@ TEST(Modulo, DevuelveLoQueSeEscribio) {
         EXPECT_EQ(destino.lexico(), origen.lexico());
         EXPECT_EQ(destino.reglas(), origen.reglas());
         EXPECT_EQ(destino.tabla(), origen.tabla());
-        for (const auto ejemplo : {u"1+2+\"uno\"", u"1+\n", u"1 2", u"", u"#"}) {
-            EXPECT_EQ(vista(destino, ejemplo), vista(origen, ejemplo)) << aUtf8(ejemplo);
-        }
     }
 }
 
@@ -87,10 +104,7 @@ TEST(Modulo, LoDemasSeNombraConSuLinea) {
     const auto con = [&](std::u16string_view viejo, std::u16string_view nuevo) {
         return cambia(bueno, viejo, nuevo);
     };
-    const struct {
-        std::u16string texto;
-        std::string mensaje;
-    } casos[] = {
+    const std::pair<std::u16string, std::string> casos[] = {
         {u"", "Línea 1 del módulo: se esperaba «Attribute VB_Name =»"},
         {u"\r\n\r\nruido", "Línea 3 del módulo: se esperaba «Attribute VB_Name =»"},
         {con(u"\"Calc\"", u"\"\""), "Línea 1 del módulo: el nombre del módulo está vacío"},
@@ -119,7 +133,7 @@ TEST(Modulo, LoDemasSeNombraConSuLinea) {
         {con(u"S -> a", u"S a"), "Línea 48 del módulo: No coinciden los tipos"},
         {bueno + u"End Sub", "Línea 53 del módulo: sobra texto tras el último procedimiento"},
     };
-    for (const auto& c : casos) EXPECT_EQ(error(c.texto), c.mensaje);
+    for (const auto& [texto, mensaje] : casos) EXPECT_EQ(error(texto), mensaje);
     EXPECT_EQ(error(bueno), "");
 }
 
@@ -135,32 +149,4 @@ TEST(Modulo, CortadoEnCualquierSitioOConRuido) {
         if (CargaModulo(roto, a.norvik)) continue;
         EXPECT_NO_THROW(static_cast<void>(a.analiza(u"a\""))) << aUtf8(roto);
     }
-}
-
-TEST(Modulo, LosErroresLexicosSeMuestranYLaCargaSigue) {
-    Anfitrion a;
-    EXPECT_FALSE(
-        CargaModulo(cambia(modulo(u"Token a = \"a\"; S -> a;"), u"SetER \"a\"", u"SetER \"[a\""), a.norvik));
-    EXPECT_EQ(
-        mensajes(a.sistema.mensajes),
-        "Norvik: Error en especificación léxica: La definición de la expresión regular 'a':\r\n\t\t[a\r\n"
-        "es incorrecta. Revísela para obtener un análisis léxico adecuado.\n");
-    EXPECT_EQ(a.reglas(), "S -> a\n");
-}
-
-TEST(Modulo, TablasDeMuchosProcedimientos) {
-    std::u16string especificacion;
-    std::u16string regla = u"S -> S t0 | t0";
-    for (int i = 0; i < 60; ++i) {
-        const std::u16string t = u"t" + aTexto(i);
-        especificacion += u"Token " + t + u" = \"" + t + u"\";";
-        regla += u" | " + t + u" S " + t;
-    }
-    const std::u16string texto = modulo(especificacion + regla + u";");
-    EXPECT_NE(texto.find(u"Sub CargaLenguaje2("), std::u16string::npos);
-    Anfitrion origen;
-    origen.compila(especificacion + regla + u";");
-    Anfitrion destino;
-    EXPECT_FALSE(CargaModulo(texto, destino.norvik));
-    EXPECT_EQ(destino.tabla(), origen.tabla());
 }

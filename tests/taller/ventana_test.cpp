@@ -6,18 +6,11 @@
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
-#include "norvik/tools/codigoGramatica.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/control/ranurasDisenio.hpp"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QComboBox>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -32,8 +25,7 @@ Token mas = "\+", TipoToken = TTOperador;
 E -> E mas num | num;
 )";
 
-class TallerTest : public testing::Test {
-protected:
+struct TallerTest : testing::Test {
     ControlNorvik& norvik() { return ventana.formulario().activo().norvik(); }
     QString ruta(std::string_view nombre) const {
         return QString::fromStdString((carpeta / nombre).string());
@@ -89,16 +81,11 @@ TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     const QString otro = pon("otro.txt", "otro");
     escribe("mio");
     const QString pregunta = "&Guardar ¿Quiere guardar los cambios de «Sin título»?";
-    const struct {
-        QAction* orden; ///< null closes the window
-    } casos[] = {{&a.nuevoTexto}, {&a.abrirTexto}, {&a.nuevoFormulario}, {nullptr}};
-    for (const auto& caso : casos) {
-        if (caso.orden == &a.abrirTexto) dialogos.ficheros = {otro};
-        if (caso.orden != nullptr) {
-            ordena(*caso.orden);
-        } else {
-            EXPECT_FALSE(cierra());
-        }
+    dialogos.ficheros = {otro};
+    for (const auto& orden : std::initializer_list<std::function<void()>>{
+             [&] { ordena(a.nuevoTexto); }, [&] { ordena(a.abrirTexto); }, [&] { ordena(a.nuevoFormulario); },
+             [&] { EXPECT_FALSE(cierra()); }}) {
+        orden();
         EXPECT_EQ(dialogos.toma().last(), pregunta);
         EXPECT_EQ(norvik().control().Text(), u"mio");
     }
@@ -210,19 +197,10 @@ TEST_F(TallerTest, ModoDeDisenio) {
 /// From an empty form to a language that was written, tried and saved.
 TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
     sistema.conModal = [&](QWidget& modal) {
-        if (auto* const gramatica = qobject_cast<CodigoGramatica*>(&modal)) {
-            QWidget& texto = gramatica->Norvik1().caja().ventana();
-            for (const QString& linea : QString::fromUtf8(calculadora).split(u'\n')) {
-                gramatica->Norvik1().SelText(linea.trimmed());
-                QTest::keyClick(&texto, Qt::Key_Return);
-            }
-            EXPECT_TRUE(gramatica->close());
-            return;
-        }
         auto& propiedades = dynamic_cast<VentanaPropiedades&>(modal);
         EXPECT_EQ(propiedades.windowTitle(), "Propiedades de Norvik1[*]");
         EXPECT_FALSE(propiedades.isWindowModified());
-        propiedades.findChild<QPushButton*>("Command4")->click();
+        ranurasDisenio() = {decodifica(calculadora), u"", true};
         propiedades.findChild<QComboBox*>("lenguaje")->setEditText("Suma");
         EXPECT_TRUE(propiedades.isWindowModified());
         propiedades.reject(); // the question is given up
@@ -234,8 +212,7 @@ TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
     ordena(a.nuevoLenguaje);
     const QString pregunta =
         "&Aplicar Hay cambios sin aplicar en las propiedades de Norvik1. ¿Quiere aplicarlos?";
-    EXPECT_EQ(dialogos.toma(), QStringList({"modal Propiedades de Norvik1[*]",
-                                            "modal Definición de la Gramatica", pregunta, pregunta}));
+    EXPECT_EQ(dialogos.toma(), QStringList({"modal Propiedades de Norvik1[*]", pregunta, pregunta}));
     EXPECT_EQ(norvik().NomLenguaje(), "Suma");
     EXPECT_TRUE(ventana.formulario().modificado());
     norvik().control().Text(u"1+2");

@@ -12,7 +12,6 @@
 #endif
 
 #include <iostream>
-#include <vector>
 
 namespace {
 
@@ -21,17 +20,6 @@ void muestraTabla(const norvik::gramatica& gramatica) {
         for (std::int16_t columna = 0; columna < gramatica.GetDimensionColumnasSLR(); ++columna)
             std::cout << gramatica.GetElementoTablaSLR(fila, columna) << ' ';
         std::cout << '\n';
-    }
-}
-
-void muestraArbol(const norvik::Arbol& raiz) {
-    std::vector<const norvik::Arbol*> pendientes{&raiz};
-    while (!pendientes.empty()) {
-        const norvik::Arbol& nodo = *pendientes.back();
-        pendientes.pop_back();
-        std::cout << nodo.GetNumRegla() << ' ' << norvik::aUtf8(nodo.GetLexema()) << '\n';
-        for (std::int16_t hijo = nodo.GetNumHijos(); hijo > 0; --hijo)
-            pendientes.push_back(nodo.GetHijo(hijo));
     }
 }
 
@@ -51,7 +39,7 @@ int main(int argc, char** argv) {
     muestraTabla(control.Gramatica());
     control.Text(norvik::leeTexto(argv[2]));
     if (control.ConstruyeArbolSintactico())
-        muestraArbol(control.GetArbolSintactico());
+        std::cout << norvik::aUtf8(control.GetArbolSintactico().toString());
     else
         std::cout << norvik::aUtf8(control.GetmensajeError()) << '\n';
     return 0;

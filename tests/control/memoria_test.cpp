@@ -1,0 +1,10 @@
+// The suites of boxes and of the control, on the box kept in memory.
+#include "control/control_suite.hpp"
+#include "platform/cajaTexto_suite.hpp"
+
+namespace norvik {
+
+INSTANTIATE_TEST_SUITE_P(Memoria, CajaTextoTest, testing::Values(crea<CajaTextoMemoria>));
+INSTANTIATE_TEST_SUITE_P(Memoria, ControlTest, testing::Values(crea<CajaTextoMemoria>));
+
+} // namespace norvik
