@@ -30,7 +30,7 @@ struct CajaTextoQtTest : testing::Test {
     std::u16string texto() const { return std::u16string(caja.texto()); }
     std::u16string dameSucesos() { return std::exchange(sucesos, {}); }
     /// The colours that the editor shows, "." for plain, a letter for each other one, in order of appearance.
-    std::string coloresVistos() {
+    std::string coloresVistos() const {
         QCoreApplication::processEvents();
         std::string vistos;
         QList<QColor> conocidos;

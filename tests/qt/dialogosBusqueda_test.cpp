@@ -39,7 +39,7 @@ struct DialogosBusquedaTest : testing::Test {
         en<QComboBox>(dialogo, lista).setEditText(QString());
         QTest::keyClicks(en<QComboBox>(dialogo, lista).lineEdit(), texto);
     }
-    QString seleccion() {
+    QString seleccion() const {
         const QString texto = norvik.Text();
         return texto.left(norvik.SelStart()) + '[' + norvik.SelText() + ']' +
                texto.mid(norvik.SelStart() + norvik.SelLength());
