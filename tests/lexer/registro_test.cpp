@@ -132,4 +132,29 @@ TEST(Registro, CadaTipoTomaSuColorAlRegistrarse) {
     EXPECT_THROW(lexico.getTokenLenguaje(13), IndiceNoValido);
 }
 
+TEST(Registro, LosMensajesNombranLosTokens) {
+    pilaTokens lexico;
+    registra(lexico, u"BTBinaria", u"base", true, u"TBBinaria");
+    registra(lexico, u"\\=\\>", u"igual");
+    registra(lexico, u"BTOctal", u"base");
+    registra(lexico, u"<base>", u"aux", false, u"auxiliar");
+    EXPECT_EQ(lexico.getTokenLenguaje(1).Longitud(), 9);
+    struct Caso {
+        std::u16string token, lexemas, leido;
+    };
+    const Caso casos[] = {
+        {u"base", u"TBBinaria, 'BTOctal'", u"TBBinaria"},
+        {u"igual", u"'=>'", u"'leído'"},
+        {u"EOF", u"final del fichero", u"final del fichero"},
+        {u"$", u"final del fichero", u"final del fichero"},
+        {u"BASE", u"", u""},
+        {u"aux", u"", u""},
+    };
+    for (const Caso& caso : casos) {
+        EXPECT_EQ(lexico.toStringLexemasPorToken(caso.token), caso.lexemas) << aUtf8(caso.token);
+        EXPECT_EQ(lexico.toStringPseudoTokenPorToken({u"leído", caso.token}), caso.leido)
+            << aUtf8(caso.token);
+    }
+}
+
 } // namespace
