@@ -105,3 +105,14 @@ TEST(Genera, UnFalloNoDejaMediaTabla) {
     EXPECT_TRUE(a.compila(u"Token a = \"a\"; S -> a;"));
     EXPECT_TRUE(a.analiza(u"a"));
 }
+
+TEST(Genera, BorrarElLenguajeDejaLasReglas) {
+    Anfitrion a;
+    ASSERT_TRUE(a.compila(u"Token a = \"a\"; S -> a;"));
+    const std::u16string tabla = a.tabla();
+    a.norvik.BorraLenguaje();
+    EXPECT_EQ(a.lexico(), "");
+    EXPECT_FALSE(a.analiza(u"a"));
+    EXPECT_TRUE(a.norvik.GeneraCompilador());
+    EXPECT_EQ(a.tabla(), tabla);
+}

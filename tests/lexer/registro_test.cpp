@@ -138,7 +138,6 @@ TEST(Registro, LosMensajesNombranLosTokens) {
     registra(lexico, u"\\=\\>", u"igual");
     registra(lexico, u"BTOctal", u"base");
     registra(lexico, u"<base>", u"aux", false, u"auxiliar");
-    EXPECT_EQ(lexico.getTokenLenguaje(1).Longitud(), 9);
     struct Caso {
         std::u16string token, lexemas, leido;
     };
@@ -155,6 +154,24 @@ TEST(Registro, LosMensajesNombranLosTokens) {
         EXPECT_EQ(lexico.toStringPseudoTokenPorToken({u"leído", caso.token}), caso.leido)
             << aUtf8(caso.token);
     }
+}
+
+TEST(Registro, PalabrasOperadoresYAuxiliares) {
+    pilaTokens lexico;
+    EXPECT_EQ(registra(lexico, u"[0-9]", u"digito", false), u"");
+    EXPECT_EQ(lexico.SetPalabraReservada(u"a.b", u"pr", false, u"pseudo"), u"");
+    EXPECT_EQ(lexico.SetOperador(u"\\-\\>", u"flecha", true, u""), u"");
+    EXPECT_EQ(lexico.getNumTokensLenguaje(), 2);
+    EXPECT_EQ(lexico.expresionesRegulares().front()->GetToken(), u"");
+    EXPECT_EQ(lexico.expresionesRegulares().front()->Longitud(), 5);
+    EXPECT_EQ(lexico.getTokenLenguaje(1).GetTipo(), Norvik_PalabraReservada);
+    EXPECT_EQ(lexico.getTokenLenguaje(1).GetPseudoToken(), u"pseudo");
+    EXPECT_EQ(lexico.getTokenLenguaje(2).GetTipo(), Norvik_Operador);
+    EXPECT_EQ(lexico.ReconoceTokens(u"AxB->").toString(), u"1 3 pr\n4 2 flecha\n");
+    lexico.Inicializa();
+    EXPECT_EQ(lexico.getNumTokensLenguaje(), 0);
+    EXPECT_TRUE(lexico.mapaTokens().esVacio());
+    EXPECT_EQ(registra(lexico, u"<digito>", u"n"), errorC(u"n", u"digito"));
 }
 
 } // namespace

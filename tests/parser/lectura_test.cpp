@@ -135,4 +135,26 @@ TEST(Traza, GuardaDesplazamientosYReducciones) {
     EXPECT_EQ(traza.numElementosTraza(), 0U);
 }
 
+TEST(Lectura, DescribeElUltimoToken) {
+    pilaTokens lexico;
+    registra(lexico);
+    TextoInvisible editor;
+    LectorTokens lector(lexico, editor);
+    editor.ponTexto(u"a\r\n = #");
+    lector.InicializaLecturaTokens();
+    const std::u16string descripciones[] = {
+        u"Se ha encontrado identificador (Línea 1, Columna 1)",
+        u"Se ha encontrado '=' (Línea 2, Columna 2)",
+        u"Se ha encontrado  (Línea 2, Columna 4)",
+    };
+    for (const auto& descripcion : descripciones) {
+        lector.Lex();
+        EXPECT_EQ(lector.DameStringTokenLeido(), descripcion);
+    }
+    editor.ponTexto(u"");
+    lector.InicializaLecturaTokens();
+    lector.Lex();
+    EXPECT_EQ(lector.DameStringTokenLeido(), u"Se ha encontrado el final del fichero (Línea 1, Columna 1)");
+}
+
 } // namespace
