@@ -272,6 +272,12 @@ void escribeTexto(const fs::path& fichero, std::u16string_view texto, Durabilida
     escribeBytes(fichero, codifica(texto), durabilidad);
 }
 
+std::u16string deUnaPieza(const TextoPorPiezas& piezas) {
+    std::u16string texto;
+    piezas([&](std::u16string_view pieza) { texto += pieza; });
+    return texto;
+}
+
 // Most texts fit Windows-1252: that is tried first, and what it wrote is not kept when the text does not.
 void escribeTexto(const fs::path& fichero, const TextoPorPiezas& piezas, Durabilidad durabilidad) {
     if (sePuedeRepetir(fichero)) {
@@ -280,9 +286,7 @@ void escribeTexto(const fs::path& fichero, const TextoPorPiezas& piezas, Durabil
         if (guardado(fichero, llenado, durabilidad)) return;
         if (cabe) fallaEscritura(fichero, errno);
     }
-    std::u16string texto;
-    piezas([&](std::u16string_view pieza) { texto.append(pieza); });
-    escribeTexto(fichero, texto, durabilidad);
+    escribeTexto(fichero, deUnaPieza(piezas), durabilidad);
 }
 
 } // namespace norvik

@@ -53,6 +53,8 @@ void escribeTexto(const std::filesystem::path& fichero, std::u16string_view text
 using SumideroDeTexto = std::function<void(std::u16string_view pieza)>;
 /// Gives a text in pieces of whole lines, the same each time it is asked.
 using TextoPorPiezas = std::function<void(const SumideroDeTexto& sumidero)>;
+/// The text in one piece.
+std::u16string deUnaPieza(const TextoPorPiezas& piezas);
 /// Writes a text that is too long to be held whole.
 void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
                   Durabilidad durabilidad);

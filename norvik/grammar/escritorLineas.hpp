@@ -68,12 +68,11 @@ private:
 /// The whole text of what writes lines.
 template <typename Escritura>
 std::u16string textoDeLineas(const Escritura& escritura) {
-    std::u16string texto;
-    const SumideroDeTexto sumidero = [&](std::u16string_view lineas) { texto += lineas; };
-    EscritorLineas salida(sumidero);
-    escritura(salida);
-    salida.acaba();
-    return texto;
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) {
+        EscritorLineas salida(sumidero);
+        escritura(salida);
+        salida.acaba();
+    });
 }
 
 } // namespace norvik

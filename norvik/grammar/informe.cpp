@@ -209,9 +209,7 @@ void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
 }
 
 std::u16string gramatica::textoInforme() const {
-    std::u16string texto;
-    escribeInforme([&](std::u16string_view pieza) { texto += pieza; });
-    return texto;
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeInforme(sumidero); });
 }
 
 void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {

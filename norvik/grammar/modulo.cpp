@@ -159,9 +159,7 @@ void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexi
 }
 
 std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
-    std::u16string texto;
-    escribeModulo(nombre, lexico, [&](std::u16string_view pieza) { texto += pieza; });
-    return texto;
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeModulo(nombre, lexico, sumidero); });
 }
 
 void gramatica::GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,

@@ -121,9 +121,7 @@ void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& l
 }
 
 std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
-    std::u16string texto;
-    escribeModuloCpp(nombre, lexico, [&](std::u16string_view pieza) { texto += pieza; });
-    return texto;
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeModuloCpp(nombre, lexico, sumidero); });
 }
 
 void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,

@@ -49,9 +49,11 @@ public:
     std::span<const std::int16_t> reglas(const Cadena& cadena) const {
         return std::span(reglas_).subspan(cadena.inicio, cadena.longitud);
     }
-    /// Stores a run, perhaps in place of another one.
+    /// Stores a run, perhaps in place of another one; none that ends in the start state, which stands for no
+    /// run.
     void guarda(const Lugar& lugar, std::int16_t estado, std::int16_t accion,
                 std::span<const std::int16_t> reglas) {
+        if (estado == 0) return;
         if (reglas_.size() >= maximoReglas) olvida();
         if (ocupados_ >= cadenas_.size() / 4 && cadenas_.size() < maximoLugares) crece();
         Cadena& sitio = cadenas_[ranura(lugar)];

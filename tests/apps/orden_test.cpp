@@ -136,8 +136,14 @@ TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
     comprueba(cpp, 0, ruta("Suma.hpp") + "\n", "");
     EXPECT_NE(bytesDe(carpeta_ / "Suma.hpp").find("namespace Suma {"), std::string::npos);
 
-    const Resultado esperado = sobre("1 + SI x", {"analiza"});
-    comprueba(ejecuta({"analiza", ruta("Suma.bas"), ruta("texto")}), 0, esperado.salida, "");
+    for (const std::string texto : {"1 + SI x", "1 1", "?", "'a' # b"})
+        for (const Palabras& orden : {Palabras{"analiza", "--formato", "json"}, Palabras{"lexemas"},
+                                      Palabras{"colorea", "--formato", "ansi"}}) {
+            const Resultado esperado = sobre(texto, orden);
+            Palabras conModulo = orden;
+            conModulo.insert(conModulo.begin() + 1, {ruta("Suma.bas"), ruta("texto")});
+            comprueba(ejecuta(conModulo), esperado.estado, esperado.salida, esperado.errores);
+        }
 }
 
 TEST_F(Orden, LaEntradaEstandarSirveDeFichero) {
@@ -190,9 +196,11 @@ TEST_F(Orden, LaLineaIncorrectaSeExplicaEnUnaLinea) {
         {{"lexemas", "x", "y", "--formato", "arbol"}, "«arbol» no es un valor de --formato (tabla, json)"},
         {{"analiza", "-", "-"}, "la entrada estándar («-») solo puede estar en lugar de un fichero"},
         {{"modulo", "x", "2lenguaje"}, "El nombre seleccionado para el lenguaje es incorrecto"},
+        {{"modulo", "x", "../y"}, "El nombre seleccionado para el lenguaje es incorrecto"},
         {{"modulo", "x", "class", "--lenguaje", "cpp"},
          "El nombre seleccionado para el lenguaje es incorrecto"},
         {{"--help=quizás"}, "--help y --version no llevan valor"},
+        {{"--version=3"}, "--help y --version no llevan valor"},
         {{"-hx"}, "opción desconocida: «-x»"},
     };
     for (const auto& [palabras, error] : lineas)
@@ -211,10 +219,17 @@ TEST_F(Orden, AyudaYVersion) {
               "norvik: No se puede escribir en la salida estándar: no queda espacio en el disco\n");
 }
 
+TEST_F(Orden, UnFicheroLlamadoComoUnaOrdenEsUnFichero) {
+    comprueba(ejecuta({"analiza", "colorea", "informe"}), 2, "",
+              "norvik: No se puede leer «informe»: no existe\n");
+}
+
 TEST_F(Orden, LosFicherosImposiblesTienenSuMensaje) {
     const std::string texto = pon("texto", "1");
     const std::pair<Palabras, std::string> filas[] = {
         {{"analiza", ruta("no"), texto}, "No se puede leer «" + ruta("no") + "»: no existe"},
+        {{"lexemas", lenguaje_, carpeta_.ruta()},
+         "No se puede leer «" + carpeta_.ruta().string() + "»: es una carpeta"},
         {{"informe", lenguaje_, "-o", ruta("no")},
          "No se puede escribir en la carpeta «" + ruta("no") + "»: no existe"},
         {{"modulo", lenguaje_, "M", "-o", texto},

@@ -98,9 +98,13 @@ TEST_F(BusquedaTest, LaVentanaCedeSuPuesto) {
     buscador.buscaSiguiente({u"x"});
     EXPECT_EQ(puestos, "");
     buscador.abre();
+    EXPECT_TRUE(estadoBusqueda().dialogoAbierto);
+    EXPECT_FALSE(a.caja.ocultaSeleccion());
     buscador.buscaSiguiente({u"x"});
     EXPECT_EQ(puestos, "-+");
     buscador.cierra();
+    EXPECT_TRUE(a.caja.ocultaSeleccion());
+    EXPECT_FALSE(estadoBusqueda().dialogoAbierto);
     buscador.abre();
     Anfitrion otro;
     otro.norvik.ShowBuscarDialog(); // it goes on in another text

@@ -328,7 +328,10 @@ TEST_P(ControlTest, EdicionesAlAzarComoUnModeloLlano) {
             const auto longitud = static_cast<std::int32_t>(azar() % 8 == 0 ? 400 : azar() % 4);
             const auto pieza = piezas[azar() % std::size(piezas)];
             for (CajaTexto* c : {&caja, static_cast<CajaTexto*>(&m.caja)}) c->selecciona(inicio, longitud);
-            if (!pieza.empty() || caja.longitudSeleccion() > 0) m.caja.reemplazaSeleccion(pieza), m.apunta();
+            if (!pieza.empty() || caja.longitudSeleccion() > 0) {
+                m.caja.reemplazaSeleccion(pieza);
+                m.apunta();
+            }
             caja.reemplazaSeleccion(pieza);
         }
         if (paso % 100 == 99) norvik.MarcaErrorLinea(1), m.caja.selecciona(m.caja.inicioSeleccion(), 0);

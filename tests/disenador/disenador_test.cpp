@@ -191,6 +191,9 @@ TEST_F(DisenadorTest, LoRotoSeDiceYNoCaeNada) {
         QWidget& control = *formulario.findChild<QWidget*>(QString("editor%1").arg(i));
         control.setProperty("CodigoPrueba", "a\fb");
         QDialog& paginas = propiedades(control);
+        mensajes.clear();
+        conModal("", nada, [&] { pulsa(paginas, "Command6"); });
+        EXPECT_EQ(mensajes, QStringList{"El nombre seleccionado para el lenguaje es incorrecto"});
         escribeGramatica(paginas, QString("Token roto%1").arg(i));
         mensajes.clear();
         conModal("", nada, [&] { pulsa(paginas, "Command5"); });

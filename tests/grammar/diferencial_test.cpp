@@ -132,12 +132,20 @@ void comparaConElPuntoFijo(const gramatica& suya, const Reglas& reglas) {
             crece |= primeros[cabeza].size() != antes;
         }
     }
-    std::map<std::u16string, std::set<std::u16string>> suyos;
-    for (const conjunto& conj : suya.primeros())
-        for (std::int16_t k = 1; k <= conj.totalElementos(); ++k)
-            suyos[conj.nombre].emplace(conj.simboloAt(k));
-    std::erase_if(primeros, [](const auto& par) { return par.second.empty(); });
-    ASSERT_EQ(suyos, primeros);
+    const std::vector<conjunto> conjuntos = suya.primeros();
+    std::size_t i = 0;
+    std::set<std::u16string> vistas;
+    for (const auto& [cabeza, cuerpo] : reglas) {
+        if (!vistas.insert(cabeza).second) continue;
+        ASSERT_LT(i, conjuntos.size());
+        ASSERT_EQ(conjuntos[i].nombre, cabeza);
+        std::set<std::u16string> elementos;
+        for (std::int16_t k = 1; k <= conjuntos[i].totalElementos(); ++k)
+            elementos.emplace(conjuntos[i].simboloAt(k));
+        ASSERT_EQ(elementos, primeros[cabeza]);
+        ++i;
+    }
+    ASSERT_EQ(i, conjuntos.size());
 }
 
 struct Cuenta {

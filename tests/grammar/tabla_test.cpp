@@ -132,4 +132,11 @@ TEST(Automata, PasoAPaso) {
     EXPECT_EQ(g->estadosAutomata().back().getNumEstado(), 7);
 }
 
+TEST(Automata, UnaCadenaVaciaSueltaNoTieneColumna) {
+    const auto g = gramaticaDe(u"S -> a Ø");
+    EXPECT_THROW(genera(*g), SubindiceFueraDeIntervalo);
+    EXPECT_EQ(g->GetDimensionFilasSLR(), 0);
+    EXPECT_EQ(g->getNumReglas(), 1);
+}
+
 } // namespace

@@ -7,8 +7,7 @@
 #include <map>
 #include <random>
 
-using namespace norvik;
-
+namespace norvik {
 namespace {
 
 struct Patron {
@@ -24,38 +23,52 @@ void registra(pilaTokens& lexico, const std::vector<Patron>& patrones) {
 }
 
 TEST(Reconocimiento, GanaElMasLargoYLuegoElPrimero) {
+    struct Caso {
+        std::vector<Patron> patrones;
+        std::u16string texto, mapa;
+    };
     const std::vector<Patron> palabras = {{u"if", u"if"}, {u"in", u"in"}, {u"id", u"[a-z]+"}};
-    const std::tuple<std::vector<Patron>, std::u16string, std::u16string> casos[] = {
+    const Caso casos[] = {
         {palabras, u"if ifx print", u"1 2 if\n4 3 id\n8 5 id\n10 2 in\n"},
         {{{u"id", u"[a-z]+"}, {u"if", u"if"}}, u"if", u"1 2 id\n"},
         {{{u"menos", u"\\-"}, {u"flecha", u"\\-\\>"}}, u"->-", u"1 2 flecha\n3 1 menos\n"},
+        {{{u"flecha", u"\\-\\>"}, {u"menos", u"\\-"}}, u"->-", u"1 2 flecha\n3 1 menos\n"},
         {{{u"a", u"x"}, {u"b", u"x"}}, u"x", u"1 1 a\n"},
+        {{{u"b", u"[x]"}, {u"a", u"x"}}, u"x", u"1 1 b\n"},
         {{{u"doble", u"=="}}, u"===== =", u"1 2 doble\n3 2 doble\n"},
         {{{u"doble", u"aba", false}, {u"una", u"b"}},
          u"aBAbAba",
          u"1 3 doble\n4 1 una\n5 3 doble\n6 1 una\n"},
+        {{{u"enie", u"año", false}}, u"AÑO AñO aÑ", u"1 3 enie\n5 3 enie\n"},
         {{{u"vacio", u"a*"}}, u"baa", u"1 0 vacio\n2 2 vacio\n4 0 vacio\n"},
+        {{{u"vacio", u""}, {u"b", u"b"}}, u"ab", u"1 0 vacio\n2 1 b\n3 0 vacio\n"},
         {{{u"largo", u"ab"}, {u"otro", u"bc"}}, u"abc", u"1 2 largo\n2 2 otro\n"},
+        {palabras, u"", u""},
         {palabras, u"123 \r\n", u""},
         {{}, u"abc", u""},
     };
-    for (const auto& [patrones, texto, mapa] : casos) {
+    for (const Caso& caso : casos) {
         pilaTokens lexico;
-        registra(lexico, patrones);
-        EXPECT_EQ(lexico.ReconoceTokens(texto).toString(), mapa) << aUtf8(texto);
+        registra(lexico, caso.patrones);
+        EXPECT_EQ(lexico.ReconoceTokens(caso.texto).toString(), caso.mapa) << aUtf8(caso.texto);
     }
 }
 
 TEST(Reconocimiento, SoloVeElTramoPedido) {
     pilaTokens lexico;
     registra(lexico, {{u"id", u"[a-z]+"}, {u"fin", u"[0-9]$"}});
-    const std::tuple<std::int16_t, std::int16_t, std::u16string> casos[] = {
+    struct Caso {
+        std::int16_t inicio, fin;
+        std::u16string mapa;
+    };
+    const Caso casos[] = {
         {5, 9, u"5 3 id\n8 1 fin\n"}, {2, 4, u"2 2 id\n"}, {4, 4, u""},
         {8, 100, u"10 1 fin\n"},      {50, 60, u""},       {-1, 3, u"1 2 id\n"},
         {9, -1, u"10 1 fin\n"},
     };
-    for (const auto& [inicio, fin, mapa] : casos)
-        EXPECT_EQ(lexico.ReconoceTokens(u"abc efg1 2", inicio, fin).toString(), mapa) << inicio << " " << fin;
+    for (const Caso& caso : casos)
+        EXPECT_EQ(lexico.ReconoceTokens(u"abc efg1 2", caso.inicio, caso.fin).toString(), caso.mapa)
+            << caso.inicio << " " << caso.fin;
     EXPECT_FALSE(lexico.mapaTokens().en(-5) || lexico.mapaTokens().en(1) || lexico.mapaTokens().en(1000));
     EXPECT_THROW(lexico.ReconoceTokens(u"abc", 0, 2), ArgumentoNoValido);
     EXPECT_THROW(lexico.ReconoceTokens(u"abc", 3, 2), ArgumentoNoValido);
@@ -131,3 +144,4 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
 }
 
 } // namespace
+} // namespace norvik

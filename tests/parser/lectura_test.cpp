@@ -102,12 +102,17 @@ TEST(Lectura, UnTextoDemasiadoLargoNoSeLeeYElLectorSigueUtil) {
     EXPECT_EQ(lee(lector, false), u"id:ab(1,1) Norvik_ERROR:#(1,3) ");
 }
 
-TEST(PilaSLR, LineasYColumnasTienenSuMedida) {
+TEST(PilaSLR, GuardaEstadoLineaYColumna) {
     pilaSLR pila;
     EXPECT_EQ(pila.POP() + pila.cima() + pila.cimaLineas() + pila.cimaColumnas(), 0);
+    pila.PUSH(5, 3, 7);
     pila.PUSH(9, 32768, -32769);
     EXPECT_THROW(pila.cimaLineas(), Desbordamiento);
     EXPECT_THROW(pila.cimaColumnas(), Desbordamiento);
+    EXPECT_EQ(pila.POP(), 9);
+    EXPECT_EQ(pila.cima(), 5);
+    EXPECT_EQ(pila.cimaLineas(), 3);
+    EXPECT_EQ(pila.cimaColumnas(), 7);
     pila.POP(4);
     EXPECT_TRUE(pila.esVacia());
 }

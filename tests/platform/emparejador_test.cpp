@@ -5,8 +5,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace norvik;
-
+namespace norvik {
 namespace {
 
 using apoyo::repite;
@@ -63,48 +62,77 @@ TEST(Emparejador, EntiendeElDialecto) {
     using namespace std::string_view_literals;
     const Fila filas[] = {
         {u"", u"ab", "0: 1: 2:"},
+        {u"a*", u"aab", "0:aa 2: 3:"},
+        {u"if|i|ifx", u"ifx", "0:if"},
+        {u"[A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*", u"9año_1 b", "1:año_1 7:b"},
+        {u"//.*(\n|$)", u"a//b\r\n//c", "1://b\r\n 6://c"},
+        {u"a.b", u"a\rb a\nb axb", "0:a\rb 8:axb"},
+        {u"\"[^\"]*\"", u"\"a\nb\" \"\" \"c", "0:\"a\nb\" 6:\"\""},
+        {u"^a|a$", u"aaa", "0:a 2:a"},
         {u"a$", u"a\n", ""},
         {u"a{b", u"a{b", "0:a{b"},
         {u"a{,2}", u"a{,2}a", "0:a{,2}"},
         {u"a{1", u"a{1", "0:a{1"},
         {u"{}]", u"{}]", "0:{}]"},
         {u"x*{", u"xx{", "0:xx{"},
+        {u"a{2}", u"aaaaa", "0:aa 2:aa"},
+        {u"a{2,}", u"aaaaa", "0:aaaaa"},
+        {u"a{2,3}?", u"aaaaa", "0:aa 2:aa"},
+        {u"a{0}b", u"ab", "1:b"},
+        {u"<.+?>", u"<a><b>", "0:<a> 3:<b>"},
+        {u"a??b", u"ab", "0:ab"},
+        {u"[=+=]", u"=+", "0:= 1:+"},
         {u"[[:a]", u"[:", "0:[ 1::"},
         {u"[^]", u"a\n", "0:a 1:\n"},
         {u"[]", u"a]", ""},
         {u"[]a]", u"a]", ""},
         {u"[a-]", u"a-b", "0:a 1:-"},
+        {u"[-a]", u"a-b", "0:a 1:-"},
+        {u"[a-c-e]", u"bde-", "0:b 2:e 3:-"},
         {u"[+--]", u",", "0:,"},
         {u"[\\d-z]", u"5-y", "0:5 1:-"},
         {u"[a-\\d]", u"5-b", "0:5 1:-"},
         {u"[a^\\]]", u"^]", "0:^ 1:]"},
         {u"[\\b]", u"b\b", "1:\b"},
+        {u"[\\x41-\\u0043]", u"ABCD", "0:A 1:B 2:C"},
         {u"\\bno\\b", u"noño no", "5:no"},
         {u"\\Bo", u"o no", "3:o"},
+        {u"\\w+", u"año_1-Ж", "0:año_1 6:Ж"},
         {u"\\W", u"aé ", "2: "},
         {u"\\d+\\D", u"12٣x", "0:12٣x"},
-        {u"\\0", u"a\0"sv, "1:\0"s},
-        {u"\\1(a)", u"aa", "0:a 1:a"},
-        {u"ñ", u"Ññ", "0:Ñ 1:ñ", true},
-        {u"(é)\\1", u"éÉ", "0:éÉ", true},
-        {u"(?=b)c*b+", u"abA", "1:b"},
-        {u"[A-Za-zÑñ_]([0-9]|[A-Za-zÑñ_])*", u"9año_1 b", "1:año_1 7:b"},
-        {u"//.*(\n|$)", u"a//b\r\n//c", "1://b\r\n 6://c"},
-        {u"a.b", u"a\rb a\nb axb", "0:a\rb 8:axb"},
-        {u"\"[^\"]*\"", u"\"a\nb\" \"\" \"c", "0:\"a\nb\" 6:\"\""},
-        {u"<.+?>", u"<a><b>", "0:<a> 3:<b>"},
-        {u"[a-c-e]", u"bde-", "0:b 2:e 3:-"},
-        {u"[\\x41-\\u0043]", u"ABCD", "0:A 1:B 2:C"},
-        {u"\\w+", u"año_1-Ж", "0:año_1 6:Ж"},
-        {u"\\s\\S", u"\u00A0z", "0:\u00A0z"},
+        {u"\\s\\S", u"\u00A0a",
+         "0:\u00A0"
+         "a"},
         {u"\\v\\f\\t\\r\\n", u"\v\f\t\r\n", "0:\v\f\t\r\n"},
         {u"\\x41\\u00d1\\-\\.\\_", u"AÑ-._", "0:AÑ-._"},
+        {u"\\0", u"a\0"sv, "1:\0"s},
+        {u"a(?=b)", u"abac", "0:a"},
+        {u"a(?!b)", u"abac", "2:a"},
+        {u"(?=a)*ab", u"ab", "0:ab"},
+        {u"(a)\\1", u"aab", "0:aa"},
+        {u"(a)|b\\1", u"ba", "0:b 1:a"},
+        {u"\\1(a)", u"aa", "0:a 1:a"},
+        {u"(a\\1)", u"aa", "0:a 1:a"},
+        {u"(?:(a)|b)*\\1", u"abab", "0:abab 4:"},
+        {u"(?:(a)|(b)\\1)+", u"aba", "0:aba"},
         {u"(z)((a+)?(b+)?(c))*\\3", u"zaacbbbcac", "0:zaacbbbc"},
+        {u"(?!(a)b)\\1c", u"c", "0:c"},
         {u"(?=(a+))a*b\\1", u"baaabac", "3:aba"},
         {u"(?=(a+))", u"baaabac", "1: 2: 3: 5:"},
         {u"(.*?)a(?!(a+)b\\2c)\\2(.*)", u"baaabaac", "0:baaabaac"},
+        {u"(|a)*b", u"aab", "0:aab"},
+        {u"(|a)+", u"aab", "0:aa 2: 3:"},
+        {u"(a*)*b", u"aaab", "0:aaab"},
+        {u"(?:a*?)*b", u"aab", "0:aab"},
+        {u"(?:|a){2}b", u"aab", "0:aab"},
+        {u"ñ", u"Ññ", "0:Ñ 1:ñ", true},
+        {u"if", u"IF iF", "0:IF 3:iF", true},
         {u"[a-z]+", u"aK\u212AS\u017F", "0:aK\u212AS\u017F", true},
         {u"[^k]", u"kK\u212Aj", "3:j", true},
+        {u"(é)\\1", u"éÉ", "0:éÉ", true},
+        {u"(if|i) *f", u"if", "0:if"},
+        {u"(==|=)b*=", u"==", "0:=="},
+        {u"(?=b)c*b+", u"abA", "1:b"},
     };
     for (const Fila& fila : filas)
         EXPECT_EQ(busca(fila.patron, fila.sujeto, fila.ignora), fila.esperado) << aUtf8(fila.patron);
@@ -158,3 +186,4 @@ TEST(Emparejador, UnaBusquedaDesbocadaSeDiceATiempo) {
 }
 
 } // namespace
+} // namespace norvik

@@ -2,8 +2,14 @@
 #include "norvik/tools/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
-#include <QtWidgets>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +17,8 @@ using namespace norvik;
 
 namespace {
 
-struct DialogosBusquedaTest : testing::Test {
+class DialogosBusquedaTest : public testing::Test {
+public:
     DialogosBusquedaTest() {
         estadoBusqueda() = {};
         norvik.resize(300, 200);
@@ -24,6 +31,7 @@ struct DialogosBusquedaTest : testing::Test {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+protected:
     static QDialog* abierto() {
         QDialog* hallado = nullptr;
         for (QWidget* v : QApplication::topLevelWidgets()) {
@@ -39,7 +47,13 @@ struct DialogosBusquedaTest : testing::Test {
         en<QComboBox>(dialogo, lista).setEditText(QString());
         QTest::keyClicks(en<QComboBox>(dialogo, lista).lineEdit(), texto);
     }
-    QString seleccion() const {
+    static QString titulos(QWidget* dialogo) {
+        QString todos;
+        for (const QAbstractButton* b : dialogo->findChildren<QAbstractButton*>())
+            todos += b->text() + (b->isEnabled() ? "|" : "-|");
+        return todos;
+    }
+    QString seleccion() {
         const QString texto = norvik.Text();
         return texto.left(norvik.SelStart()) + '[' + norvik.SelText() + ']' +
                texto.mid(norvik.SelStart() + norvik.SelLength());
@@ -62,9 +76,14 @@ TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
     EXPECT_FALSE(dialogo->isModal());
     EXPECT_TRUE(dialogo->windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_FALSE(norvik.caja().ocultaSeleccion());
+    EXPECT_EQ(titulos(dialogo),
+              "Sólo palabras completas|Coincidir mayúsculas y minúsculas|Texto seleccionado-|"
+              "Todo del texto-|Texto no selecciona.-|Buscar &siguiente|&Cancelar|"
+              "&Reemplazar ...-|");
     auto& lista = en<QComboBox>(dialogo, "Combo1");
     EXPECT_EQ(lista.count(), 2);
     EXPECT_EQ(lista.currentText(), "uno");
+    EXPECT_EQ(en<QComboBox>(dialogo, "Combo2").currentText(), "Todo");
     EXPECT_TRUE(lista.lineEdit()->hasFocus());
     escribe(dialogo, "Combo1", "");
     EXPECT_FALSE(en<QPushButton>(dialogo, "Command1").isEnabled());
@@ -132,6 +151,7 @@ TEST_F(DialogosBusquedaTest, Reemplazar) {
     estadoBusqueda().ultimaBusqueda = u"ab";
     sistema.usos.emplace_back([&](QWidget& d) {
         EXPECT_EQ(d.windowTitle(), "Reemplazar");
+        EXPECT_TRUE(titulos(&d).endsWith("Buscar &siguiente|&Reemplazar|Reemplazar &todo|&Cancelar|"));
         EXPECT_FALSE(norvik.caja().ocultaSeleccion());
         QString recorrido;
         for (int i = 0; i < 9; ++i) {

@@ -123,10 +123,16 @@ TEST(CargaGramatica, UnaDefinicionQueFallaNoDetieneALasDemas) {
 TEST(CargaGramatica, TrasUnFalloQuedaElLenguajeDeEspecificacion) {
     Anfitrion a;
     a.norvik.MuestraMensajesDeError(true);
+    a.norvik.MarcarErrores(true);
+    a.norvik.Text(u"uno\r\ndos");
     EXPECT_FALSE(a.norvik.CargaGramatica(u"ExpReg\r\n= ;"));
     EXPECT_EQ(mensajes(a.sistema.mensajes),
               "ERROR de Sintaxis: Error: Se ha encontrado '=' (Línea 2, Columna 1). Se "
               "esperaba identificador.\n");
+    std::string marcados; // the line of the specification, in the editor
+    for (const auto& tramo : a.caja.colores())
+        if (tramo.color != 0) marcados += std::to_string(tramo.inicio) + '+' + std::to_string(tramo.longitud);
+    EXPECT_EQ(marcados, "5+3");
     EXPECT_EQ(a.norvik.GetCodigoError(), 2);
     EXPECT_EQ(a.norvik.Gramatica().getNumReglas(), 28);
     EXPECT_TRUE(a.analiza(u"ExpReg a = \"x\";")); // ready to be used
