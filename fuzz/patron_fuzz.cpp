@@ -1,6 +1,6 @@
 // The pattern check, and a search with every pattern that passes it. The first byte chooses whether case is
 // ignored and how many of the units that follow are the pattern; the rest is the text.
-#include "norvik/platform/emparejador.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <cstddef>
 #include <cstdint>

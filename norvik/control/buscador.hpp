@@ -1,7 +1,7 @@
 #pragma once
 
 #include "norvik/control/estadoBusqueda.hpp"
-#include "norvik/platform/emparejador.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <array>
 #include <functional>

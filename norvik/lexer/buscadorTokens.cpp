@@ -7,7 +7,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
-#include "norvik/platform/patronClase.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
 #include <algorithm>
 #include <bit>

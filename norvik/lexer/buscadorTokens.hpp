@@ -2,8 +2,8 @@
 
 #include "norvik/lexer/indicePalabras.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
-#include "norvik/platform/emparejador.hpp"
-#include "norvik/platform/patronConjunto.hpp"
+#include "norvik/pattern/emparejador.hpp"
+#include "norvik/pattern/patronConjunto.hpp"
 
 #include <array>
 #include <cstdint>

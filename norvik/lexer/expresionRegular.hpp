@@ -1,7 +1,7 @@
 #pragma once
 
 #include "norvik/lexer/tipos.hpp"
-#include "norvik/platform/emparejador.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <cstdint>
 #include <optional>

@@ -6,7 +6,7 @@
 // occurrence, so that its occurrences do not overlap, exactly as if it had been searched alone.
 #include "norvik/lexer/indicePalabras.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 

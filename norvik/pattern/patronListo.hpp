@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/platform/patron.hpp"
+#include "norvik/pattern/patron.hpp"
 
 namespace norvik {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/platform/patronPrograma.hpp"
+#include "norvik/pattern/patronPrograma.hpp"
 
 #include <array>
 #include <cstdint>

@@ -3,7 +3,7 @@
 // The relation is that of Unicode's simple case pairs, closed: K, k and the Kelvin sign agree, so do the
 // three sigmas. It is stored as a map from each unit to the first one of its set, written as runs of units
 // that go up in step with their images, and unfolded by the compiler into one table.
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 #include <array>

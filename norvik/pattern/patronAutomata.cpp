@@ -11,7 +11,7 @@
 // same place stops. The short ones of definitions that are nearly alike (a name that is no type name, because
 // it ends otherwise) go over a word once and not once from each of its letters. Units that no class of the
 // pattern tells apart share a column.
-#include "norvik/platform/patronAutomata.hpp"
+#include "norvik/pattern/patronAutomata.hpp"
 
 #include <algorithm>
 #include <bit>

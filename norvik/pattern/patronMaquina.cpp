@@ -6,9 +6,9 @@
 // try and the former values of registers (positions of captures, counters of loops): undoing goes back
 // through it until there is something to try. Nothing recurses. The cost is that of backtracking, so steps
 // and stack are bounded and the clock is looked at now and then.
-#include "norvik/platform/patronMaquina.hpp"
+#include "norvik/pattern/patronMaquina.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 

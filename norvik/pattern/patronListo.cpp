@@ -4,9 +4,9 @@
 // long as nothing refers to a capture, a group of alternatives of one unit each is a class, a group without
 // alternatives and without repetition is its body, and a capture is a plain group: matches stay what they
 // were, in the same order.
-#include "norvik/platform/patronListo.hpp"
+#include "norvik/pattern/patronListo.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 

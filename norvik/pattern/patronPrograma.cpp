@@ -3,7 +3,7 @@
 // A repetition whose body always takes something and that counts no more than "none or one at least" is a
 // branch and a jump; any other is a loop that counts its turns, remembers where each began and forgets the
 // captures of its body.
-#include "norvik/platform/patronPrograma.hpp"
+#include "norvik/pattern/patronPrograma.hpp"
 
 #include <algorithm>
 #include <optional>

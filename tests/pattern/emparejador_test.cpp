@@ -1,4 +1,4 @@
-#include "norvik/platform/emparejador.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include "apoyo/repite.hpp"
 #include "norvik/base/texto.hpp"

@@ -3,9 +3,9 @@
 // One pass over the text, a piece at a time, with the open groups on a stack of their own. What the dialect
 // does not know is malformed here, so that nothing downstream has to refuse a pattern. A repetition joins the
 // piece or the group just finished; after it, or after an assertion, there is nothing to repeat.
-#include "norvik/platform/patron.hpp"
+#include "norvik/pattern/patron.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 

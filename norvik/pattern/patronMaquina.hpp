@@ -1,7 +1,7 @@
 #pragma once
 
-#include "norvik/platform/emparejador.hpp"
-#include "norvik/platform/patronPrograma.hpp"
+#include "norvik/pattern/emparejador.hpp"
+#include "norvik/pattern/patronPrograma.hpp"
 
 #include <cstdint>
 #include <optional>

@@ -5,7 +5,7 @@
 // once. A member leaves the list when it can go no further; the last place where it accepted is its match. A
 // stay in one state is walked without looking at anything else. What is rare is left to the members alone:
 // long walks, the end of the text, characters beyond the first 256, and more states than are worth keeping.
-#include "norvik/platform/patronConjunto.hpp"
+#include "norvik/pattern/patronConjunto.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/platform/patronListo.hpp"
+#include "norvik/pattern/patronListo.hpp"
 
 #include <cstdint>
 #include <initializer_list>

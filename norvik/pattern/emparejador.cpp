@@ -7,12 +7,12 @@
 //    another way gives up.
 // All but reading the pattern is left to the first search, so that definitions cost little to file. A search
 // tries the positions from left to right; where the pattern cannot begin, one look-up tells.
-#include "norvik/platform/emparejador.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
-#include "norvik/platform/patronAutomata.hpp"
-#include "norvik/platform/patronMaquina.hpp"
-#include "norvik/platform/patronPcre.hpp"
+#include "norvik/pattern/mayusculas.hpp"
+#include "norvik/pattern/patronAutomata.hpp"
+#include "norvik/pattern/patronMaquina.hpp"
+#include "norvik/pattern/patronPcre.hpp"
 
 #include <algorithm>
 #include <functional>

@@ -1,5 +1,5 @@
-#include "norvik/platform/mayusculas.hpp"
-#include "norvik/platform/pcre2.hpp"
+#include "norvik/pattern/mayusculas.hpp"
+#include "norvik/pattern/pcre2.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "norvik/platform/patronAutomata.hpp"
-#include "norvik/platform/patronListo.hpp"
-#include "norvik/platform/pcre2.hpp"
+#include "norvik/pattern/patronAutomata.hpp"
+#include "norvik/pattern/patronListo.hpp"
+#include "norvik/pattern/pcre2.hpp"
 
 #include <optional>
 #include <string>

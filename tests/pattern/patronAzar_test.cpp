@@ -1,9 +1,9 @@
 // Random small patterns on random texts: every way of matching agrees with a matcher written down straight
 // from the definition of the dialect, with functions that go on.
-#include "norvik/platform/emparejador.hpp"
-#include "norvik/platform/mayusculas.hpp"
-#include "norvik/platform/patronMaquina.hpp"
-#include "norvik/platform/patronPcre.hpp"
+#include "norvik/pattern/emparejador.hpp"
+#include "norvik/pattern/mayusculas.hpp"
+#include "norvik/pattern/patronMaquina.hpp"
+#include "norvik/pattern/patronPcre.hpp"
 
 #include "norvik/base/texto.hpp"
 

@@ -6,7 +6,7 @@
 // given to it. Matches are tried at one position at a time, so that the search for a start, where
 // version 10.42 goes wrong for patterns like (if|i) *f, is ours. A reached limit is no answer: the exact
 // machine then decides.
-#include "norvik/platform/patronPcre.hpp"
+#include "norvik/pattern/patronPcre.hpp"
 
 #include <algorithm>
 #include <new>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/platform/patronAutomata.hpp"
+#include "norvik/pattern/patronAutomata.hpp"
 
 #include <array>
 #include <bit>

@@ -1,6 +1,6 @@
-#include "norvik/platform/patronClase.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
-#include "norvik/platform/mayusculas.hpp"
+#include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 

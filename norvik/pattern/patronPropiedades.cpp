@@ -1,9 +1,9 @@
 // The sets that \d, \w and \s name, and the letters, are those of the PCRE2 library: each is found at its
 // first use by one search over all units, so that what we compute ourselves and what the library computes
 // cannot differ.
-#include "norvik/platform/patronClase.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
-#include "norvik/platform/pcre2.hpp"
+#include "norvik/pattern/pcre2.hpp"
 
 #include <array>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/platform/patronClase.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
 #include <cstdint>
 #include <optional>
