@@ -1,5 +1,6 @@
 #pragma once
 
+#include "norvik/base/diagnostico.hpp"
 #include "norvik/lexer/buscadorTokens.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
@@ -15,6 +16,17 @@
 #include <vector>
 
 namespace norvik {
+
+/// A definition as it is written.
+struct DefinicionTexto {
+    std::u16string_view texto;
+    std::u16string_view nombre;
+    bool esToken = false;
+    bool sensibleTamanio = false;
+    std::u16string_view pseudoToken;
+    std::int16_t tipo = Norvik_ExpReg;
+    std::int32_t base = Norvik_SinBase;
+};
 
 /// The lexer: the definitions of a language in registration order, their colours, and recognition.
 class pilaTokens {
@@ -48,9 +60,10 @@ public:
     }
     const std::vector<const expresionRegular*>& tokensLenguaje() const { return tokensLenguaje_; }
 
-    /// Registers a definition. Returns the message of the first error, empty on success; on error nothing is
-    /// registered. The colour comes from the kind, `colorOpcional` has no effect. Raises `Desbordamiento`
-    /// beyond 32 767 definitions.
+    /// Registers a definition, with the colour of its kind. Returns its first error, without a place; nothing
+    /// is registered then. Raises `Desbordamiento` beyond 32 767 definitions.
+    std::optional<Diagnostico> registra(const DefinicionTexto& definicion);
+    /// The same, with the error as its message, empty on success. `colorOpcional` has no effect.
     std::u16string SetER(std::u16string_view expresionRegular, std::u16string_view nomER, bool esToken,
                          bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
                          std::int32_t base, std::int32_t colorOpcional);

@@ -1,11 +1,9 @@
 // Registration of token definitions: expansion, check of the pattern, colour of the kind.
 #include "norvik/base/errores.hpp"
-#include "norvik/base/texto.hpp"
 #include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <cstdint>
-#include <initializer_list>
 #include <limits>
 #include <utility>
 
@@ -13,59 +11,50 @@ namespace norvik {
 
 namespace {
 
-// What a message says of a definition.
-struct Definicion {
-    std::u16string_view texto;
-    std::u16string_view nombre;
-};
-
-std::u16string une(std::initializer_list<std::u16string_view> piezas) {
-    std::u16string texto;
-    for (const auto pieza : piezas) texto.append(pieza);
-    return texto;
-}
-
-std::u16string mensajeDe(const ErrorExpansion& error, const Definicion& definicion) {
-    const std::u16string_view referencia = error.referencia;
+Diagnostico diagnosticoDe(const ErrorExpansion& error, const DefinicionTexto& definicion) {
+    Diagnostico diagnostico;
+    diagnostico.partes.nombre = definicion.nombre;
     switch (error.causa) {
     case ErrorExpansion::Causa::CodigoMalEscrito:
-        return une(
-            {u"Error en el uso del operador codAscii (sintaxis: '\\c(numero)') en la expresión regular '",
-             definicion.nombre, u"'."});
+        diagnostico.codigo = Codigo::CodigoMalEscrito;
+        break;
     case ErrorExpansion::Causa::ReferenciaDesconocida:
-        return une({u"Error en la invocación de la expresión regular '", referencia,
-                    u"' desde la expresión regular '", definicion.nombre, u"'.", saltoDeLinea,
-                    u"La expresión regular '", referencia, u"' o no existe o no se ha definido antes que '",
-                    definicion.nombre, u"'."});
+        diagnostico.codigo = Codigo::ReferenciaDesconocida;
+        diagnostico.partes.hallado = error.referencia;
+        break;
     case ErrorExpansion::Causa::Incorrecta:
+        diagnostico.codigo = Codigo::PatronIncorrecto;
+        diagnostico.partes.hallado = definicion.texto;
         break;
     }
-    return une({u"La definición de la expresión regular '", definicion.nombre, u"':", saltoDeLinea, u"\t\t",
-                definicion.texto, saltoDeLinea,
-                u"es incorrecta. Revísela para obtener un análisis léxico adecuado."});
+    return diagnostico;
 }
 
 } // namespace
 
-std::u16string pilaTokens::SetER(std::u16string_view expresionRegular, std::u16string_view nomER,
-                                 bool esToken, bool sensibleTamanio, std::u16string_view pseudoToken,
-                                 std::int16_t tipo, std::int32_t base, std::int32_t /*colorOpcional*/) {
-    const Definicion definicion{expresionRegular, nomER};
-    const auto expansion = expande(expresionRegular, *this);
+std::optional<Diagnostico> pilaTokens::registra(const DefinicionTexto& definicion) {
+    const auto expansion = expande(definicion.texto, *this);
     if (const auto* const error = std::get_if<ErrorExpansion>(&expansion))
-        return mensajeDe(*error, definicion);
+        return diagnosticoDe(*error, definicion);
     const auto& [patron, lectura] = std::get<Expansion>(expansion);
-    auto nueva = std::make_unique<norvik::expresionRegular>();
-    const auto incorrecta = [&] { return mensajeDe(ErrorExpansion{}, definicion); };
+    auto nueva = std::make_unique<expresionRegular>();
     try {
-        if (!nueva->SetExpReg(patron, nomER, esToken, sensibleTamanio, pseudoToken, tipo, base, lectura))
-            return incorrecta();
+        if (!nueva->SetExpReg(patron, definicion.nombre, definicion.esToken, definicion.sensibleTamanio,
+                              definicion.pseudoToken, definicion.tipo, definicion.base, lectura))
+            return diagnosticoDe({}, definicion);
     } catch (const ErrorNorvik&) {
-        return incorrecta();
+        return diagnosticoDe({}, definicion);
     }
-    nueva->SetColor(colorDeTipo(tipo));
-    archiva(std::move(nueva), esToken);
-    return {};
+    nueva->SetColor(colorDeTipo(definicion.tipo));
+    archiva(std::move(nueva), definicion.esToken);
+    return std::nullopt;
+}
+
+std::u16string pilaTokens::SetER(std::u16string_view texto, std::u16string_view nomER, bool esToken,
+                                 bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
+                                 std::int32_t base, std::int32_t /*colorOpcional*/) {
+    const auto error = registra({texto, nomER, esToken, sensibleTamanio, pseudoToken, tipo, base});
+    return error ? mensaje(*error) : std::u16string();
 }
 
 std::u16string pilaTokens::SetPalabraReservada(std::u16string_view lexema, std::u16string_view token,

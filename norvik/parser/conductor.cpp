@@ -5,7 +5,7 @@
 #include "norvik/parser/conductor.hpp"
 
 #include "norvik/base/numeros.hpp"
-#include "norvik/base/texto.hpp"
+#include "norvik/base/palabras.hpp"
 #include "norvik/parser/constructorArbol.hpp"
 #include "norvik/parser/lectorTokens.hpp"
 #include "norvik/parser/pilaSLR.hpp"
@@ -168,15 +168,15 @@ bool ConductorSLR::analiza(const FuenteTexto& fuente, Lineas lineas) {
 
 Mensaje ConductorSLR::informaErrorLexico() {
     codigoError_ = errorLexico;
-    mensajeError_ = u"Error " + lector_.DameStringLineaColumnaToken() + u": caracter '" +
-                    lector_.ultimoLexema() + u"' incorrecto.";
+    mensajeError_ =
+        palabras::errorLexico(lector_.LineaToken(), lector_.ColumnaToken(), lector_.ultimoLexema());
     return {mensajeError_, u"ERROR Léxico", Icono::Exclamacion, Botones::Aceptar};
 }
 
 Mensaje ConductorSLR::informaErrorSintactico(std::int16_t estado) {
     codigoError_ = errorSintactico;
-    mensajeError_ = u"Error: " + lector_.DameStringTokenLeido() + u". Se esperaba " +
-                    gramatica_.toStringEsperados(estado, lexico_) + u".";
+    mensajeError_ = palabras::errorSintactico(lector_.DameStringTokenLeido(),
+                                              gramatica_.toStringEsperados(estado, lexico_));
     return {mensajeError_, u"ERROR de Sintaxis", Icono::Exclamacion, Botones::Aceptar};
 }
 

@@ -1,32 +1,15 @@
-// Reading is a walk over the map of one recognition: at each position either a token starts, or a blank is
-// skipped, or the character is an error. An empty match inside the text counts as absent, else reading would
-// never leave it; at the very end it is a token, once.
+// Reading is a walk over the map of one recognition. An empty match at the very end of the text is a token,
+// once.
 #include "norvik/parser/lectorTokens.hpp"
 
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/palabras.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <utility>
 
 namespace norvik {
-
-namespace {
-
-constexpr bool esBlanco(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
-}
-
-constexpr bool esComentario(std::int16_t tipo) {
-    return tipo == Norvik_ComentarioBloque || tipo == Norvik_ComentarioLinea;
-}
-
-std::u16string_view sinDelimitadores(std::u16string_view lexema, std::int16_t tipo) {
-    const bool literal = tipo == Norvik_Cadena || tipo == Norvik_Caracter;
-    return literal && lexema.size() > 2 ? lexema.substr(1, lexema.size() - 2) : lexema;
-}
-
-} // namespace
 
 LectorTokens::LectorTokens(pilaTokens& lexico, const FuenteTexto& editor)
     : lexico_(lexico), editor_(editor), ultimaFuente_(&editor) {}
@@ -40,32 +23,15 @@ void LectorTokens::inicializa(const FuenteTexto& fuente) {
 
 void LectorTokens::lee(const FuenteTexto& fuente) {
     ultimaFuente_ = &fuente;
-    const auto texto = fuente.texto();
-    const MapaTokens& mapa = lexico_.mapaTokens();
-    while (posLectura_ <= static_cast<std::int32_t>(texto.size())) {
-        inicioToken_ = posLectura_;
-        const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
-        if (celda == nullptr || celda->longitud() == 0) {
-            const auto caracter = texto.substr(static_cast<std::size_t>(posLectura_) - 1, 1);
-            if (!esBlanco(caracter.front())) {
-                leido_ = {TokenLeido::desconocido, caracter};
-                return;
-            }
-            ++posLectura_;
-            continue;
-        }
-        const std::int16_t tipo =
-            lexico_.tokensLenguaje()[static_cast<std::size_t>(celda->definicion())]->tipo;
-        posLectura_ += celda->longitud();
-        if (esComentario(tipo)) continue;
-        leido_ = {celda->definicion(), sinDelimitadores(mapa.texto(*celda), tipo)};
-        return;
-    }
-    leeFinal();
+    const Lectura lectura =
+        leeDesde(posLectura_, fuente.texto(), lexico_.mapaTokens(), lexico_.tokensLenguaje());
+    leido_ = lectura.leido;
+    inicioToken_ = lectura.inicio;
+    posLectura_ = lectura.fin;
+    if (leido_.definicion == TokenLeido::fin) leeFinal();
 }
 
 void LectorTokens::leeFinal() {
-    inicioToken_ = posLectura_;
     MapaTokens& mapa = lexico_.mapaTokens();
     const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
     leido_ = celda == nullptr ? TokenLeido{TokenLeido::fin, tokenFin}
@@ -111,14 +77,14 @@ std::int32_t LectorTokens::ColumnaToken() const {
 }
 
 std::u16string LectorTokens::DameStringLineaColumnaToken() const {
-    return u"(Línea " + aTexto(LineaToken()) + u", Columna " + aTexto(ColumnaToken()) + u")";
+    return palabras::lineaColumna(LineaToken(), ColumnaToken());
 }
 
 std::u16string LectorTokens::DameStringTokenLeido() const {
     const std::u16string descripcion =
         ultimoToken_ == tokenFin ? u"el final del fichero"
                                  : lexico_.toStringPseudoTokenPorToken({ultimoLexema_, ultimoToken_});
-    return u"Se ha encontrado " + descripcion + u" " + DameStringLineaColumnaToken();
+    return palabras::tokenLeido(descripcion, LineaToken(), ColumnaToken());
 }
 
 } // namespace norvik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/lexer/parLT.hpp"
+#include "norvik/parser/lectura.hpp"
 #include "norvik/parser/textoInvisible.hpp"
 
 #include <cstdint>
@@ -15,16 +16,6 @@ class pilaTokens;
 /// The token names that the reader itself makes.
 inline constexpr std::u16string_view tokenFin = u"EOF";
 inline constexpr std::u16string_view tokenError = u"Norvik_ERROR";
-
-/// A token in the form that costs nothing: the definition by its place in registration order, and a view of
-/// the lexeme that holds until the next recognition or change of the text.
-struct TokenLeido {
-    static constexpr std::int32_t fin = -1;         ///< the end of the text
-    static constexpr std::int32_t desconocido = -2; ///< a character that starts no token
-
-    std::int32_t definicion = fin;
-    std::u16string_view lexema;
-};
 
 /// Where in the text a token starts; both are 1-based.
 struct Posicion {

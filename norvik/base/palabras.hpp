@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The fixed messages of a parse, of definitions and of the grammar check: programs compare and show them, so
+// that they stay to the letter. Lines and columns count from 1.
+namespace norvik::palabras {
+
+/// "(Línea 3, Columna 6)"
+std::u16string lineaColumna(std::int32_t linea, std::int32_t columna);
+std::u16string errorLexico(std::int32_t linea, std::int32_t columna, std::u16string_view caracter);
+/// `hallado` names the token that was read, with its place.
+std::u16string errorSintactico(std::u16string_view hallado, std::u16string_view esperados);
+std::u16string tokenLeido(std::u16string_view descripcion, std::int32_t linea, std::int32_t columna);
+
+std::u16string codigoMalEscrito(std::u16string_view definicion);
+std::u16string referenciaDesconocida(std::u16string_view definicion, std::u16string_view referencia);
+std::u16string patronIncorrecto(std::u16string_view definicion, std::u16string_view texto);
+std::u16string variableIndefinida(std::u16string_view variable, std::u16string_view cabeza);
+std::u16string busquedaDesbocada(std::u16string_view definicion);
+
+/// A text between apostrophes.
+std::u16string entreApostrofos(std::u16string_view texto);
+
+} // namespace norvik::palabras

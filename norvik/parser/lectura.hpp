@@ -1,0 +1,63 @@
+#pragma once
+
+#include "norvik/lexer/expresionRegular.hpp"
+#include "norvik/lexer/mapaTokens.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// A token in the form that costs nothing: the definition by its place in registration order, and a view of
+/// the lexeme that holds until the next recognition or change of the text.
+struct TokenLeido {
+    static constexpr std::int32_t fin = -1;         ///< the end of the text
+    static constexpr std::int32_t desconocido = -2; ///< a character that starts no token
+
+    std::int32_t definicion = fin;
+    std::u16string_view lexema;
+};
+
+/// One step of reading: the token, and where it starts and ends, 1-based.
+struct Lectura {
+    TokenLeido leido;
+    std::int32_t inicio = 1;
+    std::int32_t fin = 1;
+};
+
+constexpr bool esComentario(std::int16_t tipo) {
+    return tipo == Norvik_ComentarioBloque || tipo == Norvik_ComentarioLinea;
+}
+
+/// A literal's text; a lexeme of another kind stays as it is.
+constexpr std::u16string_view sinDelimitadores(std::u16string_view lexema, std::int16_t tipo) {
+    const bool literal = tipo == Norvik_Cadena || tipo == Norvik_Caracter;
+    return literal && lexema.size() > 2 ? lexema.substr(1, lexema.size() - 2) : lexema;
+}
+
+/// The token at a position of a recognised text or after it: blanks and comments are passed over, an empty
+/// match counts as absent, else reading would never leave it. A wrong character ends where it starts, so that
+/// reading stays there; at the end of the text stands `TokenLeido::fin`, whatever the map has there.
+inline Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
+                        const std::vector<const expresionRegular*>& definiciones) {
+    constexpr auto esBlanco = [](char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; };
+    while (posicion <= static_cast<std::int32_t>(texto.size())) {
+        const MapaTokens::Celda* const celda = mapa.celda(posicion);
+        if (celda == nullptr || celda->longitud() == 0) {
+            const auto caracter = texto.substr(static_cast<std::size_t>(posicion) - 1, 1);
+            if (!esBlanco(caracter.front())) return {{TokenLeido::desconocido, caracter}, posicion, posicion};
+            ++posicion;
+            continue;
+        }
+        const std::int16_t tipo = definiciones[static_cast<std::size_t>(celda->definicion())]->tipo;
+        const std::int32_t fin = posicion + celda->longitud();
+        if (!esComentario(tipo))
+            return {{celda->definicion(), sinDelimitadores(mapa.texto(*celda), tipo)}, posicion, fin};
+        posicion = fin;
+    }
+    return {{TokenLeido::fin, {}}, posicion, posicion};
+}
+
+} // namespace norvik
