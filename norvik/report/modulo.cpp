@@ -1,7 +1,7 @@
 #include "norvik/base/ficheros.hpp"
-#include "norvik/grammar/escritorLineas.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/report/escritorLineas.hpp"
 
 #include <algorithm>
 #include <cstdint>

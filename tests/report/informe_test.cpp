@@ -1,4 +1,4 @@
-#include "apoyoGramatica.hpp"
+#include "grammar/apoyoGramatica.hpp"
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
