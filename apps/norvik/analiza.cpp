@@ -26,10 +26,15 @@ int ejecuta(const Analiza& orden, Salida& salida) {
     Anfitrion anfitrion(salida);
     if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
     anfitrion.control.Text(texto);
-    if (anfitrion.control.ConstruyeArbolSintactico())
-        escribeArbol(anfitrion.control.GetArbolSintactico(), orden.formato, salida);
-    else
-        anfitrion.cuentaError(anfitrion.control.GetmensajeError(), texto);
+    Norvik& control = anfitrion.control;
+    if (control.ConstruyeArbolSintactico()) {
+        escribeArbol(control.GetArbolSintactico(), orden.formato, salida);
+        return anfitrion.estado();
+    }
+    const auto& error = control.GetDiagnostico();
+    if (error && orden.formato != FormatoArbol::Dibujo)
+        escribeJson({*error}, nombreDeFichero(orden.texto), salida);
+    anfitrion.cuentaError(control.GetmensajeError(), error, orden.texto, texto);
     return anfitrion.estado();
 }
 

@@ -1,7 +1,7 @@
 #include "anfitrion.hpp"
 
 #include "linea.hpp"
-#include "lugarDelError.hpp"
+#include "muestraError.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/spec/lectorModulo.hpp"
@@ -17,6 +17,10 @@ std::string leeBytesDe(const fs::path& fichero) {
 }
 
 } // namespace
+
+std::u16string nombreDeFichero(const fs::path& fichero) {
+    return fichero == flujo ? u"(entrada estándar)" : decodifica(fichero.native());
+}
 
 // What is too long for certain is not worth decoding: a character takes three bytes at most, and neither a
 // mark nor the last line end counts.
@@ -39,9 +43,10 @@ void Anfitrion::avisa(std::u16string_view mensaje) {
     salida_.avisa(mensaje);
 }
 
-bool Anfitrion::compila(std::u16string_view especificacion) {
+bool Anfitrion::compila(const fs::path& fichero) {
+    const std::u16string especificacion = leeTextoDe(fichero);
     if (!control.CargaGramatica(especificacion)) {
-        cuentaError(control.GetmensajeError(), especificacion);
+        cuentaError(control.GetmensajeError(), control.GetDiagnostico(), fichero, especificacion);
         return false;
     }
     return control.GeneraCompilador();
@@ -56,13 +61,14 @@ bool Anfitrion::replica(const fs::path& modulo) {
 }
 
 bool Anfitrion::cargaLenguaje(const fs::path& fichero) {
-    return esModulo(fichero) ? replica(fichero) : compila(leeTextoDe(fichero));
+    return esModulo(fichero) ? replica(fichero) : compila(fichero);
 }
 
-void Anfitrion::cuentaError(std::u16string_view mensaje, std::u16string_view texto) {
+void Anfitrion::cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,
+                            const fs::path& fichero, std::u16string_view texto) {
     avisa(mensaje);
-    if (!salida_.erroresEnTerminal()) return;
-    if (const auto lugar = lugarDelError(mensaje)) salida_.avisa(muestraLugar(texto, *lugar));
+    if (error && salida_.erroresEnTerminal())
+        salida_.avisa(muestraError(*error, nombreDeFichero(fichero), texto));
 }
 
 } // namespace norvik::orden

@@ -8,6 +8,7 @@
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace norvik::orden {
@@ -26,13 +27,14 @@ public:
     CajaTextoMemoria caja;
     Norvik control;
 
-    /// Compiles a language from a text, ready to parse. False when there is none to go on with; the reason
-    /// has been told.
-    bool compila(std::u16string_view especificacion);
+    /// Compiles a language from a file's text, ready to parse. False when there is none to go on with; the
+    /// reason has been told.
+    bool compila(const std::filesystem::path& fichero);
     /// The same of a file, which may be a loading module, by its ".bas" ending.
     bool cargaLenguaje(const std::filesystem::path& fichero);
-    /// Tells an error found in a text; a terminal is shown the place that the message names.
-    void cuentaError(std::u16string_view mensaje, std::u16string_view texto);
+    /// Tells an error found in a file's text; a terminal is shown its place, too.
+    void cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,
+                     const std::filesystem::path& fichero, std::u16string_view texto);
 
     /// 0, or 1 once something has been told to be wrong.
     int estado() const { return estado_; }
@@ -42,6 +44,8 @@ private:
     void avisa(std::u16string_view mensaje);
 };
 
+/// How messages call a file.
+std::u16string nombreDeFichero(const std::filesystem::path& fichero);
 /// A file's text, or standard input's, as the control loads it; raises `ErrorDeFichero`, and
 /// `TextoDemasiadoLargo` for one that no order can work with.
 std::u16string leeTextoDe(const std::filesystem::path& fichero);

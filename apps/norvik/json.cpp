@@ -32,9 +32,16 @@ public:
     }
     void cierraLista() { escritor_.EndArray(); }
     void campo(const char* clave, std::u16string_view texto) {
-        const std::string bytes = aUtf8(texto);
         escritor_.Key(clave);
+        elemento(texto);
+    }
+    void elemento(std::u16string_view texto) {
+        const std::string bytes = aUtf8(texto);
         escritor_.String(bytes.data(), static_cast<rapidjson::SizeType>(bytes.size()));
+    }
+    void abreObjeto(const char* clave) {
+        escritor_.Key(clave);
+        escritor_.StartObject();
     }
     void campo(const char* clave, std::int32_t numero) {
         escritor_.Key(clave);
@@ -60,6 +67,46 @@ void camposDeNodo(Escritor& escritor, const Arbol& nodo) {
         escritor.campo("linea", nodo.GetLinea());
         escritor.campo("columna", nodo.GetColumna());
     }
+}
+
+void campoDePunto(Escritor& escritor, const char* clave, const Punto& punto) {
+    escritor.abreObjeto(clave);
+    escritor.campo("linea", punto.linea);
+    escritor.campo("columna", punto.columna);
+    escritor.campo("desplazamiento", punto.desplazamiento);
+    escritor.cierraObjeto();
+}
+
+void campoDeRango(Escritor& escritor, const Rango& rango) {
+    escritor.abreObjeto("rango");
+    campoDePunto(escritor, "inicio", rango.inicio);
+    campoDePunto(escritor, "fin", rango.fin);
+    escritor.cierraObjeto();
+}
+
+void escribeDiagnostico(Escritor& escritor, const Diagnostico& diagnostico, std::u16string_view fichero) {
+    const Partes& partes = diagnostico.partes;
+    escritor.abreObjeto();
+    escritor.campo("codigo", nombreDe(diagnostico.codigo));
+    escritor.campo("gravedad", nombreDe(diagnostico.gravedad));
+    escritor.campo("mensaje", mensaje(diagnostico));
+    escritor.campo("fichero", fichero);
+    campoDeRango(escritor, diagnostico.rango);
+    escritor.campo("hallado", partes.hallado);
+    escritor.abreLista("esperados");
+    for (const std::u16string& esperado : partes.esperados) escritor.elemento(esperado);
+    escritor.cierraLista();
+    escritor.abreLista("relacionados");
+    for (const Relacionado& relacionado : partes.relacionados) {
+        escritor.abreObjeto();
+        campoDeRango(escritor, relacionado.rango);
+        escritor.campo("texto", relacionado.texto);
+        escritor.cierraObjeto();
+    }
+    escritor.cierraLista();
+    escritor.abreLista("arreglos");
+    escritor.cierraLista();
+    escritor.cierraObjeto();
 }
 
 } // namespace
@@ -90,6 +137,16 @@ void escribeLineas(const Arbol& raiz, Salida& salida) {
         escritor.acabaLinea();
     };
     recorre(raiz, entra, [](const Arbol& /*nodo*/) {});
+}
+
+void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_view fichero, Salida& salida) {
+    Escritor escritor(salida);
+    escritor.abreObjeto();
+    escritor.abreLista("diagnosticos");
+    for (const Diagnostico& diagnostico : diagnosticos) escribeDiagnostico(escritor, diagnostico, fichero);
+    escritor.cierraLista();
+    escritor.cierraObjeto();
+    escritor.acabaLinea();
 }
 
 void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, Salida& salida) {

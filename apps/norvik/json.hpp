@@ -2,10 +2,14 @@
 
 #include "salida.hpp"
 
+#include "norvik/base/diagnostico.hpp"
+
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/parser/arbol.hpp"
 
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 namespace norvik::orden {
 
@@ -15,5 +19,8 @@ void escribeJson(const Arbol& raiz, Salida& salida);
 void escribeLineas(const Arbol& raiz, Salida& salida);
 /// One line for a token read.
 void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, Salida& salida);
+
+/// One line: {"diagnosticos":[…]}, all of one file.
+void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_view fichero, Salida& salida);
 
 } // namespace norvik::orden

@@ -3,7 +3,10 @@
 #include "anfitrion.hpp"
 #include "json.hpp"
 
+#include "norvik/base/lineas.hpp"
+#include "norvik/base/palabras.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/parser/erroresTexto.hpp"
 
 #include <algorithm>
 #include <vector>
@@ -49,9 +52,16 @@ std::string tabla(const std::vector<Leido>& leidos) {
 }
 
 // As a parse would report it.
-std::u16string mensajeDeError(const Norvik& control, const parLT& token) {
-    return u"Error " + control.DameStringLineaColumnaToken() + u": caracter '" + token.GetLexema() +
-           u"' incorrecto.";
+std::u16string mensajeDeError(const Leido& leido) {
+    return palabras::errorLexico(leido.linea, leido.columna, leido.token.GetLexema());
+}
+
+Diagnostico diagnosticoDe(const Leido& leido, std::u16string_view texto) {
+    IndiceLineas lineas;
+    lineas.reconstruye(texto);
+    const std::int32_t indice = lineas.inicioDe(leido.linea - 1) + leido.columna - 1;
+    return caracterIncorrecto(texto, static_cast<std::size_t>(indice),
+                              Lugares(texto, Lugares::Unidad::Utf16));
 }
 
 } // namespace
@@ -70,8 +80,8 @@ int ejecuta(const Lexemas& orden, Salida& salida) {
         for (const auto& [token, linea, columna] : leidos) escribeJson(token, linea, columna, salida);
         break;
     }
-    const parLT& ultimo = leidos.back().token;
-    if (esError(ultimo)) anfitrion.cuentaError(mensajeDeError(anfitrion.control, ultimo), texto);
+    if (const Leido& ultimo = leidos.back(); esError(ultimo.token))
+        anfitrion.cuentaError(mensajeDeError(ultimo), diagnosticoDe(ultimo, texto), orden.texto, texto);
     return anfitrion.estado();
 }
 

@@ -25,6 +25,7 @@
 #include <any>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -80,6 +81,9 @@ public:
     /// Of the last parse: 0 none, 1 lexical, 2 syntax error.
     std::int16_t GetCodigoError() const;
     const std::u16string& GetmensajeError() const;
+    /// The error of the last parse as a value: its exact range in the text (UTF-16), and the tokens that can
+    /// really stand there. None after an accepted one.
+    const std::optional<Diagnostico>& GetDiagnostico() const { return conductor_.diagnostico(); }
     /// Accepts a text, does nothing.
     std::u16string EjecutaCodigo(std::u16string_view codigoAEjecutar);
 

@@ -50,11 +50,8 @@ void Norvik::SetComentarioLinea(std::u16string_view lexema) {
 }
 
 void Norvik::SetRegla(std::u16string_view regla, std::int16_t numIdentificacion) {
-    constexpr std::u16string_view flecha = u"->";
-    const std::size_t p = regla.find(flecha);
-    if (p == std::u16string_view::npos) throw NoCoincidenLosTipos();
-    gramatica_.SetRegla(recorta(regla.substr(0, p)), recorta(regla.substr(p + flecha.size())),
-                        numIdentificacion);
+    const auto [cabeza, cuerpo] = parteRegla(regla);
+    gramatica_.SetRegla(cabeza, cuerpo, numIdentificacion);
 }
 
 void Norvik::InsertarSimboloGramatica(std::u16string_view simboloG) {

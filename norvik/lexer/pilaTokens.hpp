@@ -85,6 +85,7 @@ public:
                                std::int16_t TextEnd = -1);
     /// The map of the last recognition.
     MapaTokens& mapaTokens() { return mapaTokens_; }
+    const MapaTokens& mapaTokens() const { return mapaTokens_; }
 
     /// How a token may be written, for lists of expected tokens.
     std::u16string toStringLexemasPorToken(std::u16string_view token) const;

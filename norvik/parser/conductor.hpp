@@ -1,5 +1,6 @@
 #pragma once
 
+#include "norvik/base/diagnostico.hpp"
 #include "norvik/parser/arbolSintactico.hpp"
 #include "norvik/parser/cadenasReglas.hpp"
 #include "norvik/parser/lenguajeAnalisis.hpp"
@@ -8,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,7 @@ class FuenteTexto;
 class gramatica;
 class LectorTokens;
 class pilaTokens;
+enum class Desenlace : std::uint8_t;
 
 /// Error codes of a parse.
 inline constexpr std::int16_t sinError = 0;
@@ -46,6 +49,9 @@ public:
     Arbol& GetArbolSintactico() { return arbol_.raiz(); }
     std::int16_t GetCodigoError() const { return codigoError_; }
     const std::u16string& GetmensajeError() const { return mensajeError_; }
+    /// The error of the last parse as a value, with exact places and expectations; none after an accepted
+    /// one.
+    const std::optional<Diagnostico>& diagnostico() const { return diagnostico_; }
     void SetmensajeError(std::u16string_view mensaje) { mensajeError_ = mensaje; }
     /// Every shift and reduction of the last parse; empty after an accepted one, which consumed it.
     const Traza& traza() const { return traza_; }
@@ -53,9 +59,16 @@ public:
 private:
     enum class Lineas { DelTexto, Ninguna };
 
+    /// How a parse ended, and in which state.
+    struct Final {
+        Desenlace desenlace;
+        std::int16_t estado;
+    };
+
     bool analiza(const FuenteTexto& fuente, Lineas lineas);
-    Mensaje informaErrorLexico();
-    Mensaje informaErrorSintactico(std::int16_t estado);
+    Final recorre(const FuenteTexto& fuente, Lineas lineas);
+    Mensaje informaErrorLexico(std::u16string_view texto);
+    Mensaje informaErrorSintactico(std::u16string_view texto, std::int16_t estado);
 
     LectorTokens& lector_;
     const pilaTokens& lexico_;
@@ -66,6 +79,7 @@ private:
     Traza traza_;
     std::int16_t codigoError_ = sinError;
     std::u16string mensajeError_;
+    std::optional<Diagnostico> diagnostico_;
 };
 
 } // namespace norvik

@@ -37,11 +37,14 @@ constexpr std::u16string_view sinDelimitadores(std::u16string_view lexema, std::
     return literal && lexema.size() > 2 ? lexema.substr(1, lexema.size() - 2) : lexema;
 }
 
+enum class Comentarios : std::uint8_t { SeSaltan, SeLeen };
+
 /// The token at a position of a recognised text or after it: blanks and comments are passed over, an empty
 /// match counts as absent, else reading would never leave it. A wrong character ends where it starts, so that
 /// reading stays there; at the end of the text stands `TokenLeido::fin`, whatever the map has there.
-inline Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
-                        const std::vector<const expresionRegular*>& definiciones) {
+template <Comentarios comentarios = Comentarios::SeSaltan>
+Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
+                 const std::vector<const expresionRegular*>& definiciones) {
     constexpr auto esBlanco = [](char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; };
     while (posicion <= static_cast<std::int32_t>(texto.size())) {
         const MapaTokens::Celda* const celda = mapa.celda(posicion);
@@ -53,7 +56,7 @@ inline Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const 
         }
         const std::int16_t tipo = definiciones[static_cast<std::size_t>(celda->definicion())]->tipo;
         const std::int32_t fin = posicion + celda->longitud();
-        if (!esComentario(tipo))
+        if (comentarios == Comentarios::SeLeen || !esComentario(tipo))
             return {{celda->definicion(), sinDelimitadores(mapa.texto(*celda), tipo)}, posicion, fin};
         posicion = fin;
     }

@@ -38,6 +38,9 @@ public:
     }
     std::int16_t cimaLineas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().linea); }
     std::int16_t cimaColumnas() const { return esVacia() ? std::int16_t{0} : a16(entradas_.back().columna); }
+    std::size_t altura() const { return entradas_.size(); }
+    /// State of an entry, counted from the bottom, from 0.
+    std::int16_t estado(std::size_t entrada) const { return entradas_[entrada].estado; }
     bool esVacia() const { return entradas_.empty(); }
     void Vaciar() { entradas_.clear(); }
 

@@ -1,12 +1,26 @@
 #pragma once
 
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/lexer/tipos.hpp"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace norvik {
+
+/// Head and body of a rule in the text form "head -> body", without the blanks around them. Raises
+/// `NoCoincidenLosTipos` for a text without an arrow.
+inline std::pair<std::u16string_view, std::u16string_view> parteRegla(std::u16string_view regla) {
+    constexpr std::u16string_view flecha = u"->";
+    const std::size_t p = regla.find(flecha);
+    if (p == std::u16string_view::npos)
+        throw NoCoincidenLosTipos(u"No coinciden los tipos: la regla «" + std::u16string(regla) +
+                                  u"» no tiene «->» entre su cabeza y su cuerpo");
+    return {recorta(regla.substr(0, p)), recorta(regla.substr(p + flecha.size()))};
+}
 
 /// Something that a language can be loaded into call by call: the control, as loading modules and the
 /// installer of the specification language see it.

@@ -158,10 +158,30 @@ TEST_F(Orden, ElErrorDelTextoEsSuMensajeConElLugarEnUnTerminal) {
         "Error: Se ha encontrado identificador (Línea 2, Columna 4). Se esperaba '+'.\n";
     comprueba(sobre("1 +\n\t1 x", {"analiza"}), 1, "", mensaje);
     EXPECT_EQ(sobre("1 +\n\t1 x", {"analiza"}, {.errores = Destino::Terminal}).errores,
-              mensaje + " 1 x\n   ^\n");
+              mensaje + ruta("texto") +
+                  ":2:4: error: Se ha encontrado identificador. Se esperaba '+', final del fichero. "
+                  "[token-inesperado]\n 1 x\n   ^\n");
+    // A lexeme may read like a place.
+    const Resultado enganoso =
+        sobre("'a' +\n'b' +\n'c' '(Línea 1, Columna 1)'", {"analiza"}, {.errores = Destino::Terminal});
+    EXPECT_NE(enganoso.errores.find("texto:3:5: error: "), std::string::npos);
+    EXPECT_TRUE(enganoso.errores.ends_with("\n'c' '(Línea 1, Columna 1)'\n    ^^^^^^^^^^^^^^^^^^^^^^\n"));
     comprueba(sobre("1 + ?", {"analiza"}), 1, "", "Error (Línea 1, Columna 5): caracter '?' incorrecto.\n");
     comprueba(ejecuta({"analiza", "-", lenguaje_}, {.entrada = "Token a\n= 7;"}), 1, "",
               "Error: Se ha encontrado numero entero (Línea 2, Columna 3). Se esperaba cadena.\n");
+}
+
+TEST_F(Orden, ElErrorDelTextoSaleTambienComoJson) {
+    for (const std::string formato : {"json", "lineas"})
+        comprueba(sobre("1 +\n 1 x", {"analiza", "--formato", formato}), 1,
+                  R"({"diagnosticos":[{"codigo":"token-inesperado","gravedad":"error","mensaje":)"
+                  R"("Se ha encontrado identificador. Se esperaba '+', final del fichero.","fichero":")" +
+                      ruta("texto") +
+                      R"(","rango":{"inicio":{"linea":2,"columna":4,"desplazamiento":8},)"
+                      R"("fin":{"linea":2,"columna":5,"desplazamiento":9}},"hallado":"identificador",)"
+                      R"("esperados":["'+'","final del fichero"],"relacionados":[],"arreglos":[]}]})"
+                      "\n",
+                  "Error: Se ha encontrado identificador (Línea 2, Columna 4). Se esperaba '+'.\n");
 }
 
 TEST_F(Orden, ElErrorDelLenguajeTieneEstado1) {

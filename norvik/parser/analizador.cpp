@@ -1,0 +1,161 @@
+// A text is recognised as a whole, then parsed token by token. The tokens are kept as they are shifted, and
+// the steps as they are made: together they are the tree.
+#include "norvik/parser/analizador.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/parser/erroresTexto.hpp"
+#include "norvik/parser/motorSLR.hpp"
+
+#include <span>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+// Ends a parse from within; what is wrong is no fault of the text.
+struct Corte {
+    Codigo codigo;
+    std::u16string_view causa;
+};
+
+class CursoDeTexto {
+public:
+    CursoDeTexto(TextoAnalizado& texto, const pilaTokens& lexico, const MapaTokens& mapa,
+                 LenguajeAnalisis& lenguaje, std::vector<std::int16_t>& pasos,
+                 const std::stop_token& cancelacion)
+        : texto_(texto), definiciones_(lexico.tokensLenguaje()), mapa_(mapa), lenguaje_(lenguaje),
+          pasos_(pasos), cancelacion_(cancelacion),
+          maximoPasos_(pasosDeMas + pasosPorCaracter * texto.texto.size()) {
+        lee();
+    }
+
+    std::int16_t columna() const { return columna_; }
+    static Posicion posicion() { return {}; }
+    void desplaza() {
+        if (lectura_.leido.definicion == TokenLeido::fin)
+            throw Corte{Codigo::TablaIncorrecta, u"desplaza el final del texto"};
+        texto_.tokens.push_back({lectura_.leido.definicion, static_cast<std::uint32_t>(lectura_.inicio - 1),
+                                 static_cast<std::uint32_t>(lectura_.fin - 1)});
+        pasos_.push_back(0);
+        if (texto_.tokens.size() % tokensPorConsulta == 0 && cancelacion_.stop_requested())
+            throw Corte{Codigo::Cancelado, {}};
+        lee();
+    }
+    void reduce(std::int16_t regla) { reduce(std::span(&regla, 1)); }
+    void reduce(std::span<const std::int16_t> reglas) {
+        if (pasos_.size() > maximoPasos_) throw Corte{Codigo::TablaIncorrecta, u"no deja de reducir"};
+        pasos_.insert(pasos_.end(), reglas.begin(), reglas.end());
+    }
+    const Lectura& lectura() const { return lectura_; }
+
+private:
+    // More than any tree needs that comes from a table without endless reductions, and bearable.
+    static constexpr std::size_t pasosDeMas = 1'000'000;
+    static constexpr std::size_t pasosPorCaracter = 100;
+    static constexpr std::size_t tokensPorConsulta = 1024;
+
+    void lee() {
+        lectura_ = leeDesde(lectura_.fin, texto_.texto, mapa_, definiciones_);
+        if (lectura_.leido.definicion == TokenLeido::fin) leeFinal();
+        columna_ = lenguaje_.columna(lectura_.leido);
+    }
+    // An empty match at the very end is a token, once.
+    void leeFinal() {
+        const MapaTokens::Celda* const celda = mapa_.celda(lectura_.inicio);
+        if (celda == nullptr || std::exchange(finalLeido_, true)) return;
+        lectura_.leido = {celda->definicion(), {}};
+    }
+
+    TextoAnalizado& texto_;
+    const std::vector<const expresionRegular*>& definiciones_;
+    const MapaTokens& mapa_;
+    LenguajeAnalisis& lenguaje_;
+    std::vector<std::int16_t>& pasos_;
+    const std::stop_token& cancelacion_;
+    std::size_t maximoPasos_;
+    Lectura lectura_;
+    bool finalLeido_ = false;
+    std::int16_t columna_ = 0;
+};
+
+Diagnostico sinLugar(Codigo codigo, std::u16string_view hallado = {}) {
+    Diagnostico diagnostico{codigo, Gravedad::Error, {}, {}};
+    diagnostico.partes.hallado = hallado;
+    return diagnostico;
+}
+
+} // namespace
+
+Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {
+    Analisis analisis;
+    auto error = reconoce(*texto, opciones);
+    if (!error) error = recorre(*texto, opciones);
+    if (error) {
+        analisis.diagnosticos.push_back(std::move(*error));
+        return analisis;
+    }
+    auto arbol = ArbolAnalisis::construye(std::move(texto), pasos_);
+    if (arbol)
+        analisis.arbol = std::move(*arbol);
+    else
+        analisis.diagnosticos.push_back(
+            sinLugar(Codigo::TablaIncorrecta, u"sus reducciones no forman un árbol"));
+    return analisis;
+}
+
+std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
+                                                const OpcionesAnalisis& /*opciones*/) {
+    mapa_.reinicia(1, texto.texto);
+    buscador_.busca(texto.texto, mapa_);
+    return std::nullopt;
+}
+
+std::optional<Diagnostico> Analizador::recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones) {
+    if (gramatica_.simbolos().esVacio()) return sinLugar(Codigo::SinGramatica);
+    if (lenguaje_.actualiza()) cadenas_.olvida();
+    pasos_.clear();
+    try {
+        CursoDeTexto curso(texto, lexico_, mapa_, lenguaje_, pasos_, opciones.cancelacion);
+        switch (MotorSLR(curso, lenguaje_, cadenas_).ejecuta()) {
+        case Desenlace::Aceptado:
+            return std::nullopt;
+        case Desenlace::ErrorLexico:
+            return caracterIncorrecto(texto.texto, static_cast<std::size_t>(curso.lectura().inicio) - 1,
+                                      texto.lugares);
+        case Desenlace::ErrorSintactico:
+            return tokenInesperado({texto.texto, mapa_, lexico_, gramatica_}, curso.lectura(), texto.lugares,
+                                   lenguaje_);
+        }
+    } catch (const Corte& corte) {
+        return sinLugar(corte.codigo, corte.causa);
+    } catch (const SubindiceFueraDeIntervalo&) {
+        return sinLugar(Codigo::TablaIncorrecta, u"nombra un estado o una regla que no existen");
+    }
+    return std::nullopt;
+}
+
+Lexemas Analizador::lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {
+    std::vector<Diagnostico> errores;
+    if (auto error = reconoce(*texto, opciones)) return Lexemas(nullptr, {std::move(*error)});
+    const auto& definiciones = lexico_.tokensLenguaje();
+    // As reading does it, save that it stays on comments.
+    for (std::int32_t posicion = 1;;) {
+        const Lectura lectura = leeDesde<Comentarios::SeLeen>(posicion, texto->texto, mapa_, definiciones);
+        if (lectura.leido.definicion == TokenLeido::fin) break;
+        const auto inicio = static_cast<std::size_t>(lectura.inicio) - 1;
+        if (lectura.leido.definicion == TokenLeido::desconocido) {
+            errores.push_back(caracterIncorrecto(texto->texto, inicio, texto->lugares));
+            posicion = lectura.inicio + static_cast<std::int32_t>(largoDeCaracter(texto->texto, inicio));
+            continue;
+        }
+        texto->tokens.push_back({lectura.leido.definicion, static_cast<std::uint32_t>(inicio),
+                                 static_cast<std::uint32_t>(lectura.fin - 1)});
+        posicion = lectura.fin;
+    }
+    return Lexemas(std::move(texto), std::move(errores));
+}
+
+} // namespace norvik

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "norvik/lexer/buscadorTokens.hpp"
+#include "norvik/lexer/mapaTokens.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/parser/analisis.hpp"
+#include "norvik/parser/cadenasReglas.hpp"
+#include "norvik/parser/lenguajeAnalisis.hpp"
+#include "norvik/parser/lexemas.hpp"
+#include "norvik/parser/textoAnalizado.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace norvik {
+
+class gramatica;
+
+/// Reads and parses texts of one language as values. It learns from each text what makes the next one faster,
+/// and serves one thread at a time; lexer and grammar outlive it and do not change.
+class Analizador {
+public:
+    Analizador(const pilaTokens& lexico, const gramatica& gramatica)
+        : lexico_(lexico), gramatica_(gramatica), buscador_(lexico.tokensLenguaje()),
+          mapa_(lexico.tokensLenguaje()), lenguaje_(lexico, gramatica) {}
+
+    /// What is wrong with the text, or with the table, is a diagnostic.
+    Analisis analiza(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones);
+    Lexemas lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones);
+
+private:
+    std::optional<Diagnostico> reconoce(const TextoAnalizado& texto, const OpcionesAnalisis& opciones);
+    std::optional<Diagnostico> recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones);
+
+    const pilaTokens& lexico_;
+    const gramatica& gramatica_;
+    BuscadorTokens buscador_;
+    MapaTokens mapa_;
+    LenguajeAnalisis lenguaje_;
+    CadenasReglas cadenas_;
+    std::vector<std::int16_t> pasos_;
+};
+
+} // namespace norvik

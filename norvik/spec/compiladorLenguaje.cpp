@@ -1,0 +1,245 @@
+// From the tree of a specification, or from the calls of a loading module, to a language that is a value.
+// Nothing is shown and nothing raised: each thing that is wrong becomes a diagnostic at its place, and what
+// can be made of the rest is made, as a control does it.
+#include "norvik/spec/compiladorLenguaje.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/spec/cargadorLenguaje.hpp"
+#include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/spec/lenguajeEspecificacion.hpp"
+#include "norvik/spec/recorridoEspecificacion.hpp"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace norvik {
+
+namespace {
+
+/// A node of a specification's tree.
+class NodoEspecificacion {
+public:
+    explicit NodoEspecificacion(Nodo nodo) : nodo_(nodo) {}
+
+    bool esHoja() const { return nodo_.numHijos() == 0; }
+    bool esRegla(std::u16string_view nombre) const { return !nodo_.esToken() && nodo_.nombre() == nombre; }
+    std::u16string_view lexema() const { return nodo_.lexema(); }
+    Rango rango() const { return nodo_.rango(); }
+    NodoEspecificacion hijo(std::size_t numero) const { return NodoEspecificacion(nodo_[numero - 1]); }
+    void apilaHijos(std::vector<NodoEspecificacion>& pila) const {
+        for (std::size_t i = nodo_.numHijos(); i > 0; --i) pila.push_back(hijo(i));
+    }
+
+private:
+    Nodo nodo_;
+};
+
+Lenguaje acaba(std::shared_ptr<DatosDeLenguaje> datos) {
+    datos->nombra();
+    return Lenguaje(std::move(datos));
+}
+
+class CompiladorLenguaje {
+public:
+    explicit CompiladorLenguaje(NodoEspecificacion raiz) : raiz_(raiz) {}
+
+    Compilacion compila() {
+        const bool completo = registra();
+        bool generable = completo;
+        if (usos_.empty() && rangos_.empty())
+            anota(Codigo::SinReglas, Gravedad::Aviso, {raiz_.rango().fin, raiz_.rango().fin}, {});
+        else
+            generable = compruebaSimbolos() && completo;
+        if (generable && genera()) return {acaba(std::move(datos_)), std::move(diagnosticos_)};
+        return {std::nullopt, std::move(diagnosticos_)};
+    }
+
+private:
+    /// Where a symbol stands in a body.
+    struct Uso {
+        std::u16string_view cabeza;
+        std::u16string_view simbolo;
+        Rango rango;
+    };
+
+    void anota(Codigo codigo, Gravedad gravedad, const Rango& rango, Partes partes) {
+        diagnosticos_.push_back({codigo, gravedad, rango, std::move(partes)});
+    }
+
+    // False when a capacity was passed.
+    bool registra() {
+        Rango aqui;
+        try {
+            especificacion::recorre(
+                raiz_,
+                [&](const especificacion::Definicion<NodoEspecificacion>& d) {
+                    aqui = d.patron.rango();
+                    registra(d);
+                },
+                [&](const NodoEspecificacion& cabeza, const NodoEspecificacion& cuerpo) {
+                    aqui = cabeza.rango();
+                    registra(cabeza, cuerpo);
+                });
+        } catch (const ErrorNorvik& error) {
+            anota(Codigo::CapacidadSuperada, Gravedad::Error, aqui, {{}, error.texto(), {}, {}});
+            return false;
+        }
+        return true;
+    }
+
+    void registra(const especificacion::Definicion<NodoEspecificacion>& d) {
+        constexpr bool sensible = false;
+        auto error = datos_->lexico.registra({d.patron.lexema(), d.nombre.lexema(), d.esToken, sensible,
+                                              d.pseudoToken, d.perfil.tipo, d.perfil.base});
+        if (d.esToken) tokens_.insert(d.nombre.lexema());
+        if (!error) return;
+        error->rango = d.patron.rango();
+        diagnosticos_.push_back(std::move(*error));
+    }
+
+    void registra(const NodoEspecificacion& cabeza, const NodoEspecificacion& alternativas) {
+        const std::u16string cuerpo = especificacion::cuerpoDe(
+            alternativas,
+            [&](const NodoEspecificacion& simbolo) {
+                usos_.push_back({cabeza.lexema(), simbolo.lexema(), simbolo.rango()});
+            },
+            [&](const NodoEspecificacion& alternativa) { rangos_.push_back(alternativa.rango()); });
+        datos_->reglas.SetRegla(cabeza.lexema(), cuerpo, 0);
+        cabezas_.insert(cabeza.lexema());
+    }
+
+    // One diagnostic for each name that nothing defines, at its first place; false when a table cannot be
+    // built for it.
+    bool compruebaSimbolos() {
+        bool generable = true;
+        std::unordered_map<std::u16string_view, std::size_t> vistos;
+        for (const Uso& uso : usos_) {
+            const bool esVariable = esMayusculaAZ(uso.simbolo.front());
+            if ((esVariable ? cabezas_ : tokens_).contains(uso.simbolo)) continue;
+            const auto [sitio, nuevo] = vistos.try_emplace(uso.simbolo, diagnosticos_.size());
+            if (!nuevo) {
+                diagnosticos_[sitio->second].partes.relacionados.push_back(
+                    {uso.rango, std::u16string(uso.simbolo)});
+                continue;
+            }
+            generable = generable && !esVariable;
+            anota(esVariable ? Codigo::VariableIndefinida : Codigo::TokenIndefinido, Gravedad::Error,
+                  uso.rango, {std::u16string(uso.cabeza), std::u16string(uso.simbolo), {}, {}});
+        }
+        return generable;
+    }
+
+    bool genera() {
+        gramatica& g = datos_->reglas;
+        try {
+            g.creaConjuntos();
+            g.creaAutomata();
+            g.creaTablaSLR();
+        } catch (const ErrorNorvik& error) {
+            anota(Codigo::CapacidadSuperada, Gravedad::Error, raiz_.rango(), {{}, error.texto(), {}, {}});
+            return false;
+        }
+        anotaConflictos();
+        return true;
+    }
+
+    void anotaConflictos() {
+        const gramatica& g = datos_->reglas;
+        for (std::int16_t fila = 1; fila <= g.filasVigentes(); ++fila)
+            for (std::int16_t columna = 1; columna <= g.columnasVigentes(); ++columna) {
+                if (!g.enConflicto(fila, columna)) continue;
+                const auto regla = static_cast<std::size_t>(g.conflicto(fila, columna));
+                anota(Codigo::Conflicto, Gravedad::Aviso, rangos_[regla - 1],
+                      {u"el estado " + aTexto(fila - 1) + u", símbolo " +
+                           std::u16string(g.encabezadoColumna(columna)),
+                       g.celdaTabla(fila, columna),
+                       {},
+                       {}});
+            }
+    }
+
+    NodoEspecificacion raiz_;
+    std::shared_ptr<DatosDeLenguaje> datos_ = std::make_shared<DatosDeLenguaje>();
+    std::vector<Diagnostico> diagnosticos_;
+    std::set<std::u16string_view> tokens_;
+    std::set<std::u16string_view> cabezas_;
+    std::vector<Uso> usos_;
+    std::vector<Rango> rangos_; ///< of the body of each rule
+};
+
+/// Takes the calls of a module; what fails ends its replay.
+class CargadorDeDatos final : public CargadorLenguaje {
+public:
+    explicit CargadorDeDatos(DatosDeLenguaje& datos) : datos_(datos) {}
+
+    void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken, std::int32_t tipoToken,
+               std::u16string_view pseudoToken, std::int32_t baseToken,
+               std::int32_t /*colorTexto*/) override {
+        constexpr bool sensible = false;
+        const auto error = datos_.lexico.registra(
+            {expresion, nomER, esToken, sensible, pseudoToken, a16(tipoToken), baseToken});
+        if (error) throw ArgumentoNoValido(mensaje(*error));
+    }
+    void SetRegla(std::u16string_view regla, std::int16_t numIdentificacion) override {
+        const auto [cabeza, cuerpo] = parteRegla(regla);
+        datos_.reglas.SetRegla(cabeza, cuerpo, numIdentificacion);
+    }
+    void InsertarSimboloGramatica(std::u16string_view simboloG) override {
+        datos_.reglas.SetSimbolo(simboloG);
+    }
+    void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) override {
+        datos_.reglas.SetDimensionTablaSLR(filas, columnas);
+    }
+    void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas,
+                             std::int16_t valorSLR) override {
+        datos_.reglas.SetElementoTablaSLR(posFilas, posColumnas, valorSLR);
+    }
+    // No module makes these calls.
+    void SetPalabraReservada(std::u16string_view, std::u16string&, std::u16string_view) override {}
+    void SetOperador(std::u16string_view, std::u16string_view, std::u16string_view) override {}
+    void SetComentarioLinea(std::u16string_view) override {}
+    bool GeneraCompilador() override { return false; }
+
+private:
+    DatosDeLenguaje& datos_;
+};
+
+Rango lineaEntera(std::int32_t linea) {
+    return {{0, linea, 1}, {0, linea, 1}};
+}
+
+} // namespace
+
+const Lenguaje& lenguajeDeEspecificaciones() {
+    static const Lenguaje lenguaje = [] {
+        auto datos = std::make_shared<DatosDeLenguaje>();
+        InstalaLenguajeEspecificacion(datos->reglas, datos->lexico, false);
+        return acaba(std::move(datos));
+    }();
+    return lenguaje;
+}
+
+Compilacion compilaEspecificacion(const Analisis& especificacion) {
+    if (!especificacion) return {std::nullopt, especificacion.diagnosticos};
+    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz())).compila();
+}
+
+Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {
+    auto datos = std::make_shared<DatosDeLenguaje>();
+    CargadorDeDatos cargador(*datos);
+    if (const auto error = replica(cargador)) {
+        Diagnostico diagnostico{Codigo::ModuloIncorrecto, Gravedad::Error, lineaEntera(error->linea), {}};
+        diagnostico.partes.hallado = error->texto;
+        return {std::nullopt, {std::move(diagnostico)}};
+    }
+    return {acaba(std::move(datos)), {}};
+}
+
+} // namespace norvik

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "norvik/spec/lectorModulo.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <functional>
+#include <optional>
+
+namespace norvik {
+
+class CargadorLenguaje;
+
+/// The language that specifications are written in; one for the whole process.
+const Lenguaje& lenguajeDeEspecificaciones();
+
+/// Makes the language that a specification describes, of the analysis of its text.
+Compilacion compilaEspecificacion(const Analisis& especificacion);
+
+/// Makes a language of the calls of a loading module.
+Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica);
+
+} // namespace norvik

@@ -1,0 +1,58 @@
+// An evaluator of arithmetic: a language, a parse, and a walk over its tree.
+//
+//   ./evaluador '2 * (3 + 4)'        prints 14
+
+#include <norvik/spec/lenguaje.hpp>
+
+#include <norvik/base/texto.hpp>
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr std::string_view aritmetica = R"(
+    Token num = "[0-9]+(\.[0-9]+)?", TipoToken = TTNumero ("número");
+    Token mas = "\+"; Token menos = "\-"; Token por = "\*"; Token entre = "/"; Token abre = "\("; Token cierra = "\)";
+    E -> E mas T | E menos T | T;
+    T -> T por F | T entre F | F;
+    F -> num | abre E cierra | menos F;
+)";
+
+// What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too much.
+double evalua(norvik::Nodo raiz) {
+    std::vector<double> valores;
+    const auto saca = [&] {
+        const double valor = valores.back();
+        valores.pop_back();
+        return valor;
+    };
+    const auto sale = [&](norvik::Nodo nodo) {
+        const std::u16string_view cuerpo = nodo.cuerpo();
+        if (nodo.nombre() == u"num") valores.push_back(std::stod(nodo.lexemaUtf8()));
+        if (cuerpo == u"menos F") valores.back() = -valores.back();
+        if (nodo.numHijos() != 3 || cuerpo == u"abre E cierra") return;
+        const double derecho = saca();
+        const double izquierdo = saca();
+        if (cuerpo == u"E mas T") valores.push_back(izquierdo + derecho);
+        if (cuerpo == u"E menos T") valores.push_back(izquierdo - derecho);
+        if (cuerpo == u"T por F") valores.push_back(izquierdo * derecho);
+        if (cuerpo == u"T entre F") valores.push_back(izquierdo / derecho);
+    };
+    norvik::ArbolAnalisis::recorre(raiz, [](norvik::Nodo) {}, sale);
+    return saca();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) return 2;
+    const auto compilacion = norvik::Lenguaje::compila(aritmetica);
+    if (!compilacion) return 2;
+    const auto analisis = norvik::analiza(*compilacion.lenguaje, std::string_view(argv[1]));
+    for (const auto& error : analisis.diagnosticos)
+        std::cerr << "columna " << error.rango.inicio.columna << ": " << norvik::aUtf8(mensaje(error)) << '\n';
+    if (!analisis) return 1;
+    std::cout << evalua(analisis.arbol.raiz()) << '\n';
+}
