@@ -96,14 +96,14 @@ TEST(Lenguaje, LoQueEstaMalEsUnDiagnosticoConSuLugar) {
     const Lenguaje lenguaje = lenguajeDe(sumas);
     const std::tuple<std::string, std::string> casos[] = {
         {"1 +\n", "error token-inesperado 2:1@4-2:1@4 Se ha encontrado el final del fichero. Se esperaba "
-                  "número, ''.\n"},
+                  "número, ''[^']*''.\n"},
         {"1\r\n22 33",
          "error token-inesperado 2:1@3-2:3@5 Se ha encontrado número. Se esperaba '+', final del fichero.\n"},
         {"1 + ñ", "error caracter-incorrecto 1:5@4-1:7@6 Carácter 'ñ' incorrecto.\n"},
         {"1 + 𝄞", "error caracter-incorrecto 1:5@4-1:9@8 Carácter '𝄞' incorrecto.\n"},
         {"1 +\n \xC3", "error utf8-incorrecto 2:2@5-2:3@6 Los bytes del texto no son UTF-8.\n"},
         {"", "error token-inesperado 1:1@0-1:1@0 Se ha encontrado el final del fichero. Se esperaba número, "
-             "''.\n"},
+             "''[^']*''.\n"},
         {"1+1", ""},
     };
     for (const auto& [entrada, esperado] : casos)
