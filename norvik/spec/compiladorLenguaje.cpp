@@ -211,8 +211,29 @@ private:
     DatosDeLenguaje& datos_;
 };
 
-Rango lineaEntera(std::int32_t linea) {
-    return {{0, linea, 1}, {0, linea, 1}};
+// What is wrong with a table that was taken as it came, empty when a parse can trust it: an entry of a token
+// shifts to a state, reduces by a rule or accepts; one of a variable goes to a state.
+std::u16string defectoDeTabla(const gramatica& g) {
+    const std::int16_t estados = g.GetDimensionFilasSLR();
+    for (std::int16_t estado = 0; estado < g.filasVigentes(); ++estado)
+        for (std::int16_t columna = 0; columna < g.columnasVigentes(); ++columna) {
+            const std::int16_t valor = g.GetElementoTablaSLR(estado, columna);
+            const bool deVariable =
+                esMayusculaAZ(g.encabezadoColumna(static_cast<std::int16_t>(columna + 1)).front());
+            const bool aceptable =
+                valor == 0 || (valor > 0 && valor < estados) ||
+                (!deVariable && (valor == gramatica::aceptar || (valor < 0 && -valor <= g.getNumReglas())));
+            if (!aceptable)
+                return u"el valor " + aTexto(valor) + u" del estado " + aTexto(estado) + u", símbolo " +
+                       std::u16string(g.encabezadoColumna(static_cast<std::int16_t>(columna + 1))) +
+                       u", no nombra ningún estado ni regla";
+        }
+    return {};
+}
+
+Diagnostico errorDeModulo(Codigo codigo, std::u16string texto, std::int32_t linea = 1) {
+    const Punto principio{0, linea, 1};
+    return {codigo, Gravedad::Error, {principio, principio}, {{}, std::move(texto), {}, {}}};
 }
 
 } // namespace
@@ -234,11 +255,10 @@ Compilacion compilaEspecificacion(const Analisis& especificacion) {
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {
     auto datos = std::make_shared<DatosDeLenguaje>();
     CargadorDeDatos cargador(*datos);
-    if (const auto error = replica(cargador)) {
-        Diagnostico diagnostico{Codigo::ModuloIncorrecto, Gravedad::Error, lineaEntera(error->linea), {}};
-        diagnostico.partes.hallado = error->texto;
-        return {std::nullopt, {std::move(diagnostico)}};
-    }
+    if (const auto error = replica(cargador))
+        return {std::nullopt, {errorDeModulo(Codigo::ModuloIncorrecto, error->texto, error->linea)}};
+    if (std::u16string defecto = defectoDeTabla(datos->reglas); !defecto.empty())
+        return {std::nullopt, {errorDeModulo(Codigo::TablaIncorrecta, std::move(defecto))}};
     return {acaba(std::move(datos)), {}};
 }
 

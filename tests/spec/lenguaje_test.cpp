@@ -1,5 +1,8 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/norvik.hpp"
+#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>
@@ -195,6 +198,44 @@ TEST(Lenguaje, UnAnalisisSePuedeCancelar) {
     EXPECT_EQ(texto(analiza(lenguaje, entrada, {fuente.get_token()}).diagnosticos),
               "error cancelado 1:1@0-1:1@0 La operación se ha cancelado.\n");
     EXPECT_TRUE(analiza(lenguaje, entrada));
+}
+
+std::u16string moduloDe(std::u16string_view especificacion) {
+    SistemaMemoria sistema(nullptr);
+    CajaTextoMemoria caja;
+    Norvik control(caja, sistema);
+    EXPECT_TRUE(control.CargaGramatica(especificacion) && control.GeneraCompilador());
+    return control.Gramatica().textoModulo(u"M", control.Lexico());
+}
+
+TEST(Lenguaje, UnModuloDaElMismoLenguajeOLoQueTieneMal) {
+    const std::u16string modulo = moduloDe(sumas);
+    const auto compilacion = Lenguaje::cargaModulo(modulo);
+    ASSERT_TRUE(compilacion) << texto(compilacion.diagnosticos);
+    const Lenguaje lenguaje = lenguajeDe(sumas);
+    for (const std::u16string_view entrada : {u"1 + 'a'", u"1 +", u"1 $", u""}) {
+        const Analisis esperado = analiza(lenguaje, entrada);
+        const Analisis leido = analiza(*compilacion.lenguaje, entrada);
+        EXPECT_EQ(leido.arbol.toString(), esperado.arbol.toString());
+        EXPECT_EQ(texto(leido.diagnosticos), texto(esperado.diagnosticos));
+    }
+    const auto con = [&](std::u16string_view viejo, std::u16string_view nuevo) {
+        std::u16string otro = modulo;
+        return otro.replace(otro.find(viejo), viejo.size(), nuevo);
+    };
+    const std::tuple<std::u16string, std::string> casos[] = {
+        {con(u"Option Explicit", u"Option"),
+         "error modulo-incorrecto 2:1@0-2:1@0 se esperaba «Option Explicit»\n"},
+        {con(u"SetElementoTablaSLR 1, 2, ", u"SetElementoTablaSLR 1, 2, 9"),
+         "error tabla-incorrecta 1:1@0-1:1@0 La tabla SLR del lenguaje es incorrecta: el valor 75 del estado "
+         "0, "
+         "símbolo num, no nombra ningún estado ni regla.\n"},
+    };
+    for (const auto& [malo, esperado] : casos) {
+        const auto fallida = Lenguaje::cargaModulo(malo);
+        EXPECT_FALSE(fallida.lenguaje);
+        EXPECT_EQ(texto(fallida.diagnosticos), esperado);
+    }
 }
 
 // Lists of either recursion are as deep as the text is long.
