@@ -56,7 +56,7 @@ Descriptor abre(const fs::path& fichero) {
 
 // Appends some bytes more; false at the end.
 bool leeMas(int descriptor, std::u16string_view nombre, std::string& bytes) {
-    std::array<char, 65536> trozo; // not cleared: most files are short
+    std::array<char, 32768> trozo; // not cleared: most files are short
     for (;;) {
         const ssize_t leidos = read(descriptor, trozo.data(), trozo.size());
         if (leidos < 0 && errno == EINTR) continue;
@@ -232,12 +232,13 @@ TextoPorTrozos::TextoPorTrozos(const fs::path& fichero)
         entero_ = decodifica(leeTodo(descriptor_.numero(), nombre_));
         return;
     }
-    std::size_t total = 0;
-    for (std::string trozo = bytes(); !trozo.empty(); trozo = bytes()) {
-        compruebaTamanio(total += trozo.size(), nombre_);
-        esUtf8_ = esUtf8_ && esUtf8(trozo);
-    }
+    struct stat estado {};
+    if (fstat(descriptor_.numero(), &estado) == 0 && S_ISREG(estado.st_mode))
+        compruebaTamanio(static_cast<std::size_t>(estado.st_size), nombre_);
+    for (std::string trozo = bytes(); esUtf8_ && !trozo.empty(); trozo = bytes()) esUtf8_ = esUtf8(trozo);
     lseek(descriptor_.numero(), 0, SEEK_SET);
+    resto_.clear();
+    leidos_ = 0;
 }
 
 // Up to the last byte that is a character by itself in every encoding, so that none is cut.
@@ -246,10 +247,11 @@ std::string TextoPorTrozos::bytes() {
     std::string trozo = std::exchange(resto_, {});
     while (leeMas(descriptor_.numero(), nombre_, trozo)) {
         const auto fin = std::find_if(trozo.rbegin(), trozo.rend(), esAscii).base();
-        compruebaTamanio(trozo.size(), nombre_);
+        compruebaTamanio(leidos_ + trozo.size(), nombre_);
         if (fin == trozo.begin()) continue;
         resto_.assign(fin, trozo.end());
         trozo.erase(fin, trozo.end());
+        leidos_ += trozo.size();
         return trozo;
     }
     return trozo;

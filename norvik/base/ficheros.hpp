@@ -25,7 +25,7 @@ std::u16string leeTexto(const std::filesystem::path& fichero);
 using OrigenDeTexto = std::function<std::u16string()>;
 
 /// A file's text in pieces, decoded as `decodifica` does it, for one too long to be held whole. The file is
-/// read twice, the first time to tell its encoding. Both raise `ErrorDeFichero`.
+/// first read to tell its encoding, up to the first byte that makes it no UTF-8. Both raise `ErrorDeFichero`.
 class TextoPorTrozos {
 public:
     explicit TextoPorTrozos(const std::filesystem::path& fichero);
@@ -36,7 +36,8 @@ private:
 
     std::u16string nombre_; ///< for messages
     Descriptor descriptor_;
-    std::string resto_; ///< bytes read and not yet given
+    std::string resto_;      ///< bytes read and not yet given
+    std::size_t leidos_ = 0; ///< bytes given
     bool esUtf8_ = true;
     bool primero_ = true;
     std::u16string entero_; ///< what could be read once only

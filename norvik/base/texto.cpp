@@ -177,11 +177,14 @@ std::optional<std::string> aWindows1252(std::u16string_view texto) {
 }
 
 std::u16string desdeWindows1252(std::string_view bytes) {
-    std::u16string texto;
-    texto.reserve(bytes.size());
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        texto.push_back(byte >= 0x80 && byte <= 0x9F ? bytes80a9F[byte - 0x80U] : char16_t{byte});
+    std::u16string texto(bytes.size(), u'\0');
+    for (char16_t* fin = texto.data(); !bytes.empty(); bytes.remove_prefix(1)) {
+        const std::size_t ascii = bloquesAscii(bytes);
+        fin = std::copy_n(bytes.begin(), ascii, fin);
+        bytes.remove_prefix(ascii);
+        if (bytes.empty()) break;
+        const auto byte = static_cast<unsigned char>(bytes.front());
+        *fin++ = byte >= 0x80 && byte <= 0x9F ? bytes80a9F[byte - 0x80U] : char16_t{byte};
     }
     return texto;
 }

@@ -23,9 +23,11 @@
 #include "norvik/spec/cargadorLenguaje.hpp"
 
 #include <any>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -50,6 +52,8 @@ public:
     void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken = false,
                std::int32_t tipoToken = Norvik_ExpReg, std::u16string_view pseudoToken = {},
                std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) override;
+    void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
+                   std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) override;
     void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                              std::u16string_view pseudoToken = {}) override;
     /// The same for a token name that is no variable.
@@ -62,6 +66,7 @@ public:
     void InsertarSimboloGramatica(std::u16string_view simboloG) override;
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) override;
     void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas, std::int16_t valorSLR) override;
+    std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override;
     /// Forgets the token definitions; rules, symbols and table stay.
     void BorraLenguaje();
 

@@ -26,6 +26,13 @@ void Norvik::SetER(std::u16string_view expresion, std::u16string_view nomER, boo
                                      a16(tipoToken), baseToken, colorTexto));
 }
 
+void Norvik::SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
+                       std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t /*colorTexto*/) {
+    const auto error = lexico_.registraPatron(
+        {patron, nomER, true, opciones_.lenguajeSensible, pseudoToken, a16(tipoToken), baseToken});
+    if (error) muestraErrorLexico(mensaje(*error));
+}
+
 void Norvik::SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                                  std::u16string_view pseudoToken) {
     if (token.empty()) token = aMinusculas(lexema);
@@ -64,6 +71,10 @@ void Norvik::SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) {
 
 void Norvik::SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas, std::int16_t valorSLR) {
     gramatica_.SetElementoTablaSLR(posFilas, posColumnas, valorSLR);
+}
+
+std::size_t Norvik::SetElementosTablaSLR(std::span<const CeldaSLR> celdas) {
+    return gramatica_.SetElementosTablaSLR(celdas);
 }
 
 void Norvik::BorraLenguaje() {

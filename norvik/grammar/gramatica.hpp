@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/ficheros.hpp"
+#include "norvik/grammar/celdaSLR.hpp"
 #include "norvik/grammar/conjunto.hpp"
 #include "norvik/grammar/conjuntosNumerados.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
@@ -8,6 +9,7 @@
 #include "norvik/grammar/tablaSLR.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <filesystem>
@@ -131,6 +133,8 @@ public:
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
     /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
     void SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor);
+    /// The same of many, up to the first that would raise; returns how many were set.
+    std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas);
     std::int16_t GetDimensionFilasSLR() const { return tabla_.filas(); }
     std::int16_t GetDimensionColumnasSLR() const { return tabla_.columnas(); }
     /// Rule that lost a conflict in a cell (1-based), 0 when there was none or the table was loaded.
@@ -220,12 +224,7 @@ private:
     void escribeProblemas(std::int16_t fila, EscritorLineas& salida) const;
 
     // Parts of the modules.
-    struct Celda {
-        std::int16_t fila = 0;
-        std::int16_t columna = 0;
-        std::int16_t valor = 0;
-    };
-    std::vector<Celda> celdasFijas() const;
+    std::vector<CeldaSLR> celdasFijas() const;
     void escribeTablaCpp(EscritorLineas& salida) const;
     void escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const;
     void escribeSimbolos(EscritorLineas& salida) const;

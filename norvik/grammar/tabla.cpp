@@ -174,6 +174,18 @@ void gramatica::SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std
     tabla_.pon(fila, columna, valor);
     ++edicion_;
 }
+std::size_t gramatica::SetElementosTablaSLR(std::span<const CeldaSLR> celdas) {
+    ++edicion_;
+    std::size_t puestas = 0;
+    try {
+        for (const auto& [fila, columna, valor] : celdas) {
+            tabla_.pon(fila, columna, valor);
+            ++puestas;
+        }
+    } catch (const ErrorNorvik&) { // of the one behind those
+    }
+    return puestas;
+}
 
 std::int16_t gramatica::conflicto(std::int16_t fila, std::int16_t columna) const {
     const bool fuera =

@@ -63,6 +63,8 @@ public:
     /// Registers a definition, with the colour of its kind. Returns its first error, without a place; nothing
     /// is registered then. Raises `Desbordamiento` beyond 32 767 definitions.
     std::optional<Diagnostico> registra(const DefinicionTexto& definicion);
+    /// The same of a definition whose text is expanded already.
+    std::optional<Diagnostico> registraPatron(const DefinicionTexto& definicion);
     /// The same, with the error as its message, empty on success. `colorOpcional` has no effect.
     std::u16string SetER(std::u16string_view expresionRegular, std::u16string_view nomER, bool esToken,
                          bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
@@ -94,6 +96,7 @@ public:
 
 private:
     std::int32_t colorDeTipo(std::int16_t tipo) const;
+    bool registra(const DefinicionTexto& definicion, std::u16string_view patron, std::u16string_view lectura);
     void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
     void reconoce(std::u16string_view rango);
 

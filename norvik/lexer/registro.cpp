@@ -1,5 +1,6 @@
 // Registration of token definitions: expansion, check of the pattern, colour of the kind.
 #include "norvik/base/errores.hpp"
+#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
@@ -37,17 +38,32 @@ std::optional<Diagnostico> pilaTokens::registra(const DefinicionTexto& definicio
     if (const auto* const error = std::get_if<ErrorExpansion>(&expansion))
         return diagnosticoDe(*error, definicion);
     const auto& [patron, lectura] = std::get<Expansion>(expansion);
+    if (!registra(definicion, patron, lectura)) return diagnosticoDe({}, definicion);
+    return std::nullopt;
+}
+
+std::optional<Diagnostico> pilaTokens::registraPatron(const DefinicionTexto& definicion) {
+    if (registra(definicion, definicion.texto, lecturaDePatron(definicion.texto))) return std::nullopt;
+    const std::u16string texto = definicionDePatron(definicion.texto);
+    DefinicionTexto escrita = definicion;
+    escrita.texto = texto;
+    return diagnosticoDe({}, escrita);
+}
+
+/// False when the pattern is malformed, or something of the record is out of range.
+bool pilaTokens::registra(const DefinicionTexto& definicion, std::u16string_view patron,
+                          std::u16string_view lectura) {
     auto nueva = std::make_unique<expresionRegular>();
     try {
         if (!nueva->SetExpReg(patron, definicion.nombre, definicion.esToken, definicion.sensibleTamanio,
                               definicion.pseudoToken, definicion.tipo, definicion.base, lectura))
-            return diagnosticoDe({}, definicion);
+            return false;
     } catch (const ErrorNorvik&) {
-        return diagnosticoDe({}, definicion);
+        return false;
     }
     nueva->SetColor(colorDeTipo(definicion.tipo));
     archiva(std::move(nueva), definicion.esToken);
-    return std::nullopt;
+    return true;
 }
 
 std::u16string pilaTokens::SetER(std::u16string_view texto, std::u16string_view nomER, bool esToken,

@@ -90,12 +90,12 @@ void escribeElemento(EscritorLineas& salida, std::int16_t fila, std::int16_t col
 } // namespace
 
 /// The two entries that reading the table makes up, in column order.
-std::vector<gramatica::Celda> gramatica::celdasFijas() const {
-    std::vector<Celda> fijas;
+std::vector<CeldaSLR> gramatica::celdasFijas() const {
+    std::vector<CeldaSLR> fijas;
     const auto& [calculadas, inicial, fin, cabezas] = columnas();
     if (inicial >= 0) fijas.push_back({1, static_cast<std::int16_t>(inicial + 1), 1});
     if (fin >= 0 && fin != inicial) fijas.push_back({2, static_cast<std::int16_t>(fin + 1), aceptar});
-    std::ranges::sort(fijas, {}, &Celda::columna);
+    std::ranges::sort(fijas, {}, &CeldaSLR::columna);
     return fijas;
 }
 

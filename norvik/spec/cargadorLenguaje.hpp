@@ -2,9 +2,13 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/celdaSLR.hpp"
+#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/tipos.hpp"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,6 +40,11 @@ public:
     virtual void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken = false,
                        std::int32_t tipoToken = Norvik_ExpReg, std::u16string_view pseudoToken = {},
                        std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) = 0;
+    /// Registers a token whose definition is expanded already: its pattern.
+    virtual void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
+                           std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) {
+        SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
+    }
     /// An empty token name becomes the word in lower case, and the caller's variable with it.
     virtual void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                                      std::u16string_view pseudoToken = {}) = 0;
@@ -52,6 +61,9 @@ public:
     /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
     virtual void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas,
                                      std::int16_t valorSLR) = 0;
+    /// Sets entries from the first on, as many as are better set together, and none that would raise; returns
+    /// how many. The others are for `SetElementoTablaSLR`.
+    virtual std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> /*celdas*/) { return 0; }
     /// Builds the table of the rules held. False when the grammar check failed (its message is shown).
     virtual bool GeneraCompilador() = 0;
 };

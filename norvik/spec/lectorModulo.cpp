@@ -9,10 +9,12 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
-#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/lineasModulo.hpp"
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -21,7 +23,7 @@ namespace norvik {
 namespace {
 
 struct LlamadaSetER {
-    std::u16string expresion;
+    std::u16string patron;
     std::u16string nombre;
     std::int32_t tipo = 0;
     std::u16string pseudoToken;
@@ -35,11 +37,6 @@ struct LlamadaDimension {
     std::int16_t filas = 0;
     std::int16_t columnas = 0;
 };
-struct LlamadaElemento {
-    std::int16_t fila = 0;
-    std::int16_t columna = 0;
-    std::int16_t valor = 0;
-};
 struct LlamadaSimbolo {
     std::u16string simbolo;
 };
@@ -51,19 +48,43 @@ struct Llamada {
     T datos;
 };
 
+/// The lines of calls that follow one another but for a few gaps.
+class LineasSeguidas {
+public:
+    void aniade(std::size_t llamada, std::int32_t linea) {
+        const std::int64_t salto = linea - static_cast<std::int64_t>(llamada);
+        if (tramos_.empty() || salto != tramos_.back().salto) tramos_.push_back({llamada, salto});
+    }
+    /// Of a call that was added.
+    std::int32_t de(std::size_t llamada) const {
+        const auto siguiente = std::ranges::upper_bound(tramos_, llamada, {}, &Tramo::primera);
+        return static_cast<std::int32_t>(static_cast<std::int64_t>(llamada) + std::prev(siguiente)->salto);
+    }
+
+private:
+    struct Tramo {
+        std::size_t primera = 0;
+        std::int64_t salto = 0; ///< from a call's number to its line
+    };
+    std::vector<Tramo> tramos_;
+};
+
 /// All the calls of a module.
 struct Modulo {
     std::vector<Llamada<LlamadaSetER>> definiciones;
     std::vector<Llamada<LlamadaSetRegla>> reglas;
     Llamada<LlamadaDimension> dimension;
-    std::vector<Llamada<LlamadaElemento>> elementos;
+    std::vector<CeldaSLR> elementos; ///< by far the most
+    LineasSeguidas lineasDeElementos;
     std::vector<Llamada<LlamadaSimbolo>> simbolos;
 };
 
 /// The module's lines, in their order.
 class LectorModulo {
 public:
-    explicit LectorModulo(const OrigenDeTexto& origen) : lineas_(origen) {}
+    /// Of a text, or of where it comes from.
+    template <typename Texto>
+    explicit LectorModulo(const Texto& texto) : lineas_(texto) {}
 
     Modulo lee() {
         cabecera();
@@ -126,14 +147,15 @@ private:
     }
 
     void elemento() {
-        Llamada<LlamadaElemento> llamada{lineas_.numeroDeLinea(), {}};
-        llamada.datos.fila = lineas_.numero16();
+        CeldaSLR celda;
+        celda.fila = lineas_.numero16();
         lineas_.sigue(u", ");
-        llamada.datos.columna = lineas_.numero16();
+        celda.columna = lineas_.numero16();
         lineas_.sigue(u", ");
-        llamada.datos.valor = lineas_.numero16();
+        celda.valor = lineas_.numero16();
         lineas_.acaba();
-        modulo_.elementos.push_back(llamada);
+        modulo_.lineasDeElementos.aniade(modulo_.elementos.size(), lineas_.numeroDeLinea());
+        modulo_.elementos.push_back(celda);
     }
 
     void procedimientoDeTokens() {
@@ -145,7 +167,7 @@ private:
 
     void definicion() {
         Llamada<LlamadaSetER> llamada{lineas_.numeroDeLinea(), {}};
-        llamada.datos.expresion = lineas_.cadenaConComillas();
+        llamada.datos.patron = lineas_.cadenaConComillas();
         lineas_.sigue(u", ");
         llamada.datos.nombre = lineas_.cadena();
         lineas_.sigue(u", True, ");
@@ -176,16 +198,13 @@ private:
 };
 
 void llama(CargadorLenguaje& control, const LlamadaSetER& l) {
-    control.SetER(definicionDePatron(l.expresion), l.nombre, true, l.tipo, l.pseudoToken, l.base, l.color);
+    control.SetPatron(l.patron, l.nombre, l.tipo, l.pseudoToken, l.base, l.color);
 }
 void llama(CargadorLenguaje& control, const LlamadaSetRegla& l) {
     control.SetRegla(l.regla);
 }
 void llama(CargadorLenguaje& control, const LlamadaDimension& l) {
     control.SetDimensionTablaSLR(l.filas, l.columnas);
-}
-void llama(CargadorLenguaje& control, const LlamadaElemento& l) {
-    control.SetElementoTablaSLR(l.fila, l.columna, l.valor);
 }
 void llama(CargadorLenguaje& control, const LlamadaSimbolo& l) {
     control.InsertarSimboloGramatica(l.simbolo);
@@ -200,7 +219,7 @@ public:
         todas(modulo.definiciones);
         todas(modulo.reglas);
         una(modulo.dimension);
-        todas(modulo.elementos);
+        elementos(modulo);
         todas(modulo.simbolos);
     }
     std::int32_t linea() const { return linea_; }
@@ -215,10 +234,35 @@ private:
     void todas(const std::vector<Llamada<T>>& llamadas) {
         for (const auto& llamada : llamadas) una(llamada);
     }
+    void elementos(const Modulo& modulo) {
+        const std::size_t total = modulo.elementos.size();
+        for (std::size_t i = control_.SetElementosTablaSLR(modulo.elementos); i < total; ++i) {
+            linea_ = modulo.lineasDeElementos.de(i);
+            const auto& [fila, columna, valor] = modulo.elementos[i];
+            control_.SetElementoTablaSLR(fila, columna, valor);
+        }
+    }
 
     CargadorLenguaje& control_;
     std::int32_t linea_ = 0;
 };
+
+template <typename Texto>
+std::optional<ErrorModulo> carga(const Texto& texto, CargadorLenguaje& control) {
+    Modulo modulo;
+    try {
+        modulo = LectorModulo(texto).lee();
+    } catch (const ErrorModulo& error) {
+        return error;
+    }
+    Ejecucion ejecucion(control);
+    try {
+        ejecucion.ejecuta(modulo);
+    } catch (const ErrorNorvik& error) {
+        return ErrorModulo{ejecucion.linea(), error.texto()};
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -231,29 +275,11 @@ bool esModulo(const std::filesystem::path& fichero) {
 }
 
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control) {
-    const OrigenDeTexto origen = [&] {
-        constexpr std::size_t unTrozo = 16384;
-        const auto trozo = texto.substr(0, unTrozo);
-        texto.remove_prefix(trozo.size());
-        return std::u16string(trozo);
-    };
-    return CargaModulo(origen, control);
+    return carga(texto, control);
 }
 
 std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control) {
-    Modulo modulo;
-    try {
-        modulo = LectorModulo(origen).lee();
-    } catch (const ErrorModulo& error) {
-        return error;
-    }
-    Ejecucion ejecucion(control);
-    try {
-        ejecucion.ejecuta(modulo);
-    } catch (const ErrorNorvik& error) {
-        return ErrorModulo{ejecucion.linea(), error.texto()};
-    }
-    return std::nullopt;
+    return carga(origen, control);
 }
 
 } // namespace norvik

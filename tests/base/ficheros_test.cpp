@@ -52,8 +52,9 @@ TEST(Ficheros, EligeLaCodificacionQueDevuelveElTexto) {
 TEST(Ficheros, PorTrozosSeLeeLoMismo) {
     const CarpetaTemporal carpeta;
     for (const std::string& bytes :
-         {std::string(), repite("\xEF\xBB\xBF", 2), repite("a\xF1o ", 50000), repite("\xCE\x94", 90000),
-          repite("\xF0\x9F\x98\x80\r\n", 30000), "\xEF\xBB\xBF" + repite("\xCE\x94x", 70000) + "\xFF"}) {
+         {std::string(), repite("\xEF\xBB\xBF", 2), repite("a\xF1o ", 50000), repite("a\xF1", 50000),
+          repite("\xCE\x94", 90000), repite("\xF0\x9F\x98\x80\r\n", 30000),
+          "\xEF\xBB\xBF" + repite("\xCE\x94x", 70000) + "\xFF"}) {
         TextoPorTrozos fichero(carpeta.pon("f.txt", bytes));
         std::u16string texto;
         for (auto trozo = fichero.siguiente(); !trozo.empty(); trozo = fichero.siguiente()) texto += trozo;
@@ -94,6 +95,10 @@ TEST(Ficheros, LosErroresDeLecturaNombranElFicheroYLaCausa) {
     }
     EXPECT_EQ(mensajeDe([] { leeBytes("/dev/zero"); }),
               u"No se puede leer «/dev/zero»: el fichero es demasiado grande");
+    const fs::path enorme = carpeta.pon("enorme", "\xF1");
+    fs::resize_file(enorme, maximoDeFichero + 1);
+    EXPECT_EQ(mensajeDe([&] { const TextoPorTrozos texto(enorme); }),
+              u"No se puede leer «" + decodifica(enorme.native()) + u"»: el fichero es demasiado grande");
 }
 
 TEST(Ficheros, LosErroresDeEscrituraDejanElAntiguoYNadaMas) {

@@ -1,9 +1,13 @@
 #include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/lexer/definicionDePatron.hpp"
+#include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <gtest/gtest.h>
+
+#include <random>
 
 using namespace norvik;
 
@@ -37,6 +41,19 @@ std::u16string errorB(const std::u16string& nombre, const std::u16string& texto)
 std::u16string errorC(const std::u16string& n, const std::u16string& q) {
     return u"Error en la invocación de la expresión regular '" + q + u"' desde la expresión regular '" + n +
            u"'.\r\nLa expresión regular '" + q + u"' o no existe o no se ha definido antes que '" + n + u"'.";
+}
+
+TEST(Registro, LaDefinicionDeUnPatronSeExpandeEnElYEnSuLectura) {
+    const pilaTokens lexico;
+    std::mt19937 azar(7);
+    constexpr std::u16string_view signos = u"\\\\\\c<>\"(92)aÑ\n";
+    for (int i = 0; i < 2000; ++i) {
+        std::u16string patron;
+        while (azar() % 8 != 0) patron += signos[azar() % signos.size()];
+        const auto expansion = expande(definicionDePatron(patron), lexico);
+        EXPECT_EQ(std::get<Expansion>(expansion).patron, patron);
+        EXPECT_EQ(std::get<Expansion>(expansion).lectura, lecturaDePatron(patron)) << aUtf8(patron);
+    }
 }
 
 TEST(Registro, ExpandeElTextoYDaSuLectura) {

@@ -32,11 +32,53 @@ std::u16string cambia(std::u16string texto, std::u16string_view viejo, std::u16s
     return texto.replace(p, viejo.size(), nuevo);
 }
 
-/// The text whole, and in small pieces.
+/// A loader that knows only the plain calls, and makes them on a control.
+class SoloLlamadas : public CargadorLenguaje {
+public:
+    explicit SoloLlamadas(Norvik& norvik) : norvik_(norvik) {}
+
+    void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken, std::int32_t tipo,
+               std::u16string_view pseudoToken, std::int32_t base, std::int32_t color) override {
+        norvik_.SetER(expresion, nomER, esToken, tipo, pseudoToken, base, color);
+    }
+    void SetPalabraReservada(std::u16string_view, std::u16string&, std::u16string_view) override {}
+    void SetOperador(std::u16string_view, std::u16string_view, std::u16string_view) override {}
+    void SetComentarioLinea(std::u16string_view) override {}
+    void SetRegla(std::u16string_view regla, std::int16_t) override { norvik_.SetRegla(regla); }
+    void InsertarSimboloGramatica(std::u16string_view s) override { norvik_.InsertarSimboloGramatica(s); }
+    void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) override {
+        norvik_.SetDimensionTablaSLR(filas, columnas);
+    }
+    void SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor) override {
+        norvik_.SetElementoTablaSLR(fila, columna, valor);
+    }
+    bool GeneraCompilador() override { return false; }
+
+private:
+    Norvik& norvik_;
+};
+
+/// All that a control holds of a language, and the messages that it showed.
+std::string estado(Anfitrion& a) {
+    std::string texto = a.lexico() + a.reglas() + mensajes(a.sistema.mensajes);
+    for (const auto* const token : a.norvik.Lexico().tokensLenguaje()) texto += aUtf8(token->pseudoTmp);
+    const gramatica& g = a.norvik.Gramatica();
+    for (std::int16_t e = 0; e < g.GetDimensionFilasSLR(); ++e)
+        for (std::int16_t c = 0; c < g.GetNumSimbolos(); ++c)
+            texto += " " + std::to_string(g.GetElementoTablaSLR(e, c));
+    return texto;
+}
+
+/// The text whole, by plain calls, and in small pieces.
 std::string error(std::u16string_view texto) {
     Anfitrion a;
     const auto fallo = CargaModulo(texto, a.norvik);
     std::string mensaje = fallo ? aUtf8(fallo->mensaje()) : "";
+    Anfitrion llamado;
+    SoloLlamadas llamadas(llamado.norvik);
+    const auto suyo = CargaModulo(texto, llamadas);
+    EXPECT_EQ(suyo ? aUtf8(suyo->mensaje()) : "", mensaje);
+    EXPECT_EQ(estado(llamado), estado(a));
     const OrigenDeTexto aTrozos = [&] {
         const auto trozo = texto.substr(0, 1 + texto.size() % 5);
         texto.remove_prefix(trozo.size());
@@ -120,12 +162,15 @@ TEST(Modulo, LoDemasSeNombraConSuLinea) {
         {con(u"SLR 3, 3", u"SLR 3, 99999999999999999999"), "Línea 18 del módulo: número fuera de intervalo"},
         {con(u"SLR 1, 3, 1", u"SLR 4, 3, 1"), "Línea 21 del módulo: Subíndice fuera de intervalo"},
         {con(u"SLR 1, 3, 1", u"SLR 1, 0, 1"), "Línea 21 del módulo: Subíndice fuera de intervalo"},
+        {con(u"SLR 1, 3, 1", u"SLR 1, 3, 1\n\n\tNorvikRefParam.SetElementoTablaSLR 1, 4, 1"),
+         "Línea 23 del módulo: Subíndice fuera de intervalo"},
         {con(u"SLR 1, 3, 1", u"SLR 1, 3, 1\r\n\tCalc.CargaLenguaje NorvikRefParam"),
          "Línea 22 del módulo: se esperaba «1»"},
         {con(u"SLR 1, 3, 1", u"SLR 1, 3, 1\r\n\tCalc.CargaLenguaje1 NorvikRefParam\r\nEnd Sub\r\n"
                              u"Public Sub CargaLenguaje1(NorvikRefParam As Norvik)\r\n"
                              u"Calc.CargaLenguaje1 NorvikRefParam"),
          "Línea 25 del módulo: se esperaba «2»"},
+        {con(u"NorvikRefParam.Ins", u"CalcNorvikRefParam.Ins"), "Línea 25 del módulo: se esperaba «End Sub»"},
         {con(u"Gramatica \"a\"", u"Gramatica \"a"),
          "Línea 25 del módulo: falta la comilla que cierra un texto"},
         {con(u", True, 0", u", False, 0"), "Línea 37 del módulo: se esperaba «, True,»"},
@@ -142,6 +187,16 @@ TEST(Modulo, CortadoEnCualquierSitioOConRuido) {
     const std::u16string bueno = modulo(u"Token a = \"a\\c(34)\"; S -> a;");
     const std::size_t ultimo = bueno.find_last_not_of(u"\r\n");
     for (std::size_t n = 0; n <= ultimo; ++n) EXPECT_NE(error(bueno.substr(0, n)), "") << n;
+    for (std::size_t n = 1; n < bueno.size(); ++n) { // in two pieces
+        std::vector<std::u16string> trozos = {{}, bueno.substr(n), bueno.substr(0, n)};
+        const OrigenDeTexto origen = [&] {
+            const std::u16string trozo = trozos.back();
+            if (trozos.size() > 1) trozos.pop_back();
+            return trozo;
+        };
+        Anfitrion a;
+        ASSERT_FALSE(CargaModulo(origen, a.norvik)) << n;
+    }
     std::mt19937 azar(3);
     for (int i = 0; i < 200; ++i) {
         std::u16string roto = bueno;
