@@ -111,6 +111,7 @@ void etapasDelLenguaje(Materia& m) {
         "automata", [] { paso.creaAutomata(); }, hastaConjuntos);
     etapa(
         "tabla", [] { paso.creaTablaSLR(); }, [hastaConjuntos] { hastaConjuntos(), paso.creaAutomata(); });
+    etapa("compila", [&m] { m.sobra.compila(m.fuente); });
     etapa("modulo", [&m] {
         m.puesto.control.Gramatica().escribeModulo(
             u"Medida", m.puesto.control.Lexico(),
