@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -186,6 +187,17 @@ public:
         const auto error = datos_.lexico.registra(
             {expresion, nomER, esToken, sensible, pseudoToken, a16(tipoToken), baseToken});
         if (error) throw ArgumentoNoValido(mensaje(*error));
+    }
+    void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
+                   std::u16string_view pseudoToken, std::int32_t baseToken,
+                   std::int32_t /*colorTexto*/) override {
+        constexpr bool sensible = false;
+        const auto error = datos_.lexico.registraPatron(
+            {patron, nomER, true, sensible, pseudoToken, a16(tipoToken), baseToken});
+        if (error) throw ArgumentoNoValido(mensaje(*error));
+    }
+    std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override {
+        return datos_.reglas.SetElementosTablaSLR(celdas);
     }
     void SetRegla(std::u16string_view regla, std::int16_t numIdentificacion) override {
         const auto [cabeza, cuerpo] = parteRegla(regla);
