@@ -11,30 +11,32 @@ namespace norvik {
 
 enum class Gravedad : std::uint8_t { Error, Aviso, Nota };
 
-/// What is wrong or odd. `nombreDe` gives the stable name of each, by which programs know it.
+/// Lo que está mal o llama la atención. `nombreDe` da el nombre fijo de cada uno, por el que lo conocen los
+/// programas.
 enum class Codigo : std::uint8_t {
-    // Of a text.
-    CaracterIncorrecto, ///< a character that starts no token: `hallado`
-    TokenInesperado,    ///< `hallado` where only `esperados` may stand
-    BusquedaDesbocada,  ///< `nombre`: the definition whose search needs too much time or memory
-    Cancelado,          ///< the caller wanted no more of it
-    Utf8Incorrecto,     ///< bytes that are no UTF-8
-    SinGramatica,       ///< a text was to be parsed with a language that has no rules
-    TablaIncorrecta,    ///< the table names no state or rule, never stops reducing, or gives no tree
-    // Of a specification.
-    CodigoMalEscrito,      ///< `nombre`: the definition with a misspelt \c(n)
-    ReferenciaDesconocida, ///< `nombre` refers to `hallado`, which is not defined before it
-    PatronIncorrecto,      ///< `nombre`: the definition, `hallado`: its text
-    VariableIndefinida,    ///< `hallado` stands in a body of `nombre`, and no rule defines it
-    TokenIndefinido,       ///< the same of a token
-    SinReglas,             ///< nothing can be parsed
-    Conflicto,             ///< `hallado`: both actions of a cell; `nombre`: state and symbol
-    CapacidadSuperada,     ///< `hallado`: which limit was passed
-    // Of a loading module.
-    ModuloIncorrecto, ///< `hallado`: what is wrong with its line
+    CaracterIncorrecto, ///< de un texto: el carácter `hallado` no empieza ningún token
+    TokenInesperado,    ///< de un texto: `hallado` donde solo caben `esperados`
+    BusquedaDesbocada,  ///< de un texto: buscar la definición `nombre` pide demasiado tiempo o memoria
+    Cancelado,          ///< quien llamó no quiso más
+    Utf8Incorrecto,     ///< de un texto: bytes que no son UTF-8
+    SinGramatica,       ///< se quiso analizar un texto con un lenguaje sin reglas
+    TablaIncorrecta, ///< de un módulo: su tabla nombra un estado o una regla que no hay, no deja de reducir o
+                     ///< no da un árbol
+    CodigoMalEscrito,      ///< de una especificación: la definición `nombre` tiene un `\c(n)` mal escrito
+    ReferenciaDesconocida, ///< de una especificación: `nombre` se refiere a `hallado`, que no está definida
+                           ///< antes
+    PatronIncorrecto, ///< de una especificación: la definición `nombre`, de texto `hallado`, no es un patrón
+    VariableIndefinida, ///< de una especificación: `hallado` está en un cuerpo de `nombre` y ninguna regla la
+                        ///< define
+    TokenIndefinido, ///< de una especificación: lo mismo de un token
+    SinReglas,       ///< de una especificación: no se puede analizar nada
+    Conflicto, ///< de una especificación: `hallado` son las dos acciones de una celda; `nombre`, estado y
+               ///< símbolo
+    CapacidadSuperada, ///< de una especificación: `hallado` es el límite que se pasó
+    ModuloIncorrecto,  ///< de un módulo: `hallado` dice qué está mal en su línea
 };
 
-/// Another place that has to do with a diagnostic, and what stands there.
+/// Otro lugar que tiene que ver con un diagnóstico, y lo que hay en él.
 struct Relacionado {
     Rango rango;
     std::u16string texto;
@@ -42,8 +44,8 @@ struct Relacionado {
     bool operator==(const Relacionado&) const = default;
 };
 
-/// What the words of a diagnostic are made of; each code says which of them it fills. Texts are as a person
-/// knows them: a token by its display name or between apostrophes.
+/// Aquello de lo que se hacen las palabras de un diagnóstico; cada código dice qué partes llena. Los textos
+/// son como los conoce una persona: un token por su nombre para personas o entre apóstrofos.
 struct Partes {
     std::u16string nombre;
     std::u16string hallado;
@@ -53,7 +55,7 @@ struct Partes {
     bool operator==(const Partes&) const = default;
 };
 
-/// One thing that is wrong or odd, as a value: `mensaje` makes its words.
+/// Una cosa que está mal o llama la atención, como valor: `mensaje` hace sus palabras.
 struct Diagnostico {
     Codigo codigo = Codigo::TokenInesperado;
     Gravedad gravedad = Gravedad::Error;
@@ -63,14 +65,14 @@ struct Diagnostico {
     bool operator==(const Diagnostico&) const = default;
 };
 
-/// "token-inesperado": lower case and hyphens, never changed once it has been given out.
+/// «token-inesperado»: minúsculas y guiones; no cambia nunca una vez publicado.
 std::u16string_view nombreDe(Codigo codigo);
-/// "error", "aviso" or "nota".
+/// «error», «aviso» o «nota».
 std::u16string_view nombreDe(Gravedad gravedad);
-/// The words for a person, without place and code.
+/// Las palabras para una persona, sin lugar ni código.
 std::u16string mensaje(const Diagnostico& diagnostico);
 
-/// Whether one of them is an error.
+/// Si alguno de ellos es un error.
 bool hayErrores(const std::vector<Diagnostico>& diagnosticos);
 
 } // namespace norvik

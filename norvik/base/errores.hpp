@@ -6,55 +6,55 @@
 
 namespace norvik {
 
-/// Root of the failures that operations raise. The text is Spanish and meant for the user.
+/// Raíz de los fallos que lanzan las operaciones. Su texto está en español y es para el usuario.
 class ErrorNorvik : public std::runtime_error {
 public:
     explicit ErrorNorvik(std::u16string_view texto);
 
-    /// The text in UTF-16; `what()` gives it in UTF-8.
+    /// El texto en UTF-16; `what()` lo da en UTF-8.
     const std::u16string& texto() const { return texto_; }
 
 private:
     std::u16string texto_;
 };
 
-/// A number that does not fit its prescribed type, or a capacity that is exhausted.
+/// Un número que no cabe en el tipo prescrito, o una capacidad agotada.
 class Desbordamiento : public ErrorNorvik {
 public:
     explicit Desbordamiento(std::u16string_view texto = u"Desbordamiento");
 };
 
-/// A text longer than `maximoTexto`.
+/// Un texto más largo que `maximoTexto`.
 class TextoDemasiadoLargo : public Desbordamiento {
 public:
     TextoDemasiadoLargo();
 };
 
-/// An index outside a fixed table (rules, items of a state, cells of the SLR table).
+/// Un índice fuera de una tabla fija (reglas, ítems de un estado, celdas de la tabla SLR).
 class SubindiceFueraDeIntervalo : public ErrorNorvik {
 public:
     explicit SubindiceFueraDeIntervalo(std::u16string_view texto = u"Subíndice fuera de intervalo");
 };
 
-/// A position that a list does not have.
+/// Una posición que no tiene la lista.
 class IndiceNoValido : public ErrorNorvik {
 public:
     explicit IndiceNoValido(std::u16string_view texto = u"Índice no válido");
 };
 
-/// A value that cannot be converted to the expected type, or a text without its expected form.
+/// Un valor que no se puede convertir al tipo esperado, o un texto sin la forma esperada.
 class NoCoincidenLosTipos : public ErrorNorvik {
 public:
     explicit NoCoincidenLosTipos(std::u16string_view texto = u"No coinciden los tipos");
 };
 
-/// An argument that the operation cannot work with.
+/// Un argumento con el que la operación no puede trabajar.
 class ArgumentoNoValido : public ErrorNorvik {
 public:
     explicit ArgumentoNoValido(std::u16string_view texto = u"Argumento o llamada a procedimiento no válidos");
 };
 
-/// A file that cannot be read or written; the text names the file and the cause.
+/// Un fichero que no se puede leer o escribir; el texto nombra el fichero y la causa.
 class ErrorDeFichero : public ErrorNorvik {
 public:
     explicit ErrorDeFichero(std::u16string_view texto);

@@ -11,21 +11,25 @@
 
 namespace norvik {
 
-/// A greater file is refused: no text of that size can be edited, and an endless one must not fill memory.
+/// Un fichero mayor se rechaza: ningún texto de ese tamaño se puede editar, y uno sin fin no debe llenar la
+/// memoria.
 inline constexpr std::size_t maximoDeFichero = std::size_t{64} << 20;
 
-/// A whole file's bytes; raises `ErrorDeFichero` (missing, a folder, unreadable, too large …).
+/// Los bytes de un fichero entero; lanza `ErrorDeFichero` (no existe, es una carpeta, no se puede leer, es
+/// demasiado grande…).
 std::string leeBytes(const std::filesystem::path& fichero);
-/// The same of standard input, from where it stands to its end.
+/// Lo mismo de la entrada estándar, desde donde está hasta su final.
 std::string leeEntradaEstandar();
-/// A text as the editor loads it: decoded, lines normalised.
+/// Un texto como lo carga el editor: descodificado y con todas sus líneas acabadas en CR LF, menos la última,
+/// que pierde su final. Lanza `ErrorDeFichero`.
 std::u16string leeTexto(const std::filesystem::path& fichero);
 
-/// Gives a text piece by piece, no character cut in two; nothing once it is over.
+/// Da un texto trozo a trozo, sin partir ningún carácter; nada cuando se ha acabado.
 using OrigenDeTexto = std::function<std::u16string()>;
 
-/// A file's text in pieces, decoded as `decodifica` does it, for one too long to be held whole. The file is
-/// first read to tell its encoding, up to the first byte that makes it no UTF-8. Both raise `ErrorDeFichero`.
+/// El texto de un fichero por trozos, descodificado como hace `leeTexto` pero con sus finales de línea, para
+/// el que sea demasiado largo para tenerlo entero. El fichero se lee antes para saber su codificación, hasta
+/// el primer byte que impide que sea UTF-8. Ambas operaciones lanzan `ErrorDeFichero`.
 class TextoPorTrozos {
 public:
     explicit TextoPorTrozos(const std::filesystem::path& fichero);
@@ -34,29 +38,31 @@ public:
 private:
     std::string bytes();
 
-    std::u16string nombre_; ///< for messages
+    std::u16string nombre_; ///< para los mensajes
     Descriptor descriptor_;
-    std::string resto_;      ///< bytes read and not yet given
-    std::size_t leidos_ = 0; ///< bytes given
+    std::string resto_;      ///< bytes leídos y no dados aún
+    std::size_t leidos_ = 0; ///< bytes dados
     bool esUtf8_ = true;
     bool primero_ = true;
-    std::u16string entero_; ///< what could be read once only
+    std::u16string entero_; ///< lo que solo se pudo leer una vez
 };
 
 enum class Durabilidad { Normal, EnDisco };
-/// Writes a whole file beside its place and renames it over it: a failure at any step (`ErrorDeFichero`)
-/// leaves the old one. Permissions stay, a link is followed; `EnDisco` flushes file and folder. What is no
-/// regular file (a device, a pipe) has no place beside it and is written directly.
+/// Escribe un fichero entero al lado de su sitio y le da después su nombre: un fallo en cualquier paso
+/// (`ErrorDeFichero`) deja el antiguo. Se conservan los permisos y se sigue un enlace; `EnDisco` vuelca
+/// fichero y carpeta al disco. Lo que no es un fichero corriente (un dispositivo, una tubería) no tiene sitio
+/// al lado y se escribe directamente. Un texto se escribe en Windows-1252 cuando así se vuelve a leer el
+/// mismo texto, y si no en UTF-8 con marca.
 void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes, Durabilidad durabilidad);
 void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto, Durabilidad durabilidad);
 
-/// Takes a text piece by piece.
+/// Recibe un texto trozo a trozo.
 using SumideroDeTexto = std::function<void(std::u16string_view pieza)>;
-/// Gives a text in pieces of whole lines, the same each time it is asked.
+/// Da un texto en trozos de líneas enteras, el mismo cada vez que se le pide.
 using TextoPorPiezas = std::function<void(const SumideroDeTexto& sumidero)>;
-/// The text in one piece.
+/// El texto de una pieza.
 std::u16string deUnaPieza(const TextoPorPiezas& piezas);
-/// Writes a text that is too long to be held whole.
+/// Escribe un texto demasiado largo para tenerlo entero.
 void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
                   Durabilidad durabilidad);
 

@@ -4,16 +4,16 @@
 
 namespace norvik {
 
-/// A place in a text. The units are those of whoever gave the text: bytes of UTF-8, or UTF-16 units.
+/// Un lugar de un texto. Las unidades son las de quien dio el texto: bytes de UTF-8 o unidades UTF-16.
 struct Punto {
-    std::int32_t desplazamiento = 0; ///< units before it, from 0
-    std::int32_t linea = 1;          ///< from 1; a line ends with CR LF, CR or LF
-    std::int32_t columna = 1;        ///< from 1, in units
+    std::int32_t desplazamiento = 0; ///< unidades que hay delante, desde 0
+    std::int32_t linea = 1;          ///< desde 1; una línea acaba con CR LF, CR o LF
+    std::int32_t columna = 1;        ///< desde 1, en unidades
 
     bool operator==(const Punto&) const = default;
 };
 
-/// A part of a text, from its first unit up to the one behind its last.
+/// Una parte de un texto, de su primera unidad a la que sigue a la última.
 struct Rango {
     Punto inicio;
     Punto fin;

@@ -6,48 +6,49 @@
 #include <string>
 #include <string_view>
 
-// Text is UTF-16, one character is one unit. Conversion to bytes happens at the border only.
+// El texto es UTF-16 y un carácter es una unidad. Solo se convierte a bytes en la frontera.
 namespace norvik {
 
-/// The line break of texts, two characters.
+/// El salto de línea de los textos, dos caracteres.
 inline constexpr std::u16string_view saltoDeLinea = u"\r\n";
 
-/// The longest text that is recognised, coloured or parsed: the position behind it is a 16-bit number.
+/// El texto más largo que el control reconoce, colorea o analiza: la posición que lo sigue es un número de 16
+/// bits. La puerta de los valores no tiene ese límite.
 inline constexpr std::size_t maximoTexto = 32766;
 
-/// The symbol of the empty string, an empty rule body.
+/// El símbolo de la cadena vacía, el cuerpo de una regla vacía.
 inline constexpr std::u16string_view cadenaVacia = u"Ø";
 
-/// UTF-8 of a text; a lone surrogate becomes U+FFFD.
+/// UTF-8 de un texto; un sustituto suelto se convierte en U+FFFD.
 std::string aUtf8(std::u16string_view texto);
 
-/// Text of UTF-8 bytes, or nothing when they are not valid UTF-8.
+/// Texto de unos bytes UTF-8, o nada cuando no son UTF-8 válido.
 std::optional<std::u16string> desdeUtf8(std::string_view bytes);
 
-/// True for valid UTF-8.
+/// Verdadero con UTF-8 válido.
 bool esUtf8(std::string_view bytes);
 
-/// Windows-1252 bytes of a text, or nothing when a character has none.
-/// The five bytes without a character stand for the control character of the same code.
+/// Bytes Windows-1252 de un texto, o nada cuando un carácter no tiene. Los cinco bytes sin carácter
+/// representan el carácter de control del mismo código.
 std::optional<std::string> aWindows1252(std::u16string_view texto);
 
-/// Text of Windows-1252 bytes; every byte has a character.
+/// Texto de unos bytes Windows-1252; todos los bytes tienen carácter.
 std::u16string desdeWindows1252(std::string_view bytes);
 
-/// The text without leading and trailing spaces (U+0020 only).
+/// El texto sin los espacios (solo U+0020) del principio y del final.
 std::u16string_view recorta(std::u16string_view texto);
 
-/// Decimal digits, with a minus sign for negative numbers.
+/// Cifras decimales, con un signo menos en los números negativos.
 std::u16string aTexto(std::int64_t numero);
 
-/// Upper or lower case, unit by unit, by the simple Unicode mapping.
+/// En mayúsculas o minúsculas, unidad a unidad, por la correspondencia simple de Unicode.
 std::u16string aMayusculas(std::u16string_view texto);
 std::u16string aMinusculas(std::u16string_view texto);
 
-/// True for a run of letters of any alphabet, digits and underscores that does not start with a digit.
+/// Verdadero con una serie de letras de cualquier alfabeto, cifras y subrayados que no empieza por una cifra.
 bool esIdentificador(std::u16string_view texto);
 
-/// True for "A" to "Z" (U+0041 to U+005A), by code unit.
+/// Verdadero de «A» a «Z» (U+0041 a U+005A), por unidad de código.
 constexpr bool esMayusculaAZ(char16_t c) {
     return c >= u'A' && c <= u'Z';
 }

@@ -12,42 +12,49 @@
 
 namespace norvik {
 
-/// A property bag: named values with types, in the order in which they were written. Kept in a JSON file that
-/// people can read and compare: `true` and `false`, numbers, texts, and a font as an object.
+/// Una bolsa de propiedades: valores con nombre y tipo, en el orden en que se escribieron. Se guarda en un
+/// fichero JSON que una persona puede leer y comparar: `true` y `false`, números, textos, y una fuente como
+/// objeto.
 class BolsaPropiedades {
 public:
-    // Reading a value gives the default when the key is absent. A value of another type raises
-    // `NoCoincidenLosTipos`, a number that does not fit `Desbordamiento`; the text names the key.
+    /// @name Leer un valor
+    /// Cuando falta la clave dan el valor por omisión. Un valor de otro tipo lanza `NoCoincidenLosTipos` y un
+    /// número que no cabe, `Desbordamiento`; el texto nombra la clave.
+    /// @{
     bool leeBooleano(std::u16string_view clave, bool omision) const;
     std::int16_t lee16(std::u16string_view clave, std::int16_t omision) const;
     std::int32_t lee32(std::u16string_view clave, std::int32_t omision) const;
-    /// A fixed-point number of four decimals, in 1/10000.
+    /// Un número de cuatro decimales fijos, en diezmilésimas.
     std::int32_t leeDecimal(std::u16string_view clave, std::int32_t omision) const;
     std::u16string leeTexto(std::u16string_view clave, std::u16string_view omision) const;
 
-    // Writing a value that is the default leaves the key out.
+    /// @}
+    /// @name Escribir un valor
+    /// El valor por omisión no se escribe.
+    /// @{
     void escribeBooleano(std::u16string_view clave, bool valor, bool omision);
     void escribeEntero(std::u16string_view clave, std::int32_t valor, std::int32_t omision);
     void escribeDecimal(std::u16string_view clave, std::int32_t valor, std::int32_t omision);
     void escribeTexto(std::u16string_view clave, std::u16string_view valor, std::u16string_view omision);
     void escribeFuente(std::u16string_view clave, const Fuente& valor, const Fuente& omision);
 
+    /// @}
     bool tiene(std::u16string_view clave) const { return busca(clave) != nullptr; }
 
-    /// Raises `NoCoincidenLosTipos`, with the line, for what is no JSON object.
+    /// Lanza `NoCoincidenLosTipos`, con la línea, cuando no es un objeto JSON.
     static BolsaPropiedades deJson(std::string_view bytes);
-    /// Raises `ErrorDeFichero` for a text that no file can hold (a lone surrogate).
+    /// Lanza `ErrorDeFichero` con un texto que no cabe en ningún fichero (un sustituto suelto).
     std::string aJson() const;
-    /// The same from and to a file, which is written whole and on the disk or not at all. Raise
-    /// `ErrorDeFichero` besides.
+    /// Lo mismo de un fichero y a un fichero, que se escribe entero y en el disco o nada. Además lanzan
+    /// `ErrorDeFichero`.
     static BolsaPropiedades deFichero(const std::filesystem::path& fichero);
     void aFichero(const std::filesystem::path& fichero) const;
 
-    /// A number, in 1/10000.
+    /// Un número, en diezmilésimas.
     struct Numero {
         std::int64_t diezmilesimas = 0;
     };
-    /// A value that no property has: null, a list, an object.
+    /// Un valor que no tiene ninguna propiedad: nulo, una lista, un objeto.
     struct Otro {};
     using Valor = std::variant<Otro, bool, Numero, std::u16string, Fuente>;
     void pon(std::u16string_view clave, Valor valor);

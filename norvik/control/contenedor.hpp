@@ -9,8 +9,8 @@ namespace norvik {
 
 struct signoDebuger;
 
-/// What the control needs of whoever contains and shows it, besides its text box. A host without windows has
-/// nothing to do in any of them.
+/// Lo que el control necesita de quien lo contiene y lo muestra, además de su caja de texto. Un anfitrión sin
+/// ventanas no tiene nada que hacer en ninguna de estas operaciones.
 class Contenedor {
 public:
     Contenedor() = default;
@@ -18,10 +18,10 @@ public:
     Contenedor& operator=(const Contenedor&) = delete;
     virtual ~Contenedor() = default;
 
-    /// A property has another value: the control is to be saved again.
+    /// Una propiedad tiene otro valor: hay que volver a guardar el control.
     virtual void cambioDePropiedad(std::u16string_view /*nombre*/) {}
 
-    /// Size of the control and of a pixel, in twips.
+    /// Tamaño del control y de un píxel, en twips.
     struct Medidas {
         std::int32_t ancho = 0;
         std::int32_t alto = 0;
@@ -29,20 +29,20 @@ public:
         std::int32_t pixelY = 15;
     };
     virtual Medidas medidas() const { return {}; }
-    /// Shows or hides the five elements of the sunken frame.
+    /// Muestra u oculta los cinco elementos del marco hundido.
     virtual void muestraMarco(bool /*visible*/) {}
     virtual void muestraBordeIzquierdo(bool /*visible*/) {}
     virtual void coloca(const Disposicion& /*disposicion*/) {}
     virtual void ponSigno(const signoDebuger& /*signo*/, const LugarDeSigno& /*lugar*/) {}
 
-    /// Windows: the modal ones come back when they are closed, the find dialog at once.
+    /// Ventanas: las modales vuelven cuando se cierran; la de buscar, enseguida.
     virtual void muestraAcerca() {}
     virtual void muestraInforme() {}
     virtual void muestraBuscar() {}
     virtual void muestraReemplazar() {}
 };
 
-/// The container of a control without windows.
+/// El contenedor de un control sin ventanas.
 inline Contenedor& sinContenedor() {
     static Contenedor ninguno;
     return ninguno;

@@ -5,14 +5,14 @@
 
 namespace norvik {
 
-/// The control's events towards its host, under their own names. Arguments may be changed by the receiver.
-/// None is raised while the control itself works on its text.
+/// Los eventos del control hacia su anfitrión, con sus propios nombres. El receptor puede cambiar los
+/// argumentos. No se da ninguno mientras el propio control trabaja con su texto.
 struct EventosControl {
     using Tecla = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
     using Raton = std::function<void(std::int16_t& Button, std::int16_t& Shift, float& x, float& y)>;
 
-    std::function<void(std::int16_t& LineaActual)> CambioDeLinea; ///< the caret's new line, 1-based
-    std::function<void()> change; ///< not while Undo and Redo rewrite the text
+    std::function<void(std::int16_t& LineaActual)> CambioDeLinea; ///< la nueva línea del cursor, desde 1
+    std::function<void()> change; ///< no mientras Undo y Redo reescriben el texto
     std::function<void()> Click;
     Tecla KeyDown;
     std::function<void(std::int16_t& KeyAscii)> KeyPress;
@@ -20,7 +20,7 @@ struct EventosControl {
     Raton MouseDown;
     Raton MouseMove;
     Raton MouseUp;
-    std::function<void()> SelChange; ///< not while Undo and Redo rewrite the text
+    std::function<void()> SelChange; ///< no mientras Undo y Redo reescriben el texto
 };
 
 } // namespace norvik

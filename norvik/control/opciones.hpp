@@ -5,24 +5,25 @@
 
 namespace norvik {
 
-/// The options that the control keeps, with their values in a new control. Colours and `AutoNumero` are the
-/// lexer's, the font is the text box's.
+/// Las opciones que guarda el control, con los valores de un control nuevo. Los colores y `AutoNumero` son
+/// del analizador léxico; la fuente, de la caja de texto.
 struct Opciones {
-    bool borde3D = true;                 ///< the sunken frame is shown
-    bool leftBorderVisible = true;       ///< the left border is shown
-    std::int16_t margenIzquierdo = 150;  ///< from the separator to the text, in twips
-    bool hideSelection = true;           ///< the host's wish for the text box
-    bool lenguajeSensible = false;       ///< definitions registered from now on tell upper from lower case
-    bool autoCorreccion = false;         ///< colouring corrects the case of reserved words
-    std::int16_t espaciosXTAB = 4;       ///< spaces that a tab key inserts
-    bool autoTAB = true;                 ///< a new line takes the leading spaces of the one above
-    bool marcarErrores = false;          ///< an error of the parse marks its line
-    bool muestraMensajesDeError = false; ///< an error of the parse is shown in a message box
-    bool colorear = false;               ///< syntax colouring is on
+    bool borde3D = true;                ///< se ve el marco hundido
+    bool leftBorderVisible = true;      ///< se ve el borde izquierdo
+    std::int16_t margenIzquierdo = 150; ///< del separador al texto, en twips
+    bool hideSelection = true;          ///< lo que el anfitrión quiere de la caja de texto
+    bool lenguajeSensible =
+        false; ///< las definiciones que se registren desde ahora distinguen mayúsculas de minúsculas
+    bool autoCorreccion = false;   ///< al colorear se corrigen las mayúsculas de las palabras reservadas
+    std::int16_t espaciosXTAB = 4; ///< espacios que pone la tecla de tabulación
+    bool autoTAB = true;           ///< una línea nueva toma los espacios iniciales de la de arriba
+    bool marcarErrores = false;    ///< un error del análisis marca su línea
+    bool muestraMensajesDeError = false; ///< un error del análisis se enseña en una caja de mensaje
+    bool colorear = false;               ///< se colorea la sintaxis
     std::u16string nombreLenguaje;
-    std::u16string contenidoG;      ///< the language specification being worked on
-    std::u16string codigoPrueba;    ///< the text to try it with
-    bool pendienteGuardarG = false; ///< the specification was changed since the control was restored
+    std::u16string contenidoG;      ///< la especificación del lenguaje en que se trabaja
+    std::u16string codigoPrueba;    ///< el texto para probarla
+    bool pendienteGuardarG = false; ///< la especificación ha cambiado desde que se restauró el control
 };
 
 } // namespace norvik

@@ -6,7 +6,7 @@
 
 namespace norvik {
 
-/// A lexeme and its token name, as readers return them.
+/// Un lexema y el nombre de su token, como los devuelven los lectores.
 class parLT {
 public:
     parLT() = default;

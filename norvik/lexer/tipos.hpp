@@ -4,7 +4,7 @@
 
 namespace norvik {
 
-/// Token kinds.
+/// Clases de tokens.
 enum TipoExpReg : std::int16_t {
     Norvik_ExpReg = 0,
     Norvik_PalabraReservada = 1,
@@ -19,7 +19,7 @@ enum TipoExpReg : std::int16_t {
     Norvik_Fecha = 10,
 };
 
-/// Number bases; 0 means none.
+/// Bases numéricas; 0 es ninguna.
 enum baseNumerica : std::int16_t {
     Norvik_SinBase = 0,
     Norvik_BaseBinaria = 2,
@@ -28,7 +28,7 @@ enum baseNumerica : std::int16_t {
     Norvik_BaseHexadecimal = 16,
 };
 
-/// The colour that means none; others are 0x00BBGGRR.
+/// El color que significa ninguno; los demás son 0x00BBGGRR.
 inline constexpr std::int32_t sinColor = -1;
 
 } // namespace norvik

@@ -9,15 +9,15 @@
 namespace norvik {
 
 struct OpcionesAnalisis {
-    std::stop_token cancelacion; ///< ends the operation soon, with the diagnostic `cancelado`
+    std::stop_token cancelacion; ///< acaba pronto la operación, con el diagnóstico `Cancelado`
 };
 
-/// What a parse gives: the tree of an accepted text, else an empty one and what is wrong.
+/// Lo que da un análisis: el árbol de un texto aceptado; si no, uno vacío y lo que está mal.
 struct Analisis {
     ArbolAnalisis arbol;
     std::vector<Diagnostico> diagnosticos;
 
-    /// The text was accepted.
+    /// El texto se aceptó.
     explicit operator bool() const { return !arbol.esVacio(); }
 };
 

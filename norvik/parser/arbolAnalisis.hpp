@@ -19,39 +19,40 @@ namespace norvik {
 class ArbolAnalisis;
 class Hijos;
 
-/// A node of an `ArbolAnalisis`: a token of the text (a leaf), or an application of a rule. A small value
-/// that refers to its tree and holds as long as it, wherever the tree is moved to. Nothing changes a node:
-/// several threads may read one tree.
+/// Un nodo de un `ArbolAnalisis`: un token del texto (una hoja) o una aplicación de una regla. Es un valor
+/// pequeño que se refiere a su árbol y vale mientras exista, aunque el árbol se mueva. Nada cambia un nodo:
+/// varios hilos pueden leer un mismo árbol.
 class Nodo {
 public:
-    /// True for a token of the text. An application of an empty rule has no children, and is no token.
+    /// Verdadero con un token del texto. La aplicación de una regla vacía no tiene hijos y no es un token.
     bool esToken() const { return regla() == 0; }
-    /// Number of its rule, from 1; 0 for a token.
+    /// Número de su regla, desde 1; 0 en un token.
     std::int16_t regla() const;
-    /// Number of its token's name, from 1; 0 for a rule.
+    /// Número del nombre de su token, desde 1; 0 en una regla.
     std::int16_t token() const;
-    /// Name of the token, or head of the rule.
+    /// Nombre del token, o cabeza de la regla.
     std::u16string_view nombre() const;
-    /// Body of the rule, its symbols separated by blanks; empty for a token.
+    /// Cuerpo de la regla, con sus símbolos separados por espacios; vacío en un token.
     std::u16string_view cuerpo() const;
 
-    /// Where it stands, from the first unit of its first token to the last of its last one, delimiters of
-    /// literals included. What has no token is an empty range behind the token before it.
+    /// Dónde está: de la primera unidad de su primer token a la última del último, con los delimitadores de
+    /// los literales. Lo que no tiene ningún token es un rango vacío detrás del token anterior.
     Rango rango() const;
-    /// The text of that range.
+    /// El texto de ese rango.
     std::u16string_view texto() const;
-    /// The text of a token as the control gives it: a literal without its delimiters. Empty for a rule.
+    /// El texto de un token como lo da el control: un literal, sin sus delimitadores. Vacío en una regla.
     std::u16string_view lexema() const;
-    /// The same in UTF-8.
+    /// Lo mismo en UTF-8.
     std::string lexemaUtf8() const;
 
-    /// Its children, from left to right.
+    /// Sus hijos, de izquierda a derecha.
     Hijos hijos() const;
     std::size_t numHijos() const;
-    /// Child at a place from 0 on; raises `IndiceNoValido`. Bodies are short: each step goes over one child.
+    /// El hijo de un lugar, desde 0; lanza `IndiceNoValido`. Los cuerpos son cortos: se llega pasando de un
+    /// hijo al siguiente.
     Nodo operator[](std::size_t indice) const;
     std::optional<Nodo> padre() const;
-    /// Its place in a walk from the root through each node before its children, from 0.
+    /// Su lugar, desde 0, en el recorrido desde la raíz que pasa por cada nodo antes que por sus hijos.
     std::size_t indice() const { return indice_; }
 
     bool operator==(const Nodo&) const = default;
@@ -67,12 +68,12 @@ private:
     std::uint32_t indice_;
 };
 
-/// A syntax tree as a value. It owns its nodes and a copy of the text, is moved but not copied, and outlives
-/// the language and the text that it was made of. It may be as deep as its text is long: nothing here
-/// recurses, destruction included.
+/// Un árbol sintáctico como valor. Es dueño de sus nodos y de una copia del texto, se mueve pero no se copia,
+/// y sobrevive al lenguaje y al texto de que se hizo. Puede ser tan hondo como largo es su texto: nada de
+/// aquí es recursivo, ni siquiera la destrucción.
 class ArbolAnalisis {
 public:
-    /// Without nodes, as after a text that was not accepted.
+    /// Sin nodos, como tras un texto que no se aceptó.
     ArbolAnalisis();
     ArbolAnalisis(ArbolAnalisis&&) noexcept;
     ArbolAnalisis& operator=(ArbolAnalisis&&) noexcept;
@@ -82,22 +83,22 @@ public:
 
     bool esVacio() const { return contenido_ == nullptr; }
     std::size_t numNodos() const;
-    /// Raises `IndiceNoValido` when there is none.
+    /// Lanza `IndiceNoValido` cuando no hay ninguna.
     Nodo raiz() const { return (*this)[0]; }
-    /// The node at a place of the walk that goes through each node before its children, from 0; raises
+    /// El nodo de un lugar del recorrido que pasa por cada nodo antes que por sus hijos, desde 0; lanza
     /// `IndiceNoValido`.
     Nodo operator[](std::size_t indice) const;
 
-    /// Walks a subtree: `entra(nodo)` before its children, `sale(nodo)` behind them.
+    /// Recorre un subárbol: `entra(nodo)` antes de sus hijos y `sale(nodo)` detrás de ellos.
     template <typename Entra, typename Sale>
     static void recorre(Nodo raiz, const Entra& entra, const Sale& sale);
 
-    /// One canonical text, a node a line, two blanks a level: "head -> body [number]", or "'lexeme' (line,
-    /// column)".
+    /// Un texto canónico, un nodo por línea y dos espacios por nivel: `cabeza -> cuerpo [número]`, o
+    /// `'lexema' (línea, columna)`.
     std::u16string toString() const;
 
-    /// The tree of a text, from the steps of its parse: the rule of each reduction, 0 for a token. Nothing
-    /// when they are not those of one tree.
+    /// El árbol de un texto, de los pasos de su análisis: la regla de cada reducción, 0 de un token. Nada
+    /// cuando no son los de un árbol.
     static std::optional<ArbolAnalisis> construye(std::unique_ptr<const TextoAnalizado> texto,
                                                   std::span<const std::int16_t> pasos);
 
@@ -107,7 +108,7 @@ private:
     std::unique_ptr<const Nodo::Contenido> contenido_;
 };
 
-/// The children of a node, to be gone through from left to right.
+/// Los hijos de un nodo, para recorrerlos de izquierda a derecha.
 class Hijos {
 public:
     class Iterador {
@@ -137,7 +138,7 @@ public:
 
 private:
     Nodo primero_;
-    Nodo fin_; ///< a place behind the last, no node of theirs
+    Nodo fin_; ///< un lugar detrás del último, ningún nodo de ellos
 };
 
 template <typename Entra, typename Sale>

@@ -13,27 +13,27 @@
 
 namespace norvik {
 
-/// A token of a text that was only read; its texts hold as long as the list that it comes from.
+/// Un token de un texto que solo se leyó; sus textos valen mientras exista la lista de que viene.
 struct Lexema {
-    std::int16_t token = 0;     ///< its number, from 1
-    std::u16string_view nombre; ///< of the token
-    std::u16string_view texto;  ///< delimiters of literals included
+    std::int16_t token = 0;     ///< su número, desde 1
+    std::u16string_view nombre; ///< del token
+    std::u16string_view texto;  ///< con los delimitadores de los literales
     Rango rango;
     bool esComentario = false;
 };
 
-/// The tokens of a text, which was read without parsing it, comments included. It owns a copy of the text,
-/// and is moved but not copied.
+/// Los tokens de un texto que se leyó sin analizarlo, con sus comentarios. Es dueño de una copia del texto, y
+/// se mueve pero no se copia.
 class Lexemas {
 public:
     explicit Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores)
         : diagnosticos(std::move(errores)), texto_(std::move(texto)) {}
 
-    /// One for each wrong character (reading goes on behind it), or why nothing could be read.
+    /// Uno por cada carácter incorrecto (se sigue leyendo detrás de él), o por qué no se pudo leer nada.
     std::vector<Diagnostico> diagnosticos;
 
     std::size_t size() const { return texto_ ? texto_->tokens.size() : 0; }
-    /// From 0 on; raises `IndiceNoValido`.
+    /// Desde 0; lanza `IndiceNoValido`.
     Lexema operator[](std::size_t indice) const;
 
 private:

@@ -6,30 +6,31 @@
 
 namespace norvik {
 
-/// The names of a language, by number. Numbers count from 1.
+/// Los nombres de un lenguaje, por número. Los números cuentan desde 1: el nombre del token `n` está en
+/// `tokens[n - 1]`.
 struct Vocabulario {
     struct Token {
         std::u16string nombre;
-        std::u16string visible; ///< display name of its first definition, empty when that has none
-        std::int16_t tipo = 0;  ///< kind of its first definition, a `TipoExpReg`
-        std::int16_t base = 0;  ///< number base of its first definition, a `baseNumerica`
+        std::u16string visible; ///< nombre para personas de su primera definición, vacío cuando no lo tiene
+        std::int16_t tipo = 0;  ///< clase de su primera definición, un `TipoExpReg`
+        std::int16_t base = 0;  ///< base numérica de su primera definición, una `baseNumerica`
     };
-    /// One of the definitions of a token.
+    /// Una de las definiciones de un token.
     struct Definicion {
-        std::int16_t token = 0; ///< number of its name
+        std::int16_t token = 0; ///< número de su nombre
         std::int16_t tipo = 0;
     };
     struct Regla {
         std::u16string cabeza;
-        std::u16string cuerpo;     ///< symbols separated by blanks; "Ø" or nothing when it is empty
-        std::int16_t variable = 0; ///< number of its head
-        std::int16_t ordinal = 0;  ///< its place among the rules of its head, from 1
-        std::int16_t simbolos = 0; ///< of the body
+        std::u16string cuerpo;     ///< sus símbolos separados por espacios; «Ø» o nada cuando es vacío
+        std::int16_t variable = 0; ///< número de su cabeza
+        std::int16_t ordinal = 0;  ///< su lugar entre las reglas de su cabeza, desde 1
+        std::int16_t simbolos = 0; ///< del cuerpo
     };
 
-    std::vector<Token> tokens;             ///< one a name, in order of first registration
-    std::vector<Definicion> definiciones;  ///< in order of registration
-    std::vector<std::u16string> variables; ///< in order of first rule
+    std::vector<Token> tokens;             ///< uno por nombre, en el orden de su primer registro
+    std::vector<Definicion> definiciones;  ///< en el orden en que se registraron
+    std::vector<std::u16string> variables; ///< en el orden de su primera regla
     std::vector<Regla> reglas;
 };
 

@@ -17,7 +17,7 @@ enum class Botones : std::int16_t { Aceptar = 0, AceptarCancelar = 1 };
 enum class Respuesta : std::int16_t { Aceptar = 1, Cancelar = 2 };
 enum class Puntero : std::int16_t { Normal = 0, Ocupado = 11 };
 
-/// A modal message box. An empty title is the platform's default.
+/// Una caja de mensaje modal. Un título vacío es el de la plataforma.
 struct Mensaje {
     std::u16string texto;
     std::u16string titulo;
@@ -27,7 +27,7 @@ struct Mensaje {
     bool operator==(const Mensaje&) const = default;
 };
 
-/// The services that the system asks of its surroundings.
+/// Los servicios que el sistema pide a su entorno.
 class Sistema {
 public:
     Sistema() = default;
@@ -38,13 +38,13 @@ public:
     virtual Respuesta muestraMensaje(const Mensaje& mensaje) = 0;
     virtual void ponPuntero(Puntero puntero) = 0;
     virtual Puntero puntero() const = 0;
-    /// Lets pending window events run.
+    /// Deja que corran los eventos de ventana pendientes.
     virtual void procesaEventos() = 0;
-    /// Prints a text on the default printer; raises `ErrorNorvik` with the platform's description.
+    /// Imprime un texto en la impresora por omisión; lanza `ErrorNorvik` con la descripción de la plataforma.
     virtual void imprime(std::u16string_view texto) = 0;
 };
 
-/// Shows the busy pointer while it lives, then the normal one.
+/// Muestra el puntero de ocupado mientras vive, y después el normal.
 class PunteroOcupado {
 public:
     explicit PunteroOcupado(Sistema& sistema) : sistema_(sistema) { sistema_.ponPuntero(Puntero::Ocupado); }

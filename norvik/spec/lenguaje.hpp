@@ -16,28 +16,30 @@ namespace norvik {
 class DatosDeLenguaje;
 struct Compilacion;
 
-/// A language ready to be used: its tokens, its rules and its table. It is immutable and cheap to copy
-/// (copies share it); any number of threads may analyse with one at the same time. Made by the functions
-/// here, which never touch another language: what is wrong with the text they are given is told in
-/// diagnostics.
+/// Un lenguaje listo para usar: sus tokens, sus reglas y su tabla. No cambia nunca y copiarlo cuesta poco
+/// (las copias lo comparten); con uno pueden analizar a la vez cuantos hilos se quiera. Lo hacen las
+/// funciones de aquí, que no tocan ningún otro lenguaje: lo que esté mal en el texto que reciben lo dicen los
+/// diagnósticos.
 class Lenguaje {
 public:
-    /// Compiles a specification. Ranges of the diagnostics count in UTF-16 units; of UTF-8, in bytes.
+    /// Compila una especificación. Los rangos de los diagnósticos cuentan unidades UTF-16; los de una en
+    /// UTF-8, bytes.
     static Compilacion compila(std::u16string_view especificacion);
     static Compilacion compila(std::string_view especificacionUtf8);
-    /// Takes a language from the text of a loading module ("NOMBRE.bas"), its line ends untouched.
+    /// Toma un lenguaje del texto de un módulo de carga («NOMBRE.bas»), con los finales de línea de su
+    /// fichero.
     static Compilacion cargaModulo(std::u16string_view modulo);
-    /// A file with a specification, or with a loading module by its ending ".bas"; ranges count in UTF-16
-    /// units of the text as `leeTexto` gives it. Raises `ErrorDeFichero`.
+    /// Un fichero con una especificación o, cuando acaba en «.bas», con un módulo de carga; los rangos
+    /// cuentan unidades UTF-16 del texto que da `leeTexto`. Lanza `ErrorDeFichero`.
     static Compilacion deFichero(const std::filesystem::path& fichero);
 
-    /// Tokens, variables and rules by the numbers that the nodes of trees carry. It holds as long as a copy
-    /// of the language.
+    /// Tokens, variables y reglas por los números que llevan los nodos de los árboles. Vale mientras exista
+    /// una copia del lenguaje.
     const Vocabulario& vocabulario() const;
-    /// False for a language without rules: texts can be read with it, not parsed.
+    /// Falso en un lenguaje sin reglas: con él se pueden leer textos, pero no analizarlos.
     bool tieneGramatica() const;
 
-    /// For those who make languages.
+    /// Para quienes hacen lenguajes.
     explicit Lenguaje(std::shared_ptr<const DatosDeLenguaje> datos);
     const DatosDeLenguaje& datos() const { return *datos_; }
 
@@ -45,21 +47,22 @@ private:
     std::shared_ptr<const DatosDeLenguaje> datos_;
 };
 
-/// What compiling gives: a language wherever one can be made, and all that is wrong or odd.
+/// Lo que da compilar: un lenguaje siempre que se pueda hacer uno, y todo lo que está mal o llama la
+/// atención.
 struct Compilacion {
     std::optional<Lenguaje> lenguaje;
     std::vector<Diagnostico> diagnosticos;
 
-    /// There is a language, and nothing is an error.
+    /// Hay lenguaje y nada es un error.
     explicit operator bool() const { return lenguaje && !hayErrores(diagnosticos); }
 };
 
-/// Parses a text. Ranges count in units of the text that is given: UTF-16, or bytes of UTF-8. Time and memory
-/// are in proportion to the text. Raises `Desbordamiento` for a text of 2^31 - 1 units or more.
+/// Analiza un texto. Los rangos cuentan unidades del texto que se da: UTF-16, o bytes de UTF-8. Tiempo y
+/// memoria van en proporción al texto. Lanza `Desbordamiento` con un texto de 2^31 - 1 unidades o más.
 Analisis analiza(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones = {});
 Analisis analiza(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesAnalisis& opciones = {});
 
-/// The tokens of a text, comments included, without parsing it. Ranges, cost and failures as above.
+/// Los tokens de un texto, con sus comentarios, sin analizarlo. Rangos, coste y fallos como arriba.
 Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones = {});
 Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesAnalisis& opciones = {});
 

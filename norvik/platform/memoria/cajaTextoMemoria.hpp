@@ -8,7 +8,7 @@
 
 namespace norvik {
 
-/// Characters in a row that have one colour. Positions 0-based.
+/// Caracteres seguidos del mismo color. Posiciones desde 0.
 struct TramoDeColor {
     std::int32_t inicio = 0;
     std::int32_t longitud = 0;
@@ -17,8 +17,9 @@ struct TramoDeColor {
     bool operator==(const TramoDeColor&) const = default;
 };
 
-/// The text box kept in memory, for hosts without windows, and the model of those that show it in a window.
-/// Each character has its colour and font beside it, so that painting a range costs the range.
+/// La caja de texto en memoria, para anfitriones sin ventanas, y el modelo de las que la muestran en una
+/// ventana. Cada carácter tiene a su lado su color y su fuente, de modo que pintar un trozo cuesta lo que
+/// mide el trozo.
 class CajaTextoMemoria : public CajaTexto {
 public:
     std::u16string_view texto() const override { return texto_; }
@@ -56,11 +57,11 @@ public:
 
     /// Where the box is scrolled to.
     void ponPrimeraLineaVisible(std::int32_t linea) { primeraLineaVisible_ = linea; }
-    /// The colours of the whole text: runs of one colour, in order, without gaps.
+    /// Los colores de todo el texto: tramos de un color, en orden y sin huecos.
     std::vector<TramoDeColor> colores() const;
 
 protected:
-    /// A font name and size given to characters; number 0 stands for those of the box's font.
+    /// Nombre y tamaño de fuente dados a unos caracteres; el número 0 son los de la fuente de la caja.
     struct Letra {
         std::u16string nombre;
         std::int32_t tamano = 0;
@@ -73,20 +74,23 @@ protected:
 
         bool operator==(const Estilo&) const = default;
     };
-    /// Characters [inicio, inicio + quitados) of the old text became [inicio, inicio + puestos) of the new
-    /// one.
+    /// Los caracteres [inicio, inicio + quitados) del texto antiguo pasan a ser [inicio, inicio + puestos)
+    /// del nuevo.
     struct Sustitucion {
         std::int32_t inicio = 0;
         std::int32_t quitados = 0;
         std::int32_t puestos = 0;
     };
 
-    // What a box that shows this one must know, told before the events.
+    /// @name Para una caja que muestra esta
+    /// Lo que debe saber, antes de los eventos.
+    /// @{
     virtual void alSustituir(const Sustitucion& /*sustitucion*/) {}
     virtual void alSeleccionar() {}
     virtual void alPintar(std::int32_t /*inicio*/, std::int32_t /*longitud*/) {}
 
-    /// A user's edit, after which the selection is the one given.
+    /// @}
+    /// Una edición del usuario, tras la cual la selección es la que se da.
     void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
     const std::vector<Estilo>& estilos() const { return estilos_; }
@@ -112,19 +116,19 @@ private:
     std::int32_t conTamano(std::int32_t numero, std::int32_t tamano);
 
     std::u16string texto_;
-    std::vector<Estilo> estilos_; ///< one a character
-    std::vector<Letra> letras_;   ///< number 1 and up
+    std::vector<Estilo> estilos_; ///< uno por carácter
+    std::vector<Letra> letras_;   ///< del número 1 en adelante
     Fuente fuente_;
     std::int32_t inicio_ = 0;
     std::int32_t longitud_ = 0;
-    std::optional<Estilo> estiloDeEscritura_; ///< set for an empty selection
+    std::optional<Estilo> estiloDeEscritura_; ///< puesto con una selección vacía
     bool modificado_ = false;
     bool ocultaSeleccion_ = true;
     std::int32_t margenDerecho_ = 0;
     std::int32_t primeraLineaVisible_ = 0;
     std::int32_t izquierda_ = 0;
     mutable IndiceLineas lineas_;
-    mutable bool lineasAlDia_ = true; ///< the index is made when first asked after a change
+    mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio
 };
 
 } // namespace norvik

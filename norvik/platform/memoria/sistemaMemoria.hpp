@@ -6,8 +6,8 @@
 
 namespace norvik {
 
-/// The services of a host without windows: messages go where the host says and count as accepted, nothing
-/// is pending, and there is no printer.
+/// Los servicios de un anfitrión sin ventanas: los mensajes van a donde él dice y cuentan como aceptados, no
+/// hay nada pendiente y no hay impresora.
 class SistemaMemoria : public Sistema {
 public:
     using Salida = std::function<void(const Mensaje&)>;
