@@ -24,7 +24,8 @@ public:
         norvik::Norvik& control = texto->control();
         control.MuestraMensajesDeError(false);
         control.Colorear(true);
-        if (!control.CargaGramatica(especificacion) || !control.GeneraCompilador()) errores->addItem("sin colores");
+        if (!control.CargaGramatica(especificacion) || !control.GeneraCompilador())
+            errores->addItem("sin colores");
         connect(texto, &norvik::ControlNorvik::change, this, &Editor::revisa);
         connect(errores, &QListWidget::itemClicked, this, [this] { vaAlError(errores->currentRow()); });
         revisa();

@@ -12,13 +12,13 @@
 
 namespace {
 
-constexpr std::string_view aritmetica = R"(
+constexpr std::string_view aritmetica = R"nvk(
     Token num = "[0-9]+(\.[0-9]+)?", TipoToken = TTNumero ("número");
     Token mas = "\+"; Token menos = "\-"; Token por = "\*"; Token entre = "/"; Token abre = "\("; Token cierra = "\)";
     E -> E mas T | E menos T | T;
     T -> T por F | T entre F | F;
     F -> num | abre E cierra | menos F;
-)";
+)nvk";
 
 // What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too much.
 double evalua(norvik::Nodo raiz) {
@@ -40,7 +40,8 @@ double evalua(norvik::Nodo raiz) {
         if (cuerpo == u"T por F") valores.push_back(izquierdo * derecho);
         if (cuerpo == u"T entre F") valores.push_back(izquierdo / derecho);
     };
-    norvik::ArbolAnalisis::recorre(raiz, [](norvik::Nodo) {}, sale);
+    norvik::ArbolAnalisis::recorre(
+        raiz, [](norvik::Nodo) {}, sale);
     return saca();
 }
 
@@ -52,7 +53,8 @@ int main(int argc, char** argv) {
     if (!compilacion) return 2;
     const auto analisis = norvik::analiza(*compilacion.lenguaje, std::string_view(argv[1]));
     for (const auto& error : analisis.diagnosticos)
-        std::cerr << "columna " << error.rango.inicio.columna << ": " << norvik::aUtf8(mensaje(error)) << '\n';
+        std::cerr << "columna " << error.rango.inicio.columna << ": " << norvik::aUtf8(mensaje(error))
+                  << '\n';
     if (!analisis) return 1;
     std::cout << evalua(analisis.arbol.raiz()) << '\n';
 }

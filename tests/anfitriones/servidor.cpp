@@ -1,5 +1,5 @@
-// A server with several threads and languages: each line of its input is a request, the name of a language and a
-// text; the answers come in the order of the requests. The threads share the languages.
+// A server with several threads and languages: each line of its input is a request, the name of a language
+// and a text; the answers come in the order of the requests. The threads share the languages.
 //
 //   ./servidor suma=suma.nvk json=json.nvk        "suma 1 + 2" is answered with "1: bien, 7 nodos"
 
