@@ -29,6 +29,7 @@ public:
     std::u16string leeTexto(std::u16string_view clave, std::u16string_view omision) const;
 
     /// @}
+
     /// @name Escribir un valor
     /// El valor por omisión no se escribe.
     /// @{
@@ -39,6 +40,7 @@ public:
     void escribeFuente(std::u16string_view clave, const Fuente& valor, const Fuente& omision);
 
     /// @}
+
     bool tiene(std::u16string_view clave) const { return busca(clave) != nullptr; }
 
     /// Lanza `NoCoincidenLosTipos`, con la línea, cuando no es un objeto JSON.

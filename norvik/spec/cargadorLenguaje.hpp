@@ -15,8 +15,8 @@
 
 namespace norvik {
 
-/// Head and body of a rule in the text form "head -> body", without the blanks around them. Raises
-/// `NoCoincidenLosTipos` for a text without an arrow.
+/// Cabeza y cuerpo de una regla en la forma «cabeza -> cuerpo», sin los blancos de alrededor. Lanza
+/// `NoCoincidenLosTipos` con un texto sin flecha.
 inline std::pair<std::u16string_view, std::u16string_view> parteRegla(std::u16string_view regla) {
     constexpr std::u16string_view flecha = u"->";
     const std::size_t p = regla.find(flecha);
@@ -26,8 +26,8 @@ inline std::pair<std::u16string_view, std::u16string_view> parteRegla(std::u16st
     return {recorta(regla.substr(0, p)), recorta(regla.substr(p + flecha.size()))};
 }
 
-/// Something that a language can be loaded into call by call: the control, as loading modules and the
-/// installer of the specification language see it.
+/// Algo en que se puede cargar un lenguaje llamada a llamada: el control, como lo ven los módulos de carga y
+/// quien instala el lenguaje de especificación.
 class CargadorLenguaje {
 public:
     CargadorLenguaje() = default;
@@ -35,36 +35,38 @@ public:
     CargadorLenguaje& operator=(const CargadorLenguaje&) = delete;
     virtual ~CargadorLenguaje() = default;
 
-    /// Registers a definition; kind, base and colour are 32-bit numbers here. Raises `Desbordamiento` for a
-    /// kind that does not fit 16 bits. A lexical error is shown, and nothing is registered then.
+    /// Registra una definición; clase, base y color son aquí números de 32 bits. Lanza `Desbordamiento` con
+    /// una clase que no cabe en 16 bits. Un error léxico se enseña, y entonces no se registra nada.
     virtual void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken = false,
                        std::int32_t tipoToken = Norvik_ExpReg, std::u16string_view pseudoToken = {},
                        std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) = 0;
-    /// Registers a token whose definition is expanded already: its pattern.
+    /// Registra un token cuya definición está ya expandida: su patrón.
     virtual void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
                            std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) {
         SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
     }
-    /// An empty token name becomes the word in lower case, and the caller's variable with it.
+    /// Un nombre de token vacío se convierte en la palabra en minúsculas, y con él la variable de quien
+    /// llama.
     virtual void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                                      std::u16string_view pseudoToken = {}) = 0;
     virtual void SetOperador(std::u16string_view lexema, std::u16string_view token,
                              std::u16string_view pseudoToken = {}) = 0;
-    /// Comments from the opener (a pattern) to the end of the line.
+    /// Comentarios, desde lo que los abre (un patrón) hasta el final de la línea.
     virtual void SetComentarioLinea(std::u16string_view lexema) = 0;
-    /// `head -> alternative | alternative …`. Raises `NoCoincidenLosTipos` without an arrow and
-    /// `SubindiceFueraDeIntervalo` at rule 1001; the number has no effect.
+    /// `cabeza -> alternativa | alternativa …`. Lanza `NoCoincidenLosTipos` sin flecha y
+    /// `SubindiceFueraDeIntervalo` en la regla 1001; el número no tiene efecto.
     virtual void SetRegla(std::u16string_view regla, std::int16_t numIdentificacion = 0) = 0;
-    /// The table's symbols, one by one in column order.
+    /// Los símbolos de la tabla, uno a uno y en el orden de las columnas.
     virtual void InsertarSimboloGramatica(std::u16string_view simboloG) = 0;
     virtual void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) = 0;
-    /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
+    /// Fila y columna desde 1; lanza `SubindiceFueraDeIntervalo`.
     virtual void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas,
                                      std::int16_t valorSLR) = 0;
-    /// Sets entries from the first on, as many as are better set together, and none that would raise; returns
-    /// how many. The others are for `SetElementoTablaSLR`.
+    /// Pone entradas desde la primera, tantas como convenga poner juntas y ninguna que fuera a lanzar; da
+    /// cuántas. Las demás son para `SetElementoTablaSLR`.
     virtual std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> /*celdas*/) { return 0; }
-    /// Builds the table of the rules held. False when the grammar check failed (its message is shown).
+    /// Construye la tabla de las reglas que hay. Falso cuando falló la comprobación de la gramática (se
+    /// enseña su mensaje).
     virtual bool GeneraCompilador() = 0;
 };
 

@@ -90,6 +90,7 @@ protected:
     virtual void alPintar(std::int32_t /*inicio*/, std::int32_t /*longitud*/) {}
 
     /// @}
+
     /// Una edición del usuario, tras la cual la selección es la que se da.
     void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
