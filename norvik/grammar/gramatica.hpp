@@ -170,7 +170,7 @@ public:
     std::u16string textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                const std::filesystem::path& carpeta) const;
-    /// The same calls as a C++ function, written to `nombre`.hpp.
+    /// What the calls pass as C++ constants, with enumerations of the numbers, written to `nombre`.hpp.
     void escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                           const SumideroDeTexto& sumidero) const;
     std::u16string textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const;
@@ -225,7 +225,8 @@ private:
 
     // Parts of the modules.
     std::vector<CeldaSLR> celdasFijas() const;
-    void escribeTablaCpp(EscritorLineas& salida) const;
+    std::vector<CeldaSLR> celdasVigentes() const;
+    void escribeDatosCpp(EscritorLineas& salida, const pilaTokens& lexico) const;
     void escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const;
     void escribeSimbolos(EscritorLineas& salida) const;
     void escribeCargaReglas(EscritorLineas& salida, std::u16string_view nombre) const;

@@ -1,22 +1,20 @@
 #include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/gramatica.hpp"
-#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/report/escritorLineas.hpp"
+#include "norvik/report/identificadorCpp.hpp"
+#include "norvik/spec/datosDeLenguaje.hpp"
 
-#include <algorithm>
-
-// The loading module as a C++ header: the calls of the Visual Basic module in the same order, those of one
-// kind as a table and a loop. The source is plain ASCII, whatever the language's texts are.
+// The loading module as a C++ header: what the calls of the Visual Basic module pass, in the same order, as
+// constants; the numbers of the nodes of trees as enumerations; and a function for the control and one for
+// the language as a value. The source is plain ASCII, whatever the language's texts are.
 namespace norvik {
 
 namespace {
 
-std::u16string enBase(unsigned valor, unsigned base, std::size_t cifras) {
-    std::u16string texto(cifras, u'0');
-    for (auto cifra = texto.rbegin(); cifra != texto.rend(); ++cifra, valor /= base)
-        *cifra = u"0123456789ABCDEF"[valor % base];
-    return texto;
+std::u16string enOctal(char16_t c) {
+    const auto cifra = [c](int lugar) { return static_cast<char16_t>(u'0' + ((c >> (3 * lugar)) & 7)); };
+    return {cifra(2), cifra(1), cifra(0)};
 }
 
 constexpr bool esSustituto(char16_t c) {
@@ -27,9 +25,9 @@ constexpr bool esSustituto(char16_t c) {
 /// pair, which has no other) needs the literal to be closed behind it. "?" could begin a trigraph.
 std::u16string escapa(char16_t c) {
     if (c == u'"' || c == u'\\' || c == u'?') return {u'\\', c};
-    if (esSustituto(c)) return u"\\x" + enBase(c, 16, 4) + u"\" u\"";
-    if (c >= 0xA0) return u"\\u" + enBase(c, 16, 4);
-    if (c < 0x20 || c >= 0x7F) return u'\\' + enBase(c, 8, 3);
+    if (esSustituto(c)) return u"\\x" + enHexadecimal(c) + u"\" u\"";
+    if (c >= 0xA0) return u"\\u" + enHexadecimal(c);
+    if (c < 0x20 || c >= 0x7F) return u'\\' + enOctal(c);
     return {c};
 }
 
@@ -39,84 +37,135 @@ std::u16string literal(std::u16string_view texto) {
     return resultado + u"\"sv";
 }
 
-std::u16string identificador(std::u16string_view nombre) {
-    std::u16string resultado;
-    for (const char16_t c : nombre) resultado += c < 0x80 ? std::u16string(1, c) : escapa(c);
-    return resultado;
-}
-
-/// A table of texts and the loop that passes them on. An array has at least one element: none, no loop.
-void escribeTextos(EscritorLineas& salida, std::u16string_view tabla, std::u16string_view operacion,
-                   const std::vector<std::u16string>& textos) {
-    if (textos.empty()) return;
+void escribePrincipio(EscritorLineas& salida, std::u16string_view nombre) {
+    salida.escribe(u"// Lenguaje ", nombre, u". En un control: ", nombre,
+                   u"::CargaLenguaje(control). Un control que");
+    salida.escribe(u"// tiene otro lenguaje necesita antes control.OlvidaLenguaje(). Como valor: ", nombre,
+                   u"::lenguaje().");
+    salida.escribe(u"#pragma once");
     salida.escribe();
-    salida.escribe(u"    static constexpr std::u16string_view ", tabla, u"[] = {");
-    for (const std::u16string& elemento : textos) salida.escribe(u"        ", literal(elemento), u",");
-    salida.escribe(u"    };");
-    salida.escribe(u"    for (const auto elemento : ", tabla, u") control.", operacion, u"(elemento);");
+    salida.escribe(u"#include \"norvik/spec/datosLenguaje.hpp\"");
+    salida.escribe(u"#include \"norvik/spec/lenguaje.hpp\"");
+    salida.escribe();
+    salida.escribe(u"namespace ", nombre, u" {");
+    salida.escribe();
+    salida.escribe(
+        u"// Los numeros que llevan los nodos de los arboles. E_1 es la primera regla de E. En un nombre,");
+    salida.escribe(
+        u"// _uHHHH es un caracter que C++ no admite ahi, por su numero; acaba en _ el que C++ reserva.");
 }
 
-void escribeTokens(EscritorLineas& salida, const pilaTokens& lexico) {
-    for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
-        const expresionRegular& token = lexico.getTokenLenguaje(i);
-        salida.escribe(u"    control.SetER(", literal(definicionDePatron(token.getExpReg())), u", ",
-                       literal(token.GetToken()), u", true, norvik::TipoExpReg{", token.GetTipo(), u"}, ",
-                       literal(token.GetPseudoToken()), u", norvik::baseNumerica{", token.base, u"}, ",
-                       token.GetColor(), u");");
-    }
+template <typename Elementos, typename Nombre>
+void escribeEnumeracion(EscritorLineas& salida, std::u16string_view tipo, const Elementos& elementos,
+                        const Nombre& nombreDe) {
+    salida.escribe(u"enum class ", tipo, u" : short {");
+    std::size_t numero = 0;
+    for (const auto& elemento : elementos)
+        salida.escribe(u"    ", nombreDe(elemento), u" = ", ++numero, u",");
+    salida.escribe(u"};");
+    salida.escribe();
+}
+
+void escribeEnumeraciones(EscritorLineas& salida, const Vocabulario& vocabulario) {
+    escribeEnumeracion(salida, u"Token", vocabulario.tokens,
+                       [](const Vocabulario::Token& token) { return identificadorCpp(token.nombre); });
+    escribeEnumeracion(salida, u"Variable", vocabulario.variables,
+                       [](const std::u16string& variable) { return identificadorCpp(variable); });
+    escribeEnumeracion(salida, u"Regla", vocabulario.reglas, [](const Vocabulario::Regla& regla) {
+        return identificadorCpp(regla.cabeza, regla.ordinal);
+    });
+}
+
+// An array has at least one element: nothing is written of one that would have none, and false given.
+template <typename Elementos, typename Escritura>
+bool escribeConstante(EscritorLineas& salida, std::u16string_view tipo, std::u16string_view nombre,
+                      const Elementos& elementos, const Escritura& escribe) {
+    if (elementos.empty()) return false;
+    salida.escribe(u"inline constexpr ", tipo, u" ", nombre, u"[] = {");
+    for (const auto& elemento : elementos) escribe(elemento);
+    salida.escribe(u"};");
+    return true;
+}
+
+bool escribeTextos(EscritorLineas& salida, std::u16string_view nombre,
+                   const std::vector<std::u16string>& textos) {
+    return escribeConstante(salida, u"std::u16string_view", nombre, textos, [&](const std::u16string& texto) {
+        salida.escribe(u"    ", literal(texto), u",");
+    });
+}
+
+bool escribeDefiniciones(EscritorLineas& salida, const pilaTokens& lexico) {
+    return escribeConstante(salida, u"norvik::DatosLenguaje::Definicion", u"definiciones",
+                            lexico.tokensLenguaje(), [&](const expresionRegular* d) {
+                                salida.escribe(u"    {", literal(d->getExpReg()), u", ",
+                                               literal(d->GetToken()), u", ", d->GetTipo(), u", ",
+                                               literal(d->GetPseudoToken()), u", ", d->base, u", ",
+                                               d->GetColor(), u"},");
+                            });
+}
+
+void escribeFunciones(EscritorLineas& salida) {
+    salida.escribe();
+    salida.escribe(u"inline void CargaLenguaje(norvik::CargadorLenguaje& control) {");
+    salida.escribe(u"    norvik::CargaLenguaje(datos, control);");
+    salida.escribe(u"}");
+    salida.escribe();
+    salida.escribe(u"inline const norvik::Lenguaje& lenguaje() {");
+    salida.escribe(u"    static const norvik::Lenguaje unico = norvik::Lenguaje::de(datos);");
+    salida.escribe(u"    return unico;");
+    salida.escribe(u"}");
 }
 
 } // namespace
 
-void gramatica::escribeTablaCpp(EscritorLineas& salida) const {
-    salida.escribe();
-    salida.escribe(u"    control.SetDimensionTablaSLR(", filasVigentes(), u", ", simbolos_.totalElementos(),
-                   u");");
-    bool abierta = false;
-    const auto escribe = [&](std::int16_t fila, std::int16_t columna, std::int16_t valor) {
-        if (!abierta) salida.escribe(u"    static constexpr short entradas[][3] = {");
-        abierta = true;
-        salida.escribe(u"        {", fila, u", ", columna, u", ", valor, u"},");
-    };
-    for (const auto& [fila, columna, valor] : celdasFijas()) escribe(fila, columna, valor);
+std::vector<CeldaSLR> gramatica::celdasVigentes() const {
+    std::vector<CeldaSLR> celdas = celdasFijas();
     for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        tabla_.paraCadaEntrada(f, columnasVigentes(),
-                               [&](std::int16_t columna, std::int16_t valor) { escribe(f, columna, valor); });
+        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t valor) {
+            celdas.push_back({f, columna, valor});
+        });
     }
-    if (!abierta) return;
-    salida.escribe(u"    };");
-    salida.escribe(u"    for (const auto& [fila, columna, valor] : entradas)");
-    salida.escribe(u"        control.SetElementoTablaSLR(fila, columna, valor);");
+    return celdas;
 }
 
-void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
-                                 const SumideroDeTexto& sumidero) const {
+void gramatica::escribeDatosCpp(EscritorLineas& salida, const pilaTokens& lexico) const {
     std::vector<std::u16string> reglas;
-    const std::int16_t total = getNumReglas();
-    for (std::int16_t r = 1; r <= total; ++r)
+    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
         reglas.push_back(std::u16string(GetLeftRegla(r)).append(u" -> ").append(GetRightRegla(r)));
     std::vector<std::u16string> simbolos;
     for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
         simbolos.emplace_back(encabezadoColumna(c));
 
+    salida.escribe(u"namespace tablas {");
+    salida.escribe(u"using namespace std::string_view_literals;");
+    const bool hayDefiniciones = escribeDefiniciones(salida, lexico);
+    const bool hayReglas = escribeTextos(salida, u"reglas", reglas);
+    const bool hayCeldas = escribeConstante(
+        salida, u"norvik::CeldaSLR", u"celdas", celdasVigentes(), [&](const CeldaSLR& celda) {
+            salida.escribe(u"    {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
+        });
+    const bool haySimbolos = escribeTextos(salida, u"simbolos", simbolos);
+    salida.escribe(u"} // namespace tablas");
+    salida.escribe();
+    const auto tabla = [](bool hay, std::u16string_view nombre) {
+        return hay ? u"tablas::" + std::u16string(nombre) : u"{}";
+    };
+    salida.escribe(u"inline constexpr norvik::DatosLenguaje datos{");
+    salida.escribe(u"    ", tabla(hayDefiniciones, u"definiciones"), u", ", tabla(hayReglas, u"reglas"),
+                   u", ", filasVigentes(), u", ", simbolos_.totalElementos(), u", ",
+                   tabla(hayCeldas, u"celdas"), u", ", tabla(haySimbolos, u"simbolos"), u"};");
+}
+
+void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
+                                 const SumideroDeTexto& sumidero) const {
+    const std::u16string espacio = nombreUniversal(nombre);
     EscritorLineas salida(sumidero);
-    salida.escribe(u"// Carga del lenguaje ", identificador(nombre), u": llame a ", identificador(nombre),
-                   u"::CargaLenguaje(control).");
-    salida.escribe(u"#pragma once");
+    escribePrincipio(salida, espacio);
+    escribeEnumeraciones(salida, vocabularioDe(lexico, *this));
+    escribeDatosCpp(salida, lexico);
+    escribeFunciones(salida);
     salida.escribe();
-    salida.escribe(u"#include \"norvik/control/norvik.hpp\"");
-    salida.escribe();
-    salida.escribe(u"namespace ", identificador(nombre), u" {");
-    salida.escribe();
-    salida.escribe(u"inline void CargaLenguaje(norvik::Norvik& control) {");
-    salida.escribe(u"    using namespace std::string_view_literals;");
-    escribeTokens(salida, lexico);
-    escribeTextos(salida, u"reglas", u"SetRegla", reglas);
-    escribeTablaCpp(salida);
-    escribeTextos(salida, u"simbolos", u"InsertarSimboloGramatica", simbolos);
-    salida.escribe(u"}");
-    salida.escribe();
-    salida.escribe(u"} // namespace ", identificador(nombre));
+    salida.escribe(u"} // namespace ", espacio);
     salida.acaba();
 }
 

@@ -49,11 +49,15 @@ void nombraReglas(const gramatica& reglas, Vocabulario& vocabulario) {
 
 } // namespace
 
+Vocabulario vocabularioDe(const pilaTokens& lexico, const gramatica& reglas) {
+    Vocabulario vocabulario;
+    nombraTokens(lexico, vocabulario);
+    nombraReglas(reglas, vocabulario);
+    return vocabulario;
+}
+
 void DatosDeLenguaje::nombra() {
-    auto vocabulario = std::make_shared<Vocabulario>();
-    nombraTokens(lexico, *vocabulario);
-    nombraReglas(reglas, *vocabulario);
-    vocabulario_ = std::move(vocabulario);
+    vocabulario_ = std::make_shared<Vocabulario>(vocabularioDe(lexico, reglas));
 }
 
 DatosDeLenguaje::Prestamo::Prestamo(const DatosDeLenguaje& datos) : datos_(datos) {

@@ -11,6 +11,9 @@
 
 namespace norvik {
 
+/// The names of a complete lexer and grammar, numbered.
+Vocabulario vocabularioDe(const pilaTokens& lexico, const gramatica& reglas);
+
 /// What a language is. Filled once, then only read; who analyses takes an analyser of its own meanwhile, warm
 /// from earlier texts when one is free.
 class DatosDeLenguaje {

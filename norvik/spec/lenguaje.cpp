@@ -7,6 +7,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/spec/compiladorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/spec/datosLenguaje.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <limits>
@@ -77,6 +78,19 @@ Compilacion Lenguaje::deFichero(const std::filesystem::path& fichero) {
         TextoPorTrozos texto(fichero);
         return CargaModulo([&] { return texto.siguiente(); }, cargador);
     });
+}
+
+Lenguaje Lenguaje::de(const DatosLenguaje& datos) {
+    const auto compilacion = lenguajeDeModulo([&](CargadorLenguaje& cargador) -> std::optional<ErrorModulo> {
+        try {
+            CargaLenguaje(datos, cargador);
+        } catch (const ErrorNorvik& error) {
+            return ErrorModulo{1, error.texto()};
+        }
+        return std::nullopt;
+    });
+    if (!compilacion.lenguaje) throw ArgumentoNoValido(compilacion.diagnosticos.front().partes.hallado);
+    return *compilacion.lenguaje;
 }
 
 Analisis analiza(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones) {

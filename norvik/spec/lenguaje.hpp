@@ -15,6 +15,7 @@ namespace norvik {
 
 class DatosDeLenguaje;
 struct Compilacion;
+struct DatosLenguaje;
 
 /// Un lenguaje listo para usar: sus tokens, sus reglas y su tabla. No cambia nunca y copiarlo cuesta poco
 /// (las copias lo comparten); con uno pueden analizar a la vez cuantos hilos se quiera. Lo hacen las
@@ -32,6 +33,9 @@ public:
     /// Un fichero con una especificación o, cuando acaba en «.bas», con un módulo de carga; los rangos
     /// cuentan unidades UTF-16 del texto que da `leeTexto`. Lanza `ErrorDeFichero`.
     static Compilacion deFichero(const std::filesystem::path& fichero);
+    /// Hace un lenguaje de los datos de una cabecera generada, que no conserva. Lanza `ArgumentoNoValido` con
+    /// datos que no salen de ningún lenguaje.
+    static Lenguaje de(const DatosLenguaje& datos);
 
     /// Tokens, variables y reglas por los números que llevan los nodos de los árboles. Vale mientras exista
     /// una copia del lenguaje.

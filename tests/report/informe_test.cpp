@@ -2,8 +2,13 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/report/identificadorCpp.hpp"
 
 #include <gtest/gtest.h>
+
+#include <string_view>
+#include <unordered_set>
+#include <utility>
 
 using namespace norvik;
 
@@ -123,12 +128,113 @@ TEST(Modulo, EnCppLosTextosSonAscii) {
     pilaTokens lexico;
     lexico.SetER(u"\"\\?ñ\n", u"año", true, false, u"", Norvik_ExpReg, Norvik_SinBase, sinColor);
     const std::u16string texto = generada(u"S -> año")->textoModuloCpp(u"Cálculo", lexico);
-    for (const std::u16string linea :
-         {u"namespace C\\u00E1lculo {",
-          u"control.SetER(u\"\\\\c(34)\\\\\\?\\u00F1\\012\"sv, u\"a\\u00F1o\"sv, true,",
-          u"        u\"S -> a\\u00F1o\"sv,", u"control.SetDimensionTablaSLR(3, 3);", u"        {3, 2, -1},"})
-        EXPECT_NE(texto.find(linea), std::u16string::npos) << aUtf8(linea) << "\n" << aUtf8(texto);
-    for (const char16_t c : texto) ASSERT_LT(c, 0x80);
+    const std::u16string esperado =
+        uR"(// Lenguaje C\u00E1lculo. En un control: C\u00E1lculo::CargaLenguaje(control). Un control que
+// tiene otro lenguaje necesita antes control.OlvidaLenguaje(). Como valor: C\u00E1lculo::lenguaje().
+#pragma once
+
+#include "norvik/spec/datosLenguaje.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+namespace C\u00E1lculo {
+
+// Los numeros que llevan los nodos de los arboles. E_1 es la primera regla de E. En un nombre,
+// _uHHHH es un caracter que C++ no admite ahi, por su numero; acaba en _ el que C++ reserva.
+enum class Token : short {
+    a\u00F1o = 1,
+};
+
+enum class Variable : short {
+    S = 1,
+};
+
+enum class Regla : short {
+    S_1 = 1,
+};
+
+namespace tablas {
+using namespace std::string_view_literals;
+inline constexpr norvik::DatosLenguaje::Definicion definiciones[] = {
+    {u"\"\\\?\u00F1\012"sv, u"a\u00F1o"sv, 0, u""sv, 0, -1},
+};
+inline constexpr std::u16string_view reglas[] = {
+    u"S -> a\u00F1o"sv,
+};
+inline constexpr norvik::CeldaSLR celdas[] = {
+    {2, 2, 1000},
+    {1, 3, 1},
+    {1, 1, 2},
+    {3, 2, -1},
+};
+inline constexpr std::u16string_view simbolos[] = {
+    u"a\u00F1o"sv,
+    u"$"sv,
+    u"S"sv,
+};
+} // namespace tablas
+
+inline constexpr norvik::DatosLenguaje datos{
+    tablas::definiciones, tablas::reglas, 3, 3, tablas::celdas, tablas::simbolos};
+
+inline void CargaLenguaje(norvik::CargadorLenguaje& control) {
+    norvik::CargaLenguaje(datos, control);
+}
+
+inline const norvik::Lenguaje& lenguaje() {
+    static const norvik::Lenguaje unico = norvik::Lenguaje::de(datos);
+    return unico;
+}
+
+} // namespace C\u00E1lculo
+)";
+    EXPECT_EQ(aUtf8(texto), aUtf8(normalizaLineas(esperado)) + "\r\n");
+    const std::u16string vacio = gramatica().textoModuloCpp(u"V", pilaTokens());
+    EXPECT_NE(vacio.find(u"enum class Regla : short {\r\n};"), std::u16string::npos) << aUtf8(vacio);
+    EXPECT_NE(vacio.find(u"{}, {}, 0, 0, {}, {}};"), std::u16string::npos) << aUtf8(vacio);
+    EXPECT_EQ(vacio.find(u"[]"), std::u16string::npos) << aUtf8(vacio);
+}
+
+// Each name has its own identifier, and none is one that C++ reserves.
+TEST(Modulo, EnCppCadaNombreTieneSuIdentificador) {
+    const std::pair<std::u16string_view, std::string_view> casos[] = {
+        {u"num", "num"},
+        {u"a1_b", "a1_b"},
+        {u"año", "a\\u00F1o"},
+        {u"class", "class_"},
+        {u"class_", "class_u005F"},
+        {u"EOF", "EOF_"},
+        {u"", "_"},
+        {u"_", "_u005F"},
+        {u"_A", "_u005FA"},
+        {u"a__b", "a_u005F_b"},
+        {u"a_\u03B1", "a_u005F_u03B1"},
+        {u"a_u005Fb", "a_u005Fu005Fb"},
+        {u"a_u005", "a_u005"},
+        {u"a_u005f", "a_u005f"},
+        {u"a b", "a_u0020b"},
+        {u"1a", "_u0031a"},
+        {u"×\u00F7", "_u00D7_u00F7"},
+        {u"\U0001F600", "_uD83D_uDE00"},
+    };
+    for (const auto& [nombre, identificador] : casos)
+        EXPECT_EQ(aUtf8(identificadorCpp(nombre)), identificador) << aUtf8(nombre);
+    EXPECT_EQ(aUtf8(identificadorCpp(u"E", 11)), "E_11");
+    EXPECT_EQ(aUtf8(identificadorCpp(u"E_1", 1)), "E_1_1");
+    EXPECT_EQ(aUtf8(identificadorCpp(u"E_", 1)), "E_u005F_1");
+}
+
+// All names of a few characters that mean something in identifiers.
+TEST(Modulo, EnCppNoHayDosNombresConUnIdentificador) {
+    std::unordered_set<std::u16string> simbolos;
+    std::unordered_set<std::u16string> reglas;
+    for (int n = 0; n < 6 * 6 * 6 * 6 * 6 * 6 * 2; ++n) {
+        std::u16string nombre;
+        for (int resto = n; resto > 0; resto = (resto - 1) / 6) nombre += u"_u05F "[(resto - 1) % 6];
+        const std::u16string simbolo = identificadorCpp(nombre);
+        EXPECT_TRUE(simbolos.insert(simbolo).second) << aUtf8(simbolo);
+        EXPECT_TRUE(reglas.insert(identificadorCpp(nombre, 5)).second) << aUtf8(simbolo);
+        EXPECT_EQ(simbolo.find(u"__"), std::u16string::npos) << aUtf8(simbolo);
+    }
 }
 
 } // namespace

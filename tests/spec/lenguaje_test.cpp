@@ -1,8 +1,10 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
+#include "norvik/lexer/tipos.hpp"
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
+#include "norvik/spec/datosLenguaje.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>
@@ -227,7 +229,7 @@ TEST(Lenguaje, UnModuloDaElMismoLenguajeOLoQueTieneMal) {
         {con(u"Option Explicit", u"Option"),
          "error modulo-incorrecto 2:1@0-2:1@0 se esperaba «Option Explicit»\n"},
         {con(u"SetElementoTablaSLR 1, 2, ", u"SetElementoTablaSLR 1, 2, 9"),
-         "error tabla-incorrecta 1:1@0-1:1@0 La tabla SLR del lenguaje es incorrecta: el valor 75 del estado "
+         "error tabla-incorrecta 1:1@0-1:1@0 La tabla SLR del lenguaje es incorrecta: el valor 96 del estado "
          "0, "
          "símbolo num, no nombra ningún estado ni regla.\n"},
     };
@@ -235,6 +237,40 @@ TEST(Lenguaje, UnModuloDaElMismoLenguajeOLoQueTieneMal) {
         const auto fallida = Lenguaje::cargaModulo(malo);
         EXPECT_FALSE(fallida.lenguaje);
         EXPECT_EQ(texto(fallida.diagnosticos), esperado);
+    }
+}
+
+TEST(Lenguaje, SeHaceDeDatosQueSalenDeUnLenguaje) {
+    using namespace std::string_view_literals;
+    static constexpr DatosLenguaje::Definicion definiciones[] = {
+        {u"\\d+"sv, u"num"sv, Norvik_Numero, u"número"sv}};
+    static constexpr std::u16string_view reglas[] = {u"S -> num"sv};
+    static constexpr std::u16string_view simbolos[] = {u"num"sv, u"$"sv, u"S"sv};
+    static constexpr CeldaSLR celdas[] = {{1, 1, 2}, {1, 3, 1}, {2, 2, 1000}, {3, 2, -1}};
+    static constexpr DatosLenguaje buenos{definiciones, reglas, 3, 3, celdas, simbolos};
+    EXPECT_EQ(aUtf8(analiza(Lenguaje::de(buenos), u"12").arbol.toString()), "S -> num [1]\n  '12' (1, 1)\n");
+    EXPECT_FALSE(Lenguaje::de({}).tieneGramatica());
+
+    static constexpr DatosLenguaje::Definicion sinPatron[] = {{u"["sv, u"num"sv, Norvik_Numero, u""sv}};
+    static constexpr CeldaSLR fuera[] = {{4, 1, 1}};
+    static constexpr CeldaSLR perdida[] = {{1, 1, 3}};
+    const std::pair<DatosLenguaje, std::string> casos[] = {
+        {{sinPatron, reglas, 3, 3, celdas, simbolos},
+         "La definición de la expresión regular 'num':\r\n\t\t[\r\n"
+         "es incorrecta. Revísela para obtener un análisis léxico adecuado."},
+        {{definiciones, simbolos, 3, 3, celdas, simbolos},
+         "No coinciden los tipos: la regla «num» no tiene «->» entre su cabeza y su cuerpo"},
+        {{definiciones, reglas, 3, 3, fuera, simbolos}, "Subíndice fuera de intervalo"},
+        {{definiciones, reglas, 3, 3, perdida, simbolos},
+         "el valor 3 del estado 0, símbolo num, no nombra ningún estado ni regla"},
+    };
+    for (const auto& [malos, esperado] : casos) {
+        try {
+            static_cast<void>(Lenguaje::de(malos));
+            ADD_FAILURE() << esperado;
+        } catch (const ArgumentoNoValido& error) {
+            EXPECT_EQ(aUtf8(error.texto()), esperado);
+        }
     }
 }
 

@@ -1,11 +1,12 @@
 // A host program: loads a language, from a specification or with the module made for it, and shows what the
-// control then holds and answers. Both ways must show the same.
+// control then holds and answers, and the language as a value. Both ways must show the same.
 
 #include <norvik/base/ficheros.hpp>
 #include <norvik/base/texto.hpp>
 #include <norvik/control/norvik.hpp>
 #include <norvik/platform/memoria/cajaTextoMemoria.hpp>
 #include <norvik/platform/memoria/sistemaMemoria.hpp>
+#include <norvik/spec/lenguaje.hpp>
 
 #ifdef MODULO
 #include MODULO
@@ -23,6 +24,16 @@ void muestraTabla(const norvik::gramatica& gramatica) {
     }
 }
 
+void muestraValor(const norvik::Lenguaje& lenguaje, std::u16string_view texto) {
+    const norvik::Vocabulario& vocabulario = lenguaje.vocabulario();
+    std::cout << vocabulario.tokens.size() << ' ' << vocabulario.variables.size() << ' '
+              << vocabulario.reglas.size() << '\n';
+    const norvik::Analisis analisis = norvik::analiza(lenguaje, texto);
+    for (const auto& error : analisis.diagnosticos) std::cout << norvik::aUtf8(mensaje(error)) << '\n';
+    if (!analisis) return;
+    std::cout << norvik::aUtf8(analisis.arbol.toString());
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -33,7 +44,9 @@ int main(int argc, char** argv) {
     norvik::Norvik control(caja, sistema);
 #ifdef MODULO
     Ejemplo::CargaLenguaje(control);
+    muestraValor(Ejemplo::lenguaje(), norvik::leeTexto(argv[2]));
 #else
+    muestraValor(norvik::Lenguaje::deFichero(argv[1]).lenguaje.value(), norvik::leeTexto(argv[2]));
     if (!control.CargaGramatica(norvik::leeTexto(argv[1])) || !control.GeneraCompilador()) return 1;
 #endif
     muestraTabla(control.Gramatica());
