@@ -1,5 +1,6 @@
 #include "norvik/base/errores.hpp"
 
+#include "norvik/base/palabras.hpp"
 #include "norvik/base/texto.hpp"
 
 namespace norvik {
@@ -8,6 +9,12 @@ ErrorNorvik::ErrorNorvik(std::u16string_view texto) : std::runtime_error(aUtf8(t
 Desbordamiento::Desbordamiento(std::u16string_view texto) : ErrorNorvik(texto) {}
 TextoDemasiadoLargo::TextoDemasiadoLargo()
     : Desbordamiento(u"Desbordamiento: el texto pasa de " + aTexto(maximoTexto) + u" caracteres") {}
+BusquedaDesbocada::BusquedaDesbocada()
+    : Desbordamiento(u"La búsqueda se ha desbocado: su patrón necesita demasiado tiempo o memoria con este "
+                     u"texto.") {}
+BusquedaDesbocada::BusquedaDesbocada(std::u16string_view definicion)
+    : Desbordamiento(palabras::busquedaDesbocada(definicion)), definicion_(definicion) {}
+OperacionCancelada::OperacionCancelada() : ErrorNorvik(u"La operación se ha cancelado") {}
 SubindiceFueraDeIntervalo::SubindiceFueraDeIntervalo(std::u16string_view texto) : ErrorNorvik(texto) {}
 IndiceNoValido::IndiceNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
 NoCoincidenLosTipos::NoCoincidenLosTipos(std::u16string_view texto) : ErrorNorvik(texto) {}

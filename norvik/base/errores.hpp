@@ -30,6 +30,25 @@ public:
     TextoDemasiadoLargo();
 };
 
+/// Una búsqueda que pide más tiempo o memoria de los que puede tener. El texto nombra la definición, si se conoce.
+class BusquedaDesbocada : public Desbordamiento {
+public:
+    BusquedaDesbocada();
+    explicit BusquedaDesbocada(std::u16string_view definicion);
+
+    /// El nombre de la definición; vacío si no se conoce.
+    const std::u16string& definicion() const { return definicion_; }
+
+private:
+    std::u16string definicion_;
+};
+
+/// Una operación que alguien ha cancelado.
+class OperacionCancelada : public ErrorNorvik {
+public:
+    OperacionCancelada();
+};
+
 /// Un índice fuera de una tabla fija (reglas, ítems de un estado, celdas de la tabla SLR).
 class SubindiceFueraDeIntervalo : public ErrorNorvik {
 public:

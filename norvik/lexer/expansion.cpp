@@ -5,7 +5,7 @@
 #include "norvik/lexer/expansion.hpp"
 
 #include "norvik/base/texto.hpp"
-#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/lexer/definicionesTokens.hpp"
 
 #include <optional>
 #include <utility>
@@ -18,7 +18,8 @@ using Causa = ErrorExpansion::Causa;
 
 class Expansor {
 public:
-    Expansor(std::u16string_view texto, const pilaTokens& lexico) : texto_(texto), lexico_(lexico) {}
+    Expansor(std::u16string_view texto, const DefinicionesTokens& definiciones)
+        : texto_(texto), definiciones_(definiciones) {}
 
     std::variant<Expansion, ErrorExpansion> expande() {
         for (i_ = 0; i_ < texto_.size(); ++i_)
@@ -86,7 +87,7 @@ private:
     }
 
     Error resuelve() {
-        const auto* const definiciones = lexico_.definicionesLlamadas(*referencia_);
+        const auto* const definiciones = definiciones_.llamadas(*referencia_);
         if (definiciones == nullptr) return ErrorExpansion{Causa::ReferenciaDesconocida, *referencia_};
         for (const expresionRegular* const definicion : *definiciones) {
             if (demasiado_) break;
@@ -98,7 +99,7 @@ private:
     }
 
     std::u16string_view texto_;
-    const pilaTokens& lexico_;
+    const DefinicionesTokens& definiciones_;
     std::size_t i_ = 0;
     bool escape_ = false;
     bool demasiado_ = false;
@@ -108,8 +109,9 @@ private:
 
 } // namespace
 
-std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto, const pilaTokens& lexico) {
-    return Expansor(texto, lexico).expande();
+std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
+                                                const DefinicionesTokens& definiciones) {
+    return Expansor(texto, definiciones).expande();
 }
 
 } // namespace norvik

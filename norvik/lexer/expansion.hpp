@@ -7,7 +7,7 @@
 
 namespace norvik {
 
-class pilaTokens;
+class DefinicionesTokens;
 
 /// A definition text expanded: the pattern, and how it reads when it is a plain word.
 struct Expansion {
@@ -27,6 +27,7 @@ struct ErrorExpansion {
 inline constexpr std::size_t maximoPatron = 32767;
 
 /// Expands a definition text: references to the definitions registered so far, character codes, escapes.
-std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto, const pilaTokens& lexico);
+std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
+                                                const DefinicionesTokens& definiciones);
 
 } // namespace norvik

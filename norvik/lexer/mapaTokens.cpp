@@ -3,40 +3,36 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
 
-#include <algorithm>
-
 namespace norvik {
 
 void MapaTokens::vacia() {
-    celdas_.clear();
+    coincidencias_.vacia();
     texto_.clear();
 }
 
-void MapaTokens::reinicia(std::int32_t inicio, std::u16string_view texto) {
+MapaCoincidencias& MapaTokens::reinicia(std::int32_t inicio, std::u16string_view texto) {
     vacia();
     inicio_ = inicio;
     texto_ = texto;
-    celdas_.resize(texto.size() + 1);
+    return coincidencias_;
 }
 
 std::optional<MapaTokens::Entrada> MapaTokens::en(std::int32_t posicion) const {
-    const Celda* const celda = this->celda(posicion);
-    if (celda == nullptr) return std::nullopt;
-    const auto* const definicion = (*definiciones_)[static_cast<std::size_t>(celda->definicion())];
-    return Entrada{definicion, celda->longitud(), texto(*celda)};
-}
-
-void MapaTokens::borra(std::int32_t posicion) {
-    if (celda(posicion) != nullptr) celdas_[static_cast<std::size_t>(posicion - inicio_)] = {};
+    const auto ganadora = ganadoraEn(posicion);
+    if (!ganadora) return std::nullopt;
+    const auto* const definicion = (*definiciones_)[static_cast<std::size_t>(ganadora->patron)];
+    return Entrada{definicion, ganadora->longitud, texto(posicion, *ganadora)};
 }
 
 bool MapaTokens::esVacio() const {
-    return std::ranges::none_of(celdas_, &Celda::hayToken);
+    for (std::size_t i = 0; i < coincidencias_.tamanio(); ++i)
+        if (coincidencias_.en(i)) return false;
+    return true;
 }
 
 std::u16string MapaTokens::toString() const {
     std::u16string texto;
-    const std::int32_t fin = inicio_ + static_cast<std::int32_t>(celdas_.size());
+    const std::int32_t fin = inicio_ + static_cast<std::int32_t>(coincidencias_.tamanio());
     for (std::int32_t posicion = inicio_; posicion < fin; ++posicion) {
         const auto entrada = en(posicion);
         if (!entrada) continue;

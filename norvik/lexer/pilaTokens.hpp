@@ -1,10 +1,10 @@
 #pragma once
 
 #include "norvik/base/diagnostico.hpp"
-#include "norvik/lexer/buscadorTokens.hpp"
-#include "norvik/lexer/expresionRegular.hpp"
+#include "norvik/lexer/definicionesTokens.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/lexer/parLT.hpp"
+#include "norvik/lexer/reconocedor.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +12,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace norvik {
@@ -56,9 +55,10 @@ public:
     const expresionRegular& getTokenLenguaje(std::int16_t numToken) const;
     /// Every definition, auxiliary ones too, and the token definitions alone, in registration order.
     const std::vector<std::unique_ptr<expresionRegular>>& expresionesRegulares() const {
-        return expresionesRegulares_;
+        return definiciones_.todas();
     }
-    const std::vector<const expresionRegular*>& tokensLenguaje() const { return tokensLenguaje_; }
+    const std::vector<const expresionRegular*>& tokensLenguaje() const { return definiciones_.tokens(); }
+    const DefinicionesTokens& definiciones() const { return definiciones_; }
 
     /// Registers a definition, with the colour of its kind. Returns its first error, without a place; nothing
     /// is registered then. Raises `Desbordamiento` beyond 32 767 definitions.
@@ -75,14 +75,12 @@ public:
                                std::u16string_view pseudoToken);
     /// Changes whenever the definitions may have changed.
     std::uint64_t edicion() const { return edicion_; }
-    /// The definitions of a name in registration order, null when none bears it.
-    const std::vector<const expresionRegular*>* definicionesLlamadas(std::u16string_view nombre) const;
 
     /// Recognises the tokens of positions `TextStart` … `TextEnd` − 1 (1-based, −1: from the first, to the
     /// last); a range that passes the text's end is clipped. The map belongs to the lexer and is refilled by
-    /// the next call. Raises `Desbordamiento` for a text or range beyond 16 bits, and when a definition's
-    /// search runs away (the text then names it); `ArgumentoNoValido` for a start below 1 or an end before
-    /// the start. After a failure the map is empty.
+    /// the next call. Raises `Desbordamiento` for a text or range beyond 16 bits, `BusquedaDesbocada` when a
+    /// definition's search runs away (the text then names it), `ArgumentoNoValido` for a start below 1 or an
+    /// end before the start. After a failure the map is empty.
     MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
                                std::int16_t TextEnd = -1);
     /// The map of the last recognition.
@@ -90,21 +88,22 @@ public:
     const MapaTokens& mapaTokens() const { return mapaTokens_; }
 
     /// How a token may be written, for lists of expected tokens.
-    std::u16string toStringLexemasPorToken(std::u16string_view token) const;
+    std::u16string toStringLexemasPorToken(std::u16string_view token) const {
+        return definiciones_.lexemasPorToken(token);
+    }
     /// How a token that was read is named in messages.
-    std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const;
+    std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const {
+        return definiciones_.pseudoTokenPorToken(tokenLexema);
+    }
 
 private:
     std::int32_t colorDeTipo(std::int16_t tipo) const;
     bool registra(const DefinicionTexto& definicion, std::u16string_view patron, std::u16string_view lectura);
     void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
-    void reconoce(std::u16string_view rango);
 
-    std::vector<std::unique_ptr<expresionRegular>> expresionesRegulares_;
-    std::vector<const expresionRegular*> tokensLenguaje_;
-    std::unordered_map<std::u16string_view, std::vector<const expresionRegular*>> porNombre_;
-    std::optional<BuscadorTokens> buscador_; ///< made at the first recognition of a language
-    MapaTokens mapaTokens_{tokensLenguaje_};
+    DefinicionesTokens definiciones_;
+    std::optional<Reconocedor> reconocedor_; ///< made at the first recognition of a language
+    MapaTokens mapaTokens_{definiciones_.tokens()};
     std::uint64_t edicion_ = 0;
 };
 

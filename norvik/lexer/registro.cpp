@@ -5,7 +5,6 @@
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <cstdint>
-#include <limits>
 #include <utility>
 
 namespace norvik {
@@ -34,7 +33,7 @@ Diagnostico diagnosticoDe(const ErrorExpansion& error, const DefinicionTexto& de
 } // namespace
 
 std::optional<Diagnostico> pilaTokens::registra(const DefinicionTexto& definicion) {
-    const auto expansion = expande(definicion.texto, *this);
+    const auto expansion = expande(definicion.texto, definiciones_);
     if (const auto* const error = std::get_if<ErrorExpansion>(&expansion))
         return diagnosticoDe(*error, definicion);
     const auto& [patron, lectura] = std::get<Expansion>(expansion);
@@ -86,14 +85,9 @@ std::u16string pilaTokens::SetOperador(std::u16string_view lexema, std::u16strin
 }
 
 void pilaTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
-    if (expresionesRegulares_.size() == std::numeric_limits<std::int16_t>::max()) throw Desbordamiento();
+    definiciones_.archiva(std::move(definicion), esToken);
     ++edicion_;
-    expresionesRegulares_.push_back(std::move(definicion));
-    const expresionRegular* const nueva = expresionesRegulares_.back().get();
-    porNombre_[nueva->nomER].push_back(nueva);
-    if (!esToken) return;
-    tokensLenguaje_.push_back(nueva);
-    buscador_.reset();
+    if (esToken) reconocedor_.reset();
 }
 
 std::int32_t pilaTokens::colorDeTipo(std::int16_t tipo) const {

@@ -8,12 +8,17 @@
 #include "norvik/parser/erroresTexto.hpp"
 #include "norvik/parser/motorSLR.hpp"
 
+#include <chrono>
 #include <span>
 #include <utility>
 
 namespace norvik {
 
 namespace {
+
+// What recognition may take: many times what a text takes whose patterns do not run away.
+constexpr auto plazoFijo = std::chrono::milliseconds(3000);
+constexpr auto plazoPorCaracter = std::chrono::microseconds(1);
 
 // Ends a parse from within; what is wrong is no fault of the text.
 struct Corte {
@@ -64,9 +69,9 @@ private:
     }
     // An empty match at the very end is a token, once.
     void leeFinal() {
-        const MapaTokens::Celda* const celda = mapa_.celda(lectura_.inicio);
-        if (celda == nullptr || std::exchange(finalLeido_, true)) return;
-        lectura_.leido = {celda->definicion(), {}};
+        const auto token = mapa_.ganadoraEn(lectura_.inicio);
+        if (!token || std::exchange(finalLeido_, true)) return;
+        lectura_.leido = {token->patron, {}};
     }
 
     TextoAnalizado& texto_;
@@ -107,9 +112,17 @@ Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const Opcion
 }
 
 std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
-                                                const OpcionesAnalisis& /*opciones*/) {
-    mapa_.reinicia(1, texto.texto);
-    buscador_.busca(texto.texto, mapa_);
+                                                const OpcionesAnalisis& opciones) {
+    const Presupuesto presupuesto(plazoFijo + plazoPorCaracter * texto.texto.size(), opciones.cancelacion);
+    try {
+        reconocedor_.reconoce(texto.texto, presupuesto, mapa_.reinicia(1, texto.texto));
+    } catch (const BusquedaDesbocada& error) {
+        Diagnostico diagnostico = sinLugar(Codigo::BusquedaDesbocada);
+        diagnostico.partes.nombre = error.definicion();
+        return diagnostico;
+    } catch (const OperacionCancelada&) {
+        return sinLugar(Codigo::Cancelado);
+    }
     return std::nullopt;
 }
 

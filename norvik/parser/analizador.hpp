@@ -1,8 +1,8 @@
 #pragma once
 
-#include "norvik/lexer/buscadorTokens.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/lexer/reconocedor.hpp"
 #include "norvik/parser/analisis.hpp"
 #include "norvik/parser/cadenasReglas.hpp"
 #include "norvik/parser/lenguajeAnalisis.hpp"
@@ -23,7 +23,7 @@ class gramatica;
 class Analizador {
 public:
     Analizador(const pilaTokens& lexico, const gramatica& gramatica)
-        : lexico_(lexico), gramatica_(gramatica), buscador_(lexico.tokensLenguaje()),
+        : lexico_(lexico), gramatica_(gramatica), reconocedor_(lexico.definiciones()),
           mapa_(lexico.tokensLenguaje()), lenguaje_(lexico, gramatica) {}
 
     /// What is wrong with the text, or with the table, is a diagnostic.
@@ -36,7 +36,7 @@ private:
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
-    BuscadorTokens buscador_;
+    Reconocedor reconocedor_;
     MapaTokens mapa_;
     LenguajeAnalisis lenguaje_;
     CadenasReglas cadenas_;

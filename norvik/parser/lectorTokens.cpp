@@ -33,9 +33,9 @@ void LectorTokens::lee(const FuenteTexto& fuente) {
 
 void LectorTokens::leeFinal() {
     MapaTokens& mapa = lexico_.mapaTokens();
-    const MapaTokens::Celda* const celda = mapa.celda(posLectura_);
-    leido_ = celda == nullptr ? TokenLeido{TokenLeido::fin, tokenFin}
-                              : TokenLeido{celda->definicion(), mapa.texto(*celda)};
+    const auto token = mapa.ganadoraEn(posLectura_);
+    leido_ = token ? TokenLeido{token->patron, mapa.texto(posLectura_, *token)}
+                   : TokenLeido{TokenLeido::fin, tokenFin};
     mapa.borra(posLectura_);
 }
 

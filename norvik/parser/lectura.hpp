@@ -47,17 +47,17 @@ Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTok
                  const std::vector<const expresionRegular*>& definiciones) {
     constexpr auto esBlanco = [](char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; };
     while (posicion <= static_cast<std::int32_t>(texto.size())) {
-        const MapaTokens::Celda* const celda = mapa.celda(posicion);
-        if (celda == nullptr || celda->longitud() == 0) {
+        const auto token = mapa.ganadoraEn(posicion);
+        if (!token || token->longitud == 0) {
             const auto caracter = texto.substr(static_cast<std::size_t>(posicion) - 1, 1);
             if (!esBlanco(caracter.front())) return {{TokenLeido::desconocido, caracter}, posicion, posicion};
             ++posicion;
             continue;
         }
-        const std::int16_t tipo = definiciones[static_cast<std::size_t>(celda->definicion())]->tipo;
-        const std::int32_t fin = posicion + celda->longitud();
+        const std::int16_t tipo = definiciones[static_cast<std::size_t>(token->patron)]->tipo;
+        const std::int32_t fin = posicion + token->longitud;
         if (comentarios == Comentarios::SeLeen || !esComentario(tipo))
-            return {{celda->definicion(), sinDelimitadores(mapa.texto(*celda), tipo)}, posicion, fin};
+            return {{token->patron, sinDelimitadores(mapa.texto(posicion, *token), tipo)}, posicion, fin};
         posicion = fin;
     }
     return {{TokenLeido::fin, {}}, posicion, posicion};

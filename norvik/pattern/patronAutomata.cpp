@@ -6,10 +6,13 @@
 // backtracking finds first. That holds for programs of branches whose loops always take something: where two
 // threads meet in one instruction, the later one could only fail again. States appear as texts ask for them:
 // a pattern costs what it uses, a character one look-up, and no pattern runs away.
-// Walks that lead to nothing could still add up to the square of the text (a comment opened again and again
-// and never closed), so long ones leave their states behind: a later one that comes to the same state at the
-// same place stops. The short ones of definitions that are nearly alike (a name that is no type name, because
-// it ends otherwise) go over a word once and not once from each of its letters. Units that no class of the
+// A thread at an assertion about what follows waits in the state until the next character, or the end, is
+// known; a match that only then turns out complete ended one character before, and the state after it says
+// so. What stands behind is known at once; a state that waits keeps it. Walks that lead to nothing could
+// still add up to the square of the text (a comment opened again and again and never closed), so long ones
+// leave their states behind, at one position of many: a later one that comes to the same state at the same
+// place stops. The short ones of definitions that are nearly alike (a name that is no type name, because it
+// ends otherwise) go over a word once and not once from each of its letters. Units that no class of the
 // pattern tells apart share a column.
 #include "norvik/pattern/patronAutomata.hpp"
 
@@ -26,34 +29,52 @@ constexpr std::size_t instruccionesMaximas = 5000;
 constexpr std::size_t repartoMaximo = 1'000'000; // interval × class
 constexpr std::size_t gruposMaximos = 250;
 constexpr std::size_t caminoCorto = 256;
+constexpr std::size_t pasoRecuerdo = 64; // positions between two that long walks remember
+
+constexpr bool esAsercion(Operacion operacion) {
+    return operacion == Operacion::Inicio || operacion == Operacion::Final ||
+           operacion == Operacion::Frontera || operacion == Operacion::NoFrontera;
+}
 
 } // namespace
+
+Detras detrasDe(std::u16string_view sujeto, std::size_t posicion) {
+    if (posicion == 0) return Detras::Principio;
+    return esDePalabra(sujeto[posicion - 1]) ? Detras::Palabra : Detras::NoPalabra;
+}
 
 std::optional<Automata> Automata::de(const Programa& programa) {
     using enum Operacion;
     const bool sirve = programa.codigo.size() <= instruccionesMaximas &&
-                       !programa.usaAlguna({Inicio, Frontera, NoFrontera, Referencia, Guarda, PreparaBucle,
-                                            AbreDelante, AbreDelanteNo});
+                       !programa.usaAlguna({Referencia, Guarda, PreparaBucle, AbreDelante, AbreDelanteNo});
     if (!sirve) return std::nullopt;
     Automata automata(programa);
+    automata.conFronteras_ = programa.usaAlguna({Frontera, NoFrontera});
+    automata.miraAtras_ = automata.conFronteras_ || programa.usaAlguna({Inicio});
     if (!automata.reparteUnidades()) return std::nullopt;
     automata.visitadas_.resize(programa.codigo.size());
-    automata.numeroDe({}, false);
-    Hilos hilos;
-    ++automata.visita_;
-    const bool acepta = automata.sigue(0, hilos, false);
-    automata.inicial_ = automata.numeroDe(std::move(hilos), acepta);
+    automata.numeroDe({});
+    for (const Detras detras : {Detras::Principio, Detras::NoPalabra, Detras::Palabra})
+        automata.iniciales_[static_cast<std::size_t>(detras)] = automata.numeroInicial(detras);
     return automata;
 }
 
-Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo) {
+Automata::Numero Automata::numeroInicial(Detras detras) {
+    Estado estado;
+    estado.detras = detras;
+    sigueTodos({0}, {detras}, estado.hilos);
+    return numeroDe(std::move(estado));
+}
+
+Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo, Gasto& gasto) {
+    gasto.anota(caminoCorto);
     Intento intento{Intento::Tipo::Nada, inicio + 1};
-    Numero estado = inicial_;
+    Numero estado = inicialEn(sujeto, inicio);
     std::size_t racha = inicio; // where the walk came to `estado`
     const std::size_t largo = std::min(sujeto.size(), inicio + caminoCorto);
     for (std::size_t i = inicio;; ++i) {
-        if (acepta_[estado] != 0) intento = {Intento::Tipo::Coincide, i};
-        if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo);
+        if (completa_[estado] != Completa::No) intento = {Intento::Tipo::Coincide, finEn(estado, i)};
+        if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo, gasto);
         const Numero destino = siguiente(estado, sujeto[i]);
         if (destino == desconocido) return {Intento::Tipo::Indeciso, 0};
         if (destino == muerto) {
@@ -72,36 +93,31 @@ Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recue
 std::size_t Automata::saltaEnVano(std::u16string_view sujeto, std::size_t inicio, std::size_t desde,
                                   std::size_t hasta, Numero estado) {
     std::size_t i = inicio;
-    while (i + 1 >= desde && i < hasta && siguiente(inicial_, sujeto[i]) == estado) ++i;
+    while (i + 1 >= desde && i < hasta && siguiente(inicialEn(sujeto, i), sujeto[i]) == estado) ++i;
     return i;
 }
 
-// The same from `i` on, where it has been seen already whether `estado` accepts. What is written into the
-// memory before a complete match turns out wrong and is taken back.
+// The same from `i` on, where it has been seen already whether `estado` is complete. What has been passed
+// since the last complete match is remembered.
 Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero estado, Intento intento,
-                              Recuerdo& recuerdo) {
-    const std::size_t desde = i + 1;
-    std::size_t enVano = desde;
+                              Recuerdo& recuerdo, Gasto& gasto) {
+    std::vector<std::uint64_t> enVano;
     for (; i < sujeto.size(); ++i) {
-        if (recuerdo.empty()) recuerdo.assign(sujeto.size() + 1, muerto);
         estado = siguiente(estado, sujeto[i]);
-        if (estado == desconocido) intento = {Intento::Tipo::Indeciso, 0};
-        if (estado == muerto || estado == desconocido) break;
-        if (acepta_[estado] != 0) {
-            intento = {Intento::Tipo::Coincide, i + 1};
-            enVano = i + 2;
-        } else if (recuerdo[i + 1] == estado) {
-            break;
-        } else {
-            recuerdo[i + 1] = estado;
+        if (estado == desconocido) return {Intento::Tipo::Indeciso, 0};
+        if (estado == muerto) break;
+        if (completa_[estado] != Completa::No) {
+            intento = {Intento::Tipo::Coincide, finEn(estado, i + 1)};
+            enVano.clear();
+        } else if ((i + 1) % pasoRecuerdo == 0) {
+            gasto.anota(pasoRecuerdo);
+            const std::uint64_t lugar = std::uint64_t{(i + 1) / pasoRecuerdo} << 16 | estado;
+            if (recuerdo.contains(lugar)) break;
+            enVano.push_back(lugar);
         }
     }
-    if (i == sujeto.size() && estados_[estado].aceptaAlFinal) {
-        intento = {Intento::Tipo::Coincide, i};
-        enVano = i + 1;
-    }
-    if (intento.tipo == Intento::Tipo::Indeciso) enVano = i + 1;
-    for (std::size_t k = desde; k < enVano && k < recuerdo.size(); ++k) recuerdo[k] = muerto;
+    if (i == sujeto.size() && aceptaAlFinal_[estado] != 0) return {Intento::Tipo::Coincide, i};
+    recuerdo.insert(enVano.begin(), enVano.end());
     return intento;
 }
 
@@ -122,25 +138,29 @@ bool Automata::reparteUnidades() {
         if (instruccion.operacion == Operacion::Unidad || instruccion.operacion == Operacion::Clase)
             tomas.push_back(i);
     }
+    if (conFronteras_)
+        for (const RangoUnidades& rango : rangosDe(Propiedad::Palabra)) corta(rango);
     std::sort(inicios_.begin(), inicios_.end());
     inicios_.erase(std::unique(inicios_.begin(), inicios_.end()), inicios_.end());
     if (inicios_.size() * tomas.size() > repartoMaximo) return false;
-    std::map<std::vector<bool>, Numero> porFirma;
+    std::map<std::vector<bool>, std::uint8_t> porFirma;
     for (const char16_t unidad : inicios_) {
-        std::vector<bool> firma(tomas.size());
+        std::vector<bool> firma(tomas.size() + 1);
         for (std::size_t i = 0; i < tomas.size(); ++i) firma[i] = toma(tomas[i], unidad);
+        firma.back() = detrasDeUnidad(unidad) == Detras::Palabra;
         const auto [sitio, nuevo] =
-            porFirma.try_emplace(std::move(firma), static_cast<Numero>(porFirma.size()));
+            porFirma.try_emplace(std::move(firma), static_cast<std::uint8_t>(porFirma.size()));
         if (nuevo) muestras_.push_back(unidad);
+        if (muestras_.size() > gruposMaximos) return false;
         grupos_.push_back(sitio->second);
     }
     for (std::size_t unidad = 0; unidad < bajas_.size(); ++unidad)
         bajas_[unidad] = grupoDeAlta(static_cast<char16_t>(unidad));
     anchura_ = static_cast<std::size_t>(std::bit_width(muestras_.size() - 1));
-    return muestras_.size() <= gruposMaximos;
+    return true;
 }
 
-Automata::Numero Automata::grupoDeAlta(char16_t unidad) const {
+std::uint8_t Automata::grupoDeAlta(char16_t unidad) const {
     const auto siguiente = std::upper_bound(inicios_.begin(), inicios_.end(), unidad);
     return grupos_[static_cast<std::size_t>(siguiente - inicios_.begin()) - 1];
 }
@@ -151,92 +171,94 @@ bool Automata::toma(std::uint32_t i, char16_t unidad) const {
     return instruccion.operacion == Operacion::Clase && programa_->clases[instruccion.a].contiene(unidad);
 }
 
-bool Automata::sigue(std::uint32_t desde, Hilos& hilos, bool alFinal) {
+Detras Automata::detrasDeUnidad(char16_t unidad) const {
+    return conFronteras_ && esDePalabra(unidad) ? Detras::Palabra : Detras::NoPalabra;
+}
+
+bool Automata::sigue(std::uint32_t desde, Entorno entorno, Hilos& hilos) {
+    using enum Operacion;
     pendientes_.assign(1, desde);
     while (!pendientes_.empty()) {
         const std::uint32_t i = pendientes_.back();
         pendientes_.pop_back();
         if (visitadas_[i] == visita_) continue;
         visitadas_[i] = visita_;
-        const Instruccion& instruccion = programa_->codigo[i];
-        switch (instruccion.operacion) {
-        case Operacion::Salta:
-            pendientes_.push_back(instruccion.a);
-            break;
-        case Operacion::Prueba:
-            pendientes_.push_back(instruccion.a);
-            pendientes_.push_back(i + 1);
-            break;
-        case Operacion::Aplaza:
-            pendientes_.push_back(i + 1);
-            pendientes_.push_back(instruccion.a);
-            break;
-        case Operacion::Acepta:
+        const auto [operacion, a, b] = programa_->codigo[i];
+        if (operacion == Salta) {
+            pendientes_.push_back(a);
+        } else if (operacion == Prueba || operacion == Aplaza) {
+            pendientes_.push_back(operacion == Prueba ? a : i + 1);
+            pendientes_.push_back(operacion == Prueba ? i + 1 : a);
+        } else if (operacion == Inicio) {
+            if (entorno.detras == Detras::Principio) pendientes_.push_back(i + 1);
+        } else if (esAsercion(operacion) && entorno.delante != Delante::SinSaber) {
+            const bool enFrontera =
+                (entorno.detras == Detras::Palabra) != (entorno.delante == Delante::Palabra);
+            const bool vale =
+                operacion == Final ? entorno.delante == Delante::Fin : enFrontera == (operacion == Frontera);
+            if (vale) pendientes_.push_back(i + 1);
+        } else {
             hilos.push_back(i);
-            return true;
-        case Operacion::Final:
-            if (alFinal) {
-                pendientes_.push_back(i + 1);
-                break;
-            }
-            [[fallthrough]];
-        case Operacion::Unidad:
-        case Operacion::Clase:
-            hilos.push_back(i);
-            break;
-        case Operacion::Inicio:
-        case Operacion::Frontera:
-        case Operacion::NoFrontera:
-        case Operacion::Referencia:
-        case Operacion::Guarda:
-        case Operacion::PreparaBucle:
-        case Operacion::EntraEnBucle:
-        case Operacion::EmpiezaVuelta:
-        case Operacion::CierraBucle:
-        case Operacion::AbreDelante:
-        case Operacion::AbreDelanteNo:
-        case Operacion::CierraDelante:
-        case Operacion::CierraDelanteNo:
-            break; // never in these programs
+            if (operacion == Acepta) return true;
         }
     }
     return false;
 }
 
-bool Automata::aceptaAlFinal(const Hilos& hilos) {
+bool Automata::sigueTodos(const Hilos& desde, Entorno entorno, Hilos& hilos) {
     ++visita_;
-    Hilos resto;
-    return std::any_of(hilos.begin(), hilos.end(), [&](std::uint32_t i) {
-        return programa_->codigo[i].operacion == Operacion::Final && sigue(i, resto, true);
-    });
+    return std::any_of(desde.begin(), desde.end(), [&](std::uint32_t i) { return sigue(i, entorno, hilos); });
+}
+
+bool Automata::espera(const Hilos& hilos) const {
+    return std::any_of(hilos.begin(), hilos.end(),
+                       [&](std::uint32_t i) { return esAsercion(programa_->codigo[i].operacion); });
+}
+
+bool Automata::estaCompleto(const Hilos& hilos) const {
+    return !hilos.empty() && programa_->codigo[hilos.back()].operacion == Operacion::Acepta;
 }
 
 Automata::Numero Automata::calcula(Numero estado, std::size_t grupo) {
-    ++visita_;
-    Hilos hilos;
-    bool acepta = false;
-    const Hilos anteriores = estados_[estado].hilos;
-    for (const std::uint32_t i : anteriores) {
-        if (!toma(i, muestras_[grupo])) continue;
-        acepta = sigue(i + 1, hilos, false);
-        if (acepta) break;
+    const char16_t unidad = muestras_[grupo];
+    const Estado& actual = *estados_[estado];
+    Hilos hilos = actual.hilos;
+    Estado nuevo;
+    if (espera(hilos)) {
+        hilos.clear();
+        const bool esPalabra = detrasDeUnidad(unidad) == Detras::Palabra;
+        const bool completo = sigueTodos(
+            actual.hilos, {actual.detras, esPalabra ? Delante::Palabra : Delante::NoPalabra}, hilos);
+        nuevo.completaAntes = completo && completa_[estado] != Completa::Aqui;
     }
-    const Numero siguiente = numeroDe(std::move(hilos), acepta);
+    nuevo.detras = detrasDeUnidad(unidad);
+    std::erase_if(hilos, [&](std::uint32_t i) { return !toma(i, unidad); });
+    for (std::uint32_t& i : hilos) ++i;
+    sigueTodos(hilos, {nuevo.detras}, nuevo.hilos);
+    const Numero siguiente = numeroDe(std::move(nuevo));
     if (siguiente != desconocido) transiciones_[celda(estado, grupo)] = siguiente;
     return siguiente;
 }
 
-Automata::Numero Automata::numeroDe(Hilos hilos, bool acepta) {
-    const auto conocido = numeros_.find(hilos);
-    if (conocido != numeros_.end()) return conocido->second;
-    if (estados_.size() >= estadosMaximos) return desconocido;
-    const auto numero = static_cast<Numero>(estados_.size());
-    numeros_.emplace(hilos, numero);
-    estados_.push_back({std::move(hilos), false});
-    acepta_.push_back(acepta ? 1 : 0);
-    estados_.back().aceptaAlFinal = aceptaAlFinal(estados_.back().hilos);
-    transiciones_.resize(estados_.size() << anchura_, desconocido);
-    return numero;
+Automata::Numero Automata::numeroDe(Estado estado) {
+    const bool esperan = espera(estado.hilos);
+    const bool completo = estaCompleto(estado.hilos);
+    if (!esperan) estado.detras = Detras::NoPalabra;
+    if (completo) estado.completaAntes = false;
+    if (const auto conocido = numeros_.find(estado); conocido != numeros_.end()) return conocido->second;
+    const std::size_t numero = numeros_.size();
+    if (numero >= estadosMaximos) return desconocido;
+    // Until the number is filed, what stands in its place is nobody's, and is written anew.
+    estados_.resize(numero + 1);
+    completa_.resize(numero + 1);
+    aceptaAlFinal_.resize(numero + 1);
+    transiciones_.resize((numero + 1) << anchura_, desconocido);
+    completa_[numero] = completo ? Completa::Aqui : estado.completaAntes ? Completa::Antes : Completa::No;
+    Hilos resto;
+    aceptaAlFinal_[numero] =
+        esperan && sigueTodos(estado.hilos, {estado.detras, Delante::Fin}, resto) ? 1 : 0;
+    estados_[numero] = &numeros_.emplace(std::move(estado), static_cast<Numero>(numero)).first->first;
+    return static_cast<Numero>(numero);
 }
 
 } // namespace norvik

@@ -81,25 +81,9 @@ bool ClaseUnidades::contieneAlta(char16_t unidad) const {
     return siguiente != rangos_.end() && siguiente->desde <= unidad;
 }
 
-bool ClaseUnidades::esDisjunta(const ClaseUnidades& otra) const {
-    auto mio = rangos_.begin();
-    auto suyo = otra.rangos_.begin();
-    while (mio != rangos_.end() && suyo != otra.rangos_.end()) {
-        if (mio->hasta < suyo->desde) {
-            ++mio;
-        } else if (suyo->hasta < mio->desde) {
-            ++suyo;
-        } else {
-            return false;
-        }
-    }
-    return true;
-}
-
-void ClaseUnidades::une(const ClaseUnidades& otra) {
-    aniade(rangos_, otra.rangos_);
-    ordenaYFunde(rangos_);
-    for (std::size_t i = 0; i < bajas_.size(); ++i) bajas_[i] = bajas_[i] || otra.bajas_[i];
+bool esDePalabra(char16_t unidad) {
+    static const ClaseUnidades palabra(rangosDe(Propiedad::Palabra));
+    return palabra.contiene(unidad);
 }
 
 } // namespace norvik

@@ -21,6 +21,9 @@ enum class Propiedad : std::uint8_t { Digito, Palabra, Espacio, Letra };
 /// The units with a property, by Unicode: ranges in order, with gaps between them.
 const std::vector<RangoUnidades>& rangosDe(Propiedad propiedad);
 
+/// Whether a unit belongs to a word, as boundaries understand it.
+bool esDePalabra(char16_t unidad);
+
 /// A class as it is written.
 struct ClaseLeida {
     struct Escape {
@@ -43,8 +46,6 @@ public:
     bool contiene(char16_t unidad) const { return unidad < 256 ? bajas_[unidad] : contieneAlta(unidad); }
     /// In order, with gaps between them.
     const std::vector<RangoUnidades>& rangos() const { return rangos_; }
-    bool esDisjunta(const ClaseUnidades& otra) const;
-    void une(const ClaseUnidades& otra);
 
 private:
     bool contieneAlta(char16_t unidad) const;

@@ -19,13 +19,15 @@ constexpr std::size_t camino = 256; // characters walked together
 } // namespace
 
 AutomataConjunto::AutomataConjunto(std::vector<Automata*> miembros) : automatas_(std::move(miembros)) {
-    ultimaInicial_.fill({0, desconocido});
-    for (const Automata* automata : automatas_) afina(*automata);
+    for (const Automata* automata : automatas_) {
+        afina(*automata);
+        miraAtras_ = miraAtras_ || automata->miraAtras();
+    }
 }
 
 // Splits the classes by what one more automaton tells apart.
 void AutomataConjunto::afina(const Automata& automata) {
-    const std::size_t numGrupos = automata.muestras_.size();
+    const std::size_t numGrupos = automata.numGrupos();
     std::vector<std::uint16_t> nuevas(numClases_ * numGrupos); // by class and group: class + 1, 0: none yet
     std::uint16_t numero = 0;
     for (std::size_t unidad = 0; unidad < clases_.size(); ++unidad) {
@@ -41,7 +43,7 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
                                  Intentos& intentos) {
     intentos.coinciden = 0;
     intentos.indecisos = cuales;
-    const Numero primero = inicial(cuales, sujeto[inicio]);
+    const Numero primero = inicial(cuales, sujeto, inicio);
     Numero estado = primero;
     if (estado == desconocido) return;
     const std::size_t tope = std::min(sujeto.size(), inicio + camino);
@@ -52,17 +54,20 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
             destino = siguiente(estado, sujeto[i]);
             if (destino != estado) break;
         }
-        intentos.coinciden |= aceptan_[estado];
-        paraCadaBit(aceptan_[estado], [&](std::size_t lugar) { intentos.fin[lugar] = i; });
-        intentos.indecisos = vivos_[estado];
+        const Mascaras aqui = mascaras_[estado];
+        intentos.coinciden |= aqui.todosCompletos();
+        paraCadaBit(aqui.completos, [&](std::size_t lugar) { intentos.fin[lugar] = i; });
+        paraCadaBit(aqui.completosAntes, [&](std::size_t lugar) { intentos.fin[lugar] = i - 1; });
+        intentos.indecisos = aqui.vivos;
         if (i == tope || destino == desconocido) break;
-        const std::uint64_t fallidos = vivos_[estado] & ~vivos_[destino] & ~intentos.coinciden;
+        const std::uint64_t siguen = mascaras_[destino].vivos;
+        const std::uint64_t fallidos = aqui.vivos & ~siguen & ~intentos.coinciden;
         if (fallidos != 0) {
-            const std::size_t enVano = saltaEnVano(sujeto, inicio + 1, racha, i, primero, estado);
+            const std::size_t enVano = saltaEnVano(sujeto, inicio + 1, racha, i, cuales, primero, estado);
             paraCadaBit(fallidos, [&](std::size_t lugar) { intentos.fin[lugar] = enVano; });
         }
-        intentos.indecisos = vivos_[destino];
-        if (intentos.indecisos == 0) break;
+        intentos.indecisos = siguen;
+        if (siguen == 0) break;
         estado = destino;
     }
     intentos.coinciden &= ~intentos.indecisos;
@@ -71,34 +76,42 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
 // Walks have ended at `hasta`, where they had been in `estado` since `desde`. Walks that come to this state
 // in between end like them: the first position from `i` on whose walk does not do so at once.
 std::size_t AutomataConjunto::saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde,
-                                          std::size_t hasta, Numero primero, Numero estado) {
-    while (i + 1 >= desde && i < hasta && siguiente(primero, sujeto[i]) == estado) ++i;
+                                          std::size_t hasta, std::uint64_t cuales, Numero primero,
+                                          Numero estado) {
+    for (; i + 1 >= desde && i < hasta; ++i) {
+        if (miraAtras_) primero = inicial(cuales, sujeto, i);
+        if (primero == desconocido || siguiente(primero, sujeto[i]) != estado) break;
+    }
     return i;
 }
 
-AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, char16_t unidad) {
-    if (unidad >= ultimaInicial_.size()) return desconocido;
-    auto& [para, numero] = ultimaInicial_[unidad];
-    if (para == cuales) return numero;
-    if (iniciales_.size() >= estadosMaximos) return desconocido;
-    const auto [sitio, nueva] = iniciales_.try_emplace(cuales, desconocido);
-    if (nueva) {
+AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, std::u16string_view sujeto,
+                                                   std::size_t posicion) {
+    const char16_t unidad = sujeto[posicion];
+    if (unidad >= clases_.size()) return desconocido;
+    const Detras detras = detrasEn(sujeto, posicion);
+    Inicial& ultima = ultimaInicial_[static_cast<std::size_t>(detras)][unidad];
+    if (ultima.cuales == cuales) return ultima.numero;
+    const std::pair clave(detras, cuales);
+    auto sitio = iniciales_.find(clave);
+    if (sitio == iniciales_.end()) {
+        if (iniciales_.size() >= estadosMaximos) return desconocido;
         Miembros miembros;
         paraCadaBit(cuales, [&](std::size_t lugar) {
-            miembros.push_back({static_cast<std::uint8_t>(lugar), automatas_[lugar]->inicial_});
+            miembros.push_back({static_cast<std::uint8_t>(lugar), automatas_[lugar]->inicial(detras)});
         });
-        sitio->second = numeroDe(std::move(miembros));
+        sitio = iniciales_.emplace(clave, numeroDe(std::move(miembros))).first;
     }
-    para = cuales;
-    return numero = sitio->second;
+    ultima = {cuales, sitio->second};
+    return ultima.numero;
 }
 
 AutomataConjunto::Numero AutomataConjunto::calcula(Numero estado, char16_t unidad) {
     Miembros miembros;
-    for (const Miembro& miembro : miembros_[estado]) {
-        const Automata::Numero destino = automatas_[miembro.lugar]->siguiente(miembro.estado, unidad);
+    for (const auto [lugar, suyo] : *miembros_[estado]) {
+        const Automata::Numero destino = automatas_[lugar]->siguiente(suyo, unidad);
         if (destino == Automata::desconocido) return desconocido;
-        if (destino != Automata::muerto) miembros.push_back({miembro.lugar, destino});
+        if (destino != Automata::muerto) miembros.push_back({lugar, destino});
     }
     const Numero destino = numeroDe(std::move(miembros));
     transiciones_[estado * numClases_ + clases_[unidad]] = destino;
@@ -106,23 +119,35 @@ AutomataConjunto::Numero AutomataConjunto::calcula(Numero estado, char16_t unida
 }
 
 AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros) {
-    const auto conocido = numeros_.find(miembros);
-    if (conocido != numeros_.end()) return conocido->second;
-    if (miembros_.size() >= estadosMaximos) return desconocido;
-    const auto numero = static_cast<Numero>(miembros_.size());
-    std::uint64_t vivos = 0;
-    std::uint64_t aceptan = 0;
-    for (const Miembro& miembro : miembros) {
-        const std::uint64_t bit = std::uint64_t{1} << miembro.lugar;
-        vivos |= bit;
-        if (automatas_[miembro.lugar]->acepta_[miembro.estado] != 0) aceptan |= bit;
+    if (const auto conocido = numeros_.find(miembros); conocido != numeros_.end()) return conocido->second;
+    const std::size_t numero = numeros_.size();
+    if (numero >= estadosMaximos) return desconocido;
+    // Until the number is filed, what stands in its place is nobody's, and is written anew.
+    miembros_.resize(numero + 1);
+    mascaras_.resize(numero + 1);
+    transiciones_.resize((numero + 1) * numClases_, desconocido);
+    mascaras_[numero] = mascarasDe(miembros);
+    miembros_[numero] = &numeros_.emplace(std::move(miembros), static_cast<Numero>(numero)).first->first;
+    return static_cast<Numero>(numero);
+}
+
+AutomataConjunto::Mascaras AutomataConjunto::mascarasDe(const Miembros& miembros) const {
+    Mascaras mascaras;
+    for (const auto [lugar, estado] : miembros) {
+        const std::uint64_t bit = std::uint64_t{1} << lugar;
+        mascaras.vivos |= bit;
+        switch (automatas_[lugar]->completa(estado)) {
+        case Automata::Completa::No:
+            break;
+        case Automata::Completa::Aqui:
+            mascaras.completos |= bit;
+            break;
+        case Automata::Completa::Antes:
+            mascaras.completosAntes |= bit;
+            break;
+        }
     }
-    vivos_.push_back(vivos);
-    aceptan_.push_back(aceptan);
-    transiciones_.resize(transiciones_.size() + numClases_, desconocido);
-    numeros_.emplace(miembros, numero);
-    miembros_.push_back(std::move(miembros));
-    return numero;
+    return mascaras;
 }
 
 } // namespace norvik

@@ -34,7 +34,7 @@ public:
         std::array<std::size_t, maximo> fin;
     };
 
-    /// The automata outlive it.
+    /// At most `maximo` automata, which outlive it.
     explicit AutomataConjunto(std::vector<Automata*> miembros);
 
     /// The matches of `cuales`, at least one, that start at `inicio`, a position of the subject.
@@ -51,10 +51,20 @@ private:
         }
     };
     using Miembros = std::vector<Miembro>;
+    struct Mascaras {
+        std::uint64_t vivos = 0;          // who is still walking
+        std::uint64_t completos = 0;      // whose match is complete here …
+        std::uint64_t completosAntes = 0; // … and where the last character began
+
+        std::uint64_t todosCompletos() const { return completos | completosAntes; }
+    };
     static constexpr Numero desconocido = 0xFFFF;
 
     void afina(const Automata& automata);
-    Numero inicial(std::uint64_t cuales, char16_t unidad);
+    Detras detrasEn(std::u16string_view sujeto, std::size_t posicion) const {
+        return miraAtras_ ? detrasDe(sujeto, posicion) : Detras::Principio;
+    }
+    Numero inicial(std::uint64_t cuales, std::u16string_view sujeto, std::size_t posicion);
     Numero siguiente(Numero estado, char16_t unidad) {
         if (unidad >= clases_.size()) return desconocido;
         const Numero conocido = transiciones_[estado * numClases_ + clases_[unidad]];
@@ -62,19 +72,24 @@ private:
     }
     Numero calcula(Numero estado, char16_t unidad);
     Numero numeroDe(Miembros miembros);
+    Mascaras mascarasDe(const Miembros& miembros) const;
     std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde, std::size_t hasta,
-                            Numero primero, Numero estado);
+                            std::uint64_t cuales, Numero primero, Numero estado);
 
     std::vector<Automata*> automatas_;
+    bool miraAtras_ = false;                 // one of them does
     std::array<std::uint8_t, 256> clases_{}; // units that no member tells apart
     std::size_t numClases_ = 1;
-    std::vector<std::uint64_t> vivos_;   // of each state: who is still walking
-    std::vector<std::uint64_t> aceptan_; // … and whose match is complete
-    std::vector<Numero> transiciones_;   // state × class
-    std::vector<Miembros> miembros_;     // of each state
     std::map<Miembros, Numero> numeros_;
-    std::map<std::uint64_t, Numero> iniciales_;
-    std::array<std::pair<std::uint64_t, Numero>, 256> ultimaInicial_{}; // by first unit
+    std::vector<const Miembros*> miembros_; // of each state
+    std::vector<Mascaras> mascaras_;        // of each state
+    std::vector<Numero> transiciones_;      // state × class
+    std::map<std::pair<Detras, std::uint64_t>, Numero> iniciales_;
+    struct Inicial {
+        std::uint64_t cuales = 0;
+        Numero numero = desconocido;
+    };
+    std::array<std::array<Inicial, 256>, 3> ultimaInicial_{}; // by what stands behind, and the first unit
 };
 
 } // namespace norvik

@@ -19,20 +19,20 @@ namespace {
 constexpr std::uint32_t restaura = 0x80000000; // marks a stack entry that restores a register
 constexpr std::size_t pilaMaxima = (std::size_t{64} << 20) / sizeof(MemoriaMaquina::Entrada);
 constexpr std::size_t pasosMaximos = 100'000'000;
-constexpr std::size_t pasosPorConsulta = 1U << 16; // of the clock
+constexpr std::size_t pasosPorConsulta = 1U << 12; // of the budget
 
-bool esDePalabra(std::u16string_view sujeto, std::size_t i) {
-    static const ClaseUnidades palabra(rangosDe(Propiedad::Palabra));
-    return i < sujeto.size() && palabra.contiene(sujeto[i]);
+bool hayPalabra(std::u16string_view sujeto, std::size_t i) {
+    return i < sujeto.size() && esDePalabra(sujeto[i]);
 }
 
 // One attempt at one position.
 class Ejecucion {
 public:
     Ejecucion(const Programa& programa, std::u16string_view sujeto, std::size_t inicio,
-              MemoriaMaquina& memoria, const Presupuesto& presupuesto)
+              MemoriaMaquina& memoria, Gasto& gasto)
         : p_(programa), sujeto_(sujeto), pos_(inicio), pila_(memoria.pila), registros_(memoria.registros),
-          presupuesto_(presupuesto) {
+          gasto_(gasto) {
+        gasto_.anota(pasosPorConsulta / 16 + p_.registros);
         pila_.clear();
         registros_.assign(p_.registros, -1);
     }
@@ -59,8 +59,8 @@ private:
         return true;
     }
     bool enFrontera() const {
-        const bool antes = pos_ > 0 && esDePalabra(sujeto_, pos_ - 1);
-        return antes != esDePalabra(sujeto_, pos_);
+        const bool antes = pos_ > 0 && hayPalabra(sujeto_, pos_ - 1);
+        return antes != hayPalabra(sujeto_, pos_);
     }
     bool repiteCaptura(std::uint32_t captura);
     bool entraEnBucle(const Bucle& bucle);
@@ -79,7 +79,7 @@ private:
     std::uint32_t en_ = 0;
     std::vector<MemoriaMaquina::Entrada>& pila_;
     std::vector<std::int32_t>& registros_;
-    const Presupuesto& presupuesto_;
+    Gasto& gasto_;
     std::size_t pasos_ = 0;
     std::size_t proximaConsulta_ = pasosPorConsulta;
 };
@@ -137,7 +137,8 @@ bool Ejecucion::ejecuta(const Instruccion& i) {
 }
 
 void Ejecucion::consulta() {
-    if (pasos_ > pasosMaximos || presupuesto_.agotado()) throw BusquedaDesbocada();
+    if (pasos_ > pasosMaximos) throw BusquedaDesbocada();
+    gasto_.anota(pasosPorConsulta);
     proximaConsulta_ = pasos_ + pasosPorConsulta;
 }
 
@@ -232,9 +233,8 @@ void Ejecucion::guarda(std::uint32_t registro, std::int32_t valor) {
 } // namespace
 
 std::optional<std::size_t> coincideMaquina(const Programa& programa, std::u16string_view sujeto,
-                                           std::size_t inicio, MemoriaMaquina& memoria,
-                                           const Presupuesto& presupuesto) {
-    return Ejecucion(programa, sujeto, inicio, memoria, presupuesto).corre();
+                                           std::size_t inicio, MemoriaMaquina& memoria, Gasto& gasto) {
+    return Ejecucion(programa, sujeto, inicio, memoria, gasto).corre();
 }
 
 } // namespace norvik

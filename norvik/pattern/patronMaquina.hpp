@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/pattern/emparejador.hpp"
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/pattern/patronPrograma.hpp"
 
 #include <cstdint>
@@ -21,9 +21,9 @@ struct MemoriaMaquina {
 };
 
 /// The exact matcher of the dialect, with which every other way of matching agrees: the end of the match that
-/// starts at `inicio`, if there is one. Raises `BusquedaDesbocada`.
+/// starts at `inicio`, if there is one. Raises what `Presupuesto::exige` does, and `BusquedaDesbocada` when
+/// memory or steps of one attempt run out.
 std::optional<std::size_t> coincideMaquina(const Programa& programa, std::u16string_view sujeto,
-                                           std::size_t inicio, MemoriaMaquina& memoria,
-                                           const Presupuesto& presupuesto);
+                                           std::size_t inicio, MemoriaMaquina& memoria, Gasto& gasto);
 
 } // namespace norvik

@@ -143,8 +143,11 @@ TEST(Emparejador, SabeCuandoUnPatronEsUnaPalabra) {
         {u"while", u"while"},    {u"\\-\\>", u"->"},    {u"\\x41[+]\\n", u"A+\n"},
         {u"a{", u"a{"},          {u"", std::nullopt},   {u"a.b", std::nullopt},
         {u"(ab)", std::nullopt}, {u"a+", std::nullopt}, {u"a|b", std::nullopt}};
-    for (const auto& [patron, palabra] : filas)
-        EXPECT_EQ(Emparejador::compila(patron, false)->palabra(), palabra) << aUtf8(patron);
+    for (const auto& [patron, palabra] : filas) {
+        const auto emparejador = Emparejador::compila(patron, false);
+        EXPECT_EQ(emparejador->esPalabra(), palabra.has_value()) << aUtf8(patron);
+        EXPECT_EQ(emparejador->texto(), palabra.value_or(std::u16string(patron)));
+    }
 }
 
 TEST(Emparejador, ElAnidamientoYElTamanioTienenSuMedida) {

@@ -1,0 +1,35 @@
+// A pattern ready to search, in the cheaper of the two ways that give its matches: branches, loops and
+// assertions over units by an automaton, one look-up a character and nothing to go back to; look-aheads,
+// large counts, references to captures and optional turns that take nothing by the exact machine, which also
+// decides where the automaton has grown too large.
+#include "norvik/pattern/busquedaPatron.hpp"
+
+namespace norvik {
+
+BusquedaPatron::BusquedaPatron(const Patron& patron) : BusquedaPatron(PatronListo(patron)) {}
+
+BusquedaPatron::BusquedaPatron(const PatronListo& patron)
+    : primeras_(patron.primeras()), programa_(patron), automata_(Automata::de(programa_)) {}
+
+void BusquedaPatron::empieza(std::u16string_view sujeto) {
+    sujeto_ = sujeto;
+    recuerdo_.clear();
+}
+
+std::size_t BusquedaPatron::inicioPosible(std::size_t i) const {
+    if (!primeras_) return i;
+    while (i < sujeto_.size() && !primeras_->contiene(sujeto_[i])) ++i;
+    return i < sujeto_.size() ? i : sujeto_.size() + 1;
+}
+
+Intento BusquedaPatron::intenta(std::size_t posicion, Gasto& gasto) {
+    if (automata_) {
+        const Intento intento = automata_->coincide(sujeto_, posicion, recuerdo_, gasto);
+        if (intento.tipo != Intento::Tipo::Indeciso) return intento;
+        gasto.anota(programa_.codigo.size());
+    }
+    const auto fin = coincideMaquina(programa_, sujeto_, posicion, memoria_, gasto);
+    return fin ? Intento{Intento::Tipo::Coincide, *fin} : Intento{Intento::Tipo::Nada, posicion + 1};
+}
+
+} // namespace norvik

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "norvik/base/presupuesto.hpp"
+#include "norvik/pattern/mapaCoincidencias.hpp"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// Short plain words that are searched together in one pass over a text.
+class IndicePalabras {
+public:
+    /// Characters of the longest word that it takes.
+    static constexpr std::size_t maximo = 32;
+
+    /// A word of 1 to `maximo` characters, which is a pattern by its place. Places come in ascending order.
+    void aniade(std::u16string_view palabra, bool ignoraMayusculas, std::int32_t patron);
+    /// To be called after the last word.
+    void ordena();
+    /// Stores into the map every occurrence of every word, as each one's own search would find it. Raises
+    /// what `Presupuesto::exige` does.
+    void busca(std::u16string_view texto, Gasto& gasto, MapaCoincidencias& mapa);
+
+private:
+    static constexpr std::uint32_t ninguna = 0xFFFFFFFF;
+
+    struct Palabra {
+        std::u16string plegada;
+        std::u16string exacta; ///< empty when case is ignored
+        std::int32_t patron = 0;
+        std::uint32_t anterior = ninguna; ///< the last one in order that this one begins with or is equal to
+        std::size_t libre = 0;            ///< end of the word's last occurrence in the search under way
+    };
+    struct Cubo {
+        std::uint64_t segundos = 0;          ///< the low six bits of second characters, all for a word of one
+        std::vector<std::uint32_t> palabras; ///< in order
+    };
+
+    void enlaza();
+    void reparte(std::uint32_t palabra);
+    void prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion, MapaCoincidencias& mapa);
+
+    std::vector<Palabra> palabras_;
+    std::array<Cubo, 256> cubos_{}; ///< by the low byte of the first character
+};
+
+} // namespace norvik
