@@ -5,7 +5,6 @@
 #include "linea.hpp"
 
 #include "ayuda.hpp"
-#include "nombreDeModulo.hpp"
 #include "norvik/base/ficheros.hpp"
 
 #include <CLI/CLI.hpp>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/errores.hpp"
+#include "norvik/report/nombreDeModulo.hpp"
 
 #include <filesystem>
 #include <string>
@@ -12,7 +13,6 @@ enum class FormatoArbol { Dibujo, Json, Lineas };
 enum class FormatoLexemas { Tabla, Json };
 /// `Terminal`: nothing was asked for, so colours go to terminals only.
 enum class FormatoColor { Terminal, Ansi, Html };
-enum class LenguajeModulo { Vb, Cpp };
 
 struct Analiza {
     std::filesystem::path lenguaje;

@@ -5,6 +5,18 @@
 
 namespace norvik {
 
+namespace {
+
+std::u16string textoDeIntervalo(std::u16string_view que, std::int64_t valor, std::int64_t primero,
+                                std::int64_t ultimo) {
+    std::u16string texto = u"Subíndice fuera de intervalo: ";
+    texto.append(que).append(u" ").append(aTexto(valor));
+    if (ultimo < primero) return texto + u", y no hay nada";
+    return texto + u" no está entre " + aTexto(primero) + u" y " + aTexto(ultimo);
+}
+
+} // namespace
+
 ErrorNorvik::ErrorNorvik(std::u16string_view texto) : std::runtime_error(aUtf8(texto)), texto_(texto) {}
 Desbordamiento::Desbordamiento(std::u16string_view texto) : ErrorNorvik(texto) {}
 TextoDemasiadoLargo::TextoDemasiadoLargo()
@@ -16,6 +28,9 @@ BusquedaDesbocada::BusquedaDesbocada(std::u16string_view definicion)
     : Desbordamiento(palabras::busquedaDesbocada(definicion)), definicion_(definicion) {}
 OperacionCancelada::OperacionCancelada() : ErrorNorvik(u"La operación se ha cancelado") {}
 SubindiceFueraDeIntervalo::SubindiceFueraDeIntervalo(std::u16string_view texto) : ErrorNorvik(texto) {}
+SubindiceFueraDeIntervalo::SubindiceFueraDeIntervalo(std::u16string_view que, std::int64_t valor,
+                                                     std::int64_t primero, std::int64_t ultimo)
+    : ErrorNorvik(textoDeIntervalo(que, valor, primero, ultimo)) {}
 IndiceNoValido::IndiceNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
 NoCoincidenLosTipos::NoCoincidenLosTipos(std::u16string_view texto) : ErrorNorvik(texto) {}
 ArgumentoNoValido::ArgumentoNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}

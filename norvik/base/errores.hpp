@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -53,6 +54,9 @@ public:
 class SubindiceFueraDeIntervalo : public ErrorNorvik {
 public:
     explicit SubindiceFueraDeIntervalo(std::u16string_view texto = u"Subíndice fuera de intervalo");
+    /// `que` con su número («la regla», 1001) y los límites que tiene.
+    SubindiceFueraDeIntervalo(std::u16string_view que, std::int64_t valor, std::int64_t primero,
+                              std::int64_t ultimo);
 };
 
 /// Una posición que no tiene la lista.

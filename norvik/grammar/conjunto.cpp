@@ -92,13 +92,18 @@ bool conjunto::contieneCadenaVacia() const {
 }
 
 const conjunto::Valor& conjunto::elementoAt(std::int16_t posicion) const {
-    if (posicion < 1 || static_cast<std::size_t>(posicion) > elementos_.size()) throw IndiceNoValido();
+    if (posicion < 1 || static_cast<std::size_t>(posicion) > elementos_.size())
+        throw IndiceNoValido(u"Índice no válido: el conjunto tiene " +
+                             aTexto(static_cast<std::int64_t>(elementos_.size())) +
+                             u" elementos, y se pide el " + aTexto(posicion));
     return elementos_[static_cast<std::size_t>(posicion) - 1];
 }
 
 std::u16string_view conjunto::simboloAt(std::int16_t posicion) const {
     const auto* const texto = std::get_if<std::u16string>(&elementoAt(posicion));
-    if (texto == nullptr) throw NoCoincidenLosTipos();
+    if (texto == nullptr)
+        throw NoCoincidenLosTipos(u"No coinciden los tipos: el elemento " + aTexto(posicion) +
+                                  u" del conjunto es un número y no un símbolo");
     return *texto;
 }
 

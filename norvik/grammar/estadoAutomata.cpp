@@ -1,6 +1,7 @@
 #include "norvik/grammar/estadoAutomata.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
 
 #include <algorithm>
 
@@ -9,7 +10,8 @@ namespace norvik {
 namespace {
 
 std::size_t indiceDe(std::int16_t item) {
-    if (item < 1 || item > estadoAutomata::maximoItems) throw SubindiceFueraDeIntervalo();
+    if (item < 1 || item > estadoAutomata::maximoItems)
+        throw SubindiceFueraDeIntervalo(u"el elemento del estado", item, 1, estadoAutomata::maximoItems);
     return static_cast<std::size_t>(item) - 1;
 }
 
@@ -57,14 +59,15 @@ void estadoAutomata::setTransicion(const Nucleo& nucleo, std::int16_t destino) {
 
 void estadoAutomata::setTransicionIndividual(std::int16_t item, std::int16_t destino) {
     const std::size_t i = indiceDe(item);
-    if (i >= adyacentes_.size()) throw SubindiceFueraDeIntervalo();
+    if (i >= adyacentes_.size())
+        throw SubindiceFueraDeIntervalo(u"el elemento del estado", item, 1, getNumReglas());
     adyacentes_[i] = destino;
 }
 
 void estadoAutomata::aniade(Item item, bool pendiente) {
     if (items_.size() == maximoItems)
-        throw SubindiceFueraDeIntervalo(
-            u"Subíndice fuera de intervalo: un estado del autómata pasa de 1000 elementos");
+        throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: el estado " + aTexto(numEstado_) +
+                                        u" del autómata pasa de 1000 elementos");
     items_.push_back(item);
     adyacentes_.push_back(pendiente ? sinCalcular : sinTransicion);
 }

@@ -2,17 +2,15 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
+#include "norvik/grammar/clasico/conjuntos.hpp"
 #include "norvik/grammar/conjunto.hpp"
-#include "norvik/grammar/conjuntosNumerados.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
-#include "norvik/grammar/reglasPartidas.hpp"
-#include "norvik/grammar/tablaSLR.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,23 +18,26 @@
 
 namespace norvik {
 
-class EscritorLineas;
 class pilaTokens;
 class Sistema;
 
-/// The grammar of a language and all that is derived from it: rules, FIRST, FOLLOW and PREDICT sets, LR(0)
-/// automaton and SLR table. Rule indexes are 1-based. A symbol that begins with A … Z is a non-terminal
+/// The grammar of a language and all that is derived from it (`GramaticaLR`), by steps that a host can take
+/// one by one: rules, FIRST, FOLLOW and PREDICT sets, LR(0) automaton and SLR table. Rule indexes are
+/// 1-based. A symbol that begins with A … Z is a non-terminal
 /// ("variable"), any other but Ø a terminal.
 class gramatica {
 public:
-    static constexpr std::int16_t aceptar = 1000; ///< table entry that means acceptance
-    static constexpr std::int16_t maximoReglas = 1000;
+    static constexpr std::int16_t aceptar = TablaLR::aceptar; ///< table entry that means acceptance
+    static constexpr std::int16_t maximoReglas = Reglas::maximo;
 
     gramatica() { inicializaGramatica(); }
     // Views into the rules are handed out and kept.
     gramatica(const gramatica&) = delete;
     gramatica& operator=(const gramatica&) = delete;
     ~gramatica() = default;
+
+    /// What it is a face of.
+    const GramaticaLR& valores() const { return valores_; }
 
     /// Accepts a text and does nothing with it.
     std::u16string compila(std::u16string_view texto) const;
@@ -56,28 +57,36 @@ public:
     std::u16string_view GetRightRegla(std::int16_t regla) const;
     std::int16_t getNumReglas() const;
     /// Number of symbols of the body; a Ø at its end does not count.
-    std::int16_t GetNumElementosRegla(std::int16_t regla) const;
+    std::int16_t GetNumElementosRegla(std::int16_t regla) const {
+        return valores_.reglas.en(regla).elementos;
+    }
     /// Symbol of the body at a 0-based position, clamped to the first and the last.
     std::u16string GetElementoRegla(std::int16_t regla, std::int16_t posicion) const;
     std::int16_t GetNumSimbolos() const;
     /// 0-based column of a terminal, "EOF" being "$"; -1 when unknown.
     std::int16_t GetCodigoToken(std::u16string_view token) const;
     /// 0-based column of a rule's head; -1 when unknown.
-    std::int16_t GetCodigoVariable(std::int16_t regla) const;
+    std::int16_t GetCodigoVariable(std::int16_t regla) const {
+        return valores_.tabla.codigo(valores_.reglas.en(regla).cabeza);
+    }
     /// Empty when every non-terminal used has a rule, else the message.
     std::u16string chequeaGramatica() const;
     /// 1-based position of a symbol in a body, 0 when it is not found. The last symbol of a body is missed
     /// when an earlier one, not the first, has the same beginning.
-    static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo);
+    static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo) {
+        return norvik::estaEnRegla(cuerpo, simbolo);
+    }
     /// A body with a dot before its symbol at a 0-based position.
-    static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto);
+    static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto) {
+        return norvik::dameReglaString(cuerpo, punto);
+    }
 
     /// Changes whenever rules, symbols or table may have changed.
     std::uint64_t edicion() const { return edicion_; }
-    const conjunto& terminales() const { return terminales_; }
-    const conjunto& variables() const { return variables_; }
+    const conjunto& terminales() const { return valores_.tabla.simbolos().terminales; }
+    const conjunto& variables() const { return valores_.tabla.simbolos().variables; }
     /// The table's symbols in column order.
-    const conjunto& simbolos() const { return simbolos_; }
+    const conjunto& simbolos() const { return valores_.tabla.simbolos().todos; }
 
     // FIRST, FOLLOW and PREDICT ----------------------------------------------------------------------------
 
@@ -99,10 +108,11 @@ public:
     bool quedanPrimerosPendientes() const;
     bool quedanSiguientesPendientes() const;
 
-    std::vector<conjunto> primeros() const;
-    std::vector<conjunto> siguientes() const;
+    /// The sets with their texts. References hold until the sets change: no other call touches them.
+    const std::vector<conjunto>& primeros() const { return conTextos().primeros; }
+    const std::vector<conjunto>& siguientes() const { return conTextos().siguientes; }
     /// One set a rule.
-    std::vector<conjunto> predict() const;
+    const std::vector<conjunto>& predict() const { return conTextos().predict; }
 
     // Automaton --------------------------------------------------------------------------------------------
 
@@ -117,7 +127,7 @@ public:
     std::int16_t existeEstadoCon(const Nucleo& nucleo) const;
     /// Symbol after the dot of a 1-based item.
     std::u16string dameSimboloSiguiente(const estadoAutomata& estado, std::int16_t item) const;
-    const std::vector<estadoAutomata>& estadosAutomata() const { return estadosAutomata_; }
+    const std::vector<estadoAutomata>& estadosAutomata() const { return valores_.automata.estados; }
 
     // Table ------------------------------------------------------------------------------------------------
 
@@ -125,20 +135,26 @@ public:
     /// (`SubindiceFueraDeIntervalo`: a Ø beside other symbols has no column).
     void creaTablaSLR();
     /// 0-based state and column; raises `SubindiceFueraDeIntervalo`.
-    std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const;
+    std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {
+        return valores_.tabla.entrada(estado, columna);
+    }
     /// The entries of a state (0-based) by column, to be read many times; none when the two that need no
     /// storing could be among them, or nothing is stored. `GetElementoTablaSLR` gives those that are missing.
-    std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const;
-    /// A new table, all 0. Raises `SubindiceFueraDeIntervalo` for negative dimensions.
+    std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const {
+        return valores_.tabla.fila(estado);
+    }
+    /// A new table, all 0, without conflicts. Raises `SubindiceFueraDeIntervalo` for negative dimensions.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
     /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
     void SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor);
     /// The same of many, up to the first that would raise; returns how many were set.
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas);
-    std::int16_t GetDimensionFilasSLR() const { return tabla_.filas(); }
-    std::int16_t GetDimensionColumnasSLR() const { return tabla_.columnas(); }
+    std::int16_t GetDimensionFilasSLR() const { return valores_.tabla.celdas().filas(); }
+    std::int16_t GetDimensionColumnasSLR() const { return valores_.tabla.celdas().columnas(); }
     /// Rule that lost a conflict in a cell (1-based), 0 when there was none or the table was loaded.
-    std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const;
+    std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const {
+        return valores_.tabla.conflicto(fila, columna);
+    }
     /// The terminals that a state (0-based) accepts, as the lexer describes them.
     std::u16string toStringEsperados(std::int16_t estado, const pilaTokens& lexico) const;
 
@@ -154,17 +170,22 @@ public:
     /// What a report window shows: rules and sets; the automaton; header and cells of the table (1-based).
     std::u16string textoInformeGeneral() const;
     std::u16string textoAutomata() const;
-    std::u16string_view encabezadoColumna(std::int16_t columna) const;
+    std::u16string_view encabezadoColumna(std::int16_t columna) const {
+        return valores_.tabla.simbolo(columna);
+    }
     std::u16string celdaTabla(std::int16_t fila, std::int16_t columna) const;
     /// Rows and columns of the table that the symbols have a use for.
-    std::int16_t filasVigentes() const;
-    std::int16_t columnasVigentes() const;
+    std::int16_t filasVigentes() const { return valores_.tabla.filasVigentes(); }
+    std::int16_t columnasVigentes() const { return valores_.tabla.columnasVigentes(); }
     /// Whether a cell (1-based) shows a conflict.
-    bool enConflicto(std::int16_t fila, std::int16_t columna) const;
+    bool enConflicto(std::int16_t fila, std::int16_t columna) const {
+        return valores_.tabla.enConflicto(fila, columna);
+    }
 
     // Loading module ---------------------------------------------------------------------------------------
 
     /// The module, in pieces of whole lines, as one text, and written to `nombre`.bas in a folder.
+    /// Raises `ArgumentoNoValido` for a name that is no identifier or a reserved word; so do the next.
     void escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
                        const SumideroDeTexto& sumidero) const;
     std::u16string textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const;
@@ -178,99 +199,24 @@ public:
                          const std::filesystem::path& carpeta) const;
 
 private:
-    /// Columns that the parse asks for again and again.
-    struct Columnas {
-        bool calculadas = false;
-        std::int16_t inicial = -1; ///< of the start symbol, 0-based
-        std::int16_t fin = -1;     ///< of "$"
-        std::vector<std::int16_t> cabezas;
+    struct ConjuntosConTextos {
+        std::vector<conjunto> primeros;
+        std::vector<conjunto> siguientes;
+        std::vector<conjunto> predict;
     };
 
-    static void compruebaRegla(std::int16_t regla) {
-        if (regla < 1 || regla > maximoReglas) throw SubindiceFueraDeIntervalo();
-    }
     /// Rules or symbols change.
-    void cambia() {
-        columnas_.calculadas = false;
-        ++edicion_;
-    }
-    const Regla& reglaEn(std::int16_t regla) const;
-    bool hayReglaInicial() const { return !reglas_.empty() && !reglas_.front().cabeza.empty(); }
-    /// The rules split so far, completed.
-    ReglasPartidas& partidas() const;
-    const Columnas& columnas() const { return columnas_.calculadas ? columnas_ : calculaColumnas(); }
-    const Columnas& calculaColumnas() const;
+    void cambia() { ++edicion_; }
+    /// The rules split, up to date.
+    const ReglasPartidas& partidas();
     void olvidaGenerado();
-    std::vector<conjunto> conTextos(const std::vector<ConjuntoNumerado>& conjuntos) const;
-    void insertaTextos(const std::vector<Simbolo>& simbolos, conjunto& conj) const;
-    void construyeAutomata();
-    Nucleo nucleoInicial() const;
-    void reuneSimbolos();
-    std::vector<int> columnasDeSimbolos() const;
-    void rellenaTabla(TablaSLR& tabla, TablaSLR& conflictos) const;
-    bool esColumnaDeVariable(std::int16_t columna) const;
+    const ConjuntosConTextos& conTextos() const;
 
-    // Parts of the report.
-    void escribeReglas(EscritorLineas& salida) const;
-    void escribeConjuntos(std::u16string_view titulo, std::u16string_view nombre,
-                          const std::vector<ConjuntoNumerado>& conjuntos, EscritorLineas& salida) const;
-    void escribePredict(EscritorLineas& salida) const;
-    std::u16string listaDe(const ConjuntoNumerado& conjunto) const;
-    void escribeEstado(const estadoAutomata& estado, EscritorLineas& salida) const;
-    void escribeTransiciones(const estadoAutomata& estado, EscritorLineas& salida) const;
-    void escribeTabla(EscritorLineas& salida) const;
-    void escribeEntrada(std::int16_t fila, std::int16_t columna, EscritorLineas& salida) const;
-    std::u16string accion(std::int16_t fila, std::int16_t columna) const;
-    void escribeProblemas(std::int16_t fila, EscritorLineas& salida) const;
-
-    // Parts of the modules.
-    std::vector<CeldaSLR> celdasFijas() const;
-    std::vector<CeldaSLR> celdasVigentes() const;
-    void escribeDatosCpp(EscritorLineas& salida, const pilaTokens& lexico) const;
-    void escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const;
-    void escribeSimbolos(EscritorLineas& salida) const;
-    void escribeCargaReglas(EscritorLineas& salida, std::u16string_view nombre) const;
-
-    std::deque<Regla> reglas_;
-    mutable ReglasPartidas partidas_; // cache of `reglas_`, completed when it is asked for
-    conjunto terminales_;
-    conjunto variables_;
-    conjunto simbolos_;
-    mutable Columnas columnas_; // cache of `simbolos_` and `reglas_`
-    ConjuntosGramatica conjuntos_;
-    std::vector<estadoAutomata> estadosAutomata_;
+    GramaticaLR valores_; // `partidas` may lack the last rules
+    clasico::Pendientes pendientes_;
     std::int16_t numEstados_ = 0;
-    TablaSLR tabla_;
-    TablaSLR conflictos_;
     std::uint64_t edicion_ = 0;
+    mutable std::optional<ConjuntosConTextos> conTextos_; // made when they are first asked for
 };
-
-inline std::int16_t gramatica::GetCodigoVariable(std::int16_t regla) const {
-    compruebaRegla(regla);
-    const auto& cabezas = columnas().cabezas;
-    const auto i = static_cast<std::size_t>(regla) - 1;
-    return i < cabezas.size() ? cabezas[i] : std::int16_t{-1};
-}
-
-inline std::int16_t gramatica::GetNumElementosRegla(std::int16_t regla) const {
-    compruebaRegla(regla);
-    const auto i = static_cast<std::size_t>(regla) - 1;
-    return i < reglas_.size() ? reglas_[i].elementos : std::int16_t{0};
-}
-
-inline std::span<const std::int16_t> gramatica::GetFilaTablaSLR(std::int16_t estado) const {
-    if (estado <= 1) return {};
-    const auto guardada = tabla_.filaGuardada(estado + 1);
-    const auto simbolos = static_cast<std::size_t>(simbolos_.totalElementos());
-    return guardada.first(std::min(guardada.size(), simbolos));
-}
-
-inline std::int16_t gramatica::GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {
-    const std::int16_t guardado = tabla_.en(estado + 1, columna + 1);
-    if (columna >= simbolos_.totalElementos()) throw SubindiceFueraDeIntervalo();
-    if (estado == 0 && columna == columnas().inicial) return 1;
-    if (estado == 1 && columna == columnas().fin) return aceptar;
-    return guardado;
-}
 
 } // namespace norvik

@@ -4,32 +4,33 @@
 
 namespace norvik {
 
-ReglasPartidas::ReglasPartidas() : reglas_(1) {
-    registra(cadenaVacia);
+ReglasPartidas::ReglasPartidas(const Reglas& reglas, std::u16string_view otros) : reglas_(1) {
+    numera(cadenaVacia);
+    numera(u"$");
+    for (const Regla& regla : reglas) parte(regla);
+    paraCadaSimbolo(otros, [this](std::u16string_view simbolo) { numera(simbolo); });
 }
 
-Simbolo ReglasPartidas::registra(std::u16string_view texto) {
-    const auto [sitio, nuevo] = numeros_.try_emplace(texto, static_cast<Simbolo>(simbolos_.size()));
-    if (nuevo)
-        simbolos_.push_back({.texto = texto, .variable = !texto.empty() && esMayusculaAZ(texto.front())});
-    return sitio->second;
+Simbolo ReglasPartidas::simbolo(std::u16string_view texto) const {
+    const auto sitio = numeros_.find(texto);
+    return sitio == numeros_.end() ? sinSimbolo : sitio->second;
 }
 
 Simbolo ReglasPartidas::numera(std::u16string_view texto) {
-    const auto sitio = numeros_.find(texto);
-    return sitio != numeros_.end() ? sitio->second : registra(textosPropios_.emplace_back(texto));
-}
-
-void ReglasPartidas::completa(const std::deque<Regla>& reglas) {
-    while (reglas_.size() <= reglas.size()) parte(reglas[reglas_.size() - 1]);
+    if (const Simbolo conocido = simbolo(texto); conocido != sinSimbolo) return conocido;
+    const auto nuevo = static_cast<Simbolo>(simbolos_.size());
+    const std::u16string_view suyo = textos_.emplace_back(texto);
+    numeros_.emplace(suyo, nuevo);
+    simbolos_.push_back({.texto = suyo, .variable = !suyo.empty() && esMayusculaAZ(suyo.front())});
+    return nuevo;
 }
 
 void ReglasPartidas::parte(const Regla& regla) {
     Partida partida;
     partida.inicio = simbolosDeCuerpos_.size();
-    if (!regla.cabeza.empty()) partida.cabeza = registra(regla.cabeza);
+    if (!regla.cabeza.empty()) partida.cabeza = numera(regla.cabeza);
     paraCadaSimbolo(regla.cuerpo,
-                    [this](std::u16string_view simbolo) { simbolosDeCuerpos_.push_back(registra(simbolo)); });
+                    [this](std::u16string_view simbolo) { simbolosDeCuerpos_.push_back(numera(simbolo)); });
     if (simbolosDeCuerpos_.size() == partida.inicio) simbolosDeCuerpos_.push_back(vacio);
     partida.longitud = simbolosDeCuerpos_.size() - partida.inicio;
     reglas_.push_back(partida);

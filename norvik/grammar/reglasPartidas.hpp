@@ -1,6 +1,7 @@
 #pragma once
 
-#include <algorithm>
+#include "norvik/grammar/reglas.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -12,41 +13,33 @@
 
 namespace norvik {
 
-/// A rule as it was stored.
-struct Regla {
-    std::u16string cabeza;
-    std::u16string cuerpo;
-    std::int16_t elementos = 0; ///< symbols of the body, without a Ø at its end
-};
-
 /// Number of a symbol of the grammar.
 using Simbolo = std::int32_t;
 using Cuerpo = std::span<const Simbolo>;
 
-/// Calls with each symbol of a text, which are separated by spaces.
-template <typename Accion>
-void paraCadaSimbolo(std::u16string_view texto, const Accion& accion) {
-    for (std::size_t i = texto.find_first_not_of(u' '); i < texto.size();) {
-        const std::size_t fin = std::min(texto.find(u' ', i), texto.size());
-        accion(texto.substr(i, fin - i));
-        i = texto.find_first_not_of(u' ', fin);
-    }
-}
-
 /// The rules with their symbols as numbers: what the analyses work on. An empty body reads as Ø.
-/// Rule indexes are 1-based; texts are views into the rules, which must stay where they are.
+/// Rule indexes are 1-based. Never changed once it is made; texts are views into it, which moving keeps.
 class ReglasPartidas {
 public:
     static constexpr Simbolo sinSimbolo = -1;
-    static constexpr Simbolo vacio = 0; ///< Ø
+    static constexpr Simbolo vacio = 0;    ///< Ø
+    static constexpr Simbolo finTexto = 1; ///< $
 
-    ReglasPartidas();
+    ReglasPartidas() : ReglasPartidas(Reglas()) {}
+    /// The symbols of another text are numbered too, after those of the rules. Rules that are added later
+    /// change no number.
+    explicit ReglasPartidas(const Reglas& reglas, std::u16string_view otros = {});
+    ReglasPartidas(const ReglasPartidas&) = delete;
+    ReglasPartidas& operator=(const ReglasPartidas&) = delete;
+    ReglasPartidas(ReglasPartidas&&) = default;
+    ReglasPartidas& operator=(ReglasPartidas&&) = default;
+    ~ReglasPartidas() = default;
 
-    /// Splits the rules that were added since the last call.
-    void completa(const std::deque<Regla>& reglas);
-    /// Number of a symbol, which is added when it is new.
-    Simbolo numera(std::u16string_view texto);
+    /// Number of a symbol, `sinSimbolo` when neither rules nor text have it.
+    Simbolo simbolo(std::u16string_view texto) const;
 
+    /// There is a start symbol: the head of rule 1.
+    bool hayInicial() const { return numReglas() > 0 && cabeza(1) != sinSimbolo; }
     int numReglas() const { return static_cast<int>(reglas_.size()) - 1; }
     /// Head of a rule; `sinSimbolo` for index 0 and for an empty head.
     Simbolo cabeza(int regla) const { return en(reglas_, regla).cabeza; }
@@ -88,7 +81,7 @@ private:
     static const T& en(const std::vector<T>& lista, int i) {
         return lista[static_cast<std::size_t>(i)];
     }
-    Simbolo registra(std::u16string_view texto);
+    Simbolo numera(std::u16string_view texto);
     void parte(const Regla& regla);
     void anotaCabeza(Simbolo cabeza, int regla, bool conVacia);
 
@@ -96,7 +89,7 @@ private:
     std::vector<Simbolo> simbolosDeCuerpos_;
     std::vector<DatosSimbolo> simbolos_;
     std::unordered_map<std::u16string_view, Simbolo> numeros_;
-    std::deque<std::u16string> textosPropios_; // of symbols that stand in no rule
+    std::deque<std::u16string> textos_;
 };
 
 } // namespace norvik

@@ -1,9 +1,11 @@
-#include "norvik/base/ficheros.hpp"
-#include "norvik/grammar/gramatica.hpp"
-#include "norvik/platform/sistema.hpp"
+#include "norvik/report/informe.hpp"
+
+#include "norvik/base/texto.hpp"
 #include "norvik/report/escritorLineas.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 // The report on a grammar, as a file and as the parts that a window shows, and the list of conflicts. All of
 // them are made of the same pieces.
@@ -21,172 +23,163 @@ void escribeSeparador(EscritorLineas& salida) {
     salida.escribe();
 }
 
-} // namespace
-
 // Rules and sets -------------------------------------------------------------------------------------------
 
-void gramatica::escribeReglas(EscritorLineas& salida) const {
+void escribeReglas(const GramaticaLR& g, EscritorLineas& salida) {
     salida.escribe(u"Informe sobre la gramática actual:");
     salida.escribe();
     salida.escribe();
     salida.escribe(u"Reglas de la Gramática:");
     salida.escribe();
     int i = 0;
-    for (const Regla& regla : reglas_) salida.escribe(++i, u".\t", regla.cabeza, u" -> ", regla.cuerpo);
+    for (const Regla& regla : g.reglas) salida.escribe(++i, u".\t", regla.cabeza, u" -> ", regla.cuerpo);
     salida.escribe();
     salida.escribe();
 }
 
-std::u16string gramatica::listaDe(const ConjuntoNumerado& conjunto) const {
-    std::u16string lista;
-    for (const Simbolo simbolo : conjunto.elementos) {
-        if (!lista.empty()) lista += u", ";
-        lista += partidas_.texto(simbolo);
-    }
-    return lista;
-}
-
-void gramatica::escribeConjuntos(std::u16string_view titulo, std::u16string_view nombre,
-                                 const std::vector<ConjuntoNumerado>& conjuntos,
-                                 EscritorLineas& salida) const {
+void escribeConjuntos(const GramaticaLR& g, std::u16string_view titulo, std::u16string_view nombre,
+                      const std::vector<ConjuntoNumerado>& conjuntos, EscritorLineas& salida) {
     salida.escribe();
     salida.escribe(titulo);
     salida.escribe();
     for (const ConjuntoNumerado& conjunto : conjuntos)
-        salida.escribe(nombre, u"(", partidas_.texto(conjunto.nombre), u") = {", listaDe(conjunto), u"}");
+        salida.escribe(nombre, u"(", g.partidas.texto(conjunto.nombre), u") = {",
+                       enTexto(conjunto, g.partidas), u"}");
     salida.escribe();
     salida.escribe();
 }
 
-void gramatica::escribePredict(EscritorLineas& salida) const {
+void escribePredict(const GramaticaLR& g, EscritorLineas& salida) {
     salida.escribe(u"Conjuntos Predict:");
     salida.escribe();
     std::int16_t k = 0;
-    for (const ConjuntoNumerado& conjunto : conjuntos_.predict) {
-        const auto& [cabeza, cuerpo, elementos] = reglaEn(++k);
-        salida.escribe(u"PREDICT(", cabeza, u" -> ", cuerpo, u")  =  {", listaDe(conjunto), u"}");
+    for (const ConjuntoNumerado& conjunto : g.conjuntos.predict) {
+        const auto& [cabeza, cuerpo, elementos] = g.reglas.en(++k);
+        salida.escribe(u"PREDICT(", cabeza, u" -> ", cuerpo, u")  =  {", enTexto(conjunto, g.partidas), u"}");
     }
     salida.escribe();
     salida.escribe();
 }
 
-std::u16string gramatica::textoInformeGeneral() const {
+} // namespace
+
+std::u16string textoInformeGeneral(const GramaticaLR& g) {
     return textoDeLineas([&](EscritorLineas& salida) {
-        escribeReglas(salida);
-        escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, salida);
-        escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, salida);
-        escribePredict(salida);
-        salida.escribe(u"Símbolos terminales: ", terminales_.toStringConjunto());
-        salida.escribe(u"Símbolos no terminales: ", variables_.toStringConjunto());
+        escribeReglas(g, salida);
+        escribeConjuntos(g, u"Conjuntos Primeros:", u"PRIMEROS", g.conjuntos.primeros, salida);
+        escribeConjuntos(g, u"Conjuntos Siguientes:", u"SIGUIENTES", g.conjuntos.siguientes, salida);
+        escribePredict(g, salida);
+        salida.escribe(u"Símbolos terminales: ", g.tabla.simbolos().terminales.toStringConjunto());
+        salida.escribe(u"Símbolos no terminales: ", g.tabla.simbolos().variables.toStringConjunto());
         salida.escribe(nota);
     });
 }
 
 // Automaton ------------------------------------------------------------------------------------------------
 
-std::u16string gramatica::textoAutomata() const {
-    return textoDeLineas([&](EscritorLineas& salida) {
-        for (const estadoAutomata& estado : estadosAutomata_) escribeEstado(estado, salida);
-    });
+namespace {
+
+void escribeTransiciones(const GramaticaLR& g, const estadoAutomata& estado, EscritorLineas& salida) {
+    const auto haySalida = [](std::int16_t adyacente) { return adyacente != estadoAutomata::sinTransicion; };
+    if (estado.getNumEstado() != 0 && std::ranges::none_of(estado.adyacentes(), haySalida)) return;
+    salida.escribe(u"Transiciones:");
+    if (estado.getNumEstado() == 0) salida.escribe(sangria, g.reglas.en(1).cabeza, u" -> ", 1);
+    std::vector<bool> vistos(g.partidas.numSimbolos());
+    for (std::size_t i = 0; i < estado.items().size(); ++i) {
+        if (!haySalida(estado.adyacentes()[i])) continue;
+        const auto [regla, punto] = estado.items()[i];
+        const Simbolo siguiente = g.partidas.cuerpo(regla)[static_cast<std::size_t>(punto)];
+        if (vistos[static_cast<std::size_t>(siguiente)]) continue;
+        vistos[static_cast<std::size_t>(siguiente)] = true;
+        salida.escribe(sangria, g.partidas.texto(siguiente), u" -> ", estado.adyacentes()[i]);
+    }
 }
 
-void gramatica::escribeEstado(const estadoAutomata& estado, EscritorLineas& salida) const {
-    const std::u16string_view inicial = reglas_.front().cabeza;
+void escribeEstado(const GramaticaLR& g, const estadoAutomata& estado, EscritorLineas& salida) {
+    const std::u16string_view inicial = g.reglas.en(1).cabeza;
     salida.escribe(u"Estado ", estado.getNumEstado(), u":");
     salida.escribe();
     if (estado.getNumEstado() == 0) salida.escribe(sangria, inicial, u"' -> .", inicial);
     if (estado.getNumEstado() == 1) salida.escribe(sangria, inicial, u"' -> ", inicial, u".");
     for (const auto [numero, punto] : estado.items()) {
-        const Regla& regla = reglaEn(numero);
+        const Regla& regla = g.reglas.en(numero);
         const std::u16string cuerpo =
-            partidas_.esVacia(numero) ? std::u16string(u".") : dameReglaString(regla.cuerpo, punto);
+            g.partidas.esVacia(numero) ? std::u16string(u".") : dameReglaString(regla.cuerpo, punto);
         salida.escribe(sangria, regla.cabeza, u" -> ", cuerpo);
     }
-    escribeTransiciones(estado, salida);
+    escribeTransiciones(g, estado, salida);
     escribeSeparador(salida);
 }
 
-void gramatica::escribeTransiciones(const estadoAutomata& estado, EscritorLineas& salida) const {
-    const auto haySalida = [](std::int16_t adyacente) { return adyacente != estadoAutomata::sinTransicion; };
-    if (estado.getNumEstado() != 0 && std::ranges::none_of(estado.adyacentes(), haySalida)) return;
-    salida.escribe(u"Transiciones:");
-    if (estado.getNumEstado() == 0) salida.escribe(sangria, reglas_.front().cabeza, u" -> ", 1);
-    std::vector<bool> vistos(partidas_.numSimbolos());
-    for (std::size_t i = 0; i < estado.items().size(); ++i) {
-        if (!haySalida(estado.adyacentes()[i])) continue;
-        const auto [regla, punto] = estado.items()[i];
-        const Simbolo siguiente = partidas_.cuerpo(regla)[static_cast<std::size_t>(punto)];
-        if (vistos[static_cast<std::size_t>(siguiente)]) continue;
-        vistos[static_cast<std::size_t>(siguiente)] = true;
-        salida.escribe(sangria, partidas_.texto(siguiente), u" -> ", estado.adyacentes()[i]);
-    }
+} // namespace
+
+std::u16string textoAutomata(const GramaticaLR& g) {
+    return textoDeLineas([&](EscritorLineas& salida) {
+        for (const estadoAutomata& estado : g.automata.estados) escribeEstado(g, estado, salida);
+    });
 }
 
 // Table ----------------------------------------------------------------------------------------------------
 
-std::u16string_view gramatica::encabezadoColumna(std::int16_t columna) const {
-    return simbolos_.simboloAt(columna);
-}
-
-bool gramatica::esColumnaDeVariable(std::int16_t columna) const {
-    return esMayusculaAZ(encabezadoColumna(columna).front());
-}
-
-bool gramatica::enConflicto(std::int16_t fila, std::int16_t columna) const {
-    return conflicto(fila, columna) != 0 && !esColumnaDeVariable(columna);
-}
+namespace {
 
 /// An entry of a terminal's column: D5 or R3, and the rule that lost a conflict with it.
-std::u16string gramatica::accion(std::int16_t fila, std::int16_t columna) const {
-    const std::int16_t valor = tabla_.en(fila, columna);
+std::u16string accion(const TablaLR& tabla, std::int16_t fila, std::int16_t columna) {
+    const std::int16_t valor = tabla.celdas().en(fila, columna);
     std::u16string texto = valor > 0 ? u"D" + aTexto(valor) : u"R" + aTexto(-valor);
-    if (const std::int16_t perdedora = conflicto(fila, columna); perdedora != 0)
+    if (const std::int16_t perdedora = tabla.conflicto(fila, columna); perdedora != 0)
         texto += u" / R" + aTexto(perdedora);
     return texto;
 }
 
-std::u16string gramatica::celdaTabla(std::int16_t fila, std::int16_t columna) const {
-    const std::int16_t valor = tabla_.en(fila, columna);
-    if (fila == 1 && columna == columnas().inicial + 1) return u"1";
-    if (fila == 2 && columna == columnas().fin + 1) return u"ACEPTAR";
+} // namespace
+
+std::u16string celdaTabla(const TablaLR& tabla, std::int16_t fila, std::int16_t columna) {
+    const std::int16_t valor = tabla.celdas().en(fila, columna);
+    if (fila == 1 && columna == tabla.codigoInicial() + 1) return u"1";
+    if (fila == 2 && columna == tabla.codigoFin() + 1) return u"ACEPTAR";
     if (valor == 0) return {};
-    return esColumnaDeVariable(columna) ? aTexto(valor) : accion(fila, columna);
+    return tabla.esColumnaDeVariable(columna) ? aTexto(valor) : accion(tabla, fila, columna);
 }
 
-void gramatica::escribeEntrada(std::int16_t fila, std::int16_t columna, EscritorLineas& salida) const {
-    if (enConflicto(fila, columna))
-        salida.escribe(u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(fila, columna), u";");
-    else
-        salida.escribe(sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ", tabla_.en(fila, columna),
+namespace {
+
+void escribeEntrada(const TablaLR& tabla, std::int16_t fila, std::int16_t columna, EscritorLineas& salida) {
+    if (tabla.enConflicto(fila, columna))
+        salida.escribe(u"tablaSLR[", fila - 1, u"][", columna - 1, u"]= ", accion(tabla, fila, columna),
                        u";");
+    else
+        salida.escribe(sangria, u"tablaSLR[", fila - 1, u"][", columna - 1, u"] = ",
+                       tabla.celdas().en(fila, columna), u";");
 }
 
-void gramatica::escribeTabla(EscritorLineas& salida) const {
-    const std::int16_t total = simbolos_.totalElementos();
+void escribeTabla(const TablaLR& tabla, EscritorLineas& salida) {
+    const std::int16_t total = tabla.simbolos().todos.totalElementos();
     salida.escribe(u"//Simbolos:");
-    for (std::int16_t c = 1; c <= total; ++c)
-        salida.escribe(u"columna ", c - 1, u" = ", encabezadoColumna(c));
+    for (std::int16_t c = 1; c <= total; ++c) salida.escribe(u"columna ", c - 1, u" = ", tabla.simbolo(c));
     salida.escribe();
     salida.escribe(u"//Tabla: (Desplazamientos: números positivos. Reducciones: números negativos)");
-    if (const int c = columnas().inicial; c >= 0) salida.escribe(sangria, u"tablaSLR[0][", c, u"] = 1");
-    if (const int c = columnas().fin; c >= 0) salida.escribe(sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
-    for (std::int16_t f = 1; f <= filasVigentes(); ++f)
-        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t /*valor*/) {
-            escribeEntrada(f, columna, salida);
-        });
+    if (const int c = tabla.codigoInicial(); c >= 0) salida.escribe(sangria, u"tablaSLR[0][", c, u"] = 1");
+    if (const int c = tabla.codigoFin(); c >= 0) salida.escribe(sangria, u"tablaSLR[1][", c, u"] = ACEPTAR");
+    for (std::int16_t f = 1; f <= tabla.filasVigentes(); ++f)
+        tabla.celdas().paraCadaEntrada(
+            f, tabla.columnasVigentes(),
+            [&](std::int16_t columna, std::int16_t /*valor*/) { escribeEntrada(tabla, f, columna, salida); });
 }
+
+} // namespace
 
 // The whole file -------------------------------------------------------------------------------------------
 
-void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
+void escribeInforme(const GramaticaLR& g, const SumideroDeTexto& sumidero) {
     EscritorLineas salida(sumidero);
-    escribeReglas(salida);
+    escribeReglas(g, salida);
     escribeSeparador(salida);
-    escribeConjuntos(u"Conjuntos Primeros:", u"PRIMEROS", conjuntos_.primeros, salida);
+    escribeConjuntos(g, u"Conjuntos Primeros:", u"PRIMEROS", g.conjuntos.primeros, salida);
     escribeSeparador(salida);
-    escribeConjuntos(u"Conjuntos Siguientes:", u"SIGUIENTES", conjuntos_.siguientes, salida);
+    escribeConjuntos(g, u"Conjuntos Siguientes:", u"SIGUIENTES", g.conjuntos.siguientes, salida);
     escribeSeparador(salida);
-    escribePredict(salida);
+    escribePredict(g, salida);
     salida.escribe(nota);
     salida.escribe();
     salida.escribe(barras);
@@ -194,7 +187,7 @@ void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
     salida.escribe(u"Especificación del automata:");
     salida.escribe();
     salida.escribe();
-    for (const estadoAutomata& estado : estadosAutomata_) escribeEstado(estado, salida);
+    for (const estadoAutomata& estado : g.automata.estados) escribeEstado(g, estado, salida);
     salida.escribe(barras);
     salida.escribe();
     salida.escribe();
@@ -203,50 +196,50 @@ void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
     salida.escribe(u"//A continuación se hace un inciso acerca de qué símbolos pertenecen a");
     salida.escribe(u"//cada índice j (siendo la dimensión tipo [i][j]) de la tabla SLR detallada.");
     salida.escribe();
-    escribeTabla(salida);
+    escribeTabla(g.tabla, salida);
     salida.escribe(barras);
     salida.acaba();
 }
 
-std::u16string gramatica::textoInforme() const {
-    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeInforme(sumidero); });
+std::u16string textoInforme(const GramaticaLR& g) {
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeInforme(g, sumidero); });
 }
 
-void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {
-    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeInforme(sumidero); };
+void guardaInforme(const GramaticaLR& g, const std::filesystem::path& carpeta) {
+    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeInforme(g, sumidero); };
     escribeTexto(carpeta / "informeGramatica.txt", piezas, Durabilidad::Normal);
 }
 
 // Conflicts ------------------------------------------------------------------------------------------------
 
-void gramatica::escribeProblemas(std::int16_t fila, EscritorLineas& salida) const {
+namespace {
+
+void escribeProblemas(const TablaLR& tabla, std::int16_t fila, EscritorLineas& salida) {
     bool vacia = true;
-    for (std::int16_t c = 1; c < columnasVigentes(); ++c) {
-        if (tabla_.en(fila, c) == 0) continue;
+    for (std::int16_t c = 1; c < tabla.columnasVigentes(); ++c) {
+        if (tabla.celdas().en(fila, c) == 0) continue;
         vacia = false;
-        if (enConflicto(fila, c))
-            salida.escribe(u"Conflicto ", celdaTabla(fila, c), u" en el estado ", fila - 1, u", símbolo ",
-                           encabezadoColumna(c), u".");
+        if (tabla.enConflicto(fila, c))
+            salida.escribe(u"Conflicto ", celdaTabla(tabla, fila, c), u" en el estado ", fila - 1,
+                           u", símbolo ", tabla.simbolo(c), u".");
     }
     if (vacia)
         salida.escribe(u"La fila ", fila - 1, u" de la tabla SLR correspondiente al estado ", fila - 1,
                        u" del automata no posee ni desplazamientos ni reducciones.");
 }
 
+} // namespace
+
 // Row 2 holds the acceptance, the last column is not looked at.
-std::u16string gramatica::textoProblemas() const {
+std::u16string textoProblemas(const GramaticaLR& g) {
     const std::u16string problemas = textoDeLineas([&](EscritorLineas& salida) {
-        const auto filas =
-            std::min<std::size_t>(estadosAutomata_.size(), static_cast<std::size_t>(tabla_.filas()));
+        const auto filas = std::min<std::size_t>(g.automata.estados.size(),
+                                                 static_cast<std::size_t>(g.tabla.celdas().filas()));
         for (std::int16_t fila = 1; static_cast<std::size_t>(fila) <= filas; ++fila)
-            if (fila != 2) escribeProblemas(fila, salida);
+            if (fila != 2) escribeProblemas(g.tabla, fila, salida);
     });
     if (problemas.empty()) return u"La gramática carece de problema alguno.";
     return std::u16string(u"Problemas detectados:").append(saltoDeLinea).append(saltoDeLinea) + problemas;
-}
-
-void gramatica::MuestraProblemas(Sistema& sistema) const {
-    sistema.muestraMensaje({.texto = textoProblemas(), .titulo = u"Conflictos", .icono = Icono::Informacion});
 }
 
 } // namespace norvik

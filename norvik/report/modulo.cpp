@@ -1,9 +1,11 @@
-#include "norvik/base/ficheros.hpp"
-#include "norvik/grammar/gramatica.hpp"
-#include "norvik/lexer/pilaTokens.hpp"
-#include "norvik/report/escritorLineas.hpp"
+#include "norvik/report/modulo.hpp"
 
-#include <algorithm>
+#include "norvik/base/texto.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/report/celdasFijas.hpp"
+#include "norvik/report/escritorLineas.hpp"
+#include "norvik/report/nombreDeModulo.hpp"
+
 #include <cstdint>
 
 // The loading module as Visual Basic source: the definitions, the rules, the table and its symbols as calls
@@ -87,84 +89,70 @@ void escribeElemento(EscritorLineas& salida, std::int16_t fila, std::int16_t col
     salida.escribe(llamada, u"SetElementoTablaSLR ", fila, u", ", columna, u", ", valor);
 }
 
-} // namespace
-
-/// The two entries that reading the table makes up, in column order.
-std::vector<CeldaSLR> gramatica::celdasFijas() const {
-    std::vector<CeldaSLR> fijas;
-    const auto& [calculadas, inicial, fin, cabezas] = columnas();
-    if (inicial >= 0) fijas.push_back({1, static_cast<std::int16_t>(inicial + 1), 1});
-    if (fin >= 0 && fin != inicial) fijas.push_back({2, static_cast<std::int16_t>(fin + 1), aceptar});
-    std::ranges::sort(fijas, {}, &CeldaSLR::columna);
-    return fijas;
-}
-
-void gramatica::escribeEntradas(EscritorLineas& salida, std::u16string_view nombre) const {
+void escribeEntradas(const TablaLR& tabla, EscritorLineas& salida, std::u16string_view nombre) {
     int entradas = 0;
     int procedimiento = 0;
-    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t valor) {
-            if (entradas == maximoEntradas) {
-                abreOtroProcedimiento(salida, nombre, ++procedimiento);
-                entradas = 0;
-            }
-            escribeElemento(salida, f, columna, valor);
-            ++entradas;
-        });
+    for (std::int16_t f = 1; f <= tabla.filasVigentes(); ++f) {
+        tabla.celdas().paraCadaEntrada(f, tabla.columnasVigentes(),
+                                       [&](std::int16_t columna, std::int16_t valor) {
+                                           if (entradas == maximoEntradas) {
+                                               abreOtroProcedimiento(salida, nombre, ++procedimiento);
+                                               entradas = 0;
+                                           }
+                                           escribeElemento(salida, f, columna, valor);
+                                           ++entradas;
+                                       });
     }
 }
 
-/// Rows of the table; without symbols it is what a former language left, and has none.
-std::int16_t gramatica::filasVigentes() const {
-    return simbolos_.esVacio() ? std::int16_t{0} : tabla_.filas();
-}
-
-std::int16_t gramatica::columnasVigentes() const {
-    return std::min(simbolos_.totalElementos(), tabla_.columnas());
-}
-
-void gramatica::escribeSimbolos(EscritorLineas& salida) const {
+void escribeSimbolos(const TablaLR& tabla, EscritorLineas& salida) {
     salida.escribe();
-    for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
-        salida.escribe(llamada, u"InsertarSimboloGramatica \"", encabezadoColumna(c), u"\"");
+    for (std::int16_t c = 1; c <= tabla.simbolos().todos.totalElementos(); ++c)
+        salida.escribe(llamada, u"InsertarSimboloGramatica \"", tabla.simbolo(c), u"\"");
 }
 
-void gramatica::escribeCargaReglas(EscritorLineas& salida, std::u16string_view nombre) const {
+void escribeReglas(const Reglas& reglas, EscritorLineas& salida, std::u16string_view nombre) {
     abreProcedimiento(salida, u"CargaGramaticaLenguaje");
     salida.escribe();
     salida.escribe(u"'Función para cargar las reglas del lenguaje ", nombre);
     salida.escribe();
-    const std::int16_t total = getNumReglas();
-    for (std::int16_t r = 1; r <= total; ++r)
-        salida.escribe(llamada, u"SetRegla \"", GetLeftRegla(r), u" -> ", GetRightRegla(r), u"\"");
+    for (std::int16_t r = 1; r <= reglas.numReglas(); ++r)
+        salida.escribe(llamada, u"SetRegla \"", recorta(reglas.en(r).cabeza), u" -> ", reglas.en(r).cuerpo,
+                       u"\"");
     cierraProcedimiento(salida);
     salida.escribe();
     salida.escribe();
 }
 
-void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
-                              const SumideroDeTexto& sumidero) const {
+} // namespace
+
+void escribeModulo(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico,
+                   const SumideroDeTexto& sumidero) {
+    compruebaNombreDeModulo(nombre, LenguajeModulo::Vb);
     EscritorLineas salida(sumidero);
     escribeCabecera(salida, nombre);
-    salida.escribe(llamada, u"SetDimensionTablaSLR ", filasVigentes(), u", ", simbolos_.totalElementos());
+    salida.escribe(llamada, u"SetDimensionTablaSLR ", g.tabla.filasVigentes(), u", ",
+                   g.tabla.simbolos().todos.totalElementos());
     salida.escribe();
-    for (const auto& [fila, columna, valor] : celdasFijas()) escribeElemento(salida, fila, columna, valor);
-    escribeEntradas(salida, nombre);
-    escribeSimbolos(salida);
+    for (const auto& [fila, columna, valor] : celdasFijas(g.tabla))
+        escribeElemento(salida, fila, columna, valor);
+    escribeEntradas(g.tabla, salida, nombre);
+    escribeSimbolos(g.tabla, salida);
     cierraProcedimiento(salida);
     salida.escribe();
     escribeTokens(salida, lexico);
-    escribeCargaReglas(salida, nombre);
+    escribeReglas(g.reglas, salida, nombre);
     salida.acaba();
 }
 
-std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
-    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeModulo(nombre, lexico, sumidero); });
+std::u16string textoModulo(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico) {
+    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeModulo(g, nombre, lexico, sumidero); });
 }
 
-void gramatica::GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
-                                      const std::filesystem::path& carpeta) const {
-    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeModulo(nombre, lexico, sumidero); };
+void guardaModulo(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico,
+                  const std::filesystem::path& carpeta) {
+    compruebaNombreDeModulo(nombre, LenguajeModulo::Vb);
+    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeModulo(g, nombre, lexico, sumidero); };
     escribeTexto(carpeta / (aUtf8(nombre) + ".bas"), piezas, Durabilidad::Normal);
 }
 

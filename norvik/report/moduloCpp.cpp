@@ -1,9 +1,16 @@
-#include "norvik/base/ficheros.hpp"
-#include "norvik/grammar/gramatica.hpp"
+#include "norvik/report/moduloCpp.hpp"
+
+#include "norvik/base/texto.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/report/celdasFijas.hpp"
 #include "norvik/report/escritorLineas.hpp"
 #include "norvik/report/identificadorCpp.hpp"
+#include "norvik/report/nombreDeModulo.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
 
 // The loading module as a C++ header: what the calls of the Visual Basic module pass, in the same order, as
 // constants; the numbers of the nodes of trees as enumerations; and a function for the control and one for
@@ -116,32 +123,32 @@ void escribeFunciones(EscritorLineas& salida) {
     salida.escribe(u"}");
 }
 
-} // namespace
-
-std::vector<CeldaSLR> gramatica::celdasVigentes() const {
-    std::vector<CeldaSLR> celdas = celdasFijas();
-    for (std::int16_t f = 1; f <= filasVigentes(); ++f) {
-        tabla_.paraCadaEntrada(f, columnasVigentes(), [&](std::int16_t columna, std::int16_t valor) {
-            celdas.push_back({f, columna, valor});
-        });
+std::vector<CeldaSLR> celdasVigentes(const TablaLR& tabla) {
+    std::vector<CeldaSLR> celdas = celdasFijas(tabla);
+    for (std::int16_t f = 1; f <= tabla.filasVigentes(); ++f) {
+        tabla.celdas().paraCadaEntrada(f, tabla.columnasVigentes(),
+                                       [&](std::int16_t columna, std::int16_t valor) {
+                                           celdas.push_back({f, columna, valor});
+                                       });
     }
     return celdas;
 }
 
-void gramatica::escribeDatosCpp(EscritorLineas& salida, const pilaTokens& lexico) const {
+void escribeDatos(const GramaticaLR& g, EscritorLineas& salida, const pilaTokens& lexico) {
     std::vector<std::u16string> reglas;
-    for (std::int16_t r = 1; r <= getNumReglas(); ++r)
-        reglas.push_back(std::u16string(GetLeftRegla(r)).append(u" -> ").append(GetRightRegla(r)));
+    for (std::int16_t r = 1; r <= g.reglas.numReglas(); ++r)
+        reglas.push_back(
+            std::u16string(recorta(g.reglas.en(r).cabeza)).append(u" -> ").append(g.reglas.en(r).cuerpo));
     std::vector<std::u16string> simbolos;
-    for (std::int16_t c = 1; c <= simbolos_.totalElementos(); ++c)
-        simbolos.emplace_back(encabezadoColumna(c));
+    for (std::int16_t c = 1; c <= g.tabla.simbolos().todos.totalElementos(); ++c)
+        simbolos.emplace_back(g.tabla.simbolo(c));
 
     salida.escribe(u"namespace tablas {");
     salida.escribe(u"using namespace std::string_view_literals;");
     const bool hayDefiniciones = escribeDefiniciones(salida, lexico);
     const bool hayReglas = escribeTextos(salida, u"reglas", reglas);
     const bool hayCeldas = escribeConstante(
-        salida, u"norvik::CeldaSLR", u"celdas", celdasVigentes(), [&](const CeldaSLR& celda) {
+        salida, u"norvik::CeldaSLR", u"celdas", celdasVigentes(g.tabla), [&](const CeldaSLR& celda) {
             salida.escribe(u"    {", celda.fila, u", ", celda.columna, u", ", celda.valor, u"},");
         });
     const bool haySimbolos = escribeTextos(salida, u"simbolos", simbolos);
@@ -152,30 +159,37 @@ void gramatica::escribeDatosCpp(EscritorLineas& salida, const pilaTokens& lexico
     };
     salida.escribe(u"inline constexpr norvik::DatosLenguaje datos{");
     salida.escribe(u"    ", tabla(hayDefiniciones, u"definiciones"), u", ", tabla(hayReglas, u"reglas"),
-                   u", ", filasVigentes(), u", ", simbolos_.totalElementos(), u", ",
-                   tabla(hayCeldas, u"celdas"), u", ", tabla(haySimbolos, u"simbolos"), u"};");
+                   u", ", g.tabla.filasVigentes(), u", ", simbolos.size(), u", ", tabla(hayCeldas, u"celdas"),
+                   u", ", tabla(haySimbolos, u"simbolos"), u"};");
 }
 
-void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
-                                 const SumideroDeTexto& sumidero) const {
+} // namespace
+
+void escribeModuloCpp(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico,
+                      const SumideroDeTexto& sumidero) {
+    compruebaNombreDeModulo(nombre, LenguajeModulo::Cpp);
     const std::u16string espacio = nombreUniversal(nombre);
     EscritorLineas salida(sumidero);
     escribePrincipio(salida, espacio);
-    escribeEnumeraciones(salida, vocabularioDe(lexico, *this));
-    escribeDatosCpp(salida, lexico);
+    escribeEnumeraciones(salida, vocabularioDe(lexico, g.reglas));
+    escribeDatos(g, salida, lexico);
     escribeFunciones(salida);
     salida.escribe();
     salida.escribe(u"} // namespace ", espacio);
     salida.acaba();
 }
 
-std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
-    return deUnaPieza([&](const SumideroDeTexto& sumidero) { escribeModuloCpp(nombre, lexico, sumidero); });
+std::u16string textoModuloCpp(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico) {
+    return deUnaPieza(
+        [&](const SumideroDeTexto& sumidero) { escribeModuloCpp(g, nombre, lexico, sumidero); });
 }
 
-void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
-                                const std::filesystem::path& carpeta) const {
-    const auto piezas = [&](const SumideroDeTexto& sumidero) { escribeModuloCpp(nombre, lexico, sumidero); };
+void guardaModuloCpp(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico,
+                     const std::filesystem::path& carpeta) {
+    compruebaNombreDeModulo(nombre, LenguajeModulo::Cpp);
+    const auto piezas = [&](const SumideroDeTexto& sumidero) {
+        escribeModuloCpp(g, nombre, lexico, sumidero);
+    };
     escribeTexto(carpeta / (aUtf8(nombre) + ".hpp"), piezas, Durabilidad::Normal);
 }
 

@@ -1,5 +1,7 @@
 #include "norvik/spec/datosDeLenguaje.hpp"
 
+#include "norvik/base/texto.hpp"
+
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -31,25 +33,26 @@ void nombraTokens(const pilaTokens& lexico, Vocabulario& vocabulario) {
     }
 }
 
-void nombraReglas(const gramatica& reglas, Vocabulario& vocabulario) {
+void nombraReglas(const Reglas& reglas, Vocabulario& vocabulario) {
     Numeros numeros;
     std::vector<std::int16_t> ordinales;
-    for (std::int16_t r = 1; r <= reglas.getNumReglas(); ++r) {
-        const std::u16string_view cabeza = reglas.GetLeftRegla(r);
+    for (std::int16_t r = 1; r <= reglas.numReglas(); ++r) {
+        const Regla& regla = reglas.en(r);
+        const std::u16string_view cabeza = recorta(regla.cabeza);
         const auto [numero, nueva] = numeros.de(cabeza);
         if (nueva) {
             vocabulario.variables.emplace_back(cabeza);
             ordinales.push_back(0);
         }
         const std::int16_t ordinal = ++ordinales[static_cast<std::size_t>(numero) - 1];
-        vocabulario.reglas.push_back({std::u16string(cabeza), std::u16string(reglas.GetRightRegla(r)), numero,
-                                      ordinal, reglas.GetNumElementosRegla(r)});
+        vocabulario.reglas.push_back(
+            {std::u16string(cabeza), regla.cuerpo, numero, ordinal, regla.elementos});
     }
 }
 
 } // namespace
 
-Vocabulario vocabularioDe(const pilaTokens& lexico, const gramatica& reglas) {
+Vocabulario vocabularioDe(const pilaTokens& lexico, const Reglas& reglas) {
     Vocabulario vocabulario;
     nombraTokens(lexico, vocabulario);
     nombraReglas(reglas, vocabulario);
@@ -57,7 +60,7 @@ Vocabulario vocabularioDe(const pilaTokens& lexico, const gramatica& reglas) {
 }
 
 void DatosDeLenguaje::nombra() {
-    vocabulario_ = std::make_shared<Vocabulario>(vocabularioDe(lexico, reglas));
+    vocabulario_ = std::make_shared<Vocabulario>(vocabularioDe(lexico, reglas.valores().reglas));
 }
 
 DatosDeLenguaje::Prestamo::Prestamo(const DatosDeLenguaje& datos) : datos_(datos) {

@@ -11,8 +11,8 @@
 
 namespace norvik {
 
-/// The names of a complete lexer and grammar, numbered.
-Vocabulario vocabularioDe(const pilaTokens& lexico, const gramatica& reglas);
+/// The names of a complete lexer and of complete rules, numbered.
+Vocabulario vocabularioDe(const pilaTokens& lexico, const Reglas& reglas);
 
 /// What a language is. Filled once, then only read; who analyses takes an analyser of its own meanwhile, warm
 /// from earlier texts when one is free.

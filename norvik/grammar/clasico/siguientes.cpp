@@ -1,4 +1,4 @@
-#include "norvik/grammar/siguientes.hpp"
+#include "norvik/grammar/clasico/siguientes.hpp"
 
 // FOLLOW sets: for each head a depth-first walk over the heads whose FOLLOW it takes over, cut where it comes
 // back to one already visited (that one then contributes nothing: no fixpoint). Sets finished before are
@@ -8,15 +8,15 @@
 // All calls of a walk may insert into one set: an inner call's own set would be appended to the outer one,
 // which nothing else touches meanwhile, so the order is the same.
 //
-// Occurrences are those that `gramatica::estaEnRegla` finds one after the other in the text of a body. In
+// Occurrences are those that `estaEnRegla` finds one after the other in the text of a body. In
 // terms of symbols: every occurrence before the last symbol; and the last symbol, unless a symbol strictly
 // between it and the one that begins the rest of the text has the name looked for as a proper prefix (the
 // text is compared at the first place only where a blank and the name stand).
-namespace norvik {
+namespace norvik::clasico {
 
-CalculoSiguientes::CalculoSiguientes(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos,
-                                     CalculoPrimeros& primeros)
-    : reglas_(reglas), conjuntos_(conjuntos), primeros_(primeros),
+CalculoSiguientes::CalculoSiguientes(const ReglasPartidas& reglas, Conjuntos& conjuntos,
+                                     Pendientes& pendientes, CalculoPrimeros& primeros)
+    : reglas_(reglas), conjuntos_(conjuntos), pendientes_(pendientes), primeros_(primeros),
       terminados_(conjuntos.siguientes, reglas.numSimbolos()), apariciones_(reglas.numSimbolos()),
       aportaciones_(reglas.numSimbolos()) {
     trabajo_.vacia(reglas.numSimbolos());
@@ -43,14 +43,14 @@ bool CalculoSiguientes::tapada(Cuerpo cuerpo, std::size_t desde, Simbolo simbolo
     return false;
 }
 
-void CalculoSiguientes::calcula(Simbolo fin) {
+void CalculoSiguientes::calcula() {
     for (int indice = 1; indice <= reglas_.numReglas(); ++indice) {
-        if (!conjuntos_.pendienteSiguientes[static_cast<std::size_t>(indice)]) continue;
-        conjuntos_.indiceActual = indice;
+        if (!pendientes_.siguientes[static_cast<std::size_t>(indice)]) continue;
+        pendientes_.actual = indice;
         trabajo_.vacia(reglas_.numSimbolos());
-        if (indice == 1) trabajo_.inserta(fin);
+        if (indice == 1) trabajo_.inserta(ReglasPartidas::finTexto);
         recorre(reglas_.cabeza(indice));
-        conjuntos_.pendienteSiguientes[static_cast<std::size_t>(indice)] = false;
+        pendientes_.siguientes[static_cast<std::size_t>(indice)] = false;
         conjuntos_.siguientes.push_back({reglas_.cabeza(indice), trabajo_.elementos()});
         terminados_.anota(conjuntos_.siguientes.size() - 1);
     }
@@ -111,12 +111,12 @@ void CalculoSiguientes::aporta(Simbolo variable, Aportacion& aportacion) {
     aportacion.hecha = true;
 }
 
-void calculaPredict(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos, CalculoPrimeros& primeros,
-                    const IndiceDeConjuntos& siguientes) {
+void calculaPredict(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                    CalculoPrimeros& primeros, const IndiceDeConjuntos& siguientes) {
     for (int regla = 1; regla <= reglas.numReglas(); ++regla) {
         const Simbolo cabeza = reglas.cabeza(regla);
         if (cabeza == ReglasPartidas::sinSimbolo) continue;
-        conjuntos.indiceActual = regla;
+        pendientes.actual = regla;
         primeros.abre();
         primeros.recorre(reglas.cuerpo(regla), false, regla);
         ConjuntoDeTrabajo& conjunto = primeros.trabajo();
@@ -127,4 +127,4 @@ void calculaPredict(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos,
     }
 }
 
-} // namespace norvik
+} // namespace norvik::clasico

@@ -1,10 +1,10 @@
-#include "norvik/grammar/primeros.hpp"
+#include "norvik/grammar/clasico/primeros.hpp"
 
 #include <algorithm>
 
 // What takes the place of the step-by-step computation of FIRST when that never ends: the least fixpoint by
 // rounds over the rules; and the test that tells whether it may not end.
-namespace norvik {
+namespace norvik::clasico {
 
 namespace {
 
@@ -93,13 +93,13 @@ std::vector<std::vector<Simbolo>> alcanzadosAlPrincipio(const ReglasPartidas& re
 
 } // namespace
 
-void creaPrimerosDeLibro(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos) {
+std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas) {
     const PuntoFijo primeros(reglas);
-    conjuntos.primeros.clear();
+    std::vector<ConjuntoNumerado> conjuntos;
     for (int regla = 1; regla <= reglas.numReglas(); ++regla)
         if (reglas.abreTramo(regla) && reglas.primera(reglas.cabeza(regla)) == regla)
-            conjuntos.primeros.push_back({reglas.cabeza(regla), primeros.de(reglas.cabeza(regla))});
-    std::fill(conjuntos.pendientePrimeros.begin(), conjuntos.pendientePrimeros.end(), false);
+            conjuntos.push_back({reglas.cabeza(regla), primeros.de(reglas.cabeza(regla))});
+    return conjuntos;
 }
 
 // Symbols that nobody reaches are taken away, then those that only they reached; what is left lies on or
@@ -121,4 +121,4 @@ bool hayRecursionIndirectaAlPrincipio(const ReglasPartidas& reglas) {
     return libres.size() < alcanzados.size();
 }
 
-} // namespace norvik
+} // namespace norvik::clasico

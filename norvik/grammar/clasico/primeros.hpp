@@ -1,15 +1,15 @@
 #pragma once
 
-#include "norvik/grammar/conjuntosNumerados.hpp"
+#include "norvik/grammar/clasico/conjuntos.hpp"
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::clasico {
 
 /// FIRST sets: of every head (`calcula`), and of a string of symbols (`recorre`).
 class CalculoPrimeros {
 public:
-    CalculoPrimeros(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos);
+    CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes);
 
     /// Computes the FIRST set of every head.
     void calcula();
@@ -57,10 +57,12 @@ private:
     void acaba(const Marco& marco);
     void cierra();
     void marca(Marco& marco, int indice);
+    [[noreturn]] void fallaSinRegla(Simbolo simbolo) const;
     void sumaPrimeros(Simbolo simbolo);
 
     const ReglasPartidas& reglas_;
-    ConjuntosGramatica& conjuntos_;
+    Conjuntos& conjuntos_;
+    Pendientes& pendientes_;
     IndiceDeConjuntos terminados_;
     std::vector<bool> conVacia_; // FIRST is finished and contains Ø
     bool enteras_ = true;        // no index may be passed over
@@ -72,10 +74,10 @@ private:
 };
 
 /// The textbook FIRST sets (least fixpoint), one for every head, in order of first rule.
-void creaPrimerosDeLibro(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos);
+std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas);
 
 /// True when entering the rules of the symbols that a string may begin with can come back to a head through
 /// others. It errs on the side of true.
 bool hayRecursionIndirectaAlPrincipio(const ReglasPartidas& reglas);
 
-} // namespace norvik
+} // namespace norvik::clasico

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "norvik/grammar/primeros.hpp"
+#include "norvik/grammar/clasico/primeros.hpp"
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::clasico {
 
 /// FOLLOW sets: of every head (`calcula`), and of one (`recorre`). FIRST must be finished.
 class CalculoSiguientes {
 public:
-    CalculoSiguientes(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos, CalculoPrimeros& primeros);
+    CalculoSiguientes(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                      CalculoPrimeros& primeros);
 
-    /// Computes the FOLLOW set of every head; `fin` is the symbol "$".
+    /// Computes the FOLLOW set of every head.
     /// Raises `SubindiceFueraDeIntervalo` when a symbol that heads no rule has to be looked into.
-    void calcula(Simbolo fin);
+    void calcula();
 
     /// Adds FOLLOW of a head, without Ø, to the set under construction.
     void recorre(Simbolo variable);
@@ -45,7 +46,8 @@ private:
     void entra(Simbolo variable);
 
     const ReglasPartidas& reglas_;
-    ConjuntosGramatica& conjuntos_;
+    Conjuntos& conjuntos_;
+    Pendientes& pendientes_;
     CalculoPrimeros& primeros_;
     IndiceDeConjuntos terminados_;
     std::vector<std::vector<Aparicion>> apariciones_; // by symbol, in rule order
@@ -56,7 +58,7 @@ private:
 };
 
 /// PREDICT of every rule with a head.
-void calculaPredict(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos, CalculoPrimeros& primeros,
-                    const IndiceDeConjuntos& siguientes);
+void calculaPredict(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                    CalculoPrimeros& primeros, const IndiceDeConjuntos& siguientes);
 
-} // namespace norvik
+} // namespace norvik::clasico

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "norvik/grammar/estadoAutomata.hpp"
+#include "norvik/grammar/automataLR.hpp"
 #include "norvik/grammar/reglasPartidas.hpp"
 
 #include <cstdint>
@@ -8,9 +8,13 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::clasico {
 
-/// Builds the LR(0) automaton state by state.
+/// The LR(0) automaton of a grammar, empty when there is no start symbol.
+/// Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at a state's item 1001.
+AutomataLR creaAutomata(const ReglasPartidas& reglas);
+
+/// Builds the automaton state by state.
 class ConstructorAutomata {
 public:
     /// The highest number of states: the value 1000 of the table means acceptance.
@@ -100,4 +104,4 @@ private:
     std::vector<Marco> pila_;
 };
 
-} // namespace norvik
+} // namespace norvik::clasico

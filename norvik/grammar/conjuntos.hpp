@@ -2,7 +2,9 @@
 
 #include "norvik/grammar/reglasPartidas.hpp"
 
-#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <vector>
 
 namespace norvik {
@@ -38,15 +40,20 @@ private:
     std::uint32_t turno_ = 0;
 };
 
-/// FIRST, FOLLOW and PREDICT of a grammar, and where their computation stands.
-struct ConjuntosGramatica {
-    std::vector<ConjuntoNumerado> primeros;   ///< in the order in which they were finished
-    std::vector<ConjuntoNumerado> siguientes; ///< likewise
-    std::vector<ConjuntoNumerado> predict;    ///< one a rule
-    std::vector<bool> pendientePrimeros;      ///< by rule index; index 0 is not used
-    std::vector<bool> pendienteSiguientes;
-    int indiceActual = 0; ///< rule whose set is being computed
+/// FIRST, FOLLOW and PREDICT of a grammar. A head may have several FIRST or FOLLOW sets, of which lookups by
+/// name take the first.
+struct Conjuntos {
+    std::vector<ConjuntoNumerado> primeros;
+    std::vector<ConjuntoNumerado> siguientes;
+    std::vector<ConjuntoNumerado> predict; ///< one for each rule with a head
 };
+
+/// The members joined by ", ".
+std::u16string enTexto(const ConjuntoNumerado& conjunto, const ReglasPartidas& reglas);
+/// «A{a, b} B{c}»
+std::u16string enTexto(const std::vector<ConjuntoNumerado>& conjuntos, const ReglasPartidas& reglas);
+/// The three, a line each.
+std::u16string enTexto(const Conjuntos& conjuntos, const ReglasPartidas& reglas);
 
 /// Position of the first set of each symbol in a list of sets, −1 when there is none.
 class IndiceDeConjuntos {

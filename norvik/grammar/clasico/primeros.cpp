@@ -1,8 +1,9 @@
-#include "norvik/grammar/primeros.hpp"
+#include "norvik/grammar/clasico/primeros.hpp"
 
 #include "norvik/base/errores.hpp"
 
 #include <algorithm>
+#include <string>
 
 // FIRST sets, head by head. A head's set is computed afresh in every pass over the rules, entering the rules
 // of symbols whose sets are not finished, until a pass leaves its flag clear; the set is then finished as it
@@ -19,11 +20,12 @@
 // A ladder of n levels finishes one set a pass. A head whose last body begins with a pending symbol that
 // stops the scan ends with its flag set, whatever its set holds: it is passed over, which is unobservable as
 // long as no endless recursion can hide there.
-namespace norvik {
+namespace norvik::clasico {
 
-CalculoPrimeros::CalculoPrimeros(const ReglasPartidas& reglas, ConjuntosGramatica& conjuntos)
-    : reglas_(reglas), conjuntos_(conjuntos), terminados_(conjuntos.primeros, reglas.numSimbolos()),
-      conVacia_(reglas.numSimbolos()), situaciones_(2 * static_cast<std::size_t>(reglas.numReglas()) + 2) {
+CalculoPrimeros::CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes)
+    : reglas_(reglas), conjuntos_(conjuntos), pendientes_(pendientes),
+      terminados_(conjuntos.primeros, reglas.numSimbolos()), conVacia_(reglas.numSimbolos()),
+      situaciones_(2 * static_cast<std::size_t>(reglas.numReglas()) + 2) {
     indexa();
     abre();
 }
@@ -41,10 +43,10 @@ void CalculoPrimeros::anotaVacia(Simbolo nombre) {
 
 void CalculoPrimeros::calcula() {
     enteras_ = hayRecursionIndirectaAlPrincipio(reglas_);
-    const auto& pendientes = conjuntos_.pendientePrimeros;
-    while (std::find(pendientes.begin(), pendientes.end(), true) != pendientes.end()) {
+    while (std::ranges::find(pendientes_.primeros, true) != pendientes_.primeros.end()) {
         if (pasada()) continue;
-        creaPrimerosDeLibro(reglas_, conjuntos_);
+        conjuntos_.primeros = creaPrimerosDeLibro(reglas_);
+        pendientes_.primeros.assign(pendientes_.primeros.size(), false);
         indexa();
     }
 }
@@ -53,8 +55,8 @@ void CalculoPrimeros::calcula() {
 bool CalculoPrimeros::pasada() {
     const std::size_t antes = conjuntos_.primeros.size();
     for (int indice = 1; indice <= reglas_.numReglas(); ++indice) {
-        if (!conjuntos_.pendientePrimeros[static_cast<std::size_t>(indice)]) continue;
-        conjuntos_.indiceActual = indice;
+        if (!pendientes_.primeros[static_cast<std::size_t>(indice)]) continue;
+        pendientes_.actual = indice;
         if (!enteras_ && noPuedeAcabar(indice)) continue;
         if (!procesa(indice)) return false;
     }
@@ -76,7 +78,7 @@ bool CalculoPrimeros::procesa(int indice) {
     const Simbolo cabeza = reglas_.cabeza(indice);
     for (int k = indice; k <= reglas_.numReglas() && reglas_.cabeza(k) == cabeza; ++k)
         if (!recorre(reglas_.cuerpo(k), false, indice)) return false;
-    if (!conjuntos_.pendientePrimeros[static_cast<std::size_t>(indice)]) termina(cabeza);
+    if (!pendientes_.primeros[static_cast<std::size_t>(indice)]) termina(cabeza);
     return true;
 }
 
@@ -98,7 +100,7 @@ bool CalculoPrimeros::empiezaVacia(Simbolo simbolo) const {
 }
 
 bool CalculoPrimeros::recorre(Cuerpo cuerpo, bool recursivo, int indice) {
-    if (recursivo && indice != 0 && indice == conjuntos_.indiceActual) return true;
+    if (recursivo && indice != 0 && indice == pendientes_.actual) return true;
     pila_.assign(1, Marco{.cuerpo = cuerpo, .indice = indice, .recursivo = recursivo});
     while (!pila_.empty()) {
         Marco& marco = pila_.back();
@@ -124,7 +126,7 @@ bool CalculoPrimeros::entra(Marco& padre) {
     case Progreso::Hecha:
         return true;
     case Progreso::HechaConMarca:
-        marca(padre, conjuntos_.indiceActual);
+        marca(padre, pendientes_.actual);
         return true;
     case Progreso::Nueva:
         break;
@@ -148,7 +150,7 @@ bool CalculoPrimeros::avanza(Marco& marco) {
             return true;
         }
         if (simbolo == reglas_.cabeza(marco.indice)) {
-            if (marco.recursivo) marca(marco, conjuntos_.indiceActual);
+            if (marco.recursivo) marca(marco, pendientes_.actual);
             if (marco.esUltimo() || !trabajo_.contiene(ReglasPartidas::vacio)) return true;
             continue;
         }
@@ -157,7 +159,7 @@ bool CalculoPrimeros::avanza(Marco& marco) {
         marco.hijo = reglas_.primera(simbolo);
         marco.finHijos = reglas_.fin(simbolo);
         // Coming back to the set under construction adds nothing.
-        if (marco.hijo == conjuntos_.indiceActual) marco.hijo = marco.finHijos;
+        if (marco.hijo == pendientes_.actual) marco.hijo = marco.finHijos;
         return false;
     }
 }
@@ -166,10 +168,10 @@ bool CalculoPrimeros::avanza(Marco& marco) {
 bool CalculoPrimeros::dejaPendiente(Marco& marco) {
     marco.enPendiente = false;
     if (marco.esUltimo()) {
-        if (!marco.recursivo) marca(marco, conjuntos_.indiceActual);
+        if (!marco.recursivo) marca(marco, pendientes_.actual);
         return false;
     }
-    if (marco.recursivo) marca(marco, conjuntos_.indiceActual);
+    if (marco.recursivo) marca(marco, pendientes_.actual);
     if (!reglas_.contieneCadenaVacia(marco.cuerpo[marco.posicion])) {
         marca(marco, marco.indice);
         return false;
@@ -179,8 +181,8 @@ bool CalculoPrimeros::dejaPendiente(Marco& marco) {
 }
 
 void CalculoPrimeros::acaba(const Marco& marco) {
-    if (marco.indice != 0 && marco.indice == conjuntos_.indiceActual && marco.limpio && !marco.recursivo)
-        conjuntos_.pendientePrimeros[static_cast<std::size_t>(marco.indice)] = false;
+    if (marco.indice != 0 && marco.indice == pendientes_.actual && marco.limpio && !marco.recursivo)
+        pendientes_.primeros[static_cast<std::size_t>(marco.indice)] = false;
 }
 
 void CalculoPrimeros::cierra() {
@@ -192,9 +194,18 @@ void CalculoPrimeros::cierra() {
 }
 
 void CalculoPrimeros::marca(Marco& marco, int indice) {
-    if (indice == 0) throw SubindiceFueraDeIntervalo();
-    conjuntos_.pendientePrimeros[static_cast<std::size_t>(indice)] = true;
-    if (indice == conjuntos_.indiceActual) marco.marca = true;
+    if (indice == 0) fallaSinRegla(marco.cuerpo[marco.posicion]);
+    pendientes_.primeros[static_cast<std::size_t>(indice)] = true;
+    if (indice == pendientes_.actual) marco.marca = true;
+}
+
+void CalculoPrimeros::fallaSinRegla(Simbolo simbolo) const {
+    const std::u16string texto(reglas_.texto(simbolo));
+    if (reglas_.primera(simbolo) == 0)
+        throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: " + texto +
+                                        u" no es cabeza de ninguna regla");
+    throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: los primeros de " + texto +
+                                    u" no están calculados");
 }
 
 void CalculoPrimeros::sumaPrimeros(Simbolo simbolo) {
@@ -204,4 +215,4 @@ void CalculoPrimeros::sumaPrimeros(Simbolo simbolo) {
     trabajo_.inserta(terminados_.elementos(simbolo));
 }
 
-} // namespace norvik
+} // namespace norvik::clasico

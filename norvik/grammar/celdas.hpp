@@ -11,29 +11,31 @@
 
 namespace norvik {
 
-/// A table of 16-bit numbers, all 0 at first. A row takes memory once something is written in it, so that
-/// absurd dimensions cost nothing until they are filled, and one that is written whole takes none for the
-/// zeros at its end.
-class TablaSLR {
+/// A table of 16-bit numbers, all 0 at first. A row takes memory once something is written in it or behind
+/// it, so that absurd dimensions cost nothing until they are filled, and one that is written whole takes none
+/// for the zeros at its end.
+class Celdas {
 public:
-    TablaSLR() = default;
+    Celdas() = default;
     /// Raises `SubindiceFueraDeIntervalo` for negative dimensions.
-    TablaSLR(std::int16_t filas, std::int16_t columnas);
+    Celdas(std::int16_t filas, std::int16_t columnas);
 
-    std::int16_t filas() const { return static_cast<std::int16_t>(filas_.size()); }
+    std::int16_t filas() const { return numFilas_; }
     std::int16_t columnas() const { return columnas_; }
 
     /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
     std::int16_t en(int fila, int columna) const {
         comprueba(fila, columna);
-        const auto& valores = filas_[static_cast<std::size_t>(fila) - 1];
+        const std::span<const std::int16_t> valores = filaGuardada(fila);
         const auto sitio = static_cast<std::size_t>(columna) - 1;
         return sitio < valores.size() ? valores[sitio] : std::int16_t{0};
     }
     /// The cells of a row, to be read; those that are missing at its end are 0. Raises the same.
     std::span<const std::int16_t> filaGuardada(int numero) const {
         compruebaFila(numero);
-        return filas_[static_cast<std::size_t>(numero) - 1];
+        const auto sitio = static_cast<std::size_t>(numero) - 1;
+        if (sitio >= filas_.size()) return {};
+        return filas_[sitio];
     }
     /// Calls with the 1-based column and the value of each entry other than 0 in the first columns of a row,
     /// from left to right; raises the same.
@@ -51,11 +53,13 @@ public:
 
 private:
     void compruebaFila(int fila) const {
-        if (fila < 1 || static_cast<std::size_t>(fila) > filas_.size()) throw SubindiceFueraDeIntervalo();
+        if (fila < 1 || fila > numFilas_)
+            throw SubindiceFueraDeIntervalo(u"en la tabla, la fila", fila, 1, numFilas_);
     }
     void comprueba(int fila, int columna) const {
         compruebaFila(fila);
-        if (columna < 1 || columna > columnas_) throw SubindiceFueraDeIntervalo();
+        if (columna < 1 || columna > columnas_)
+            throw SubindiceFueraDeIntervalo(u"en la tabla, la columna", columna, 1, columnas_);
     }
 
     // Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is
@@ -70,9 +74,11 @@ private:
         while (desde < valores.size() && valores[desde] == 0) ++desde;
         return desde;
     }
+    std::vector<std::int16_t>& filaPara(int fila);
     void reserva(std::size_t celdas);
 
-    std::vector<std::vector<std::int16_t>> filas_;
+    std::vector<std::vector<std::int16_t>> filas_; // up to the last that was written
+    std::int16_t numFilas_ = 0;
     std::int16_t columnas_ = 0;
     std::size_t reservadas_ = 0;
 };

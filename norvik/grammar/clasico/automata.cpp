@@ -1,7 +1,8 @@
-#include "norvik/grammar/automata.hpp"
+#include "norvik/grammar/clasico/automata.hpp"
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
 
 #include <algorithm>
 #include <numeric>
@@ -18,7 +19,7 @@
 // kernel does; the candidates are the states that have the kernel's rarest item. The recursion over states
 // runs on a stack of its own, and so does the closure, which takes up each head once a state: a head met
 // again inside its own rules goes on where the outer visit stands.
-namespace norvik {
+namespace norvik::clasico {
 
 namespace {
 
@@ -31,7 +32,36 @@ std::size_t indice(T valor) {
     return static_cast<std::size_t>(valor);
 }
 
+/// The left-recursive rules of the start symbol, with the dot behind it.
+Nucleo nucleoInicial(const ReglasPartidas& reglas) {
+    const Simbolo inicial = reglas.cabeza(1);
+    Nucleo nucleo;
+    for (int regla = 1; regla <= reglas.numReglas(); ++regla)
+        if (reglas.cabeza(regla) == inicial && reglas.cuerpo(regla).front() == inicial)
+            nucleo.push_back({static_cast<std::int16_t>(regla), 1});
+    return nucleo;
+}
+
 } // namespace
+
+// State 1, which the table reaches from state 0 over the start symbol, is built apart and last; it has items
+// only for a start symbol that is left-recursive.
+AutomataLR creaAutomata(const ReglasPartidas& reglas) {
+    if (!reglas.hayInicial()) return {};
+    ConstructorAutomata constructor(reglas, {}, 2);
+    estadoAutomata inicial;
+    inicial.setNumEstado(0);
+    inicial.setInicial();
+    constructor.aniadeRegla(reglas.cabeza(1), inicial);
+    constructor.construyeTransiciones(std::move(inicial));
+    estadoAutomata aceptacion;
+    aceptacion.setNumEstado(1);
+    constructor.aniadeNucleo(nucleoInicial(reglas), aceptacion);
+    constructor.construyeTransiciones(std::move(aceptacion));
+    AutomataLR automata{std::move(constructor).estados()};
+    std::ranges::sort(automata.estados, {}, &estadoAutomata::getNumEstado);
+    return automata;
+}
 
 ConstructorAutomata::ConstructorAutomata(const ReglasPartidas& reglas, std::vector<estadoAutomata> estados,
                                          std::int16_t numEstados)
@@ -56,7 +86,9 @@ int ConstructorAutomata::longitud(int regla) const {
 void ConstructorAutomata::compruebaItem(Item item) const {
     const bool valido = item.regla >= 1 && item.regla <= reglas_.numReglas() && item.punto >= 0 &&
                         item.punto <= longitud(item.regla);
-    if (!valido) throw SubindiceFueraDeIntervalo();
+    if (!valido)
+        throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: ninguna regla tiene el elemento (" +
+                                        aTexto(item.regla) + u", " + aTexto(item.punto) + u")");
 }
 
 /// Gets ready to add to a state, which may have items already.
@@ -257,4 +289,4 @@ std::vector<estadoAutomata> ConstructorAutomata::estados() && {
     return lista;
 }
 
-} // namespace norvik
+} // namespace norvik::clasico

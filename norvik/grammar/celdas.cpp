@@ -1,0 +1,56 @@
+#include "norvik/grammar/celdas.hpp"
+
+#include "norvik/base/texto.hpp"
+
+#include <limits>
+#include <string>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::size_t maximoCeldas = std::size_t{1} << 25;
+
+} // namespace
+
+Celdas::Celdas(std::int16_t filas, std::int16_t columnas) : numFilas_(filas), columnas_(columnas) {
+    constexpr std::int16_t maximo = std::numeric_limits<std::int16_t>::max();
+    if (filas < 0) throw SubindiceFueraDeIntervalo(u"el número de filas de la tabla", filas, 0, maximo);
+    if (columnas < 0)
+        throw SubindiceFueraDeIntervalo(u"el número de columnas de la tabla", columnas, 0, maximo);
+}
+
+std::vector<std::int16_t>& Celdas::filaPara(int fila) {
+    const auto numero = static_cast<std::size_t>(fila);
+    if (numero > filas_.size()) filas_.resize(numero);
+    return filas_[numero - 1];
+}
+
+void Celdas::pon(int fila, int columna, std::int16_t valor) {
+    comprueba(fila, columna);
+    const auto sitio = static_cast<std::size_t>(columna) - 1;
+    if (valor == 0 && sitio >= filaGuardada(fila).size()) return;
+    auto& valores = filaPara(fila);
+    if (sitio >= valores.size()) {
+        const auto ancho = static_cast<std::size_t>(columnas_);
+        reserva(ancho - valores.size());
+        valores.resize(ancho);
+    }
+    valores[sitio] = valor;
+}
+
+void Celdas::ponFila(int fila, std::span<const std::int16_t> valores) {
+    compruebaFila(fila);
+    const auto fin =
+        std::find_if(valores.rbegin(), valores.rend(), [](std::int16_t v) { return v != 0; }).base();
+    reserva(static_cast<std::size_t>(fin - valores.begin()));
+    filaPara(fila).assign(valores.begin(), fin);
+}
+
+void Celdas::reserva(std::size_t celdas) {
+    if (reservadas_ + celdas > maximoCeldas)
+        throw Desbordamiento(u"Desbordamiento: la tabla pasa de " + aTexto(maximoCeldas) + u" celdas");
+    reservadas_ += celdas;
+}
+
+} // namespace norvik

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "norvik/grammar/automataLR.hpp"
+#include "norvik/grammar/conjuntos.hpp"
+#include "norvik/grammar/tablaLR.hpp"
+
+namespace norvik::clasico {
+
+/// The table of an automaton, empty when there is no start symbol; columns of other symbols may precede those
+/// of the grammar. Raises `SubindiceFueraDeIntervalo` for a Ø beside other symbols, which has no column.
+TablaLR creaTabla(const ReglasPartidas& reglas, const Conjuntos& conjuntos, const AutomataLR& automata,
+                  SimbolosTabla otros = {});
+
+} // namespace norvik::clasico

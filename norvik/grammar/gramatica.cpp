@@ -1,0 +1,169 @@
+#include "norvik/grammar/gramatica.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/grammar/clasico/automata.hpp"
+#include "norvik/grammar/clasico/tabla.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+
+#include <algorithm>
+#include <utility>
+
+// The prescribed operations on rules, automaton and table. gramaticaConjuntos.cpp has those on sets.
+namespace norvik {
+
+// Rules and symbols ----------------------------------------------------------------------------------------
+
+std::u16string gramatica::compila(std::u16string_view /*texto*/) const {
+    return {};
+}
+
+void gramatica::inicializaGramatica() {
+    valores_.reglas = Reglas();
+    valores_.partidas = ReglasPartidas();
+    valores_.tabla.ponInicial({});
+    inicializaConjuntos();
+}
+
+void gramatica::SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t /*codigo*/) {
+    cambia();
+    if (valores_.reglas.total() == 0) valores_.tabla.ponInicial(cabeza);
+    valores_.reglas.guarda(cabeza, cuerpo);
+}
+
+void gramatica::SetSimbolo(std::u16string_view simbolo) {
+    cambia();
+    valores_.tabla.ponSimbolo(simbolo);
+}
+
+std::u16string_view gramatica::GetLeftRegla(std::int16_t regla) const {
+    return recorta(valores_.reglas.en(regla).cabeza);
+}
+
+std::u16string_view gramatica::GetRightRegla(std::int16_t regla) const {
+    return valores_.reglas.en(regla).cuerpo;
+}
+
+std::int16_t gramatica::getNumReglas() const {
+    return valores_.reglas.numReglas();
+}
+
+std::u16string gramatica::GetElementoRegla(std::int16_t regla, std::int16_t posicion) const {
+    std::u16string_view elemento; // the last one when there are not so many
+    int quedan = std::max<int>(posicion, 0);
+    paraCadaSimbolo(valores_.reglas.en(regla).cuerpo, [&](std::u16string_view simbolo) {
+        if (quedan-- >= 0) elemento = simbolo;
+    });
+    return std::u16string(elemento);
+}
+
+std::int16_t gramatica::GetNumSimbolos() const {
+    return simbolos().totalElementos();
+}
+
+std::int16_t gramatica::GetCodigoToken(std::u16string_view token) const {
+    return token == u"EOF" ? valores_.tabla.codigoFin() : valores_.tabla.codigo(token);
+}
+
+std::u16string gramatica::chequeaGramatica() const {
+    return chequea(valores_.reglas);
+}
+
+const ReglasPartidas& gramatica::partidas() {
+    if (valores_.partidas.numReglas() != valores_.reglas.total())
+        valores_.partidas = ReglasPartidas(valores_.reglas);
+    return valores_.partidas;
+}
+
+// Automaton ------------------------------------------------------------------------------------------------
+
+void gramatica::creaAutomata() {
+    valores_.automata = AutomataLR();
+    numEstados_ = 0;
+    try {
+        valores_.automata = clasico::creaAutomata(partidas());
+        numEstados_ = a16(valores_.automata.estados.size());
+    } catch (...) {
+        olvidaGenerado();
+        throw;
+    }
+}
+
+void gramatica::aniadeReglaAEstado(std::u16string_view variable, estadoAutomata& estado) const {
+    const ReglasPartidas reglas(valores_.reglas, variable);
+    const Simbolo simbolo = reglas.simbolo(variable);
+    if (simbolo == ReglasPartidas::sinSimbolo) return;
+    clasico::ConstructorAutomata(reglas, {}, 0).aniadeRegla(simbolo, estado);
+}
+
+void gramatica::aniadeReglasImplicitasAEstado(const Nucleo& nucleo, estadoAutomata& estado) const {
+    const ReglasPartidas reglas(valores_.reglas);
+    clasico::ConstructorAutomata(reglas, {}, 0).aniadeNucleo(nucleo, estado);
+}
+
+void gramatica::construyeTransiciones(const estadoAutomata& estado) {
+    clasico::ConstructorAutomata constructor(partidas(), estadosAutomata(), numEstados_);
+    constructor.construyeTransiciones(estado);
+    numEstados_ = constructor.numEstados();
+    valores_.automata.estados = std::move(constructor).estados();
+}
+
+std::int16_t gramatica::existeEstadoCon(const Nucleo& nucleo) const {
+    const auto sitio = std::ranges::find_if(
+        estadosAutomata(), [&](const estadoAutomata& estado) { return estado.poseeConjuntoEstados(nucleo); });
+    return sitio == estadosAutomata().end() ? std::int16_t{-1} : sitio->getNumEstado();
+}
+
+std::u16string gramatica::dameSimboloSiguiente(const estadoAutomata& estado, std::int16_t item) const {
+    return GetElementoRegla(estado.getReglaEstado(item), estado.getPosicionPunto(item));
+}
+
+// Table ----------------------------------------------------------------------------------------------------
+
+void gramatica::creaTablaSLR() {
+    if (!partidas().hayInicial()) return;
+    cambia();
+    try {
+        valores_.tabla = clasico::creaTabla(valores_.partidas, valores_.conjuntos, valores_.automata,
+                                            valores_.tabla.simbolos());
+    } catch (...) {
+        olvidaGenerado();
+        throw;
+    }
+}
+
+void gramatica::SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) {
+    valores_.tabla.dimensiona(filas, columnas);
+    ++edicion_;
+}
+
+void gramatica::SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor) {
+    valores_.tabla.pon(fila, columna, valor);
+    ++edicion_;
+}
+
+std::size_t gramatica::SetElementosTablaSLR(std::span<const CeldaSLR> celdas) {
+    ++edicion_;
+    std::size_t puestas = 0;
+    try {
+        for (const auto& [fila, columna, valor] : celdas) {
+            valores_.tabla.pon(fila, columna, valor);
+            ++puestas;
+        }
+    } catch (const ErrorNorvik&) { // of the one behind those
+    }
+    return puestas;
+}
+
+std::u16string gramatica::toStringEsperados(std::int16_t estado, const pilaTokens& lexico) const {
+    std::u16string texto;
+    bool primero = true;
+    for (const std::u16string_view terminal : valores_.tabla.esperados(estado)) {
+        if (!primero) texto += u", ";
+        texto += lexico.toStringLexemasPorToken(terminal);
+        primero = false;
+    }
+    return texto;
+}
+
+} // namespace norvik

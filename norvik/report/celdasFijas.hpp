@@ -1,0 +1,13 @@
+#pragma once
+
+#include "norvik/grammar/celdaSLR.hpp"
+#include "norvik/grammar/tablaLR.hpp"
+
+#include <vector>
+
+namespace norvik {
+
+/// The entries that reading a table makes up, which modules write all the same; in column order.
+std::vector<CeldaSLR> celdasFijas(const TablaLR& tabla);
+
+} // namespace norvik

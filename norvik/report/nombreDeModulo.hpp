@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace norvik {
+
+/// The languages that modules are written in.
+enum class LenguajeModulo : std::uint8_t { Vb, Cpp };
+
+/// True when a module of that kind can have the name: an identifier (letters of any alphabet, digits and
+/// underscores, not starting with a digit) that is no reserved word of the language.
+bool esNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
+/// Raises `ArgumentoNoValido` when it cannot.
+void compruebaNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
+
+} // namespace norvik
