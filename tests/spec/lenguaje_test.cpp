@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -287,21 +286,6 @@ TEST(Lenguaje, UnTextoLargoYHondoTieneSuArbol) {
             analisis.arbol.raiz(), [&](Nodo nodo) { hojas += nodo.esToken() ? 1U : 0U; }, [](Nodo) {});
         EXPECT_EQ(hojas, largo);
     }
-}
-
-TEST(Lenguaje, VariosHilosAnalizanConUnMismoLenguaje) {
-    const Lenguaje lenguaje = lenguajeDe(sumas);
-    const std::string entrada = "1 + 'dos' # tres\n + 4";
-    const std::u16string esperado = analiza(lenguajeDe(sumas), entrada).arbol.toString();
-    std::vector<std::u16string> arboles(8);
-    {
-        std::vector<std::jthread> hilos;
-        for (auto& arbol : arboles)
-            hilos.emplace_back([&arbol, lenguaje, &entrada] {
-                for (int i = 0; i < 50; ++i) arbol = analiza(lenguaje, entrada).arbol.toString();
-            });
-    }
-    for (const auto& arbol : arboles) EXPECT_EQ(arbol, esperado);
 }
 
 } // namespace

@@ -1,0 +1,72 @@
+// What threads share, from its first use on: languages, and trees that are read.
+
+#include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace norvik;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path ejemplos = fs::path(NORVIK_SOURCE_DIR) / "ejemplos";
+
+std::string resultado(const Analisis& analisis) {
+    if (analisis) return aUtf8(analisis.arbol.toString());
+    return aUtf8(mensaje(analisis.diagnosticos.front()));
+}
+
+std::vector<std::u16string> textosDe(const std::string& ejemplo) {
+    std::vector<std::u16string> textos;
+    for (const char* const clase : {"bien", "mal"})
+        for (const auto& fichero : fs::directory_iterator(ejemplos / ejemplo / clase))
+            textos.push_back(leeTexto(fichero.path()));
+    return textos;
+}
+
+void enVariosHilos(const std::function<void()>& tarea) {
+    std::vector<std::jthread> hilos;
+    for (int i = 0; i < 4; ++i) hilos.emplace_back(tarea);
+}
+
+TEST(Hilos, CompartenUnLenguajeDesdeElPrimerTexto) {
+    for (const std::string ejemplo : {"pascal", "json", "consulta"}) {
+        const fs::path especificacion = ejemplos / ejemplo / (ejemplo + ".nvk");
+        const std::vector<std::u16string> textos = textosDe(ejemplo);
+        std::vector<std::string> esperados;
+        const Lenguaje aparte = Lenguaje::deFichero(especificacion).lenguaje.value();
+        for (const auto& texto : textos) esperados.push_back(resultado(analiza(aparte, texto)));
+        const Lenguaje lenguaje = Lenguaje::deFichero(especificacion).lenguaje.value();
+        enVariosHilos([&] {
+            for (std::size_t i = 0; i < textos.size(); ++i) {
+                EXPECT_EQ(resultado(analiza(lenguaje, textos[i])), esperados[i]);
+                EXPECT_GT(lexemas(lenguaje, textos[i]).size(), 0U);
+            }
+        });
+    }
+}
+
+TEST(Hilos, CompilanALaVez) {
+    enVariosHilos([] {
+        const Compilacion compilacion = Lenguaje::compila("Token a = \"a\"; S -> S a | a;");
+        EXPECT_EQ(analiza(*compilacion.lenguaje, "a a a").arbol.numNodos(), 6U);
+    });
+}
+
+TEST(Hilos, LeenUnMismoArbol) {
+    const Lenguaje lenguaje = Lenguaje::deFichero(ejemplos / "json" / "json.nvk").lenguaje.value();
+    const Analisis analisis = analiza(lenguaje, "{\"ñ\": [1, 2]}");
+    const std::string esperado = resultado(analisis);
+    enVariosHilos([&] { EXPECT_EQ(resultado(analisis), esperado); });
+}
+
+} // namespace
