@@ -53,9 +53,7 @@ bool Anfitrion::compila(const fs::path& fichero) {
 }
 
 bool Anfitrion::replica(const fs::path& modulo) {
-    TextoPorTrozos texto(modulo);
-    const OrigenDeTexto origen = [&] { return texto.siguiente(); };
-    const auto error = CargaModulo(origen, control);
+    const auto error = CargaModulo(modulo, control);
     if (error) avisa(error->mensaje());
     return !error;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "monton.hpp"
 #include "salida.hpp"
 
 #include "norvik/control/norvik.hpp"
@@ -15,7 +14,6 @@ namespace norvik::orden {
 
 /// A host of the control without windows: message boxes are lines on standard error.
 class Anfitrion {
-    Monton monton_;
     // Before the control, which uses them as long as it lives.
     Salida& salida_;
     int estado_ = 0;

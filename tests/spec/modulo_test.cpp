@@ -1,5 +1,6 @@
 // Loading modules: what the writer wrote is replayed, anything else is named.
 #include "apoyo/anfitrion.hpp"
+#include "apoyo/carpetaTemporal.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <gtest/gtest.h>
@@ -99,6 +100,15 @@ TEST(Modulo, LosErroresLexicosSeMuestranYLaCargaSigue) {
         "Norvik: Error en especificación léxica: La definición de la expresión regular 'a':\r\n\t\t[a\r\n"
         "es incorrecta. Revísela para obtener un análisis léxico adecuado.\n");
     EXPECT_EQ(a.reglas(), "S -> a\n");
+}
+
+TEST(Modulo, DeUnFicheroConSusSaltosDeLinea) {
+    const CarpetaTemporal carpeta;
+    const auto fichero = carpeta.pon("m.bas", aUtf8(modulo(u"Token a = \"x\ny|z\r\n\"; S -> a;")));
+    Anfitrion a;
+    EXPECT_FALSE(CargaModulo(fichero, a.norvik));
+    EXPECT_EQ(a.lexico(), "a 0 0 () x\ny|z\r\n\n");
+    EXPECT_THROW(CargaModulo(carpeta / "otro.bas", a.norvik), ErrorDeFichero);
 }
 
 TEST(Modulo, TablasDeMuchosProcedimientos) {
