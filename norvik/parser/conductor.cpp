@@ -39,7 +39,7 @@ private:
     void lee() {
         lector_.lee(fuente_);
         columna_ = lenguaje_.columna(lector_.leido());
-        if (conLineas_) posicion_ = lector_.posicionToken();
+        if (conLineas_) posicion_ = lector_.posicionToken(fuente_);
     }
 
     LectorTokens& lector_;
@@ -48,7 +48,7 @@ private:
     Traza& traza_;
     bool conLineas_;
     std::int16_t columna_ = 0;
-    Posicion posicion_;
+    Posicion posicion_{0, 0};
 };
 
 } // namespace
@@ -92,10 +92,10 @@ ConductorSLR::Final ConductorSLR::recorre(const FuenteTexto& fuente, Lineas line
     MotorSLR motor(curso, lenguaje_, cadenas_);
     try {
         const Desenlace desenlace = motor.ejecuta();
-        lector_.recuerda();
+        lector_.recuerda(fuente);
         return {desenlace, motor.pila().cima()};
     } catch (...) {
-        lector_.recuerda();
+        lector_.recuerda(fuente);
         throw;
     }
 }

@@ -12,7 +12,7 @@
 namespace norvik {
 
 LectorTokens::LectorTokens(pilaTokens& lexico, const FuenteTexto& editor)
-    : lexico_(lexico), editor_(editor), ultimaFuente_(&editor) {}
+    : lexico_(lexico), editor_(editor) {}
 
 void LectorTokens::inicializa(const FuenteTexto& fuente) {
     const auto texto = fuente.texto();
@@ -22,7 +22,6 @@ void LectorTokens::inicializa(const FuenteTexto& fuente) {
 }
 
 void LectorTokens::lee(const FuenteTexto& fuente) {
-    ultimaFuente_ = &fuente;
     const Lectura lectura =
         leeDesde(posLectura_, fuente.texto(), lexico_.mapaTokens(), lexico_.tokensLenguaje());
     leido_ = lectura.leido;
@@ -45,9 +44,10 @@ std::u16string_view LectorTokens::nombreLeido() const {
     return lexico_.tokensLenguaje()[static_cast<std::size_t>(leido_.definicion)]->nomToken;
 }
 
-void LectorTokens::recuerda() {
+void LectorTokens::recuerda(const FuenteTexto& fuente) {
     ultimoToken_ = nombreLeido();
     ultimoLexema_ = leido_.lexema;
+    ultimaPosicion_ = posicionToken(fuente);
 }
 
 std::u16string_view LectorTokens::textoReconocido() const {
@@ -56,24 +56,24 @@ std::u16string_view LectorTokens::textoReconocido() const {
 
 parLT LectorTokens::devuelve(const FuenteTexto& fuente) {
     lee(fuente);
-    recuerda();
+    recuerda(fuente);
     return {ultimoLexema_, ultimoToken_};
 }
 
 // The line services count from 0; the 1-based start is passed as it is, so that the line is that of the
 // character after the token's first.
-Posicion LectorTokens::posicionToken() const {
-    const std::int32_t linea = ultimaFuente_->lineaDeCaracter(inicioToken_);
-    const std::int32_t columna = inicioToken_ - ultimaFuente_->inicioDeLinea(linea);
+Posicion LectorTokens::posicionToken(const FuenteTexto& fuente) const {
+    const std::int32_t linea = fuente.lineaDeCaracter(inicioToken_);
+    const std::int32_t columna = inicioToken_ - fuente.inicioDeLinea(linea);
     return {linea + 1, columna == 0 ? 1 : columna};
 }
 
 std::int16_t LectorTokens::LineaToken() const {
-    return a16(posicionToken().linea);
+    return a16(ultimaPosicion_.linea);
 }
 
 std::int32_t LectorTokens::ColumnaToken() const {
-    return posicionToken().columna;
+    return ultimaPosicion_.columna;
 }
 
 std::u16string LectorTokens::DameStringLineaColumnaToken() const {

@@ -19,8 +19,8 @@ inline constexpr std::u16string_view tokenError = u"Norvik_ERROR";
 
 /// Where in the text a token starts; both are 1-based.
 struct Posicion {
-    std::int32_t linea = 0;
-    std::int32_t columna = 0;
+    std::int32_t linea = 1;
+    std::int32_t columna = 1;
 };
 
 /// Hands out the tokens of the editor's text, or of the invisible text, one at a time. Both readers share one
@@ -42,7 +42,7 @@ public:
     parLT Lex() { return devuelve(editor_); }
     parLT LexTextoInvisible() { return devuelve(textoInvisible_); }
 
-    /// 1-based line and column of the last token, in the text that it was read from.
+    /// 1-based line and column of the last token when it was read, in the text that it was read from.
     std::int16_t LineaToken() const;
     std::int32_t ColumnaToken() const;
     /// "(Línea l, Columna c)" of the last token.
@@ -60,14 +60,14 @@ public:
     const std::u16string& ultimoLexema() const { return ultimoLexema_; }
 
     /// The readers for a driver, which reads many tokens and needs the name of few: `leido` is the last one,
-    /// and a driver that stops has its name and lexeme kept with `recuerda`.
+    /// and a driver that stops has its name, lexeme and place kept with `recuerda`.
     void inicializa(const FuenteTexto& fuente);
     void lee(const FuenteTexto& fuente);
     const TokenLeido& leido() const { return leido_; }
-    void recuerda();
+    void recuerda(const FuenteTexto& fuente);
     /// The text of the last recognition; it stays until the next one.
     std::u16string_view textoReconocido() const;
-    Posicion posicionToken() const;
+    Posicion posicionToken(const FuenteTexto& fuente) const;
 
 private:
     parLT devuelve(const FuenteTexto& fuente);
@@ -77,12 +77,12 @@ private:
     pilaTokens& lexico_;
     const FuenteTexto& editor_;
     TextoInvisible textoInvisible_;
-    const FuenteTexto* ultimaFuente_;
     TokenLeido leido_;
     std::int32_t posLectura_ = 1;
     std::int32_t inicioToken_ = 1;
     std::u16string ultimoToken_;
     std::u16string ultimoLexema_;
+    Posicion ultimaPosicion_;
 };
 
 } // namespace norvik

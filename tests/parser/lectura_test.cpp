@@ -156,7 +156,8 @@ TEST(Lectura, DescribeElUltimoToken) {
         lector.Lex();
         EXPECT_EQ(lector.DameStringTokenLeido(), descripcion);
     }
-    editor.ponTexto(u"");
+    editor.ponTexto(u""); // what was read keeps the place that it had
+    EXPECT_EQ(lector.DameStringTokenLeido(), descripciones[2]);
     lector.InicializaLecturaTokens();
     lector.Lex();
     EXPECT_EQ(lector.DameStringTokenLeido(), u"Se ha encontrado el final del fichero (Línea 1, Columna 1)");
