@@ -1,7 +1,5 @@
 #include "lenguaje.hpp"
 
-#include "norvik/base/ficheros.hpp"
-#include "norvik/control/generacion.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 namespace norvik::taller {
@@ -10,7 +8,7 @@ namespace {
 
 /// Without a language the text is plain.
 std::u16string acaba(Norvik& control, const std::u16string& error) {
-    if (!error.empty()) olvidaLenguaje(control);
+    if (!error.empty()) control.OlvidaLenguaje();
     control.ColoreaTodo();
     return error;
 }
@@ -37,15 +35,13 @@ std::u16string compilaLenguaje(ControlNorvik& norvik) {
 }
 
 void descargaLenguaje(ControlNorvik& norvik) {
-    olvidaLenguaje(norvik.control());
+    norvik.control().OlvidaLenguaje();
     norvik.control().ColoreaTodo();
 }
 
 std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero) {
-    TextoPorTrozos texto(aRuta(fichero));
-    const OrigenDeTexto origen = [&] { return texto.siguiente(); };
-    olvidaLenguaje(norvik.control());
-    const auto error = CargaModulo(origen, norvik.control());
+    norvik.control().OlvidaLenguaje();
+    const auto error = CargaModulo(aRuta(fichero), norvik.control());
     return acaba(norvik.control(), error ? error->mensaje() : std::u16string());
 }
 

@@ -26,12 +26,6 @@ void generaTabla(gramatica& g, Sistema& sistema) {
     }
 }
 
-void olvidaLenguaje(Norvik& control) {
-    control.BorraLenguaje();
-    control.Gramatica().inicializaConjuntos();
-    control.Gramatica().inicializaGramatica();
-}
-
 Mensaje mensajeDeComprobacion(std::u16string_view error) {
     return {std::u16string(error), u"ERROR en la definición de la gramática", Icono::Critico};
 }

@@ -16,9 +16,6 @@ class Norvik;
 /// run. What this raises, `gramatica` says; nothing of the three is left then.
 void generaTabla(gramatica& g, Sistema& sistema);
 
-/// Takes the language out of a control, the rules too.
-void olvidaLenguaje(Norvik& control);
-
 /// What is told of a grammar that did not pass its check.
 Mensaje mensajeDeComprobacion(std::u16string_view error);
 /// What is told of a specification that did not compile.

@@ -38,8 +38,9 @@ namespace norvik {
 /// what contains it, which must outlive it.
 ///
 /// A property is two members of one name: `X()` reads it and `X(value)` sets it; setting one of the saved
-/// ones to another value notifies the container. Every failure raised leaves the control as usable as before:
-/// nothing stays busy, locked or hidden.
+/// ones to another value notifies the container. Every failure raised leaves a control that works on:
+/// nothing stays busy, locked or hidden. Of a language that was being loaded or compiled then, what had come
+/// so far stays.
 class Norvik final : public CargadorLenguaje {
 public:
     Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor = sinContenedor());
@@ -67,12 +68,18 @@ public:
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) override;
     void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas, std::int16_t valorSLR) override;
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override;
-    /// Forgets the token definitions; rules, symbols and table stay.
+    /// Forgets the token definitions alone. Rules, symbols and table stay, and those of a second language
+    /// would be added to them: between two languages stands `OlvidaLenguaje`.
     void BorraLenguaje();
+    /// Forgets the whole language: definitions, rules, symbols, table and conflicts. Another one can then be
+    /// loaded, by a module or call by call; `CargaGramatica` needs it not.
+    void OlvidaLenguaje();
 
     // Compiling.
-    /// Reads a language specification into the control; no table is built. False when it did not parse (the
-    /// specification language then stays loaded) or its grammar check failed (`GetmensajeError`).
+    /// Reads a language specification into the control; no table is built. False when it did not parse or its
+    /// grammar check failed (`GetmensajeError`). The language before is gone either way: a specification that
+    /// did not parse leaves the one that specifications are written in, any other its own definitions and
+    /// rules. Raises what `ConstruyeArbolSintactico` does, and `SubindiceFueraDeIntervalo` at rule 1001.
     bool CargaGramatica(std::u16string_view codGramatica);
     bool GeneraCompilador() override;
 
@@ -81,6 +88,10 @@ public:
     bool ConstruyeArbolSintactico();
     /// The same for the invisible text, with lines and columns 0 in the tree.
     bool ConstruyeArbolSintacticoTextoInvisible();
+    /// A text that is read and parsed without being shown, "" at first; `CargaGramatica` uses it and leaves
+    /// it empty.
+    std::u16string_view GetTextoInvisible() const { return lector_.textoInvisible().texto(); }
+    void SetTextoInvisible(std::u16string_view texto) { lector_.textoInvisible().ponTexto(texto); }
     /// The root of the last parse's tree; the next parse replaces it in place.
     Arbol& GetArbolSintactico();
     /// Of the last parse: 0 none, 1 lexical, 2 syntax error.
@@ -96,7 +107,8 @@ public:
     void InicializaLecturaTokens();
     parLT Lex();
     parLT LexTextoInvisible();
-    /// 1-based line and column of the last token read.
+    /// 1-based line and column of the last token when it was read, in the text that it was read from, the
+    /// invisible one included.
     std::int16_t LineaToken() const;
     std::int32_t ColumnaToken() const;
     std::u16string DameStringTokenLeido() const;

@@ -81,6 +81,12 @@ void Norvik::BorraLenguaje() {
     lexico_.Inicializa();
 }
 
+void Norvik::OlvidaLenguaje() {
+    BorraLenguaje();
+    gramatica_.inicializaGramatica();
+    gramatica_.SetDimensionTablaSLR(0, 0);
+}
+
 // --- Compiling ---
 
 namespace {

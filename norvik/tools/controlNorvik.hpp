@@ -138,7 +138,14 @@ public:
     NORVIK_PROPIEDAD_TEXTO(SelFontName)
     NORVIK_PROPIEDAD_16(SelFontSize)
 
+    /// The text that is parsed without being shown.
+    QString TextoInvisible() const { return aQString(control_.GetTextoInvisible()); }
+
     QSize sizeHint() const override { return {480, 320}; }
+
+public slots:
+    void OlvidaLenguaje() { control_.OlvidaLenguaje(); }
+    void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
 
 signals:
     void CambioDeLinea(qint16& LineaActual);

@@ -132,7 +132,7 @@ void PPControl::editarGramatica() {
 /// installed anew each time, in place of the one before.
 std::optional<Mensaje> PPControl::construye() {
     Norvik& control = norvik1_.control();
-    olvidaLenguaje(control);
+    control.OlvidaLenguaje();
     CargaMetaLenguaje(control);
     sistema().ponPuntero(Puntero::Ocupado);
     control.Text(ranurasDisenio().especificacion);

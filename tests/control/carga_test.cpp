@@ -116,3 +116,19 @@ TEST(Genera, BorrarElLenguajeDejaLasReglas) {
     EXPECT_TRUE(a.norvik.GeneraCompilador());
     EXPECT_EQ(a.tabla(), tabla);
 }
+
+TEST(Carga, ElTextoInvisibleSeAnalizaYGuardaSuLugar) {
+    Anfitrion a;
+    ASSERT_TRUE(a.compila(u"Token id = \"[a-z]+\"; S -> id id;"));
+    a.norvik.Text(u"x");
+    a.norvik.SetTextoInvisible(u"a\r\n b");
+    EXPECT_TRUE(a.norvik.ConstruyeArbolSintacticoTextoInvisible());
+    EXPECT_EQ(a.norvik.GetTextoInvisible(), u"a\r\n b");
+    EXPECT_EQ(a.norvik.GetArbolSintactico().GetHijo(2)->GetLexema(), u"b");
+    EXPECT_FALSE(a.norvik.CargaGramatica(u"Token id = \"a\";\r\n\r\nS -> ;"));
+    EXPECT_EQ(a.norvik.GetTextoInvisible(), u"");
+    EXPECT_NE(a.norvik.GetmensajeError().find(u"(Línea 3, Columna 6)"), std::u16string::npos);
+    EXPECT_EQ(a.norvik.LineaToken(), 3);
+    EXPECT_EQ(a.norvik.ColumnaToken(), 6);
+    EXPECT_EQ(a.norvik.DameStringLineaColumnaToken(), u"(Línea 3, Columna 6)");
+}
