@@ -12,8 +12,8 @@ namespace norvik {
 class FuenteTexto {
 public:
     FuenteTexto() = default;
-    FuenteTexto(const FuenteTexto&) = default;
-    FuenteTexto& operator=(const FuenteTexto&) = default;
+    FuenteTexto(const FuenteTexto&) = delete;
+    FuenteTexto& operator=(const FuenteTexto&) = delete;
     virtual ~FuenteTexto() = default;
 
     /// El texto entero; la vista vale hasta el siguiente cambio.

@@ -1,12 +1,13 @@
 #include "norvik/tools/iconos.hpp"
 
+#include "norvik/platform/qt/nuevo.hpp"
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
 
-#include <memory>
 
 namespace norvik {
 
@@ -146,7 +147,7 @@ public:
         paint(&pintor, {QPoint(), medida}, modo, estado);
         return mapa;
     }
-    QIconEngine* clone() const override { return std::make_unique<Motor>(dibujo_).release(); }
+    QIconEngine* clone() const override { return &nuevo<Motor>(dibujo_); }
 
 private:
     Dibujo dibujo_;
@@ -155,7 +156,7 @@ private:
 } // namespace
 
 QIcon icono(Dibujo dibujo) {
-    return QIcon(std::make_unique<Motor>(dibujo).release()); // which owns it
+    return QIcon(&nuevo<Motor>(dibujo)); // which owns it
 }
 
 } // namespace norvik

@@ -1,8 +1,5 @@
 #include "norvik/tools/paginaPropiedades.hpp"
 
-#include "norvik/tools/general.hpp"
-#include "norvik/tools/paginaColores.hpp"
-#include "norvik/tools/ppControl.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QScopedValueRollback>
@@ -61,14 +58,6 @@ void PaginaPropiedades::ejecuta(const std::function<void()>& orden) {
     if (ocupada_) return;
     const QScopedValueRollback<bool> ocupada(ocupada_, true);
     norvik::ejecuta(sistema_, orden);
-}
-
-std::vector<std::unique_ptr<PaginaPropiedades>> paginasDeNorvik(SistemaQt& sistema) {
-    std::vector<std::unique_ptr<PaginaPropiedades>> paginas;
-    paginas.push_back(std::make_unique<General>(sistema));
-    paginas.push_back(std::make_unique<PPControl>(sistema));
-    paginas.push_back(std::make_unique<PaginaColores>(sistema));
-    return paginas;
 }
 
 } // namespace norvik

@@ -9,8 +9,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
-#include <vector>
 
 namespace norvik {
 
@@ -75,8 +73,5 @@ private:
     bool leyendo_ = false;
     bool ocupada_ = false;
 };
-
-/// The pages of the control in their order: general options, language, colours.
-std::vector<std::unique_ptr<PaginaPropiedades>> paginasDeNorvik(SistemaQt& sistema);
 
 } // namespace norvik

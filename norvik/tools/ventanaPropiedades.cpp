@@ -1,5 +1,7 @@
 #include "norvik/tools/ventanaPropiedades.hpp"
 
+#include "norvik/tools/paginasDeNorvik.hpp"
+
 #include <algorithm>
 #include <utility>
 

@@ -1,25 +1,18 @@
 #pragma once
 
+#include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/fallos.hpp"
 
-#include <QPointer>
 #include <QScreen>
 #include <QString>
 #include <QWidget>
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 // What the windows have in common.
 namespace norvik {
-
-/// A new object that its Qt parent owns: one that is among the arguments, or the one that takes it over next.
-template <typename Tipo, typename... Argumentos>
-Tipo& nuevo(Argumentos&&... argumentos) {
-    return *std::make_unique<Tipo>(std::forward<Argumentos>(argumentos)...).release();
-}
 
 /// Names an element, and says to screen readers what it is.
 inline void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
@@ -44,10 +37,8 @@ inline void centra(QWidget& ventana, const QWidget& sobre) {
 /// Shows a modal window, made for it, until it is closed. Its parent may die meanwhile, and take it along.
 template <typename Ventana, typename... Argumentos>
 void muestraModal(SistemaQt& sistema, Argumentos&&... argumentos) {
-    auto ventana = std::make_unique<Ventana>(std::forward<Argumentos>(argumentos)...);
-    const QPointer<Ventana> viva(ventana.get());
+    const VentanaDeAmbito<Ventana> ventana(std::forward<Argumentos>(argumentos)...);
     sistema.muestraModal(*ventana);
-    if (viva.isNull()) static_cast<void>(ventana.release());
 }
 
 /// Carries out a command of a window; a failure is told in a plain message box.

@@ -1,6 +1,7 @@
 // What the text box does on a screen: keys, mouse, clipboard, and that the editor shows what the box holds.
 #include "control/control_suite.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 #include "platform/cajaTexto_suite.hpp"
 
 #include <QTest>
@@ -178,10 +179,10 @@ TEST_F(CajaTextoQtTest, PegarYCopiarSinPerderNada) {
     pulsa(Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(texto(), raros + raros);
     EXPECT_EQ(pegados, 1);
-    auto conFormato = std::make_unique<QMimeData>();
-    conFormato->setHtml("<b>negrita</b>");
-    conFormato->setText("uno\rdos");
-    QApplication::clipboard()->setMimeData(conFormato.release()); // the clipboard owns it
+    auto& conFormato = nuevo<QMimeData>();
+    conFormato.setHtml("<b>negrita</b>");
+    conFormato.setText("uno\rdos");
+    QApplication::clipboard()->setMimeData(&conFormato); // the clipboard owns it
     caja.ponTexto(u"");
     pulsa(Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(texto(), u"uno\r\ndos");

@@ -1,4 +1,5 @@
 // The find and the replace dialog, as a person uses them.
+#include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
@@ -184,7 +185,7 @@ TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeBusca) {
     const auto otro = [&]() -> ControlNorvik& {
         suForm = std::make_unique<QWidget>();
         suForm->show();
-        return *std::make_unique<ControlNorvik>(suForm.get()).release(); // the form's
+        return nuevo<ControlNorvik>(suForm.get());
     };
     const auto seVa = [&] { QTimer::singleShot(0, suForm.get(), [&] { suForm.reset(); }); };
     ControlNorvik& conBuscar = otro();

@@ -47,7 +47,7 @@ public:
     void ponOcultaSeleccion(bool oculta) override { ocultaSeleccion_ = oculta; }
     std::int32_t margenDerecho() const override { return margenDerecho_; }
     void ponMargenDerecho(std::int32_t twips) override { margenDerecho_ = twips; }
-    std::int32_t primeraLineaVisible() const override { return primeraLineaVisible_; }
+    std::int32_t primeraLineaVisible() const override { return 0; }
     std::int32_t altoDeLinea() const override;
     std::int32_t izquierda() const override { return izquierda_; }
     void ponIzquierda(std::int32_t twips) override { izquierda_ = twips; }
@@ -55,8 +55,6 @@ public:
     void bloqueaDibujo() override {}
     void desbloqueaDibujo() override {}
 
-    /// Where the box is scrolled to.
-    void ponPrimeraLineaVisible(std::int32_t linea) { primeraLineaVisible_ = linea; }
     /// Los colores de todo el texto: tramos de un color, en orden y sin huecos.
     std::vector<TramoDeColor> colores() const;
 
@@ -126,7 +124,6 @@ private:
     bool modificado_ = false;
     bool ocultaSeleccion_ = true;
     std::int32_t margenDerecho_ = 0;
-    std::int32_t primeraLineaVisible_ = 0;
     std::int32_t izquierda_ = 0;
     mutable IndiceLineas lineas_;
     mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio

@@ -2,6 +2,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace norvik {
 
@@ -98,7 +98,7 @@ void acortaTexto(QMessageBox& caja) {
     const qsizetype corte = texto.indexOf(u'\n');
     caja.setText(texto.left(corte).trimmed());
     // The box's grid owns it.
-    QPlainTextEdit& resto = *std::make_unique<QPlainTextEdit>(texto.mid(corte + 1).trimmed()).release();
+    QPlainTextEdit& resto = nuevo<QPlainTextEdit>(texto.mid(corte + 1).trimmed());
     resto.setReadOnly(true);
     resto.setTabChangesFocus(true);
     resto.setAccessibleName(caja.text());
@@ -122,8 +122,7 @@ void daSitioAlTitulo(QMessageBox& caja) {
     const int ancho = letra.horizontalAdvance(caja.windowTitle()) + letra.height() * alrededor;
     auto& rejilla = static_cast<QGridLayout&>(*caja.layout());
     // The box's grid owns it.
-    rejilla.addItem(std::make_unique<QSpacerItem>(ancho, 0).release(), rejilla.rowCount(), 0, 1,
-                    rejilla.columnCount());
+    rejilla.addItem(&nuevo<QSpacerItem>(ancho, 0), rejilla.rowCount(), 0, 1, rejilla.columnCount());
 }
 
 } // namespace
@@ -132,9 +131,9 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const QString titulo =
         mensaje.titulo.empty() ? QApplication::applicationDisplayName() : aQString(mensaje.titulo);
     QWidget* encimaDe = QApplication::activeModalWidget();
-    auto caja = std::make_unique<QMessageBox>(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto),
-                                              QMessageBox::NoButton,
-                                              encimaDe != nullptr ? encimaDe : ventana_.data());
+    const VentanaDeAmbito<QMessageBox> caja(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto),
+                                            QMessageBox::NoButton,
+                                            encimaDe != nullptr ? encimaDe : ventana_.data());
     caja->setTextFormat(Qt::PlainText);
     QPushButton* const aceptar = caja->addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
     caja->setDefaultButton(aceptar);
@@ -145,12 +144,10 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     daSitioAlTitulo(*caja);
     const Puntero antes = puntero_;
     SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
-    const QPointer<QMessageBox> viva(caja.get());
     const QPointer<QObject> vivo(&testigo_);
     caja->exec();
     if (!vivo.isNull()) SistemaQt::ponPuntero(antes);
-    if (viva.isNull()) static_cast<void>(caja.release()); // its parent took it along
-    const bool aceptada = !viva.isNull() && caja->clickedButton() == aceptar;
+    const bool aceptada = caja.vive() && caja->clickedButton() == aceptar;
     return cancelable && !aceptada ? Respuesta::Cancelar : Respuesta::Aceptar;
 }
 

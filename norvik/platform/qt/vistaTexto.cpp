@@ -3,13 +3,13 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/teclas.hpp"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
 #include <QMimeData>
-#include <memory>
 
 namespace norvik {
 
@@ -221,9 +221,9 @@ void VistaTexto::dropEvent(QDropEvent* evento) {
 
 // The clipboard takes the object over.
 QMimeData* VistaTexto::createMimeDataFromSelection() const {
-    auto datos = std::make_unique<QMimeData>();
-    datos->setText(caja_.textoParaCopiar());
-    return datos.release();
+    auto& datos = nuevo<QMimeData>();
+    datos.setText(caja_.textoParaCopiar());
+    return &datos;
 }
 
 } // namespace norvik
