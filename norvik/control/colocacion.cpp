@@ -3,7 +3,7 @@
 namespace norvik {
 
 Superficie Colocacion::superficie() const {
-    const Contenedor::Medidas m = contenedor_.medidas();
+    const Contenedor::Medidas m = contenedor_->medidas();
     return {m.ancho,
             m.alto,
             m.pixelX,
@@ -14,15 +14,15 @@ Superficie Colocacion::superficie() const {
 }
 
 void Colocacion::colocaControles() {
-    if (const auto disposicion = disponeElementos(superficie())) contenedor_.coloca(*disposicion);
+    if (const auto disposicion = disponeElementos(superficie())) contenedor_->coloca(*disposicion);
 }
 
 void Colocacion::ocultaTexto() {
-    if (oculto_++ == 0) caja_.ponIzquierda(izquierdaFueraDeLaVista(superficie()));
+    if (oculto_++ == 0) caja_->ponIzquierda(izquierdaFueraDeLaVista(superficie()));
 }
 
 void Colocacion::ajustaIzquierdaTexto() {
-    if (--oculto_ == 0) caja_.ponIzquierda(izquierdaDelTexto(superficie()));
+    if (--oculto_ == 0) caja_->ponIzquierda(izquierdaDelTexto(superficie()));
 }
 
 } // namespace norvik

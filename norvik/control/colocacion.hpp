@@ -2,6 +2,7 @@
 
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 namespace norvik {
@@ -9,7 +10,8 @@ namespace norvik {
 /// Lays the control out by its options, and moves the text box out of view while it is worked on.
 class Colocacion {
 public:
-    Colocacion(CajaTexto& caja, const Opciones& opciones, Contenedor& contenedor)
+    Colocacion(const Prestado<CajaTexto>& caja, const Opciones& opciones,
+               const Prestado<Contenedor>& contenedor)
         : caja_(caja), opciones_(opciones), contenedor_(contenedor) {}
 
     /// Nothing moves in a control that is too small.
@@ -21,9 +23,9 @@ public:
 private:
     Superficie superficie() const;
 
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     const Opciones& opciones_;
-    Contenedor& contenedor_;
+    const Prestado<Contenedor>& contenedor_;
     int oculto_ = 0;
 };
 

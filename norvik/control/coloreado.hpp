@@ -3,6 +3,7 @@
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
@@ -13,8 +14,8 @@ namespace norvik {
 /// Syntax colouring of the text box. Lines are 1-based, character positions 0-based.
 class Coloreado {
 public:
-    Coloreado(CajaTexto& caja, pilaTokens& lexico, const Opciones& opciones, EstadoEdicion& estado,
-              Colocacion& colocacion)
+    Coloreado(const Prestado<CajaTexto>& caja, pilaTokens& lexico, const Opciones& opciones,
+              EstadoEdicion& estado, Colocacion& colocacion)
         : caja_(caja), lexico_(lexico), opciones_(opciones), estado_(estado), colocacion_(colocacion) {}
 
     /// Colours the tokens that lie wholly in [inicio, fin); does nothing while `colorear` is off. `linea` is
@@ -32,7 +33,7 @@ private:
     void pintaTokens(std::int32_t desde, std::int32_t hasta);
     void pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion);
 
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     pilaTokens& lexico_;
     const Opciones& opciones_;
     EstadoEdicion& estado_;

@@ -15,21 +15,12 @@
 
 namespace norvik {
 
-namespace {
-
-/// Raises an event of the host's, if it listens.
-template <typename Evento, typename... Argumentos>
-void avisa(const Evento& evento, Argumentos&... argumentos) {
-    if (evento) evento(argumentos...);
-}
-
-} // namespace
-
-void Edicion::conecta() {
-    CajaTexto::Eventos& e = caja_.eventos;
-    const auto libre = [this](auto accion) {
-        return [this, accion](auto&... argumentos) {
-            if (!estado_.ocupado) accion(argumentos...);
+void Edicion::conecta(std::weak_ptr<const void> duenio) {
+    CajaTexto::Eventos& e = caja_->eventos;
+    const auto libre = [this, &duenio](auto accion) {
+        return [this, duenio, accion](auto&... argumentos) {
+            const auto vivo = duenio.lock();
+            if (vivo != nullptr && !callada_ && !estado_.ocupado) accion(argumentos...);
         };
     };
     e.cambio = libre([this] { alCambiar(); });
@@ -46,19 +37,19 @@ void Edicion::conecta() {
 }
 
 std::int16_t Edicion::lineaActual() const {
-    return a16(caja_.lineaDeCaracter(caja_.inicioSeleccion()) + 1);
+    return a16(caja_->lineaDeCaracter(caja_->inicioSeleccion()) + 1);
 }
 
 std::int32_t Edicion::columnaActual() const {
-    const std::int32_t cursor = caja_.inicioSeleccion();
-    return cursor - caja_.inicioDeLinea(caja_.lineaDeCaracter(cursor)) + 1;
+    const std::int32_t cursor = caja_->inicioSeleccion();
+    return cursor - caja_->inicioDeLinea(caja_->lineaDeCaracter(cursor)) + 1;
 }
 
 // --- Changes ---
 
 void Edicion::alCambiar() {
     PasosFirmes paso;
-    estado_.numLineas = caja_.numeroDeLineas();
+    estado_.numLineas = caja_->numeroDeLineas();
     if (estado_.numLineasAnterior > estado_.numLineas) estado_.lineaEnEdicion = false;
     if (!estado_.lineaEnEdicion) paso([this] { ponLineaLlana(); });
     if (estado_.lineaMarcada != -1) paso([this] { quitaMarca(); });
@@ -85,8 +76,8 @@ void Edicion::quitaMarca() {
 
 void Edicion::alCambiarLaSeleccion() {
     PasosFirmes paso;
-    const std::int32_t linea = caja_.lineaDeCaracter(caja_.inicioSeleccion());
-    estado_.primeraLineaVisible = caja_.primeraLineaVisible();
+    const std::int32_t linea = caja_->lineaDeCaracter(caja_->inicioSeleccion());
+    estado_.primeraLineaVisible = caja_->primeraLineaVisible();
     if (linea != estado_.lineaAnterior) paso([&] { cambiaDeLinea(linea); });
     estado_.recoloreaRango = false;
     if (historial_.grabaDeshacer()) paso([this] { avisa(eventos_.SelChange); });
@@ -99,7 +90,7 @@ void Edicion::cambiaDeLinea(std::int32_t linea) {
     const bool estabaEnEdicion = estado_.lineaEnEdicion;
     if (recolorea || estabaEnEdicion) {
         const TextoOculto oculto(colocacion_);
-        const std::int32_t cursor = caja_.inicioSeleccion();
+        const std::int32_t cursor = caja_->inicioSeleccion();
         if (recolorea) {
             paso([&] { coloreado_.coloreaRango(estado_.posicionAnterior, cursor, Coloreado::ningunaLinea); });
         }
@@ -107,7 +98,7 @@ void Edicion::cambiaDeLinea(std::int32_t linea) {
     }
     estado_.lineaEnEdicion = false;
     estado_.lineaAnterior = linea;
-    estado_.posicionAnterior = caja_.inicioSeleccion();
+    estado_.posicionAnterior = caja_->inicioSeleccion();
     paso([&] {
         std::int16_t nueva = a16(linea + 1);
         avisa(eventos_.CambioDeLinea, nueva);
@@ -129,7 +120,7 @@ void Edicion::alBajarTecla(std::int16_t& codigo, std::int16_t& shift) {
 /// What is pasted arrives plain and is coloured as a range.
 void Edicion::vaAPegar() {
     estado_.recoloreaRango = true;
-    caja_.ponColorSeleccion(0);
+    caja_->ponColorSeleccion(0);
 }
 
 void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
@@ -142,16 +133,16 @@ void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
 /// Gives an empty line the leading spaces of the one above.
 void Edicion::sangra() {
     const std::int16_t n = lineaActual();
-    if (n < 2 || !dameLinea(n, caja_.texto()).empty()) return;
-    const auto superior = dameLinea(static_cast<std::int16_t>(n - 1), caja_.texto());
+    if (n < 2 || !dameLinea(n, caja_->texto()).empty()) return;
+    const auto superior = dameLinea(static_cast<std::int16_t>(n - 1), caja_->texto());
     const std::size_t cuantos = std::min(superior.find_first_not_of(u' '), superior.size());
-    caja_.reemplazaSeleccion(espacios(1, a16(cuantos)));
+    caja_->reemplazaSeleccion(espacios(1, a16(cuantos)));
 }
 
 void Edicion::tabula() {
     PasosFirmes paso;
-    paso([this] { caja_.reemplazaSeleccion(espacios(1, opciones_.espaciosXTAB)); });
-    paso([this] { caja_.enfoca(); });
+    paso([this] { caja_->reemplazaSeleccion(espacios(1, opciones_.espaciosXTAB)); });
+    paso([this] { caja_->enfoca(); });
     paso.acaba();
 }
 

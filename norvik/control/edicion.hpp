@@ -6,9 +6,11 @@
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
+#include <memory>
 
 namespace norvik {
 
@@ -16,13 +18,18 @@ namespace norvik {
 /// coloured when the caret leaves it, each change is recorded, new lines are indented.
 class Edicion {
 public:
-    Edicion(CajaTexto& caja, const Opciones& opciones, EstadoEdicion& estado, Coloreado& coloreado,
-            Colocacion& colocacion, Historial& historial, EventosControl& eventos)
+    Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, EstadoEdicion& estado,
+            Coloreado& coloreado, Colocacion& colocacion, Historial& historial, EventosControl& eventos)
         : caja_(caja), opciones_(opciones), estado_(estado), coloreado_(coloreado), colocacion_(colocacion),
           historial_(historial), eventos_(eventos) {}
 
-    /// Receives the box's events from now on.
-    void conecta();
+    /// Receives the box's events from now on, as long as its owner lives, which it holds meanwhile: a
+    /// receiver may delete the control.
+    void conecta(std::weak_ptr<const void> duenio);
+    /// Raises no event any more, and receives none.
+    void calla() { callada_ = true; }
+    bool callada() const { return callada_; }
+    void avisaClick() const { avisa(eventos_.Click); }
 
     /// 1-based; raises `Desbordamiento` beyond 32767.
     std::int16_t lineaActual() const;
@@ -32,6 +39,11 @@ public:
     void tabula();
 
 private:
+    /// Raises an event of the host's, if it listens.
+    template <typename Evento, typename... Argumentos>
+    void avisa(const Evento& evento, Argumentos&... argumentos) const {
+        if (evento && !callada_) evento(argumentos...);
+    }
     void alCambiar();
     void ponLineaLlana();
     void quitaMarca();
@@ -43,13 +55,14 @@ private:
     void vaAPegar();
     void alPerderElFoco();
 
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     const Opciones& opciones_;
     EstadoEdicion& estado_;
     Coloreado& coloreado_;
     Colocacion& colocacion_;
     Historial& historial_;
     EventosControl& eventos_;
+    bool callada_ = false;
 };
 
 } // namespace norvik

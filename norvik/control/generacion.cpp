@@ -2,28 +2,32 @@
 
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
+#include "norvik/control/pasosFirmes.hpp"
+#include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
+
+#include <vector>
 
 namespace norvik {
 
-void generaTabla(gramatica& g, Sistema& sistema) {
-    const auto dejaRepintar = [&] {
-        sistema.ponPuntero(Puntero::Ocupado);
-        sistema.procesaEventos();
+void generaTabla(gramatica& g, const std::function<void()>& pausa) {
+    gramatica nueva;
+    const auto paso = [&](void (gramatica::*hazlo)()) {
+        pausa();
+        try {
+            (nueva.*hazlo)();
+        } catch (...) {
+            nueva.inicializaConjuntos(); // half the sets would be worse than none
+            g.intercambia(nueva);
+            throw;
+        }
     };
-    try {
-        dejaRepintar();
-        g.inicializaConjuntos();
-        dejaRepintar();
-        g.creaConjuntos();
-        dejaRepintar();
-        g.creaAutomata();
-        dejaRepintar();
-        g.creaTablaSLR();
-    } catch (...) {
-        g.inicializaConjuntos(); // half the sets would be worse than none
-        throw;
-    }
+    pausa();
+    nueva.copiaReglas(g);
+    paso(&gramatica::creaConjuntos);
+    paso(&gramatica::creaAutomata);
+    paso(&gramatica::creaTablaSLR);
+    g.intercambia(nueva);
 }
 
 Mensaje mensajeDeComprobacion(std::u16string_view error) {
@@ -44,10 +48,21 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
     gramatica_.inicializaConjuntos();
     gramatica_.inicializaGramatica();
     lexico_.Inicializa();
-    CompilaArbolEspecificacion(especificacion.GetArbolSintactico(), gramatica_, lexico_, sistema_);
+    // Nothing is shown while the other control's tree is walked: a receiver may parse with it.
+    std::vector<Mensaje> mensajes;
+    SistemaMemoria callado([&](const Mensaje& mensaje) { mensajes.push_back(mensaje); });
+    PasosFirmes paso;
+    paso([&] {
+        CompilaArbolEspecificacion(especificacion.GetArbolSintactico(), gramatica_, lexico_, callado);
+    });
+    for (const Mensaje& mensaje : mensajes) sistema_.muestraMensaje(mensaje);
+    paso.acaba();
     std::u16string error = gramatica_.chequeaGramatica();
     if (!error.empty()) return Fallo{Fallo::Paso::Comprobacion, std::move(error)};
-    generaTabla(gramatica_, sistema_);
+    generaTabla(gramatica_, [this] {
+        sistema_.ponPuntero(Puntero::Ocupado);
+        sistema_.procesaEventos();
+    });
     return std::nullopt;
 }
 

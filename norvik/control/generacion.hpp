@@ -4,6 +4,7 @@
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/sistema.hpp"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,9 +13,10 @@ namespace norvik {
 
 class Norvik;
 
-/// Computes a grammar's sets, automaton and table; before each the pointer is made busy and pending events
-/// run. What this raises, `gramatica` says; nothing of the three is left then.
-void generaTabla(gramatica& g, Sistema& sistema);
+/// Computes a grammar's sets, automaton and table, with a pause before each step and one before all. They are
+/// made apart: whoever looks at the grammar in a pause sees it as it was. What is raised by a step,
+/// `gramatica` says; nothing of the three is left then. What a pause raises leaves the grammar as it was.
+void generaTabla(gramatica& g, const std::function<void()>& pausa);
 
 /// What is told of a grammar that did not pass its check.
 Mensaje mensajeDeComprobacion(std::u16string_view error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 namespace norvik {
@@ -20,29 +21,30 @@ private:
 /// The box is not redrawn while it lives.
 class DibujoBloqueado {
 public:
-    explicit DibujoBloqueado(CajaTexto& caja) : caja_(caja) { caja_.bloqueaDibujo(); }
+    explicit DibujoBloqueado(const Prestado<CajaTexto>& caja) : caja_(caja) { caja_->bloqueaDibujo(); }
     DibujoBloqueado(const DibujoBloqueado&) = delete;
     DibujoBloqueado& operator=(const DibujoBloqueado&) = delete;
-    ~DibujoBloqueado() { caja_.desbloqueaDibujo(); }
+    ~DibujoBloqueado() { caja_->desbloqueaDibujo(); }
 
 private:
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
 };
 
 /// The hidden edit: the box hides its selection while it lives, whatever the host wished.
 class EdicionSilenciosa {
 public:
-    explicit EdicionSilenciosa(CajaTexto& caja) : caja_(caja), antes_(caja.ocultaSeleccion()) {
-        if (!antes_) caja_.ponOcultaSeleccion(true);
+    explicit EdicionSilenciosa(const Prestado<CajaTexto>& caja)
+        : caja_(caja), antes_(caja->ocultaSeleccion()) {
+        if (!antes_) caja_->ponOcultaSeleccion(true);
     }
     EdicionSilenciosa(const EdicionSilenciosa&) = delete;
     EdicionSilenciosa& operator=(const EdicionSilenciosa&) = delete;
     ~EdicionSilenciosa() {
-        if (!antes_) caja_.ponOcultaSeleccion(false);
+        if (!antes_) caja_->ponOcultaSeleccion(false);
     }
 
 private:
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     bool antes_;
 };
 

@@ -62,17 +62,17 @@ void Historial::InicializaUndosYRedos() {
 void Historial::registra() {
     PasosFirmes paso;
     paso([this] { redos_.vacia(); });
-    const std::u16string_view texto = caja_.texto();
-    undos_.pon({caja_.inicioSeleccion(), a32(texto.size()), std::u16string(texto), esSustitucion_});
+    const std::u16string_view texto = caja_->texto();
+    undos_.pon({caja_->inicioSeleccion(), a32(texto.size()), std::u16string(texto), esSustitucion_});
     paso.acaba();
 }
 
 void Historial::sustituye(std::int32_t inicio, std::int32_t cuantos, std::u16string_view nuevo) {
     PasosFirmes paso;
-    caja_.selecciona(inicio, cuantos);
-    caja_.ponColorSeleccion(0);
+    caja_->selecciona(inicio, cuantos);
+    caja_->ponColorSeleccion(0);
     esSustitucion_ = true;
-    paso([&] { caja_.reemplazaSeleccion(nuevo); });
+    paso([&] { caja_->reemplazaSeleccion(nuevo); });
     esSustitucion_ = false;
     paso.acaba();
 }
@@ -103,19 +103,19 @@ void Historial::deshace(const UndoElement& ant, const UndoElement& act, PasosFir
 /// Takes characters away, from where the caret is if there is no such place.
 void Historial::quita(std::int32_t inicio, std::int32_t cuantos, PasosFirmes& paso) {
     if (inicio >= 0) paso([&] { ponCursor(inicio); });
-    paso([&] { caja_.selecciona(caja_.inicioSeleccion(), cuantos); });
-    paso([&] { caja_.reemplazaSeleccion({}); });
+    paso([&] { caja_->selecciona(caja_->inicioSeleccion(), cuantos); });
+    paso([&] { caja_->reemplazaSeleccion({}); });
 }
 
 void Historial::repone(std::int32_t inicio, std::u16string_view quitado, PasosFirmes& paso) {
     const std::u16string r(quitado); // the lists may be emptied by a receiver
     paso([&] { ponCursor(inicio); });
-    caja_.ponColorSeleccion(0);
-    const std::int32_t desde = caja_.inicioSeleccion();
-    paso([&] { caja_.reemplazaSeleccion(r); });
+    caja_->ponColorSeleccion(0);
+    const std::int32_t desde = caja_->inicioSeleccion();
+    paso([&] { caja_->reemplazaSeleccion(r); });
     estado_.recoloreaRango = true;
-    const std::int32_t hasta = caja_.inicioSeleccion();
-    paso([&] { quedaSeleccionado(r) ? caja_.selecciona(desde, hasta - desde) : ponCursor(hasta); });
+    const std::int32_t hasta = caja_->inicioSeleccion();
+    paso([&] { quedaSeleccionado(r) ? caja_->selecciona(desde, hasta - desde) : ponCursor(hasta); });
 }
 
 // --- Redo ---
@@ -135,7 +135,7 @@ void Historial::Redo() {
 }
 
 void Historial::rehace(const UndoElement& e, PasosFirmes& paso) {
-    const std::u16string_view texto = caja_.texto();
+    const std::u16string_view texto = caja_->texto();
     const std::int32_t sobran = longitud(texto) - e.TextLen;
     if (e.sustitucion) return cambiaTodo(e.Text, paso);
     if (sobran > 0) return quita(e.SelStart, sobran, paso);
@@ -146,36 +146,36 @@ void Historial::rehace(const UndoElement& e, PasosFirmes& paso) {
 /// Inserts a text, where the caret is if there is no such place.
 void Historial::inserta(std::int32_t inicio, std::u16string_view r, PasosFirmes& paso) {
     if (inicio >= 0) paso([&] { ponCursor(inicio); });
-    paso([&] { ponCursor(caja_.inicioSeleccion()); });
-    caja_.ponColorSeleccion(0);
-    const std::int32_t desde = caja_.inicioSeleccion();
-    paso([&] { caja_.reemplazaSeleccion(r); });
-    const std::int32_t puestos = caja_.inicioSeleccion() - desde;
+    paso([&] { ponCursor(caja_->inicioSeleccion()); });
+    caja_->ponColorSeleccion(0);
+    const std::int32_t desde = caja_->inicioSeleccion();
+    paso([&] { caja_->reemplazaSeleccion(r); });
+    const std::int32_t puestos = caja_->inicioSeleccion() - desde;
     paso([&] { ponCursor(desde); });
-    paso([&] { quedaSeleccionado(r) ? caja_.selecciona(desde, puestos) : ponCursor(desde + puestos); });
+    paso([&] { quedaSeleccionado(r) ? caja_->selecciona(desde, puestos) : ponCursor(desde + puestos); });
 }
 
 // --- Both ---
 
 /// Gives the box another text, of which what it has in common with the present one is left alone.
 void Historial::cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso) {
-    const std::u16string_view actual = caja_.texto();
+    const std::u16string_view actual = caja_->texto();
     const std::size_t prefijo = prefijoComun(actual, nuevo);
     const std::size_t sufijo = sufijoComun(actual.substr(prefijo), nuevo.substr(prefijo));
     const std::u16string r(nuevo.substr(prefijo, nuevo.size() - prefijo - sufijo));
     const auto desde = static_cast<std::int32_t>(prefijo);
     const auto cuantos = static_cast<std::int32_t>(actual.size() - prefijo - sufijo);
-    paso([&] { caja_.selecciona(desde, cuantos); });
-    caja_.ponColorSeleccion(0);
-    paso([&] { caja_.reemplazaSeleccion(r); });
+    paso([&] { caja_->selecciona(desde, cuantos); });
+    caja_->ponColorSeleccion(0);
+    paso([&] { caja_->reemplazaSeleccion(r); });
     estado_.recoloreaRango = true;
-    paso([&] { caja_.selecciona(desde, longitud(r)); });
+    paso([&] { caja_->selecciona(desde, longitud(r)); });
 }
 
 /// The caret's line counts from 1, the remembered one from 0: the mark is set unless the caret stands exactly
 /// one line below it. Colouring one range too many does no harm.
 void Historial::marcaSiCambioDeLinea() {
-    const std::int16_t lineaActual = a16(caja_.lineaDeCaracter(caja_.inicioSeleccion()) + 1);
+    const std::int16_t lineaActual = a16(caja_->lineaDeCaracter(caja_->inicioSeleccion()) + 1);
     if (estado_.lineaAnterior != lineaActual) estado_.recoloreaRango = true;
 }
 

@@ -3,6 +3,7 @@
 #include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/instantaneas.hpp"
 #include "norvik/control/pasosFirmes.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
@@ -15,7 +16,7 @@ namespace norvik {
 /// failure is raised, so that the lists agree with the text.
 class Historial {
 public:
-    Historial(CajaTexto& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
+    Historial(const Prestado<CajaTexto>& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
 
     /// Empties both lists and switches recording on. Raises `Desbordamiento`, with both empty, when one held
     /// more than 32767 entries.
@@ -41,10 +42,10 @@ private:
     void rehace(const UndoElement& e, PasosFirmes& paso);
     void inserta(std::int32_t inicio, std::u16string_view r, PasosFirmes& paso);
     void cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso);
-    void ponCursor(std::int32_t posicion) { caja_.selecciona(posicion, 0); }
+    void ponCursor(std::int32_t posicion) { caja_->selecciona(posicion, 0); }
     void marcaSiCambioDeLinea();
 
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     EstadoEdicion& estado_;
     Instantaneas undos_;
     Instantaneas redos_;

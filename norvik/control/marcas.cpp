@@ -20,9 +20,9 @@ std::int32_t finDeLinea(const CajaTexto& caja, std::int32_t linea) {
 
 void Marcas::marcaLinea(std::int32_t linea, std::int32_t color) {
     estado_.lineaMarcada = linea;
-    const std::int32_t inicio = linea < 1 ? -1 : caja_.inicioDeLinea(linea - 1);
+    const std::int32_t inicio = linea < 1 ? -1 : caja_->inicioDeLinea(linea - 1);
     if (inicio < 0) return;
-    pinta(inicio, finDeLinea(caja_, linea - 1), color);
+    pinta(inicio, finDeLinea(*caja_, linea - 1), color);
 }
 
 void Marcas::marcaToken(std::int32_t inicio, std::int32_t fin, std::int32_t linea, std::int32_t color) {
@@ -34,12 +34,12 @@ void Marcas::marcaToken(std::int32_t inicio, std::int32_t fin, std::int32_t line
 void Marcas::pinta(std::int32_t inicio, std::int32_t fin, std::int32_t color) {
     const MarcaOcupado ocupado(estado_.ocupado);
     const EdicionSilenciosa silenciosa(caja_);
-    const std::int32_t cursor = caja_.inicioSeleccion();
+    const std::int32_t cursor = caja_->inicioSeleccion();
     if (inicio < fin) { // painting an empty selection would colour what is typed next
-        caja_.selecciona(inicio, fin - inicio);
-        caja_.ponColorSeleccion(color);
+        caja_->selecciona(inicio, fin - inicio);
+        caja_->ponColorSeleccion(color);
     }
-    caja_.selecciona(cursor, 0);
+    caja_->selecciona(cursor, 0);
     estado_.lineaEnEdicion = false;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/control/estadoEdicion.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
@@ -24,7 +25,7 @@ class Marcas {
 public:
     using Signos = std::map<std::int16_t, signoDebuger>; ///< by image number
 
-    Marcas(CajaTexto& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
+    Marcas(const Prestado<CajaTexto>& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
 
     /// Paints a line (1-based) without its line break; one that the text does not have is only remembered.
     void marcaLinea(std::int32_t linea, std::int32_t color);
@@ -37,7 +38,7 @@ public:
 private:
     void pinta(std::int32_t inicio, std::int32_t fin, std::int32_t color);
 
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     EstadoEdicion& estado_;
     Signos signos_;
 };

@@ -1,110 +1,99 @@
 #include "norvik/control/norvik.hpp"
 
+#include "norvik/base/errores.hpp"
+#include "norvik/base/ficheros.hpp"
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/control/lineasTexto.hpp"
-#include "norvik/control/pasosFirmes.hpp"
 
 namespace norvik {
 
 Norvik::Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor)
-    : caja_(caja), sistema_(sistema), contenedor_(contenedor), lector_(lexico_, caja_),
-      conductor_(lector_, lexico_, gramatica_), colocacion_(caja_, opciones_, contenedor_),
-      propiedades_(opciones_, lexico_, caja_, colocacion_, contenedor_),
-      coloreado_(caja_, lexico_, opciones_, estado_, colocacion_), marcas_(caja_, estado_),
-      historial_(caja_, estado_),
-      edicion_(caja_, opciones_, estado_, coloreado_, colocacion_, historial_, eventos) {
-    propiedades_.construye();
-    edicion_.conecta();
-    conductor_.alFallar = [this](const Mensaje& mensaje) { alFallarElAnalisis(mensaje); };
+    : partes_(std::make_shared<PartesControl>(caja, sistema, contenedor)), eventos(partes_->eventos) {
+    partes_->conecta();
 }
 
+/// Parts that are at work leave the box with receivers that do nothing: one of them may be running.
 Norvik::~Norvik() {
-    caja_.eventos = {};
+    CajaTexto& caja = *partes_->caja;
+    if (partes_.use_count() == 1) caja.eventos = {};
     EstadoBusqueda& busqueda = estadoBusqueda();
-    if (busqueda.textoDestino == &caja_) busqueda.apunta({});
-}
-
-void Norvik::alFallarElAnalisis(const Mensaje& mensaje) {
-    if (opciones_.muestraMensajesDeError) sistema_.muestraMensaje(mensaje);
-    if (opciones_.marcarErrores) MarcaErrorLineaToken();
+    if (busqueda.textoDestino == &caja) busqueda.apunta({});
+    partes_->abandona();
 }
 
 // --- Marking and colouring ---
 
 void Norvik::MarcaErrorLinea(std::int16_t numLinea) {
-    marcas_.marcaLinea(numLinea, lexico_.ColorError);
+    partes_->MarcaErrorLinea(numLinea);
 }
 
 void Norvik::MarcaErrorToken() {
+    const LectorTokens& lector = partes_->lector;
     // The reader stays at a wrong character.
-    const bool parado = lector_.leido().definicion == TokenLeido::desconocido;
-    const std::int32_t fin = lector_.posLectura() - (parado ? 0 : 1);
-    marcas_.marcaToken(lector_.inicioToken() - 1, fin, LineaToken(), lexico_.ColorError);
+    const bool parado = lector.leido().definicion == TokenLeido::desconocido;
+    const std::int32_t fin = lector.posLectura() - (parado ? 0 : 1);
+    partes_->marcas.marcaToken(lector.inicioToken() - 1, fin, LineaToken(), ColorError());
 }
 
 void Norvik::MarcaErrorLineaToken() {
-    MarcaErrorLinea(LineaToken());
-    estado_.lineaEnEdicion = false;
+    partes_->MarcaErrorLineaToken();
 }
 
 void Norvik::PonSignoError(std::int16_t numLinea) {
-    const signoDebuger& signo = marcas_.ponSigno(numLinea);
-    estado_.primeraLineaVisible = caja_.primeraLineaVisible();
-    contenedor_.ponSigno(signo, lugarDeSigno(numLinea, estado_.primeraLineaVisible, caja_.altoDeLinea()));
+    const signoDebuger& signo = partes_->marcas.ponSigno(numLinea);
+    const CajaTexto& caja = *partes_->caja;
+    partes_->estado.primeraLineaVisible = caja.primeraLineaVisible();
+    partes_->contenedor->ponSigno(signo,
+                                  lugarDeSigno(numLinea, caja.primeraLineaVisible(), caja.altoDeLinea()));
 }
 
 void Norvik::ColoreaTodo() {
-    coloreado_.coloreaTodo();
+    partes_->coloreado.coloreaTodo();
 }
 
 void Norvik::ColoreaLineaActual() {
-    coloreado_.coloreaLinea(LineaActual());
+    partes_->coloreado.coloreaLinea(LineaActual());
 }
 
 std::u16string Norvik::ContenidoLinea(std::int16_t numLinea) const {
-    return std::u16string(dameLinea(numLinea, caja_.texto()));
+    return std::u16string(dameLinea(numLinea, partes_->caja->texto()));
 }
 
 // --- Searching ---
 
 std::int32_t Norvik::Find(std::u16string_view cadena, std::int32_t comienzo, std::int32_t final,
                           std::int32_t opciones) {
-    return caja_.busca(cadena, comienzo, final == 0 ? a32(caja_.texto().size()) : final, opciones);
+    return partes_->caja->busca(cadena, comienzo, final == 0 ? a32(partes_->caja->texto().size()) : final,
+                                opciones);
 }
 
 DestinoBusqueda Norvik::destinoBusqueda() {
-    return {&caja_, &sistema_,
-            [this](std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
-                sustituye(inicio, longitud, nuevo);
-            },
-            std::nullopt};
-}
-
-void Norvik::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
-    PasosFirmes paso;
-    paso([&] { historial_.sustituye(inicio, longitud, nuevo); });
-    paso([this] { ColoreaTodo(); });
-    paso.acaba();
+    const auto sustituye = [quizas = std::weak_ptr(partes_)](std::int32_t inicio, std::int32_t longitud,
+                                                             std::u16string_view nuevo) {
+        if (const auto partes = quizas.lock()) partes->sustituye(inicio, longitud, nuevo);
+    };
+    return {&*partes_->caja, &*partes_->sistema, sustituye, std::nullopt};
 }
 
 void Norvik::ShowBuscarDialog() {
     estadoBusqueda().apunta(destinoBusqueda());
-    contenedor_.muestraBuscar();
+    partes_->contenedor->muestraBuscar();
 }
 
 void Norvik::ShowReemplazarDialog() {
-    contenedor_.muestraReemplazar();
+    partes_->contenedor->muestraReemplazar();
 }
 
 // --- Design time ---
 
 std::any Norvik::editCode() const {
-    propiedades_.cedeARanuras();
+    partes_->propiedades.cedeARanuras();
     return {};
 }
 
 void Norvik::editCode(const std::any& /*valor*/) {
-    propiedades_.tomaDeRanuras();
+    vivo()->propiedades.tomaDeRanuras();
 }
 
 void Norvik::SetTraduccion(std::int16_t /*numRegla*/, std::u16string_view /*variableETDS*/,
@@ -112,42 +101,65 @@ void Norvik::SetTraduccion(std::int16_t /*numRegla*/, std::u16string_view /*vari
                            std::u16string_view /*atributosDerivados*/) {}
 
 void Norvik::clickEnSuperficie() {
-    caja_.enfoca();
-    if (!estado_.ocupado && eventos.Click) eventos.Click();
+    vivo()->clickEnSuperficie();
+}
+
+// --- The text as a whole ---
+
+void Norvik::BorraTodo() {
+    vivo()->BorraTodo();
+}
+
+bool Norvik::CargarFichero(const std::filesystem::path& nomFichero) {
+    vivo()->CargarFichero(nomFichero);
+    return true;
+}
+
+bool Norvik::SalvarFichero(const std::filesystem::path& nomFichero) {
+    try {
+        escribeTexto(nomFichero, Text().append(saltoDeLinea), Durabilidad::EnDisco);
+        return true;
+    } catch (const ErrorNorvik&) {
+        return false;
+    }
+}
+
+void Norvik::Imprimir() {
+    vivo()->Imprimir();
 }
 
 // --- Properties of the text box ---
 
 std::u16string Norvik::Text() const {
-    return std::u16string(caja_.texto());
+    return std::u16string(partes_->caja->texto());
 }
 
 std::u16string Norvik::SelText() const {
-    return caja_.textoSeleccionado();
+    return partes_->caja->textoSeleccionado();
 }
 
 void Norvik::SelText(std::u16string_view texto) {
-    caja_.reemplazaSeleccion(texto);
+    partes_->caja->reemplazaSeleccion(texto);
 }
 
 std::int16_t Norvik::SelStart() const {
-    return a16(caja_.inicioSeleccion());
+    return a16(partes_->caja->inicioSeleccion());
 }
 
 void Norvik::SelStart(std::int16_t posicion) {
-    caja_.selecciona(posicion, 0);
+    partes_->caja->selecciona(posicion, 0);
 }
 
 std::int16_t Norvik::SelLength() const {
-    return a16(caja_.longitudSeleccion());
+    return a16(partes_->caja->longitudSeleccion());
 }
 
 void Norvik::SelLength(std::int16_t longitud) {
-    caja_.selecciona(caja_.inicioSeleccion(), longitud);
+    partes_->caja->selecciona(partes_->caja->inicioSeleccion(), longitud);
 }
 
 void Norvik::SelFontName(std::u16string_view nombre) {
-    if (nombre != caja_.nombreFuenteSeleccion()) caja_.ponNombreFuenteSeleccion(nombre);
+    if (nombre != partes_->caja->nombreFuenteSeleccion()) partes_->caja->ponNombreFuenteSeleccion(nombre);
 }
 
 namespace {
@@ -155,20 +167,20 @@ constexpr std::int32_t punto = 10000; // the unit of sizes is its part
 } // namespace
 
 std::int16_t Norvik::SelFontSize() const {
-    return a16((caja_.tamanoFuenteSeleccion() + punto / 2) / punto);
+    return a16((partes_->caja->tamanoFuenteSeleccion() + punto / 2) / punto);
 }
 
 void Norvik::SelFontSize(std::int16_t puntos) {
     const std::int32_t tamano = puntos * punto;
-    if (tamano != caja_.tamanoFuenteSeleccion()) caja_.ponTamanoFuenteSeleccion(tamano);
+    if (tamano != partes_->caja->tamanoFuenteSeleccion()) partes_->caja->ponTamanoFuenteSeleccion(tamano);
 }
 
 bool Norvik::TextoModificado() const {
-    return caja_.modificado();
+    return partes_->caja->modificado();
 }
 
 void Norvik::TextoModificado(bool modificado) {
-    if (!modificado) caja_.ponModificado(false);
+    if (!modificado) partes_->caja->ponModificado(false);
 }
 
 } // namespace norvik

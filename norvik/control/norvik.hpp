@@ -1,23 +1,15 @@
 #pragma once
 
 #include "norvik/control/bolsaPropiedades.hpp"
-#include "norvik/control/colocacion.hpp"
-#include "norvik/control/coloreado.hpp"
 #include "norvik/control/contenedor.hpp"
-#include "norvik/control/edicion.hpp"
 #include "norvik/control/estadoBusqueda.hpp"
-#include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/eventosControl.hpp"
-#include "norvik/control/historial.hpp"
-#include "norvik/control/marcas.hpp"
 #include "norvik/control/opciones.hpp"
-#include "norvik/control/propiedades.hpp"
+#include "norvik/control/partesControl.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/arbol.hpp"
-#include "norvik/parser/conductor.hpp"
-#include "norvik/parser/lectorTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/sistema.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
@@ -26,6 +18,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -41,15 +34,24 @@ namespace norvik {
 /// ones to another value notifies the container. Every failure raised leaves a control that works on:
 /// nothing stays busy, locked or hidden. Of a language that was being loaded or compiled then, what had come
 /// so far stays.
+///
+/// Receivers of its events, and whatever else runs while it shows a message or lets pending events run, may
+/// change the text, parse, throw, and delete the control, but load and compile no language while it does so
+/// itself. A text that is read meanwhile is read with the language of before, or with the new one whole. The
+/// operation in which a control is deleted goes on without it, raises no more events, and touches neither box
+/// nor services nor container any more; one that loads a definition ends with a failure (`ErrorNorvik`).
 class Norvik final : public CargadorLenguaje {
+    const std::shared_ptr<PartesControl> partes_; // before what refers to it
+
 public:
     Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor = sinContenedor());
     ~Norvik() override;
 
-    EventosControl eventos;
+    EventosControl& eventos;
 
     // Loading a language. Definitions follow `LenguajeSensible` as it is at the call; their errors are shown
-    // titled "Norvik: Error en especificación léxica", and the call completes.
+    // titled "Norvik: Error en especificación léxica", and the call completes. All of them raise
+    // `ArgumentoNoValido` in a receiver that runs while the control shows such an error, compiles or loads.
     void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken = false,
                std::int32_t tipoToken = Norvik_ExpReg, std::u16string_view pseudoToken = {},
                std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) override;
@@ -90,8 +92,8 @@ public:
     bool ConstruyeArbolSintacticoTextoInvisible();
     /// A text that is read and parsed without being shown, "" at first; `CargaGramatica` uses it and leaves
     /// it empty.
-    std::u16string_view GetTextoInvisible() const { return lector_.textoInvisible().texto(); }
-    void SetTextoInvisible(std::u16string_view texto) { lector_.textoInvisible().ponTexto(texto); }
+    std::u16string_view GetTextoInvisible() const { return partes_->lector.textoInvisible().texto(); }
+    void SetTextoInvisible(std::u16string_view texto) { partes_->lector.textoInvisible().ponTexto(texto); }
     /// The root of the last parse's tree; the next parse replaces it in place.
     Arbol& GetArbolSintactico();
     /// Of the last parse: 0 none, 1 lexical, 2 syntax error.
@@ -99,7 +101,7 @@ public:
     const std::u16string& GetmensajeError() const;
     /// The error of the last parse as a value: its exact range in the text (UTF-16), and the tokens that can
     /// really stand there. None after an accepted one.
-    const std::optional<Diagnostico>& GetDiagnostico() const { return conductor_.diagnostico(); }
+    const std::optional<Diagnostico>& GetDiagnostico() const { return partes_->conductor.diagnostico(); }
     /// Accepts a text, does nothing.
     std::u16string EjecutaCodigo(std::u16string_view codigoAEjecutar);
 
@@ -126,18 +128,18 @@ public:
     void ColoreaLineaActual();
 
     // Lines; they count from 1.
-    std::int16_t LineaActual() const { return edicion_.lineaActual(); }
-    std::int32_t ColumnaActual() const { return edicion_.columnaActual(); }
+    std::int16_t LineaActual() const { return partes_->edicion.lineaActual(); }
+    std::int32_t ColumnaActual() const { return partes_->edicion.columnaActual(); }
     /// As counted at the last change of the text.
-    std::int32_t TotalLineas() const { return estado_.numLineas; }
+    std::int32_t TotalLineas() const { return partes_->estado.numLineas; }
     /// A line without its end; raises `ArgumentoNoValido` when there is none.
     std::u16string ContenidoLinea(std::int16_t numLinea) const;
 
     // Undo. The first recorded text is the base, which cannot be undone.
     /// Forgets every change. Raises `Desbordamiento`, having done so, when there were more than 32767.
-    void InicializaUndosYRedos() { historial_.InicializaUndosYRedos(); }
-    void Undo() { historial_.Undo(); }
-    void Redo() { historial_.Redo(); }
+    void InicializaUndosYRedos() { vivo()->historial.InicializaUndosYRedos(); }
+    void Undo() { vivo()->historial.Undo(); }
+    void Redo() { vivo()->historial.Redo(); }
 
     // Searching.
     /// Position (0-based) of a text between two others, -1 when there is none; a `final` of 0 is the end of
@@ -162,8 +164,8 @@ public:
     // What is saved, and the exchange with the design-time tools.
     /// Raises `NoCoincidenLosTipos` or `Desbordamiento` at the first value that is none of its property;
     /// those before it are set.
-    void restauraPropiedades(const BolsaPropiedades& bolsa) { propiedades_.restaura(bolsa); }
-    void guardaPropiedades(BolsaPropiedades& bolsa) const { propiedades_.guarda(bolsa); }
+    void restauraPropiedades(const BolsaPropiedades& bolsa) { vivo()->propiedades.restaura(bolsa); }
+    void guardaPropiedades(BolsaPropiedades& bolsa) const { partes_->propiedades.guarda(bolsa); }
     /// Reading it copies specification and test text to the shared slots, setting it takes them from there.
     std::any editCode() const;
     void editCode(const std::any& valor);
@@ -171,130 +173,120 @@ public:
     void SetTraduccion(std::int16_t numRegla, std::u16string_view variableETDS,
                        std::u16string_view traduccion, std::u16string_view condicion = {},
                        std::u16string_view atributosDerivados = {});
-    void Acerca() { contenedor_.muestraAcerca(); }
+    void Acerca() { partes_->contenedor->muestraAcerca(); }
     /// Shows the report on the grammar and the lexer.
-    void MuestraInforme() { contenedor_.muestraInforme(); }
+    void MuestraInforme() { partes_->contenedor->muestraInforme(); }
 
     // For whoever shows the control.
     /// The control has another size.
-    void redimensiona() { colocacion_.colocaControles(); }
+    void redimensiona() { partes_->colocacion.colocaControles(); }
     /// The tab key moved the focus out of the text box, to the button that stands for it.
-    void tabuladorEnfocado() { edicion_.tabula(); }
+    void tabuladorEnfocado() { vivo()->edicion.tabula(); }
     /// The control's own surface was clicked.
     void clickEnSuperficie();
-    const Opciones& opciones() const { return opciones_; }
+    const Opciones& opciones() const { return partes_->opciones; }
 
     // Properties of the text box. Positions and lengths are 16-bit: reading larger ones raises
     // `Desbordamiento`.
     std::u16string Text() const;
-    void Text(std::u16string_view texto) { propiedades_.ponText(texto); }
+    void Text(std::u16string_view texto) { vivo()->propiedades.ponText(texto); }
     std::u16string SelText() const;
     void SelText(std::u16string_view texto);
     std::int16_t SelStart() const;
     void SelStart(std::int16_t posicion);
     std::int16_t SelLength() const;
     void SelLength(std::int16_t longitud);
-    std::u16string SelFontName() const { return caja_.nombreFuenteSeleccion(); }
+    std::u16string SelFontName() const { return partes_->caja->nombreFuenteSeleccion(); }
     void SelFontName(std::u16string_view nombre);
     /// In points.
     std::int16_t SelFontSize() const;
     void SelFontSize(std::int16_t puntos);
-    const Fuente& Font() const { return caja_.fuente(); }
-    void Font(const Fuente& fuente) { propiedades_.ponFont(fuente); }
+    const Fuente& Font() const { return partes_->caja->fuente(); }
+    void Font(const Fuente& fuente) { vivo()->propiedades.ponFont(fuente); }
     bool TextoModificado() const;
     /// False clears the mark, true does nothing.
     void TextoModificado(bool modificado);
 
     // Options.
-    bool Borde3D() const { return opciones_.borde3D; }
-    void Borde3D(bool valor) { propiedades_.ponBorde3D(valor); }
-    bool LeftBorderVisible() const { return opciones_.leftBorderVisible; }
-    void LeftBorderVisible(bool valor) { propiedades_.ponLeftBorderVisible(valor); }
-    std::int16_t MargenIzquierdo() const { return opciones_.margenIzquierdo; }
-    void MargenIzquierdo(std::int16_t twips) { propiedades_.ponMargenIzquierdo(twips); }
-    bool HideSelection() const { return opciones_.hideSelection; }
-    void HideSelection(bool valor) { propiedades_.ponHideSelection(valor); }
-    bool LenguajeSensible() const { return opciones_.lenguajeSensible; }
-    void LenguajeSensible(bool valor) { pon(opciones_.lenguajeSensible, valor, u"LenguajeSensible"); }
-    bool AutoCorreccion() const { return opciones_.autoCorreccion; }
-    void AutoCorreccion(bool valor) { pon(opciones_.autoCorreccion, valor, u"AutoCorreccion"); }
-    std::int16_t EspaciosXTAB() const { return opciones_.espaciosXTAB; }
-    void EspaciosXTAB(std::int16_t cuantos) { pon(opciones_.espaciosXTAB, cuantos, u"EspaciosXTAB"); }
-    bool AutoTAB() const { return opciones_.autoTAB; }
-    void AutoTAB(bool valor) { pon(opciones_.autoTAB, valor, u"AutoTAB"); }
-    bool MarcarErrores() const { return opciones_.marcarErrores; }
-    void MarcarErrores(bool valor) { pon(opciones_.marcarErrores, valor, u"MarcarErrores"); }
-    bool MuestraMensajesDeError() const { return opciones_.muestraMensajesDeError; }
+    bool Borde3D() const { return partes_->opciones.borde3D; }
+    void Borde3D(bool valor) { vivo()->propiedades.ponBorde3D(valor); }
+    bool LeftBorderVisible() const { return partes_->opciones.leftBorderVisible; }
+    void LeftBorderVisible(bool valor) { vivo()->propiedades.ponLeftBorderVisible(valor); }
+    std::int16_t MargenIzquierdo() const { return partes_->opciones.margenIzquierdo; }
+    void MargenIzquierdo(std::int16_t twips) { vivo()->propiedades.ponMargenIzquierdo(twips); }
+    bool HideSelection() const { return partes_->opciones.hideSelection; }
+    void HideSelection(bool valor) { vivo()->propiedades.ponHideSelection(valor); }
+    bool LenguajeSensible() const { return partes_->opciones.lenguajeSensible; }
+    void LenguajeSensible(bool valor) { pon(partes_->opciones.lenguajeSensible, valor, u"LenguajeSensible"); }
+    bool AutoCorreccion() const { return partes_->opciones.autoCorreccion; }
+    void AutoCorreccion(bool valor) { pon(partes_->opciones.autoCorreccion, valor, u"AutoCorreccion"); }
+    std::int16_t EspaciosXTAB() const { return partes_->opciones.espaciosXTAB; }
+    void EspaciosXTAB(std::int16_t cuantos) { pon(partes_->opciones.espaciosXTAB, cuantos, u"EspaciosXTAB"); }
+    bool AutoTAB() const { return partes_->opciones.autoTAB; }
+    void AutoTAB(bool valor) { pon(partes_->opciones.autoTAB, valor, u"AutoTAB"); }
+    bool MarcarErrores() const { return partes_->opciones.marcarErrores; }
+    void MarcarErrores(bool valor) { pon(partes_->opciones.marcarErrores, valor, u"MarcarErrores"); }
+    bool MuestraMensajesDeError() const { return partes_->opciones.muestraMensajesDeError; }
     void MuestraMensajesDeError(bool valor) {
-        pon(opciones_.muestraMensajesDeError, valor, u"MuestraMensajesDeError");
+        pon(partes_->opciones.muestraMensajesDeError, valor, u"MuestraMensajesDeError");
     }
-    bool Colorear() const { return opciones_.colorear; }
-    void Colorear(bool valor) { pon(opciones_.colorear, valor, u"Colorear"); }
-    const std::u16string& NomLenguaje() const { return opciones_.nombreLenguaje; }
-    void NomLenguaje(std::u16string_view nombre) { pon(opciones_.nombreLenguaje, nombre, u"NombreLenguaje"); }
-    bool AutoNumero() const { return lexico_.autoNumber; }
-    void AutoNumero(bool valor) { pon(lexico_.autoNumber, valor, u"AutoNumero"); }
+    bool Colorear() const { return partes_->opciones.colorear; }
+    void Colorear(bool valor) { pon(partes_->opciones.colorear, valor, u"Colorear"); }
+    const std::u16string& NomLenguaje() const { return partes_->opciones.nombreLenguaje; }
+    void NomLenguaje(std::u16string_view nombre) {
+        pon(partes_->opciones.nombreLenguaje, nombre, u"NombreLenguaje");
+    }
+    bool AutoNumero() const { return partes_->lexico.autoNumber; }
+    void AutoNumero(bool valor) { pon(partes_->lexico.autoNumber, valor, u"AutoNumero"); }
 
     // What the container keeps for the design-time tools.
-    const std::u16string& ContenidoG() const { return opciones_.contenidoG; }
+    const std::u16string& ContenidoG() const { return partes_->opciones.contenidoG; }
     void ContenidoG(std::u16string_view especificacion) {
-        pon(opciones_.contenidoG, especificacion, u"ContenidoG");
+        pon(partes_->opciones.contenidoG, especificacion, u"ContenidoG");
     }
-    const std::u16string& CodigoPrueba() const { return opciones_.codigoPrueba; }
-    void CodigoPrueba(std::u16string_view texto) { pon(opciones_.codigoPrueba, texto, u"CodigoPrueba"); }
+    const std::u16string& CodigoPrueba() const { return partes_->opciones.codigoPrueba; }
+    void CodigoPrueba(std::u16string_view texto) {
+        pon(partes_->opciones.codigoPrueba, texto, u"CodigoPrueba");
+    }
 
     // Colours of the token kinds, 0x00BBGGRR: definitions take them when they are registered.
-    std::int32_t ColorPR() const { return lexico_.colorPalabrasReservadas; }
-    void ColorPR(std::int32_t color) { pon(lexico_.colorPalabrasReservadas, color, u"ColorPR"); }
-    std::int32_t ColorOperadores() const { return lexico_.ColorOperadores; }
-    void ColorOperadores(std::int32_t color) { pon(lexico_.ColorOperadores, color, u"ColorOperadores"); }
-    std::int32_t ColorComentarios() const { return lexico_.ColorComentarios; }
-    void ColorComentarios(std::int32_t color) { pon(lexico_.ColorComentarios, color, u"ColorComentarios"); }
-    std::int32_t ColorEtiquetas() const { return lexico_.ColorEtiquetas; }
-    void ColorEtiquetas(std::int32_t color) { pon(lexico_.ColorEtiquetas, color, u"ColorEtiquetas"); }
-    std::int32_t ColorNumeros() const { return lexico_.ColorNumeros; }
-    void ColorNumeros(std::int32_t color) { pon(lexico_.ColorNumeros, color, u"ColorNumeros"); }
+    std::int32_t ColorPR() const { return partes_->lexico.colorPalabrasReservadas; }
+    void ColorPR(std::int32_t color) { pon(partes_->lexico.colorPalabrasReservadas, color, u"ColorPR"); }
+    std::int32_t ColorOperadores() const { return partes_->lexico.ColorOperadores; }
+    void ColorOperadores(std::int32_t color) {
+        pon(partes_->lexico.ColorOperadores, color, u"ColorOperadores");
+    }
+    std::int32_t ColorComentarios() const { return partes_->lexico.ColorComentarios; }
+    void ColorComentarios(std::int32_t color) {
+        pon(partes_->lexico.ColorComentarios, color, u"ColorComentarios");
+    }
+    std::int32_t ColorEtiquetas() const { return partes_->lexico.ColorEtiquetas; }
+    void ColorEtiquetas(std::int32_t color) { pon(partes_->lexico.ColorEtiquetas, color, u"ColorEtiquetas"); }
+    std::int32_t ColorNumeros() const { return partes_->lexico.ColorNumeros; }
+    void ColorNumeros(std::int32_t color) { pon(partes_->lexico.ColorNumeros, color, u"ColorNumeros"); }
     /// Read at each marking.
-    std::int32_t ColorError() const { return lexico_.ColorError; }
-    void ColorError(std::int32_t color) { pon(lexico_.ColorError, color, u"ColorError"); }
-    std::int32_t ColorCadena() const { return lexico_.ColorCadena; }
-    void ColorCadena(std::int32_t color) { pon(lexico_.ColorCadena, color, u"ColorCadena"); }
-    std::int32_t ColorCaracter() const { return lexico_.ColorCaracter; }
-    void ColorCaracter(std::int32_t color) { pon(lexico_.ColorCaracter, color, u"ColorCaracter"); }
-    std::int32_t ColorFechas() const { return lexico_.ColorFechas; }
-    void ColorFechas(std::int32_t color) { pon(lexico_.ColorFechas, color, u"ColorFechas"); }
+    std::int32_t ColorError() const { return partes_->lexico.ColorError; }
+    void ColorError(std::int32_t color) { pon(partes_->lexico.ColorError, color, u"ColorError"); }
+    std::int32_t ColorCadena() const { return partes_->lexico.ColorCadena; }
+    void ColorCadena(std::int32_t color) { pon(partes_->lexico.ColorCadena, color, u"ColorCadena"); }
+    std::int32_t ColorCaracter() const { return partes_->lexico.ColorCaracter; }
+    void ColorCaracter(std::int32_t color) { pon(partes_->lexico.ColorCaracter, color, u"ColorCaracter"); }
+    std::int32_t ColorFechas() const { return partes_->lexico.ColorFechas; }
+    void ColorFechas(std::int32_t color) { pon(partes_->lexico.ColorFechas, color, u"ColorFechas"); }
 
     // What the control owns, for reports and modules.
-    gramatica& Gramatica() { return gramatica_; }
-    pilaTokens& Lexico() { return lexico_; }
-    const Marcas::Signos& signos() const { return marcas_.signos(); }
-    const Historial& historial() const { return historial_; }
+    gramatica& Gramatica() { return partes_->laGramatica; }
+    pilaTokens& Lexico() { return partes_->lexico; }
+    const Marcas::Signos& signos() const { return partes_->marcas.signos(); }
+    const Historial& historial() const { return partes_->historial; }
 
 private:
+    /// What is called on it goes on whole, whoever deletes the control meanwhile.
+    std::shared_ptr<PartesControl> vivo() const { return partes_; }
     template <typename Tipo, typename Valor>
     void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
-        propiedades_.pon(campo, valor, nombre);
+        vivo()->propiedades.pon(campo, valor, nombre);
     }
-    void sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);
-    void alFallarElAnalisis(const Mensaje& mensaje);
-    void muestraErrorLexico(const std::u16string& mensaje);
-    bool analizaEspecificacion(std::u16string_view codGramatica);
-
-    CajaTexto& caja_;
-    Sistema& sistema_;
-    Contenedor& contenedor_;
-    Opciones opciones_;
-    EstadoEdicion estado_;
-    pilaTokens lexico_;
-    gramatica gramatica_;
-    LectorTokens lector_;
-    ConductorSLR conductor_;
-    Colocacion colocacion_;
-    Propiedades propiedades_;
-    Coloreado coloreado_;
-    Marcas marcas_;
-    Historial historial_;
-    Edicion edicion_;
 };
 
 } // namespace norvik

@@ -16,6 +16,7 @@ public:
             if (!primero_) primero_ = std::current_exception();
         }
     }
+    bool haFallado() const { return primero_ != nullptr; }
     void acaba() const {
         if (primero_) std::rethrow_exception(primero_);
     }

@@ -8,8 +8,8 @@ namespace norvik {
 
 void Propiedades::construye() {
     constexpr std::int32_t margenEnPixeles = 8192; // lines are never wrapped
-    caja_.ponFuente(Fuente{});
-    caja_.ponMargenDerecho(contenedor_.medidas().pixelX * margenEnPixeles);
+    caja_->ponFuente(Fuente{});
+    caja_->ponMargenDerecho(contenedor_->medidas().pixelX * margenEnPixeles);
     lexico_.autoNumber = true;
     lexico_.ColorComentarios = 0x008000;
     lexico_.ColorError = 0x0000FF;
@@ -17,60 +17,60 @@ void Propiedades::construye() {
     lexico_.ColorOperadores = 0x000080;
     lexico_.colorPalabrasReservadas = 0x800000;
     lexico_.ColorEtiquetas = 0xFF8080;
-    caja_.ponOcultaSeleccion(true);
-    opciones_.hideSelection = caja_.ocultaSeleccion();
+    caja_->ponOcultaSeleccion(true);
+    opciones_.hideSelection = caja_->ocultaSeleccion();
     ponLeftBorderVisible(true);
 }
 
 void Propiedades::ponBorde3D(bool valor) {
     if (valor == opciones_.borde3D) return;
-    contenedor_.muestraMarco(valor);
+    contenedor_->muestraMarco(valor);
     opciones_.borde3D = valor;
-    contenedor_.cambioDePropiedad(u"Borde3D");
+    contenedor_->cambioDePropiedad(u"Borde3D");
     colocacion_.colocaControles();
 }
 
 void Propiedades::ponLeftBorderVisible(bool valor) {
-    contenedor_.muestraBordeIzquierdo(valor);
+    contenedor_->muestraBordeIzquierdo(valor);
     opciones_.leftBorderVisible = valor;
     colocacion_.colocaControles();
-    contenedor_.cambioDePropiedad(u"LeftBorderVisible");
+    contenedor_->cambioDePropiedad(u"LeftBorderVisible");
 }
 
 void Propiedades::ponMargenIzquierdo(std::int16_t valor) {
     if (valor == opciones_.margenIzquierdo) return;
     opciones_.margenIzquierdo = valor;
     colocacion_.colocaControles();
-    contenedor_.cambioDePropiedad(u"MargenIzquierdo");
+    contenedor_->cambioDePropiedad(u"MargenIzquierdo");
 }
 
 void Propiedades::ponHideSelection(bool valor) {
     if (valor == opciones_.hideSelection) return;
     opciones_.hideSelection = valor;
-    caja_.ponOcultaSeleccion(valor);
-    contenedor_.cambioDePropiedad(u"HideSelection");
+    caja_->ponOcultaSeleccion(valor);
+    contenedor_->cambioDePropiedad(u"HideSelection");
 }
 
 void Propiedades::ponText(std::u16string_view texto) {
-    if (texto == caja_.texto()) return;
-    caja_.ponTexto(texto);
-    contenedor_.cambioDePropiedad(u"Text");
+    if (texto == caja_->texto()) return;
+    caja_->ponTexto(texto);
+    contenedor_->cambioDePropiedad(u"Text");
 }
 
 // --- Font ---
 
 template <typename Tipo>
 void Propiedades::ponAtributo(Tipo Fuente::*atributo, const Tipo& valor) {
-    Fuente fuente = caja_.fuente();
+    Fuente fuente = caja_->fuente();
     fuente.*atributo = valor;
-    caja_.ponFuente(fuente);
+    caja_->ponFuente(fuente);
 }
 
 template <typename Tipo>
 void Propiedades::copiaAtributo(const Fuente& fuente, Tipo Fuente::*atributo, std::u16string_view nombre) {
-    if (caja_.fuente().*atributo == fuente.*atributo) return;
+    if (caja_->fuente().*atributo == fuente.*atributo) return;
     ponAtributo(atributo, fuente.*atributo);
-    contenedor_.cambioDePropiedad(nombre);
+    contenedor_->cambioDePropiedad(nombre);
 }
 
 void Propiedades::ponFont(const Fuente& fuente) {
@@ -94,12 +94,12 @@ void Propiedades::cedeARanuras() const {
 void Propiedades::tomaDeRanuras() {
     RanurasDisenio& ranuras = ranurasDisenio();
     opciones_.contenidoG = std::exchange(ranuras.especificacion, {});
-    contenedor_.cambioDePropiedad(u"ContenidoG");
+    contenedor_->cambioDePropiedad(u"ContenidoG");
     opciones_.codigoPrueba = std::exchange(ranuras.textoPrueba, {});
-    contenedor_.cambioDePropiedad(u"ContenidoG");
-    contenedor_.cambioDePropiedad(u"CodigoPrueba");
+    contenedor_->cambioDePropiedad(u"ContenidoG");
+    contenedor_->cambioDePropiedad(u"CodigoPrueba");
     opciones_.pendienteGuardarG = ranuras.pendienteGuardar;
-    contenedor_.cambioDePropiedad(u"pendienteGuardarG");
+    contenedor_->cambioDePropiedad(u"pendienteGuardarG");
 }
 
 // --- Restoring, in the order of the keys ---
@@ -109,7 +109,7 @@ void Propiedades::restaura(const BolsaPropiedades& bolsa) {
     pon(lexico_.autoNumber, bolsa.leeBooleano(u"AutoNumero", true), u"AutoNumero");
     opciones_.autoTAB = bolsa.leeBooleano(u"AutoTAB", true);
     opciones_.borde3D = bolsa.leeBooleano(u"Borde3D", true);
-    contenedor_.muestraMarco(opciones_.borde3D);
+    contenedor_->muestraMarco(opciones_.borde3D);
     restauraColores(bolsa);
     opciones_.espaciosXTAB = bolsa.lee16(u"EspaciosXTAB", 4);
     restauraFuente(bolsa);
@@ -143,8 +143,8 @@ void Propiedades::restauraFuente(const BolsaPropiedades& bolsa) {
 }
 
 void Propiedades::restauraAspecto(const BolsaPropiedades& bolsa) {
-    caja_.ponOcultaSeleccion(bolsa.leeBooleano(u"HideSelection", true));
-    opciones_.hideSelection = caja_.ocultaSeleccion();
+    caja_->ponOcultaSeleccion(bolsa.leeBooleano(u"HideSelection", true));
+    opciones_.hideSelection = caja_->ocultaSeleccion();
     ponLeftBorderVisible(bolsa.leeBooleano(u"LeftBorderVisible", true));
     pon(opciones_.lenguajeSensible, bolsa.leeBooleano(u"LenguajeSensible", false), u"LenguajeSensible");
     opciones_.marcarErrores = bolsa.leeBooleano(u"MarcarErrores", false);
@@ -154,7 +154,7 @@ void Propiedades::restauraAspecto(const BolsaPropiedades& bolsa) {
 
 void Propiedades::restauraTextos(const BolsaPropiedades& bolsa) {
     opciones_.nombreLenguaje = bolsa.leeTexto(u"NombreLenguaje", {});
-    caja_.ponTexto(bolsa.leeTexto(u"Text", {}));
+    caja_->ponTexto(bolsa.leeTexto(u"Text", {}));
     colocacion_.colocaControles();
     opciones_.contenidoG = bolsa.leeTexto(u"ContenidoG", {});
     opciones_.codigoPrueba = bolsa.leeTexto(u"CodigoPrueba", {});
@@ -196,7 +196,7 @@ void Propiedades::guardaColores(BolsaPropiedades& bolsa) const {
 }
 
 void Propiedades::guardaFuente(BolsaPropiedades& bolsa) const {
-    const Fuente& fuente = caja_.fuente();
+    const Fuente& fuente = caja_->fuente();
     const Fuente omision;
     bolsa.escribeBooleano(u"FontBold", fuente.negrita, omision.negrita);
     bolsa.escribeEntero(u"FontCharset", fuente.juegoCaracteres, omision.juegoCaracteres);

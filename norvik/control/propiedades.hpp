@@ -4,6 +4,7 @@
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/prestado.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
@@ -16,8 +17,8 @@ namespace norvik {
 /// saved.
 class Propiedades {
 public:
-    Propiedades(Opciones& opciones, pilaTokens& lexico, CajaTexto& caja, Colocacion& colocacion,
-                Contenedor& contenedor)
+    Propiedades(Opciones& opciones, pilaTokens& lexico, const Prestado<CajaTexto>& caja,
+                Colocacion& colocacion, const Prestado<Contenedor>& contenedor)
         : opciones_(opciones), lexico_(lexico), caja_(caja), colocacion_(colocacion),
           contenedor_(contenedor) {}
 
@@ -28,7 +29,7 @@ public:
     void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
         if (campo == valor) return;
         campo = valor;
-        contenedor_.cambioDePropiedad(nombre);
+        contenedor_->cambioDePropiedad(nombre);
     }
     void ponBorde3D(bool valor);
     void ponLeftBorderVisible(bool valor);
@@ -61,9 +62,9 @@ private:
 
     Opciones& opciones_;
     pilaTokens& lexico_;
-    CajaTexto& caja_;
+    const Prestado<CajaTexto>& caja_;
     Colocacion& colocacion_;
-    Contenedor& contenedor_;
+    const Prestado<Contenedor>& contenedor_;
 };
 
 } // namespace norvik

@@ -25,6 +25,21 @@ void gramatica::inicializaGramatica() {
     inicializaConjuntos();
 }
 
+void gramatica::copiaReglas(const gramatica& otra) {
+    inicializaGramatica();
+    valores_.reglas = otra.valores_.reglas;
+    valores_.tabla.ponInicial(valores_.reglas.en(1).cabeza);
+    inicializaConjuntos();
+}
+
+void gramatica::intercambia(gramatica& otra) {
+    std::swap(valores_, otra.valores_);
+    std::swap(pendientes_, otra.pendientes_);
+    std::swap(numEstados_, otra.numEstados_);
+    std::swap(conTextos_, otra.conTextos_);
+    edicion_ = otra.edicion_ = std::max(edicion_, otra.edicion_) + 1;
+}
+
 void gramatica::SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t /*codigo*/) {
     cambia();
     if (valores_.reglas.total() == 0) valores_.tabla.ponInicial(cabeza);

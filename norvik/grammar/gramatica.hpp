@@ -46,6 +46,10 @@ public:
 
     /// Forgets rules, symbols, sets and automaton; the table stays.
     void inicializaGramatica();
+    /// Takes the rules of another grammar and nothing else; the table stays.
+    void copiaReglas(const gramatica& otra);
+    /// Exchanges all that two grammars have.
+    void intercambia(gramatica& otra);
     /// Stores one rule for each alternative of the body (separated by "|"). The code has no effect.
     /// Raises `SubindiceFueraDeIntervalo` at rule 1001; those stored before stay.
     void SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t codigo = 0);

@@ -60,6 +60,7 @@ Arbol* Arbol::GetHijo(std::int16_t numHijo) const {
 }
 
 void Arbol::SetLexema(std::u16string_view datoNodo) {
+    reanima();
     const std::u16string_view copia = arbol().guardaTexto(datoNodo);
     lexema_ = copia.data();
     largoLexema_ = estrecha<std::uint32_t>(copia.size());
@@ -78,11 +79,20 @@ void Arbol::SetNumRegla(std::u16string_view numeroRegla) {
 }
 
 void Arbol::ponRegla(std::u16string_view nombre, std::u16string_view cuerpo, std::int16_t numero) {
-    regla_ = &arbol().guardaRegla(nombre, cuerpo, numero);
+    const FichaRegla& ficha = arbol().guardaRegla(nombre, cuerpo, numero);
+    reanima();
+    regla_ = &ficha;
+}
+
+/// A node of a tree that was dropped becomes one of the present tree, as it reads.
+void Arbol::reanima() {
+    if (!regla_->retirada) return;
+    limpia();
+    padre_ = nullptr;
 }
 
 void Arbol::limpia() {
-    regla_ = &arbol().sinRegla_;
+    regla_ = &arbol().sinRegla();
     hijos_ = nullptr;
     lexema_ = nullptr;
     numHijos_ = 0;
@@ -91,6 +101,7 @@ void Arbol::limpia() {
 }
 
 void Arbol::Inicializa() {
+    reanima();
     std::vector<Arbol*> pendientes = {this};
     while (!pendientes.empty()) {
         Arbol* const nodo = pendientes.back();

@@ -8,20 +8,26 @@
 namespace norvik {
 
 class ArbolSintactico;
+class GeneracionArbol;
 
 /// Which child a descent takes: always the first, or always the last.
 enum Direccion : std::int16_t { Norvik_Izquierda = 0, Norvik_Derecha = 1 };
 
-/// What the nodes that one rule produced have in common: the rule, and the tree that they belong to.
+/// What the nodes that one rule produced have in common: the rule, the tree that they belong to, and whether
+/// they are part of it still.
 struct FichaRegla {
     ArbolSintactico* arbol = nullptr;
     std::u16string_view nombre;
     std::u16string_view cuerpo;
     std::int16_t numero = -1;
+    bool retirada = false; ///< the tree was dropped: the nodes read as initialised
 };
 
 /// A node of a syntax tree: a token of the text (a leaf) or an application of a rule. Nodes belong to their
-/// `ArbolSintactico`; references and texts hold until its next parse.
+/// tree, which the next parse drops; texts hold until then. A reference held across that parse, accepted or
+/// not, is to an initialised node, without parent. Its place may serve a node of a tree after that one, the
+/// sooner the larger the trees are; it is a node as long as its tree's owner (the control) lives. The root is
+/// the same node all that time. Whoever keeps a tree longer copies what it needs.
 class Arbol {
 public:
     /// Only a tree makes nodes.
@@ -34,7 +40,9 @@ public:
     Arbol& operator=(const Arbol&) = delete;
     ~Arbol() = default;
 
-    std::u16string_view GetLexema() const { return {lexema_, largoLexema_}; }
+    std::u16string_view GetLexema() const {
+        return regla_->retirada ? std::u16string_view() : std::u16string_view(lexema_, largoLexema_);
+    }
     /// The lexeme in upper case.
     std::u16string GetULexema() const;
     /// 1-based; 0 when never set.
@@ -48,7 +56,7 @@ public:
     std::int16_t GetNumRegla() const { return regla_->numero; }
     /// Raises `Desbordamiento` beyond 32 767 children.
     std::int16_t GetNumHijos() const;
-    bool GetEsHoja() const { return numHijos_ == 0; }
+    bool GetEsHoja() const { return hijos().empty(); }
     /// Child at a 1-based position, null beyond the last; raises `IndiceNoValido` below 1.
     Arbol* GetHijo(std::int16_t numHijo) const;
 
@@ -82,6 +90,7 @@ public:
 
     /// All children, from the leftmost.
     std::span<Arbol* const> hijos() const {
+        if (regla_->retirada) return {};
         return {numHijos_ == 1 && conSitio_ == 0 ? &hijo_ : hijos_, numHijos_};
     }
     /// The whole subtree in one canonical text, a node a line, two blanks a level: `head -> body [number]` or
@@ -90,10 +99,12 @@ public:
 
 private:
     friend class ArbolSintactico;
+    friend class GeneracionArbol;
 
     static constexpr std::uint32_t maximoHijos = 0x7FFFFFFF;
 
     void limpia();
+    void reanima();
     ArbolSintactico& arbol() const { return *regla_->arbol; }
     void ponRegla(std::u16string_view nombre, std::u16string_view cuerpo, std::int16_t numero);
     bool tieneEncima(const Arbol& nodo) const;

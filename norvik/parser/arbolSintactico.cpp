@@ -1,7 +1,11 @@
-// How the nodes of a tree hang together. A parser's node has all its children side by side in the arena, and
-// a table of exactly their number, or points at the only one; the first attachment by hand moves the table to
-// one with room at both ends, which doubles, so that each attachment takes constant time on the average. What
-// is left behind is taken back with the tree.
+// How the nodes of a tree hang together. A parser's node has all its children side by side, and a table of
+// exactly their number, or points at the only one; the first attachment by hand moves the table to one with
+// room at both ends, which doubles, so that each attachment takes constant time on the average. What is left
+// behind is taken back with the tree.
+//
+// A tree that is dropped is retired, at a cost of its rules and not of its nodes, and the next one is made in
+// other places: of a generation retired before, the oldest, once enough memory is among the retired ones.
+// Trees of any size so alternate between two places at least, and small ones stay long where they were.
 #include "norvik/parser/arbolSintactico.hpp"
 
 #include "norvik/base/errores.hpp"
@@ -15,13 +19,28 @@
 namespace norvik {
 
 void ArbolSintactico::reinicia() {
+    activa_->retira();
+    if (!activa_->vacia()) cambiaDeGeneracion();
+    activa_->empieza();
     raiz_.limpia();
     raiz_.padre_ = nullptr;
     arena_.reinicia();
 }
 
+void ArbolSintactico::cambiaDeGeneracion() {
+    constexpr std::size_t bastantes = std::size_t{256} << 10;
+    bytesRetirados_ += activa_->bytes();
+    if (generaciones_.size() > 1 && bytesRetirados_ > bastantes) {
+        generaciones_.splice(generaciones_.end(), generaciones_, generaciones_.begin());
+        bytesRetirados_ -= generaciones_.back().bytes();
+    } else {
+        generaciones_.emplace_back(*this);
+    }
+    activa_ = &generaciones_.back();
+}
+
 Arbol& ArbolSintactico::nuevoNodo() {
-    return *std::construct_at(arena_.reserva<Arbol>(1), Arbol::Clave{}, sinRegla_);
+    return *std::construct_at(activa_->reserva(1), Arbol::Clave{}, sinRegla());
 }
 
 std::u16string_view ArbolSintactico::guardaTexto(std::u16string_view texto) {
@@ -32,8 +51,7 @@ std::u16string_view ArbolSintactico::guardaTexto(std::u16string_view texto) {
 
 const FichaRegla& ArbolSintactico::guardaRegla(std::u16string_view nombre, std::u16string_view cuerpo,
                                                std::int16_t numero) {
-    return *std::construct_at(arena_.reserva<FichaRegla>(1),
-                              FichaRegla{this, guardaTexto(nombre), guardaTexto(cuerpo), numero});
+    return activa_->nuevaFicha(guardaTexto(nombre), guardaTexto(cuerpo), numero);
 }
 
 void ArbolSintactico::hazHoja(Arbol& nodo, std::u16string_view lexema, std::int32_t linea,
@@ -52,14 +70,10 @@ std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, const FichaRegla&
     }
     nodo.regla_ = &regla;
     if (numHijos == 0) return {};
-    // One record: the table of the children, and they themselves.
-    static_assert(alignof(Arbol) == alignof(Arbol*));
-    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
-    std::byte* const registro = arena_.reservaBytes(numHijos * (sizeof(Arbol*) + sizeof(Arbol)));
-    auto** const tabla = reinterpret_cast<Arbol**>(registro);
-    auto* const hijos = reinterpret_cast<Arbol*>(tabla + numHijos);
+    auto** const tabla = arena_.reserva<Arbol*>(numHijos);
+    auto* const hijos = activa_->reserva(numHijos);
     for (std::size_t i = 0; i < numHijos; ++i)
-        std::construct_at(tabla + i, std::construct_at(hijos + i, Arbol::Clave{}, sinRegla_, &nodo));
+        std::construct_at(tabla + i, std::construct_at(hijos + i, Arbol::Clave{}, sinRegla(), &nodo));
     nodo.hijos_ = tabla;
     nodo.numHijos_ = static_cast<std::uint32_t>(numHijos) & Arbol::maximoHijos;
     return {tabla, numHijos};
@@ -104,6 +118,8 @@ bool Arbol::tieneEncima(const Arbol& nodo) const {
 
 // The node to attach for one that is given. Only a node with children can stand above this one.
 Arbol& Arbol::adopta(Arbol& hijo) {
+    reanima();
+    hijo.reanima();
     if (&hijo == this || (!hijo.GetEsHoja() && tieneEncima(hijo))) throw ArgumentoNoValido();
     const bool libre = hijo.padre_ == nullptr && &hijo.arbol() == &arbol();
     Arbol& adoptado = libre ? hijo : arbol().copia(hijo);

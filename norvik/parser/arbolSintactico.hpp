@@ -2,9 +2,11 @@
 
 #include "norvik/parser/arbol.hpp"
 #include "norvik/parser/arena.hpp"
+#include "norvik/parser/generacionArbol.hpp"
 
 #include <cstddef>
 #include <cstdint>
+#include <list>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -15,14 +17,17 @@ namespace norvik {
 /// texts.
 class ArbolSintactico {
 public:
-    ArbolSintactico() : sinRegla_{this, {}, {}}, raiz_(Arbol::Clave{}, sinRegla_) {}
+    ArbolSintactico()
+        : activa_(&generaciones_.emplace_back(*this)), raiz_(Arbol::Clave{}, activa_->sinRegla()) {}
     ArbolSintactico(const ArbolSintactico&) = delete;
     ArbolSintactico& operator=(const ArbolSintactico&) = delete;
     ~ArbolSintactico() = default;
 
     Arbol& raiz() { return raiz_; }
-    /// Drops the tree: the root is initialised, the memory of the other nodes is used again.
+    /// Drops the tree: the root is initialised, and so is what is held of the other nodes.
     void reinicia();
+    /// All nodes of the tree are made.
+    void acaba() { activa_->acaba(); }
     /// An initialised node without parent.
     Arbol& nuevoNodo();
 
@@ -37,7 +42,7 @@ public:
     std::span<Arbol* const> hazRegla(Arbol& nodo, const FichaRegla& regla, std::size_t numHijos);
     /// The same with one child.
     Arbol& hazReglaDeUno(Arbol& nodo, const FichaRegla& regla) {
-        Arbol& hijo = *std::construct_at(arena_.reserva<Arbol>(1), Arbol::Clave{}, sinRegla_, &nodo);
+        Arbol& hijo = *std::construct_at(activa_->reserva(1), Arbol::Clave{}, sinRegla(), &nodo);
         nodo.regla_ = &regla;
         nodo.hijo_ = &hijo;
         nodo.numHijos_ = 1;
@@ -47,11 +52,15 @@ public:
 private:
     friend class Arbol;
 
+    const FichaRegla& sinRegla() const { return activa_->sinRegla(); }
+    void cambiaDeGeneracion();
     Arbol& copia(const Arbol& original);
     void hazSitio(Arbol& nodo);
 
-    Arena arena_;
-    const FichaRegla sinRegla_;
+    Arena arena_; ///< texts and tables of children, which no node shows once it is retired
+    std::list<GeneracionArbol> generaciones_; ///< the one in use last, before it those retired, oldest first
+    GeneracionArbol* activa_;
+    std::size_t bytesRetirados_ = 0;
     Arbol raiz_;
 };
 

@@ -27,16 +27,6 @@ public:
         return reinterpret_cast<T*>(reservaBytes(n * sizeof(T)));
     }
 
-    /// Room for the objects of one record, which lie side by side in it; aligned as pointers are, as all that
-    /// is handed out.
-    std::byte* reservaBytes(std::size_t bytes) {
-        const std::size_t hueco = (bytes + alineacion - 1) & ~(alineacion - 1);
-        if (libre_.size() < hueco) pasaDeBloque(hueco);
-        std::byte* const inicio = libre_.data();
-        libre_ = libre_.subspan(hueco);
-        return inicio;
-    }
-
     void reinicia() {
         libre_ = {};
         usados_ = 0;
@@ -50,6 +40,13 @@ private:
         std::size_t tamanio = 0;
     };
 
+    std::byte* reservaBytes(std::size_t bytes) {
+        const std::size_t hueco = (bytes + alineacion - 1) & ~(alineacion - 1);
+        if (libre_.size() < hueco) pasaDeBloque(hueco);
+        std::byte* const inicio = libre_.data();
+        libre_ = libre_.subspan(hueco);
+        return inicio;
+    }
     // Goes on to a block with room, a new one if there is none.
     void pasaDeBloque(std::size_t bytes) {
         constexpr std::size_t minimo = std::size_t{64} * 1024;

@@ -29,6 +29,7 @@ public:
             pendientes_.pop_back();
             hazSubarbol(nodo);
         }
+        arbol_.acaba();
     }
 
 private:

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <vector>
+
 using namespace norvik;
 
 namespace {
@@ -170,6 +173,82 @@ TEST(Arbol, AguantaProfundidadYAnchura) {
     }
     arbol.raiz().SetHijo(*cima);
     EXPECT_EQ(arbol.raiz().GetHijo(1), cima);
+}
+
+/// A tree of so many nodes below the root, half of them leaves with a lexeme; gives the last but one.
+Arbol& planta(ArbolSintactico& arbol, std::size_t nodos) {
+    arbol.reinicia();
+    const auto& regla = arbol.guardaRegla(u"S", u"a S", 7);
+    Arbol* nodo = &arbol.raiz();
+    for (std::size_t i = 0; i < nodos; i += 2) {
+        const auto hijos = arbol.hazRegla(*nodo, regla, 2);
+        ArbolSintactico::hazHoja(*hijos[0], arbol.guardaTexto(u"a"), 3, 4);
+        nodo = hijos[1];
+    }
+    arbol.acaba();
+    return *arbol.raiz().GetHijo(2);
+}
+
+std::u16string comoSeLee(const Arbol& nodo) {
+    return nodo.toString() + nodo.GetLexema() + nodo.GetNomRegla() + nodo.GetRegla() +
+           (nodo.GetEsHoja() && nodo.GetHijo(1) == nullptr ? u"hoja" : u"");
+}
+constexpr std::u16string_view inicializado = u"'' (0, 0)\nhoja";
+
+TEST(Arbol, UnNodoGuardadoSeLeeInicializadoTrasOtroArbol) {
+    for (const std::size_t nodos : {2U, 100U, 20000U}) {
+        for (const std::size_t otros : {0U, 2U, 90U, 200U, 30000U}) {
+            ArbolSintactico arbol;
+            planta(arbol, 20000); // places that were used before
+            planta(arbol, 1000);
+            Arbol& interior = planta(arbol, nodos);
+            Arbol& hoja = *arbol.raiz().GetHijo(1);
+            const std::u16string lleno = arbol.raiz().toString();
+            if (otros == 0)
+                arbol.reinicia(); // a parse that fails
+            else
+                planta(arbol, otros);
+            EXPECT_EQ(comoSeLee(interior), inicializado) << nodos << ' ' << otros;
+            EXPECT_EQ(comoSeLee(hoja), u"'' (3, 4)\nhoja") << nodos << ' ' << otros;
+            EXPECT_EQ(interior.GetNumRegla(), -1);
+            planta(arbol, nodos);
+            EXPECT_EQ(arbol.raiz().toString(), lleno);
+        }
+    }
+}
+
+TEST(Arbol, UnNodoGuardadoPasaAlArbolDeAhora) {
+    ArbolSintactico arbol;
+    Arbol& viejo = planta(arbol, 4);
+    Arbol& hoja = *viejo.GetHijo(1);
+    Arbol& otro = *viejo.GetHijo(2);
+    planta(arbol, 2);
+    hoja.SetLexema(u"nuevo");
+    viejo.SetHijo(hoja);
+    viejo.SetNomRegla(u"V");
+    otro.SetHijo(viejo);
+    arbol.raiz().SetHijo(otro);
+    EXPECT_EQ(otro.toString(), u"'' (0, 0)\n  V ->  [-1]\n    'nuevo' (3, 4)\n");
+    EXPECT_EQ(arbol.raiz().GetHijo(1), &otro);
+    arbol.reinicia();
+    for (const Arbol* const nodo : {&viejo, &otro}) EXPECT_EQ(comoSeLee(*nodo), inicializado);
+    EXPECT_EQ(comoSeLee(hoja), u"'' (3, 4)\nhoja");
+}
+
+// Whatever becomes of a reference that is held for long, it is to a node, and all nodes of trees are right.
+TEST(Arbol, UnNodoGuardadoMuchoTiempoEsUnNodo) {
+    ArbolSintactico arbol;
+    std::mt19937 azar(11);
+    std::vector<const Arbol*> guardados;
+    for (int vez = 0; vez < 300; ++vez) {
+        planta(arbol, 2 + (azar() % 3 == 0 ? azar() % 9000 : azar() % 50));
+        for (const Arbol* const nodo : guardados) {
+            const bool entero = nodo->GetNumRegla() == 7 && nodo->hijos().size() == 2;
+            EXPECT_TRUE(entero || nodo->GetEsHoja());
+        }
+        guardados.push_back(&arbol.raiz().GetUltimoDescendienteEnDireccion(Norvik_Derecha));
+        guardados.push_back(&arbol.raiz().GetUltimoDescendienteEnDireccion(Norvik_Izquierda));
+    }
 }
 
 } // namespace

@@ -115,7 +115,9 @@ void CajaTextoMemoria::avisaDelCambio(const Sustitucion& sustitucion, const Sele
     estiloDeEscritura_.reset();
     const bool otraSeleccion = antes != Seleccion{inicio_, longitud_};
     alSustituir(sustitucion);
+    const auto vivo = testigo();
     if (eventos.cambio) eventos.cambio();
+    if (vivo.expired()) return;
     if (otraSeleccion && eventos.cambioDeSeleccion) eventos.cambioDeSeleccion();
 }
 

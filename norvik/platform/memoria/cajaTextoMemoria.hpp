@@ -3,6 +3,7 @@
 #include "norvik/base/lineas.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -92,6 +93,8 @@ protected:
     /// Una edición del usuario, tras la cual la selección es la que se da.
     void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
+    /// Expires with the box, which a receiver of its events may destroy.
+    std::weak_ptr<const void> testigo() const { return testigo_; }
     const std::vector<Estilo>& estilos() const { return estilos_; }
     const Letra& letra(std::int32_t numero) const { return letras_[static_cast<std::size_t>(numero - 1)]; }
 
@@ -125,6 +128,7 @@ private:
     bool ocultaSeleccion_ = true;
     std::int32_t margenDerecho_ = 0;
     std::int32_t izquierda_ = 0;
+    std::shared_ptr<const char> testigo_ = std::make_shared<char>();
     mutable IndiceLineas lineas_;
     mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio
 };

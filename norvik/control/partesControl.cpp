@@ -1,0 +1,85 @@
+#include "norvik/control/partesControl.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/control/pasosFirmes.hpp"
+
+namespace norvik {
+
+PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& suContenedor)
+    : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lector(lexico, suCaja),
+      conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
+      propiedades(opciones, lexico, caja, colocacion, contenedor),
+      coloreado(caja, lexico, opciones, estado, colocacion), marcas(caja, estado), historial(caja, estado),
+      edicion(caja, opciones, estado, coloreado, colocacion, historial, eventos) {
+    propiedades.construye();
+}
+
+void PartesControl::conecta() {
+    edicion.conecta(weak_from_this());
+    conductor.alFallar = [this](const Mensaje& mensaje) { alFallarElAnalisis(mensaje); };
+}
+
+void PartesControl::abandona() {
+    edicion.calla();
+    if (cargando_) sistema->ponPuntero(Puntero::Normal);
+    caja.cambia(cajaDeNadie_);
+    sistema.cambia(sistemaDeNadie_);
+    contenedor.cambia(sinContenedor());
+}
+
+void PartesControl::alFallarElAnalisis(const Mensaje& mensaje) {
+    if (opciones.muestraMensajesDeError) sistema->muestraMensaje(mensaje);
+    if (opciones.marcarErrores) MarcaErrorLineaToken();
+}
+
+void PartesControl::MarcaErrorLinea(std::int16_t numLinea) {
+    marcas.marcaLinea(numLinea, lexico.ColorError);
+}
+
+void PartesControl::MarcaErrorLineaToken() {
+    MarcaErrorLinea(lector.LineaToken());
+    estado.lineaEnEdicion = false;
+}
+
+void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+    PasosFirmes paso;
+    paso([&] { historial.sustituye(inicio, longitud, nuevo); });
+    paso([this] { coloreado.coloreaTodo(); });
+    paso.acaba();
+}
+
+void PartesControl::clickEnSuperficie() {
+    caja->enfoca();
+    if (!estado.ocupado) edicion.avisaClick();
+}
+
+// --- The text as a whole ---
+
+void PartesControl::BorraTodo() {
+    PasosFirmes paso;
+    paso([this] { caja->ponTexto({}); });
+    caja->ponColorSeleccion(0);
+    paso([this] { historial.InicializaUndosYRedos(); });
+    paso.acaba();
+}
+
+void PartesControl::CargarFichero(const std::filesystem::path& nomFichero) {
+    BorraTodo();
+    const std::u16string texto = leeTexto(nomFichero);
+    const TextoOculto oculto(colocacion);
+    PasosFirmes paso;
+    paso([&] { caja->ponTexto(texto); });
+    paso([this] { coloreado.coloreaTodo(); });
+    paso.acaba();
+}
+
+void PartesControl::Imprimir() {
+    try {
+        sistema->imprime(caja->texto());
+    } catch (const ErrorNorvik& error) {
+        sistema->muestraMensaje({error.texto(), {}, Icono::Ninguno, Botones::Aceptar});
+    }
+}
+
+} // namespace norvik

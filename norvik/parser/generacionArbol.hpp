@@ -1,0 +1,126 @@
+#pragma once
+
+#include "norvik/parser/arbol.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// The nodes of one tree and what their rules have in common, which are retired together: a node shows what
+/// its `FichaRegla` lets it, so that blanking those few makes each node read as initialised. The places of
+/// the nodes hold nothing but nodes as long as this lives, whatever was retired meanwhile.
+class GeneracionArbol {
+public:
+    explicit GeneracionArbol(ArbolSintactico& arbol) : arbol_(arbol), deNadie_{&arbol, {}, {}, -1, true} {
+        empieza();
+    }
+    GeneracionArbol(const GeneracionArbol&) = delete;
+    GeneracionArbol& operator=(const GeneracionArbol&) = delete;
+    ~GeneracionArbol() = default;
+
+    /// Room for nodes side by side, which are constructed next.
+    Arbol* reserva(std::size_t n) {
+        if (libres_.size() < n * sizeof(Arbol)) pasaDeBloque(n);
+        std::byte* const inicio = libres_.data();
+        libres_ = libres_.subspan(n * sizeof(Arbol));
+        return reinterpret_cast<Arbol*>(inicio);
+    }
+    const FichaRegla& nuevaFicha(std::u16string_view nombre, std::u16string_view cuerpo,
+                                 std::int16_t numero) {
+        auto& fichas = fichas_[turno_];
+        if (numFichas_ == fichas.size()) fichas.emplace_back();
+        return fichas[numFichas_++] = {&arbol_, nombre, cuerpo, numero, false};
+    }
+    /// Of the nodes that no rule produced.
+    const FichaRegla& sinRegla() const { return *sinRegla_; }
+
+    bool vacia() const { return actual_ == 0 && libres_.size() == tamanioDe(0); }
+    std::size_t bytes() const { return bytes_; }
+
+    /// The tree is complete: places that it has not used again hold initialised nodes for good.
+    void acaba() {
+        apuntaUsados();
+        for (std::size_t b = 0; b < bloques_.size(); ++b) {
+            Bloque& bloque = bloques_[b];
+            const std::size_t usados = b > actual_ ? 0 : bloque.usados;
+            for (std::size_t i = usados; i < bloque.construidos; ++i) nodo(bloque, i).regla_ = &deNadie_;
+            bloque.construidos = usados;
+        }
+    }
+    /// All nodes read as initialised from now on, until `empieza` and new nodes take their places.
+    void retira() {
+        acaba();
+        auto& fichas = fichas_[turno_];
+        for (std::size_t i = 0; i < numFichas_; ++i) fichas[i] = deNadie_;
+    }
+    /// For another tree, in the same memory. The nodes retired keep their cards, of which there are two sets
+    /// for that, until their places are taken or the tree is complete.
+    void empieza() {
+        turno_ = 1 - turno_;
+        numFichas_ = 0;
+        actual_ = 0;
+        libres_ = bloques_.empty() ? std::span<std::byte>() : bloques_.front().memoria();
+        sinRegla_ = &nuevaFicha({}, {}, -1);
+    }
+
+private:
+    static constexpr std::size_t minimoNodos = 64;
+    static constexpr std::size_t maximoNodos = 1365; ///< 64 KiB
+
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): a vector would clear it
+    using Memoria = std::byte[];
+    struct Bloque {
+        std::unique_ptr<Memoria> propia;
+        std::size_t cabida = 0;      ///< nodes
+        std::size_t usados = 0;      ///< by the tree in it; of the block under way, when it was last asked
+        std::size_t construidos = 0; ///< places that hold a node, from the first on
+
+        std::span<std::byte> memoria() const { return {propia.get(), cabida * sizeof(Arbol)}; }
+    };
+
+    static Arbol& nodo(const Bloque& bloque, std::size_t i) {
+        return *std::launder(reinterpret_cast<Arbol*>(bloque.propia.get()) + i);
+    }
+    std::size_t tamanioDe(std::size_t bloque) const {
+        return bloque < bloques_.size() ? bloques_[bloque].memoria().size() : 0;
+    }
+    void apuntaUsados() {
+        if (bloques_.empty()) return;
+        Bloque& bloque = bloques_[actual_];
+        bloque.usados = bloque.cabida - libres_.size() / sizeof(Arbol);
+        bloque.construidos = std::max(bloque.construidos, bloque.usados);
+    }
+    void pasaDeBloque(std::size_t n) {
+        apuntaUsados();
+        if (!bloques_.empty()) ++actual_;
+        for (; actual_ < bloques_.size() && bloques_[actual_].cabida < n; ++actual_)
+            bloques_[actual_].usados = 0;
+        if (actual_ == bloques_.size()) {
+            const std::size_t cabida =
+                std::max(n, std::clamp(bytes_ / sizeof(Arbol), minimoNodos, maximoNodos));
+            bloques_.push_back({std::make_unique_for_overwrite<Memoria>(cabida * sizeof(Arbol)), cabida});
+            bytes_ += cabida * sizeof(Arbol);
+        }
+        libres_ = bloques_[actual_].memoria();
+    }
+
+    ArbolSintactico& arbol_;
+    const FichaRegla deNadie_; ///< of the nodes that are no part of a tree any more
+    std::array<std::deque<FichaRegla>, 2> fichas_;
+    std::size_t turno_ = 0;
+    std::size_t numFichas_ = 0;
+    const FichaRegla* sinRegla_ = nullptr;
+    std::vector<Bloque> bloques_;
+    std::size_t actual_ = 0;      ///< block under way
+    std::span<std::byte> libres_; ///< what is left of it
+    std::size_t bytes_ = 0;
+};
+
+} // namespace norvik
