@@ -8,7 +8,6 @@
 #include <QPainterPath>
 #include <QPalette>
 
-
 namespace norvik {
 
 namespace {

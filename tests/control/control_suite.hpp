@@ -165,6 +165,16 @@ TEST_P(ControlTest, ElMarcadoDeErrorSeVaAlCambiar) {
     teclea(u"x");
     EXPECT_EQ(colores(), "PPPPP.........");
     EXPECT_TRUE(enReposo());
+    caja.selecciona(0, 0); // the line typed in waited to be coloured all the same
+    EXPECT_EQ(colores(), "PPPPP....NN...");
+}
+
+TEST_P(ControlTest, ElMarcadoDeErrorQuedaAlDejarSuLinea) {
+    empieza(u"begin x\r\n12 b", 13);
+    teclea(u"x");
+    norvik.MarcaErrorLinea(2);
+    caja.selecciona(0, 0);
+    EXPECT_EQ(colores(), "PPPPP....EEEEE");
 }
 
 TEST_P(ControlTest, SangriaDeLaLineaNueva) {

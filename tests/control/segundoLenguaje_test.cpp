@@ -35,21 +35,20 @@ const Lenguaje lenguajes[] = {{"pascal", [](Norvik& control) { modulo_pascal::Ca
                               {"c", [](Norvik& control) { modulo_c::CargaLenguaje(control); }}};
 
 using Via = std::function<void(Norvik&, const Lenguaje&)>;
-const std::pair<const char*, Via> vias[] = {
-    {"especificación",
-     [](Norvik& control, const Lenguaje& l) {
-         EXPECT_TRUE(control.CargaGramatica(l.especificacion()));
-         EXPECT_TRUE(control.GeneraCompilador());
-     }},
-    {"módulo",
-     [](Norvik& control, const Lenguaje& l) {
-         control.OlvidaLenguaje();
-         EXPECT_FALSE(CargaModulo(l.modulo(), control));
-     }},
-    {"cabecera", [](Norvik& control, const Lenguaje& l) {
-         control.OlvidaLenguaje();
-         l.cabecera(control);
-     }}};
+const std::pair<const char*, Via> vias[] = {{"especificación",
+                                             [](Norvik& control, const Lenguaje& l) {
+                                                 EXPECT_TRUE(control.CargaGramatica(l.especificacion()));
+                                                 EXPECT_TRUE(control.GeneraCompilador());
+                                             }},
+                                            {"módulo",
+                                             [](Norvik& control, const Lenguaje& l) {
+                                                 control.OlvidaLenguaje();
+                                                 EXPECT_FALSE(CargaModulo(l.modulo(), control));
+                                             }},
+                                            {"cabecera", [](Norvik& control, const Lenguaje& l) {
+                                                 control.OlvidaLenguaje();
+                                                 l.cabecera(control);
+                                             }}};
 
 /// Whatever tells one language from another.
 std::string retrato(Anfitrion& a, const Lenguaje& l) {
@@ -85,7 +84,8 @@ TEST(SegundoLenguaje, EsComoElPrimero) {
 
 TEST(SegundoLenguaje, OlvidadoNoQuedaNada) {
     Anfitrion a;
-    const std::string vacio = a.lexico() + a.reglas() + aUtf8(a.tabla() + a.norvik.Gramatica().textoInforme());
+    const std::string vacio =
+        a.lexico() + a.reglas() + aUtf8(a.tabla() + a.norvik.Gramatica().textoInforme());
     ASSERT_TRUE(a.compila(lenguajes[0].especificacion()));
     EXPECT_NE(a.norvik.Gramatica().conflicto(138, a.norvik.Gramatica().GetCodigoToken(u"sino") + 1), 0);
     a.norvik.OlvidaLenguaje();
