@@ -3,7 +3,7 @@
 
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-paquetes_base=(g++ cmake ninja-build pkg-config libpcre2-dev rapidjson-dev libcli11-dev libgtest-dev)
+paquetes_base=(g++ cmake ninja-build pkg-config rapidjson-dev libcli11-dev libgtest-dev)
 paquetes_qt=(qt6-base-dev libqt6opengl6-dev)
 paquetes_disenador=(qt6-tools-dev)
 paquetes_referencia=(doxygen)

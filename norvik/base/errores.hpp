@@ -31,7 +31,8 @@ public:
     TextoDemasiadoLargo();
 };
 
-/// Una búsqueda que pide más tiempo o memoria de los que puede tener. El texto nombra la definición, si se conoce.
+/// Una búsqueda que pide más tiempo o memoria de los que puede tener. El texto nombra la definición, si se
+/// conoce.
 class BusquedaDesbocada : public Desbordamiento {
 public:
     BusquedaDesbocada();

@@ -25,7 +25,7 @@ void ordenaYFunde(std::vector<RangoUnidades>& rangos) {
 }
 
 // Of ranges in order with gaps between them.
-std::vector<RangoUnidades> complemento(const std::vector<RangoUnidades>& rangos) {
+std::vector<RangoUnidades> complemento(std::span<const RangoUnidades> rangos) {
     std::vector<RangoUnidades> resultado;
     std::uint32_t desde = 0;
     for (const RangoUnidades& rango : rangos) {
@@ -37,7 +37,7 @@ std::vector<RangoUnidades> complemento(const std::vector<RangoUnidades>& rangos)
     return resultado;
 }
 
-void aniade(std::vector<RangoUnidades>& destino, const std::vector<RangoUnidades>& origen) {
+void aniade(std::vector<RangoUnidades>& destino, std::span<const RangoUnidades> origen) {
     destino.insert(destino.end(), origen.begin(), origen.end());
 }
 
@@ -64,8 +64,11 @@ ClaseUnidades::ClaseUnidades(const ClaseLeida& leida, bool ignoraMayusculas) {
     std::vector<RangoUnidades> rangos = leida.rangos;
     if (ignoraMayusculas) aniadeEquivalentes(rangos);
     for (const ClaseLeida::Escape& escape : leida.escapes) {
-        const std::vector<RangoUnidades>& suyos = rangosDe(escape.propiedad);
-        aniade(rangos, escape.negado ? complemento(suyos) : suyos);
+        const auto suyos = rangosDe(escape.propiedad);
+        if (escape.negado)
+            aniade(rangos, complemento(suyos));
+        else
+            aniade(rangos, suyos);
     }
     ordenaYFunde(rangos);
     *this = ClaseUnidades(leida.negada ? complemento(rangos) : std::move(rangos));
@@ -79,11 +82,6 @@ bool ClaseUnidades::contieneAlta(char16_t unidad) const {
     const auto siguiente = std::partition_point(
         rangos_.begin(), rangos_.end(), [unidad](const RangoUnidades& r) { return r.hasta < unidad; });
     return siguiente != rangos_.end() && siguiente->desde <= unidad;
-}
-
-bool esDePalabra(char16_t unidad) {
-    static const ClaseUnidades palabra(rangosDe(Propiedad::Palabra));
-    return palabra.contiene(unidad);
 }
 
 } // namespace norvik

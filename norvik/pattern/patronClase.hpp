@@ -1,25 +1,21 @@
 #pragma once
 
+#include "norvik/pattern/rangoUnidades.hpp"
+
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <vector>
 
 namespace norvik {
 
-/// Units from `desde` to `hasta`, both included.
-struct RangoUnidades {
-    char16_t desde = 0;
-    char16_t hasta = 0;
-
-    bool operator==(const RangoUnidades&) const = default;
-};
-
 /// The sets of units that escapes name.
 enum class Propiedad : std::uint8_t { Digito, Palabra, Espacio, Letra };
 
 /// The units with a property, by Unicode: ranges in order, with gaps between them.
-const std::vector<RangoUnidades>& rangosDe(Propiedad propiedad);
+std::span<const RangoUnidades> rangosDe(Propiedad propiedad);
+bool tiene(Propiedad propiedad, char16_t unidad);
 
 /// Whether a unit belongs to a word, as boundaries understand it.
 bool esDePalabra(char16_t unidad);

@@ -5,8 +5,6 @@
 // piece or the group just finished; after it, or after an assertion, there is nothing to repeat.
 #include "norvik/pattern/patron.hpp"
 
-#include "norvik/pattern/mayusculas.hpp"
-
 #include <algorithm>
 
 namespace norvik {
@@ -26,7 +24,7 @@ constexpr bool esLetraAscii(char16_t c) {
 
 bool esLetra(char16_t c) {
     if (c < 0x80) return esLetraAscii(c);
-    return ClaseUnidades(rangosDe(Propiedad::Letra)).contiene(c);
+    return tiene(Propiedad::Letra, c);
 }
 
 constexpr int valorHexadecimal(char16_t c) {

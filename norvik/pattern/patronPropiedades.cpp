@@ -1,54 +1,61 @@
-// The sets that \d, \w and \s name, and the letters, are those of the PCRE2 library: each is found at its
-// first use by one search over all units, so that what we compute ourselves and what the library computes
-// cannot differ.
+// The sets that \d, \w and \s name, and the letters, by Unicode's categories.
 #include "norvik/pattern/patronClase.hpp"
 
-#include "norvik/pattern/pcre2.hpp"
+#include "norvik/pattern/tablaUnicode.hpp"
 
-#include <array>
-#include <string>
+#include <algorithm>
+#include <initializer_list>
+#include <utility>
+#include <vector>
 
 namespace norvik {
 
 namespace {
 
-std::vector<RangoUnidades> busca(std::u16string_view patron) {
-    std::u16string todas;
-    for (std::uint32_t unidad = 0; unidad < 0x10000; ++unidad) todas.push_back(static_cast<char16_t>(unidad));
-    const CodigoPcre codigo = compilaPcre(patron, PCRE2_UCP | PCRE2_NEVER_UTF);
-    const DatosPcre datos(pcre2_match_data_create_16(1, nullptr));
+std::vector<RangoUnidades> reune(std::initializer_list<std::span<const RangoUnidades>> tablas) {
     std::vector<RangoUnidades> rangos;
-    std::size_t desde = 0;
-    while (pcre2_match_16(codigo.get(), unidadesPcre(todas), todas.size(), desde, 0, datos.get(), nullptr) >
-           0) {
-        const PCRE2_SIZE* limites = pcre2_get_ovector_pointer_16(datos.get());
-        rangos.push_back({static_cast<char16_t>(limites[0]), static_cast<char16_t>(limites[1] - 1)});
-        desde = limites[1];
-    }
-    return rangos;
+    for (const auto tabla : tablas) rangos.insert(rangos.end(), tabla.begin(), tabla.end());
+    return ClaseUnidades(std::move(rangos)).rangos();
 }
+
+// Besides letters and numbers.
+constexpr RangoUnidades deUnaPalabra[] = {{u'_', u'_'}};
+// Controls that move on, and a separator of old that Unicode has since made a format character.
+constexpr RangoUnidades otrosEspacios[] = {{u'\t', u'\r'}, {u'\u0085', u'\u0085'}, {u'\u180E', u'\u180E'}};
 
 } // namespace
 
-const std::vector<RangoUnidades>& rangosDe(Propiedad propiedad) {
+std::span<const RangoUnidades> rangosDe(Propiedad propiedad) {
     switch (propiedad) {
-    case Propiedad::Digito: {
-        static const auto rangos = busca(u"\\d+");
-        return rangos;
-    }
-    case Propiedad::Palabra: {
-        static const auto rangos = busca(u"\\w+");
-        return rangos;
-    }
-    case Propiedad::Espacio: {
-        static const auto rangos = busca(u"\\s+");
-        return rangos;
-    }
+    case Propiedad::Digito:
+        return unicode::cifras;
     case Propiedad::Letra:
+        return unicode::letras;
+    case Propiedad::Palabra: {
+        static const auto rangos =
+            reune({unicode::letras, unicode::cifras, unicode::otrosNumeros, deUnaPalabra});
+        return rangos;
+    }
+    case Propiedad::Espacio:
         break;
     }
-    static const auto letras = busca(u"\\p{L}+");
-    return letras;
+    static const auto espacios = reune({unicode::espacios, otrosEspacios});
+    return espacios;
+}
+
+bool tiene(Propiedad propiedad, char16_t unidad) {
+    const auto rangos = rangosDe(propiedad);
+    const auto siguiente =
+        std::ranges::partition_point(rangos, [&](const RangoUnidades& r) { return r.hasta < unidad; });
+    return siguiente != rangos.end() && siguiente->desde <= unidad;
+}
+
+bool esDePalabra(char16_t unidad) {
+    static const ClaseUnidades palabra = [] {
+        const auto rangos = rangosDe(Propiedad::Palabra);
+        return ClaseUnidades({rangos.begin(), rangos.end()});
+    }();
+    return palabra.contiene(unidad);
 }
 
 } // namespace norvik

@@ -1,6 +1,7 @@
 #include "norvik/platform/cajaTexto.hpp"
 
-#include "norvik/base/texto.hpp"
+#include "norvik/pattern/mayusculas.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
 #include <algorithm>
 
@@ -8,14 +9,16 @@ namespace norvik {
 
 namespace {
 
-bool esDePalabra(char16_t c) {
-    return c == u'_' || (c >= u'0' && c <= u'9') || aMayusculas({&c, 1}) != aMinusculas({&c, 1});
-}
-
 bool esPalabraCompleta(std::u16string_view texto, std::size_t inicio, std::size_t longitud) {
     const std::size_t fin = inicio + longitud;
     return (inicio == 0 || !esDePalabra(texto[inicio - 1])) &&
            (fin == texto.size() || !esDePalabra(texto[fin]));
+}
+
+std::u16string plegado(std::u16string_view texto) {
+    std::u16string forma(texto);
+    std::ranges::transform(texto, forma.begin(), pliega);
+    return forma;
 }
 
 /// First occurrence in the text's [desde, hasta), `npos` when there is none.
@@ -38,9 +41,8 @@ std::int32_t CajaTexto::busca(std::u16string_view cadena, std::int32_t desde, st
     if (cadena.empty() || fin < inicio) return -1;
     const bool palabra = (opciones & opcionBusqueda::palabraCompleta) != 0;
     const bool exacta = (opciones & opcionBusqueda::distingueMayusculas) != 0;
-    const std::size_t posicion =
-        exacta ? primera(texto(), cadena, inicio, fin, palabra)
-               : primera(aMinusculas(texto()), aMinusculas(cadena), inicio, fin, palabra);
+    const std::size_t posicion = exacta ? primera(texto(), cadena, inicio, fin, palabra)
+                                        : primera(plegado(texto()), plegado(cadena), inicio, fin, palabra);
     if (posicion == std::u16string_view::npos) return -1;
     const auto encontrada = static_cast<std::int32_t>(posicion);
     if ((opciones & opcionBusqueda::sinResaltar) == 0) {

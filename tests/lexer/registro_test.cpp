@@ -50,7 +50,7 @@ TEST(Registro, LaDefinicionDeUnPatronSeExpandeEnElYEnSuLectura) {
     for (int i = 0; i < 2000; ++i) {
         std::u16string patron;
         while (azar() % 8 != 0) patron += signos[azar() % signos.size()];
-        const auto expansion = expande(definicionDePatron(patron), lexico);
+        const auto expansion = expande(definicionDePatron(patron), lexico.definiciones());
         EXPECT_EQ(std::get<Expansion>(expansion).patron, patron);
         EXPECT_EQ(std::get<Expansion>(expansion).lectura, lecturaDePatron(patron)) << aUtf8(patron);
     }

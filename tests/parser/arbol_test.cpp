@@ -190,8 +190,9 @@ Arbol& planta(ArbolSintactico& arbol, std::size_t nodos) {
 }
 
 std::u16string comoSeLee(const Arbol& nodo) {
-    return nodo.toString() + nodo.GetLexema() + nodo.GetNomRegla() + nodo.GetRegla() +
-           (nodo.GetEsHoja() && nodo.GetHijo(1) == nullptr ? u"hoja" : u"");
+    std::u16string texto = nodo.toString();
+    texto.append(nodo.GetLexema()).append(nodo.GetNomRegla()).append(nodo.GetRegla());
+    return texto.append(nodo.GetEsHoja() && nodo.GetHijo(1) == nullptr ? u"hoja" : u"");
 }
 constexpr std::u16string_view inicializado = u"'' (0, 0)\nhoja";
 
@@ -228,7 +229,8 @@ TEST(Arbol, UnNodoGuardadoPasaAlArbolDeAhora) {
     viejo.SetNomRegla(u"V");
     otro.SetHijo(viejo);
     arbol.raiz().SetHijo(otro);
-    EXPECT_EQ(otro.toString(), u"'' (0, 0)\n  V ->  [-1]\n    'nuevo' (3, 4)\n");
+    EXPECT_EQ(otro.toString(), u"'' (0, 0)\n  '' (0, 0)\n    'nuevo' (3, 4)\n");
+    EXPECT_EQ(viejo.GetNomRegla(), u"V");
     EXPECT_EQ(arbol.raiz().GetHijo(1), &otro);
     arbol.reinicia();
     for (const Arbol* const nodo : {&viejo, &otro}) EXPECT_EQ(comoSeLee(*nodo), inicializado);

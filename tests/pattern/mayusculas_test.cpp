@@ -1,40 +1,79 @@
+#include "norvik/base/texto.hpp"
 #include "norvik/pattern/mayusculas.hpp"
-#include "norvik/pattern/pcre2.hpp"
+#include "norvik/pattern/patronClase.hpp"
 
 #include <gtest/gtest.h>
 
-#include <cctype>
-#include <numeric>
 #include <string>
+#include <utility>
 
 using namespace norvik;
 
 namespace {
 
-// The library's own answer for every unit against every unit.
-TEST(Mayusculas, ElPliegueEsLaRelacionDeLaBiblioteca) {
-    std::u16string todas(65536, u'\0');
-    std::iota(todas.begin(), todas.end(), u'\0');
-    const DatosPcre datos(pcre2_match_data_create_16(1, nullptr));
-    for (const char16_t unidad : todas) {
-        const bool esAlfanumerica = unidad >= 128 || std::isalnum(unidad) != 0;
-        const std::u16string patron = (esAlfanumerica ? u"" : u"\\") + std::u16string(1, unidad);
-        const CodigoPcre codigo = compilaPcre(patron, PCRE2_CASELESS | PCRE2_UCP | PCRE2_NEVER_UTF);
-        ASSERT_TRUE(codigo) << std::hex << unsigned{unidad};
-        pcre2_jit_compile_16(codigo.get(), PCRE2_JIT_COMPLETE);
-        std::u16string iguales;
-        std::size_t desde = 0;
-        while (pcre2_match_16(codigo.get(), unidadesPcre(todas), todas.size(), desde, 0, datos.get(),
-                              nullptr) > 0) {
-            iguales.push_back(todas[pcre2_get_ovector_pointer_16(datos.get())[0]]);
-            desde = iguales.back() + 1U;
-        }
-        const std::u16string_view dichas = equivalentes(unidad);
-        ASSERT_EQ(iguales, dichas.empty() ? std::u16string(1, unidad) : std::u16string(dichas))
-            << std::hex << unsigned{unidad};
-        ASSERT_NE(iguales.find(pliega(unidad)), std::u16string::npos) << std::hex << unsigned{unidad};
-        for (const char16_t igual : iguales)
-            ASSERT_EQ(pliega(igual), pliega(unidad)) << std::hex << unsigned{unidad};
+TEST(Mayusculas, CoincidenLasQueSoloSeDistinguenEnLaCaja) {
+    const std::pair<char16_t, std::u16string_view> filas[] = {{u'k', u"Kk\u212A"},
+                                                              {u'ſ', u"Ssſ"},
+                                                              {u'ñ', u"Ññ"},
+                                                              {u'ß', u"ß\u1E9E"},
+                                                              {u'µ', u"µΜμ"},
+                                                              {u'ς', u"Σςσ"},
+                                                              {u'ǅ', u"Ǆǅǆ"},
+                                                              {u'İ', u""},
+                                                              {u'ı', u""},
+                                                              {u'ª', u""},
+                                                              {u'1', u""},
+                                                              {u'Ω', u"Ωω\u2126"},
+                                                              {u'\u1C88', u"\u1C88\uA64A\uA64B"},
+                                                              {u'\uFF41', u"\uFF21\uFF41"},
+                                                              {char16_t{0xD801}, u""}};
+    for (const auto& [unidad, iguales] : filas) EXPECT_EQ(equivalentes(unidad), iguales) << unsigned{unidad};
+}
+
+// Who has the C library's capital or small letter agrees with it, but for the letters i of Turkish, which
+// have no fold.
+TEST(Mayusculas, TodasSusParejasSonLasDeLaBiblioteca) {
+    std::u16string conPareja;
+    for (std::uint32_t codigo = 0; codigo < 0x10000; ++codigo) {
+        const auto unidad = static_cast<char16_t>(codigo);
+        const std::u16string_view iguales = equivalentes(unidad);
+        for (const char16_t otra : iguales) ASSERT_EQ(pliega(otra), iguales.front()) << codigo;
+        if (iguales.empty())
+            ASSERT_EQ(pliega(unidad), unidad) << codigo;
+        else
+            conPareja.push_back(unidad);
+        if (unidad == u'İ' || unidad == u'ı') continue;
+        ASSERT_EQ(pliega(aMinusculas({&unidad, 1})[0]), pliega(unidad)) << codigo;
+        ASSERT_EQ(pliega(aMayusculas({&unidad, 1})[0]), pliega(unidad)) << codigo;
+    }
+    EXPECT_EQ(unidadesConPareja(), conPareja);
+}
+
+TEST(Unicode, DiceQueEsPalabraCifraYEspacio) {
+    struct Fila {
+        char16_t unidad;
+        bool letra, cifra, palabra, espacio;
+    };
+    const Fila filas[] = {{u'ñ', true, false, true, false},
+                          {u'_', false, false, true, false},
+                          {u'٣', false, true, true, false},
+                          {u'²', false, false, true, false},
+                          {u'Ⅷ', false, false, true, false},
+                          {u'\u0301', false, false, false, false},
+                          {u'\u3000', false, false, false, true},
+                          {u'\v', false, false, false, true},
+                          {u'\u0085', false, false, false, true},
+                          {u'\u180E', false, false, false, true},
+                          {u'\u200B', false, false, false, false},
+                          {u'中', true, false, true, false},
+                          {char16_t{0xD800}, false, false, false, false},
+                          {u'-', false, false, false, false}};
+    for (const auto& [unidad, letra, cifra, palabra, espacio] : filas) {
+        EXPECT_EQ(tiene(Propiedad::Letra, unidad), letra) << unsigned{unidad};
+        EXPECT_EQ(tiene(Propiedad::Digito, unidad), cifra) << unsigned{unidad};
+        EXPECT_EQ(tiene(Propiedad::Palabra, unidad), palabra) << unsigned{unidad};
+        EXPECT_EQ(esDePalabra(unidad), palabra) << unsigned{unidad};
+        EXPECT_EQ(tiene(Propiedad::Espacio, unidad), espacio) << unsigned{unidad};
     }
 }
 

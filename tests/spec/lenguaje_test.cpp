@@ -259,7 +259,8 @@ TEST(Lenguaje, SeHaceDeDatosQueSalenDeUnLenguaje) {
          "es incorrecta. Revísela para obtener un análisis léxico adecuado."},
         {{definiciones, simbolos, 3, 3, celdas, simbolos},
          "No coinciden los tipos: la regla «num» no tiene «->» entre su cabeza y su cuerpo"},
-        {{definiciones, reglas, 3, 3, fuera, simbolos}, "Subíndice fuera de intervalo"},
+        {{definiciones, reglas, 3, 3, fuera, simbolos},
+         "Subíndice fuera de intervalo: en la tabla, la fila 4 no está entre 1 y 3"},
         {{definiciones, reglas, 3, 3, perdida, simbolos},
          "el valor 3 del estado 0, símbolo num, no nombra ningún estado ni regla"},
     };
