@@ -115,7 +115,7 @@ bool Norvik::CargarFichero(const std::filesystem::path& nomFichero) {
     return true;
 }
 
-bool Norvik::SalvarFichero(const std::filesystem::path& nomFichero) {
+bool Norvik::SalvarFichero(const std::filesystem::path& nomFichero) const {
     try {
         escribeTexto(nomFichero, Text().append(saltoDeLinea), Durabilidad::EnDisco);
         return true;

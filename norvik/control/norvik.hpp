@@ -157,7 +157,7 @@ public:
     /// Replaces the text by a file's and colours it. True, or raises `ErrorDeFichero` with the text emptied.
     bool CargarFichero(const std::filesystem::path& nomFichero);
     /// Writes the text and a line end; false when that failed.
-    bool SalvarFichero(const std::filesystem::path& nomFichero);
+    bool SalvarFichero(const std::filesystem::path& nomFichero) const;
     /// Prints the text; a failure is told in a message box.
     void Imprimir();
 

@@ -49,7 +49,7 @@ void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u
     paso.acaba();
 }
 
-void PartesControl::clickEnSuperficie() {
+void PartesControl::clickEnSuperficie() const {
     caja->enfoca();
     if (!estado.ocupado) edicion.avisaClick();
 }
@@ -74,7 +74,7 @@ void PartesControl::CargarFichero(const std::filesystem::path& nomFichero) {
     paso.acaba();
 }
 
-void PartesControl::Imprimir() {
+void PartesControl::Imprimir() const {
     try {
         sistema->imprime(caja->texto());
     } catch (const ErrorNorvik& error) {

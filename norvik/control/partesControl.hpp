@@ -56,8 +56,8 @@ public:
     void sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);
     void BorraTodo();
     void CargarFichero(const std::filesystem::path& nomFichero);
-    void Imprimir();
-    void clickEnSuperficie();
+    void Imprimir() const;
+    void clickEnSuperficie() const;
     /// Raises `ArgumentoNoValido` while a language is being loaded or compiled.
     void compruebaQueNadaCarga() const;
 

@@ -143,7 +143,7 @@ public:
 
     QSize sizeHint() const override { return {480, 320}; }
 
-public slots:
+public slots: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
     void OlvidaLenguaje() { control_.OlvidaLenguaje(); }
     void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
 

@@ -107,6 +107,13 @@ TEST(Reconocimiento, UnaBusquedaDesbocadaNombraSuDefinicion) {
     EXPECT_EQ(lexico.ReconoceTokens(u"xxy").toString(), u"1 3 mala\n2 1 buena\n");
 }
 
+// What fails for one definition says nothing of the positions within its walk.
+TEST(Reconocimiento, UnaDefinicionQueSeSolapaConsigoMismaNoPierdeNada) {
+    pilaTokens lexico;
+    registra(lexico, {{u"uno", u"[ab]ac"}, {u"otro", u"a+d"}});
+    EXPECT_EQ(lexico.ReconoceTokens(u"aaac").toString(), u"2 3 uno\n");
+}
+
 // The rule of recognition, written down plainly: each definition alone, in order.
 std::u16string mapaIngenuo(const pilaTokens& lexico, std::u16string_view texto) {
     std::map<std::int32_t, std::pair<std::int32_t, std::u16string>> mapa;
@@ -129,7 +136,15 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
         for (std::size_t n = azar() % (maximo + 1); n > 0; --n) texto += letras[azar() % letras.size()];
         return texto;
     };
+    // Their walks fail late and begin again within what they have walked over.
+    const auto solapado = [&] {
+        constexpr std::u16string_view piezas[] = {u"a", u"[ab]", u"[^d]", u"a+", u"b?", u"c", u"d"};
+        std::u16string texto;
+        for (std::size_t n = 2 + azar() % 3; n > 0; --n) texto += piezas[azar() % std::size(piezas)];
+        return texto;
+    };
     const auto patron = [&](int clase) {
+        if (clase == 4) return solapado();
         if (clase == 2) return u"[" + cadena(2, u"abñ") + u"c]*";
         if (clase == 3) return u"(" + cadena(1, u"a[b") + u"|[ab]|ñ)+" + cadena(2, u"abA$");
         return cadena(4, u"abAñŁ");
@@ -137,8 +152,8 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
     for (int vuelta = 0; vuelta < 400; ++vuelta) {
         pilaTokens lexico;
         for (int i = 0; i < 12; ++i)
-            lexico.SetER(patron(i % 4), u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
-        const std::u16string texto = cadena(vuelta % 10 == 0 ? 900 : 40, u"aaabbABñÑcŁA");
+            lexico.SetER(patron(i % 5), u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
+        const std::u16string texto = cadena(vuelta % 10 == 0 ? 900 : 40, u"aaabbABñÑcdŁA");
         EXPECT_EQ(lexico.ReconoceTokens(texto).toString(), mapaIngenuo(lexico, texto)) << aUtf8(texto);
     }
 }
