@@ -61,10 +61,10 @@ void IndicePalabras::ordena() {
     const auto clave = [](const Palabra& p) { return std::tie(p.plegada, p.exacta, p.patron); };
     std::ranges::sort(palabras_, [&](const auto& a, const auto& b) { return clave(a) < clave(b); });
     // Of words that are written alike only the first pattern can win.
-    const auto sobran = std::ranges::unique(palabras_, [](const auto& a, const auto& b) {
+    const auto iguales = [](const auto& a, const auto& b) {
         return a.plegada == b.plegada && a.exacta == b.exacta;
-    });
-    palabras_.erase(sobran.begin(), sobran.end());
+    };
+    palabras_.erase(std::unique(palabras_.begin(), palabras_.end(), iguales), palabras_.end());
     enlaza();
     for (std::uint32_t i = 0; i < palabras_.size(); ++i) reparte(i);
 }

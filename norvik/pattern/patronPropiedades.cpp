@@ -4,6 +4,7 @@
 #include "norvik/pattern/tablaUnicode.hpp"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -19,9 +20,10 @@ std::vector<RangoUnidades> reune(std::initializer_list<std::span<const RangoUnid
 }
 
 // Besides letters and numbers.
-constexpr RangoUnidades deUnaPalabra[] = {{u'_', u'_'}};
+constexpr auto deUnaPalabra = std::to_array<RangoUnidades>({{u'_', u'_'}});
 // Controls that move on, and a separator of old that Unicode has since made a format character.
-constexpr RangoUnidades otrosEspacios[] = {{u'\t', u'\r'}, {u'\u0085', u'\u0085'}, {u'\u180E', u'\u180E'}};
+constexpr auto otrosEspacios =
+    std::to_array<RangoUnidades>({{u'\t', u'\r'}, {u'\u0085', u'\u0085'}, {u'\u180E', u'\u180E'}});
 
 } // namespace
 

@@ -30,7 +30,7 @@ public:
     }
     void apilaHijos(std::vector<NodoDeArbol>& pila) const {
         const auto hijos = nodo_->hijos();
-        for (auto hijo = hijos.rbegin(); hijo != hijos.rend(); ++hijo) pila.emplace_back(**hijo);
+        for (std::size_t i = hijos.size(); i > 0; --i) pila.emplace_back(*hijos[i - 1]);
     }
 
 private:

@@ -98,7 +98,7 @@ void acortaTexto(QMessageBox& caja) {
     const qsizetype corte = texto.indexOf(u'\n');
     caja.setText(texto.left(corte).trimmed());
     // The box's grid owns it.
-    QPlainTextEdit& resto = nuevo<QPlainTextEdit>(texto.mid(corte + 1).trimmed());
+    auto& resto = nuevo<QPlainTextEdit>(texto.mid(corte + 1).trimmed());
     resto.setReadOnly(true);
     resto.setTabChangesFocus(true);
     resto.setAccessibleName(caja.text());
