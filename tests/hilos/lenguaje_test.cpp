@@ -35,7 +35,9 @@ std::vector<std::u16string> textosDe(const std::string& ejemplo) {
 
 void enVariosHilos(const std::function<void()>& tarea) {
     std::vector<std::jthread> hilos;
-    for (int i = 0; i < 4; ++i) hilos.emplace_back(tarea);
+    constexpr int cuantos = 4;
+    hilos.reserve(cuantos);
+    for (int i = 0; i < cuantos; ++i) hilos.emplace_back(tarea);
 }
 
 TEST(Hilos, CompartenUnLenguajeDesdeElPrimerTexto) {
@@ -43,6 +45,7 @@ TEST(Hilos, CompartenUnLenguajeDesdeElPrimerTexto) {
         const fs::path especificacion = ejemplos / ejemplo / (ejemplo + ".nvk");
         const std::vector<std::u16string> textos = textosDe(ejemplo);
         std::vector<std::string> esperados;
+        esperados.reserve(textos.size());
         const Lenguaje aparte = Lenguaje::deFichero(especificacion).lenguaje.value();
         for (const auto& texto : textos) esperados.push_back(resultado(analiza(aparte, texto)));
         const Lenguaje lenguaje = Lenguaje::deFichero(especificacion).lenguaje.value();
