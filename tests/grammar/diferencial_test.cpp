@@ -132,7 +132,7 @@ void comparaConElPuntoFijo(const gramatica& suya, const Reglas& reglas) {
             crece |= primeros[cabeza].size() != antes;
         }
     }
-    const std::vector<conjunto> conjuntos = suya.primeros();
+    const std::vector<conjunto>& conjuntos = suya.primeros();
     std::size_t i = 0;
     std::set<std::u16string> vistas;
     for (const auto& [cabeza, cuerpo] : reglas) {

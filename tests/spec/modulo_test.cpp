@@ -202,7 +202,7 @@ TEST(Modulo, CortadoEnCualquierSitioOConRuido) {
     for (std::size_t n = 1; n < bueno.size(); ++n) { // in two pieces
         std::vector<std::u16string> trozos = {{}, bueno.substr(n), bueno.substr(0, n)};
         const OrigenDeTexto origen = [&] {
-            const std::u16string trozo = trozos.back();
+            std::u16string trozo = trozos.back();
             if (trozos.size() > 1) trozos.pop_back();
             return trozo;
         };
