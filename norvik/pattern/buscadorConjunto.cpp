@@ -68,6 +68,7 @@ public:
     void prueba(std::uint64_t cuales, std::size_t posicion) {
         if (posicion >= proximaLibre_) libera(posicion);
         cuales &= ~ocupadas_;
+        if (cuales == 0) return;
         const bool sonVarias = (cuales & (cuales - 1)) != 0;
         if (sonVarias && posicion < enCurso_.texto.size()) cuales = pruebaJuntas(cuales, posicion);
         paraCadaBit(cuales, [&](std::size_t lugar) { pruebaSola(lugar, posicion); });
@@ -144,10 +145,13 @@ void Grupo::busca(const EnCurso& enCurso) {
     const std::u16string_view texto = enCurso.texto;
     for (const PatronNumerado& patron : patrones_) patron.busqueda->empieza(texto);
     Pasada pasada(enCurso, *conjunto_, patrones_);
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        if (i % tramo == 0) enCurso.gasto.anota(tramo * maximo);
-        const char16_t unidad = texto[i];
-        pasada.prueba(unidad < empiezan_.size() ? empiezan_[unidad] : empiezanAltas_, i);
+    for (std::size_t desde = 0; desde < texto.size(); desde += tramo) {
+        enCurso.gasto.anota(tramo * maximo);
+        const std::size_t hasta = std::min(texto.size(), desde + tramo);
+        for (std::size_t i = desde; i < hasta; ++i) {
+            const char16_t unidad = texto[i];
+            pasada.prueba(unidad < empiezan_.size() ? empiezan_[unidad] : empiezanAltas_, i);
+        }
     }
     pasada.prueba(vacias_, texto.size());
 }

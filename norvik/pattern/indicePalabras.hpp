@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,17 +33,25 @@ private:
     struct Palabra {
         std::u16string plegada;
         std::u16string exacta; ///< empty when case is ignored
+        std::uint64_t clave = 0;    ///< its first four folded characters …
+        std::uint64_t relevante = 0; ///< … and which bits of them it has
         std::int32_t patron = 0;
         std::uint32_t anterior = ninguna; ///< the last one in order that this one begins with or is equal to
         std::size_t libre = 0;            ///< end of the word's last occurrence in the search under way
     };
+    struct Entrada {
+        std::uint64_t clave = 0; ///< the word's
+        std::uint32_t palabra = 0;
+    };
     struct Cubo {
-        std::uint64_t segundos = 0;          ///< the low six bits of second characters, all for a word of one
-        std::vector<std::uint32_t> palabras; ///< in order
+        std::uint64_t segundos = 0;    ///< the low six bits of second characters, all for a word of one
+        std::vector<Entrada> entradas; ///< in order
     };
 
     void enlaza();
     void reparte(std::uint32_t palabra);
+    std::uint32_t candidata(const Cubo& cubo, std::uint64_t clave, std::u16string_view resto) const;
+    std::uint32_t candidataEntre(std::span<const Entrada> iguales, std::u16string_view resto) const;
     void prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion, MapaCoincidencias& mapa);
 
     std::vector<Palabra> palabras_;

@@ -49,10 +49,10 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
     const std::size_t tope = std::min(sujeto.size(), inicio + camino);
     std::size_t i = inicio;
     for (std::size_t racha = inicio;; racha = ++i) {
-        Numero destino = desconocido;
-        for (; i < tope; ++i) {
-            destino = siguiente(estado, sujeto[i]);
-            if (destino != estado) break;
+        Numero destino = estado;
+        while (destino == estado) {
+            i = finDeEstancia(estado, sujeto, i, tope);
+            destino = i < tope ? siguiente(estado, sujeto[i]) : desconocido;
         }
         const Mascaras aqui = mascaras_[estado];
         intentos.coinciden |= aqui.todosCompletos();
@@ -71,6 +71,14 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
         estado = destino;
     }
     intentos.coinciden &= ~intentos.indecisos;
+}
+
+// The first position from `i` on, short of `tope`, whose character is not known to keep a state as it is.
+std::size_t AutomataConjunto::finDeEstancia(Numero estado, std::u16string_view sujeto, std::size_t i,
+                                            std::size_t tope) const {
+    const Numero* const fila = &transiciones_[estado * numClases_];
+    while (i < tope && sujeto[i] < clases_.size() && fila[clases_[sujeto[i]]] == estado) ++i;
+    return i;
 }
 
 // Walks have ended at `hasta`, where they had been in `estado` since `desde`. Walks that come to this state

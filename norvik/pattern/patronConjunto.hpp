@@ -73,6 +73,8 @@ private:
     Numero calcula(Numero estado, char16_t unidad);
     Numero numeroDe(Miembros miembros);
     Mascaras mascarasDe(const Miembros& miembros) const;
+    std::size_t finDeEstancia(Numero estado, std::u16string_view sujeto, std::size_t i,
+                              std::size_t tope) const;
     std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde, std::size_t hasta,
                             std::uint64_t cuales, Numero primero, Numero estado);
 
