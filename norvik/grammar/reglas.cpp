@@ -30,12 +30,8 @@ void Reglas::guarda(std::u16string_view cabeza, std::u16string_view cuerpo) {
         cuerpo = recorta(cuerpo.substr(std::min(barra + 1, cuerpo.size())));
         reglas_.push_back(
             {std::u16string(cabeza), std::u16string(alternativa), cuentaElementos(alternativa)});
+        if (conCabeza_ + 1 == total() && !cabeza.empty()) ++conCabeza_;
     } while (!cuerpo.empty());
-}
-
-std::int16_t Reglas::numReglas() const {
-    const auto sinCabeza = std::ranges::find_if(reglas_, &std::u16string::empty, &Regla::cabeza);
-    return a16(sinCabeza - reglas_.begin());
 }
 
 std::u16string chequea(const Reglas& reglas) {

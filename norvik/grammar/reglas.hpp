@@ -36,12 +36,13 @@ public:
     }
     int total() const { return static_cast<int>(reglas_.size()); }
     /// The rules before the first without a head.
-    std::int16_t numReglas() const;
+    std::int16_t numReglas() const { return conCabeza_; }
     auto begin() const { return reglas_.begin(); }
     auto end() const { return reglas_.end(); }
 
 private:
     std::deque<Regla> reglas_;
+    std::int16_t conCabeza_ = 0;
 };
 
 /// Empty when every non-terminal used has a rule, else the message: it names the last that has none.

@@ -49,8 +49,9 @@ Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTok
     while (posicion <= static_cast<std::int32_t>(texto.size())) {
         const auto token = mapa.ganadoraEn(posicion);
         if (!token || token->longitud == 0) {
-            const auto caracter = texto.substr(static_cast<std::size_t>(posicion) - 1, 1);
-            if (!esBlanco(caracter.front())) return {{TokenLeido::desconocido, caracter}, posicion, posicion};
+            const std::size_t lugar = static_cast<std::size_t>(posicion) - 1;
+            if (!esBlanco(texto[lugar]))
+                return {{TokenLeido::desconocido, texto.substr(lugar, 1)}, posicion, posicion};
             ++posicion;
             continue;
         }
