@@ -6,8 +6,8 @@
 // there, so it is met on the way from that one to the words that begin it. A position costs the logarithm of
 // the number of words, and no comparison is longer than the longest of them; nearly all are decided by four
 // characters, which are compared as one number. A word that ignores case
-// stands in the bucket of each form of its first character. Each word keeps the end of its last occurrence, so that
-// its occurrences do not overlap, exactly as if it had been searched alone.
+// stands in the bucket of each form of its first character. Each word keeps the end of its last occurrence,
+// so that its occurrences do not overlap, exactly as if it had been searched alone.
 #include "norvik/pattern/indicePalabras.hpp"
 
 #include "norvik/pattern/mayusculas.hpp"
@@ -128,16 +128,16 @@ std::uint32_t IndicePalabras::candidata(const Cubo& cubo, std::uint64_t clave,
         desde = desde[mitad].clave <= clave ? desde + mitad : desde; // no branch: it could not be foreseen
         quedan -= mitad;
     }
-    const bool hayIguales = desde->clave == clave && desde != cubo.entradas.data() && desde[-1].clave == clave;
+    const bool hayIguales =
+        desde->clave == clave && desde != cubo.entradas.data() && desde[-1].clave == clave;
     return hayIguales ? candidataEntre({cubo.entradas.data(), desde + 1}, resto) : desde->palabra;
 }
 
 std::uint32_t IndicePalabras::candidataEntre(std::span<const Entrada> entradas,
                                              std::u16string_view resto) const {
     const auto iguales = std::ranges::equal_range(entradas, entradas.back().clave, {}, &Entrada::clave);
-    const auto mayor = std::ranges::partition_point(iguales, [&](const Entrada& entrada) {
-        return !esMayor(palabras_[entrada.palabra].plegada, resto);
-    });
+    const auto mayor = std::ranges::partition_point(
+        iguales, [&](const Entrada& entrada) { return !esMayor(palabras_[entrada.palabra].plegada, resto); });
     return (mayor == iguales.begin() ? mayor : std::prev(mayor))->palabra;
 }
 

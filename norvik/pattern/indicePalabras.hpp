@@ -32,8 +32,8 @@ private:
 
     struct Palabra {
         std::u16string plegada;
-        std::u16string exacta; ///< empty when case is ignored
-        std::uint64_t clave = 0;    ///< its first four folded characters …
+        std::u16string exacta;       ///< empty when case is ignored
+        std::uint64_t clave = 0;     ///< its first four folded characters …
         std::uint64_t relevante = 0; ///< … and which bits of them it has
         std::int32_t patron = 0;
         std::uint32_t anterior = ninguna; ///< the last one in order that this one begins with or is equal to
