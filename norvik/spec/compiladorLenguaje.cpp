@@ -225,22 +225,33 @@ private:
 
 // What is wrong with a table that was taken as it came, empty when a parse can trust it: an entry of a token
 // shifts to a state, reduces by a rule or accepts; one of a variable goes to a state.
-std::u16string defectoDeTabla(const gramatica& g) {
-    const std::int16_t estados = g.GetDimensionFilasSLR();
-    for (std::int16_t estado = 0; estado < g.filasVigentes(); ++estado)
-        for (std::int16_t columna = 0; columna < g.columnasVigentes(); ++columna) {
-            const std::int16_t valor = g.GetElementoTablaSLR(estado, columna);
-            const bool deVariable =
-                esMayusculaAZ(g.encabezadoColumna(static_cast<std::int16_t>(columna + 1)).front());
-            const bool aceptable =
-                valor == 0 || (valor > 0 && valor < estados) ||
-                (!deVariable && (valor == gramatica::aceptar || (valor < 0 && -valor <= g.getNumReglas())));
-            if (!aceptable)
-                return u"el valor " + aTexto(valor) + u" del estado " + aTexto(estado) + u", símbolo " +
-                       std::u16string(g.encabezadoColumna(static_cast<std::int16_t>(columna + 1))) +
-                       u", no nombra ningún estado ni regla";
-        }
-    return {};
+std::u16string defectoDeTabla(const GramaticaLR& g) {
+    const TablaLR& tabla = g.tabla;
+    const std::int16_t estados = tabla.celdas().filas();
+    std::vector<bool> deVariable;
+    for (std::int16_t columna = 1; columna <= tabla.columnasVigentes(); ++columna)
+        deVariable.push_back(tabla.esColumnaDeVariable(columna));
+    const auto esAceptable = [&](std::int16_t columna, std::int16_t valor) {
+        if (valor > 0 && valor < estados) return true;
+        if (deVariable[static_cast<std::size_t>(columna) - 1]) return false;
+        return valor == TablaLR::aceptar || (valor < 0 && -valor <= g.reglas.numReglas());
+    };
+    const auto defecto = [&](std::int16_t estado, std::int16_t columna, std::int16_t valor) {
+        return u"el valor " + aTexto(valor) + u" del estado " + aTexto(estado) + u", símbolo " +
+               std::u16string(tabla.simbolo(columna)) + u", no nombra ningún estado ni regla";
+    };
+    if (estados == 1 && tabla.codigoInicial() >= 0 && tabla.codigoInicial() < tabla.columnasVigentes())
+        return defecto(0, static_cast<std::int16_t>(tabla.codigoInicial() + 1), 1);
+    std::u16string primero;
+    for (std::int16_t fila = 1; fila <= tabla.filasVigentes() && primero.empty(); ++fila)
+        tabla.celdas().paraCadaEntrada(
+            fila, tabla.columnasVigentes(), [&](std::int16_t columna, std::int16_t guardado) {
+                if (!primero.empty() || esAceptable(columna, guardado)) return;
+                const auto estado = static_cast<std::int16_t>(fila - 1);
+                const std::int16_t valor = tabla.entrada(estado, static_cast<std::int16_t>(columna - 1));
+                if (!esAceptable(columna, valor)) primero = defecto(estado, columna, valor);
+            });
+    return primero;
 }
 
 Diagnostico errorDeModulo(Codigo codigo, std::u16string texto, std::int32_t linea = 1) {
@@ -269,7 +280,7 @@ Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(Carg
     CargadorDeDatos cargador(*datos);
     if (const auto error = replica(cargador))
         return {std::nullopt, {errorDeModulo(Codigo::ModuloIncorrecto, error->texto, error->linea)}};
-    if (std::u16string defecto = defectoDeTabla(datos->reglas); !defecto.empty())
+    if (std::u16string defecto = defectoDeTabla(datos->reglas.valores()); !defecto.empty())
         return {std::nullopt, {errorDeModulo(Codigo::TablaIncorrecta, std::move(defecto))}};
     return {acaba(std::move(datos)), {}};
 }
