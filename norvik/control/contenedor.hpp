@@ -28,18 +28,26 @@ public:
         std::int32_t pixelX = 15;
         std::int32_t pixelY = 15;
     };
+    /// Las de ahora.
     virtual Medidas medidas() const { return {}; }
     /// Muestra u oculta los cinco elementos del marco hundido.
     virtual void muestraMarco(bool /*visible*/) {}
+    /// Muestra u oculta el borde izquierdo.
     virtual void muestraBordeIzquierdo(bool /*visible*/) {}
+    /// Pone cada elemento en su sitio.
     virtual void coloca(const Disposicion& /*disposicion*/) {}
+    /// Pone una señal en el borde izquierdo.
     virtual void ponSigno(const signoDebuger& /*signo*/, const LugarDeSigno& /*lugar*/) {}
 
-    /// Ventanas: las modales vuelven cuando se cierran; la de buscar, enseguida.
+    /// @name Ventanas
+    /// Las modales vuelven cuando se cierran; la de buscar, enseguida.
+    /// @{
     virtual void muestraAcerca() {}
     virtual void muestraInforme() {}
     virtual void muestraBuscar() {}
     virtual void muestraReemplazar() {}
+
+    /// @}
 };
 
 /// El contenedor de un control sin ventanas.

@@ -26,188 +26,334 @@
 
 namespace norvik {
 
-/// The editor control: an editor that knows the language loaded into it. A facade over parts that each keep
-/// their own state; the host gives it a text box, the services of its surroundings and, if it has windows,
-/// what contains it, which must outlive it.
+/// El control: un editor que conoce el lenguaje que se le ha cargado. La caja de texto, los servicios de su
+/// entorno y, si tiene ventanas, lo que lo contiene los pone el anfitrión, y le sobreviven. Es de un solo
+/// hilo. Una línea o un carácter que se cuenta lo hace desde 1, una posición desde 0; un carácter es una
+/// unidad UTF-16, y un salto de línea son dos (CR LF).
 ///
-/// A property is two members of one name: `X()` reads it and `X(value)` sets it; setting one of the saved
-/// ones to another value notifies the container. Every failure raised leaves a control that works on:
-/// nothing stays busy, locked or hidden. Of a language that was being loaded or compiled then, what had come
-/// so far stays.
+/// Una propiedad son dos miembros de un mismo nombre: `X()` la lee y `X(valor)` la pone. Poner otro valor en
+/// una que se guarda avisa al contenedor. Lo que se lanza deriva de `ErrorNorvik`, y el control se puede
+/// seguir usando: nada queda ocupado, bloqueado ni oculto. Del lenguaje que se estuviera cargando llamada a
+/// llamada queda lo que hubiera llegado.
 ///
-/// Receivers of its events, and whatever else runs while it shows a message or lets pending events run, may
-/// change the text, parse, throw, and delete the control, but load and compile no language while it does so
-/// itself. A text that is read meanwhile is read with the language of before, or with the new one whole. The
-/// operation in which a control is deleted goes on without it, raises no more events, and touches neither box
-/// nor services nor container any more; one that loads a definition ends with a failure (`ErrorNorvik`).
+/// Los receptores de sus eventos, y lo que corra mientras enseña un mensaje o atiende los eventos pendientes,
+/// pueden cambiar el texto, analizarlo, lanzar y destruir el control, pero no cargar ni compilar un lenguaje
+/// mientras él carga o compila otro. Un texto que se lea entre tanto se lee con el lenguaje anterior o con el
+/// nuevo entero. La operación en que se destruye el control acaba sin él: no da más eventos ni toca la caja,
+/// los servicios o el contenedor; la que registra una definición lanza `ErrorNorvik`.
 class Norvik final : public CargadorLenguaje {
     const std::shared_ptr<PartesControl> partes_; // before what refers to it
 
 public:
+    /// Toma los eventos de la caja y le pone la fuente de un control nuevo. Sin lenguaje.
     Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor = sinContenedor());
+    /// Suelta los eventos de la caja.
     ~Norvik() override;
 
+    /// Los receptores del anfitrión.
     EventosControl& eventos;
 
-    // Loading a language. Definitions follow `LenguajeSensible` as it is at the call; their errors are shown
-    // titled "Norvik: Error en especificación léxica", and the call completes. All of them raise
-    // `ArgumentoNoValido` in a receiver that runs while the control shows such an error, compiles or loads.
+    /// @name Cargar un lenguaje llamada a llamada
+    /// Lo cargado se añade a lo que hay: antes de un segundo lenguaje se llama a `OlvidaLenguaje`. Las
+    /// definiciones toman el `LenguajeSensible` y el color de su clase que haya en la llamada; su error se
+    /// enseña en una caja de mensaje («Norvik: Error en especificación léxica»), no registra nada, y la
+    /// llamada vuelve. Todas lanzan `ArgumentoNoValido` mientras el control enseña un error así, carga o
+    /// compila, y `ErrorNorvik` si entonces se destruye.
+    /// @{
+
+    /// Registra una definición: `expresion` en el lenguaje de las especificaciones (sin comillas), `nomER` su
+    /// nombre, `esToken` si es un token y no una definición auxiliar, `tipoToken` un `TipoExpReg`,
+    /// `pseudoToken` su nombre para personas, `baseToken` una `baseNumerica`. `colorTexto` no tiene efecto.
+    /// Lanza `Desbordamiento` con un tipo que no cabe en 16 bits o pasadas 32 767 definiciones.
     void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken = false,
                std::int32_t tipoToken = Norvik_ExpReg, std::u16string_view pseudoToken = {},
                std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) override;
+    /// Lo mismo de un token cuya expresión es ya un patrón, sin referencias ni códigos.
     void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
                    std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) override;
+    /// Registra una palabra reservada. Si `token` está vacío se convierte en la palabra en minúsculas.
     void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                              std::u16string_view pseudoToken = {}) override;
-    /// The same for a token name that is no variable.
+    /// Lo mismo con un nombre de token que no es una variable.
     void SetPalabraReservada(std::u16string_view lexema, std::u16string_view token = {},
                              std::u16string_view pseudoToken = {});
+    /// Registra un operador.
     void SetOperador(std::u16string_view lexema, std::u16string_view token,
                      std::u16string_view pseudoToken = {}) override;
+    /// Registra los comentarios que van de lo que casa con un patrón al final de la línea, de nombre
+    /// `comentario`.
     void SetComentarioLinea(std::u16string_view lexema) override;
+    /// Añade las reglas de un texto `cabeza -> alternativa | alternativa …`; el número no tiene efecto. Lanza
+    /// `NoCoincidenLosTipos` sin flecha y `SubindiceFueraDeIntervalo` en la regla 1001.
     void SetRegla(std::u16string_view regla, std::int16_t numIdentificacion = 0) override;
+    /// Añade un símbolo a la tabla, en el orden de las columnas; el texto vacío no añade nada.
     void InsertarSimboloGramatica(std::u16string_view simboloG) override;
+    /// Una tabla nueva, sin ninguna entrada ni conflicto. Lanza `SubindiceFueraDeIntervalo` con números
+    /// negativos.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) override;
+    /// Pone una entrada; fila y columna desde 1. Lanza `SubindiceFueraDeIntervalo` si no están en la tabla, y
+    /// `Desbordamiento` si la memoria de la tabla se agota.
     void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas, std::int16_t valorSLR) override;
+    /// Pone muchas, desde la primera, hasta la primera que lanzaría; da cuántas ha puesto.
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override;
-    /// Forgets the token definitions alone. Rules, symbols and table stay, and those of a second language
-    /// would be added to them: between two languages stands `OlvidaLenguaje`.
+    /// Olvida las definiciones de tokens y nada más. Reglas, símbolos y tabla se quedan, y se les añadirían
+    /// los de un segundo lenguaje: entre dos lenguajes va `OlvidaLenguaje`.
     void BorraLenguaje();
-    /// Forgets the whole language: definitions, rules, symbols, table and conflicts. Another one can then be
-    /// loaded, by a module or call by call; `CargaGramatica` needs it not.
+    /// Olvida el lenguaje entero: definiciones, reglas, símbolos, tabla y conflictos. Después se puede cargar
+    /// otro, con un módulo o llamada a llamada. `CargaGramatica` no la necesita.
     void OlvidaLenguaje();
 
-    // Compiling.
-    /// Reads a language specification into the control; no table is built. False when it did not parse or its
-    /// grammar check failed (`GetmensajeError`). The language before is gone either way: a specification that
-    /// did not parse leaves the one that specifications are written in, any other its own definitions and
-    /// rules. Raises what `ConstruyeArbolSintactico` does, and `SubindiceFueraDeIntervalo` at rule 1001.
+    /// @}
+
+    /// @name Compilar
+    /// @{
+
+    /// Lee una especificación; la tabla la hace después `GeneraCompilador`. Falso si está mal escrita
+    /// (`GetCodigoError` no es 0) o la usa una variable sin reglas; `GetmensajeError` dice qué. Un patrón mal
+    /// escrito se enseña en una caja de mensaje y su token falta; un token sin definición no se nota: quien
+    /// quiera saberlo, y con su lugar, compile con `Lenguaje`.
+    ///
+    /// El lenguaje anterior se pierde siempre, también con falso: si está mal escrita, el control se queda
+    /// con el de las especificaciones, que no es el de ningún texto suyo; si no, con las definiciones y
+    /// reglas nuevas, y hasta `GeneraCompilador` con una tabla que no es la suya. Usa el texto invisible, y
+    /// lo deja vacío; el árbol pasa a ser el de la especificación.
+    ///
+    /// Lanza `Desbordamiento` con 32 767 caracteres o más, `BusquedaDesbocada`, `SubindiceFueraDeIntervalo`
+    /// en la regla 1001 (con lo anterior ya cargado) y `ArgumentoNoValido` mientras el control carga o
+    /// compila.
     bool CargaGramatica(std::u16string_view codGramatica);
+    /// Hace la tabla de las reglas que hay, atendiendo los eventos pendientes entre un paso y otro. Verdadero
+    /// también sin reglas, sin hacer nada. Falso si una variable no tiene reglas: lo enseña en una caja de
+    /// mensaje. Los conflictos no son un fallo: los dice `Gramatica().textoProblemas()`.
+    ///
+    /// Lanza `Desbordamiento` en el estado mil; `SubindiceFueraDeIntervalo` si un estado pasa de mil
+    /// elementos o si un cuerpo tiene una Ø junto a otros símbolos, que no tiene columna; y
+    /// `ArgumentoNoValido` mientras el control carga o compila. Las reglas se quedan, sin tabla.
     bool GeneraCompilador() override;
 
-    // Parsing.
-    /// True when the text of the box was accepted; raises `Desbordamiento` from 32 767 characters on.
+    /// @}
+
+    /// @name Analizar
+    /// @{
+
+    /// Analiza el texto de la caja. Verdadero si se acepta; si no, `GetCodigoError`, `GetmensajeError` y
+    /// `GetDiagnostico` dicen qué está mal, y según las opciones se enseña un mensaje
+    /// (`MuestraMensajesDeError`) y se marca la línea (`MarcarErrores`). Lanza `Desbordamiento` con 32 767
+    /// caracteres o más o con una tabla que no deja de reducir, `BusquedaDesbocada`, y con una tabla cargada
+    /// que es incorrecta `SubindiceFueraDeIntervalo` o `IndiceNoValido`.
     bool ConstruyeArbolSintactico();
-    /// The same for the invisible text, with lines and columns 0 in the tree.
+    /// Lo mismo con el texto invisible; en su árbol, líneas y columnas son 0.
     bool ConstruyeArbolSintacticoTextoInvisible();
-    /// A text that is read and parsed without being shown, "" at first; `CargaGramatica` uses it and leaves
-    /// it empty.
+    /// El texto invisible, que se lee y analiza sin enseñarlo; al principio y tras `CargaGramatica` está
+    /// vacío. La vista vale hasta que cambie.
     std::u16string_view GetTextoInvisible() const { return partes_->lector.textoInvisible().texto(); }
     void SetTextoInvisible(std::u16string_view texto) { partes_->lector.textoInvisible().ponTexto(texto); }
-    /// The root of the last parse's tree; the next parse replaces it in place.
+    /// La raíz del árbol del último análisis, sin hijos cuando no se aceptó. Es el mismo nodo mientras viva
+    /// el control; el análisis siguiente sustituye lo que cuelga de ella. Un nodo que se conservara pasa a
+    /// leerse como recién inicializado (véase `Arbol`): quien quiera conservar un árbol use `analiza`.
     Arbol& GetArbolSintactico();
-    /// Of the last parse: 0 none, 1 lexical, 2 syntax error.
+    /// Del último análisis: 0 ninguno, 1 error léxico, 2 error sintáctico.
     std::int16_t GetCodigoError() const;
+    /// El mensaje de ese error, o el de `CargaGramatica`; vacío si no lo hubo. Vale hasta el siguiente.
     const std::u16string& GetmensajeError() const;
-    /// The error of the last parse as a value: its exact range in the text (UTF-16), and the tokens that can
-    /// really stand there. None after an accepted one.
+    /// El error del último análisis como valor: su rango exacto en el texto, en unidades UTF-16, y los tokens
+    /// que caben ahí de verdad. Nada si el texto se aceptó. Vale hasta el análisis siguiente.
     const std::optional<Diagnostico>& GetDiagnostico() const { return partes_->conductor.diagnostico(); }
-    /// Accepts a text, does nothing.
+    /// Recibe un texto, no hace nada y da uno vacío.
     std::u16string EjecutaCodigo(std::u16string_view codigoAEjecutar);
 
-    // Reading tokens one by one: the last is "EOF"; "Norvik_ERROR" is a character that starts no token.
+    /// @}
+
+    /// @name Leer los tokens uno a uno
+    /// @{
+
+    /// Reconoce el texto de la caja y vuelve a su principio. Lanza como `ConstruyeArbolSintactico`.
     void InicializaLecturaTokens();
+    /// El token siguiente, tras `InicializaLecturaTokens` y sin que el texto cambie. Al acabar el texto, uno
+    /// de nombre `EOF`; con un carácter que no empieza ningún token, uno de nombre `Norvik_ERROR`, y la
+    /// lectura no pasa de él.
     parLT Lex();
+    /// Lo mismo con el texto invisible. Sigue la última lectura, que ha de ser suya: la empieza su análisis.
     parLT LexTextoInvisible();
-    /// 1-based line and column of the last token when it was read, in the text that it was read from, the
-    /// invisible one included.
+    /// Línea y columna, desde 1, del último token cuando se leyó (también en un análisis), en el texto de que
+    /// se leyó, aunque fuera el invisible. Un token que empieza en el último carácter de un salto de línea
+    /// cuenta en la línea siguiente. `LineaToken` lanza `Desbordamiento` desde la línea 32 768.
     std::int16_t LineaToken() const;
     std::int32_t ColumnaToken() const;
+    /// «Se ha encontrado 'fin' (Línea 4, Columna 1)»: el último token.
     std::u16string DameStringTokenLeido() const;
+    /// «(Línea 4, Columna 1)».
     std::u16string DameStringLineaColumnaToken() const;
 
-    // Marking in the error colour; lines are 1-based.
+    /// @}
+
+    /// @name Marcar en el color de error
+    /// Líneas desde 1. Una marca se va al cambiar su línea; el cursor no se mueve y nada queda seleccionado.
+    /// @{
+
+    /// Marca una línea; una que no existe no marca nada.
     void MarcaErrorLinea(std::int16_t numLinea);
+    /// Marca el último token leído, o el carácter incorrecto.
     void MarcaErrorToken();
+    /// Marca la línea del último token leído.
     void MarcaErrorLineaToken();
-    /// Adds an error sign to the left border.
+    /// Pone una señal de error en el borde izquierdo; no se quitan. Lanza `Desbordamiento` tras 32 766
+    /// señales.
     void PonSignoError(std::int16_t numLinea);
 
-    // Colouring, when `Colorear` is on; raises `Desbordamiento` from 32 767 characters on.
+    /// @}
+
+    /// @name Colorear
+    /// No hacen nada si `Colorear` es falso. Lanzan `Desbordamiento` más allá del carácter 32 766, y
+    /// `BusquedaDesbocada`. No dan eventos.
+    /// @{
     void ColoreaTodo();
+    /// Un comentario de varias líneas lo colorea `ColoreaTodo`.
     void ColoreaLineaActual();
 
-    // Lines; they count from 1.
+    /// @}
+
+    /// @name Líneas, desde 1
+    /// @{
+
+    /// La línea del cursor; lanza `Desbordamiento` desde la 32 768.
     std::int16_t LineaActual() const { return partes_->edicion.lineaActual(); }
+    /// La columna del cursor, desde 1, en caracteres.
     std::int32_t ColumnaActual() const { return partes_->edicion.columnaActual(); }
-    /// As counted at the last change of the text.
+    /// Cuántas había en el último cambio del texto.
     std::int32_t TotalLineas() const { return partes_->estado.numLineas; }
-    /// A line without its end; raises `ArgumentoNoValido` when there is none.
+    /// Una línea sin su salto; de un texto vacío, un texto vacío. Lanza `ArgumentoNoValido` si no hay tal
+    /// línea.
     std::u16string ContenidoLinea(std::int16_t numLinea) const;
 
-    // Undo. The first recorded text is the base, which cannot be undone.
-    /// Forgets every change. Raises `Desbordamiento`, having done so, when there were more than 32767.
+    /// @}
+
+    /// @name Deshacer
+    /// El historial guarda el texto entero tras cada cambio, también los del programa: cada `Text(…)`
+    /// distinto lo hace crecer, y no olvida ninguno por sí solo. Quien solo quiera analizar muchos textos use
+    /// `analiza`.
+    /// @{
+
+    /// Olvida todos los cambios; el siguiente es el punto de partida, que no se deshace. Lanza
+    /// `Desbordamiento`, después de hacerlo, si eran más de 32 767.
     void InicializaUndosYRedos() { vivo()->historial.InicializaUndosYRedos(); }
+    /// Deshace el último cambio. De uno que a la vez quitó y puso texto solo deshace la diferencia de
+    /// longitud, menos los del diálogo de reemplazar, que deshace enteros.
     void Undo() { vivo()->historial.Undo(); }
+    /// Rehace el último cambio deshecho.
     void Redo() { vivo()->historial.Redo(); }
 
-    // Searching.
-    /// Position (0-based) of a text between two others, -1 when there is none; a `final` of 0 is the end of
-    /// the text, the options are those of `CajaTexto::busca`.
+    /// @}
+
+    /// @name Buscar
+    /// @{
+
+    /// Busca un texto entre dos posiciones, desde 0, y lo selecciona; un `final` de 0 es el del texto. Da su
+    /// posición, -1 cuando no está. Las opciones son las de `opcionBusqueda`, que se suman.
     std::int32_t Find(std::u16string_view cadena, std::int32_t comienzo = 0, std::int32_t final = 0,
                       std::int32_t opciones = 0);
+    /// Piden al contenedor su diálogo.
     void ShowBuscarDialog();
     void ShowReemplazarDialog();
-    /// What a dialog that searches this control works on.
+    /// Aquello en que trabaja un diálogo que busca en este control.
     DestinoBusqueda destinoBusqueda();
 
-    // Files and printing.
-    /// Empties the text, the colour of what is typed next and the undo and redo lists included.
+    /// @}
+
+    /// @name Ficheros e impresora
+    /// @{
+
+    /// Vacía el texto, el color de lo que se escriba a continuación y el historial. Lanza como
+    /// `InicializaUndosYRedos`.
     void BorraTodo();
-    /// Replaces the text by a file's and colours it. True, or raises `ErrorDeFichero` with the text emptied.
+    /// Sustituye el texto por el de un fichero (`leeTexto`) y lo colorea. Verdadero, o lanza:
+    /// `ErrorDeFichero` con el texto vacío, o lo que lance `ColoreaTodo`.
     bool CargarFichero(const std::filesystem::path& nomFichero);
-    /// Writes the text and a line end; false when that failed.
+    /// Escribe el texto y un salto de línea (`escribeTexto`); falso si no se pudo, y el fichero sigue como
+    /// estaba.
     bool SalvarFichero(const std::filesystem::path& nomFichero) const;
-    /// Prints the text; a failure is told in a message box.
+    /// Imprime el texto; un fallo se enseña en una caja de mensaje.
     void Imprimir();
 
-    // What is saved, and the exchange with the design-time tools.
-    /// Raises `NoCoincidenLosTipos` or `Desbordamiento` at the first value that is none of its property;
-    /// those before it are set.
+    /// @}
+
+    /// @name Lo que se guarda, y el intercambio con las herramientas de diseño
+    /// @{
+
+    /// Pone las propiedades de una bolsa; las que le faltan, a su valor por omisión, y el texto de la caja al
+    /// suyo, vacío si no lo tiene. Lanza `NoCoincidenLosTipos` o `Desbordamiento` con el primer valor que no
+    /// es de su propiedad; las anteriores quedan puestas.
     void restauraPropiedades(const BolsaPropiedades& bolsa) { vivo()->propiedades.restaura(bolsa); }
+    /// Escribe en una bolsa las que no tienen su valor por omisión, menos el texto de la caja y
+    /// `LeftBorderVisible`.
     void guardaPropiedades(BolsaPropiedades& bolsa) const { partes_->propiedades.guarda(bolsa); }
-    /// Reading it copies specification and test text to the shared slots, setting it takes them from there.
+    /// Leerla copia `ContenidoG` y `CodigoPrueba` en las ranuras comunes del proceso, ponerla los toma de
+    /// ellas.
     std::any editCode() const;
     void editCode(const std::any& valor);
-    /// Accepts its arguments, does nothing.
+    /// Recibe sus argumentos y no hace nada.
     void SetTraduccion(std::int16_t numRegla, std::u16string_view variableETDS,
                        std::u16string_view traduccion, std::u16string_view condicion = {},
                        std::u16string_view atributosDerivados = {});
+    /// Pide al contenedor su ventana «Acerca de».
     void Acerca() { partes_->contenedor->muestraAcerca(); }
-    /// Shows the report on the grammar and the lexer.
+    /// Pide al contenedor la ventana con el informe de la gramática y del analizador léxico.
     void MuestraInforme() { partes_->contenedor->muestraInforme(); }
 
-    // For whoever shows the control.
-    /// The control has another size.
+    /// @}
+
+    /// @name Para quien muestra el control
+    /// @{
+
+    /// El control tiene otro tamaño.
     void redimensiona() { partes_->colocacion.colocaControles(); }
-    /// The tab key moved the focus out of the text box, to the button that stands for it.
+    /// La tecla de tabulación sacó el foco de la caja: escribe los espacios y lo devuelve.
     void tabuladorEnfocado() { vivo()->edicion.tabula(); }
-    /// The control's own surface was clicked.
+    /// Se pulsó en la superficie del control, fuera de la caja.
     void clickEnSuperficie();
+    /// Las opciones, juntas.
     const Opciones& opciones() const { return partes_->opciones; }
 
-    // Properties of the text box. Positions and lengths are 16-bit: reading larger ones raises
-    // `Desbordamiento`.
+    /// @}
+
+    /// @name Propiedades de la caja de texto
+    /// Posiciones desde 0 y longitudes, en caracteres y de 16 bits: leer una mayor lanza `Desbordamiento`.
+    /// @{
+
+    /// El texto entero, con los saltos de línea como CR LF. Puede ser más largo que lo que se colorea o
+    /// analiza.
     std::u16string Text() const;
+    /// Otro texto, sin colorear (lo hace `ColoreaTodo`) y con el cursor al principio; un CR o un LF solo se
+    /// convierte en CR LF. Es un cambio más en el historial. Uno igual al que hay no hace nada.
     void Text(std::u16string_view texto) { vivo()->propiedades.ponText(texto); }
+    /// El texto seleccionado; ponerlo reemplaza la selección, y el cursor queda detrás.
     std::u16string SelText() const;
     void SelText(std::u16string_view texto);
+    /// Donde empieza la selección. Ponerlo mueve el cursor y no selecciona nada.
     std::int16_t SelStart() const;
     void SelStart(std::int16_t posicion);
+    /// Longitud de la selección.
     std::int16_t SelLength() const;
     void SelLength(std::int16_t longitud);
+    /// Fuente de la selección.
     std::u16string SelFontName() const { return partes_->caja->nombreFuenteSeleccion(); }
     void SelFontName(std::u16string_view nombre);
-    /// In points.
+    /// Tamaño de la fuente de la selección, en puntos.
     std::int16_t SelFontSize() const;
     void SelFontSize(std::int16_t puntos);
+    /// La fuente de todo el texto que no tiene una propia.
     const Fuente& Font() const { return partes_->caja->fuente(); }
     void Font(const Fuente& fuente) { vivo()->propiedades.ponFont(fuente); }
+    /// Si el texto se ha editado desde que se puso o se quitó la marca.
     bool TextoModificado() const;
-    /// False clears the mark, true does nothing.
+    /// Falso quita la marca, verdadero no hace nada.
     void TextoModificado(bool modificado);
 
-    // Options.
+    /// @}
+
+    /// @name Opciones
+    /// Las explica `Opciones`.
+    /// @{
     bool Borde3D() const { return partes_->opciones.borde3D; }
     void Borde3D(bool valor) { vivo()->propiedades.ponBorde3D(valor); }
     bool LeftBorderVisible() const { return partes_->opciones.leftBorderVisible; }
@@ -236,20 +382,31 @@ public:
     void NomLenguaje(std::u16string_view nombre) {
         pon(partes_->opciones.nombreLenguaje, nombre, u"NombreLenguaje");
     }
+    /// Se guarda y no tiene otro efecto.
     bool AutoNumero() const { return partes_->lexico.autoNumber; }
     void AutoNumero(bool valor) { pon(partes_->lexico.autoNumber, valor, u"AutoNumero"); }
 
-    // What the container keeps for the design-time tools.
+    /// @}
+
+    /// @name Lo que el contenedor guarda para las herramientas de diseño
+    /// @{
+
+    /// La especificación del lenguaje en que se trabaja.
     const std::u16string& ContenidoG() const { return partes_->opciones.contenidoG; }
     void ContenidoG(std::u16string_view especificacion) {
         pon(partes_->opciones.contenidoG, especificacion, u"ContenidoG");
     }
+    /// El texto para probarla.
     const std::u16string& CodigoPrueba() const { return partes_->opciones.codigoPrueba; }
     void CodigoPrueba(std::u16string_view texto) {
         pon(partes_->opciones.codigoPrueba, texto, u"CodigoPrueba");
     }
 
-    // Colours of the token kinds, 0x00BBGGRR: definitions take them when they are registered.
+    /// @}
+
+    /// @name Colores de las clases de tokens, 0x00BBGGRR
+    /// Una definición toma el de su clase al registrarse: se ponen antes de cargar el lenguaje.
+    /// @{
     std::int32_t ColorPR() const { return partes_->lexico.colorPalabrasReservadas; }
     void ColorPR(std::int32_t color) { pon(partes_->lexico.colorPalabrasReservadas, color, u"ColorPR"); }
     std::int32_t ColorOperadores() const { return partes_->lexico.ColorOperadores; }
@@ -264,7 +421,7 @@ public:
     void ColorEtiquetas(std::int32_t color) { pon(partes_->lexico.ColorEtiquetas, color, u"ColorEtiquetas"); }
     std::int32_t ColorNumeros() const { return partes_->lexico.ColorNumeros; }
     void ColorNumeros(std::int32_t color) { pon(partes_->lexico.ColorNumeros, color, u"ColorNumeros"); }
-    /// Read at each marking.
+    /// Se lee en cada marca.
     std::int32_t ColorError() const { return partes_->lexico.ColorError; }
     void ColorError(std::int32_t color) { pon(partes_->lexico.ColorError, color, u"ColorError"); }
     std::int32_t ColorCadena() const { return partes_->lexico.ColorCadena; }
@@ -274,11 +431,21 @@ public:
     std::int32_t ColorFechas() const { return partes_->lexico.ColorFechas; }
     void ColorFechas(std::int32_t color) { pon(partes_->lexico.ColorFechas, color, u"ColorFechas"); }
 
-    // What the control owns, for reports and modules.
+    /// @}
+
+    /// @name Lo que el control posee
+    /// Vive lo que él.
+    /// @{
+
+    /// Las reglas, los conjuntos, el autómata y la tabla, con los que se escriben informes y módulos.
     gramatica& Gramatica() { return partes_->laGramatica; }
+    /// Las definiciones de tokens.
     pilaTokens& Lexico() { return partes_->lexico; }
+    /// Las señales del borde izquierdo, por su número.
     const Marcas::Signos& signos() const { return partes_->marcas.signos(); }
     const Historial& historial() const { return partes_->historial; }
+
+    /// @}
 
 private:
     /// What is called on it goes on whole, whoever deletes the control meanwhile.

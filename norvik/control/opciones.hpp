@@ -19,7 +19,8 @@ struct Opciones {
     bool autoTAB = true;           ///< una línea nueva toma los espacios iniciales de la de arriba
     bool marcarErrores = false;    ///< un error del análisis marca su línea
     bool muestraMensajesDeError = false; ///< un error del análisis se enseña en una caja de mensaje
-    bool colorear = false;               ///< se colorea la sintaxis
+    bool colorear = false; ///< se colorea la sintaxis: una línea, al salir de ella el cursor tras cambiarla;
+                           ///< un texto entero, cuando se llama a `ColoreaTodo`
     std::u16string nombreLenguaje;
     std::u16string contenidoG;      ///< la especificación del lenguaje en que se trabaja
     std::u16string codigoPrueba;    ///< el texto para probarla

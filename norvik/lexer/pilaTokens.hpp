@@ -16,18 +16,20 @@
 
 namespace norvik {
 
-/// A definition as it is written.
+/// Una definición como se escribe.
 struct DefinicionTexto {
     std::u16string_view texto;
     std::u16string_view nombre;
-    bool esToken = false;
-    bool sensibleTamanio = false;
-    std::u16string_view pseudoToken;
-    std::int16_t tipo = Norvik_ExpReg;
-    std::int32_t base = Norvik_SinBase;
+    bool esToken = false;               ///< y no una definición auxiliar
+    bool sensibleTamanio = false;       ///< distingue mayúsculas de minúsculas
+    std::u16string_view pseudoToken;    ///< su nombre para personas
+    std::int16_t tipo = Norvik_ExpReg;  ///< un `TipoExpReg`
+    std::int32_t base = Norvik_SinBase; ///< una `baseNumerica`
 };
 
-/// The lexer: the definitions of a language in registration order, their colours, and recognition.
+/// El analizador léxico: las definiciones de un lenguaje en el orden en que se registraron, los colores de
+/// sus clases y el reconocimiento de un texto. Un anfitrión toma el de su control (`Norvik::Lexico`), para
+/// escribir módulos y para mirar.
 class pilaTokens {
 public:
     pilaTokens() = default;
@@ -35,6 +37,9 @@ public:
     pilaTokens& operator=(const pilaTokens&) = delete;
     ~pilaTokens() = default;
 
+    /// @name Colores, 0x00BBGGRR
+    /// Los de las definiciones que se registren desde ahora.
+    /// @{
     std::int32_t colorPalabrasReservadas = 0;
     std::int32_t ColorOperadores = 0;
     std::int32_t ColorComentarios = 0;
@@ -44,28 +49,32 @@ public:
     std::int32_t ColorCadena = 0;
     std::int32_t ColorCaracter = 0;
     std::int32_t ColorFechas = 0;
+    /// @}
+
+    /// Se guarda y no tiene otro efecto.
     bool autoNumber = false;
 
-    /// Forgets every definition and the token map; the colours stay.
+    /// Olvida las definiciones y el mapa de tokens; los colores se quedan.
     void Inicializa();
 
-    /// Number of token definitions (auxiliary ones do not count); raises `Desbordamiento`.
+    /// Cuántas definiciones de tokens hay, sin las auxiliares.
     std::int16_t getNumTokensLenguaje() const;
-    /// Definition at a 1-based position; raises `IndiceNoValido`.
+    /// La definición de un lugar, desde 1; lanza `IndiceNoValido`.
     const expresionRegular& getTokenLenguaje(std::int16_t numToken) const;
-    /// Every definition, auxiliary ones too, and the token definitions alone, in registration order.
+    /// Todas las definiciones, también las auxiliares, y solo las de tokens, en el orden en que se
+    /// registraron.
     const std::vector<std::unique_ptr<expresionRegular>>& expresionesRegulares() const {
         return definiciones_.todas();
     }
     const std::vector<const expresionRegular*>& tokensLenguaje() const { return definiciones_.tokens(); }
     const DefinicionesTokens& definiciones() const { return definiciones_; }
 
-    /// Registers a definition, with the colour of its kind. Returns its first error, without a place; nothing
-    /// is registered then. Raises `Desbordamiento` beyond 32 767 definitions.
+    /// Registra una definición, con el color de su clase. Da su primer error, sin lugar, y entonces no
+    /// registra nada. Lanza `Desbordamiento` pasadas 32 767 definiciones.
     std::optional<Diagnostico> registra(const DefinicionTexto& definicion);
-    /// The same of a definition whose text is expanded already.
+    /// Lo mismo de una definición cuyo texto es ya un patrón.
     std::optional<Diagnostico> registraPatron(const DefinicionTexto& definicion);
-    /// The same, with the error as its message, empty on success. `colorOpcional` has no effect.
+    /// Lo mismo, con el error como su mensaje, vacío si fue bien. `colorOpcional` no tiene efecto.
     std::u16string SetER(std::u16string_view expresionRegular, std::u16string_view nomER, bool esToken,
                          bool sensibleTamanio, std::u16string_view pseudoToken, std::int16_t tipo,
                          std::int32_t base, std::int32_t colorOpcional);
@@ -73,25 +82,25 @@ public:
                                        bool sensibleTamanio, std::u16string_view pseudoToken);
     std::u16string SetOperador(std::u16string_view lexema, std::u16string_view token, bool sensibleTamanio,
                                std::u16string_view pseudoToken);
-    /// Changes whenever the definitions may have changed.
+    /// Es otro número cada vez que pueden haber cambiado las definiciones.
     std::uint64_t edicion() const { return edicion_; }
 
-    /// Recognises the tokens of positions `TextStart` … `TextEnd` − 1 (1-based, −1: from the first, to the
-    /// last); a range that passes the text's end is clipped. The map belongs to the lexer and is refilled by
-    /// the next call. Raises `Desbordamiento` for a text or range beyond 16 bits, `BusquedaDesbocada` when a
-    /// definition's search runs away (the text then names it), `ArgumentoNoValido` for a start below 1 or an
-    /// end before the start. After a failure the map is empty.
+    /// Reconoce los tokens de las posiciones `TextStart` a `TextEnd` - 1, desde 1 (-1: desde la primera,
+    /// hasta la última); lo que pasa del final del texto se corta. El mapa es del analizador, y la llamada
+    /// siguiente lo vuelve a llenar. Lanza `Desbordamiento` si el texto o las posiciones no caben en 16 bits,
+    /// `BusquedaDesbocada` si la búsqueda de una definición pide demasiado, y `ArgumentoNoValido` con un
+    /// principio por debajo de 1 o un final delante del principio. Tras un fallo el mapa está vacío.
     MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
                                std::int16_t TextEnd = -1);
-    /// The map of the last recognition.
+    /// El mapa del último reconocimiento.
     MapaTokens& mapaTokens() { return mapaTokens_; }
     const MapaTokens& mapaTokens() const { return mapaTokens_; }
 
-    /// How a token may be written, for lists of expected tokens.
+    /// Cómo se puede escribir un token, para las listas de lo que se esperaba.
     std::u16string toStringLexemasPorToken(std::u16string_view token) const {
         return definiciones_.lexemasPorToken(token);
     }
-    /// How a token that was read is named in messages.
+    /// Cómo se nombra en los mensajes un token leído.
     std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const {
         return definiciones_.pseudoTokenPorToken(tokenLexema);
     }
@@ -102,7 +111,7 @@ private:
     void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
 
     DefinicionesTokens definiciones_;
-    std::optional<Reconocedor> reconocedor_; ///< made at the first recognition of a language
+    std::optional<Reconocedor> reconocedor_; ///< se hace en el primer reconocimiento de un lenguaje
     MapaTokens mapaTokens_{definiciones_.tokens()};
     std::uint64_t edicion_ = 0;
 };

@@ -10,27 +10,28 @@ namespace norvik {
 class ArbolSintactico;
 class GeneracionArbol;
 
-/// Which child a descent takes: always the first, or always the last.
+/// Qué hijo toma un descenso: siempre el primero, o siempre el último.
 enum Direccion : std::int16_t { Norvik_Izquierda = 0, Norvik_Derecha = 1 };
 
-/// What the nodes that one rule produced have in common: the rule, the tree that they belong to, and whether
-/// they are part of it still.
+/// Lo que tienen en común los nodos que hizo una regla: ella, su árbol y si todavía son parte de él. Es para
+/// quien hace árboles.
 struct FichaRegla {
     ArbolSintactico* arbol = nullptr;
     std::u16string_view nombre;
     std::u16string_view cuerpo;
     std::int16_t numero = -1;
-    bool retirada = false; ///< the tree was dropped: the nodes read as initialised
+    bool retirada = false; ///< el árbol se dejó: los nodos se leen como inicializados
 };
 
-/// A node of a syntax tree: a token of the text (a leaf) or an application of a rule. Nodes belong to their
-/// tree, which the next parse drops; texts hold until then. A reference held across that parse, accepted or
-/// not, is to an initialised node, without parent. Its place may serve a node of a tree after that one, the
-/// sooner the larger the trees are; it is a node as long as its tree's owner (the control) lives. The root is
-/// the same node all that time. Whoever keeps a tree longer copies what it needs.
+/// Un nodo del árbol sintáctico de un control: un token del texto (una hoja) o una aplicación de una regla.
+/// Los nodos son de su árbol, y el análisis siguiente, se acepte o no, lo deja: los textos que dieron valen
+/// hasta entonces, y una referencia que se conserve es desde entonces a un nodo recién inicializado, sin
+/// padre. En su sitio puede aparecer más tarde un nodo de otro árbol, antes cuanto mayores sean; es un nodo
+/// mientras viva el control. La raíz es siempre el mismo nodo. Quien necesite más copia lo que quiera, o usa
+/// `analiza`, cuyo árbol es un valor.
 class Arbol {
 public:
-    /// Only a tree makes nodes.
+    /// Solo un árbol hace nodos.
     class Clave {
         friend class ArbolSintactico;
         Clave() = default;
@@ -40,61 +41,78 @@ public:
     Arbol& operator=(const Arbol&) = delete;
     ~Arbol() = default;
 
+    /// El texto de un token, sin los delimitadores de un literal; vacío en una regla.
     std::u16string_view GetLexema() const {
         return regla_->retirada ? std::u16string_view() : std::u16string_view(lexema_, largoLexema_);
     }
-    /// The lexeme in upper case.
+    /// El lexema en mayúsculas.
     std::u16string GetULexema() const;
-    /// 1-based; 0 when never set.
+    /// Línea del token, desde 1; 0 en una regla y en el árbol del texto invisible.
     std::int32_t GetLinea() const { return linea_; }
+    /// Columna del token, desde 1 y en caracteres; 0 como la línea.
     std::int32_t GetColumna() const { return columna_; }
-    /// Head of the node's rule.
+    /// Cabeza de su regla; vacía en un token.
     std::u16string_view GetNomRegla() const { return regla_->nombre; }
-    /// Body of the node's rule.
+    /// Cuerpo de su regla, con los símbolos separados por espacios; vacío en un token.
     std::u16string_view GetRegla() const { return regla_->cuerpo; }
-    /// Number of the node's rule, -1 for a node that no rule produced.
+    /// Número de su regla, desde 1; -1 en un token y en un nodo inicializado.
     std::int16_t GetNumRegla() const { return regla_->numero; }
-    /// Raises `Desbordamiento` beyond 32 767 children.
+    /// Cuántos hijos tiene; lanza `Desbordamiento` si pasan de 32 767.
     std::int16_t GetNumHijos() const;
+    /// No tiene hijos: un token, o la aplicación de una regla vacía.
     bool GetEsHoja() const { return hijos().empty(); }
-    /// Child at a 1-based position, null beyond the last; raises `IndiceNoValido` below 1.
+    /// El hijo de un lugar, desde 1 y de izquierda a derecha; nulo detrás del último. Lanza `IndiceNoValido`
+    /// por debajo de 1.
     Arbol* GetHijo(std::int16_t numHijo) const;
 
+    /// @name Cambiar un nodo
+    /// El árbol copia los textos. Un nodo que se leía como inicializado pasa a ser del árbol actual.
+    /// @{
     void SetLexema(std::u16string_view datoNodo);
     void SetLinea(std::int32_t nLinea) { linea_ = nLinea; }
     void SetColumna(std::int32_t nColumna) { columna_ = nColumna; }
     void SetNomRegla(std::u16string_view reglaNodo);
     void SetRegla(std::u16string_view reglaNodo);
-    /// The number in decimal, blanks around it allowed. Raises `NoCoincidenLosTipos` when the text is no
-    /// number, `Desbordamiento` when it does not fit 16 bits.
+    /// El número en decimal, con blancos alrededor o sin ellos. Lanza `NoCoincidenLosTipos` si el texto no es
+    /// un número y `Desbordamiento` si no cabe en 16 bits.
     void SetNumRegla(std::u16string_view numeroRegla);
 
-    /// Attaches a node as the first child. A node that hangs from a parent already, or belongs to another
-    /// tree, stays where it is and a copy of its subtree is attached. Raises `ArgumentoNoValido` for the node
-    /// itself and for those above it.
+    /// Cuelga un nodo como primer hijo. De uno que ya tiene padre o es de otro árbol se cuelga una copia, con
+    /// todo lo suyo. Lanza `ArgumentoNoValido` con el propio nodo y con los que tiene encima.
     void SetHijo(Arbol& hijo);
-    /// The same, as the last child.
+    /// Lo mismo, como último hijo.
     void SetHijoIzquierda(Arbol& hijo);
-    /// Empties the node and each of its descendants, which are then without parent. Line and column stay.
+    /// Vacía el nodo y todos sus descendientes, que se quedan sin padre. Línea y columna no cambian.
     void Inicializa();
 
-    /// The node reached after `ordenDescendencia` steps, or the leaf met before.
+    /// @}
+
+    /// @name Descender y buscar
+    /// Sin recursión: un árbol puede ser tan hondo como largo es su texto.
+    /// @{
+
+    /// El nodo a que se llega con `ordenDescendencia` pasos en una dirección, o la hoja en que se acaben
+    /// antes.
     Arbol& GetNDescendienteEnDireccion(std::int16_t ordenDescendencia, Direccion direccion);
-    /// The leaf at the end of a direction. A direction other than the two stays on this node.
+    /// La hoja en que acaba una dirección; este mismo nodo con una dirección que no es ninguna de las dos.
     Arbol& GetUltimoDescendienteEnDireccion(Direccion direccion);
-    /// First node with children of a rule, in pre-order from this one; null when there is none.
+    /// El primer nodo con hijos de una regla, de este en adelante y cada nodo antes que sus hijos; nulo si no
+    /// hay.
     Arbol* GetDescendienteConRegla(std::int16_t numReglaBusqueda);
-    /// First node of a rule on the way in a direction, this one included; null when there is none, and for a
-    /// direction other than the two.
+    /// El primer nodo de una regla en el camino de una dirección, este incluido; nulo si no hay, y con una
+    /// dirección que no es ninguna de las dos.
     Arbol* GetDescendienteConReglaEnDireccion(std::int16_t numReglaBusqueda, Direccion direccion);
 
-    /// All children, from the leftmost.
+    /// @}
+
+    /// Todos los hijos, de izquierda a derecha; la vista vale hasta que cambien.
     std::span<Arbol* const> hijos() const {
         if (regla_->retirada) return {};
         return {numHijos_ == 1 && conSitio_ == 0 ? &hijo_ : hijos_, numHijos_};
     }
-    /// The whole subtree in one canonical text, a node a line, two blanks a level: `head -> body [number]` or
-    /// `'lexeme' (line, column)`.
+    /// El subárbol en un texto canónico, un nodo por línea y dos espacios por nivel: `cabeza -> cuerpo
+    /// [número]`, o
+    /// `'lexema' (línea, columna)`.
     std::u16string toString() const;
 
 private:

@@ -47,10 +47,12 @@ public:
 
     /// Sus hijos, de izquierda a derecha.
     Hijos hijos() const;
+    /// Cuántos tiene.
     std::size_t numHijos() const;
     /// El hijo de un lugar, desde 0; lanza `IndiceNoValido`. Los cuerpos son cortos: se llega pasando de un
     /// hijo al siguiente.
     Nodo operator[](std::size_t indice) const;
+    /// Nada en la raíz.
     std::optional<Nodo> padre() const;
     /// Su lugar, desde 0, en el recorrido desde la raíz que pasa por cada nodo antes que por sus hijos.
     std::size_t indice() const { return indice_; }
@@ -81,7 +83,9 @@ public:
     ArbolAnalisis& operator=(const ArbolAnalisis&) = delete;
     ~ArbolAnalisis();
 
+    /// Sin nodos.
     bool esVacio() const { return contenido_ == nullptr; }
+    /// Cuántos tiene: tokens y aplicaciones de reglas.
     std::size_t numNodos() const;
     /// Lanza `IndiceNoValido` cuando no hay ninguna.
     Nodo raiz() const { return (*this)[0]; }
@@ -111,6 +115,7 @@ private:
 /// Los hijos de un nodo, para recorrerlos de izquierda a derecha.
 class Hijos {
 public:
+    /// Va de un hijo al siguiente.
     class Iterador {
     public:
         using value_type = Nodo;

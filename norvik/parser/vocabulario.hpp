@@ -9,6 +9,7 @@ namespace norvik {
 /// Los nombres de un lenguaje, por número. Los números cuentan desde 1: el nombre del token `n` está en
 /// `tokens[n - 1]`.
 struct Vocabulario {
+    /// Un nombre de token.
     struct Token {
         std::u16string nombre;
         std::u16string visible; ///< nombre para personas de su primera definición, vacío cuando no lo tiene
@@ -20,6 +21,7 @@ struct Vocabulario {
         std::int16_t token = 0; ///< número de su nombre
         std::int16_t tipo = 0;
     };
+    /// Una regla, de una sola alternativa.
     struct Regla {
         std::u16string cabeza;
         std::u16string cuerpo;     ///< sus símbolos separados por espacios; «Ø» o nada cuando es vacío

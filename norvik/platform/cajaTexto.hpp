@@ -74,8 +74,8 @@ public:
         using Tecla = std::function<void(std::int16_t& codigo, std::int16_t& shift)>;
         using Raton = std::function<void(std::int16_t& boton, std::int16_t& shift, float& x, float& y)>;
 
-        std::function<void()> cambio;
-        std::function<void()> cambioDeSeleccion;
+        std::function<void()> cambio;                          ///< el texto es otro
+        std::function<void()> cambioDeSeleccion;               ///< la selección o el cursor es otro
         Tecla teclaAbajo;                                      ///< el código 0 suprime la tecla
         std::function<void(std::int16_t& caracter)> pulsacion; ///< el carácter de una tecla; 0 lo suprime
         Tecla teclaArriba;
@@ -92,6 +92,7 @@ public:
     /// Otro texto, todo él de color 0 y con la fuente de la caja, el cursor al principio y sin modificar.
     virtual void ponTexto(std::u16string_view texto) = 0;
 
+    /// Donde empieza la selección, o está el cursor.
     virtual std::int32_t inicioSeleccion() const = 0;
     virtual std::int32_t longitudSeleccion() const = 0;
     /// Selecciona; los dos extremos se llevan dentro del texto. El cursor queda al principio.
@@ -133,6 +134,7 @@ public:
     /// no parten líneas.
     virtual std::int32_t margenDerecho() const = 0;
     virtual void ponMargenDerecho(std::int32_t twips) = 0;
+    /// La primera línea que se ve entera o en parte.
     virtual std::int32_t primeraLineaVisible() const = 0;
     /// Alto de una línea con la fuente de la caja.
     virtual std::int32_t altoDeLinea() const = 0;

@@ -45,10 +45,11 @@ public:
                            std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) {
         SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
     }
-    /// Un nombre de token vacío se convierte en la palabra en minúsculas, y con él la variable de quien
-    /// llama.
+    /// Registra una palabra reservada. Un nombre de token vacío se convierte en la palabra en minúsculas, y
+    /// con él la variable de quien llama.
     virtual void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                                      std::u16string_view pseudoToken = {}) = 0;
+    /// Registra un operador.
     virtual void SetOperador(std::u16string_view lexema, std::u16string_view token,
                              std::u16string_view pseudoToken = {}) = 0;
     /// Comentarios, desde lo que los abre (un patrón) hasta el final de la línea.
@@ -58,6 +59,7 @@ public:
     virtual void SetRegla(std::u16string_view regla, std::int16_t numIdentificacion = 0) = 0;
     /// Los símbolos de la tabla, uno a uno y en el orden de las columnas.
     virtual void InsertarSimboloGramatica(std::u16string_view simboloG) = 0;
+    /// Una tabla nueva y vacía.
     virtual void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas) = 0;
     /// Fila y columna desde 1; lanza `SubindiceFueraDeIntervalo`.
     virtual void SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas,

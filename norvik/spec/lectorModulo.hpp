@@ -13,26 +13,29 @@ namespace norvik {
 
 class CargadorLenguaje;
 
-/// Why a loading module could not be replayed.
+/// Por qué no se pudo cargar un módulo.
 struct ErrorModulo {
-    std::int32_t linea = 0; ///< 1-based line of the module
-    std::u16string texto;   ///< what is wrong with it, one line
+    std::int32_t linea = 0; ///< del módulo, desde 1
+    std::u16string texto;   ///< qué está mal en ella, en una línea
 
-    /// "Línea 12 del módulo: se esperaba «End Sub»"
+    /// «Línea 12 del módulo: se esperaba «End Sub»».
     std::u16string mensaje() const;
 };
 
-/// A file is taken for a loading module when its name ends like one.
+/// Si un fichero se toma por un módulo de carga: su nombre acaba en «.bas», con mayúsculas o sin ellas.
 bool esModulo(const std::filesystem::path& fichero);
 
-/// Replays a loading module call by call, in the order in which a host program would execute it. Nothing is
-/// called unless the whole text is a module: exactly what the writer writes, save indentation, empty lines
-/// and the kind of line ends. A call that raises a failure ends the replay with the calls before it done. The
-/// text is the file's, its line ends untouched: a pattern may contain some, and `leeTexto` would change them.
+/// Carga un módulo en un control, con sus llamadas y en su orden: se añade a lo que el control tenga, y antes
+/// de un segundo lenguaje se llama a `Norvik::OlvidaLenguaje`. Da nada si fue bien. No llama a nada si el
+/// texto no es un módulo entero (lo que escribe `GuardaModuloGramatica`, salvo sangrías, líneas vacías y la
+/// clase de sus finales de línea): da entonces la primera línea que no lo es. También da un `ErrorModulo`,
+/// con su línea, si una llamada lanza, con las anteriores hechas. El texto es el del fichero con sus finales
+/// de línea, que puede haber en un patrón y que `leeTexto` cambiaría.
 std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control);
-/// The same of a text that comes in pieces. A failure of their origin (`ErrorDeFichero`) passes through.
+/// Lo mismo de un texto que llega a trozos. Lo que lance su origen (`ErrorDeFichero`) sale de aquí.
 std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control);
-/// The same of a file; raises `ErrorDeFichero`. A template, for what is a path and not for what makes one.
+/// Lo mismo de un fichero, que se da como `std::filesystem::path`: una cadena sería el texto de un módulo.
+/// Lanza `ErrorDeFichero`.
 std::optional<ErrorModulo> CargaModulo(const std::same_as<std::filesystem::path> auto& fichero,
                                        CargadorLenguaje& control) {
     TextoPorTrozos texto(fichero);

@@ -54,8 +54,8 @@ private:
 /// Lo que da compilar: un lenguaje siempre que se pueda hacer uno, y todo lo que está mal o llama la
 /// atención.
 struct Compilacion {
-    std::optional<Lenguaje> lenguaje;
-    std::vector<Diagnostico> diagnosticos;
+    std::optional<Lenguaje> lenguaje;      ///< puede haberlo con errores: lo que se pudo hacer
+    std::vector<Diagnostico> diagnosticos; ///< errores y avisos
 
     /// Hay lenguaje y nada es un error.
     explicit operator bool() const { return lenguaje && !hayErrores(diagnosticos); }

@@ -93,7 +93,7 @@ protected:
     /// Una edición del usuario, tras la cual la selección es la que se da.
     void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
-    /// Expires with the box, which a receiver of its events may destroy.
+    /// Caduca con la caja, que un receptor de sus eventos puede destruir.
     std::weak_ptr<const void> testigo() const { return testigo_; }
     const std::vector<Estilo>& estilos() const { return estilos_; }
     const Letra& letra(std::int32_t numero) const { return letras_[static_cast<std::size_t>(numero - 1)]; }
