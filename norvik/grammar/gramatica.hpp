@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <mutex>
 #include <optional>
 #include <span>
 #include <string>
@@ -21,186 +22,233 @@ namespace norvik {
 class pilaTokens;
 class Sistema;
 
-/// The grammar of a language and all that is derived from it (`GramaticaLR`), by steps that a host can take
-/// one by one: rules, FIRST, FOLLOW and PREDICT sets, LR(0) automaton and SLR table. Rule indexes are
-/// 1-based. A symbol that begins with A … Z is a non-terminal
-/// ("variable"), any other but Ø a terminal.
+/// La gramática de un lenguaje y lo que sale de ella, por pasos que se pueden dar uno a uno: reglas,
+/// conjuntos de primeros, de siguientes y de predicción, autómata LR(0) y tabla SLR. Las reglas cuentan
+/// desde 1. Un símbolo que empieza por una letra de la A a la Z es una variable (un no terminal); otro que no
+/// sea Ø, un token (un terminal).
+///
+/// Un anfitrión toma la de su control (`Norvik::Gramatica`), carga y genera con las llamadas del control, y
+/// con ella mira, informa y escribe módulos. Varios hilos pueden llamar a la vez a lo que es `const`, si
+/// ninguno llama a lo demás.
 class gramatica {
 public:
-    static constexpr std::int16_t aceptar = TablaLR::aceptar; ///< table entry that means acceptance
-    static constexpr std::int16_t maximoReglas = Reglas::maximo;
+    static constexpr std::int16_t aceptar = TablaLR::aceptar;    ///< la entrada de la tabla que acepta
+    static constexpr std::int16_t maximoReglas = Reglas::maximo; ///< mil
 
+    /// Sin reglas ni tabla.
     gramatica() { inicializaGramatica(); }
-    // Views into the rules are handed out and kept.
+    // Views into the rules, and references to the sets, are handed out and kept.
     gramatica(const gramatica&) = delete;
     gramatica& operator=(const gramatica&) = delete;
     ~gramatica() = default;
 
-    /// What it is a face of.
+    /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
     const GramaticaLR& valores() const { return valores_; }
 
-    /// Accepts a text and does nothing with it.
+    /// Recibe un texto, no hace nada y da uno vacío.
     std::u16string compila(std::u16string_view texto) const;
 
-    // Rules and symbols ------------------------------------------------------------------------------------
+    /// @name Reglas y símbolos
+    /// Un número de regla que no está entre 1 y 1000 lanza `SubindiceFueraDeIntervalo`; una sin usar es "".
+    /// @{
 
-    /// Forgets rules, symbols, sets and automaton; the table stays.
+    /// Olvida reglas, símbolos, conjuntos y autómata; la tabla se queda.
     void inicializaGramatica();
-    /// Takes the rules of another grammar and nothing else; the table stays.
+    /// Toma las reglas de otra y nada más; la tabla se queda.
     void copiaReglas(const gramatica& otra);
-    /// Exchanges all that two grammars have.
+    /// Intercambia todo lo que tienen dos gramáticas.
     void intercambia(gramatica& otra);
-    /// Stores one rule for each alternative of the body (separated by "|"). The code has no effect.
-    /// Raises `SubindiceFueraDeIntervalo` at rule 1001; those stored before stay.
+    /// Guarda una regla por cada alternativa del cuerpo, separadas por «|»; el código no tiene efecto. Lanza
+    /// `SubindiceFueraDeIntervalo` en la regla 1001, con las anteriores guardadas.
     void SetRegla(std::u16string_view cabeza, std::u16string_view cuerpo, std::int16_t codigo = 0);
-    /// Adds a table symbol, in column order; "" is ignored.
+    /// Añade un símbolo a la tabla, en el orden de las columnas; el texto vacío no añade nada.
     void SetSimbolo(std::u16string_view simbolo);
-    /// Head and body of a rule, trimmed; valid while the rules stay.
-    /// Rules are 1..1000, unused ones ""; others raise `SubindiceFueraDeIntervalo` (here and below).
+    /// Cabeza y cuerpo de una regla, sin blancos alrededor; valen mientras no cambien las reglas.
     std::u16string_view GetLeftRegla(std::int16_t regla) const;
     std::u16string_view GetRightRegla(std::int16_t regla) const;
+    /// Cuántas hay.
     std::int16_t getNumReglas() const;
-    /// Number of symbols of the body; a Ø at its end does not count.
+    /// Cuántos símbolos tiene el cuerpo; una Ø al final no cuenta.
     std::int16_t GetNumElementosRegla(std::int16_t regla) const {
         return valores_.reglas.en(regla).elementos;
     }
-    /// Symbol of the body at a 0-based position, clamped to the first and the last.
+    /// El símbolo de un lugar del cuerpo, desde 0; delante del primero da el primero y detrás del último, el
+    /// último.
     std::u16string GetElementoRegla(std::int16_t regla, std::int16_t posicion) const;
+    /// Cuántos símbolos tiene la tabla.
     std::int16_t GetNumSimbolos() const;
-    /// 0-based column of a terminal, "EOF" being "$"; -1 when unknown.
+    /// Columna de un token, desde 0 («EOF» es «$»); -1 si no la tiene.
     std::int16_t GetCodigoToken(std::u16string_view token) const;
-    /// 0-based column of a rule's head; -1 when unknown.
+    /// Columna de la cabeza de una regla, desde 0; -1 si no la tiene.
     std::int16_t GetCodigoVariable(std::int16_t regla) const {
         return valores_.tabla.codigo(valores_.reglas.en(regla).cabeza);
     }
-    /// Empty when every non-terminal used has a rule, else the message.
+    /// Un texto vacío si toda variable de un cuerpo tiene una regla; si no, el mensaje que lo dice.
     std::u16string chequeaGramatica() const;
-    /// 1-based position of a symbol in a body, 0 when it is not found. The last symbol of a body is missed
-    /// when an earlier one, not the first, has the same beginning.
+    /// Posición de un símbolo en el texto de un cuerpo, desde 1; 0 si no está. El último de un cuerpo no se
+    /// encuentra cuando otro anterior, que no sea el primero, empieza igual.
     static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo) {
         return norvik::estaEnRegla(cuerpo, simbolo);
     }
-    /// A body with a dot before its symbol at a 0-based position.
+    /// Un cuerpo con un punto delante del símbolo de un lugar, desde 0.
     static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto) {
         return norvik::dameReglaString(cuerpo, punto);
     }
 
-    /// Changes whenever rules, symbols or table may have changed.
+    /// Es otro número cada vez que pueden haber cambiado las reglas, los símbolos o la tabla.
     std::uint64_t edicion() const { return edicion_; }
+    /// Los tokens, las variables y todos los símbolos de la tabla, en el orden de sus columnas.
     const conjunto& terminales() const { return valores_.tabla.simbolos().terminales; }
     const conjunto& variables() const { return valores_.tabla.simbolos().variables; }
-    /// The table's symbols in column order.
     const conjunto& simbolos() const { return valores_.tabla.simbolos().todos; }
 
-    // FIRST, FOLLOW and PREDICT ----------------------------------------------------------------------------
+    /// @}
 
-    /// Forgets sets, symbols and automaton.
+    /// @name Primeros, siguientes y predicción
+    /// @{
+
+    /// Olvida conjuntos, símbolos y autómata.
     void inicializaConjuntos();
-    /// Computes all sets. Raises `SubindiceFueraDeIntervalo` when FOLLOW needs an undefined non-terminal.
+    /// Hace todos los conjuntos. Lanza `SubindiceFueraDeIntervalo` si los siguientes necesitan una variable
+    /// sin reglas, y no queda ninguno.
     void creaConjuntos();
-    /// Adds FIRST of a string of symbols, on behalf of a rule (0: of none).
+    /// Añade a un conjunto los primeros de una cadena de símbolos, por cuenta de una regla (0, de ninguna).
+    /// Lanza `SubindiceFueraDeIntervalo` con una regla que no hay y `Desbordamiento` si su recursión no
+    /// acaba.
     void creaPrimeros(std::u16string_view cadena, conjunto& conj, bool recursivo, std::int16_t regla);
-    /// Adds FOLLOW of a non-terminal; a recursive call takes the set as it stands when it is finished.
+    /// Añade los siguientes de una variable; una llamada recursiva toma un conjunto acabado como está.
     void creaSiguientes(std::u16string_view variable, conjunto& conj, bool recursivo);
-    /// True when a rule of this head begins with Ø.
+    /// Si una regla de esta cabeza empieza por Ø.
     bool contieneCadenaVacia(std::u16string_view variable) const;
+    /// Si falta el conjunto de este nombre.
     bool estaPendientePrimeros(std::u16string_view nombre) const;
     bool estaPendienteSiguientes(std::u16string_view nombre) const;
-    /// 1-based position of the first set of this name, 0 when there is none.
+    /// Lugar del primer conjunto de este nombre, desde 1; 0 si no hay.
     std::int16_t numItemPrimeros(std::u16string_view nombre) const;
     std::int16_t numItemSiguientes(std::u16string_view nombre) const;
+    /// Si queda alguno sin acabar.
     bool quedanPrimerosPendientes() const;
     bool quedanSiguientesPendientes() const;
 
-    /// The sets with their texts. References hold until the sets change: no other call touches them.
+    /// Los conjuntos, con sus textos. Las referencias valen hasta que los conjuntos cambien: ninguna otra
+    /// llamada las toca.
     const std::vector<conjunto>& primeros() const { return conTextos().primeros; }
     const std::vector<conjunto>& siguientes() const { return conTextos().siguientes; }
-    /// One set a rule.
+    /// Uno por regla.
     const std::vector<conjunto>& predict() const { return conTextos().predict; }
 
-    // Automaton --------------------------------------------------------------------------------------------
+    /// @}
 
-    /// Builds the automaton. Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo`
-    /// at a state's item 1001; either leaves neither automaton nor table.
+    /// @name Autómata
+    /// @{
+
+    /// Hace el autómata. Lanza `Desbordamiento` en el estado mil y `SubindiceFueraDeIntervalo` en el elemento
+    /// 1001 de un estado; no quedan entonces ni autómata ni tabla.
     void creaAutomata();
+    /// Añade a un estado los elementos de las reglas de una variable, con el punto al principio.
     void aniadeReglaAEstado(std::u16string_view variable, estadoAutomata& estado) const;
+    /// Añade a un estado un núcleo y lo que se sigue de él.
     void aniadeReglasImplicitasAEstado(const Nucleo& nucleo, estadoAutomata& estado) const;
-    /// Appends a state, and all that are reached from it, to the list.
+    /// Añade a la lista un estado y todos aquellos a que se llega desde él. Lanza como `creaAutomata`.
     void construyeTransiciones(const estadoAutomata& estado);
-    /// Number of the first state in the list that contains the kernel, -1 when there is none.
+    /// Número del primer estado de la lista que contiene un núcleo, -1 si no hay.
     std::int16_t existeEstadoCon(const Nucleo& nucleo) const;
-    /// Symbol after the dot of a 1-based item.
+    /// El símbolo que sigue al punto de un elemento, que cuenta desde 1.
     std::u16string dameSimboloSiguiente(const estadoAutomata& estado, std::int16_t item) const;
+    /// Los estados, en su orden; la referencia vale hasta que el autómata cambie.
     const std::vector<estadoAutomata>& estadosAutomata() const { return valores_.automata.estados; }
 
-    // Table ------------------------------------------------------------------------------------------------
+    /// @}
 
-    /// Fills the table from rules, automaton and FOLLOW sets. A failure leaves no table
-    /// (`SubindiceFueraDeIntervalo`: a Ø beside other symbols has no column).
+    /// @name Tabla
+    /// @{
+
+    /// Hace la tabla de las reglas, el autómata y los siguientes. Lanza `SubindiceFueraDeIntervalo` si una Ø
+    /// está junto a otros símbolos, que no tiene columna; no queda entonces ninguna tabla.
     void creaTablaSLR();
-    /// 0-based state and column; raises `SubindiceFueraDeIntervalo`.
+    /// Una entrada: 0 es error, 1000 aceptar, n > 0 desplazar al estado n y n < 0 reducir por la regla -n.
+    /// Estado y columna desde 0; lanza `SubindiceFueraDeIntervalo`.
     std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {
         return valores_.tabla.entrada(estado, columna);
     }
-    /// The entries of a state (0-based) by column, to be read many times; none when the two that need no
-    /// storing could be among them, or nothing is stored. `GetElementoTablaSLR` gives those that are missing.
+    /// Las entradas guardadas de un estado, desde 0, por columna; las que falten las da
+    /// `GetElementoTablaSLR`.
     std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const {
         return valores_.tabla.fila(estado);
     }
-    /// A new table, all 0, without conflicts. Raises `SubindiceFueraDeIntervalo` for negative dimensions.
+    /// Una tabla nueva, toda de ceros y sin conflictos. Lanza `SubindiceFueraDeIntervalo` con números
+    /// negativos.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
-    /// 1-based row and column; raises `SubindiceFueraDeIntervalo`.
+    /// Pone una entrada; fila y columna desde 1. Lanza `SubindiceFueraDeIntervalo`, y `Desbordamiento` si la
+    /// tabla pasa de 2^25 celdas.
     void SetElementoTablaSLR(std::int16_t fila, std::int16_t columna, std::int16_t valor);
-    /// The same of many, up to the first that would raise; returns how many were set.
+    /// Pone muchas, hasta la primera que lanzaría; da cuántas ha puesto.
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas);
+    /// Filas y columnas que tiene.
     std::int16_t GetDimensionFilasSLR() const { return valores_.tabla.celdas().filas(); }
     std::int16_t GetDimensionColumnasSLR() const { return valores_.tabla.celdas().columnas(); }
-    /// Rule that lost a conflict in a cell (1-based), 0 when there was none or the table was loaded.
+    /// La regla que perdió el conflicto de una celda (fila y columna desde 1); 0 si no lo hubo o la tabla se
+    /// cargó.
     std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const {
         return valores_.tabla.conflicto(fila, columna);
     }
-    /// The terminals that a state (0-based) accepts, as the lexer describes them.
+    /// Los tokens que caben en un estado, desde 0, como los nombra el analizador léxico.
     std::u16string toStringEsperados(std::int16_t estado, const pilaTokens& lexico) const;
 
-    // Report -----------------------------------------------------------------------------------------------
+    /// @}
 
-    /// The conflict message, and the same shown in a message box titled "Conflictos".
+    /// @name Informe
+    /// @{
+
+    /// El mensaje de los conflictos, y lo mismo en una caja de mensaje de título «Conflictos».
     std::u16string textoProblemas() const;
     void MuestraProblemas(Sistema& sistema) const;
-    /// The report, in pieces of whole lines, as one text, and written to "informeGramatica.txt" in a folder.
+    /// El informe: en trozos de líneas enteras, como un texto y en el fichero «informeGramatica.txt» de una
+    /// carpeta. Lo último lanza `ErrorDeFichero`.
     void escribeInforme(const SumideroDeTexto& sumidero) const;
     std::u16string textoInforme() const;
     void GuardaInforme(const std::filesystem::path& carpeta) const;
-    /// What a report window shows: rules and sets; the automaton; header and cells of the table (1-based).
+    /// Lo que enseña una ventana de informe: las reglas y los conjuntos; el autómata; encabezado y celdas de
+    /// la tabla (desde 1).
     std::u16string textoInformeGeneral() const;
     std::u16string textoAutomata() const;
     std::u16string_view encabezadoColumna(std::int16_t columna) const {
         return valores_.tabla.simbolo(columna);
     }
     std::u16string celdaTabla(std::int16_t fila, std::int16_t columna) const;
-    /// Rows and columns of the table that the symbols have a use for.
+    /// Filas y columnas de la tabla a que los símbolos dan uso.
     std::int16_t filasVigentes() const { return valores_.tabla.filasVigentes(); }
     std::int16_t columnasVigentes() const { return valores_.tabla.columnasVigentes(); }
-    /// Whether a cell (1-based) shows a conflict.
+    /// Si una celda, desde 1, enseña un conflicto.
     bool enConflicto(std::int16_t fila, std::int16_t columna) const {
         return valores_.tabla.enConflicto(fila, columna);
     }
 
-    // Loading module ---------------------------------------------------------------------------------------
+    /// @}
 
-    /// The module, in pieces of whole lines, as one text, and written to `nombre`.bas in a folder.
-    /// Raises `ArgumentoNoValido` for a name that is no identifier or a reserved word; so do the next.
+    /// @name Módulo de carga
+    /// El léxico es el del mismo control (`Norvik::Lexico`). Lanzan `ArgumentoNoValido` con un nombre que no
+    /// es un identificador o es una palabra reservada del lenguaje del módulo; los que escriben un fichero,
+    /// también `ErrorDeFichero`.
+    /// @{
+
+    /// El módulo que lee `CargaModulo`: en trozos de líneas enteras, como un texto y en el fichero
+    /// `nombre`.bas de una carpeta.
     void escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
                        const SumideroDeTexto& sumidero) const;
     std::u16string textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                const std::filesystem::path& carpeta) const;
-    /// What the calls pass as C++ constants, with enumerations of the numbers, written to `nombre`.hpp.
+    /// La cabecera de C++: el lenguaje como constantes (`DatosLenguaje`), enumeraciones de sus tokens,
+    /// variables y reglas, y las funciones `lenguaje()` y `CargaLenguaje(control)`, todo en el espacio
+    /// `nombre`. Lo mismo, y en el fichero `nombre`.hpp.
     void escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                           const SumideroDeTexto& sumidero) const;
     std::u16string textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const;
     void GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                          const std::filesystem::path& carpeta) const;
+
+    /// @}
 
 private:
     struct ConjuntosConTextos {
@@ -220,7 +268,9 @@ private:
     clasico::Pendientes pendientes_;
     std::int16_t numEstados_ = 0;
     std::uint64_t edicion_ = 0;
-    mutable std::optional<ConjuntosConTextos> conTextos_; // made when they are first asked for
+    // Made when they are first asked for: no table needs them. Several readers may be the first.
+    mutable std::optional<ConjuntosConTextos> conTextos_;
+    mutable std::mutex haciendoTextos_;
 };
 
 } // namespace norvik

@@ -125,6 +125,7 @@ bool gramatica::quedanSiguientesPendientes() const {
 }
 
 const gramatica::ConjuntosConTextos& gramatica::conTextos() const {
+    const std::lock_guard uno(haciendoTextos_);
     if (!conTextos_) {
         const auto& [primeros, siguientes, predict] = valores_.conjuntos;
         const ReglasPartidas& reglas = valores_.partidas;

@@ -2,6 +2,7 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramatica.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>
@@ -70,6 +71,16 @@ TEST(Hilos, LeenUnMismoArbol) {
     const Analisis analisis = analiza(lenguaje, "{\"ñ\": [1, 2]}");
     const std::string esperado = resultado(analisis);
     enVariosHilos([&] { EXPECT_EQ(resultado(analisis), esperado); });
+}
+
+TEST(Hilos, LeenLosConjuntosDeUnaGramatica) {
+    gramatica g;
+    g.SetRegla(u"S", u"S a | b");
+    g.creaConjuntos();
+    enVariosHilos([&g] {
+        EXPECT_EQ(&g.primeros(), &g.primeros());
+        EXPECT_EQ(g.siguientes().front().toStringConjunto(), u"$, a");
+    });
 }
 
 } // namespace
