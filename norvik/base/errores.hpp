@@ -23,9 +23,11 @@ private:
 class Desbordamiento : public ErrorNorvik {
 public:
     explicit Desbordamiento(std::u16string_view texto = u"Desbordamiento");
+    /// `que` con su número («la línea», 32768) y los límites que tiene.
+    Desbordamiento(std::u16string_view que, std::int64_t valor, std::int64_t primero, std::int64_t ultimo);
 };
 
-/// Un texto más largo que `maximoTexto`.
+/// Un texto más largo que `maximoTexto`: lo lanzan las operaciones del control que reconocen su texto.
 class TextoDemasiadoLargo : public Desbordamiento {
 public:
     TextoDemasiadoLargo();

@@ -88,7 +88,9 @@ public:
     }
     void operator()(const std::u16string& valor) {
         const std::string bytes = aUtf8(valor);
-        if (desdeUtf8(bytes) != valor) throw ErrorDeFichero(u"Un texto tiene caracteres a medias");
+        if (desdeUtf8(bytes) != valor)
+            throw ErrorDeFichero(
+                u"No se puede guardar un texto con caracteres a medias (un sustituto suelto)");
         escritor_.String(bytes.data(), static_cast<rapidjson::SizeType>(bytes.size()));
     }
     void operator()(const Fuente& fuente) {

@@ -17,13 +17,15 @@ constexpr std::int64_t unidad = 10000;
 template <typename Destino>
 Destino cabe(std::u16string_view clave, std::int64_t valor) {
     if (valor < std::numeric_limits<Destino>::min() || valor > std::numeric_limits<Destino>::max()) {
-        throw Desbordamiento(u"Desbordamiento: " + std::u16string(clave));
+        throw Desbordamiento(u"Desbordamiento: el valor de «" + std::u16string(clave) +
+                             u"» no cabe en su propiedad");
     }
     return static_cast<Destino>(valor);
 }
 
 [[noreturn]] void otroTipo(std::u16string_view clave) {
-    throw NoCoincidenLosTipos(u"No coinciden los tipos: " + std::u16string(clave));
+    throw NoCoincidenLosTipos(u"No coinciden los tipos: el valor de «" + std::u16string(clave) +
+                              u"» no es de la clase de su propiedad");
 }
 
 } // namespace

@@ -89,7 +89,7 @@ void Instantaneas::vacia() {
     const std::size_t habia = cuantas();
     archivadas_ = {};
     ultima_.reset();
-    a16(habia);
+    a16(habia, u"el número de cambios");
 }
 
 } // namespace norvik

@@ -8,22 +8,33 @@
 
 namespace norvik {
 
+namespace {
+
+[[noreturn]] void noHayLinea(std::int16_t n) {
+    throw ArgumentoNoValido(u"Argumento o llamada a procedimiento no válidos: el texto no tiene la línea " +
+                            aTexto(n));
+}
+
+} // namespace
+
 std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
     if (texto.empty()) return {};
-    if (n < 1) throw ArgumentoNoValido();
+    if (n < 1) noHayLinea(n);
     std::size_t inicio = 0;
     std::size_t fin = std::min(texto.find(u'\r'), texto.size());
     for (std::int32_t i = 2; i <= n; ++i) {
         inicio = fin + saltoDeLinea.size();
         fin = std::min(texto.find(u'\r', inicio - 1), texto.size());
     }
-    if (fin < inicio) throw ArgumentoNoValido();
+    if (fin < inicio) noHayLinea(n);
     return texto.substr(inicio, fin - inicio);
 }
 
 std::u16string espacios(std::int16_t veces, std::int16_t ancho) {
-    const std::int16_t cuantos = a16(std::int32_t{veces} * ancho);
-    if (cuantos < 0) throw ArgumentoNoValido();
+    const std::int16_t cuantos = a16(std::int32_t{veces} * ancho, u"el número de espacios");
+    if (cuantos < 0)
+        throw ArgumentoNoValido(u"Argumento o llamada a procedimiento no válidos: el número de espacios es " +
+                                aTexto(cuantos));
     std::u16string texto(static_cast<std::size_t>(cuantos), u' ');
     return texto;
 }

@@ -45,7 +45,8 @@ void Marcas::pinta(std::int32_t inicio, std::int32_t fin, std::int32_t color) {
 
 const signoDebuger& Marcas::ponSigno(std::int16_t linea) {
     constexpr std::size_t primero = 2;
-    const std::int16_t indice = a16(signos_.size() + primero); // signs are never taken away
+    const std::int16_t indice =
+        a16(signos_.size() + primero, u"el índice de la señal"); // signs are never taken away
     return signos_.emplace(indice, signoDebuger{indice, signoDebuger::error, linea}).first->second;
 }
 

@@ -143,7 +143,7 @@ void Norvik::SelText(std::u16string_view texto) {
 }
 
 std::int16_t Norvik::SelStart() const {
-    return a16(partes_->caja->inicioSeleccion());
+    return a16(partes_->caja->inicioSeleccion(), u"el principio de la selección");
 }
 
 void Norvik::SelStart(std::int16_t posicion) {
@@ -151,7 +151,7 @@ void Norvik::SelStart(std::int16_t posicion) {
 }
 
 std::int16_t Norvik::SelLength() const {
-    return a16(partes_->caja->longitudSeleccion());
+    return a16(partes_->caja->longitudSeleccion(), u"la longitud de la selección");
 }
 
 void Norvik::SelLength(std::int16_t longitud) {
@@ -167,7 +167,7 @@ constexpr std::int32_t punto = 10000; // the unit of sizes is its part
 } // namespace
 
 std::int16_t Norvik::SelFontSize() const {
-    return a16((partes_->caja->tamanoFuenteSeleccion() + punto / 2) / punto);
+    return a16((partes_->caja->tamanoFuenteSeleccion() + punto / 2) / punto, u"el tamaño de la fuente");
 }
 
 void Norvik::SelFontSize(std::int16_t puntos) {

@@ -13,12 +13,13 @@ namespace norvik {
 void Norvik::SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken,
                    std::int32_t tipoToken, std::u16string_view pseudoToken, std::int32_t baseToken,
                    std::int32_t colorTexto) {
-    partes_->SetER(expresion, nomER, esToken, a16(tipoToken), pseudoToken, baseToken, colorTexto);
+    partes_->SetER(expresion, nomER, esToken, a16(tipoToken, u"el tipo del token"), pseudoToken, baseToken,
+                   colorTexto);
 }
 
 void Norvik::SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
                        std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t /*colorTexto*/) {
-    partes_->SetPatron(patron, nomER, a16(tipoToken), pseudoToken, baseToken);
+    partes_->SetPatron(patron, nomER, a16(tipoToken, u"el tipo del token"), pseudoToken, baseToken);
 }
 
 void Norvik::SetPalabraReservada(std::u16string_view lexema, std::u16string& token,

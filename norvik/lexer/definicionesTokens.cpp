@@ -25,7 +25,8 @@ const std::vector<const expresionRegular*>* DefinicionesTokens::llamadas(std::u1
 }
 
 void DefinicionesTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
-    if (todas_.size() == std::numeric_limits<std::int16_t>::max()) throw Desbordamiento();
+    if (todas_.size() == std::numeric_limits<std::int16_t>::max())
+        throw Desbordamiento(u"Desbordamiento: el lenguaje pasa de 32767 definiciones de tokens");
     todas_.push_back(std::move(definicion));
     const expresionRegular* const nueva = todas_.back().get();
     try {

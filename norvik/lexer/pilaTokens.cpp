@@ -18,12 +18,14 @@ void pilaTokens::Inicializa() {
 }
 
 std::int16_t pilaTokens::getNumTokensLenguaje() const {
-    return a16(tokensLenguaje().size());
+    return a16(tokensLenguaje().size(), u"el número de tokens");
 }
 
 const expresionRegular& pilaTokens::getTokenLenguaje(std::int16_t numToken) const {
     const auto& tokens = tokensLenguaje();
-    if (numToken < 1 || static_cast<std::size_t>(numToken) > tokens.size()) throw IndiceNoValido();
+    if (numToken < 1 || static_cast<std::size_t>(numToken) > tokens.size())
+        throw IndiceNoValido(u"Índice no válido: el lenguaje tiene " + aTexto(std::int64_t(tokens.size())) +
+                             u" tokens, y se pidió el " + aTexto(numToken));
     return *tokens[static_cast<std::size_t>(numToken) - 1];
 }
 
@@ -33,8 +35,11 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
     if (TextEnd == -1 && Texto.size() > maximoTexto) throw TextoDemasiadoLargo();
     const std::int16_t inicio = TextStart == -1 ? std::int16_t{1} : TextStart;
     const std::int16_t fin = TextEnd == -1 ? a16(Texto.size() + 1) : TextEnd;
-    const std::int16_t longitud = a16(fin - inicio);
-    if (inicio < 1 || longitud < 0) throw ArgumentoNoValido();
+    const std::int16_t longitud = a16(fin - inicio, u"la longitud del texto");
+    if (inicio < 1 || longitud < 0)
+        throw ArgumentoNoValido(u"Argumento o llamada a procedimiento no válidos: no se pueden reconocer las "
+                                u"posiciones de " +
+                                aTexto(inicio) + u" a " + aTexto(fin));
     const auto desde = std::min(Texto.size(), static_cast<std::size_t>(inicio) - 1);
     const auto rango = Texto.substr(desde, static_cast<std::size_t>(longitud));
     if (!reconocedor_) reconocedor_.emplace(definiciones_);

@@ -14,21 +14,26 @@ namespace norvik {
 
 namespace {
 
+[[noreturn]] void noEsNumero(std::u16string_view texto) {
+    throw NoCoincidenLosTipos(u"No coinciden los tipos: «" + std::u16string(texto) +
+                              u"» no es el número de una regla");
+}
+
 // A decimal number of 16 bits. The value stops growing once it cannot fit.
 std::int16_t leeNumero(std::u16string_view texto) {
     constexpr std::u16string_view blancos = u" \t\r\n";
     const auto inicio = texto.find_first_not_of(blancos);
-    if (inicio == std::u16string_view::npos) throw NoCoincidenLosTipos();
-    texto = texto.substr(inicio, texto.find_last_not_of(blancos) - inicio + 1);
-    const bool negativo = texto.front() == u'-';
-    if (negativo || texto.front() == u'+') texto.remove_prefix(1);
-    if (texto.empty()) throw NoCoincidenLosTipos();
+    if (inicio == std::u16string_view::npos) noEsNumero(texto);
+    std::u16string_view cifras = texto.substr(inicio, texto.find_last_not_of(blancos) - inicio + 1);
+    const bool negativo = cifras.front() == u'-';
+    if (negativo || cifras.front() == u'+') cifras.remove_prefix(1);
+    if (cifras.empty()) noEsNumero(texto);
     std::int32_t valor = 0;
-    for (const char16_t c : texto) {
-        if (c < u'0' || c > u'9') throw NoCoincidenLosTipos();
+    for (const char16_t c : cifras) {
+        if (c < u'0' || c > u'9') noEsNumero(texto);
         if (valor < 100000) valor = valor * 10 + (c - u'0');
     }
-    return a16(negativo ? -valor : valor);
+    return a16(negativo ? -valor : valor, u"el número de la regla");
 }
 
 void anotaNodo(const Arbol& nodo, std::size_t nivel, std::u16string& texto) {
@@ -50,11 +55,13 @@ std::u16string Arbol::GetULexema() const {
 }
 
 std::int16_t Arbol::GetNumHijos() const {
-    return a16(hijos().size());
+    return a16(hijos().size(), u"el número de hijos");
 }
 
 Arbol* Arbol::GetHijo(std::int16_t numHijo) const {
-    if (numHijo < 1) throw IndiceNoValido();
+    if (numHijo < 1)
+        throw IndiceNoValido(u"Índice no válido: los hijos de un nodo cuentan desde 1, y se pidió el " +
+                             aTexto(numHijo));
     const auto indice = static_cast<std::size_t>(numHijo) - 1;
     return indice < hijos().size() ? hijos()[indice] : nullptr;
 }

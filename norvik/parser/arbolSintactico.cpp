@@ -120,7 +120,10 @@ bool Arbol::tieneEncima(const Arbol& nodo) const {
 Arbol& Arbol::adopta(Arbol& hijo) {
     reanima();
     hijo.reanima();
-    if (&hijo == this || (!hijo.GetEsHoja() && tieneEncima(hijo))) throw ArgumentoNoValido();
+    if (&hijo == this || (!hijo.GetEsHoja() && tieneEncima(hijo)))
+        throw ArgumentoNoValido(
+            u"Argumento o llamada a procedimiento no válidos: un nodo no puede colgar de sí "
+            u"mismo ni de lo que tiene debajo");
     const bool libre = hijo.padre_ == nullptr && &hijo.arbol() == &arbol();
     Arbol& adoptado = libre ? hijo : arbol().copia(hijo);
     adoptado.padre_ = this;

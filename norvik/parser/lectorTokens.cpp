@@ -69,7 +69,7 @@ Posicion LectorTokens::posicionToken(const FuenteTexto& fuente) const {
 }
 
 std::int16_t LectorTokens::LineaToken() const {
-    return a16(ultimaPosicion_.linea);
+    return a16(ultimaPosicion_.linea, u"la línea del token");
 }
 
 std::int32_t LectorTokens::ColumnaToken() const {

@@ -74,7 +74,7 @@ public:
 
     /// The last entry: its rule, 0 when it is a shift; its shift, empty when it is a reduction.
     std::int16_t reglaCima() const {
-        if (pasos_.empty()) throw IndiceNoValido();
+        if (pasos_.empty()) throw IndiceNoValido(u"Índice no válido: la traza está vacía");
         return pasos_.back();
     }
     Desplazamiento desplazamientoCima() const {

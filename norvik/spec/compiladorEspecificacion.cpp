@@ -2,6 +2,7 @@
 #include "norvik/spec/compiladorEspecificacion.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/arbol.hpp"
@@ -25,7 +26,11 @@ public:
     std::u16string_view lexema() const { return nodo_->GetLexema(); }
     NodoDeArbol hijo(std::int16_t numero) const {
         const Arbol* const encontrado = nodo_->GetHijo(numero);
-        if (encontrado == nullptr) throw ArgumentoNoValido();
+        if (encontrado == nullptr)
+            throw ArgumentoNoValido(u"Argumento o llamada a procedimiento no válidos: en el árbol de la "
+                                    u"especificación, un nodo " +
+                                    std::u16string(nodo_->GetNomRegla()) + u" no tiene su hijo " +
+                                    aTexto(numero));
         return NodoDeArbol(*encontrado);
     }
     void apilaHijos(std::vector<NodoDeArbol>& pila) const {

@@ -184,8 +184,8 @@ public:
                std::u16string_view pseudoToken, std::int32_t baseToken,
                std::int32_t /*colorTexto*/) override {
         constexpr bool sensible = false;
-        const auto error = datos_.lexico.registra(
-            {expresion, nomER, esToken, sensible, pseudoToken, a16(tipoToken), baseToken});
+        const auto error = datos_.lexico.registra({expresion, nomER, esToken, sensible, pseudoToken,
+                                                   a16(tipoToken, u"el tipo del token"), baseToken});
         if (error) throw ArgumentoNoValido(mensaje(*error));
     }
     void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
@@ -193,7 +193,7 @@ public:
                    std::int32_t /*colorTexto*/) override {
         constexpr bool sensible = false;
         const auto error = datos_.lexico.registraPatron(
-            {patron, nomER, true, sensible, pseudoToken, a16(tipoToken), baseToken});
+            {patron, nomER, true, sensible, pseudoToken, a16(tipoToken, u"el tipo del token"), baseToken});
         if (error) throw ArgumentoNoValido(mensaje(*error));
     }
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override {

@@ -13,7 +13,7 @@
 
 #include <array>
 
-// A property of the control and of its widget, as two members of its name.
+// A property of the control and of its widget, as two members of its name. A failure names the property.
 #define NORVIK_PROPIEDAD(Tipo, Nombre)                                                                       \
     Tipo Nombre() const {                                                                                    \
         return control_.Nombre();                                                                            \
@@ -26,9 +26,9 @@
         return control_.Nombre();                                                                            \
     }                                                                                                        \
     void Nombre(int valor) {                                                                                 \
-        control_.Nombre(a16(valor));                                                                         \
+        control_.Nombre(a16(valor, u"" #Nombre));                                                            \
     }
-/// A colour 0x00BBGGRR, and the same as Qt's property.
+/// Un color 0x00BBGGRR, y lo mismo como propiedad de Qt.
 #define NORVIK_PROPIEDAD_COLOR(Nombre)                                                                       \
     NORVIK_PROPIEDAD(int, Nombre)                                                                            \
     QColor Nombre##Qt() const {                                                                              \
@@ -47,12 +47,20 @@
 
 namespace norvik {
 
-/// The control as a widget: its text box and the elements round it. What it can do besides is done by the
-/// control itself, `control()`; its options and events are here as properties and signals under their own
-/// names. A slot that is connected directly may change the arguments of a signal.
+/// El control como widget de Qt: su caja de texto y lo que la rodea. Sus opciones y sus eventos son
+/// propiedades y señales con los mismos nombres; lo demás (cargar un lenguaje, analizar, marcar…) lo hace el
+/// propio control, `control()`. Es del hilo de la interfaz, y se le da un padre o se tiene por valor como a
+/// cualquier `QWidget`.
 ///
-/// Lengths are in twips, positions 0-based; a colour is 0x00BBGGRR to its member, a `QColor` as property (an
-/// invalid one is none). A number that does not fit 16 bits raises `Desbordamiento`, as everywhere.
+/// Posiciones desde 0, en caracteres, y un salto de línea son dos (CR LF); longitudes en la pantalla en
+/// twips. Un color es 0x00BBGGRR en su miembro (`ColorPR`) y un `QColor` en su propiedad de Qt, de miembros
+/// `ColorPRQt`, donde uno no válido es ninguno. Un número que no cabe en 16 bits lanza `Desbordamiento`, que
+/// nombra la propiedad.
+///
+/// Una señal puede llevar sus argumentos por referencia: una ranura conectada directamente los puede cambiar.
+/// Lo que se lance mientras el usuario escribe o pulsa no llega a Qt: se enseña en una caja de mensaje, una
+/// vez por fallo mientras el texto sea demasiado largo, y el texto queda. Lo que lance una llamada del
+/// anfitrión le llega a él.
 class ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
     Q_PROPERTY(bool Borde3D READ Borde3D WRITE Borde3D)
@@ -89,16 +97,24 @@ class ControlNorvik : public QWidget, private Contenedor {
     Q_PROPERTY(int SelFontSize READ SelFontSize WRITE SelFontSize STORED false DESIGNABLE false)
 
 public:
+    /// Con unos servicios propios.
     explicit ControlNorvik(QWidget* padre = nullptr) : ControlNorvik(nullptr, padre) {}
-    /// With the services that the windows around it share, which must outlive it.
+    /// Con los servicios que comparten las ventanas de alrededor, que le sobreviven.
     ControlNorvik(SistemaQt& sistema, QWidget* padre) : ControlNorvik(&sistema, padre) {}
     ControlNorvik(const ControlNorvik&) = delete;
     ControlNorvik& operator=(const ControlNorvik&) = delete;
     ~ControlNorvik() override;
 
+    /// El control; vive lo que el widget, como los dos que siguen.
     Norvik& control() { return control_; }
+    /// Su caja de texto.
     CajaTextoQt& caja() { return caja_; }
+    /// Sus servicios: cajas de mensaje, puntero, impresora.
     SistemaQt& sistema() { return sistema_; }
+
+    /// @name Propiedades
+    /// Como las de `Norvik`.
+    /// @{
 
     NORVIK_PROPIEDAD(bool, Borde3D)
     NORVIK_PROPIEDAD(bool, LeftBorderVisible)
@@ -124,10 +140,11 @@ public:
     NORVIK_PROPIEDAD_COLOR(ColorFechas)
     QFont Font() const { return aQFont(control_.Font()); }
     void Font(const QFont& letra) { control_.Font(deQFont(letra)); }
-    /// The specification of a language and a text to try it with. Their line breaks, of whatever kind when
-    /// they are set, are CR LF.
+    /// La especificación del lenguaje en que se trabaja. Sus saltos de línea, como quiera que se pongan, son
+    /// CR LF.
     QString ContenidoG() const { return aQString(control_.ContenidoG()); }
     void ContenidoG(const QString& texto) { control_.ContenidoG(vistaDe(conSaltos(texto))); }
+    /// El texto para probarla, con los saltos de línea igual.
     QString CodigoPrueba() const { return aQString(control_.CodigoPrueba()); }
     void CodigoPrueba(const QString& texto) { control_.CodigoPrueba(vistaDe(conSaltos(texto))); }
     NORVIK_PROPIEDAD(bool, TextoModificado)
@@ -138,16 +155,23 @@ public:
     NORVIK_PROPIEDAD_TEXTO(SelFontName)
     NORVIK_PROPIEDAD_16(SelFontSize)
 
-    /// The text that is parsed without being shown.
+    /// @}
+
+    /// El texto que se analiza sin enseñarlo.
     QString TextoInvisible() const { return aQString(control_.GetTextoInvisible()); }
 
     QSize sizeHint() const override { return {480, 320}; }
 
 public slots: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
+    /// Olvida el lenguaje entero (`Norvik::OlvidaLenguaje`).
     void OlvidaLenguaje() { control_.OlvidaLenguaje(); }
+    /// Otro texto invisible.
     void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
 
 signals:
+    /// @name Señales
+    /// Las explica `EventosControl`.
+    /// @{
     void CambioDeLinea(qint16& LineaActual);
     void change();
     void Click();
@@ -158,7 +182,9 @@ signals:
     void MouseMove(qint16& Button, qint16& Shift, float& x, float& y);
     void MouseUp(qint16& Button, qint16& Shift, float& x, float& y);
     void SelChange();
-    /// A property that is saved has another value.
+    /// @}
+
+    /// Una propiedad que se guarda tiene otro valor.
     void propiedadCambiada(const QString& nombre);
 
 protected:
@@ -190,11 +216,11 @@ private:
 
     ElementosControl elementos_;
     SistemaQt propio_;
-    SistemaQt& sistema_; ///< `propio_` or one that is shared
+    SistemaQt& sistema_; ///< `propio_` o uno compartido
     CajaTextoQt caja_;
     Norvik control_;
-    std::u16string falloContado_; ///< of a text that is too long
-    bool saliendo_ = false;       ///< the focus passes over `tabulador`
+    std::u16string falloContado_; ///< de un texto demasiado largo
+    bool saliendo_ = false;       ///< el foco pasa por encima de `tabulador`
 };
 
 } // namespace norvik

@@ -139,7 +139,7 @@ void VentanaEditor::ponAyuda(const QString& informacion) {
 
 void VentanaEditor::seleccionaTodo() {
     Norvik& control = norvik1_.control();
-    const std::int16_t longitud = a16(norvik1_.caja().texto().size());
+    const std::int16_t longitud = a16(norvik1_.caja().texto().size(), u"la longitud del texto");
     control.SelStart(0);
     control.SelLength(longitud);
 }

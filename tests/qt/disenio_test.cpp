@@ -240,7 +240,8 @@ TEST_F(DisenioTest, LoQueFallaEnElEditorSeDiceYNadaSePierde) {
         {"VerInforme", muchosEstados, demasiados},
         {"ProbarLenguaje", largo, demasiado},
         {"VerInforme", largo, demasiado},
-        {"seleccionarTodo", largo, "|Desbordamiento|0"},
+        {"seleccionarTodo", largo,
+         "|Desbordamiento: la longitud del texto 40000 no está entre -32768 y 32767|0"},
         {"VerInforme", "", "Informe"},
         {"ProbarLenguaje", "", "ProbarLenguaje", false},
     };

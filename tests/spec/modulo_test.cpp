@@ -186,7 +186,8 @@ TEST(Modulo, LoDemasSeNombraConSuLinea) {
         {con(u"Gramatica \"a\"", u"Gramatica \"a"),
          "Línea 25 del módulo: falta la comilla que cierra un texto"},
         {con(u", True, 0", u", False, 0"), "Línea 37 del módulo: se esperaba «, True,»"},
-        {con(u", True, 0", u", True, 70000"), "Línea 37 del módulo: Desbordamiento"},
+        {con(u", True, 0", u", True, 70000"),
+         "Línea 37 del módulo: Desbordamiento: el tipo del token 70000 no está entre -32768 y 32767"},
         {con(u"S -> a", u"S a"), "Línea 48 del módulo: No coinciden los tipos: la regla «S a» no tiene «->» "
                                  "entre su cabeza y su cuerpo"},
         {bueno + u"End Sub", "Línea 53 del módulo: sobra texto tras el último procedimiento"},
