@@ -106,7 +106,9 @@ Opciones:
   -o CARPETA       carpeta, que debe existir (por omisión, la actual);
                    «-» escribe el módulo en la salida estándar
   --lenguaje vb    NOMBRE.bas (por omisión)
-  --lenguaje cpp   NOMBRE.hpp, con las mismas llamadas
+  --lenguaje cpp   NOMBRE.hpp: el lenguaje como constantes de C++, los números de
+                   sus tokens, variables y reglas con nombre, y dos funciones,
+                   CargaLenguaje(control) y lenguaje()
   --help           muestra esta ayuda
 )"}};
 
