@@ -53,6 +53,8 @@ Opciones:
   --formato arbol    un nodo por línea, dibujado (por omisión)
   --formato json     todo el árbol en una línea de JSON
   --formato lineas   un objeto JSON por nodo y línea, en preorden
+                     Con los dos últimos, un texto incorrecto da en la salida
+                     una línea de JSON, {"diagnosticos":[…]}.
   --help             muestra esta ayuda
 )"},
     Ayuda{"lexemas", R"(Uso: norvik lexemas LENGUAJE TEXTO [--formato tabla|json]
