@@ -109,7 +109,7 @@ public:
     /// @{
 
     /// Lee una especificación; la tabla la hace después `GeneraCompilador`. Falso si está mal escrita
-    /// (`GetCodigoError` no es 0) o la usa una variable sin reglas; `GetmensajeError` dice qué. Un patrón mal
+    /// (`GetCodigoError` no es 0) o usa una variable sin reglas; `GetmensajeError` dice qué. Un patrón mal
     /// escrito se enseña en una caja de mensaje y su token falta; un token sin definición no se nota: quien
     /// quiera saberlo, y con su lugar, compile con `Lenguaje`.
     ///
@@ -237,8 +237,8 @@ public:
     /// Olvida todos los cambios; el siguiente es el punto de partida, que no se deshace. Lanza
     /// `Desbordamiento`, después de hacerlo, si eran más de 32 767.
     void InicializaUndosYRedos() { vivo()->historial.InicializaUndosYRedos(); }
-    /// Deshace el último cambio. De uno que a la vez quitó y puso texto solo deshace la diferencia de
-    /// longitud, menos los del diálogo de reemplazar, que deshace enteros.
+    /// Deshace lo último que se escribió o borró. De un cambio que quitó y puso a la vez, o de un `Text(…)`,
+    /// solo la diferencia de longitud; los del diálogo de reemplazar, enteros.
     void Undo() { vivo()->historial.Undo(); }
     /// Rehace el último cambio deshecho.
     void Redo() { vivo()->historial.Redo(); }
@@ -320,11 +320,11 @@ public:
     /// Posiciones desde 0 y longitudes, en caracteres y de 16 bits: leer una mayor lanza `Desbordamiento`.
     /// @{
 
-    /// El texto entero, con los saltos de línea como CR LF. Puede ser más largo que lo que se colorea o
-    /// analiza.
+    /// El texto entero, con sus saltos como CR LF; puede ser más largo que lo que se colorea o analiza.
     std::u16string Text() const;
-    /// Otro texto, sin colorear (lo hace `ColoreaTodo`) y con el cursor al principio; un CR o un LF solo se
-    /// convierte en CR LF. Es un cambio más en el historial. Uno igual al que hay no hace nada.
+    /// Otro texto, sin colorear y con el cursor al principio; un CR o LF solo se convierte en CR LF. Es un
+    /// cambio del historial. Uno igual no hace nada. Con `Colorear`, uno largo puede lanzar como
+    /// `ColoreaTodo`, ya puesto.
     void Text(std::u16string_view texto) { vivo()->propiedades.ponText(texto); }
     /// El texto seleccionado; ponerlo reemplaza la selección, y el cursor queda detrás.
     std::u16string SelText() const;
