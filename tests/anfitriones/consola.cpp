@@ -1,6 +1,6 @@
 // The control in a program without windows: a text box kept in memory, message boxes as lines.
 //
-//   ./consola LANGUAGE.nvk TEXT        prints the coloured text's tree, or marks the wrong line
+//   ./consola LANGUAGE.nvk TEXT        prints the text's tree, or its wrong line and the error
 
 #include <norvik/control/norvik.hpp>
 
@@ -17,8 +17,6 @@ int main(int argc, char** argv) {
     norvik::SistemaMemoria sistema(
         [](const norvik::Mensaje& mensaje) { std::cerr << norvik::aUtf8(mensaje.texto) << '\n'; });
     norvik::Norvik control(caja, sistema);
-    control.MuestraMensajesDeError(false);
-    control.MarcarErrores(true);
     try {
         if (!control.CargaGramatica(norvik::leeTexto(argv[1])) || !control.GeneraCompilador()) {
             std::cerr << norvik::aUtf8(control.GetmensajeError()) << '\n';

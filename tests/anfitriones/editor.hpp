@@ -3,8 +3,6 @@
 #include <norvik/spec/lenguaje.hpp>
 #include <norvik/tools/controlNorvik.hpp>
 
-#include <norvik/base/texto.hpp>
-
 #include <QListWidget>
 #include <QMainWindow>
 #include <QSplitter>
@@ -22,7 +20,6 @@ public:
         texto = new norvik::ControlNorvik(division);
         errores = new QListWidget(division);
         norvik::Norvik& control = texto->control();
-        control.MuestraMensajesDeError(false);
         control.Colorear(true);
         if (!control.CargaGramatica(especificacion) || !control.GeneraCompilador())
             errores->addItem("sin colores");
@@ -46,11 +43,10 @@ private:
     }
     void vaAlError(int cual) {
         const auto& [inicio, fin] = diagnosticos.at(static_cast<std::size_t>(cual)).rango;
-        norvik::Norvik& control = texto->control();
         try {
-            control.SelStart(static_cast<std::int16_t>(inicio.desplazamiento));
-            control.SelLength(static_cast<std::int16_t>(fin.desplazamiento - inicio.desplazamiento));
-        } catch (const norvik::ErrorNorvik& error) {
+            texto->SelStart(inicio.desplazamiento);
+            texto->SelLength(fin.desplazamiento - inicio.desplazamiento);
+        } catch (const norvik::ErrorNorvik& error) { // a place beyond those of 16 bits
             errores->addItem(error.what());
         }
         texto->setFocus();

@@ -2,6 +2,9 @@
 
 #include "editor.hpp"
 
+#include <norvik/base/ficheros.hpp>
+#include <norvik/base/texto.hpp>
+
 #include <QApplication>
 
 #include <iostream>
@@ -11,13 +14,17 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     Editor editor(norvik::leeTexto(argv[1]));
     editor.show();
-    for (const char16_t* texto : {u"1 + 2", u"1 +\n(2 3)"}) {
+    editor.texto->Colorear(false); // one of the texts is too long for it
+    for (const auto& texto :
+         {std::u16string(u"1 + 2"), std::u16string(u"1 +\n(2 3)"), std::u16string(40000, u' ')}) {
         editor.texto->control().Text(texto);
         std::cout << editor.errores->count() << '\n';
+        auto* const error = editor.errores->item(0);
+        if (error == nullptr) continue;
+        editor.errores->setCurrentItem(error);
+        emit editor.errores->itemClicked(error);
+        for (int i = 0; i < editor.errores->count(); ++i)
+            std::cout << editor.errores->item(i)->text().toStdString() << '\n';
+        std::cout << norvik::aUtf8(editor.texto->control().SelText()) << '\n';
     }
-    auto* const error = editor.errores->item(0);
-    std::cout << error->text().toStdString() << '\n';
-    editor.errores->setCurrentItem(error);
-    emit editor.errores->itemClicked(error);
-    std::cout << norvik::aUtf8(editor.texto->control().SelText()) << '\n';
 }

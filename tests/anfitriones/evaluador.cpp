@@ -23,26 +23,21 @@ constexpr std::string_view aritmetica = R"nvk(
 // What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too much.
 double evalua(norvik::Nodo raiz) {
     std::vector<double> valores;
-    const auto saca = [&] {
-        const double valor = valores.back();
-        valores.pop_back();
-        return valor;
-    };
     const auto sale = [&](norvik::Nodo nodo) {
         const std::u16string_view cuerpo = nodo.cuerpo();
         if (nodo.nombre() == u"num") valores.push_back(std::stod(nodo.lexemaUtf8()));
         if (cuerpo == u"menos F") valores.back() = -valores.back();
         if (nodo.numHijos() != 3 || cuerpo == u"abre E cierra") return;
-        const double derecho = saca();
-        const double izquierdo = saca();
-        if (cuerpo == u"E mas T") valores.push_back(izquierdo + derecho);
-        if (cuerpo == u"E menos T") valores.push_back(izquierdo - derecho);
-        if (cuerpo == u"T por F") valores.push_back(izquierdo * derecho);
-        if (cuerpo == u"T entre F") valores.push_back(izquierdo / derecho);
+        const double derecho = valores.back();
+        valores.pop_back();
+        if (cuerpo == u"E mas T") valores.back() += derecho;
+        if (cuerpo == u"E menos T") valores.back() -= derecho;
+        if (cuerpo == u"T por F") valores.back() *= derecho;
+        if (cuerpo == u"T entre F") valores.back() /= derecho;
     };
     norvik::ArbolAnalisis::recorre(
         raiz, [](norvik::Nodo) {}, sale);
-    return saca();
+    return valores.back();
 }
 
 } // namespace
@@ -51,7 +46,7 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     const auto compilacion = norvik::Lenguaje::compila(aritmetica);
     if (!compilacion) return 2;
-    const auto analisis = norvik::analiza(*compilacion.lenguaje, std::string_view(argv[1]));
+    const auto analisis = analiza(*compilacion.lenguaje, argv[1]);
     for (const auto& error : analisis.diagnosticos)
         std::cerr << "columna " << error.rango.inicio.columna << ": " << norvik::aUtf8(mensaje(error))
                   << '\n';

@@ -7,70 +7,57 @@
 
 #include <norvik/base/texto.hpp>
 
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
 
 namespace {
 
-class Evaluacion {
-public:
-    // What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too
-    // much.
-    double de(norvik::Nodo raiz) {
-        norvik::ArbolAnalisis::recorre(
-            raiz, [](norvik::Nodo) {}, [this](norvik::Nodo nodo) { sale(nodo); });
-        return saca();
-    }
-
-private:
-    void sale(norvik::Nodo nodo) {
+// What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too much.
+double evalua(norvik::Nodo raiz) {
+    std::vector<double> valores;
+    const auto opera = [&](const auto& operacion) {
+        const double derecho = valores.back();
+        valores.pop_back();
+        valores.back() = operacion(valores.back(), derecho);
+    };
+    const auto sale = [&](norvik::Nodo nodo) {
         using enum Aritmetica::Regla;
         if (nodo.esToken()) return;
         switch (Aritmetica::Regla{nodo.regla()}) {
         case E_1:
-            return opera([](double a, double b) { return a + b; });
+            return opera(std::plus());
         case E_2:
-            return opera([](double a, double b) { return a - b; });
+            return opera(std::minus());
         case T_1:
-            return opera([](double a, double b) { return a * b; });
+            return opera(std::multiplies());
         case T_2:
-            return opera([](double a, double b) { return a / b; });
+            return opera(std::divides());
         case F_1:
-            return valores_.push_back(std::stod(nodo[0].lexemaUtf8()));
+            return valores.push_back(std::stod(nodo[0].lexemaUtf8()));
         case F_3:
-            return valores_.push_back(-saca());
+            valores.back() = -valores.back();
+            return;
         case E_3:
         case T_3:
         case F_2:
             return; // the value of what they contain
         }
-    }
-
-    template <typename Operacion>
-    void opera(const Operacion& operacion) {
-        const double derecho = saca();
-        const double izquierdo = saca();
-        valores_.push_back(operacion(izquierdo, derecho));
-    }
-
-    double saca() {
-        const double valor = valores_.back();
-        valores_.pop_back();
-        return valor;
-    }
-
-    std::vector<double> valores_;
-};
+    };
+    norvik::ArbolAnalisis::recorre(
+        raiz, [](norvik::Nodo) {}, sale);
+    return valores.back();
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
-    const auto analisis = norvik::analiza(Aritmetica::lenguaje(), std::string_view(argv[1]));
+    const auto analisis = analiza(Aritmetica::lenguaje(), argv[1]);
     for (const auto& error : analisis.diagnosticos)
         std::cerr << "columna " << error.rango.inicio.columna << ": " << norvik::aUtf8(mensaje(error))
                   << '\n';
     if (!analisis) return 1;
-    std::cout << Evaluacion().de(analisis.arbol.raiz()) << '\n';
+    std::cout << evalua(analisis.arbol.raiz()) << '\n';
 }
