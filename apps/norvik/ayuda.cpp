@@ -20,6 +20,7 @@ Uso:
   norvik colorea  LENGUAJE TEXTO [--formato ansi|html]
   norvik informe  ESPECIFICACION [-o CARPETA]
   norvik modulo   ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
+  norvik revisa   ESPECIFICACION... [--formato texto|json|sarif] [--estricto]
   norvik --help | --version
   norvik ORDEN --help
 
@@ -29,6 +30,7 @@ Uso:
   colorea   muestra un texto con los colores de sus tokens
   informe   escribe el informe de una gramática y dice sus conflictos
   modulo    escribe el módulo que carga un lenguaje ya compilado
+  revisa    dice lo que está mal o llama la atención en especificaciones
 
 LENGUAJE es la especificación de un lenguaje (por costumbre, NOMBRE.nvk) o un módulo
 de carga (NOMBRE.bas) escrito por «norvik modulo».
@@ -112,6 +114,23 @@ Opciones:
                    sus tokens, variables y reglas con nombre, y dos funciones,
                    CargaLenguaje(control) y lenguaje()
   --help           muestra esta ayuda
+)"},
+    Ayuda{"revisa", R"(Uso: norvik revisa ESPECIFICACION... [--formato texto|json|sarif] [--estricto]
+
+Dice todo lo que está mal en cada especificación, con su lugar, y lo que no impide
+compilarla pero no hace lo que parece: tokens que nadie usa o que no ganan nunca,
+variables a las que no se llega o de las que no sale ningún texto, ciclos, conflictos...
+
+  ESPECIFICACION   fichero con la especificación; «-» es la entrada estándar
+
+Opciones:
+  --formato texto   cada hallazgo con su línea (por omisión)
+  --formato json    un objeto JSON por línea
+  --formato sarif   un documento SARIF 2.1.0
+  --estricto        un aviso cuenta como un error
+  --help            muestra esta ayuda
+
+El estado de salida es 0 si no hay errores y 1 si los hay.
 )"}};
 
 } // namespace

@@ -1,61 +1,11 @@
 #include "json.hpp"
 
+#include "escritorJson.hpp"
 #include "recorrido.hpp"
-
-#include "norvik/base/texto.hpp"
-
-#include <rapidjson/writer.h>
 
 namespace norvik::orden {
 
 namespace {
-
-/// Standard output as RapidJSON writes to it.
-struct Flujo {
-    using Ch = char;
-    void Put(Ch c) { salida.escribe({&c, 1}); }
-    void Flush() {}
-
-    Salida& salida;
-};
-
-/// Writes JSON in UTF-8: a lone surrogate comes out as U+FFFD.
-class Escritor {
-public:
-    explicit Escritor(Salida& salida) : flujo_{salida} {}
-
-    void abreObjeto() { escritor_.StartObject(); }
-    void cierraObjeto() { escritor_.EndObject(); }
-    void abreLista(const char* clave) {
-        escritor_.Key(clave);
-        escritor_.StartArray();
-    }
-    void cierraLista() { escritor_.EndArray(); }
-    void campo(const char* clave, std::u16string_view texto) {
-        escritor_.Key(clave);
-        elemento(texto);
-    }
-    void elemento(std::u16string_view texto) {
-        const std::string bytes = aUtf8(texto);
-        escritor_.String(bytes.data(), static_cast<rapidjson::SizeType>(bytes.size()));
-    }
-    void abreObjeto(const char* clave) {
-        escritor_.Key(clave);
-        escritor_.StartObject();
-    }
-    void campo(const char* clave, std::int32_t numero) {
-        escritor_.Key(clave);
-        escritor_.Int(numero);
-    }
-    void acabaLinea() {
-        flujo_.Put('\n');
-        escritor_.Reset(flujo_);
-    }
-
-private:
-    Flujo flujo_;
-    rapidjson::Writer<Flujo> escritor_{flujo_};
-};
 
 void camposDeNodo(Escritor& escritor, const Arbol& nodo) {
     if (esInterior(nodo)) {
@@ -146,6 +96,12 @@ void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_vi
     for (const Diagnostico& diagnostico : diagnosticos) escribeDiagnostico(escritor, diagnostico, fichero);
     escritor.cierraLista();
     escritor.cierraObjeto();
+    escritor.acabaLinea();
+}
+
+void escribeJson(const Diagnostico& diagnostico, std::u16string_view fichero, Salida& salida) {
+    Escritor escritor(salida);
+    escribeDiagnostico(escritor, diagnostico, fichero);
     escritor.acabaLinea();
 }
 

@@ -22,5 +22,7 @@ void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, S
 
 /// One line: {"diagnosticos":[…]}, all of one file.
 void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_view fichero, Salida& salida);
+/// One line for one.
+void escribeJson(const Diagnostico& diagnostico, std::u16string_view fichero, Salida& salida);
 
 } // namespace norvik::orden

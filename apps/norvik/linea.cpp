@@ -9,6 +9,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -43,6 +44,10 @@ constexpr std::array formatosDeColor = {Opcion{"", FormatoColor::Terminal},
 constexpr std::array lenguajesDeModulo = {Opcion{"vb", LenguajeModulo::Vb},
                                           Opcion{"cpp", LenguajeModulo::Cpp}};
 
+constexpr std::array formatosDeRevision = {Opcion{"texto", FormatoRevision::Texto},
+                                           Opcion{"json", FormatoRevision::Json},
+                                           Opcion{"sarif", FormatoRevision::Sarif}};
+
 template <typename Valor, std::size_t n>
 Valor elige(const std::array<Opcion<Valor>, n>& opciones, std::string_view opcion,
             const std::optional<std::string>& palabra) {
@@ -70,13 +75,17 @@ private:
         std::optional<std::string> formato;
         std::optional<std::string> lenguaje;
         std::string carpeta = ".";
+        std::vector<std::string> especificaciones;
+        bool estricto = false;
     };
 
+    CLI::App* conAyuda(const char* nombre);
     CLI::App* nueva(const char* nombre, const char* segunda);
     Orden interpreta(const CLI::App& orden) const;
     static void compruebaOpciones(const CLI::App& orden);
     void comprueba(const CLI::App& orden) const;
     Modulo modulo() const;
+    Revisa revisa() const;
 
     CLI::App app_;
     Palabras palabras_;
@@ -96,12 +105,21 @@ Linea::Linea() {
     CLI::App* const modulo = nueva("modulo", "NOMBRE");
     modulo->add_option("-o", palabras_.carpeta)->take_last();
     modulo->add_option("--lenguaje", palabras_.lenguaje)->take_last();
+    CLI::App* const revisa = conAyuda("revisa");
+    revisa->add_option("ESPECIFICACION", palabras_.especificaciones);
+    revisa->add_option("--formato", palabras_.formato)->take_last();
+    revisa->add_flag("--estricto", palabras_.estricto)->disable_flag_override();
 }
 
-CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
+CLI::App* Linea::conAyuda(const char* nombre) {
     CLI::App* const orden = app_.add_subcommand(nombre);
     orden->set_help_flag();
     orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
+    return orden;
+}
+
+CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
+    CLI::App* const orden = conAyuda(nombre);
     orden->add_option(segunda != nullptr && std::string_view(segunda) == "TEXTO" ? "LENGUAJE"
                                                                                  : "ESPECIFICACION",
                       palabras_.primera);
@@ -161,6 +179,15 @@ Modulo Linea::modulo() const {
     return Modulo{palabras_.primera, nombre, palabras_.carpeta, lenguaje};
 }
 
+Revisa Linea::revisa() const {
+    const auto& especificaciones = palabras_.especificaciones;
+    if (std::ranges::count(especificaciones, flujo) > 1)
+        throw LineaIncorrecta(u"la entrada estándar («-») solo puede estar en lugar de un fichero");
+    return {{especificaciones.begin(), especificaciones.end()},
+            elige(formatosDeRevision, "--formato", palabras_.formato),
+            palabras_.estricto};
+}
+
 Orden Linea::interpreta(const CLI::App& orden) const {
     const std::string& nombre = orden.get_name();
     if (nombre == "analiza")
@@ -172,6 +199,7 @@ Orden Linea::interpreta(const CLI::App& orden) const {
     if (nombre == "colorea")
         return Colorea{palabras_.primera, palabras_.segunda,
                        elige(formatosDeColor, "--formato", palabras_.formato)};
+    if (nombre == "revisa") return revisa();
     if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta};
     return modulo();
 }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace norvik::orden {
 
@@ -44,12 +45,20 @@ struct Modulo {
     LenguajeModulo lenguaje = LenguajeModulo::Vb;
 };
 
+enum class FormatoRevision { Texto, Json, Sarif };
+
+struct Revisa {
+    std::vector<std::filesystem::path> especificaciones;
+    FormatoRevision formato = FormatoRevision::Texto;
+    bool estricto = false; ///< a warning counts as an error
+};
+
 /// Help or version: the text is the answer.
 struct Contesta {
     std::string texto;
 };
 
-using Orden = std::variant<Contesta, Analiza, Lexemas, Colorea, Informe, Modulo>;
+using Orden = std::variant<Contesta, Analiza, Lexemas, Colorea, Informe, Modulo, Revisa>;
 
 /// A command line that asks for nothing that can be done.
 class LineaIncorrecta : public ErrorNorvik {

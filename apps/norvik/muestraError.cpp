@@ -32,6 +32,19 @@ Linea lineaDe(const Rango& rango, std::u16string_view texto) {
     return linea;
 }
 
+// The fixed messages have line breaks and tabs of their own: here they take one line.
+std::u16string enUnaLinea(std::u16string_view texto) {
+    std::u16string linea;
+    for (const char16_t c : texto) {
+        const bool blanco = c == u'\r' || c == u'\n' || c == u'\t' || c == u' ';
+        if (!blanco)
+            linea += c;
+        else if (!linea.ends_with(u' '))
+            linea += u' ';
+    }
+    return linea;
+}
+
 // Cuts a long line around the range.
 void acorta(Linea& linea) {
     constexpr std::size_t antes = 60;
@@ -56,7 +69,9 @@ std::u16string muestraError(const Diagnostico& diagnostico, std::u16string_view 
     acorta(linea);
     std::u16string muestra = visible(fichero);
     muestra += u":" + aTexto(inicio.linea) + u":" + aTexto(inicio.columna) + u": ";
-    muestra.append(nombreDe(diagnostico.gravedad)).append(u": ").append(visible(mensaje(diagnostico)));
+    muestra.append(nombreDe(diagnostico.gravedad))
+        .append(u": ")
+        .append(visible(enUnaLinea(mensaje(diagnostico))));
     muestra.append(u" [").append(nombreDe(diagnostico.codigo)).append(u"]\n");
     muestra += linea.texto + u"\n" + std::u16string(linea.desde, u' ');
     return muestra + std::u16string(linea.hasta - linea.desde, u'^');

@@ -15,5 +15,6 @@ int ejecuta(const Lexemas& orden, Salida& salida);
 int ejecuta(const Colorea& orden, Salida& salida);
 int ejecuta(const Informe& orden, Salida& salida);
 int ejecuta(const Modulo& orden, Salida& salida);
+int ejecuta(const Revisa& orden, Salida& salida);
 
 } // namespace norvik::orden

@@ -24,16 +24,31 @@ enum class Codigo : std::uint8_t {
                      ///< no da un árbol
     CodigoMalEscrito,      ///< de una especificación: la definición `nombre` tiene un `\c(n)` mal escrito
     ReferenciaDesconocida, ///< de una especificación: `nombre` se refiere a `hallado`, que no está definida
-                           ///< antes
+                           ///< antes; la revisión da en `relacionados` dónde lo está, o en `esperados` un
+                           ///< nombre parecido
     PatronIncorrecto, ///< de una especificación: la definición `nombre`, de texto `hallado`, no es un patrón
     VariableIndefinida, ///< de una especificación: `hallado` está en un cuerpo de `nombre` y ninguna regla la
-                        ///< define
+                        ///< define; la revisión da en `esperados` un nombre parecido
     TokenIndefinido, ///< de una especificación: lo mismo de un token
     SinReglas,       ///< de una especificación: no se puede analizar nada
     Conflicto, ///< de una especificación: `hallado` son las dos acciones de una celda; `nombre`, estado y
                ///< símbolo
     CapacidadSuperada, ///< de una especificación: `hallado` es el límite que se pasó
     ModuloIncorrecto,  ///< de un módulo: `hallado` dice qué está mal en su línea
+
+    // De la revisión de una especificación --------------------------------------------------------------
+    TokenSinUsar,    ///< ninguna regla usa el token `nombre`
+    AuxiliarSinUsar, ///< nadie se refiere a la expresión regular `nombre`
+    TokenTapado,     ///< los textos del token `nombre`, como `hallado`, son de otro anterior, `esperados`
+    TokenRepetido,   ///< el token `nombre` tiene dos veces la misma definición; `relacionados`, la otra
+    PatronVacio,     ///< el patrón de `nombre` puede no tomar ningún carácter
+    VariableSinUsar, ///< ningún cuerpo usa la variable `nombre`, que no es la inicial
+    VariableInalcanzable, ///< de la variable inicial, `hallado`, no se llega a `nombre`
+    VariableImproductiva, ///< de la variable `nombre` no sale ningún texto
+    Ciclo,                ///< `nombre` deriva en sí misma sin más: `hallado` son los pasos
+    ReglaRepetida,   ///< la regla de `nombre` y cuerpo `hallado` está dos veces; `relacionados`, la otra
+    CabezaMinuscula, ///< la cabeza `nombre` empieza por minúscula: en los cuerpos es un token
+    CabezaDispersa,  ///< las reglas de `nombre` no están seguidas; `relacionados`, la primera
 };
 
 /// Otro lugar que tiene que ver con un diagnóstico, y lo que hay en él.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 namespace norvik {
 
@@ -23,6 +24,67 @@ std::u16string lista(const std::vector<std::u16string>& elementos) {
     for (const std::u16string& elemento : elementos) {
         if (!texto.empty()) texto += u", ";
         texto += elemento;
+    }
+    return texto;
+}
+
+// What was probably meant by a name that nobody knows.
+std::u16string propuesta(const std::vector<std::u16string>& nombres) {
+    return nombres.empty() ? std::u16string() : une({u" ¿Quería decir ", lista(nombres), u"?"});
+}
+
+// The words of a finding of a review: what is odd, and what to do about it.
+std::u16string_view palabrasDeRevision(Codigo codigo) {
+    constexpr std::pair<Codigo, std::u16string_view> todas[] = {
+        {Codigo::TokenSinUsar,
+         u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
+         u"quítelo."},
+        {Codigo::AuxiliarSinUsar,
+         u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
+        {Codigo::TokenTapado,
+         u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
+         u"está antes. Pase {nombre} delante."},
+        {Codigo::TokenRepetido, u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
+        {Codigo::PatronVacio,
+         u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
+         u"al menos uno (con + en lugar de *, por ejemplo)."},
+        {Codigo::VariableSinUsar,
+         u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
+         u"reglas."},
+        {Codigo::VariableInalcanzable,
+         u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
+         u"variables a las que tampoco se llega."},
+        {Codigo::VariableImproductiva,
+         u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
+         u"vez una variable de la que no sale ninguno. Dele una que acabe."},
+        {Codigo::Ciclo,
+         u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
+         u"infinitos árboles. Quite una de esas reglas."},
+        {Codigo::ReglaRepetida, u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+        {Codigo::CabezaMinuscula,
+         u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
+         u"no se usan. Escríbala con mayúscula."},
+        {Codigo::CabezaDispersa,
+         u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
+         u"se usan. Júntelas."},
+    };
+    return std::ranges::find(todas, codigo, &std::pair<Codigo, std::u16string_view>::first)->second;
+}
+
+std::u16string mensajeDeRevision(const Diagnostico& diagnostico) {
+    const Partes& partes = diagnostico.partes;
+    const std::u16string esperados = lista(partes.esperados);
+    std::u16string texto;
+    std::u16string_view resto = palabrasDeRevision(diagnostico.codigo);
+    while (!resto.empty()) {
+        const std::size_t abre = std::min(resto.find(u'{'), resto.size());
+        const std::size_t cierra = std::min(resto.find(u'}', abre), resto.size());
+        const std::u16string_view hueco = resto.substr(abre, cierra - abre);
+        texto.append(resto.substr(0, abre));
+        if (hueco == u"{nombre") texto += partes.nombre;
+        if (hueco == u"{hallado") texto += partes.hallado;
+        if (hueco == u"{esperados") texto += esperados;
+        resto = resto.substr(std::min(cierra + 1, resto.size()));
     }
     return texto;
 }
@@ -113,6 +175,30 @@ std::u16string_view nombreDe(Codigo codigo) {
         return u"capacidad-superada";
     case Codigo::ModuloIncorrecto:
         return u"modulo-incorrecto";
+    case Codigo::TokenSinUsar:
+        return u"token-sin-usar";
+    case Codigo::AuxiliarSinUsar:
+        return u"auxiliar-sin-usar";
+    case Codigo::TokenTapado:
+        return u"token-tapado";
+    case Codigo::TokenRepetido:
+        return u"token-repetido";
+    case Codigo::PatronVacio:
+        return u"patron-vacio";
+    case Codigo::VariableSinUsar:
+        return u"variable-sin-usar";
+    case Codigo::VariableInalcanzable:
+        return u"variable-inalcanzable";
+    case Codigo::VariableImproductiva:
+        return u"variable-improductiva";
+    case Codigo::Ciclo:
+        return u"ciclo";
+    case Codigo::ReglaRepetida:
+        return u"regla-repetida";
+    case Codigo::CabezaMinuscula:
+        return u"cabeza-minuscula";
+    case Codigo::CabezaDispersa:
+        return u"cabeza-dispersa";
     }
     return {};
 }
@@ -150,13 +236,17 @@ std::u16string mensaje(const Diagnostico& diagnostico) {
     case Codigo::CodigoMalEscrito:
         return palabras::codigoMalEscrito(nombre);
     case Codigo::ReferenciaDesconocida:
-        return palabras::referenciaDesconocida(nombre, hallado);
+        if (!relacionados.empty())
+            return une({palabras::referenciaDesconocida(nombre, hallado),
+                        u" Está más abajo: póngala delante de '", nombre, u"'."});
+        return palabras::referenciaDesconocida(nombre, hallado) + propuesta(esperados);
     case Codigo::PatronIncorrecto:
         return palabras::patronIncorrecto(nombre, hallado);
     case Codigo::VariableIndefinida:
-        return palabras::variableIndefinida(hallado, nombre);
+        return palabras::variableIndefinida(hallado, nombre) + propuesta(esperados);
     case Codigo::TokenIndefinido:
-        return une({u"El token ", hallado, u", que usa una regla de ", nombre, u", no está definido."});
+        return une({u"El token ", hallado, u", que usa una regla de ", nombre, u", no está definido.",
+                    propuesta(esperados)});
     case Codigo::SinReglas:
         return u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto.";
     case Codigo::Conflicto:
@@ -164,6 +254,19 @@ std::u16string mensaje(const Diagnostico& diagnostico) {
     case Codigo::CapacidadSuperada:
     case Codigo::ModuloIncorrecto:
         return hallado;
+    case Codigo::TokenSinUsar:
+    case Codigo::AuxiliarSinUsar:
+    case Codigo::TokenTapado:
+    case Codigo::TokenRepetido:
+    case Codigo::PatronVacio:
+    case Codigo::VariableSinUsar:
+    case Codigo::VariableInalcanzable:
+    case Codigo::VariableImproductiva:
+    case Codigo::Ciclo:
+    case Codigo::ReglaRepetida:
+    case Codigo::CabezaMinuscula:
+    case Codigo::CabezaDispersa:
+        return mensajeDeRevision(diagnostico);
     }
     return {};
 }

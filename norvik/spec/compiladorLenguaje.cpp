@@ -9,6 +9,7 @@
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
+#include "norvik/spec/nodoEspecificacion.hpp"
 #include "norvik/spec/recorridoEspecificacion.hpp"
 
 #include <algorithm>
@@ -23,24 +24,6 @@
 namespace norvik {
 
 namespace {
-
-/// A node of a specification's tree.
-class NodoEspecificacion {
-public:
-    explicit NodoEspecificacion(Nodo nodo) : nodo_(nodo) {}
-
-    bool esHoja() const { return nodo_.numHijos() == 0; }
-    bool esRegla(std::u16string_view nombre) const { return !nodo_.esToken() && nodo_.nombre() == nombre; }
-    std::u16string_view lexema() const { return nodo_.lexema(); }
-    Rango rango() const { return nodo_.rango(); }
-    NodoEspecificacion hijo(std::size_t numero) const { return NodoEspecificacion(nodo_[numero - 1]); }
-    void apilaHijos(std::vector<NodoEspecificacion>& pila) const {
-        for (std::size_t i = nodo_.numHijos(); i > 0; --i) pila.push_back(hijo(i));
-    }
-
-private:
-    Nodo nodo_;
-};
 
 Lenguaje acaba(std::shared_ptr<DatosDeLenguaje> datos) {
     datos->nombra();

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "salida.hpp"
+
+#include "norvik/base/diagnostico.hpp"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace norvik::orden {
+
+/// What was found in a file.
+struct Revisado {
+    std::u16string fichero;
+    std::vector<Diagnostico> hallazgos;
+};
+
+/// One document of SARIF 2.1.0.
+void escribeSarif(std::span<const Revisado> revisados, Salida& salida);
+
+} // namespace norvik::orden

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "norvik/base/diagnostico.hpp"
+#include "norvik/checks/fuente.hpp"
+
+#include <vector>
+
+// The checks of a specification, each group by itself: what is odd in it although it may compile.
+namespace norvik {
+
+/// Of definitions: those that nobody uses, stand twice or never win, and patterns that can take nothing.
+void compruebaTokens(const Fuente& fuente, std::vector<Diagnostico>& hallazgos);
+/// Of rules: variables that nobody uses or reaches, or from which no text comes; heads, cycles, rules that
+/// stand twice.
+void compruebaReglas(const Fuente& fuente, std::vector<Diagnostico>& hallazgos);
+
+} // namespace norvik

@@ -1,0 +1,145 @@
+// Whether a token ever wins is tried with texts of its pattern: each is recognised alone, by all definitions
+// together, and the first that the token wins settles it. Nothing is claimed of a pattern without such texts.
+#include "norvik/checks/comprobaciones.hpp"
+#include "norvik/checks/muestrasPatron.hpp"
+
+#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/lexer/reconocedor.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+using Definicion = Fuente::Definicion;
+
+Diagnostico aviso(Codigo codigo, const Rango& lugar, Partes partes) {
+    return {codigo, Gravedad::Aviso, lugar, std::move(partes)};
+}
+
+bool esComentarioOAuxiliar(const Definicion& d) {
+    return !d.esToken || d.tipo == Norvik_ComentarioBloque || d.tipo == Norvik_ComentarioLinea;
+}
+
+void compruebaUsos(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+    std::set<std::u16string_view> usados;
+    for (const Fuente::Regla& regla : fuente.reglas)
+        for (const Fuente::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
+    std::set<std::u16string_view> dichos;
+    for (const Definicion& d : fuente.definiciones) {
+        const auto referencia = u'<' + d.nombre + u'>';
+        const bool hayReferencias = std::ranges::any_of(fuente.definiciones, [&](const Definicion& otra) {
+            return otra.texto.find(referencia) != std::u16string::npos;
+        });
+        const bool seUsa = hayReferencias || usados.contains(d.nombre) ||
+                           (d.esToken && (esComentarioOAuxiliar(d) || fuente.reglas.empty()));
+        if (!seUsa && dichos.insert(d.nombre).second)
+            hallazgos.push_back(aviso(d.esToken ? Codigo::TokenSinUsar : Codigo::AuxiliarSinUsar,
+                                      d.lugarNombre, {d.nombre, {}, {}, {}}));
+    }
+}
+
+void compruebaRepetidas(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+    std::map<std::pair<std::u16string_view, std::u16string_view>, const Definicion*> vistas;
+    for (const Definicion& d : fuente.definiciones) {
+        const auto [sitio, nueva] = vistas.try_emplace({d.nombre, d.texto}, &d);
+        if (nueva || !d.esToken) continue;
+        hallazgos.push_back(aviso(Codigo::TokenRepetido, d.lugarNombre,
+                                  {d.nombre, {}, {}, {{sitio->second->lugarNombre, d.nombre}}}));
+    }
+}
+
+bool puedeNoTomarNada(const expresionRegular& definicion) {
+    return !definicion.expReg->esPalabra() && !definicion.expReg->ejecuta(u"", Presupuesto()).empty();
+}
+
+/// A text of a token that another one won.
+struct Perdida {
+    std::u16string texto;
+    std::size_t ganador;
+};
+
+// A person reads it: plain characters first, few of them.
+bool esMejorEjemplo(std::u16string_view uno, std::u16string_view otro) {
+    const auto raros = [](std::u16string_view texto) {
+        return std::ranges::count_if(texto, [](char16_t c) { return c <= u' ' || c > u'~'; });
+    };
+    return std::pair(raros(uno), uno.size()) < std::pair(raros(otro), otro.size());
+}
+
+class Concurso {
+public:
+    explicit Concurso(const DefinicionesTokens& definiciones)
+        : tokens_(definiciones.tokens()), reconocedor_(definiciones) {}
+
+    // Nothing when a token wins one of its texts, or none of them is known.
+    std::optional<Perdida> pierdeSiempre(std::size_t numero) {
+        constexpr std::size_t muestras = 40;
+        const expresionRegular& token = *tokens_[numero];
+        std::optional<Perdida> perdida;
+        const std::vector<std::u16string> textos =
+            token.expReg->esPalabra()
+                ? std::vector{token.expReg->texto()}
+                : muestrasDe(token.expReg->texto(), token.expReg->ignoraMayusculas(), muestras);
+        for (const std::u16string& texto : textos) {
+            const std::size_t ganador = gana(texto);
+            if (tokens_[ganador]->nomToken == token.nomToken) return std::nullopt;
+            if (!perdida || esMejorEjemplo(texto, perdida->texto)) perdida = {texto, ganador};
+        }
+        return perdida;
+    }
+
+private:
+    std::size_t gana(std::u16string_view texto) {
+        reconocedor_.reconoce(texto, Presupuesto(), mapa_);
+        return static_cast<std::size_t>(mapa_.en(0)->patron); // one that takes the text was found in it
+    }
+
+    const std::vector<const expresionRegular*>& tokens_;
+    Reconocedor reconocedor_;
+    MapaCoincidencias mapa_;
+};
+
+void compruebaPatrones(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+    pilaTokens lexico;
+    std::vector<const Definicion*> deToken; // of each token of the lexer
+    for (const Definicion& d : fuente.definiciones) {
+        constexpr bool sensible = false;
+        const bool registrada = !lexico.registra({d.texto, d.nombre, d.esToken, sensible, {}, d.tipo});
+        if (registrada && d.esToken) deToken.push_back(&d);
+    }
+    Concurso concurso(lexico.definiciones());
+    for (std::size_t i = 0; i < deToken.size(); ++i) {
+        const Definicion& d = *deToken[i];
+        if (puedeNoTomarNada(*lexico.tokensLenguaje()[i]))
+            hallazgos.push_back(aviso(Codigo::PatronVacio, d.lugarTexto, {d.nombre, {}, {}, {}}));
+        if (const auto perdida = concurso.pierdeSiempre(i)) {
+            const Definicion& ganador = *deToken[perdida->ganador];
+            hallazgos.push_back(
+                aviso(Codigo::TokenTapado, d.lugarNombre,
+                      {d.nombre, perdida->texto, {ganador.nombre}, {{ganador.lugarNombre, ganador.nombre}}}));
+        }
+    }
+}
+
+} // namespace
+
+void compruebaTokens(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+    compruebaUsos(fuente, hallazgos);
+    compruebaRepetidas(fuente, hallazgos);
+    try {
+        compruebaPatrones(fuente, hallazgos);
+    } catch (const Desbordamiento&) {
+        return; // compiling tells which capacity was passed, and a text that runs away proves nothing
+    }
+}
+
+} // namespace norvik

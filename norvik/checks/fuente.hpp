@@ -1,0 +1,39 @@
+#pragma once
+
+#include "norvik/base/rango.hpp"
+#include "norvik/parser/analisis.hpp"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace norvik {
+
+/// A specification as it is written, with the place of everything in it.
+struct Fuente {
+    struct Definicion {
+        std::u16string nombre;
+        Rango lugarNombre;
+        std::u16string texto; ///< between its quotes
+        Rango lugarTexto;     ///< quotes included
+        bool esToken = false;
+        std::int16_t tipo = 0; ///< a `TipoExpReg`
+    };
+    struct Simbolo {
+        std::u16string nombre;
+        Rango lugar;
+    };
+    struct Regla {
+        Simbolo cabeza;
+        std::vector<Simbolo> cuerpo; ///< none when it is empty
+        Rango lugar;                 ///< of the body
+    };
+
+    std::vector<Definicion> definiciones;
+    std::vector<Regla> reglas;
+};
+
+/// Of the analysis of a specification that was accepted.
+Fuente fuenteDe(const Analisis& especificacion);
+
+} // namespace norvik

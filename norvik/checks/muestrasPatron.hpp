@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// Different texts that a well-formed pattern takes as a whole, at most so many, the same ones each time.
+/// None of a pattern that needs more text around it, or whose texts are not found by trying.
+std::vector<std::u16string> muestrasDe(std::u16string_view patron, bool ignoraMayusculas,
+                                       std::size_t cuantas);
+
+} // namespace norvik

@@ -1,0 +1,73 @@
+#include "norvik/checks/revision.hpp"
+
+#include "norvik/base/texto.hpp"
+#include "norvik/checks/comprobaciones.hpp"
+#include "norvik/checks/fuente.hpp"
+#include "norvik/checks/nombreCercano.hpp"
+#include "norvik/spec/compiladorLenguaje.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace norvik {
+
+namespace {
+
+// What is known where a name is not: heads for a variable, tokens for a token, definitions for a reference.
+std::vector<std::u16string> conocidosPara(const Diagnostico& diagnostico, const Fuente& fuente) {
+    std::vector<std::u16string> nombres;
+    if (diagnostico.codigo == Codigo::VariableIndefinida) {
+        for (const Fuente::Regla& regla : fuente.reglas) nombres.push_back(regla.cabeza.nombre);
+        return nombres;
+    }
+    for (const Fuente::Definicion& d : fuente.definiciones)
+        if (d.esToken || diagnostico.codigo == Codigo::ReferenciaDesconocida) nombres.push_back(d.nombre);
+    return nombres;
+}
+
+// Narrows an unknown reference to its place between the quotes, and says where the name is defined.
+void situaReferencia(Diagnostico& diagnostico, const Fuente& fuente) {
+    const std::u16string& referencia = diagnostico.partes.hallado;
+    for (const Fuente::Definicion& d : fuente.definiciones) {
+        if (d.nombre == referencia) diagnostico.partes.relacionados.push_back({d.lugarNombre, d.nombre});
+        const std::size_t sitio = d.texto.find(u'<' + referencia + u'>');
+        if (d.lugarTexto != diagnostico.rango || sitio == std::u16string::npos) continue;
+        const auto delante = static_cast<std::int32_t>(sitio) + 1; // the quote
+        const auto largo = static_cast<std::int32_t>(referencia.size()) + 2;
+        const Punto& inicio = d.lugarTexto.inicio;
+        const std::u16string_view texto = d.texto;
+        if (texto.substr(0, sitio).find_first_of(u"\r\n") != std::u16string_view::npos) continue;
+        const Punto desde{inicio.desplazamiento + delante, inicio.linea, inicio.columna + delante};
+        diagnostico.rango = {desde, {desde.desplazamiento + largo, desde.linea, desde.columna + largo}};
+    }
+}
+
+void completa(Diagnostico& diagnostico, const Fuente& fuente) {
+    const Codigo codigo = diagnostico.codigo;
+    const bool esReferencia = codigo == Codigo::ReferenciaDesconocida;
+    if (esReferencia) situaReferencia(diagnostico, fuente);
+    const bool faltaNombre =
+        esReferencia || codigo == Codigo::VariableIndefinida || codigo == Codigo::TokenIndefinido;
+    const bool estaDefinido = esReferencia && !diagnostico.partes.relacionados.empty();
+    if (!faltaNombre || estaDefinido) return;
+    const auto cercano = nombreCercano(diagnostico.partes.hallado, conocidosPara(diagnostico, fuente));
+    if (!cercano.empty()) diagnostico.partes.esperados = {cercano};
+}
+
+} // namespace
+
+std::vector<Diagnostico> revisa(std::u16string_view especificacion) {
+    const Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
+    if (!analisis) return analisis.diagnosticos;
+    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis).diagnosticos;
+    const Fuente fuente = fuenteDe(analisis);
+    for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
+    compruebaTokens(fuente, hallazgos);
+    compruebaReglas(fuente, hallazgos);
+    std::ranges::stable_sort(hallazgos, {},
+                             [](const Diagnostico& d) { return d.rango.inicio.desplazamiento; });
+    return hallazgos;
+}
+
+} // namespace norvik

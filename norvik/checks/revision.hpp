@@ -1,0 +1,16 @@
+#pragma once
+
+#include "norvik/base/diagnostico.hpp"
+
+#include <string_view>
+#include <vector>
+
+namespace norvik {
+
+/// Todo lo que está mal o llama la atención en una especificación, en el orden del texto: lo que dice
+/// compilarla, con el nombre que quizá se quiso escribir donde nadie conoce el escrito, y lo que no impide
+/// compilarla pero no hace lo que parece. Los rangos cuentan unidades UTF-16. Lanza `Desbordamiento` con un
+/// texto de 2^31 - 1 unidades o más.
+std::vector<Diagnostico> revisa(std::u16string_view especificacion);
+
+} // namespace norvik
