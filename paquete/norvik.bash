@@ -28,23 +28,25 @@ _norvik() {
     local palabra=${COMP_WORDS[COMP_CWORD]} anterior=${COMP_WORDS[COMP_CWORD - 1]} orden=${COMP_WORDS[1]}
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        _norvik_palabras "$palabra" "analiza lexemas colorea informe modulo --help --version"
+        _norvik_palabras "$palabra" "analiza lexemas colorea informe modulo revisa --help --version"
         return
     fi
     case $orden:$anterior in
         analiza:--formato) _norvik_palabras "$palabra" "arbol json lineas"; return ;;
         lexemas:--formato) _norvik_palabras "$palabra" "tabla json"; return ;;
         colorea:--formato) _norvik_palabras "$palabra" "ansi html"; return ;;
+        revisa:--formato) _norvik_palabras "$palabra" "texto json sarif"; return ;;
         modulo:--lenguaje) _norvik_palabras "$palabra" "vb cpp"; return ;;
         *:-o) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -d -- "$palabra"); return ;;
     esac
     case $orden:$palabra in
         modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --help" ;;
+        revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --help" ;;
         informe:-*) _norvik_palabras "$palabra" "-o --help" ;;
         *:-*) _norvik_palabras "$palabra" "--formato --help" ;;
         *)
             case $orden:$(_norvik_cuenta) in
-                informe:0 | modulo:0) _norvik_ficheros "$palabra" nvk ;;
+                informe:0 | modulo:0 | revisa:*) _norvik_ficheros "$palabra" nvk ;;
                 *:0) _norvik_ficheros "$palabra" nvk bas ;;
                 analiza:1 | lexemas:1 | colorea:1)
                     compopt -o filenames 2>/dev/null

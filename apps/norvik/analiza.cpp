@@ -33,7 +33,7 @@ int ejecuta(const Analiza& orden, Salida& salida) {
     }
     const auto& error = control.GetDiagnostico();
     if (error && orden.formato != FormatoArbol::Dibujo)
-        escribeJson({*error}, nombreDeFichero(orden.texto), salida);
+        escribeJson(std::vector{*error}, nombreDeFichero(orden.texto), salida);
     anfitrion.cuentaError(control.GetmensajeError(), error, orden.texto, texto);
     return anfitrion.estado();
 }

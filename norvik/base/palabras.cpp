@@ -6,6 +6,7 @@
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <utility>
 
@@ -35,40 +36,43 @@ std::u16string propuesta(const std::vector<std::u16string>& nombres) {
 
 // The words of a finding of a review: what is odd, and what to do about it.
 std::u16string_view palabrasDeRevision(Codigo codigo) {
-    constexpr std::pair<Codigo, std::u16string_view> todas[] = {
-        {Codigo::TokenSinUsar,
-         u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
-         u"quítelo."},
-        {Codigo::AuxiliarSinUsar,
-         u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
-        {Codigo::TokenTapado,
-         u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
-         u"está antes. Pase {nombre} delante."},
-        {Codigo::TokenRepetido, u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
-        {Codigo::PatronVacio,
-         u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
-         u"al menos uno (con + en lugar de *, por ejemplo)."},
-        {Codigo::VariableSinUsar,
-         u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
-         u"reglas."},
-        {Codigo::VariableInalcanzable,
-         u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
-         u"variables a las que tampoco se llega."},
-        {Codigo::VariableImproductiva,
-         u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
-         u"vez una variable de la que no sale ninguno. Dele una que acabe."},
-        {Codigo::Ciclo,
-         u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
-         u"infinitos árboles. Quite una de esas reglas."},
-        {Codigo::ReglaRepetida, u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
-        {Codigo::CabezaMinuscula,
-         u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
-         u"no se usan. Escríbala con mayúscula."},
-        {Codigo::CabezaDispersa,
-         u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
-         u"se usan. Júntelas."},
+    using Plantilla = std::pair<Codigo, std::u16string_view>;
+    static constexpr std::array todas = {
+        Plantilla{Codigo::TokenSinUsar,
+                  u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
+                  u"quítelo."},
+        Plantilla{Codigo::AuxiliarSinUsar,
+                  u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
+        Plantilla{Codigo::TokenTapado,
+                  u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
+                  u"está antes. Pase {nombre} delante."},
+        Plantilla{Codigo::TokenRepetido,
+                  u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
+        Plantilla{Codigo::PatronVacio,
+                  u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
+                  u"al menos uno (con + en lugar de *, por ejemplo)."},
+        Plantilla{Codigo::VariableSinUsar,
+                  u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
+                  u"reglas."},
+        Plantilla{Codigo::VariableInalcanzable,
+                  u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
+                  u"variables a las que tampoco se llega."},
+        Plantilla{Codigo::VariableImproductiva,
+                  u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
+                  u"vez una variable de la que no sale ninguno. Dele una que acabe."},
+        Plantilla{Codigo::Ciclo,
+                  u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
+                  u"infinitos árboles. Quite una de esas reglas."},
+        Plantilla{Codigo::ReglaRepetida,
+                  u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+        Plantilla{Codigo::CabezaMinuscula,
+                  u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
+                  u"no se usan. Escríbala con mayúscula."},
+        Plantilla{Codigo::CabezaDispersa,
+                  u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
+                  u"se usan. Júntelas."},
     };
-    return std::ranges::find(todas, codigo, &std::pair<Codigo, std::u16string_view>::first)->second;
+    return std::ranges::find(todas, codigo, &Plantilla::first)->second;
 }
 
 std::u16string mensajeDeRevision(const Diagnostico& diagnostico) {

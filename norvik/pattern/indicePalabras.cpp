@@ -41,10 +41,9 @@ char16_t plegadaEn(std::u16string_view texto, std::size_t i) {
 }
 
 std::uint64_t claveDe(std::u16string_view texto) {
-    const std::size_t tiene = std::min(enClave, texto.size());
     std::uint64_t clave = 0;
-    for (std::size_t i = 0; i < tiene; ++i) clave = clave << 16 | pliega(texto[i]);
-    return clave << 16 * (enClave - tiene); // no word has no character, so that this is less than 64
+    for (std::size_t i = 0; i < enClave; ++i) clave = clave << 16 | plegadaEn(texto, i);
+    return clave;
 }
 
 // How many characters a folded word and a text have in common at their beginnings.
@@ -135,10 +134,12 @@ std::uint32_t IndicePalabras::candidata(const Cubo& cubo, std::uint64_t clave,
 
 std::uint32_t IndicePalabras::candidataEntre(std::span<const Entrada> entradas,
                                              std::u16string_view resto) const {
-    const auto iguales = std::ranges::equal_range(entradas, entradas.back().clave, {}, &Entrada::clave);
-    const auto mayor = std::ranges::partition_point(
-        iguales, [&](const Entrada& entrada) { return !esMayor(palabras_[entrada.palabra].plegada, resto); });
-    return (mayor == iguales.begin() ? mayor : std::prev(mayor))->palabra;
+    const std::uint64_t clave = entradas.back().clave;
+    const auto primera = std::ranges::lower_bound(entradas, clave, {}, &Entrada::clave);
+    const auto mayor = std::partition_point(primera, entradas.end(), [&](const Entrada& entrada) {
+        return !esMayor(palabras_[entrada.palabra].plegada, resto);
+    });
+    return (mayor == primera ? mayor : std::prev(mayor))->palabra;
 }
 
 void IndicePalabras::prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion,

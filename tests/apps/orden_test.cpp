@@ -146,6 +146,28 @@ TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
         }
 }
 
+TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
+    comprueba(ejecuta({"revisa", lenguaje_}), 0, "", "");
+    const std::string rara = pon("rara.nvk", "Token a = \"a\";\nToken b = \"b\";\nS -> a;\n");
+    const std::string aviso =
+        rara + ":2:7: aviso: Ninguna regla usa el token b: no se acepta ningún texto que lo tenga. "
+               "Úselo o quítelo. [token-sin-usar]\nToken b = \"b\";\n      ^\n";
+    comprueba(ejecuta({"revisa", rara, lenguaje_}), 0, aviso, "");
+    comprueba(ejecuta({"revisa", "--estricto", lenguaje_, rara}), 1, aviso, "");
+    const std::string mala = pon("mala.nvk", "Token a = \"a*+\";\nS -> a B;\n");
+    const Resultado json = ejecuta({"revisa", mala, "--formato", "json"});
+    EXPECT_EQ(json.estado, 1);
+    EXPECT_EQ(json.salida.find("{\"codigo\":\"patron-incorrecto\",\"gravedad\":\"error\""), 0U)
+        << json.salida;
+    EXPECT_NE(json.salida.find("}\n{\"codigo\":\"variable-indefinida\""), std::string::npos) << json.salida;
+    const Resultado sarif = ejecuta({"revisa", rara, mala, "--formato", "sarif"});
+    EXPECT_EQ(sarif.estado, 1);
+    EXPECT_EQ(sarif.salida.find("{\"version\":\"2.1.0\""), 0U);
+    EXPECT_NE(sarif.salida.find("\"ruleId\":\"token-sin-usar\",\"level\":\"warning\""), std::string::npos);
+    EXPECT_EQ(ejecuta({"revisa", "-", "-"}).estado, 2);
+    comprueba(ejecuta({"revisa"}), 2, "", "norvik: falta ESPECIFICACION (norvik revisa --help lo explica)\n");
+}
+
 TEST_F(Orden, LaEntradaEstandarSirveDeFichero) {
     const std::string texto = pon("texto", "si x");
     const std::string salida = ejecuta({"analiza", lenguaje_, texto}).salida;
