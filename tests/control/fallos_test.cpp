@@ -126,17 +126,21 @@ TEST(Fallos, DelTextoYDelArbol) {
 TEST(Fallos, LosModulosTienenNombreDeModulo) {
     Anfitrion a;
     ASSERT_TRUE(a.compila(u"Token a = \"a\"; S -> a;"));
+    const gramatica& g = a.norvik.Gramatica();
+    const pilaTokens& lexico = a.norvik.Lexico();
     const CarpetaTemporal carpeta;
     const auto guarda = [&](std::u16string_view nombre) {
-        a.norvik.Gramatica().GuardaModuloGramatica(nombre, a.norvik.Lexico(), carpeta / "dentro");
+        g.GuardaModuloGramatica(nombre, lexico, carpeta / "dentro");
     };
     const auto guardaCpp = [&](std::u16string_view nombre) {
-        a.norvik.Gramatica().GuardaModuloCpp(nombre, a.norvik.Lexico(), carpeta / "dentro");
+        g.GuardaModuloCpp(nombre, lexico, carpeta / "dentro");
     };
     std::filesystem::create_directory(carpeta / "dentro");
     for (const std::u16string_view nombre : {u"../fuera", u"", u"a b", u"1a", u"a.b"}) {
         EXPECT_THROW(guarda(nombre), ArgumentoNoValido) << aUtf8(nombre);
         EXPECT_THROW(guardaCpp(nombre), ArgumentoNoValido) << aUtf8(nombre);
+        EXPECT_THROW(g.textoModulo(nombre, lexico), ArgumentoNoValido) << aUtf8(nombre);
+        EXPECT_THROW(g.textoModuloCpp(nombre, lexico), ArgumentoNoValido) << aUtf8(nombre);
     }
     EXPECT_THROW(guarda(u"End"), ArgumentoNoValido);
     EXPECT_THROW(guardaCpp(u"class"), ArgumentoNoValido);
