@@ -1,6 +1,6 @@
 #include "formulario.hpp"
 
-#include "norvik/tools/fallos.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 
 #include <QFileInfo>
 

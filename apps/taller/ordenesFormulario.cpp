@@ -2,7 +2,7 @@
 
 #include "rutas.hpp"
 
-#include "norvik/tools/fallos.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 
 #include <algorithm>
 

@@ -8,7 +8,7 @@
 #include "norvik/tools/ventanas.hpp"
 
 #include <QKeyEvent>
-#include <QScopedValueRollback>
+#include <QPointer>
 
 namespace norvik {
 
@@ -22,7 +22,7 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     texto.setAccessibleName(QStringLiteral("Texto"));
     texto.setAccessibleDescription(QStringLiteral("Control+Tabulador pasa al elemento siguiente"));
     setFocusProxy(&texto);
-    setTabOrder(&texto, &elementos_.tabulador);
+    setTabOrder(&texto, elementos_.tabulador.get());
     conectaElementos();
     conectaEventos();
 }
@@ -31,7 +31,7 @@ void ControlNorvik::conectaEventos() {
     EventosControl& e = control_.eventos;
     e.CambioDeLinea = [this](auto& linea) { emit CambioDeLinea(linea); };
     e.change = [this] {
-        if (caja_.texto().size() <= maximoTexto) falloContado_.clear();
+        if (caja_.texto().size() <= maximoTexto) fallosContados_.clear();
         emit change();
     };
     e.Click = [this] { emit Click(); };
@@ -51,7 +51,7 @@ ControlNorvik::~ControlNorvik() {
 }
 
 std::array<QWidget*, 3> ControlNorvik::observados() {
-    return {&caja_.ventana(), &elementos_.debugBox, &elementos_.tabulador};
+    return {&caja_.ventana(), &elementos_.debugBox, elementos_.tabulador.get()};
 }
 
 void ControlNorvik::conectaElementos() {
@@ -63,9 +63,11 @@ void ControlNorvik::conectaElementos() {
 /// A text that is too long cannot be coloured at any line that is left: that is said once, until it fits.
 void ControlNorvik::cuentaFallo(const std::u16string& texto) {
     const bool cabe = caja_.texto().size() <= maximoTexto;
-    if (!cabe && texto == falloContado_) return;
-    falloContado_ = cabe ? std::u16string() : texto;
-    sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
+    if (!cabe && !fallosContados_.insert(texto).second) return;
+    const QPointer<ControlNorvik> vivo(this);
+    bool contado = false;
+    static_cast<void>(falloDe([&] { emit fallo(aQString(texto), contado); })); // no failure about a failure
+    if (!vivo.isNull() && !contado) sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
 /// A file that keeps properties may have line breaks of its own.
@@ -75,14 +77,16 @@ QString ControlNorvik::conSaltos(const QString& texto) {
 
 // ---- keyboard and mouse
 
+/// What is left of the control is for nobody to see.
 bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
+    const QPointer<ControlNorvik> vivo(this);
     if (objeto == &elementos_.debugBox && evento->type() == QEvent::MouseButtonPress) {
         caja_.enfoca();
         return true; // a click there is none of the control's surface
     }
-    if (objeto == &elementos_.tabulador && evento->type() == QEvent::FocusIn && !saliendo_) {
-        const bool retrocede = static_cast<QFocusEvent*>(evento)->reason() == Qt::BacktabFocusReason;
-        caja_.atiende([&] { retrocede ? caja_.enfoca() : control_.tabuladorEnfocado(); });
+    if (objeto == elementos_.tabulador.get() && evento->type() == QEvent::FocusIn) {
+        entraEnTabulador(static_cast<QFocusEvent*>(evento)->reason());
+        if (vivo.isNull()) return true;
     }
     if (objeto == &caja_.ventana() && evento->type() == QEvent::KeyPress) {
         const auto& tecla = *static_cast<QKeyEvent*>(evento);
@@ -94,16 +98,29 @@ bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
     return QWidget::eventFilter(objeto, evento);
 }
 
+void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
+    const Servido<QPushButton>::Servicio servicio(*elementos_.tabulador);
+    const bool retrocede = razon == Qt::BacktabFocusReason;
+    caja_.atiende([&] { retrocede ? caja_.enfoca() : control_.tabuladorEnfocado(); });
+}
+
 /// The tab key writes; with the control key it does what it does elsewhere.
 void ControlNorvik::saleHaciaDelante() {
-    const QScopedValueRollback<bool> saliendo(saliendo_, true);
-    elementos_.tabulador.setFocus();
+    const QPointer<ControlNorvik> vivo(this);
+    elementos_.tabulador->removeEventFilter(this); // the focus passes over it
+    elementos_.tabulador->setFocus();
+    if (vivo.isNull()) return;
+    elementos_.tabulador->installEventFilter(this);
     focusNextChild();
 }
 
+/// A click that deleted the control is not for whoever stands behind it.
 void ControlNorvik::mousePressEvent(QMouseEvent* evento) {
+    const QPointer<ControlNorvik> vivo(this);
     QWidget::mousePressEvent(evento);
+    if (evento->button() != Qt::LeftButton) return; // the text leaves those to whoever stands behind it
     caja_.atiende([this] { control_.clickEnSuperficie(); });
+    if (vivo.isNull()) evento->accept();
 }
 
 // ---- what the control asks of its container
@@ -142,14 +159,14 @@ void ControlNorvik::muestraAcerca() {
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
-    control_.redimensiona();
+    caja_.protege([this] { control_.redimensiona(); });
 }
 
 void ControlNorvik::changeEvent(QEvent* evento) {
     QWidget::changeEvent(evento);
     const bool otraEscala =
         evento->type() == QEvent::StyleChange || evento->type() == QEvent::ApplicationFontChange;
-    if (otraEscala) control_.redimensiona();
+    if (otraEscala) caja_.protege([this] { control_.redimensiona(); });
 }
 
 } // namespace norvik

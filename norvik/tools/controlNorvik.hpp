@@ -12,22 +12,37 @@
 #include <QWidget>
 
 #include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
 
-// A property of the control and of its widget, as two members of its name. A failure names the property.
+// A property of the control and of its widget, as two members of its name, and what Qt sets it with, which
+// raises nothing. A failure names the property.
 #define NORVIK_PROPIEDAD(Tipo, Nombre)                                                                       \
+public:                                                                                                      \
     Tipo Nombre() const {                                                                                    \
         return control_.Nombre();                                                                            \
     }                                                                                                        \
     void Nombre(Tipo valor) {                                                                                \
         control_.Nombre(valor);                                                                              \
-    }
+    }                                                                                                        \
+    NORVIK_PROPIEDAD_DE_QT(Tipo, Nombre, true)
+#define NORVIK_PROPIEDAD_DE_QT(Tipo, Nombre, aceptable)                                                      \
+private:                                                                                                     \
+    void pon##Nombre(const Tipo& valor) {                                                                    \
+        if (aceptable) caja_.protege([&] { Nombre(valor); });                                                \
+    }                                                                                                        \
+                                                                                                             \
+public:
 #define NORVIK_PROPIEDAD_16(Nombre)                                                                          \
     int Nombre() const {                                                                                     \
         return control_.Nombre();                                                                            \
     }                                                                                                        \
     void Nombre(int valor) {                                                                                 \
         control_.Nombre(a16(valor, u"" #Nombre));                                                            \
-    }
+    }                                                                                                        \
+    NORVIK_PROPIEDAD_DE_QT(int, Nombre, std::in_range<std::int16_t>(valor))
 /// Un color 0x00BBGGRR, y lo mismo como propiedad de Qt.
 #define NORVIK_PROPIEDAD_COLOR(Nombre)                                                                       \
     NORVIK_PROPIEDAD(int, Nombre)                                                                            \
@@ -36,14 +51,16 @@
     }                                                                                                        \
     void Nombre##Qt(const QColor& valor) {                                                                   \
         control_.Nombre(valor.isValid() ? deQColor(valor) : sinColor);                                       \
-    }
+    }                                                                                                        \
+    NORVIK_PROPIEDAD_DE_QT(QColor, Nombre##Qt, true)
 #define NORVIK_PROPIEDAD_TEXTO(Nombre)                                                                       \
     QString Nombre() const {                                                                                 \
         return aQString(control_.Nombre());                                                                  \
     }                                                                                                        \
     void Nombre(const QString& valor) {                                                                      \
         control_.Nombre(vistaDe(valor));                                                                     \
-    }
+    }                                                                                                        \
+    NORVIK_PROPIEDAD_DE_QT(QString, Nombre, true)
 
 namespace norvik {
 
@@ -55,46 +72,48 @@ namespace norvik {
 /// Posiciones desde 0, en caracteres, y un salto de línea son dos (CR LF); longitudes en la pantalla en
 /// twips. Un color es 0x00BBGGRR en su miembro (`ColorPR`) y un `QColor` en su propiedad de Qt, de miembros
 /// `ColorPRQt`, donde uno no válido es ninguno. Un número que no cabe en 16 bits lanza `Desbordamiento`, que
-/// nombra la propiedad.
+/// nombra la propiedad; puesto como propiedad de Qt (`setProperty`), deja el valor que había.
 ///
 /// Una señal puede llevar sus argumentos por referencia: una ranura conectada directamente los puede cambiar.
-/// Lo que se lance mientras el usuario escribe o pulsa no llega a Qt: se enseña en una caja de mensaje, una
-/// vez por fallo mientras el texto sea demasiado largo, y el texto queda. Lo que lance una llamada del
-/// anfitrión le llega a él.
+/// Una ranura puede hacer cualquier cosa, también destruir el widget en el acto, o lanzar. Lo que se lance
+/// mientras el usuario escribe o pulsa, en una ranura del control o al poner una propiedad de Qt no llega a
+/// Qt: se cuenta después (`fallo`), una vez por fallo mientras el texto sea demasiado largo, y el texto
+/// queda. Lo que lance una llamada del anfitrión le llega a él.
 class ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
-    Q_PROPERTY(bool Borde3D READ Borde3D WRITE Borde3D)
-    Q_PROPERTY(bool LeftBorderVisible READ LeftBorderVisible WRITE LeftBorderVisible)
-    Q_PROPERTY(int MargenIzquierdo READ MargenIzquierdo WRITE MargenIzquierdo)
-    Q_PROPERTY(bool HideSelection READ HideSelection WRITE HideSelection)
-    Q_PROPERTY(bool LenguajeSensible READ LenguajeSensible WRITE LenguajeSensible)
-    Q_PROPERTY(bool AutoCorreccion READ AutoCorreccion WRITE AutoCorreccion)
-    Q_PROPERTY(int EspaciosXTAB READ EspaciosXTAB WRITE EspaciosXTAB)
-    Q_PROPERTY(bool AutoTAB READ AutoTAB WRITE AutoTAB)
-    Q_PROPERTY(bool MarcarErrores READ MarcarErrores WRITE MarcarErrores)
-    Q_PROPERTY(bool MuestraMensajesDeError READ MuestraMensajesDeError WRITE MuestraMensajesDeError)
-    Q_PROPERTY(bool Colorear READ Colorear WRITE Colorear)
-    Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE NomLenguaje)
-    Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE AutoNumero)
-    Q_PROPERTY(QColor ColorPR READ ColorPRQt WRITE ColorPRQt)
-    Q_PROPERTY(QColor ColorOperadores READ ColorOperadoresQt WRITE ColorOperadoresQt)
-    Q_PROPERTY(QColor ColorComentarios READ ColorComentariosQt WRITE ColorComentariosQt)
-    Q_PROPERTY(QColor ColorEtiquetas READ ColorEtiquetasQt WRITE ColorEtiquetasQt)
-    Q_PROPERTY(QColor ColorNumeros READ ColorNumerosQt WRITE ColorNumerosQt)
-    Q_PROPERTY(QColor ColorError READ ColorErrorQt WRITE ColorErrorQt)
-    Q_PROPERTY(QColor ColorCadena READ ColorCadenaQt WRITE ColorCadenaQt)
-    Q_PROPERTY(QColor ColorCaracter READ ColorCaracterQt WRITE ColorCaracterQt)
-    Q_PROPERTY(QColor ColorFechas READ ColorFechasQt WRITE ColorFechasQt)
-    Q_PROPERTY(QFont Font READ Font WRITE Font)
-    Q_PROPERTY(QString ContenidoG READ ContenidoG WRITE ContenidoG)
-    Q_PROPERTY(QString CodigoPrueba READ CodigoPrueba WRITE CodigoPrueba)
-    Q_PROPERTY(bool TextoModificado READ TextoModificado WRITE TextoModificado STORED false DESIGNABLE false)
-    Q_PROPERTY(QString Text READ Text WRITE Text STORED false DESIGNABLE false)
-    Q_PROPERTY(QString SelText READ SelText WRITE SelText STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelStart READ SelStart WRITE SelStart STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelLength READ SelLength WRITE SelLength STORED false DESIGNABLE false)
-    Q_PROPERTY(QString SelFontName READ SelFontName WRITE SelFontName STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelFontSize READ SelFontSize WRITE SelFontSize STORED false DESIGNABLE false)
+    Q_PROPERTY(bool Borde3D READ Borde3D WRITE ponBorde3D)
+    Q_PROPERTY(bool LeftBorderVisible READ LeftBorderVisible WRITE ponLeftBorderVisible)
+    Q_PROPERTY(int MargenIzquierdo READ MargenIzquierdo WRITE ponMargenIzquierdo)
+    Q_PROPERTY(bool HideSelection READ HideSelection WRITE ponHideSelection)
+    Q_PROPERTY(bool LenguajeSensible READ LenguajeSensible WRITE ponLenguajeSensible)
+    Q_PROPERTY(bool AutoCorreccion READ AutoCorreccion WRITE ponAutoCorreccion)
+    Q_PROPERTY(int EspaciosXTAB READ EspaciosXTAB WRITE ponEspaciosXTAB)
+    Q_PROPERTY(bool AutoTAB READ AutoTAB WRITE ponAutoTAB)
+    Q_PROPERTY(bool MarcarErrores READ MarcarErrores WRITE ponMarcarErrores)
+    Q_PROPERTY(bool MuestraMensajesDeError READ MuestraMensajesDeError WRITE ponMuestraMensajesDeError)
+    Q_PROPERTY(bool Colorear READ Colorear WRITE ponColorear)
+    Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE ponNomLenguaje)
+    Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE ponAutoNumero)
+    Q_PROPERTY(QColor ColorPR READ ColorPRQt WRITE ponColorPRQt)
+    Q_PROPERTY(QColor ColorOperadores READ ColorOperadoresQt WRITE ponColorOperadoresQt)
+    Q_PROPERTY(QColor ColorComentarios READ ColorComentariosQt WRITE ponColorComentariosQt)
+    Q_PROPERTY(QColor ColorEtiquetas READ ColorEtiquetasQt WRITE ponColorEtiquetasQt)
+    Q_PROPERTY(QColor ColorNumeros READ ColorNumerosQt WRITE ponColorNumerosQt)
+    Q_PROPERTY(QColor ColorError READ ColorErrorQt WRITE ponColorErrorQt)
+    Q_PROPERTY(QColor ColorCadena READ ColorCadenaQt WRITE ponColorCadenaQt)
+    Q_PROPERTY(QColor ColorCaracter READ ColorCaracterQt WRITE ponColorCaracterQt)
+    Q_PROPERTY(QColor ColorFechas READ ColorFechasQt WRITE ponColorFechasQt)
+    Q_PROPERTY(QFont Font READ Font WRITE ponFont)
+    Q_PROPERTY(QString ContenidoG READ ContenidoG WRITE ponContenidoG)
+    Q_PROPERTY(QString CodigoPrueba READ CodigoPrueba WRITE ponCodigoPrueba)
+    Q_PROPERTY(
+        bool TextoModificado READ TextoModificado WRITE ponTextoModificado STORED false DESIGNABLE false)
+    Q_PROPERTY(QString Text READ Text WRITE ponText STORED false DESIGNABLE false)
+    Q_PROPERTY(QString SelText READ SelText WRITE ponSelText STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelStart READ inicioSeleccion WRITE ponSelStart STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelLength READ longitudSeleccion WRITE ponSelLength STORED false DESIGNABLE false)
+    Q_PROPERTY(QString SelFontName READ SelFontName WRITE ponSelFontName STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelFontSize READ SelFontSize WRITE ponSelFontSize STORED false DESIGNABLE false)
 
 public:
     /// Con unos servicios propios.
@@ -140,13 +159,16 @@ public:
     NORVIK_PROPIEDAD_COLOR(ColorFechas)
     QFont Font() const { return aQFont(control_.Font()); }
     void Font(const QFont& letra) { control_.Font(deQFont(letra)); }
+    NORVIK_PROPIEDAD_DE_QT(QFont, Font, true)
     /// La especificación del lenguaje en que se trabaja. Sus saltos de línea, como quiera que se pongan, son
     /// CR LF.
     QString ContenidoG() const { return aQString(control_.ContenidoG()); }
     void ContenidoG(const QString& texto) { control_.ContenidoG(vistaDe(conSaltos(texto))); }
+    NORVIK_PROPIEDAD_DE_QT(QString, ContenidoG, true)
     /// El texto para probarla, con los saltos de línea igual.
     QString CodigoPrueba() const { return aQString(control_.CodigoPrueba()); }
     void CodigoPrueba(const QString& texto) { control_.CodigoPrueba(vistaDe(conSaltos(texto))); }
+    NORVIK_PROPIEDAD_DE_QT(QString, CodigoPrueba, true)
     NORVIK_PROPIEDAD(bool, TextoModificado)
     NORVIK_PROPIEDAD_TEXTO(Text)
     NORVIK_PROPIEDAD_TEXTO(SelText)
@@ -164,7 +186,9 @@ public:
 
 public slots: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
     /// Olvida el lenguaje entero (`Norvik::OlvidaLenguaje`).
-    void OlvidaLenguaje() { control_.OlvidaLenguaje(); }
+    void OlvidaLenguaje() {
+        caja_.protege([this] { control_.OlvidaLenguaje(); });
+    }
     /// Otro texto invisible.
     void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
 
@@ -186,6 +210,9 @@ signals:
 
     /// Una propiedad que se guarda tiene otro valor.
     void propiedadCambiada(const QString& nombre);
+    /// Se ha lanzado algo que no tenía adónde ir. Quien lo cuente pone `contado`; si nadie lo hace, se enseña
+    /// en una caja de mensaje.
+    void fallo(const QString& texto, bool& contado);
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -195,6 +222,8 @@ protected:
 
 private:
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
+    int inicioSeleccion() const { return caja_.inicioSeleccion(); } // of any length of text
+    int longitudSeleccion() const { return caja_.longitudSeleccion(); }
     static QColor colorQt(std::int32_t color) { return color == sinColor ? QColor() : aQColor(color); }
     static QString conSaltos(const QString& texto);
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
@@ -212,6 +241,7 @@ private:
     void conectaElementos();
     void cuentaFallo(const std::u16string& texto);
     std::array<QWidget*, 3> observados();
+    void entraEnTabulador(Qt::FocusReason razon);
     void saleHaciaDelante();
 
     ElementosControl elementos_;
@@ -219,13 +249,13 @@ private:
     SistemaQt& sistema_; ///< `propio_` o uno compartido
     CajaTextoQt caja_;
     Norvik control_;
-    std::u16string falloContado_; ///< de un texto demasiado largo
-    bool saliendo_ = false;       ///< el foco pasa por encima de `tabulador`
+    std::set<std::u16string> fallosContados_; ///< de un texto demasiado largo
 };
 
 } // namespace norvik
 
 #undef NORVIK_PROPIEDAD
+#undef NORVIK_PROPIEDAD_DE_QT
 #undef NORVIK_PROPIEDAD_16
 #undef NORVIK_PROPIEDAD_COLOR
 #undef NORVIK_PROPIEDAD_TEXTO

@@ -44,14 +44,14 @@ ElementosControl::ElementosControl(QWidget& control)
       bordeClaro2(&control), bordeOscuro1(&control), bordeOscuro2(&control), debugBox(&control),
       sig_Error(Signo::Dibujo::Error, &debugBox), sig_Stop(Signo::Dibujo::Stop, &debugBox),
       sig_Play(Signo::Dibujo::Play, &debugBox), sig_FlujoActual(Signo::Dibujo::FlujoActual, &debugBox),
-      controlSpace(&control), tabulador(&control), captaEnfoque(&control) {
+      controlSpace(&control), tabulador(&nuevo<Servido<QPushButton>>(&control)), captaEnfoque(&control) {
     nombra();
     pinta();
     for (Signo* modelo : {&sig_Error, &sig_Stop, &sig_Play, &sig_FlujoActual}) modelo->hide();
     controlSpace.setFocusPolicy(Qt::NoFocus);
     captaEnfoque.setFocusPolicy(Qt::ClickFocus);
     constexpr QRect fueraDeLaVista(-100, -100, 50, 20);
-    tabulador.setGeometry(fueraDeLaVista);
+    tabulador->setGeometry(fueraDeLaVista);
     captaEnfoque.setGeometry(fueraDeLaVista);
 }
 
@@ -70,7 +70,7 @@ void ElementosControl::nombra() {
     nombra(sig_Play, "sig_Play", QStringLiteral("Ejecución"));
     nombra(sig_FlujoActual, "sig_FlujoActual", QStringLiteral("Línea actual"));
     nombra(controlSpace, "controlSpace", QStringLiteral("Margen del texto"));
-    nombra(tabulador, "tabulador", QStringLiteral("Tabulador"));
+    nombra(*tabulador, "tabulador", QStringLiteral("Tabulador"));
     nombra(captaEnfoque, "captaEnfoque", QStringLiteral("Edición en curso"));
 }
 

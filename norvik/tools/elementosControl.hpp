@@ -2,6 +2,7 @@
 
 #include "norvik/control/disposicion.hpp"
 #include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/servido.hpp"
 #include "norvik/tools/signo.hpp"
 
 #include <QFrame>
@@ -36,7 +37,7 @@ public:
     QWidget debugBox;
     Signo sig_Error, sig_Stop, sig_Play, sig_FlujoActual;
     QPushButton controlSpace;
-    QPushButton tabulador;
+    const DuenioDeServido<QPushButton> tabulador;
     QPushButton captaEnfoque;
 
 private:

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "norvik/platform/qt/fallos.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/tools/fallos.hpp"
 
 #include <QScreen>
 #include <QString>

@@ -2,6 +2,7 @@
 
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
 
 #include <QApplication>
@@ -14,26 +15,25 @@
 namespace norvik {
 
 CajaTextoQt::CajaTextoQt(QWidget* padre)
-    : vista_(std::make_unique<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
+    : vista_(&nuevo<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
     vista_->configura();
     CajaTextoQt::ponFuente(fuente());
     conecta();
 }
 
-CajaTextoQt::~CajaTextoQt() {
-    vista_->disconnect();
-    vista_->document()->disconnect();
+void CajaTextoQt::DespideVista::operator()(VistaTexto* vista) const {
+    vista->olvidaCaja();
+    VistaTexto::Despide()(vista);
 }
 
 void CajaTextoQt::conecta() {
-    QObject::connect(vista_->document(), &QTextDocument::contentsChange, vista_.get(),
+    QObject::connect(vista_->document(), &QTextDocument::contentsChange, &contexto_,
                      [this](int desde, int quitados, int puestos) {
                          if (!copiando_) espejo_.anota(desde, quitados, puestos);
                      });
-    QObject::connect(vista_.get(), &QPlainTextEdit::textChanged, vista_.get(), [this] { recogeEdicion(); });
-    const auto otraSeleccion = [this] { protege([this] { recogeSeleccion(); }); };
-    QObject::connect(vista_.get(), &QPlainTextEdit::selectionChanged, vista_.get(), otraSeleccion);
-    QObject::connect(vista_.get(), &QPlainTextEdit::cursorPositionChanged, vista_.get(), otraSeleccion);
+    QObject::connect(vista_.get(), &QPlainTextEdit::textChanged, &contexto_, [this] { recogeEdicion(); });
+    for (const auto senal : {&QPlainTextEdit::selectionChanged, &QPlainTextEdit::cursorPositionChanged})
+        QObject::connect(vista_.get(), senal, &contexto_, [this] { recogeSeleccion(); });
 }
 
 QWidget& CajaTextoQt::ventana() {
@@ -90,7 +90,7 @@ void CajaTextoQt::desbloqueaDibujo() {
 void CajaTextoQt::pideAlDia() {
     if (std::exchange(alDiaPedido_, true)) return;
     QMetaObject::invokeMethod(
-        vista_.get(), [this] { ponAlDia(); }, Qt::QueuedConnection);
+        &contexto_, [this] { ponAlDia(); }, Qt::QueuedConnection);
 }
 
 void CajaTextoQt::ponAlDia() {
@@ -205,6 +205,7 @@ QTextCharFormat CajaTextoQt::formato(const Estilo& estilo) const {
 // ---- from the editor to the model
 
 void CajaTextoQt::recogeEdicion() {
+    const VistaTexto::Servicio servicio(*vista_);
     if (copiando_ || !espejo_.hayEdicion()) return;
     const EspejoDocumento::Edicion e = espejo_.dameEdicion();
     const QTextCursor cursor = vista_->textCursor();
@@ -220,8 +221,13 @@ void CajaTextoQt::recogeEdicion() {
     });
 }
 
-/// A selection that the host moved meanwhile is not taken back to where the editor still has it.
 void CajaTextoQt::recogeSeleccion() {
+    const VistaTexto::Servicio servicio(*vista_);
+    protege([this] { tomaSeleccion(); });
+}
+
+/// A selection that the host moved meanwhile is not taken back to where the editor still has it.
+void CajaTextoQt::tomaSeleccion() {
     if (copiando_ || espejo_.hayEdicion() || vistaAtrasada_ || seleccionModelo() != sincronizada_) return;
     const Tramo vista = seleccionVista();
     if (vista == puesta_) return;
@@ -235,15 +241,19 @@ void CajaTextoQt::pega(const QString& texto) {
 }
 
 void CajaTextoQt::suelta(const QString& texto, int posicion, bool mueve) {
+    const auto viva = testigo();
     std::int32_t destino = espejo_.enTexto(posicion);
     const Tramo origen = seleccionModelo();
     if (mueve) {
         if (destino >= origen.inicio && destino <= origen.fin) return;
         reemplazaSeleccion({});
+        if (viva.expired()) return;
         if (destino > origen.fin) destino -= origen.fin - origen.inicio;
     }
     selecciona(destino, 0);
+    if (viva.expired()) return;
     pega(texto);
+    if (viva.expired()) return;
     selecciona(destino, inicioSeleccion() - destino);
 }
 
@@ -257,7 +267,7 @@ void CajaTextoQt::avisaFallo(const std::u16string& texto) {
         falloPendiente_ = false;
         if (alFallar) alFallar(texto);
     };
-    QMetaObject::invokeMethod(vista_.get(), avisa, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&contexto_, avisa, Qt::QueuedConnection);
 }
 
 } // namespace norvik

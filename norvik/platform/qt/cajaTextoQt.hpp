@@ -1,9 +1,10 @@
 #pragma once
 
-#include "norvik/base/errores.hpp"
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 #include "norvik/platform/qt/espejoDocumento.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 
+#include <QObject>
 #include <QTextLayout>
 #include <QWidget>
 
@@ -23,13 +24,13 @@ class VistaTexto;
 // selection and of colours while a text is coloured cost the editor one update, and no state between them is
 // ever seen. Colours are layout formats of the lines, not text formats: they are no edits and are cheap.
 
-/// The text box shown by Qt. Must be destroyed before its parent.
+/// The text box shown by Qt. Must be destroyed before its parent; any receiver of its events may do that.
 class CajaTextoQt final : public CajaTextoMemoria {
 public:
     explicit CajaTextoQt(QWidget* padre = nullptr);
     CajaTextoQt(const CajaTextoQt&) = delete;
     CajaTextoQt& operator=(const CajaTextoQt&) = delete;
-    ~CajaTextoQt() override;
+    ~CajaTextoQt() override = default;
 
     void ponFuente(const Fuente& fuente) override;
     void ponOcultaSeleccion(bool oculta) override;
@@ -45,12 +46,20 @@ public:
     std::function<void(const std::u16string& texto)> alFallar;
 
     // For the editor that shows the box.
-    /// Serves an event of the user: the editor is up to date before it and after it.
+    /// Serves an event of the user: the editor is up to date before it and after it. What is raised on the
+    /// way goes no further and is told afterwards, if the box is still there.
     template <typename Accion>
     void atiende(Accion accion) {
+        const auto viva = testigo();
         ponAlDia();
         protege(accion);
-        ponAlDia();
+        if (!viva.expired()) ponAlDia();
+    }
+    template <typename Accion>
+    void protege(Accion accion) {
+        const auto viva = testigo();
+        const std::u16string fallo = falloDe(accion);
+        if (!fallo.empty() && !viva.expired()) avisaFallo(fallo);
     }
     /// Inserts text that the user brings from elsewhere.
     void pega(const QString& texto);
@@ -78,17 +87,10 @@ private:
         bool operator==(const Tramo&) const = default;
     };
 
-    /// What is raised on the way stops here: the event loop that called can do nothing with it.
-    template <typename Accion>
-    void protege(Accion accion) {
-        try {
-            accion();
-        } catch (const ErrorNorvik& e) {
-            avisaFallo(e.texto());
-        } catch (const std::exception& e) {
-            avisaFallo(QString::fromUtf8(e.what()).toStdU16String());
-        }
-    }
+    struct DespideVista {
+        void operator()(VistaTexto* vista) const;
+    };
+
     void conecta();
     void pideAlDia();
     void recogeEdicion();
@@ -101,7 +103,10 @@ private:
     QTextCharFormat formato(const Estilo& estilo) const;
     void ensucia(Tramo tramo);
 
-    const std::unique_ptr<VistaTexto> vista_;
+    void tomaSeleccion();
+
+    const std::unique_ptr<VistaTexto, DespideVista> vista_;
+    QObject contexto_; ///< of what the editor is to call; it goes before the editor does
     EspejoDocumento espejo_;
     Tramo puesta_;               ///< selection that the editor was last given, or that was last taken from it
     Tramo sincronizada_;         ///< the model's selection then

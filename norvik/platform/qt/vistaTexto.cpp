@@ -32,6 +32,7 @@ void VistaTexto::configura() {
 
 /// Shortcuts with the control key belong to the host's menus first.
 bool VistaTexto::event(QEvent* evento) {
+    const Servicio servicio(*this);
     if (evento->type() == QEvent::ShortcutOverride &&
         mascaraDe(*static_cast<QKeyEvent*>(evento)) == mascara::control) {
         evento->ignore();
@@ -40,15 +41,26 @@ bool VistaTexto::event(QEvent* evento) {
     return QPlainTextEdit::event(evento);
 }
 
+bool VistaTexto::viewportEvent(QEvent* evento) {
+    const Servicio servicio(*this);
+    return QPlainTextEdit::viewportEvent(evento);
+}
+
+template <typename Accion>
+void VistaTexto::atiende(Accion accion) {
+    if (hayCaja()) caja_->atiende(accion);
+}
+
 void VistaTexto::changeEvent(QEvent* evento) {
     QPlainTextEdit::changeEvent(evento);
-    if (evento->type() == QEvent::PaletteChange) caja_.repinta(); // colours follow the background
+    if (evento->type() == QEvent::PaletteChange && hayCaja())
+        caja_->repinta(); // colours follow the background
 }
 
 // ---- keys
 
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
-    caja_.atiende([&] { pulsa(*evento); });
+    atiende([&] { pulsa(*evento); });
 }
 
 void VistaTexto::pulsa(QKeyEvent& evento) {
@@ -57,8 +69,8 @@ void VistaTexto::pulsa(QKeyEvent& evento) {
     const std::int16_t antes = codigo;
     std::int16_t shift = mascaraDe(evento);
     evento.accept();
-    if (caja_.eventos.teclaAbajo) caja_.eventos.teclaAbajo(codigo, shift);
-    if (codigo == 0) return;
+    if (caja_->eventos.teclaAbajo) caja_->eventos.teclaAbajo(codigo, shift);
+    if (codigo == 0 || !hayCaja()) return;
     const Qt::Key otra = codigo == antes ? Qt::Key_unknown : teclaDeCodigo(codigo);
     if (otra == Qt::Key_unknown) return escribe(evento);
     QKeyEvent cambiada(QEvent::KeyPress, otra, evento.modifiers());
@@ -70,7 +82,8 @@ void VistaTexto::pulsa(QKeyEvent& evento) {
 void VistaTexto::escribe(QKeyEvent& evento) {
     const bool escribeTexto = evento.key() != Qt::Key_Delete && !evento.text().isEmpty();
     const QString texto = escribeTexto ? filtra(evento.text()) : evento.text();
-    if (texto != evento.text()) return caja_.reemplazaSeleccion(vistaDe(texto));
+    if (!hayCaja()) return;
+    if (texto != evento.text()) return caja_->reemplazaSeleccion(vistaDe(texto));
     const bool saltoBlando = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
     const auto teclas = saltoBlando ? evento.modifiers() & ~Qt::ShiftModifier : evento.modifiers();
     QKeyEvent copia(QEvent::KeyPress, evento.key(), teclas, texto);
@@ -80,11 +93,12 @@ void VistaTexto::escribe(QKeyEvent& evento) {
 
 /// The text after the box's receiver has seen each character: 0 suppresses one.
 QString VistaTexto::filtra(const QString& texto) {
-    if (!caja_.eventos.pulsacion) return texto;
+    if (!caja_->eventos.pulsacion) return texto;
     QString queda;
     for (const QChar c : texto) {
         auto caracter = static_cast<std::int16_t>(c.unicode());
-        caja_.eventos.pulsacion(caracter);
+        caja_->eventos.pulsacion(caracter);
+        if (!hayCaja()) return {};
         if (caracter != 0) queda += QChar(static_cast<char16_t>(caracter));
     }
     return queda;
@@ -93,29 +107,31 @@ QString VistaTexto::filtra(const QString& texto) {
 void VistaTexto::keyReleaseEvent(QKeyEvent* evento) {
     std::int16_t codigo = codigoDeTecla(*evento);
     std::int16_t shift = mascaraDe(*evento);
-    caja_.atiende([&] {
-        const bool avisa = codigo != 0 && !evento->isAutoRepeat() && caja_.eventos.teclaArriba;
-        if (avisa) caja_.eventos.teclaArriba(codigo, shift);
+    atiende([&] {
+        const bool avisa = codigo != 0 && !evento->isAutoRepeat() && caja_->eventos.teclaArriba;
+        if (avisa) caja_->eventos.teclaArriba(codigo, shift);
     });
     QPlainTextEdit::keyReleaseEvent(evento);
 }
 
 /// Composed characters are typed characters.
 void VistaTexto::inputMethodEvent(QInputMethodEvent* evento) {
-    caja_.atiende([&] {
+    atiende([&] {
         QInputMethodEvent filtrado(evento->preeditString(), evento->attributes());
         filtrado.setCommitString(filtra(evento->commitString()), evento->replacementStart(),
                                  evento->replacementLength());
+        if (!hayCaja()) return;
         QPlainTextEdit::inputMethodEvent(&filtrado);
         evento->setAccepted(filtrado.isAccepted());
-        caja_.cambiaComposicion();
+        if (hayCaja()) caja_->cambiaComposicion();
     });
 }
 
 // ---- mouse
 
-void VistaTexto::avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton) {
-    if (!evento) return;
+/// True when the editor is to do its part.
+bool VistaTexto::avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton) {
+    if (!evento) return true;
     std::int16_t boton = botonDe(raton);
     std::int16_t shift = mascaraDe(raton.modifiers());
     const TwipsPorPixel tpp = twipsPorPixel(*this);
@@ -123,41 +139,41 @@ void VistaTexto::avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMous
     auto x = static_cast<float>(punto.x() * tpp.x);
     auto y = static_cast<float>(punto.y() * tpp.y);
     evento(boton, shift, x, y);
+    return hayCaja();
 }
 
 void VistaTexto::mousePressEvent(QMouseEvent* evento) {
-    caja_.atiende([&] {
-        avisaRaton(caja_.eventos.ratonAbajo, *evento);
-        QPlainTextEdit::mousePressEvent(evento);
+    atiende([&] {
+        if (avisaRaton(caja_->eventos.ratonAbajo, *evento)) QPlainTextEdit::mousePressEvent(evento);
     });
 }
 
 void VistaTexto::mouseDoubleClickEvent(QMouseEvent* evento) {
-    caja_.atiende([&] {
-        avisaRaton(caja_.eventos.ratonAbajo, *evento);
-        QPlainTextEdit::mouseDoubleClickEvent(evento);
+    atiende([&] {
+        if (avisaRaton(caja_->eventos.ratonAbajo, *evento)) QPlainTextEdit::mouseDoubleClickEvent(evento);
     });
 }
 
 void VistaTexto::mouseMoveEvent(QMouseEvent* evento) {
-    caja_.atiende([&] {
-        avisaRaton(caja_.eventos.ratonMueve, *evento);
-        QPlainTextEdit::mouseMoveEvent(evento);
+    atiende([&] {
+        if (avisaRaton(caja_->eventos.ratonMueve, *evento)) QPlainTextEdit::mouseMoveEvent(evento);
     });
 }
 
 void VistaTexto::mouseReleaseEvent(QMouseEvent* evento) {
-    caja_.atiende([&] {
-        avisaRaton(caja_.eventos.ratonArriba, *evento);
+    atiende([&] {
+        if (!avisaRaton(caja_->eventos.ratonArriba, *evento)) return;
         QPlainTextEdit::mouseReleaseEvent(evento);
         const bool dentro = viewport()->rect().contains(evento->position().toPoint());
-        if (evento->button() == Qt::LeftButton && dentro && caja_.eventos.click) caja_.eventos.click();
+        const bool esClick = evento->button() == Qt::LeftButton && dentro && hayCaja();
+        if (esClick && caja_->eventos.click) caja_->eventos.click();
     });
 }
 
 /// The menu edits through the keys that do the same, so that the host sees the same events.
 void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
-    const bool hay = caja_.longitudSeleccion() > 0;
+    if (!hayCaja()) return;
+    const bool hay = caja_->longitudSeleccion() > 0;
     QMenu menu(this);
     const auto pon = [&](const QString& nombre, bool activa, auto accion) {
         menu.addAction(nombre, this, accion)->setEnabled(activa);
@@ -181,7 +197,7 @@ void VistaTexto::teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas) {
 // ---- focus
 
 void VistaTexto::focusInEvent(QFocusEvent* evento) {
-    caja_.cambiaFoco(true);
+    if (hayCaja()) caja_->cambiaFoco(true);
     QPlainTextEdit::focusInEvent(evento);
 }
 
@@ -189,10 +205,10 @@ void VistaTexto::focusInEvent(QFocusEvent* evento) {
 void VistaTexto::focusOutEvent(QFocusEvent* evento) {
     QPlainTextEdit::focusOutEvent(evento);
     if (evento->reason() == Qt::PopupFocusReason) return;
-    caja_.atiende([&] {
-        if (caja_.eventos.pierdeFoco) caja_.eventos.pierdeFoco();
+    atiende([&] {
+        if (caja_->eventos.pierdeFoco) caja_->eventos.pierdeFoco();
     });
-    caja_.cambiaFoco(false);
+    if (hayCaja()) caja_->cambiaFoco(false);
 }
 
 // ---- paste and drop: plain text only
@@ -202,8 +218,8 @@ bool VistaTexto::canInsertFromMimeData(const QMimeData* datos) const {
 }
 
 void VistaTexto::insertFromMimeData(const QMimeData* datos) {
-    caja_.recogeSeleccion(); // the middle button moves the caret without a word
-    caja_.atiende([&] { caja_.pega(datos->text()); });
+    if (hayCaja()) caja_->recogeSeleccion(); // the middle button moves the caret without a word
+    atiende([&] { caja_->pega(datos->text()); });
 }
 
 /// The editor's own drop would take the text away and insert it in one edit, which no one outside could
@@ -214,15 +230,15 @@ void VistaTexto::dropEvent(QDropEvent* evento) {
     if (!canInsertFromMimeData(evento->mimeData())) return evento->ignore();
     const int posicion = cursorForPosition(evento->position().toPoint()).position();
     const bool mueve = evento->dropAction() == Qt::MoveAction && evento->source() == viewport();
-    caja_.atiende([&] { caja_.suelta(evento->mimeData()->text(), posicion, mueve); });
+    atiende([&] { caja_->suelta(evento->mimeData()->text(), posicion, mueve); });
     evento->acceptProposedAction();
-    setFocus();
+    if (hayCaja()) setFocus();
 }
 
 // The clipboard takes the object over.
 QMimeData* VistaTexto::createMimeDataFromSelection() const {
     auto& datos = nuevo<QMimeData>();
-    datos.setText(caja_.textoParaCopiar());
+    if (hayCaja()) datos.setText(caja_->textoParaCopiar());
     return &datos;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/platform/cajaTexto.hpp"
+#include "norvik/platform/qt/servido.hpp"
 
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -10,18 +11,23 @@ namespace norvik {
 class CajaTextoQt;
 
 /// The editor that shows a text box, and turns what the user does into the box's events. Plain text only,
-/// without line wrapping, without an undo of its own.
-class VistaTexto final : public QPlainTextEdit {
+/// without line wrapping, without an undo of its own. Whoever receives an event may destroy the box: what is
+/// left of the handler then finds none.
+class VistaTexto final : public Servido<QPlainTextEdit> {
 public:
-    VistaTexto(CajaTextoQt& caja, QWidget* padre) : QPlainTextEdit(padre), caja_(caja) {}
+    VistaTexto(CajaTextoQt& caja, QWidget* padre) : Servido(padre), caja_(&caja) {}
 
     /// To be called once the box is whole: from here on the editor tells it what happens.
     void configura();
+
+    /// The box goes.
+    void olvidaCaja() { caja_ = nullptr; }
 
     int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
 
 protected:
     bool event(QEvent* evento) override;
+    bool viewportEvent(QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void keyReleaseEvent(QKeyEvent* evento) override;
     void inputMethodEvent(QInputMethodEvent* evento) override;
@@ -39,13 +45,16 @@ protected:
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
+    bool hayCaja() const { return caja_ != nullptr; }
+    template <typename Accion>
+    void atiende(Accion accion);
     void pulsa(QKeyEvent& evento);
     void escribe(QKeyEvent& evento);
     QString filtra(const QString& texto);
-    void avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
+    bool avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
     void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
 
-    CajaTextoQt& caja_;
+    CajaTextoQt* caja_; ///< null once it has gone
 };
 
 } // namespace norvik

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "norvik/base/errores.hpp"
+
+#include <QString>
+
+#include <string>
+
+namespace norvik {
+
+/// Carries something out, and lets nothing that is raised on the way get any further: the event loop that
+/// calls a slot, an event handler or an event filter can do nothing with it. The text of the failure, empty
+/// when there was none.
+template <typename Orden>
+std::u16string falloDe(Orden orden) {
+    std::u16string texto;
+    try {
+        orden();
+        return {};
+    } catch (const ErrorNorvik& e) {
+        texto = e.texto();
+    } catch (const std::exception& e) {
+        texto = QString::fromUtf8(e.what()).toStdU16String();
+    } catch (...) { // a host's, of whatever type
+        texto.clear();
+    }
+    return texto.empty() ? u"Fallo desconocido" : texto;
+}
+
+} // namespace norvik
