@@ -42,6 +42,10 @@ void ElementoFormulario::conecta() {
         emit otroTexto();
     });
     connect(&norvik_, &ControlNorvik::SelChange, this, &ElementoFormulario::otroLugar);
+    connect(&norvik_, &ControlNorvik::fallo, this, [this](const QString& motivo, bool& contado) {
+        contado = true;
+        emit fallo(motivo);
+    });
     connect(&norvik_, &ControlNorvik::propiedadCambiada, this, &ElementoFormulario::anota);
     connect(&velo_, &VeloDisenio::seleccionado, this, &ElementoFormulario::activado);
     connect(&velo_, &VeloDisenio::pidePropiedades, this, &ElementoFormulario::pidePropiedades);
@@ -116,8 +120,7 @@ void ElementoFormulario::abreTexto(const QString& fichero) {
     try {
         norvik_.control().CargarFichero(aRuta(fichero));
     } catch (const Desbordamiento&) {
-        ponFichero(fichero);
-        throw;
+        norvik_.caja().protege([] { throw; }); // it is told as at any key
     }
     ponFichero(fichero);
 }
@@ -143,7 +146,7 @@ void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {
     const auto longitud = static_cast<std::int32_t>(lexema.size());
     const auto desde = std::min(static_cast<std::size_t>(posicion), caja.texto().size());
     const bool esta = caja.texto().substr(desde).starts_with(vistaDe(lexema));
-    caja.selecciona(posicion, esta ? longitud : 0);
+    caja.atiende([&] { caja.selecciona(posicion, esta ? longitud : 0); });
     norvik_.setFocus();
 }
 

@@ -38,8 +38,8 @@ public:
     QString tituloTexto() const;
     bool textoModificado() const { return norvik_.TextoModificado(); }
     void nuevoTexto();
-    /// Raises `ErrorDeFichero`, the text is then empty and without a file; `Desbordamiento` for one that is
-    /// too long to be coloured, which is loaded.
+    /// Raises `ErrorDeFichero`, the text is then empty and without a file. One that is too long to be
+    /// coloured is loaded, and that is told.
     void abreTexto(const QString& fichero);
     /// False when the file could not be written.
     bool guardaTexto(const QString& fichero);
@@ -65,6 +65,8 @@ signals:
     /// The text, its file or its mark.
     void otroTexto();
     void otroLugar(); ///< of the caret
+    /// A limit was passed, or something else failed, while the user worked on the text.
+    void fallo(const QString& texto);
     /// What is saved has changed: the property bag, or what the container keeps besides.
     void otraPropiedad();
 

@@ -48,7 +48,8 @@ signals:
     void otroActivo();
     void otroTexto(); ///< of any control
     void otroLugar(); ///< of the active one's caret
-    void cambiado();  ///< the controls, or what is saved of them
+    void fallo(const QString& texto);
+    void cambiado(); ///< the controls, or what is saved of them
     void pidePropiedades();
 
 private:

@@ -4,6 +4,7 @@
 #include "portapapeles.hpp"
 #include "rutas.hpp"
 
+#include "norvik/base/texto.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/ventanas.hpp"
 
@@ -93,7 +94,9 @@ void VentanaPrincipal::conectaEdicion() {
         conecta(accion, [this, orden] { orden(formulario_.activo().norvik()); });
     };
     const auto enHistorial = [this, conControl](QAction& accion, auto orden) {
-        conControl(accion, orden);
+        conControl(accion, [orden](ControlNorvik& n) {
+            n.caja().atiende([&] { orden(n); }); // what a key came to is told as it is at other keys
+        });
         connect(&accion, &QAction::triggered, this, &VentanaPrincipal::actualizaHistorial);
     };
     enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
@@ -123,6 +126,7 @@ void VentanaPrincipal::conectaFormulario() {
             [this](const QString& fichero) { ejecuta(sistema_, [&] { formularios_.abre(fichero); }); });
     connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
     connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
+    connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
@@ -201,6 +205,14 @@ void VentanaPrincipal::otroActivo() {
     actualizaOrdenes();
 }
 
+/// Where it is in nobody's way.
+void VentanaPrincipal::cuentaFallo(const QString& texto) {
+    const bool largo = formulario_.activo().norvik().caja().texto().size() > maximoTexto;
+    statusBar()->showMessage(
+        largo ? texto + QStringLiteral(". Se edita y se guarda, pero ya no se colorea ni se analiza")
+              : texto);
+}
+
 void VentanaPrincipal::actualizaTitulo() {
     ElementoFormulario& activo = formulario_.activo();
     const QString marcaFormulario = formulario_.modificado() ? QStringLiteral("*") : QString();
@@ -214,9 +226,11 @@ void VentanaPrincipal::actualizaTitulo() {
 }
 
 void VentanaPrincipal::actualizaLugar() {
-    Norvik& control = formulario_.activo().norvik().control();
-    lugar_.setText(
-        QStringLiteral("Línea %1, Columna %2").arg(control.LineaActual()).arg(control.ColumnaActual()));
+    ControlNorvik& norvik = formulario_.activo().norvik();
+    const CajaTextoQt& caja = norvik.caja(); // the control numbers 32,767 lines
+    lugar_.setText(QStringLiteral("Línea %1, Columna %2")
+                       .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
+                       .arg(norvik.control().ColumnaActual()));
 }
 
 void VentanaPrincipal::actualizaOrdenes() {

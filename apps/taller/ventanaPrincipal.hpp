@@ -53,6 +53,7 @@ private:
     void muestraPropiedades(VentanaPropiedades::Pagina pagina);
     void analiza();
     void otroActivo();
+    void cuentaFallo(const QString& texto);
     void actualizaTitulo();
     void actualizaLugar();
     void actualizaOrdenes();

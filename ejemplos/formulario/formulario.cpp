@@ -2,6 +2,8 @@
 
 #include "Calculadora.hpp" // written by norvik modulo
 
+#include "norvik/base/errores.hpp"
+
 #include <QTreeWidgetItem>
 
 #include <utility>
@@ -21,14 +23,20 @@ Formulario::Formulario() {
     connect(ui_.editor, &norvik::ControlNorvik::change, this, [this] { ui_.resultado->clear(); });
 }
 
+/// What the control cannot do, such as parse a text of more than 32,766 characters, it raises; an exception
+/// that left a slot would end the program.
 void Formulario::analiza() {
     norvik::Norvik& norvik = ui_.editor->control();
     ui_.arbol->clear();
-    if (norvik.ConstruyeArbolSintactico()) {
-        ui_.resultado->setText("Análisis sintáctico correcto");
-        muestraArbol();
-    } else {
-        ui_.resultado->setText(norvik::aQString(norvik.GetmensajeError()));
+    try {
+        if (norvik.ConstruyeArbolSintactico()) {
+            ui_.resultado->setText("Análisis sintáctico correcto");
+            muestraArbol();
+        } else {
+            ui_.resultado->setText(norvik::aQString(norvik.GetmensajeError()));
+        }
+    } catch (const norvik::ErrorNorvik& fallo) {
+        ui_.resultado->setText(norvik::aQString(fallo.texto()));
     }
 }
 

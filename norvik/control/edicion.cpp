@@ -37,7 +37,7 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
 }
 
 std::int16_t Edicion::lineaActual() const {
-    return a16(caja_->lineaDeCaracter(caja_->inicioSeleccion()) + 1, u"la línea del cursor");
+    return numeroDeLinea(caja_->lineaDeCaracter(caja_->inicioSeleccion()));
 }
 
 std::int32_t Edicion::columnaActual() const {
@@ -100,7 +100,7 @@ void Edicion::cambiaDeLinea(std::int32_t linea) {
     estado_.lineaAnterior = linea;
     estado_.posicionAnterior = caja_->inicioSeleccion();
     paso([&] {
-        std::int16_t nueva = a16(linea + 1, u"la línea del cursor");
+        std::int16_t nueva = numeroDeLinea(linea);
         avisa(eventos_.CambioDeLinea, nueva);
     });
     paso.acaba();

@@ -9,6 +9,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/guardas.hpp"
+#include "norvik/control/lineasTexto.hpp"
 
 #include <utility>
 
@@ -175,8 +176,7 @@ void Historial::cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso) {
 /// The caret's line counts from 1, the remembered one from 0: the mark is set unless the caret stands exactly
 /// one line below it. Colouring one range too many does no harm.
 void Historial::marcaSiCambioDeLinea() {
-    const std::int16_t lineaActual =
-        a16(caja_->lineaDeCaracter(caja_->inicioSeleccion()) + 1, u"la línea del cursor");
+    const std::int16_t lineaActual = numeroDeLinea(caja_->lineaDeCaracter(caja_->inicioSeleccion()));
     if (estado_.lineaAnterior != lineaActual) estado_.recoloreaRango = true;
 }
 

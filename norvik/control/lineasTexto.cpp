@@ -5,6 +5,7 @@
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
+#include <limits>
 
 namespace norvik {
 
@@ -28,6 +29,13 @@ std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
     }
     if (fin < inicio) noHayLinea(n);
     return texto.substr(inicio, fin - inicio);
+}
+
+std::int16_t numeroDeLinea(std::int32_t linea) {
+    constexpr std::int16_t ultima = std::numeric_limits<std::int16_t>::max();
+    if (linea >= ultima)
+        throw Desbordamiento(u"Desbordamiento: el texto pasa de " + aTexto(ultima) + u" líneas");
+    return a16(linea + 1);
 }
 
 std::u16string espacios(std::int16_t veces, std::int16_t ancho) {

@@ -10,6 +10,10 @@ namespace norvik {
 /// Raises `ArgumentoNoValido` when there is no such line.
 std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto);
 
+/// The number of a line, which counts from 0, for hosts. Raises `Desbordamiento` beyond 32767, always in the
+/// same words: it happens at each line there.
+std::int16_t numeroDeLinea(std::int32_t linea);
+
 /// `veces` × `ancho` spaces. Raises `Desbordamiento` for more than 32767, `ArgumentoNoValido` for fewer than
 /// 0.
 std::u16string espacios(std::int16_t veces, std::int16_t ancho);

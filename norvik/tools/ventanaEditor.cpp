@@ -153,8 +153,10 @@ void VentanaEditor::borraTodo() {
 // ---- what is shown
 
 void VentanaEditor::muestraLugar() {
-    const Norvik& control = norvik1_.control();
-    lugar_.setText(QStringLiteral("Lin %1, Col %2").arg(control.LineaActual()).arg(control.ColumnaActual()));
+    const CajaTextoQt& caja = norvik1_.caja(); // the control numbers 32,767 lines
+    lugar_.setText(QStringLiteral("Lin %1, Col %2")
+                       .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
+                       .arg(norvik1_.control().ColumnaActual()));
 }
 
 void VentanaEditor::muestraHistorial() {

@@ -98,7 +98,7 @@ TEST(Fallos, DelTextoYDelArbol) {
              n.Text(lineas + u"b");
              n.Find(u"b");
          },
-         "Desbordamiento: la línea del cursor 32769 no está entre -32768 y 32767"},
+         "Desbordamiento: el texto pasa de 32767 líneas"},
         {"línea que no hay",
          [](Norvik& n) {
              n.Text(u"a\r\nb");

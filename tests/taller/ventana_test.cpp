@@ -235,6 +235,53 @@ TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
     EXPECT_EQ(ventana.arbol().modelo().nodos(), 5);
 }
 
+/// Pasted into an empty window, or read from a file: the limit is told where it is in nobody's way, and all
+/// that needs no language goes on.
+TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
+    constexpr int lineas = 33000;
+    const QString texto = QStringLiteral("a\n").repeated(lineas);
+    const QString limite = "Desbordamiento: el texto pasa de 32766 caracteres";
+    const QString sigue = ". Se edita y se guarda, pero ya no se colorea ni se analiza";
+    const QString limiteDeLineas = "Desbordamiento: el texto pasa de 32767 líneas" + sigue;
+    const auto editor = [&] { return static_cast<QPlainTextEdit*>(&norvik().caja().ventana()); };
+    const auto pulsa = [&](Qt::Key tecla) {
+        QTest::keyClick(editor(), tecla);
+        QCoreApplication::processEvents();
+    };
+    const auto dicho = [&] { return ventana.statusBar()->currentMessage(); };
+    ventana.show();
+    QApplication::setActiveWindow(&ventana);
+    for (const bool deFichero : {false, true}) {
+        if (deFichero) {
+            ventana.abre(pon("largo.txt", texto.toStdString()));
+        } else {
+            QApplication::clipboard()->setText(texto);
+            ordena(a.pegar);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dicho(), limite + sigue);
+        ordena(a.seleccionarTodo);
+        pulsa(Qt::Key_Right);
+        EXPECT_EQ(dicho(), limiteDeLineas);
+        pulsa(Qt::Key_Return);
+        ventana.statusBar()->clearMessage(); // each limit is told once
+        for (const Qt::Key tecla : {Qt::Key_Up, Qt::Key_A, Qt::Key_Return, Qt::Key_Down, Qt::Key_Up})
+            pulsa(tecla);
+        ordena(a.deshacer);
+        ordena(a.rehacer);
+        emit ventana.arbol().elegida({lineas, 1, "a"});
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dicho(), "");
+        EXPECT_EQ(ventana.findChild<QStatusBar*>()->findChildren<QLabel*>().last()->text(),
+                  "Línea 33000, Columna 1");
+        EXPECT_EQ(dialogos.toma(), QStringList()); // no box
+        EXPECT_EQ(editor()->toPlainText(), conSaltosDeQt(norvik().Text()));
+        EXPECT_EQ(norvik().Text().count('a'), lineas + 1);
+        norvik().TextoModificado(false);
+        ordena(a.nuevoTexto);
+    }
+}
+
 TEST_F(TallerTest, FicherosQueSeSueltan) {
     QMimeData datos;
     datos.setUrls(

@@ -1,5 +1,5 @@
-// The example form as its user sees it: the colours of a line, and what it says of its text and of a wrong
-// one.
+// The example form as its user sees it: the colours of a line, and what it says of its text, of a wrong one
+// and of one that is too long.
 
 #include "formulario.hpp"
 
@@ -17,8 +17,8 @@ int main(int argc, char** argv) {
     const auto* const texto = formulario.findChild<QPlainTextEdit*>("Texto")->document();
     for (const auto& trozo : texto->findBlockByNumber(1).layout()->formats())
         std::cout << trozo.format.foreground().color().name().toStdString() << ' ';
-    for (const char* cambio : {"", "escribe 1 +;"}) {
-        if (*cambio != '\0') formulario.findChild<QWidget*>("editor")->setProperty("Text", cambio);
+    for (const auto& cambio : {QString(), QStringLiteral("escribe 1 +;"), QString(33000, u'1')}) {
+        if (!cambio.isEmpty()) formulario.findChild<QWidget*>("editor")->setProperty("Text", cambio);
         formulario.findChild<QPushButton*>("analizar")->click();
         std::cout << '\n'
                   << formulario.findChild<QTreeWidget*>("arbol")->topLevelItemCount() << ' '
