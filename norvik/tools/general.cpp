@@ -77,6 +77,7 @@ void General::lee(ControlNorvik& control) {
 bool General::escribe(ControlNorvik& control) {
     bool todo = true;
     for (const Opcion& o : opciones()) {
+        if (this->control() == nullptr) return false; // who heard of the property before took it away
         if (o.esNumero) {
             todo = escribeNumero(control, o) && todo;
         } else {

@@ -156,6 +156,7 @@ bool PaginaColores::escribe(ControlNorvik& control) {
         if (color == control.property(propiedad).value<QColor>())
             continue; // more than its bytes may be there
         control.setProperty(propiedad, color);
+        if (this->control() == nullptr) return false; // who heard of it took it away
     }
     return true;
 }

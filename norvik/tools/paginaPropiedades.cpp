@@ -29,13 +29,15 @@ void PaginaPropiedades::cambiaSeleccion(const QList<ControlNorvik*>& controles) 
 }
 
 bool PaginaPropiedades::aplica() {
-    if (control_ == nullptr || !escribe(*control_)) return false;
+    bool escrita = false;
+    if (control_ != nullptr) norvik::ejecuta(sistema_, [&] { escrita = escribe(*control_); });
+    if (!escrita) return false;
     ponCambiada(false);
     return true;
 }
 
 void PaginaPropiedades::suelta(Motivo motivo) {
-    if (control_ != nullptr) deja(*control_, motivo);
+    if (control_ != nullptr) norvik::ejecuta(sistema_, [&] { deja(*control_, motivo); });
     if (control_ != nullptr) control_->disconnect(this);
     control_ = nullptr;
     setEnabled(false);

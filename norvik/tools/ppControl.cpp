@@ -1,6 +1,7 @@
 #include "norvik/tools/ppControl.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/report/nombreDeModulo.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 #include "norvik/tools/codigoGramatica.hpp"
 #include "norvik/tools/directorio.hpp"
@@ -175,6 +176,7 @@ void PPControl::generarModulo() {
         sistema().muestraMensaje({u"El nombre seleccionado para el lenguaje es incorrecto", {}});
         return;
     }
+    compruebaNombreDeModulo(nombre, LenguajeModulo::Vb);
     resultado_.clear();
     muestraModal<directorio>(sistema(), sistema(), window());
     if (directorioDestino().empty() || !construyeConAviso()) return;

@@ -282,6 +282,9 @@ TEST_F(DisenioTest, LoQueFallaEnLaPaginaSeDiceYNadaSePierde) {
         {"Command6", "2lenguaje", reglasDeSuma, nombre},
         {"Command6", "mi lenguaje", reglasDeSuma, nombre},
         {"Command6", "C/C++", reglasDeSuma, nombre},
+        {"Command6", "Sub", reglasDeSuma,
+         "|El nombre del módulo no puede ser «Sub»: ha de ser un identificador que no sea palabra "
+         "reservada|0"},
         {"Command6", "Basic", reglasDeSuma, "directorio", true},
         {"Command6", "Basic", "A = ", "directorio\n" + alCompilar},
         {"Command6", "Basic", "A -> B;", "directorio\n" + sinRegla},
