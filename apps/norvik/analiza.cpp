@@ -24,7 +24,7 @@ void escribeArbol(const Arbol& raiz, FormatoArbol formato, Salida& salida) {
 int ejecuta(const Analiza& orden, Salida& salida) {
     const std::u16string texto = leeTextoDe(orden.texto);
     Anfitrion anfitrion(salida);
-    if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
+    if (!anfitrion.cargaLenguaje(orden.lenguaje, orden.metodo)) return anfitrion.estado();
     anfitrion.control.Text(texto);
     Norvik& control = anfitrion.control;
     if (control.ConstruyeArbolSintactico()) {

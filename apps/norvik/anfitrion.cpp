@@ -43,12 +43,13 @@ void Anfitrion::avisa(std::u16string_view mensaje) {
     salida_.avisa(mensaje);
 }
 
-bool Anfitrion::compila(const fs::path& fichero) {
+bool Anfitrion::compila(const fs::path& fichero, std::optional<Metodo> metodo) {
     const std::u16string especificacion = leeTextoDe(fichero);
     if (!control.CargaGramatica(especificacion)) {
         cuentaError(control.GetmensajeError(), control.GetDiagnostico(), fichero, especificacion);
         return false;
     }
+    if (metodo) control.Gramatica().ponMetodo(*metodo);
     return control.GeneraCompilador();
 }
 
@@ -58,8 +59,8 @@ bool Anfitrion::replica(const fs::path& modulo) {
     return !error;
 }
 
-bool Anfitrion::cargaLenguaje(const fs::path& fichero) {
-    return esModulo(fichero) ? replica(fichero) : compila(fichero);
+bool Anfitrion::cargaLenguaje(const fs::path& fichero, std::optional<Metodo> metodo) {
+    return esModulo(fichero) ? replica(fichero) : compila(fichero, metodo);
 }
 
 void Anfitrion::cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,

@@ -26,10 +26,10 @@ public:
     Norvik control;
 
     /// Compiles a language from a file's text, ready to parse. False when there is none to go on with; the
-    /// reason has been told.
-    bool compila(const std::filesystem::path& fichero);
+    /// reason has been told. A method wins over the one that the text asks for.
+    bool compila(const std::filesystem::path& fichero, std::optional<Metodo> metodo);
     /// The same of a file, which may be a loading module, by its ".bas" ending.
-    bool cargaLenguaje(const std::filesystem::path& fichero);
+    bool cargaLenguaje(const std::filesystem::path& fichero, std::optional<Metodo> metodo);
     /// Tells an error found in a file's text; a terminal is shown its place, too.
     void cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,
                      const std::filesystem::path& fichero, std::u16string_view texto);

@@ -33,7 +33,7 @@ std::string escribeTexto(const CajaTextoMemoria& caja, const Colorea& orden, con
 int ejecuta(const Colorea& orden, Salida& salida) {
     const std::u16string texto = leeTextoDe(orden.texto);
     Anfitrion anfitrion(salida);
-    if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
+    if (!anfitrion.cargaLenguaje(orden.lenguaje, orden.metodo)) return anfitrion.estado();
     anfitrion.control.Text(texto);
     anfitrion.control.Colorear(true);
     anfitrion.control.ColoreaTodo();

@@ -10,7 +10,7 @@ namespace norvik::orden {
 int ejecuta(const Informe& orden, Salida& salida) {
     compruebaCarpeta(orden.carpeta);
     Anfitrion anfitrion(salida);
-    if (!anfitrion.compila(orden.especificacion)) return anfitrion.estado();
+    if (!anfitrion.compila(orden.especificacion, orden.metodo)) return anfitrion.estado();
     const gramatica& gramatica = anfitrion.control.Gramatica();
     const std::u16string problemas = gramatica.textoProblemas();
     if (orden.carpeta == flujo) {

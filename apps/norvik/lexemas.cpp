@@ -69,7 +69,7 @@ Diagnostico diagnosticoDe(const Leido& leido, std::u16string_view texto) {
 int ejecuta(const Lexemas& orden, Salida& salida) {
     const std::u16string texto = leeTextoDe(orden.texto);
     Anfitrion anfitrion(salida);
-    if (!anfitrion.cargaLenguaje(orden.lenguaje)) return anfitrion.estado();
+    if (!anfitrion.cargaLenguaje(orden.lenguaje, orden.metodo)) return anfitrion.estado();
     anfitrion.control.Text(texto);
     const std::vector<Leido> leidos = leeTokens(anfitrion.control);
     switch (orden.formato) {

@@ -74,6 +74,7 @@ private:
         std::string segunda;
         std::optional<std::string> formato;
         std::optional<std::string> lenguaje;
+        std::optional<std::string> metodo;
         std::string carpeta = ".";
         std::vector<std::string> especificaciones;
         bool estricto = false;
@@ -84,6 +85,7 @@ private:
     Orden interpreta(const CLI::App& orden) const;
     static void compruebaOpciones(const CLI::App& orden);
     void comprueba(const CLI::App& orden) const;
+    std::optional<Metodo> metodo() const;
     Modulo modulo() const;
     Revisa revisa() const;
 
@@ -115,6 +117,7 @@ CLI::App* Linea::conAyuda(const char* nombre) {
     CLI::App* const orden = app_.add_subcommand(nombre);
     orden->set_help_flag();
     orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
+    orden->add_option("--metodo", palabras_.metodo)->take_last();
     return orden;
 }
 
@@ -133,7 +136,7 @@ Orden Linea::lee(int argc, const char* const* argv) {
     } catch (const CLI::ArgumentMismatch&) {
         const std::string_view ultima = argv[argc - 1];
         // An option takes the next word whatever it is, so that only the last one can lack its value.
-        if (ultima == "-o" || ultima == "--formato" || ultima == "--lenguaje")
+        if (ultima == "-o" || ultima == "--formato" || ultima == "--lenguaje" || ultima == "--metodo")
             throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
         throw LineaIncorrecta(u"--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
@@ -171,12 +174,21 @@ void Linea::comprueba(const CLI::App& orden) const {
         throw LineaIncorrecta(u"la entrada estándar («-») solo puede estar en lugar de un fichero");
 }
 
+std::optional<Metodo> Linea::metodo() const {
+    if (!palabras_.metodo) return std::nullopt;
+    if (const auto metodo = metodoLlamado(decodifica(*palabras_.metodo))) return metodo;
+    std::u16string lista;
+    for (const auto& [nombre, metodo] : metodos)
+        lista += (lista.empty() ? u"" : u", ") + std::u16string(nombre);
+    throw LineaIncorrecta(entreComillas(*palabras_.metodo) + u" no es un valor de --metodo (" + lista + u")");
+}
+
 Modulo Linea::modulo() const {
     const auto lenguaje = elige(lenguajesDeModulo, "--lenguaje", palabras_.lenguaje);
     const std::u16string nombre = decodifica(palabras_.segunda);
     if (!esNombreDeModulo(nombre, lenguaje))
         throw LineaIncorrecta(u"El nombre seleccionado para el lenguaje es incorrecto");
-    return Modulo{palabras_.primera, nombre, palabras_.carpeta, lenguaje};
+    return Modulo{palabras_.primera, nombre, palabras_.carpeta, lenguaje, metodo()};
 }
 
 Revisa Linea::revisa() const {
@@ -185,22 +197,23 @@ Revisa Linea::revisa() const {
         throw LineaIncorrecta(u"la entrada estándar («-») solo puede estar en lugar de un fichero");
     return {{especificaciones.begin(), especificaciones.end()},
             elige(formatosDeRevision, "--formato", palabras_.formato),
-            palabras_.estricto};
+            palabras_.estricto,
+            metodo()};
 }
 
 Orden Linea::interpreta(const CLI::App& orden) const {
     const std::string& nombre = orden.get_name();
     if (nombre == "analiza")
         return Analiza{palabras_.primera, palabras_.segunda,
-                       elige(formatosDeArbol, "--formato", palabras_.formato)};
+                       elige(formatosDeArbol, "--formato", palabras_.formato), metodo()};
     if (nombre == "lexemas")
         return Lexemas{palabras_.primera, palabras_.segunda,
-                       elige(formatosDeLexemas, "--formato", palabras_.formato)};
+                       elige(formatosDeLexemas, "--formato", palabras_.formato), metodo()};
     if (nombre == "colorea")
         return Colorea{palabras_.primera, palabras_.segunda,
-                       elige(formatosDeColor, "--formato", palabras_.formato)};
+                       elige(formatosDeColor, "--formato", palabras_.formato), metodo()};
     if (nombre == "revisa") return revisa();
-    if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta};
+    if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta, metodo()};
     return modulo();
 }
 

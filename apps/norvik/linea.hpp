@@ -1,9 +1,11 @@
 #pragma once
 
 #include "norvik/base/errores.hpp"
+#include "norvik/grammar/metodo.hpp"
 #include "norvik/report/nombreDeModulo.hpp"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -19,23 +21,27 @@ struct Analiza {
     std::filesystem::path lenguaje;
     std::filesystem::path texto;
     FormatoArbol formato = FormatoArbol::Dibujo;
+    std::optional<Metodo> metodo;
 };
 
 struct Lexemas {
     std::filesystem::path lenguaje;
     std::filesystem::path texto;
     FormatoLexemas formato = FormatoLexemas::Tabla;
+    std::optional<Metodo> metodo;
 };
 
 struct Colorea {
     std::filesystem::path lenguaje;
     std::filesystem::path texto;
     FormatoColor formato = FormatoColor::Terminal;
+    std::optional<Metodo> metodo;
 };
 
 struct Informe {
     std::filesystem::path especificacion;
     std::filesystem::path carpeta;
+    std::optional<Metodo> metodo;
 };
 
 struct Modulo {
@@ -43,6 +49,7 @@ struct Modulo {
     std::u16string nombre;
     std::filesystem::path carpeta;
     LenguajeModulo lenguaje = LenguajeModulo::Vb;
+    std::optional<Metodo> metodo;
 };
 
 enum class FormatoRevision { Texto, Json, Sarif };
@@ -51,6 +58,7 @@ struct Revisa {
     std::vector<std::filesystem::path> especificaciones;
     FormatoRevision formato = FormatoRevision::Texto;
     bool estricto = false; ///< a warning counts as an error
+    std::optional<Metodo> metodo;
 };
 
 /// Help or version: the text is the answer.

@@ -44,7 +44,7 @@ fs::path guarda(Norvik& control, const Modulo& orden) {
 int ejecuta(const Modulo& orden, Salida& salida) {
     compruebaCarpeta(orden.carpeta);
     Anfitrion anfitrion(salida);
-    if (!anfitrion.compila(orden.especificacion)) return anfitrion.estado();
+    if (!anfitrion.compila(orden.especificacion, orden.metodo)) return anfitrion.estado();
     if (orden.carpeta == flujo)
         escribe(anfitrion.control, orden, salida);
     else

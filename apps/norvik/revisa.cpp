@@ -25,7 +25,7 @@ int ejecuta(const Revisa& orden, Salida& salida) {
     std::vector<std::u16string> textos;
     for (const auto& especificacion : orden.especificaciones) {
         textos.push_back(leeTextoDe(especificacion));
-        revisados.push_back({nombreDeFichero(especificacion), revisa(textos.back())});
+        revisados.push_back({nombreDeFichero(especificacion), revisa(textos.back(), {orden.metodo})});
     }
     if (orden.formato == FormatoRevision::Sarif) escribeSarif(revisados, salida);
     bool hayGraves = false;

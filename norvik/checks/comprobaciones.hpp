@@ -2,6 +2,7 @@
 
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/checks/fuente.hpp"
+#include "norvik/grammar/metodo.hpp"
 
 #include <vector>
 
@@ -12,6 +13,6 @@ namespace norvik {
 void compruebaTokens(const Fuente& fuente, std::vector<Diagnostico>& hallazgos);
 /// Of rules: variables that nobody uses or reaches, or from which no text comes; heads, cycles, rules that
 /// stand twice.
-void compruebaReglas(const Fuente& fuente, std::vector<Diagnostico>& hallazgos);
+void compruebaReglas(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos);
 
 } // namespace norvik

@@ -26,8 +26,8 @@ bool esVariable(std::u16string_view nombre) {
 
 class Revisor {
 public:
-    Revisor(const Fuente& fuente, std::vector<Diagnostico>& hallazgos)
-        : fuente_(fuente), hallazgos_(hallazgos) {
+    Revisor(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos)
+        : fuente_(fuente), metodo_(metodo), hallazgos_(hallazgos) {
         for (const Regla& regla : fuente.reglas) reglasDe_[regla.cabeza.nombre].push_back(&regla);
     }
 
@@ -57,7 +57,8 @@ private:
         for (const Regla& regla : fuente_.reglas) {
             const std::u16string_view cabeza = regla.cabeza.nombre;
             if (cabeza != anterior && !anterior.empty()) cerradas.insert(anterior);
-            const bool dispersa = cabeza != anterior && cerradas.contains(cabeza);
+            const bool dispersa =
+                metodo_ == Metodo::Clasico && cabeza != anterior && cerradas.contains(cabeza);
             if (dispersa)
                 anota(Codigo::CabezaDispersa, regla.cabeza.lugar,
                       {regla.cabeza.nombre,
@@ -201,14 +202,15 @@ private:
     }
 
     const Fuente& fuente_;
+    Metodo metodo_;
     std::vector<Diagnostico>& hallazgos_;
     std::map<std::u16string_view, std::vector<const Regla*>> reglasDe_;
 };
 
 } // namespace
 
-void compruebaReglas(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
-    if (!fuente.reglas.empty()) Revisor(fuente, hallazgos).revisa();
+void compruebaReglas(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos) {
+    if (!fuente.reglas.empty()) Revisor(fuente, metodo, hallazgos).revisa();
 }
 
 } // namespace norvik

@@ -5,7 +5,7 @@
 #include "norvik/checks/fuente.hpp"
 #include "norvik/checks/nombreCercano.hpp"
 #include "norvik/spec/compiladorLenguaje.hpp"
-#include "norvik/spec/lenguaje.hpp"
+#include "norvik/spec/directivas.hpp"
 
 #include <algorithm>
 #include <string>
@@ -57,14 +57,16 @@ void completa(Diagnostico& diagnostico, const Fuente& fuente) {
 
 } // namespace
 
-std::vector<Diagnostico> revisa(std::u16string_view especificacion) {
+std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+    const Metodo metodo =
+        opciones.metodo.value_or(leeDirectivas(especificacion).metodo.value_or(Metodo::Clasico));
     const Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
     if (!analisis) return analisis.diagnosticos;
-    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis).diagnosticos;
+    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, metodo).diagnosticos;
     const Fuente fuente = fuenteDe(analisis);
     for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
     compruebaTokens(fuente, hallazgos);
-    compruebaReglas(fuente, hallazgos);
+    compruebaReglas(fuente, metodo, hallazgos);
     std::ranges::stable_sort(hallazgos, {},
                              [](const Diagnostico& d) { return d.rango.inicio.desplazamiento; });
     return hallazgos;

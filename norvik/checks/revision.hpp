@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/diagnostico.hpp"
+#include "norvik/spec/lenguaje.hpp"
 
 #include <string_view>
 #include <vector>
@@ -11,6 +12,6 @@ namespace norvik {
 /// compilarla, con el nombre que quizá se quiso escribir donde nadie conoce el escrito, y lo que no impide
 /// compilarla pero no hace lo que parece. Los rangos cuentan unidades UTF-16. Lanza `Desbordamiento` con un
 /// texto de 2^31 - 1 unidades o más.
-std::vector<Diagnostico> revisa(std::u16string_view especificacion);
+std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
 
 } // namespace norvik

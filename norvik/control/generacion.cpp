@@ -5,6 +5,7 @@
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
+#include "norvik/spec/directivas.hpp"
 
 #include <vector>
 
@@ -47,6 +48,7 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
         return Fallo{Fallo::Paso::Analisis, especificacion.GetmensajeError()};
     gramatica_.inicializaConjuntos();
     gramatica_.inicializaGramatica();
+    gramatica_.ponMetodo(leeDirectivas(especificacion.Text()).metodo.value_or(Metodo::Clasico));
     lexico_.Inicializa();
     // Nothing is shown while the other control's tree is walked: a receiver may parse with it.
     std::vector<Mensaje> mensajes;

@@ -10,6 +10,7 @@
 #include "norvik/control/generacion.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 
 #include <vector>
@@ -117,6 +118,7 @@ bool PartesControl::CargaGramatica(std::u16string_view codGramatica) {
     const Ocupado ocupado(sistema);
     if (!analizaEspecificacion(codGramatica)) return false;
     laGramatica.inicializaGramatica();
+    laGramatica.ponMetodo(leeDirectivas(codGramatica).metodo.value_or(Metodo::Clasico));
     lexico.Inicializa();
     std::vector<Mensaje> mensajes;
     SistemaMemoria callado([&](const Mensaje& mensaje) { mensajes.push_back(mensaje); });

@@ -4,6 +4,8 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/clasico/automata.hpp"
 #include "norvik/grammar/clasico/tabla.hpp"
+#include "norvik/grammar/exacto/automata.hpp"
+#include "norvik/grammar/exacto/tabla.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 
 #include <algorithm>
@@ -11,6 +13,23 @@
 
 // The prescribed operations on rules, automaton and table. gramaticaConjuntos.cpp has those on sets.
 namespace norvik {
+
+namespace {
+
+AutomataLR automataDe(const ReglasPartidas& reglas, Metodo metodo) {
+    switch (metodo) {
+    case Metodo::Clasico:
+        return clasico::creaAutomata(reglas);
+    case Metodo::Slr:
+    case Metodo::Lalr:
+        return exacto::creaAutomata(exacto::Producciones(reglas));
+    case Metodo::Lr1:
+        return exacto::creaAutomataLr1(exacto::Producciones(reglas));
+    }
+    return {};
+}
+
+} // namespace
 
 // Rules and symbols ----------------------------------------------------------------------------------------
 
@@ -22,6 +41,7 @@ void gramatica::inicializaGramatica() {
     valores_.reglas = Reglas();
     valores_.partidas = ReglasPartidas();
     valores_.tabla.ponInicial({});
+    metodo_ = Metodo::Clasico;
     inicializaConjuntos();
 }
 
@@ -29,12 +49,14 @@ void gramatica::copiaReglas(const gramatica& otra) {
     inicializaGramatica();
     valores_.reglas = otra.valores_.reglas;
     valores_.tabla.ponInicial(valores_.reglas.en(1).cabeza);
+    metodo_ = otra.metodo_;
     inicializaConjuntos();
 }
 
 void gramatica::intercambia(gramatica& otra) {
     std::swap(valores_, otra.valores_);
     std::swap(pendientes_, otra.pendientes_);
+    std::swap(metodo_, otra.metodo_);
     std::swap(numEstados_, otra.numEstados_);
     std::swap(conTextos_, otra.conTextos_);
     edicion_ = otra.edicion_ = std::max(edicion_, otra.edicion_) + 1;
@@ -96,7 +118,7 @@ void gramatica::creaAutomata() {
     valores_.automata = AutomataLR();
     numEstados_ = 0;
     try {
-        valores_.automata = clasico::creaAutomata(partidas());
+        valores_.automata = automataDe(partidas(), metodo_);
         numEstados_ = a16(valores_.automata.estados.size());
     } catch (...) {
         olvidaGenerado();
@@ -139,8 +161,11 @@ void gramatica::creaTablaSLR() {
     if (!partidas().hayInicial()) return;
     cambia();
     try {
-        valores_.tabla = clasico::creaTabla(valores_.partidas, valores_.conjuntos, valores_.automata,
-                                            valores_.tabla.simbolos());
+        valores_.tabla = metodo_ == Metodo::Clasico
+                             ? clasico::creaTabla(valores_.partidas, valores_.conjuntos, valores_.automata,
+                                                  valores_.tabla.simbolos())
+                             : exacto::creaTabla(exacto::Producciones(valores_.partidas), valores_.automata,
+                                                 metodo_, valores_.tabla.simbolos());
     } catch (...) {
         olvidaGenerado();
         throw;

@@ -6,6 +6,7 @@
 #include "norvik/grammar/conjunto.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
 #include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/metodo.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -41,6 +42,11 @@ public:
     gramatica(const gramatica&) = delete;
     gramatica& operator=(const gramatica&) = delete;
     ~gramatica() = default;
+
+    /// Con qué método se hacen conjuntos, autómata y tabla; no cambia los que ya estén hechos. El clásico,
+    /// mientras no se ponga otro; `inicializaGramatica` vuelve a él.
+    void ponMetodo(Metodo metodo) { metodo_ = metodo; }
+    Metodo metodo() const { return metodo_; }
 
     /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
     const GramaticaLR& valores() const { return valores_; }
@@ -266,6 +272,7 @@ private:
 
     GramaticaLR valores_; // `partidas` may lack the last rules
     clasico::Pendientes pendientes_;
+    Metodo metodo_ = Metodo::Clasico;
     std::int16_t numEstados_ = 0;
     std::uint64_t edicion_ = 0;
     // Made when they are first asked for: no table needs them. Several readers may be the first.

@@ -2,6 +2,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/clasico/siguientes.hpp"
+#include "norvik/grammar/exacto/conjuntos.hpp"
 #include "norvik/grammar/gramatica.hpp"
 
 #include <algorithm>
@@ -56,7 +57,12 @@ void gramatica::olvidaGenerado() {
 void gramatica::creaConjuntos() {
     inicializaConjuntos();
     try {
-        clasico::calculaConjuntos(valores_.partidas, valores_.conjuntos, pendientes_);
+        if (metodo_ == Metodo::Clasico) {
+            clasico::calculaConjuntos(valores_.partidas, valores_.conjuntos, pendientes_);
+        } else {
+            valores_.conjuntos = exacto::creaConjuntos(exacto::Producciones(valores_.partidas));
+            pendientes_ = clasico::Pendientes();
+        }
     } catch (...) {
         olvidaGenerado();
         throw;

@@ -1,5 +1,6 @@
 #include "norvik/grammar/reglasPartidas.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
 namespace norvik {
@@ -43,6 +44,15 @@ void ReglasPartidas::anotaCabeza(Simbolo cabeza, int regla, bool conVacia) {
     if (conVacia) datos.conVacia = true;
     if (datos.primera == 0) datos.primera = datos.fin = regla;
     if (datos.fin == regla) ++datos.fin;
+}
+
+void fallaVaciaSuelta(const ReglasPartidas& reglas, int regla) {
+    std::u16string texto(reglas.texto(reglas.cabeza(regla)));
+    texto += u" ->";
+    for (const Simbolo simbolo : reglas.cuerpo(regla)) texto.append(u" ").append(reglas.texto(simbolo));
+    throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: en la regla " + aTexto(regla) + u", " +
+                                    texto +
+                                    u", Ø está junto a otros símbolos y no tiene columna en la tabla");
 }
 
 } // namespace norvik

@@ -92,4 +92,8 @@ private:
     std::deque<std::u16string> textos_;
 };
 
+/// Raises the failure of a rule whose Ø stands beside other symbols: nothing can be read there, and it has no
+/// column.
+[[noreturn]] void fallaVaciaSuelta(const ReglasPartidas& reglas, int regla);
+
 } // namespace norvik

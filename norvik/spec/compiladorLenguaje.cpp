@@ -32,7 +32,9 @@ Lenguaje acaba(std::shared_ptr<DatosDeLenguaje> datos) {
 
 class CompiladorLenguaje {
 public:
-    explicit CompiladorLenguaje(NodoEspecificacion raiz) : raiz_(raiz) {}
+    CompiladorLenguaje(NodoEspecificacion raiz, Metodo metodo) : raiz_(raiz) {
+        datos_->reglas.ponMetodo(metodo);
+    }
 
     Compilacion compila() {
         const bool completo = registra();
@@ -253,9 +255,9 @@ const Lenguaje& lenguajeDeEspecificaciones() {
     return lenguaje;
 }
 
-Compilacion compilaEspecificacion(const Analisis& especificacion) {
+Compilacion compilaEspecificacion(const Analisis& especificacion, Metodo metodo) {
     if (!especificacion) return {std::nullopt, especificacion.diagnosticos};
-    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz())).compila();
+    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), metodo).compila();
 }
 
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {

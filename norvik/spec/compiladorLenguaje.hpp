@@ -14,7 +14,7 @@ class CargadorLenguaje;
 const Lenguaje& lenguajeDeEspecificaciones();
 
 /// Makes the language that a specification describes, of the analysis of its text.
-Compilacion compilaEspecificacion(const Analisis& especificacion);
+Compilacion compilaEspecificacion(const Analisis& especificacion, Metodo metodo);
 
 /// Makes a language of the calls of a loading module.
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica);

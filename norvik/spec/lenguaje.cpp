@@ -8,6 +8,7 @@
 #include "norvik/spec/compiladorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/datosLenguaje.hpp"
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <limits>
@@ -43,6 +44,10 @@ Diagnostico utf8Incorrecto(std::string_view bytes) {
     return {Codigo::Utf8Incorrecto, Gravedad::Error, {inicio, fin}, {}};
 }
 
+Metodo metodoDe(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+    return opciones.metodo.value_or(leeDirectivas(especificacion).metodo.value_or(Metodo::Clasico));
+}
+
 std::unique_ptr<TextoAnalizado> prepara(const Lenguaje& lenguaje, std::u16string texto,
                                         Lugares::Unidad unidad) {
     return std::make_unique<TextoAnalizado>(lenguaje.datos().vocabulario(), std::move(texto), unidad);
@@ -60,20 +65,23 @@ bool Lenguaje::tieneGramatica() const {
     return !vocabulario().reglas.empty();
 }
 
-Compilacion Lenguaje::compila(std::u16string_view especificacion) {
-    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacion));
+Compilacion Lenguaje::compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacion),
+                                 metodoDe(especificacion, opciones));
 }
 
-Compilacion Lenguaje::compila(std::string_view especificacionUtf8) {
-    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacionUtf8));
+Compilacion Lenguaje::compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones) {
+    const std::u16string especificacion = desdeUtf8(especificacionUtf8).value_or(std::u16string());
+    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacionUtf8),
+                                 metodoDe(especificacion, opciones));
 }
 
 Compilacion Lenguaje::cargaModulo(std::u16string_view modulo) {
     return lenguajeDeModulo([&](CargadorLenguaje& cargador) { return CargaModulo(modulo, cargador); });
 }
 
-Compilacion Lenguaje::deFichero(const std::filesystem::path& fichero) {
-    if (!esModulo(fichero)) return compila(leeTexto(fichero));
+Compilacion Lenguaje::deFichero(const std::filesystem::path& fichero, const OpcionesCompilacion& opciones) {
+    if (!esModulo(fichero)) return compila(leeTexto(fichero), opciones);
     return lenguajeDeModulo([&](CargadorLenguaje& cargador) {
         TextoPorTrozos texto(fichero);
         return CargaModulo([&] { return texto.siguiente(); }, cargador);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "norvik/base/diagnostico.hpp"
+#include "norvik/grammar/metodo.hpp"
 #include "norvik/parser/analisis.hpp"
 #include "norvik/parser/lexemas.hpp"
 #include "norvik/parser/vocabulario.hpp"
@@ -17,6 +18,12 @@ class DatosDeLenguaje;
 struct Compilacion;
 struct DatosLenguaje;
 
+struct OpcionesCompilacion {
+    /// Cómo se hace la tabla; lo que diga la especificación en una línea «'% metodo: lalr», si no dice nada
+    /// aquí.
+    std::optional<Metodo> metodo;
+};
+
 /// Un lenguaje listo para usar: sus tokens, sus reglas y su tabla. No cambia nunca y copiarlo cuesta poco
 /// (las copias lo comparten); con uno pueden analizar a la vez cuantos hilos se quiera. Lo hacen las
 /// funciones de aquí, que no tocan ningún otro lenguaje: lo que esté mal en el texto que reciben lo dicen los
@@ -25,14 +32,15 @@ class Lenguaje {
 public:
     /// Compila una especificación. Los rangos de los diagnósticos cuentan unidades UTF-16; los de una en
     /// UTF-8, bytes.
-    static Compilacion compila(std::u16string_view especificacion);
-    static Compilacion compila(std::string_view especificacionUtf8);
+    static Compilacion compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
+    static Compilacion compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones = {});
     /// Toma un lenguaje del texto de un módulo de carga («NOMBRE.bas»), con los finales de línea de su
     /// fichero.
     static Compilacion cargaModulo(std::u16string_view modulo);
     /// Un fichero con una especificación o, cuando acaba en «.bas», con un módulo de carga; los rangos
     /// cuentan unidades UTF-16 del texto que da `leeTexto`. Lanza `ErrorDeFichero`.
-    static Compilacion deFichero(const std::filesystem::path& fichero);
+    static Compilacion deFichero(const std::filesystem::path& fichero,
+                                 const OpcionesCompilacion& opciones = {});
     /// Hace un lenguaje de los datos de una cabecera generada, que no conserva. Lanza `ArgumentoNoValido` con
     /// datos que no salen de ningún lenguaje.
     static Lenguaje de(const DatosLenguaje& datos);

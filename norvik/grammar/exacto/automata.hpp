@@ -1,0 +1,16 @@
+#pragma once
+
+#include "norvik/grammar/automataLR.hpp"
+#include "norvik/grammar/exacto/producciones.hpp"
+
+namespace norvik::exacto {
+
+/// The canonical LR(0) automaton, empty without rules. State 1 is where the start symbol leads from state 0,
+/// and no other state is it. Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at
+/// a state's item 1001.
+AutomataLR creaAutomata(const Producciones& producciones);
+
+/// An LR(1) automaton whose states are merged wherever that keeps it free of new conflicts; raises the same.
+AutomataLR creaAutomataLr1(const Producciones& producciones);
+
+} // namespace norvik::exacto

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "norvik/grammar/exacto/producciones.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/metodo.hpp"
+
+namespace norvik::exacto {
+
+/// The table of an automaton of this method, empty without rules; columns of other symbols may precede those
+/// of the grammar. A shift stays before a reduction, of two reductions that of the earlier rule; what is kept
+/// out of a cell is kept as a conflict.
+TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, Metodo metodo,
+                  SimbolosTabla otros = {});
+
+} // namespace norvik::exacto

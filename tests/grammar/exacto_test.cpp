@@ -1,0 +1,320 @@
+// The exact methods against slow constructions that share nothing with them: Earley's recogniser, and the
+// canonical LR(1) automaton of the textbook.
+#include "apoyo/earley.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+using namespace norvik;
+
+namespace {
+
+using Frase = std::vector<std::u16string>;
+
+// «S -> a S | Ø; B -> b»
+void pon(gramatica& g, std::u16string_view texto, Metodo metodo) {
+    g.ponMetodo(metodo);
+    for (std::u16string_view resto = texto; !resto.empty();) {
+        const std::u16string_view regla = resto.substr(0, resto.find(u';'));
+        resto = resto.substr(std::min(regla.size() + 1, resto.size()));
+        const std::size_t flecha = regla.find(u"->");
+        g.SetRegla(recorta(regla.substr(0, flecha)), recorta(regla.substr(flecha + 2)));
+    }
+    g.creaConjuntos();
+    g.creaAutomata();
+    g.creaTablaSLR();
+}
+
+// What a table says of a sentence, driven as a parser does; nothing when it never stops.
+std::optional<bool> acepta(const gramatica& g, Frase frase) {
+    frase.emplace_back(u"EOF");
+    std::vector<std::int16_t> pila{0};
+    std::size_t i = 0;
+    for (int pasos = 0; pasos < 2000; ++pasos) {
+        const std::int16_t columna = g.GetCodigoToken(frase[i]);
+        const std::int16_t accion =
+            columna < 0 ? std::int16_t{0} : g.GetElementoTablaSLR(pila.back(), columna);
+        if (accion == 0) return false;
+        if (accion == TablaLR::aceptar) return true;
+        if (accion > 0) {
+            pila.push_back(accion);
+            ++i;
+            continue;
+        }
+        const auto regla = static_cast<std::int16_t>(-accion);
+        pila.resize(pila.size() - static_cast<std::size_t>(g.GetNumElementosRegla(regla)));
+        pila.push_back(g.GetElementoTablaSLR(pila.back(), g.GetCodigoVariable(regla)));
+        if (pila.back() == 0) return false;
+    }
+    return std::nullopt;
+}
+
+bool hayConflictos(const gramatica& g) {
+    return !g.valores().tabla.conflictos().empty();
+}
+
+// Without that the textbook's items may have no look-ahead at all, and stand in no conflict.
+bool todasDanTextos(const gramatica& g) {
+    std::set<std::u16string> dan;
+    for (bool crece = true; crece;) {
+        crece = false;
+        for (const Regla& regla : g.valores().reglas) {
+            bool da = true;
+            paraCadaSimbolo(regla.cuerpo, [&](std::u16string_view simbolo) {
+                da = da && (!esMayusculaAZ(simbolo.front()) || dan.contains(std::u16string(simbolo)));
+            });
+            crece = (da && dan.insert(regla.cabeza).second) || crece;
+        }
+    }
+    return std::ranges::all_of(g.valores().reglas,
+                               [&](const Regla& regla) { return dan.contains(regla.cabeza); });
+}
+
+// All sentences of some tokens up to a length.
+std::vector<Frase> frases(const std::vector<std::u16string>& tokens, std::size_t largo) {
+    std::vector<Frase> todas{{}};
+    for (std::size_t i = 0; i < todas.size(); ++i) {
+        if (todas[i].size() == largo) break;
+        for (const auto& token : tokens) {
+            todas.push_back(todas[i]);
+            todas.back().push_back(token);
+        }
+    }
+    return todas;
+}
+
+std::string enUtf8(const Frase& frase) {
+    std::string texto;
+    for (const auto& token : frase) texto += aUtf8(token) + " ";
+    return texto;
+}
+
+// The canonical LR(1) automaton, item by item: whether it has a conflict.
+class CanonicoLr1 {
+public:
+    explicit CanonicoLr1(const Reglas& reglas) : reglas_(reglas) {
+        for (const Regla& regla : reglas) cabezas_.insert(regla.cabeza);
+    }
+
+    bool tieneConflictos() {
+        std::set<Estado> vistos;
+        std::vector<Estado> pendientes{cierra({{0, 0, u"$"}})};
+        vistos.insert(pendientes.front());
+        while (!pendientes.empty()) {
+            const Estado estado = pendientes.back();
+            pendientes.pop_back();
+            std::map<std::u16string, Estado> destinos;
+            std::map<std::u16string, int> reducen;
+            for (const auto& [r, punto, adelanto] : estado) {
+                const auto cuerpo = cuerpoDe(r);
+                if (punto == cuerpo.size())
+                    ++reducen[adelanto];
+                else
+                    destinos[cuerpo[punto]].insert({r, punto + 1, adelanto});
+            }
+            for (const auto& [token, cuantas] : reducen)
+                if (cuantas > 1 || destinos.contains(token)) return true;
+            for (const auto& [simbolo, nucleo] : destinos)
+                if (const Estado otro = cierra(nucleo); vistos.insert(otro).second)
+                    pendientes.push_back(otro);
+        }
+        return false;
+    }
+
+private:
+    using Item = std::tuple<std::size_t, std::size_t, std::u16string>; // rule (0: of the start), dot, token
+    using Estado = std::set<Item>;
+
+    std::vector<std::u16string> cuerpoDe(std::size_t r) const {
+        if (r == 0) return {reglas_.en(1).cabeza};
+        std::vector<std::u16string> cuerpo;
+        paraCadaSimbolo(reglas_.en(static_cast<int>(r)).cuerpo, [&](std::u16string_view simbolo) {
+            if (simbolo != cadenaVacia) cuerpo.emplace_back(simbolo);
+        });
+        return cuerpo;
+    }
+    // Ø among them when the string can be empty.
+    std::set<std::u16string> primeros(const std::vector<std::u16string>& cadena) {
+        std::set<std::u16string> conjunto{u"Ø"};
+        for (const auto& simbolo : cadena) {
+            if (!conjunto.erase(u"Ø")) break;
+            if (!cabezas_.contains(simbolo)) {
+                conjunto.insert(simbolo);
+                continue;
+            }
+            conjunto.insert(deCabeza(simbolo).begin(), deCabeza(simbolo).end());
+        }
+        return conjunto;
+    }
+    const std::set<std::u16string>& deCabeza(const std::u16string& cabeza) {
+        if (primeros_.empty())
+            for (std::size_t antes = 1, ahora = 0; antes != ahora;) {
+                antes = ahora;
+                ahora = 0;
+                for (const auto& una : cabezas_) primeros_[una];
+                for (int r = 1; r <= reglas_.total(); ++r) {
+                    const auto suyos = primeros(cuerpoDe(static_cast<std::size_t>(r)));
+                    primeros_[reglas_.en(r).cabeza].insert(suyos.begin(), suyos.end());
+                }
+                for (const auto& [una, conjunto] : primeros_) ahora += conjunto.size();
+            }
+        return primeros_[cabeza];
+    }
+    Estado cierra(Estado estado) {
+        std::vector<Item> pendientes(estado.begin(), estado.end());
+        while (!pendientes.empty()) {
+            const auto [r, punto, adelanto] = pendientes.back();
+            pendientes.pop_back();
+            const auto cuerpo = cuerpoDe(r);
+            if (punto == cuerpo.size() || !cabezas_.contains(cuerpo[punto])) continue;
+            std::vector<std::u16string> resto(cuerpo.begin() + static_cast<std::ptrdiff_t>(punto) + 1,
+                                              cuerpo.end());
+            resto.push_back(adelanto);
+            for (const auto& token : primeros(resto))
+                for (int otra = 1; otra <= reglas_.total(); ++otra)
+                    if (reglas_.en(otra).cabeza == cuerpo[punto])
+                        if (const Item item{static_cast<std::size_t>(otra), 0, token};
+                            estado.insert(item).second)
+                            pendientes.push_back(item);
+        }
+        return estado;
+    }
+
+    const Reglas& reglas_;
+    std::set<std::u16string> cabezas_;
+    std::map<std::u16string, std::set<std::u16string>> primeros_;
+};
+
+std::u16string gramaticaAlAzar(std::mt19937& azar) {
+    const auto hasta = [&](unsigned n) { return static_cast<unsigned>(azar() % n); };
+    const std::u16string_view simbolos[] = {u"a", u"b", u"c", u"S", u"A", u"B"};
+    std::u16string texto;
+    const unsigned cabezas = 1 + hasta(3);
+    for (unsigned v = 0; v < cabezas; ++v) {
+        texto += std::u16string(simbolos[3 + v]) + u" -> ";
+        for (unsigned alternativas = 1 + hasta(3), i = 0; i < alternativas; ++i) {
+            texto += i == 0 ? u"" : u" | ";
+            const unsigned largo = hasta(4);
+            for (unsigned j = 0; j < largo; ++j) texto += std::u16string(simbolos[hasta(3 + cabezas)]) + u" ";
+            if (largo == 0) texto += u"Ø";
+        }
+        texto += u";";
+    }
+    return texto;
+}
+
+TEST(MetodosExactos, SinConflictosAceptanLoQueLaGramaticaTieneYNadaMas) {
+    std::mt19937 azar(14);
+    const std::vector<Frase> todas = frases({u"a", u"b", u"c"}, 4);
+    int sinConflictos = 0;
+    for (int i = 0; i < 1500; ++i) {
+        const std::u16string texto = gramaticaAlAzar(azar);
+        for (const auto& [nombre, metodo] : metodos) {
+            if (metodo == Metodo::Clasico) continue;
+            gramatica g;
+            pon(g, texto, metodo);
+            if (metodo == Metodo::Lr1 && todasDanTextos(g)) {
+                ASSERT_EQ(hayConflictos(g), CanonicoLr1(g.valores().reglas).tieneConflictos())
+                    << aUtf8(texto);
+            }
+            if (hayConflictos(g)) continue;
+            ++sinConflictos;
+            for (const Frase& frase : todas)
+                ASSERT_EQ(acepta(g, frase), apoyo::deriva(g.valores().reglas, frase))
+                    << aUtf8(nombre) << ": " << aUtf8(texto) << " / " << enUtf8(frase);
+        }
+    }
+    EXPECT_GT(sinConflictos, 500);
+}
+
+// The grammars that each method is known by (Aho, Sethi and Ullman 1986; Pager 1977).
+TEST(MetodosExactos, CadaUnoLlegaDondeSeSabe) {
+    const std::tuple<std::u16string, std::string> casos[] = {
+        {u"S -> A a | b; A -> A c | S d | Ø", "clasico - slr - lalr - lr1 -"},
+        {u"S -> L ig R | R; L -> por R | id; R -> L", "slr S lalr - lr1 -"},
+        {u"S -> a A d | b B d | a B e | b A e; A -> c; B -> c", "slr S lalr S lr1 -"},
+        {u"S -> si c S | si c S no S | a", "slr S lalr S lr1 S"},
+        {u"E -> E mas E | E por E | num", "slr S lalr S lr1 S"},
+        {u"S -> a; S -> b S", "slr - lalr - lr1 -"},
+        {u"S -> B; B -> a; S -> b", "slr - lalr - lr1 -"}, // rules apart
+        {u"S -> S", "slr S lalr S lr1 S"},
+    };
+    for (const auto& [texto, esperado] : casos) {
+        std::string dicho;
+        for (const auto& [nombre, metodo] : metodos) {
+            if (esperado.find(aUtf8(nombre)) == std::string::npos) continue;
+            gramatica g;
+            pon(g, texto, metodo);
+            dicho += (dicho.empty() ? "" : " ") + aUtf8(nombre) + (hayConflictos(g) ? " S" : " -");
+        }
+        EXPECT_EQ(dicho, esperado) << aUtf8(texto);
+    }
+}
+
+TEST(MetodosExactos, ConjuntosAutomataYTablaEnTexto) {
+    gramatica g;
+    pon(g, u"S -> L ig R | R; L -> por R | id; R -> L", Metodo::Lalr);
+    EXPECT_EQ(aUtf8(enTexto(g.valores().conjuntos, g.valores().partidas)),
+              "PRIMEROS S{por, id} L{por, id} R{por, id}\nSIGUIENTES S{$} L{$, ig} R{$, ig}\n"
+              "PREDICT S{por, id} S{por, id} L{por} L{id} R{por, id}\n");
+    EXPECT_EQ(g.GetDimensionFilasSLR(), 10);
+    EXPECT_EQ(acepta(g, {u"por", u"id", u"ig", u"id"}), true);
+    gramatica d;
+    pon(d, u"S -> si c S | si c S no S | a", Metodo::Lr1);
+    ASSERT_EQ(d.valores().tabla.conflictos().size(), 1U);
+    EXPECT_EQ(acepta(d, {u"si", u"c", u"si", u"c", u"a", u"no", u"a"}), true);
+}
+
+TEST(MetodosExactos, EscalerasYGramaticasSinFondoAcaban) {
+    std::u16string escala;
+    for (int i = 0; i < 80; ++i)
+        escala += u"V" + aTexto(i) + u" -> V" + aTexto(i + 1) + u" op" + aTexto(i) + u" V" + aTexto(i) +
+                  u" | V" + aTexto(i + 1) + u";";
+    escala += u"V80 -> num | pa V0 pc";
+    std::u16string larga;
+    for (int i = 0; i < 900; ++i) larga += (i == 0 ? u"" : u"; ") + (u"S -> p" + aTexto(i)) + u" S";
+    for (const auto& texto : {escala, larga, std::u16string(u"S -> S"), std::u16string(u"S -> Ø"),
+                              std::u16string(u"S -> A; A -> S | Ø"), std::u16string(u"S -> S S | a | Ø")})
+        for (const auto& [nombre, metodo] : metodos) {
+            if (metodo == Metodo::Clasico) continue;
+            gramatica g;
+            try {
+                pon(g, texto, metodo);
+                EXPECT_GT(g.GetDimensionFilasSLR(), 1);
+            } catch (const Desbordamiento&) {
+                EXPECT_EQ(g.GetDimensionFilasSLR(), 0);
+            }
+        }
+}
+
+// A language of any method is as any other: its module and its trees.
+TEST(MetodosExactos, LaDirectivaYLaOpcionLosEligen) {
+    const std::u16string especificacion =
+        u"Token a = \"a\"; Token b = \"b\"; Token c = \"c\"; Token d = \"d\";\n"
+        u"S -> A a | b; A -> A c | S d | Ø;";
+    const auto lee = [](const Compilacion& compilacion) {
+        return static_cast<bool>(analiza(compilacion.lenguaje.value(), u"bda"));
+    };
+    EXPECT_FALSE(lee(Lenguaje::compila(especificacion)));
+    EXPECT_TRUE(lee(Lenguaje::compila(especificacion, {Metodo::Lalr})));
+    const std::pair<std::u16string, bool> directivas[] = {
+        {u"'% metodo: lalr\n", true},   {u"' nota\r\n\r\n'% metodo: lr1\r\n", true},
+        {u"'% metodo: slr\n", true},    {u"'% metodo: clasico\n", false},
+        {u" '% metodo: lalr\n", false}, {u"'%% metodo: lalr\n", false},
+        {u"'% metodo: lalr.\n", false}, {u"Token e = \"e\";\n'% metodo: lalr\n", false}};
+    for (const auto& [directiva, esLalr] : directivas)
+        EXPECT_EQ(lee(Lenguaje::compila(directiva + especificacion)), esLalr) << aUtf8(directiva);
+    EXPECT_FALSE(lee(Lenguaje::compila(u"'% metodo: lalr\n" + especificacion, {Metodo::Clasico})));
+}
+
+} // namespace
