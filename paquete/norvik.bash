@@ -16,7 +16,7 @@ _norvik_cuenta() {
     local i n=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-            --formato | --lenguaje | -o) ((i++)) ;;
+            --formato | --lenguaje | --metodo | -o) ((i++)) ;;
             -?*) ;;
             *) ((n++)) ;;
         esac
@@ -36,14 +36,15 @@ _norvik() {
         lexemas:--formato) _norvik_palabras "$palabra" "tabla json"; return ;;
         colorea:--formato) _norvik_palabras "$palabra" "ansi html"; return ;;
         revisa:--formato) _norvik_palabras "$palabra" "texto json sarif"; return ;;
+        *:--metodo) _norvik_palabras "$palabra" "clasico slr lalr lr1"; return ;;
         modulo:--lenguaje) _norvik_palabras "$palabra" "vb cpp"; return ;;
         *:-o) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -d -- "$palabra"); return ;;
     esac
     case $orden:$palabra in
-        modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --help" ;;
-        revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --help" ;;
-        informe:-*) _norvik_palabras "$palabra" "-o --help" ;;
-        *:-*) _norvik_palabras "$palabra" "--formato --help" ;;
+        modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --metodo --help" ;;
+        revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --metodo --help" ;;
+        informe:-*) _norvik_palabras "$palabra" "-o --metodo --help" ;;
+        *:-*) _norvik_palabras "$palabra" "--formato --metodo --help" ;;
         *)
             case $orden:$(_norvik_cuenta) in
                 informe:0 | modulo:0 | revisa:*) _norvik_ficheros "$palabra" nvk ;;

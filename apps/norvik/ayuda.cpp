@@ -32,6 +32,8 @@ Uso:
   modulo    escribe el módulo que carga un lenguaje ya compilado
   revisa    dice lo que está mal o llama la atención en especificaciones
 
+Donde se compila una especificación, --metodo clasico|slr|lalr|lr1 elige cómo se hace la
+tabla; si no, lo elige su línea «'% metodo: lalr», o es el clásico.
 LENGUAJE es la especificación de un lenguaje (por costumbre, NOMBRE.nvk) o un módulo
 de carga (NOMBRE.bas) escrito por «norvik modulo».
 «-» en lugar de un fichero es la entrada estándar.
@@ -57,6 +59,7 @@ Opciones:
   --formato lineas   un objeto JSON por nodo y línea, en preorden
                      Con los dos últimos, un texto incorrecto da en la salida
                      una línea de JSON, {"diagnosticos":[…]}.
+  --metodo M         clasico, slr, lalr o lr1: cómo se hace la tabla
   --help             muestra esta ayuda
 )"},
     Ayuda{"lexemas", R"(Uso: norvik lexemas LENGUAJE TEXTO [--formato tabla|json]
@@ -71,6 +74,7 @@ ante un carácter que no empieza ningún token.
 Opciones:
   --formato tabla    una tabla (por omisión)
   --formato json     un objeto JSON por línea
+  --metodo M         clasico, slr, lalr o lr1: cómo se hace la tabla
   --help             muestra esta ayuda
 )"},
     Ayuda{"colorea", R"(Uso: norvik colorea LENGUAJE TEXTO [--formato ansi|html]
@@ -84,6 +88,7 @@ Muestra TEXTO con los colores de sus tokens.
 Opciones:
   --formato ansi     secuencias de color de terminal, siempre
   --formato html     una página HTML completa
+  --metodo M         clasico, slr, lalr o lr1: cómo se hace la tabla
   --help             muestra esta ayuda
 
 Sin --formato, los colores de terminal solo se emiten cuando la salida es un terminal.
@@ -97,6 +102,7 @@ Escribe informeGramatica.txt (conjuntos, autómata y tabla SLR) y muestra los co
 Opciones:
   -o CARPETA   carpeta, que debe existir (por omisión, la actual);
                «-» escribe el informe en la salida estándar
+  --metodo M   clasico, slr, lalr o lr1: cómo se hace la tabla
   --help       muestra esta ayuda
 )"},
     Ayuda{"modulo", R"(Uso: norvik modulo ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
@@ -113,6 +119,7 @@ Opciones:
   --lenguaje cpp   NOMBRE.hpp: el lenguaje como constantes de C++, los números de
                    sus tokens, variables y reglas con nombre, y dos funciones,
                    CargaLenguaje(control) y lenguaje()
+  --metodo M       clasico, slr, lalr o lr1: cómo se hace la tabla
   --help           muestra esta ayuda
 )"},
     Ayuda{"revisa", R"(Uso: norvik revisa ESPECIFICACION... [--formato texto|json|sarif] [--estricto]
@@ -128,6 +135,7 @@ Opciones:
   --formato json    un objeto JSON por línea
   --formato sarif   un documento SARIF 2.1.0
   --estricto        un aviso cuenta como un error
+  --metodo M        clasico, slr, lalr o lr1: cómo se hace la tabla
   --help            muestra esta ayuda
 
 El estado de salida es 0 si no hay errores y 1 si los hay.
