@@ -63,7 +63,8 @@ bool hayConflictos(const gramatica& g) {
     return !g.valores().tabla.conflictos().empty();
 }
 
-// Without that the textbook's items may have no look-ahead at all, and stand in no conflict.
+// Without that the textbook's items may have no look-ahead at all and stand in no conflict, and a parse may
+// reduce nothing for ever (S -> A S A; A -> Ø).
 bool todasDanTextos(const gramatica& g) {
     std::set<std::u16string> dan;
     for (bool crece = true; crece;) {
@@ -223,14 +224,16 @@ TEST(MetodosExactos, SinConflictosAceptanLoQueLaGramaticaTieneYNadaMas) {
             if (metodo == Metodo::Clasico) continue;
             gramatica g;
             pon(g, texto, metodo);
-            if (metodo == Metodo::Lr1 && todasDanTextos(g)) {
+            const bool reducida = todasDanTextos(g);
+            if (metodo == Metodo::Lr1 && reducida) {
                 ASSERT_EQ(hayConflictos(g), CanonicoLr1(g.valores().reglas).tieneConflictos())
                     << aUtf8(texto);
             }
             if (hayConflictos(g)) continue;
             ++sinConflictos;
             for (const Frase& frase : todas)
-                ASSERT_EQ(acepta(g, frase), apoyo::deriva(g.valores().reglas, frase))
+                ASSERT_EQ(reducida ? acepta(g, frase) : acepta(g, frase).value_or(false),
+                          apoyo::deriva(g.valores().reglas, frase))
                     << aUtf8(nombre) << ": " << aUtf8(texto) << " / " << enUtf8(frase);
         }
     }
