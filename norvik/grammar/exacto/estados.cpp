@@ -33,7 +33,7 @@ std::vector<std::int16_t> cierre(const Producciones& producciones, const std::ve
         reglas.insert(reglas.end(), suyas.begin(), suyas.end());
     };
     for (const Item item : nucleo) abre(item);
-    for (std::size_t i = 0; i < reglas.size(); ++i) abre({reglas[i], 0});
+    for (std::size_t i = 0; i < reglas.size();) abre({reglas[i++], 0}); // they grow meanwhile
     return reglas;
 }
 
