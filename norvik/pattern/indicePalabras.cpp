@@ -7,7 +7,8 @@
 // the number of words, and no comparison is longer than the longest of them; nearly all are decided by four
 // characters, which are compared as one number. A word that ignores case
 // stands in the bucket of each form of its first character. Each word keeps the end of its last occurrence,
-// so that its occurrences do not overlap, exactly as if it had been searched alone.
+// so that its occurrences do not overlap, exactly as if it had been searched alone. A bucket that has
+// nothing but an operator of one character, as most operators are, needs none of this.
 #include "norvik/pattern/indicePalabras.hpp"
 
 #include "norvik/pattern/mayusculas.hpp"
@@ -81,6 +82,7 @@ void IndicePalabras::ordena() {
     palabras_.erase(std::unique(palabras_.begin(), palabras_.end(), iguales), palabras_.end());
     enlaza();
     for (std::uint32_t i = 0; i < palabras_.size(); ++i) reparte(i);
+    buscaSignos();
 }
 
 void IndicePalabras::enlaza() {
@@ -104,6 +106,16 @@ void IndicePalabras::reparte(std::uint32_t i) {
     }
 }
 
+void IndicePalabras::buscaSignos() {
+    for (Cubo& cubo : cubos_) {
+        if (cubo.entradas.size() != 1) continue;
+        const Palabra& palabra = palabras_[cubo.entradas.front().palabra];
+        if (palabra.plegada.size() != 1 || !equivalentes(palabra.plegada.front()).empty()) continue;
+        cubo.signo = palabra.patron;
+        cubo.caracter = palabra.plegada.front();
+    }
+}
+
 void IndicePalabras::busca(std::u16string_view texto, Gasto& gasto, MapaCoincidencias& mapa) {
     for (Palabra& palabra : palabras_) palabra.libre = 0;
     if (palabras_.empty()) return;
@@ -112,7 +124,11 @@ void IndicePalabras::busca(std::u16string_view texto, Gasto& gasto, MapaCoincide
         const std::size_t hasta = std::min(texto.size(), desde + tramo);
         for (std::size_t i = desde; i < hasta; ++i) {
             const Cubo& cubo = cubos_[texto[i] % 256U];
-            if ((cubo.segundos & mascara(plegadaEn(texto, i + 1))) != 0) prueba(cubo, texto, i, mapa);
+            if ((cubo.segundos & mascara(plegadaEn(texto, i + 1))) == 0) continue;
+            if (cubo.signo < 0)
+                prueba(cubo, texto, i, mapa);
+            else if (texto[i] == cubo.caracter)
+                mapa.guarda(i, cubo.signo, 1);
         }
     }
 }

@@ -46,10 +46,13 @@ private:
     struct Cubo {
         std::uint64_t segundos = 0;    ///< the low six bits of second characters, all for a word of one
         std::vector<Entrada> entradas; ///< in order
+        std::int32_t signo = -1; ///< the pattern when all it has is a word of one character without case …
+        char16_t caracter = 0;   ///< … this one
     };
 
     void enlaza();
     void reparte(std::uint32_t palabra);
+    void buscaSignos();
     std::uint32_t candidata(const Cubo& cubo, std::uint64_t clave, std::u16string_view resto) const;
     std::uint32_t candidataEntre(std::span<const Entrada> iguales, std::u16string_view resto) const;
     void prueba(const Cubo& cubo, std::u16string_view texto, std::size_t posicion, MapaCoincidencias& mapa);
