@@ -97,7 +97,10 @@ void VentanaPrincipal::conectaEdicion() {
         conControl(accion, [orden](ControlNorvik& n) {
             n.caja().atiende([&] { orden(n); }); // what a key came to is told as it is at other keys
         });
-        connect(&accion, &QAction::triggered, this, &VentanaPrincipal::actualizaHistorial);
+        connect(&accion, &QAction::triggered, this, [this] { // nobody tells of these changes
+            actualizaHistorial();
+            actualizaLugar();
+        });
     };
     enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
     enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });

@@ -65,6 +65,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     EXPECT_EQ(apoyo::bytesDe(carpeta / "uno.txt"), "xa\r\nb\r\n");
     escribe("y");
     ordena(a.deshacer);
+    EXPECT_EQ(ventana.findChild<QStatusBar*>()->findChildren<QLabel*>().last()->text(), "Línea 1, Columna 2");
     EXPECT_TRUE(a.rehacer.isEnabled());
     EXPECT_EQ(norvik().control().Text(), u"xa\r\nb");
     dialogos.ficheros = {ruta("dos.txt")};
