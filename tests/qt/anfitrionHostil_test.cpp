@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,6 +26,10 @@ namespace {
 
 const QString sumas = QStringLiteral(R"(Token mas = "\+"; Token num = "[0-9]+"; E -> E mas num | num;)");
 const QString restas = QStringLiteral(R"(Token men = "-"; Token num = "[0-9]+"; E -> E men num | num;)");
+
+void borra(QObject* objeto) {
+    const std::unique_ptr<QObject> suyo(objeto);
+}
 
 struct Hostil;
 using Accion = std::function<void(Hostil&)>;
@@ -64,7 +69,7 @@ struct Hostil {
     Hostil& operator=(const Hostil&) = delete;
     ~Hostil() {
         accion = nullptr;
-        delete formulario;
+        borra(formulario);
         acaba();
     }
     void conecta() {
@@ -115,12 +120,20 @@ void pulsa(Hostil& h, Qt::MouseButton boton, const std::function<QWidget*()>& do
     if (!h.norvik.isNull()) QTest::mouseDClick(ventana, boton, {}, en());
 }
 
-void suelta(Hostil& h, Qt::DropAction accion) {
+void suelta(Hostil& h) {
     QMimeData datos;
     datos.setText("a\nb");
     QWidget* const vista = static_cast<QPlainTextEdit*>(h.editor())->viewport();
-    QDropEvent evento({30, 30}, accion, &datos, Qt::LeftButton, {});
+    QDropEvent evento({30, 30}, Qt::CopyAction, &datos, Qt::LeftButton, {});
     QApplication::sendEvent(vista, &evento);
+}
+
+/// What the editor asks of its box when the selection is dragged elsewhere.
+void mueve(Hostil& h) {
+    teclea(h, Qt::Key_Right, {}, Qt::ShiftModifier);
+    if (h.editor() == nullptr) return;
+    CajaTextoQt& caja = h.norvik->caja();
+    caja.atiende([&] { caja.suelta("1", 7, true); });
 }
 
 void compone(Hostil& h) {
@@ -162,14 +175,16 @@ const Operaciones delTeclado = {
     {"tabulador", [](Hostil& h) { teclea(h, Qt::Key_Tab, "\t"); }},
     {"mayusculas y tabulador", [](Hostil& h) { teclea(h, Qt::Key_Backtab, {}, Qt::ShiftModifier); }},
     {"control y tabulador", [](Hostil& h) { teclea(h, Qt::Key_Tab, {}, Qt::ControlModifier); }},
+    {"foco en el tabulador",
+     [](Hostil& h) { h.norvik->findChild<QWidget*>("tabulador")->setFocus(Qt::TabFocusReason); }},
     {"foco",
      [](Hostil& h) {
          teclea(h, Qt::Key_A, "a");
          if (!h.otro.isNull()) h.otro->setFocus();
      }},
     {"componer", compone},
-    {"soltar", [](Hostil& h) { suelta(h, Qt::CopyAction); }},
-    {"mover", [](Hostil& h) { suelta(h, Qt::MoveAction); }},
+    {"soltar", suelta},
+    {"mover", mueve},
     {"seleccionar todo", [](Hostil& h) { static_cast<QPlainTextEdit*>(h.editor())->selectAll(); }},
 };
 
@@ -249,12 +264,12 @@ TEST(AnfitrionHostil, ElControlSeBorraEnSuSuceso) {
         EXPECT_EQ(h.servicios.puntero(), Puntero::Normal) << caso;
     };
     enTodos(
-        todas, [](Hostil& h) { delete h.norvik; }, nada);
+        todas, [](Hostil& h) { borra(h.norvik); }, nada);
     enTodos(
         todas, [](Hostil& h) { h.norvik->deleteLater(); }, nada);
     // Not by the mouse: a window that is deleted while it is given a click is too much for Qt itself.
     enTodos(
-        {&delTeclado, &delPrograma}, [](Hostil& h) { delete h.formulario; }, nada);
+        {&delTeclado, &delPrograma}, [](Hostil& h) { borra(h.formulario); }, nada);
 }
 
 /// A box of the host's waits meanwhile, and a timer deletes the control behind it.
@@ -264,7 +279,7 @@ TEST(AnfitrionHostil, ElControlSeBorraMientrasSuReceptorEspera) {
         [](Hostil& h) {
             QEventLoop espera;
             QTimer::singleShot(0, [&] {
-                delete h.norvik;
+                borra(h.norvik);
                 QTimer::singleShot(0, &espera, &QEventLoop::quit);
             });
             espera.exec();
@@ -278,9 +293,9 @@ TEST(AnfitrionHostil, LoQueLanzaUnReceptorEsUnMensaje) {
         {[](Hostil&) { throw std::runtime_error("receptor"); }, u"receptor"},
         {[](Hostil&) { throw 1; }, u"Fallo desconocido"}};
     for (const auto& [accion, texto] : fallos) {
-        enTodos(delUsuario, accion, [&](Hostil& h, const std::string& caso, bool lanzado) {
+        enTodos(delUsuario, accion, [&mensaje = texto](Hostil& h, const std::string& caso, bool lanzado) {
             EXPECT_FALSE(lanzado) << caso;
-            EXPECT_EQ(h.servicios.mensajes, std::vector<std::u16string>{texto}) << caso;
+            EXPECT_EQ(h.servicios.mensajes, std::vector<std::u16string>{mensaje}) << caso;
             EXPECT_EQ(static_cast<QPlainTextEdit*>(h.editor())->toPlainText(),
                       conSaltosDeQt(h.norvik->Text()))
                 << caso;
@@ -319,7 +334,7 @@ TEST(AnfitrionHostil, UnReceptorCargaCompilaYAnaliza) {
 
 /// The services of a widget that was given none: real boxes, and the event loop's own timers.
 TEST(AnfitrionHostil, ElTemporizadorDeUnaCompilacion) {
-    for (const bool borra : {false, true}) {
+    for (const bool seBorra : {false, true}) {
         QPointer<ControlNorvik> norvik = &nuevo<ControlNorvik>();
         norvik->control().CargaGramatica(vistaDe(sumas));
         norvik->control().GeneraCompilador();
@@ -333,7 +348,7 @@ TEST(AnfitrionHostil, ElTemporizadorDeUnaCompilacion) {
             } catch (const ArgumentoNoValido&) {
                 ++rechazos;
             }
-            if (borra) delete norvik;
+            if (seBorra) borra(norvik);
         };
         QTimer temporizador;
         QObject::connect(&temporizador, &QTimer::timeout, norvik, cadaVez);
@@ -342,14 +357,14 @@ TEST(AnfitrionHostil, ElTemporizadorDeUnaCompilacion) {
         temporizador.stop();
         EXPECT_GT(rechazos, 0);
         EXPECT_EQ(analisis, rechazos); // with the language of before, whole
-        EXPECT_EQ(norvik.isNull(), borra);
-        delete norvik;
+        EXPECT_EQ(norvik.isNull(), seBorra);
+        borra(norvik);
         Hostil::acaba();
     }
 }
 
 TEST(AnfitrionHostil, UnaCargaEntraEnSiMismaDesdeSuAviso) {
-    for (const bool borra : {false, true}) {
+    for (const bool seBorra : {false, true}) {
         QPointer<ControlNorvik> norvik = &nuevo<ControlNorvik>();
         int avisos = 0;
         const auto alVerAviso = [&] {
@@ -357,15 +372,15 @@ TEST(AnfitrionHostil, UnaCargaEntraEnSiMismaDesdeSuAviso) {
             if (aviso == nullptr) return;
             ++avisos;
             EXPECT_THROW(norvik->control().CargaGramatica(vistaDe(restas)), ArgumentoNoValido);
-            borra ? delete norvik.data() : aviso->accept();
+            seBorra ? borra(norvik) : aviso->accept();
         };
         QTimer temporizador;
         QObject::connect(&temporizador, &QTimer::timeout, norvik, alVerAviso);
         temporizador.start(0);
         EXPECT_TRUE(norvik->control().CargaGramatica(u"Token a = \"[a\"; Token b = \"b\"; S -> b;"));
         EXPECT_EQ(avisos, 1);
-        EXPECT_TRUE(borra || norvik->control().Gramatica().GetRightRegla(1) == u"b");
-        delete norvik;
+        EXPECT_TRUE(seBorra || norvik->control().Gramatica().GetRightRegla(1) == u"b");
+        borra(norvik);
         Hostil::acaba();
     }
 }
