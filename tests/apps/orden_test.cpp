@@ -146,6 +146,21 @@ TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
         }
 }
 
+TEST_F(Orden, ElMetodoLoEligeLaOpcionOLaEspecificacion) {
+    const std::string reglas =
+        "Token a = \"a\"; Token b = \"b\"; Token d = \"d\";\nS -> A a | b; A -> S d | A d d | Ø;\n";
+    const std::string sinMetodo = pon("sin.nvk", reglas);
+    const std::string conLalr = pon("con.nvk", "'% metodo: lalr\n" + reglas);
+    const std::string texto = pon("texto", "bda");
+    EXPECT_EQ(ejecuta({"analiza", sinMetodo, texto}).estado, 1);
+    EXPECT_EQ(ejecuta({"analiza", conLalr, texto}).estado, 0);
+    EXPECT_EQ(ejecuta({"analiza", conLalr, texto, "--metodo", "clasico"}).estado, 1);
+    for (const std::string metodo : {"slr", "lalr", "lr1"})
+        EXPECT_EQ(ejecuta({"analiza", sinMetodo, texto, "--metodo", metodo}).estado, 0) << metodo;
+    comprueba(ejecuta({"informe", sinMetodo, "--metodo", "ll"}), 2, "",
+              "norvik: «ll» no es un valor de --metodo (clasico, slr, lalr, lr1)\n");
+}
+
 TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
     comprueba(ejecuta({"revisa", lenguaje_}), 0, "", "");
     const std::string rara = pon("rara.nvk", "Token a = \"a\";\nToken b = \"b\";\nS -> a;\n");

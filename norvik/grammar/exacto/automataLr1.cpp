@@ -61,7 +61,8 @@ private:
     std::size_t nuevo(Nucleo1 nucleo) {
         constexpr std::size_t maximo = 20'000; // those that are dropped included
         if (estados_.size() == maximo)
-            throw Desbordamiento(u"Desbordamiento: el autómata de la gramática pasa de 999 estados");
+            throw Desbordamiento(
+                u"Desbordamiento: el autómata LR(1) de la gramática pasa de 20000 estados antes de unirlos");
         std::vector<Item> items;
         for (const ItemLr1& i : nucleo) items.push_back(i.item);
         estados_.push_back({std::move(items), {}});
