@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
-#include <utility>
 
 namespace norvik {
 
@@ -34,52 +33,59 @@ std::u16string propuesta(const std::vector<std::u16string>& nombres) {
     return nombres.empty() ? std::u16string() : une({u" ¿Quería decir ", lista(nombres), u"?"});
 }
 
-// The words of a finding of a review: what is odd, and what to do about it.
-std::u16string_view palabrasDeRevision(Codigo codigo) {
-    using Plantilla = std::pair<Codigo, std::u16string_view>;
+// A finding of a review: its name and its words, which say what is odd and what to do about it. Parts of the
+// diagnostic stand in braces.
+struct DeRevision {
+    Codigo codigo;
+    std::u16string_view nombre;
+    std::u16string_view palabras;
+};
+
+const DeRevision& deRevision(Codigo codigo) {
     static constexpr std::array todas = {
-        Plantilla{Codigo::TokenSinUsar,
-                  u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
-                  u"quítelo."},
-        Plantilla{Codigo::AuxiliarSinUsar,
-                  u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
-        Plantilla{Codigo::TokenTapado,
-                  u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
-                  u"está antes. Pase {nombre} delante."},
-        Plantilla{Codigo::TokenRepetido,
-                  u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
-        Plantilla{Codigo::PatronVacio,
-                  u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
-                  u"al menos uno (con + en lugar de *, por ejemplo)."},
-        Plantilla{Codigo::VariableSinUsar,
-                  u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
-                  u"reglas."},
-        Plantilla{Codigo::VariableInalcanzable,
-                  u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
-                  u"variables a las que tampoco se llega."},
-        Plantilla{Codigo::VariableImproductiva,
-                  u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
-                  u"vez una variable de la que no sale ninguno. Dele una que acabe."},
-        Plantilla{Codigo::Ciclo,
-                  u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
-                  u"infinitos árboles. Quite una de esas reglas."},
-        Plantilla{Codigo::ReglaRepetida,
-                  u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
-        Plantilla{Codigo::CabezaMinuscula,
-                  u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
-                  u"no se usan. Escríbala con mayúscula."},
-        Plantilla{Codigo::CabezaDispersa,
-                  u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
-                  u"se usan. Júntelas."},
+        DeRevision{Codigo::TokenSinUsar, u"token-sin-usar",
+                   u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
+                   u"quítelo."},
+        DeRevision{Codigo::AuxiliarSinUsar, u"auxiliar-sin-usar",
+                   u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
+        DeRevision{Codigo::TokenTapado, u"token-tapado",
+                   u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
+                   u"está antes. Pase {nombre} delante."},
+        DeRevision{Codigo::TokenRepetido, u"token-repetido",
+                   u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
+        DeRevision{Codigo::PatronVacio, u"patron-vacio",
+                   u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
+                   u"al menos uno (con + en lugar de *, por ejemplo)."},
+        DeRevision{Codigo::VariableSinUsar, u"variable-sin-usar",
+                   u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
+                   u"reglas."},
+        DeRevision{Codigo::VariableInalcanzable, u"variable-inalcanzable",
+                   u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
+                   u"variables a las que tampoco se llega."},
+        DeRevision{Codigo::VariableImproductiva, u"variable-improductiva",
+                   u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
+                   u"vez una variable de la que no sale ninguno. Dele una que acabe."},
+        DeRevision{
+            Codigo::Ciclo, u"ciclo",
+            u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
+            u"infinitos árboles. Quite una de esas reglas."},
+        DeRevision{Codigo::ReglaRepetida, u"regla-repetida",
+                   u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+        DeRevision{Codigo::CabezaMinuscula, u"cabeza-minuscula",
+                   u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
+                   u"no se usan. Escríbala con mayúscula."},
+        DeRevision{Codigo::CabezaDispersa, u"cabeza-dispersa",
+                   u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
+                   u"se usan. Júntelas."},
     };
-    return std::ranges::find(todas, codigo, &Plantilla::first)->second;
+    return *std::ranges::find(todas, codigo, &DeRevision::codigo);
 }
 
 std::u16string mensajeDeRevision(const Diagnostico& diagnostico) {
     const Partes& partes = diagnostico.partes;
     const std::u16string esperados = lista(partes.esperados);
     std::u16string texto;
-    std::u16string_view resto = palabrasDeRevision(diagnostico.codigo);
+    std::u16string_view resto = deRevision(diagnostico.codigo).palabras;
     while (!resto.empty()) {
         const std::size_t abre = std::min(resto.find(u'{'), resto.size());
         const std::size_t cierra = std::min(resto.find(u'}', abre), resto.size());
@@ -180,29 +186,18 @@ std::u16string_view nombreDe(Codigo codigo) {
     case Codigo::ModuloIncorrecto:
         return u"modulo-incorrecto";
     case Codigo::TokenSinUsar:
-        return u"token-sin-usar";
     case Codigo::AuxiliarSinUsar:
-        return u"auxiliar-sin-usar";
     case Codigo::TokenTapado:
-        return u"token-tapado";
     case Codigo::TokenRepetido:
-        return u"token-repetido";
     case Codigo::PatronVacio:
-        return u"patron-vacio";
     case Codigo::VariableSinUsar:
-        return u"variable-sin-usar";
     case Codigo::VariableInalcanzable:
-        return u"variable-inalcanzable";
     case Codigo::VariableImproductiva:
-        return u"variable-improductiva";
     case Codigo::Ciclo:
-        return u"ciclo";
     case Codigo::ReglaRepetida:
-        return u"regla-repetida";
     case Codigo::CabezaMinuscula:
-        return u"cabeza-minuscula";
     case Codigo::CabezaDispersa:
-        return u"cabeza-dispersa";
+        return deRevision(codigo).nombre;
     }
     return {};
 }

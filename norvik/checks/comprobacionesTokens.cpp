@@ -25,22 +25,27 @@ Diagnostico aviso(Codigo codigo, const Rango& lugar, Partes partes) {
     return {codigo, Gravedad::Aviso, lugar, std::move(partes)};
 }
 
-bool esComentarioOAuxiliar(const Definicion& d) {
-    return !d.esToken || d.tipo == Norvik_ComentarioBloque || d.tipo == Norvik_ComentarioLinea;
+bool esComentario(const Definicion& d) {
+    return d.tipo == Norvik_ComentarioBloque || d.tipo == Norvik_ComentarioLinea;
+}
+
+// What stands in a text as <name>.
+void anotaReferencias(std::u16string_view texto, std::set<std::u16string_view>& nombres) {
+    for (std::size_t i = texto.find(u'<'); i < texto.size(); i = texto.find(u'<', i + 1))
+        if (const std::size_t fin = texto.find_first_of(u"<>", i + 1);
+            fin < texto.size() && texto[fin] == u'>')
+            nombres.insert(texto.substr(i + 1, fin - i - 1));
 }
 
 void compruebaUsos(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
     std::set<std::u16string_view> usados;
+    for (const Definicion& d : fuente.definiciones) anotaReferencias(d.texto, usados);
     for (const Fuente::Regla& regla : fuente.reglas)
         for (const Fuente::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
     std::set<std::u16string_view> dichos;
     for (const Definicion& d : fuente.definiciones) {
-        const auto referencia = u'<' + d.nombre + u'>';
-        const bool hayReferencias = std::ranges::any_of(fuente.definiciones, [&](const Definicion& otra) {
-            return otra.texto.find(referencia) != std::u16string::npos;
-        });
-        const bool seUsa = hayReferencias || usados.contains(d.nombre) ||
-                           (d.esToken && (esComentarioOAuxiliar(d) || fuente.reglas.empty()));
+        const bool seUsa =
+            usados.contains(d.nombre) || (d.esToken && (esComentario(d) || fuente.reglas.empty()));
         if (!seUsa && dichos.insert(d.nombre).second)
             hallazgos.push_back(aviso(d.esToken ? Codigo::TokenSinUsar : Codigo::AuxiliarSinUsar,
                                       d.lugarNombre, {d.nombre, {}, {}, {}}));

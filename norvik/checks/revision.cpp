@@ -58,8 +58,7 @@ void completa(Diagnostico& diagnostico, const Fuente& fuente) {
 } // namespace
 
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    const Metodo metodo =
-        opciones.metodo.value_or(leeDirectivas(especificacion).metodo.value_or(Metodo::Clasico));
+    const Metodo metodo = opciones.metodo.value_or(leeDirectivas(especificacion).metodo);
     const Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
     if (!analisis) return analisis.diagnosticos;
     std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, metodo).diagnosticos;

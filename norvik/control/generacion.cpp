@@ -48,7 +48,7 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
         return Fallo{Fallo::Paso::Analisis, especificacion.GetmensajeError()};
     gramatica_.inicializaConjuntos();
     gramatica_.inicializaGramatica();
-    gramatica_.ponMetodo(leeDirectivas(especificacion.Text()).metodo.value_or(Metodo::Clasico));
+    gramatica_.ponMetodo(leeDirectivas(especificacion.Text()).metodo);
     lexico_.Inicializa();
     // Nothing is shown while the other control's tree is walked: a receiver may parse with it.
     std::vector<Mensaje> mensajes;

@@ -118,7 +118,7 @@ bool PartesControl::CargaGramatica(std::u16string_view codGramatica) {
     const Ocupado ocupado(sistema);
     if (!analizaEspecificacion(codGramatica)) return false;
     laGramatica.inicializaGramatica();
-    laGramatica.ponMetodo(leeDirectivas(codGramatica).metodo.value_or(Metodo::Clasico));
+    laGramatica.ponMetodo(leeDirectivas(codGramatica).metodo);
     lexico.Inicializa();
     std::vector<Mensaje> mensajes;
     SistemaMemoria callado([&](const Mensaje& mensaje) { mensajes.push_back(mensaje); });

@@ -5,10 +5,10 @@
 // characters: every word that stands at the position begins the last one that is not greater than the text
 // there, so it is met on the way from that one to the words that begin it. A position costs the logarithm of
 // the number of words, and no comparison is longer than the longest of them; nearly all are decided by four
-// characters, which are compared as one number. A word that ignores case
-// stands in the bucket of each form of its first character. Each word keeps the end of its last occurrence,
-// so that its occurrences do not overlap, exactly as if it had been searched alone. A bucket that has
-// nothing but an operator of one character, as most operators are, needs none of this.
+// characters, which are compared as one number. A word that ignores case stands in the bucket of each form
+// of its first character. Each word keeps the end of its last occurrence, so that its occurrences do not
+// overlap, exactly as if it had been searched alone. A bucket that has nothing but an operator of one
+// character, as most operators are, needs none of this.
 #include "norvik/pattern/indicePalabras.hpp"
 
 #include "norvik/pattern/mayusculas.hpp"

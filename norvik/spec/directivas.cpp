@@ -18,7 +18,7 @@ Directivas leeDirectivas(std::u16string_view especificacion) {
         if (!linea.starts_with(marca)) continue;
         linea.remove_prefix(marca.size());
         if (!linea.starts_with(metodo)) continue;
-        if (const auto suyo = metodoLlamado(linea.substr(metodo.size()))) directivas.metodo = suyo;
+        if (const auto suyo = metodoLlamado(linea.substr(metodo.size()))) directivas.metodo = *suyo;
     }
     return directivas;
 }

@@ -2,7 +2,6 @@
 
 #include "norvik/grammar/metodo.hpp"
 
-#include <optional>
 #include <string_view>
 
 namespace norvik {
@@ -10,7 +9,7 @@ namespace norvik {
 /// What a specification asks for in lines of exactly the form «'% palabra: valor», before its first
 /// definition; to whoever does not know them they are comments. Unknown words and values ask for nothing.
 struct Directivas {
-    std::optional<Metodo> metodo;
+    Metodo metodo = Metodo::Clasico;
 };
 
 Directivas leeDirectivas(std::u16string_view especificacion);

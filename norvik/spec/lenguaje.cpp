@@ -45,7 +45,7 @@ Diagnostico utf8Incorrecto(std::string_view bytes) {
 }
 
 Metodo metodoDe(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    return opciones.metodo.value_or(leeDirectivas(especificacion).metodo.value_or(Metodo::Clasico));
+    return opciones.metodo.value_or(leeDirectivas(especificacion).metodo);
 }
 
 std::unique_ptr<TextoAnalizado> prepara(const Lenguaje& lenguaje, std::u16string texto,
