@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Parses texts with the control and with the flex + bison parser of the same language, in turns and in one
 // process, and prints the median of the processor's time for each. Before that it proves that both build the
 // same tree.

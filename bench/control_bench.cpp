@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Times what the control does while a person edits, on the C-like example's text near 30,000 characters and
 // its box in memory: a typed character with its snapshot, leaving a line, colouring the whole against the
 // recognition in it, and ten thousand characters typed and taken back, with the memory that they add.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Runs commands in turn, many times over, and prints what each took: medians of wall and of processor time in
 // milliseconds, and peak memory in KiB. Taking turns, the commands see the same machine, and since each round
 // has an order of its own, no command is always the one that finds the caches full of a greater one's data.

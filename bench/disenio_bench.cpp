@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Times what a person waits for at design time: opening the grammar editor on a specification near 30,000
 // characters, and the report of the C-like example, from the command to the window drawn (in memory).
 #include "lenguaje.hpp"

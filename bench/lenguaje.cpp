@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lenguaje.hpp"
 
 #include "norvik/base/texto.hpp"

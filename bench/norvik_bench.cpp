@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Times the stages of a language and of a parse, each by itself and in process.
 //
 //   norvik-bench [--lenguaje SPECIFICATION] [--texto TEXT] [options of Google Benchmark]

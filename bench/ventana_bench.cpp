@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Times what the widget costs while a person edits, on the C-like example's text near 30,000 characters:
 // a typed character, leaving a line, colouring the whole; each with the events that it leaves pending,
 // painting among them. The window is drawn in memory.

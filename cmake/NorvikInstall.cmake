@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What a host program needs: the libraries, their headers, a CMake package and pkg-config files. All find their
 # places relative to their own, so that an installation can be moved.
 include(CMakePackageConfigHelpers)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The programs as the system's user meets them, and Debian packages of them: norvik (the command), norvik-taller
 # (the workbench), norvik-disenador (the plugin of Qt Designer) and norvik-dev (the libraries).
 string(TIMESTAMP NORVIK_FECHA "%Y-%m-%d")

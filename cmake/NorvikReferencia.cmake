@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The reference for hosts, in Spanish: the target `referencia`, where Doxygen is found. A warning is an error.
 find_package(Doxygen QUIET)
 if(NOT DOXYGEN_FOUND)

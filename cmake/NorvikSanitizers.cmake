@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 if(NORVIK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

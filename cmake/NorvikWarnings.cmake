@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Warnings are errors in everything that is ours.
 function(norvik_warnings target)
   target_compile_options(${target} PRIVATE

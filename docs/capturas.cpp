@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Makes the pictures of the manual and of the README: shows each window as a person meets it, on the example
 // languages, and writes what it shows into a folder. With --oscura, in light on dark. Run by
 // scripts/capturas.

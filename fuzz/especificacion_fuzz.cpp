@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Any bytes as a language specification. What compiles parses its own specification, and so does the language
 // that its loading module loads, with the same answer.
 

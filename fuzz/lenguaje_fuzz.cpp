@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Any bytes as a specification and a text, parted by the first zero, through the value door: it raises
 // nothing, its ranges lie inside the text, and it says the same as the control of the same language.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Any bytes as a loading module; whatever table it leaves then parses a text.
 
 #include "anfitrion.hpp"

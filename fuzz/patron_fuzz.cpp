@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The pattern check, and a search with every pattern that passes it. The first byte chooses whether case is
 // ignored and how many of the units that follow are the pattern; the rest is the text.
 #include "norvik/pattern/emparejador.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Any bytes as a text in one of the example languages, which the first byte chooses. The leaves of an
 // accepted text are the tokens that the reader gives.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # bash completion for norvik and norvik-taller                                       -*- shell-script -*-
 
 # Files with some endings, and folders.

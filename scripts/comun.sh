@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034
 # Shared by the scripts: packages of Debian 12, and where things are. To be sourced.
 

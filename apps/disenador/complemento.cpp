@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "complemento.hpp"
 
 #include "dibujoNorvik.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dibujoNorvik.hpp"
 
 #include <QPainter>

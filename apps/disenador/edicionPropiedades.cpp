@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "edicionPropiedades.hpp"
 
 #include "propiedadesPublicadas.hpp"

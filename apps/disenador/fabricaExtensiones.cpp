@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "fabricaExtensiones.hpp"
 
 #include "hojaPropiedades.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "menuPropiedades.hpp"
 
 #include "norvik/tools/iconos.hpp"

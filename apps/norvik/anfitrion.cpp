@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "anfitrion.hpp"
 
 #include "linea.hpp"

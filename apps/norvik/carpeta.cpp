@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "carpeta.hpp"
 
 #include "linea.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "coloreado.hpp"
 
 #include "salida.hpp"

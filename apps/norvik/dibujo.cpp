@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dibujo.hpp"
 
 #include "recorrido.hpp"

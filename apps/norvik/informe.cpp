@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ordenes.hpp"
 
 #include "anfitrion.hpp"

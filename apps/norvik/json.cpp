@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "json.hpp"
 
 #include "escritorJson.hpp"

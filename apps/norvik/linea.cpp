@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The command line. CLI11 splits the words; what is missing, left over or unknown is told in our own words,
 // so every check that CLI11 would make in English is left to us: nothing is required of it, extras are
 // allowed, values are plain texts.

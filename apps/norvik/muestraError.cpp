@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "muestraError.hpp"
 
 #include "salida.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "salida.hpp"
 
 #include "norvik/base/causas.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // SARIF 2.1.0 is what services for code review read.
 #include "sarif.hpp"
 

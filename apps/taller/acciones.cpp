@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "acciones.hpp"
 
 #include "norvik/tools/iconos.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ejemplos.hpp"
 
 #include <QDir>

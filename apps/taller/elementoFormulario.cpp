@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "elementoFormulario.hpp"
 
 #include "lenguaje.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A form as JSON: {"Controles": [{"Nombre": …, "Texto": …, "Modulo": …, "Bolsa": {…}}, …]}. The bags keep the
 // order in which controls write them, which Qt's own JSON writer would not.
 

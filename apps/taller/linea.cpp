@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The command line. CLI11 splits the words; what is wrong with them is told in our own words.
 
 #include "linea.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogosQt.hpp"
 #include "linea.hpp"
 #include "sistemaTaller.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "modeloArbol.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ordenesFormulario.hpp"
 
 #include "rutas.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ordenesLenguaje.hpp"
 
 #include "lenguaje.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ordenesTexto.hpp"
 
 #include "rutas.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "panelArbol.hpp"
 
 #include <QHeaderView>

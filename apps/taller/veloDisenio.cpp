@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "veloDisenio.hpp"
 
 #include <QKeyEvent>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ventanaPrincipal.hpp"
 
 #include "lenguaje.hpp"

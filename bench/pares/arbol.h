@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 /* Syntax tree shared by the flex + bison parsers: nodes live in a bump arena that is emptied as a whole. */
 #ifndef PARES_ARBOL_H
 #define PARES_ARBOL_H

@@ -1,3 +1,5 @@
+/* SPDX-License-Identifier: MIT */
+
 %{
 /* The C-like language: the same rules, in the same order, as ejemplos/c/c.nvk. */
 #include "arbol.h"

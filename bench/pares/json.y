@@ -1,3 +1,5 @@
+/* SPDX-License-Identifier: MIT */
+
 %{
 /* JSON: the same rules, in the same order, as ejemplos/json/json.nvk. */
 #include "arbol.h"

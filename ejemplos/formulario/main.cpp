@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "formulario.hpp"
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/base/codificacion.hpp"
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/base/errores.hpp"
 
 #include "norvik/base/palabras.hpp"

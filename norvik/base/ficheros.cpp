@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Whole files, read and written at once.
 //
 // A file is written under a name of its own in the same folder and renamed over its place: the rename is the

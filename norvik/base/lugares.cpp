@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Lines are found by halving. Bytes are counted once for each stretch of characters, the rest of the way when
 // they are asked for, so that a text of ASCII alone, or one given in UTF-16, costs nothing.
 #include "norvik/base/lugares.hpp"

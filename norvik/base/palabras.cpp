@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // All words that are said of something wrong stand here: the fixed messages, and those made from a
 // diagnostic.
 #include "norvik/base/palabras.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Symbols are numbered once; what is reached from the start, and from which variables a text comes, are least
 // fixpoints by work lists; cycles are found on the graph whose edges are the rules that leave one variable
 // alone, by walking back from it. All takes time in proportion to the rules, cycles but for their square.

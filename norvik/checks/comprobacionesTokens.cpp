@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Whether a token ever wins is tried with texts of its pattern: each is recognised alone, by all definitions
 // together, and the first that the token wins settles it. Nothing is claimed of a pattern without such texts.
 #include "norvik/checks/comprobaciones.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/checks/fuente.hpp"
 
 #include "norvik/spec/nodoEspecificacion.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts of a pattern, by walks at random along the list of its pieces: each alternative as likely as the
 // others, few turns, of a class its ends and its printable units more often than others. Look-aheads and
 // boundaries are passed over, and so a walk only proposes: what the pattern does not take from end to end is

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The distance is Damerau's in its restricted form (optimal string alignment): three rows of the usual table.
 // Names whose lengths differ too much are not compared.
 #include "norvik/checks/nombreCercano.hpp"

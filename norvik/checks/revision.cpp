@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/checks/revision.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A property bag as JSON. Reading does not recurse, whatever noise the file holds.
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/colocacion.hpp"
 
 namespace norvik {

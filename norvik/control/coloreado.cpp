@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Colouring of a range: recognise its characters alone, then walk from token to token and paint those that
 // have a colour. A token that does not lie wholly in the range is not seen, so that a comment of several
 // lines is coloured by a range that holds it and not line by line. The cost is one recognition of the range

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Colouring is kept away from the keystroke. A line that is typed on is shown in colour 0 from its first
 // change on and coloured once, when the caret moves to another line or the focus leaves the box. What may
 // span several lines (a paste, Undo, Redo) is coloured as a range at the next change of line. A failure on

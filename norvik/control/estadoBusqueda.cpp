@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/estadoBusqueda.hpp"
 
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/generacion.hpp"
 
 #include "norvik/base/texto.hpp"

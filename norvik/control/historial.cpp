@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Undo does not restore a snapshot: it compares the last two and inserts or deletes the characters by which
 // they differ, at the caret recorded after the change, so that the rest of the text keeps its colours. The
 // comparison is one of lengths alone. A change that both took away and put in is therefore not taken back:

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A history of n snapshots of a text of m characters would take n·m characters. Neighbours differ in little,
 // so that only the newest is kept whole and each other one as the characters in which it differs from the one
 // after it: the prefix and the suffix that they share are counted, the middle is kept. Putting one in and

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/lineasTexto.hpp"
 
 #include "norvik/base/errores.hpp"

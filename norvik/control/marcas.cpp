@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/marcas.hpp"
 
 #include "norvik/base/numeros.hpp"

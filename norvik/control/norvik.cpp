@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/norvik.hpp"
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The control's language: loading it call by call, compiling it from a specification, parsing with it.
 
 #include "norvik/control/norvik.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/partesControl.hpp"
 
 #include "norvik/base/errores.hpp"

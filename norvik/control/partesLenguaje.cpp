@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Loading and compiling a language. Nothing of the control is half replaced when a receiver of its events
 // runs: a specification is compiled without a word, and what there is to say is said with the new language in
 // place; a table is generated apart from the grammar, which takes it over when it is whole. A receiver may

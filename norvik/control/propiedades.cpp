@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/propiedades.hpp"
 
 #include "norvik/control/ranurasDisenio.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/automataLR.hpp"
 
 #include "norvik/base/texto.hpp"

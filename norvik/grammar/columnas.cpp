@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/columnas.hpp"
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/conjunto.hpp"
 
 #include "norvik/base/errores.hpp"

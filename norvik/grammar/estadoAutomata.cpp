@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/estadoAutomata.hpp"
 
 #include "norvik/base/errores.hpp"

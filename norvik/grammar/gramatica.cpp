@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/gramatica.hpp"
 
 #include "norvik/base/errores.hpp"

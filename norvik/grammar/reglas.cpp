@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/reglas.hpp"
 
 #include "norvik/base/numeros.hpp"

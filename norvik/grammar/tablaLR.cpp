@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/tablaLR.hpp"
 
 #include "norvik/base/texto.hpp"

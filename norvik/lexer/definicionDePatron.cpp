@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/lexer/definicionDePatron.hpp"
 
 #include <cstddef>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/lexer/definicionesTokens.hpp"
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Expansion of a definition text, in one pass from left to right with one character of memory (the escape
 // flag). A reference is replaced by the patterns of all the definitions that bear its name, textually. Since
 // definitions that refer to each other can double a dozen times, what grows past the limit stops growing; the

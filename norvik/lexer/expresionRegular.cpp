@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/lexer/expresionRegular.hpp"
 
 #include "norvik/base/numeros.hpp"

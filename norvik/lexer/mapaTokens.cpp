@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/lexer/mapaTokens.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Recognition: every definition finds its own matches over the whole range, and at each position the longest
 // one stays, of equal ones that of the definition registered first.
 #include "norvik/lexer/pilaTokens.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/lexer/reconocedor.hpp"
 
 #include "norvik/base/errores.hpp"

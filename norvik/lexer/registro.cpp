@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Registration of token definitions: expansion, check of the pattern, colour of the kind.
 #include "norvik/base/errores.hpp"
 #include "norvik/lexer/definicionDePatron.hpp"

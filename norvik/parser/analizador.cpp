@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A text is recognised as a whole, then parsed token by token. The tokens are kept as they are shifted, and
 // the steps as they are made: together they are the tree.
 #include "norvik/parser/analizador.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The operations of a node. Descents and searches keep their pending nodes in a list of their own: a tree may
 // be as deep as its text is long.
 #include "norvik/parser/arbol.hpp"

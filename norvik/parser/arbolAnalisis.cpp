@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The steps of an accepted parse are its tree in post-order: a token, or a reduction behind its children. A
 // node is found there by the sizes of the subtrees before it. The tree keeps pre-order instead: the first
 // child follows its parent, the next sibling stands behind the subtree, and the tokens of any subtree are

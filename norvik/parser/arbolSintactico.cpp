@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How the nodes of a tree hang together. A parser's node has all its children side by side, and a table of
 // exactly their number, or points at the only one; the first attachment by hand moves the table to one with
 // room at both ends, which doubles, so that each attachment takes constant time on the average. What is left

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The parse of a control's text: it leaves a trace, and only an accepted text gets a tree.
 #include "norvik/parser/conductor.hpp"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The tree of a parse, from the end of its trace backwards. The last step of a subtree is its root: a
 // reduction has one child a symbol of its body, and the steps before it are those of the rightmost child,
 // then of the child left of that, and so on. Nodes that wait for their steps stand on a list with the

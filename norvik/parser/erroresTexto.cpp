@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The errors of a text, with what may really stand at their place. A cell of the table that is not empty
 // promises too much: a reduction may be asked for by a token that nothing shifts in the end. So each token is
 // tried: its reductions are made on a copy of the stack's top, which grows over the part that they have not

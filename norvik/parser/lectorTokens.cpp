@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reading is a walk over the map of one recognition. An empty match at the very end of the text is a token,
 // once.
 #include "norvik/parser/lectorTokens.hpp"

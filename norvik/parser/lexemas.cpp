@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/parser/lexemas.hpp"
 
 #include "norvik/base/errores.hpp"

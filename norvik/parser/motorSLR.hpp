@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // The SLR driver: a stack of states, one action of the table a step. A shift reads the next token, a

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/parser/traza.hpp"
 
 #include "norvik/base/texto.hpp"

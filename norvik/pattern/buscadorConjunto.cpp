@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every pattern finds its own matches; the order in which they are searched does not matter, so that as many
 // as possible share a pass. Plain words go over the text together, but for long ones, which have passes of
 // their own. So do the patterns that have an automaton: the character at a position tells by a mask which of

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/pattern/busquedaPalabra.hpp"
 
 #include <algorithm>

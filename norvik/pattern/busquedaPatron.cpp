@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A pattern ready to search, in the cheaper of the two ways that give its matches: branches, loops and
 // assertions over units by an automaton, one look-up a character and nothing to go back to; look-aheads,
 // large counts, references to captures and optional turns that take nothing by the exact machine, which also

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A pattern that is kept is only known to be well formed: what a search needs is made by the search, so that
 // definitions cost little to file, and what many threads share never changes.
 #include "norvik/pattern/emparejador.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Search of many plain words at once. Most definitions of a language are reserved words and operators; giving
 // each its own pass over the text is where recognition would spend its time. Here a position is looked at
 // once: its first character chooses a bucket of words, a mask of their second characters rejects nearly all

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/pattern/mapaCoincidencias.hpp"
 
 namespace norvik {

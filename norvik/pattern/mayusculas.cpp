@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Letter case: which units agree when case is ignored.
 //
 // The relation is that of Unicode's simple case folding, closed: K, k and the Kelvin sign agree, so do the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The automaton of a pattern, by subsets, with preferences.
 //
 // A state is the list of the program's threads after some characters, in the order in which backtracking

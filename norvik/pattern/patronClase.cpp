@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/pattern/patronClase.hpp"
 
 #include "norvik/pattern/mayusculas.hpp"

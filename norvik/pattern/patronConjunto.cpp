@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The product of several automata, built while it runs.
 //
 // Definitions that begin alike (a name, a type's name, a label) would each walk over the same word. Here a

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reading a pattern: the dialect, strictly.
 //
 // One pass over the text, a piece at a time, with the open groups on a stack of their own. What the dialect

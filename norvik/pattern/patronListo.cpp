@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Making a pattern ready: one pass over its pieces, with the open groups on a stack.
 //
 // Lexers are written with references to other definitions, so that an identifier arrives as L([0-9]|L)*. As

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The exact matcher: a pattern assembled into a small program, run by backtracking.
 //
 // The semantics are those of ECMAScript's third edition: alternatives in order, each turn of a repetition

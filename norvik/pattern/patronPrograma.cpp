@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A pattern assembled into a program, in one pass over its pieces.
 //
 // A repetition whose body always takes something and that counts no more than "none or one at least" is a

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The sets that \d, \w and \s name, and the letters, by Unicode's categories.
 #include "norvik/pattern/patronClase.hpp"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/platform/cajaTexto.hpp"
 
 #include "norvik/pattern/mayusculas.hpp"

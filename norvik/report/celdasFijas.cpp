@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/report/celdasFijas.hpp"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Names of languages as C++ identifiers. Letters, digits and single underscores inside stay; anything else is
 // written "_uHHHH", its number. An underscore that could be taken for the beginning of that, that would stand
 // beside another or that comes first or last is written so, too: what is read back is one name only, "__" and

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/report/modulo.hpp"
 
 #include "norvik/base/texto.hpp"

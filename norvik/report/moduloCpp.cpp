@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/report/moduloCpp.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/report/nombreDeModulo.hpp"
 
 #include "norvik/base/errores.hpp"

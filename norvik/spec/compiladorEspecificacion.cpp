@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Compiles the syntax tree of a specification that a control holds.
 #include "norvik/spec/compiladorEspecificacion.hpp"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // From the tree of a specification, or from the calls of a loading module, to a language that is a value.
 // Nothing is shown and nothing raised: each thing that is wrong becomes a diagnostic at its place, and what
 // can be made of the rest is made, as a control does it.

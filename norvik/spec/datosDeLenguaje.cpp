@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/spec/datosDeLenguaje.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/spec/datosLenguaje.hpp"
 
 #include "norvik/spec/cargadorLenguaje.hpp"

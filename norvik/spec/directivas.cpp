@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/spec/directivas.hpp"
 
 #include <algorithm>

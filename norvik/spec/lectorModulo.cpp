@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reads the loading modules that `GuardaModuloGramatica` writes. Their shape is fixed, so that reading one is
 // a single pass with one line expected at each place, and whatever else stands there is named with its line:
 // a module cannot call itself or jump about. The text is first read into a list of calls and then replayed,

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The value door: texts come in as the caller has them, are turned to UTF-16 once, and are handed to an
 // analyser of the language.
 #include "norvik/spec/lenguaje.hpp"

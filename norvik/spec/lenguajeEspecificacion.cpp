@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The language of specifications, as data, and its two installers. The order of the definitions is their
 // priority in recognition, the order of the rules their numbers: `CompilaArbolEspecificacion` relies on both.
 //

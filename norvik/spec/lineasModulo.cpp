@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/spec/lineasModulo.hpp"
 
 #include "norvik/base/texto.hpp"

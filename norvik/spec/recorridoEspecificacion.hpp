@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // The walk over the syntax tree of a specification: one pre-order walk over the nodes, in which definitions

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/buscar.hpp"
 
 #include "norvik/tools/controlNorvik.hpp"

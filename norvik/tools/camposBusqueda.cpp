@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/camposBusqueda.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"

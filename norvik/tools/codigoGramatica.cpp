@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/codigoGramatica.hpp"
 
 #include "norvik/control/pasosFirmes.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/controlNorvik.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/directorio.hpp"
 
 #include "norvik/base/causas.hpp"

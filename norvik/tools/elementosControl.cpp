@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/elementosControl.hpp"
 
 #include "norvik/tools/ventanas.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/etiquetaDeRuta.hpp"
 
 #include <QPainter>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/iconos.hpp"
 
 #include "norvik/platform/qt/nuevo.hpp"

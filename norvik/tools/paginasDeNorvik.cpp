@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/paginasDeNorvik.hpp"
 
 #include "norvik/tools/general.hpp"

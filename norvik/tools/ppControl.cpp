@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/ppControl.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/probarLenguaje.hpp"
 
 #include "norvik/control/ranurasDisenio.hpp"

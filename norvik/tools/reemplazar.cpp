@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/reemplazar.hpp"
 
 #include "norvik/tools/buscar.hpp"

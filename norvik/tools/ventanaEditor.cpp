@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/ventanaEditor.hpp"
 
 #include "norvik/base/numeros.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/tools/ventanaPropiedades.hpp"
 
 #include "norvik/tools/paginasDeNorvik.hpp"

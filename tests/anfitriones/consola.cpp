@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The control in a program without windows: a text box kept in memory, message boxes as lines.
 //
 //   ./consola LANGUAGE.nvk TEXT        prints the text's tree, or its wrong line and the error

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A Qt editor with a list of errors and a jump to each.
 //
 //   ./editor LANGUAGE.nvk

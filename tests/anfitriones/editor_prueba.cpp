@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The editor as its user sees it: the list of errors of a text, and what a click on one selects.
 
 #include "editor.hpp"

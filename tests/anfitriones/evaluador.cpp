@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // An evaluator of arithmetic: a language, a parse, and a walk over its tree.
 //
 //   ./evaluador '2 * (3 + 4)'        prints 14

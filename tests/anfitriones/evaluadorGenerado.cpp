@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The evaluator with a language that was made beforehand: nothing is compiled, and each rule has a name.
 //
 //   norvik modulo aritmetica.nvk Aritmetica --lenguaje cpp

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A server with several threads and languages: each line of its input is a request, the name of a language
 // and a text; the answers come in the order of the requests. The threads share the languages.
 //

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyo/carpetaTemporal.hpp"
 
 #include <cstdlib>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyo/earley.hpp"
 
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyo/proceso.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The command as a person runs it: words in, streams and exit status out.
 
 #include "apoyo/carpetaTemporal.hpp"

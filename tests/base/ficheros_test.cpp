@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/base/ficheros.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/base/lineas.hpp"
 
 #include <gtest/gtest.h>

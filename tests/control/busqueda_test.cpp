@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Searching and replacing, as the find and the replace dialog do it.
 #include "apoyo/anfitrion.hpp"
 #include "norvik/control/buscador.hpp"

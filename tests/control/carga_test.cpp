@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Loading a language into the control call by call, and generating its table.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/repite.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Colouring, error marks and what a failed parse shows.
 #include "apoyo/anfitrion.hpp"
 

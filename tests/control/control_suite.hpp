@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How the control behaves on a text box, whatever the box is made of: one suite. Whoever includes it says on
 // which boxes.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/control/disposicion.hpp"
 
 #include <gtest/gtest.h>

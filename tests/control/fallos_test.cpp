@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What is raised says what, where and the limit: hosts show it as it is.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The control's text: properties of the box, loading and saving.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The suites of boxes and of the control, on the box kept in memory.
 #include "control/control_suite.hpp"
 #include "platform/cajaTexto_suite.hpp"

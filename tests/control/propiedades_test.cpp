@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The option properties: defaults, notifications, layout, and how they are saved.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Receivers of the control's events that load, parse, throw, or delete the control and all that it was made
 // with, at each event of each operation. What must not be touched then is for the sanitizers to say.
 #include "apoyo/anfitrion.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A second language in a control is as in a new one, whatever was loaded before and by whatever way.
 #include "apoyo/anfitrion.hpp"
 #include "modulo_c.hpp" // written by the command

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The plugin inside a designer of this process, which loads it as the real one does: forms with controls,
 // their property pages, the undo and the files. A control is known here by its properties alone.
 #include <QDesignerComponents>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"

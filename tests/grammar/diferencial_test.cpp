@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyoGramatica.hpp"
 #include "lecturaLiteral.hpp"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The exact methods against slow constructions that share nothing with them: Earley's recogniser, and the
 // canonical LR(1) automaton of the textbook.
 #include "apoyo/anfitrion.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyo/repite.hpp"
 #include "apoyoGramatica.hpp"
 

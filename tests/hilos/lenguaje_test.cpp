@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What threads share, from its first use on: languages, and trees that are read.
 
 #include "norvik/base/ficheros.hpp"

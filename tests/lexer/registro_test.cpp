@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/pattern/emparejador.hpp"
 
 #include "apoyo/repite.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Random small patterns on random texts: every way of matching agrees with a matcher written down straight
 // from the definition of the dialect, with functions that go on.
 #include "norvik/pattern/emparejador.hpp"

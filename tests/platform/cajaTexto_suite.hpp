@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a text box must do, whatever it is made of: one suite. Whoever includes it says on which boxes.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The boxes on which the suites run.
 #pragma once
 

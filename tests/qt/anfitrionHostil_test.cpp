@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A form whose receivers do at each event of each thing that can be done to the editor, by its user or by the
 // program, what a host may do: delete it, now or later, throw, or load, compile and parse. What must not be
 // touched then is for the sanitizers to say.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the text box does on a screen: keys, mouse, clipboard, and that the editor shows what the box holds.
 #include "control/control_suite.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The control on a form: what is typed, clicked and shown.
 #include "norvik/base/errores.hpp"
 #include "norvik/tools/controlNorvik.hpp"

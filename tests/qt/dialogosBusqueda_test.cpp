@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The find and the replace dialog, as a person uses them.
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/controlNorvik.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The windows of design time: one round trip from the language page to a loaded module, and every way in
 // which it can fail. Boxes and modal windows are answered by the system.
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The report window and the folder chooser.
 #include "apoyo/carpetaTemporal.hpp"
 #include "norvik/tools/controlNorvik.hpp"

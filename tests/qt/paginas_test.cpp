@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The property pages: fields against properties, the changed mark, and whose the shared slots are.
 #include "norvik/control/ranurasDisenio.hpp"
 #include "norvik/tools/general.hpp"

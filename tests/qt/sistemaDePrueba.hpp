@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The services of Qt with someone who answers: message boxes are written down, modal windows are used.
 #pragma once
 

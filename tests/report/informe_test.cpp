@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "grammar/apoyoGramatica.hpp"
 
 #include "norvik/base/ficheros.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The language of specifications and its compilation, through the control.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/repite.hpp"

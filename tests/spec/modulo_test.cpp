@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Loading modules: what the writer wrote is replayed, anything else is named.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/carpetaTemporal.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The workbench's window, driven by its commands, with questions answered by a script.
 #include "taller/dialogosGuion.hpp"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/clasico/conjuntos.hpp"
 
 #include "norvik/grammar/clasico/primeros.hpp"

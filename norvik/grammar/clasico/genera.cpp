@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/clasico/genera.hpp"
 
 #include "norvik/grammar/clasico/automata.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/clasico/siguientes.hpp"
 
 // FOLLOW sets: for each head a depth-first walk over the heads whose FOLLOW it takes over, cut where it comes

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/clasico/tabla.hpp"
 
 #include "norvik/grammar/columnas.hpp"

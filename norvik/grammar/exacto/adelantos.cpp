@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // LALR look-aheads by relations (DeRemer and Pennello 1982). The nodes are the transitions over variables.
 // What can be read after one is what its target shifts, and what can be read after the transitions over
 // variables that can be empty there (`lee`); what follows one is that, and what follows the transitions at

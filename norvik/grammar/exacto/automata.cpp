@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The LR(0) automaton (Knuth 1965), by kernels: states with one kernel are one state, found by a search among
 // all kernels in order.
 #include "norvik/grammar/exacto/automata.hpp"

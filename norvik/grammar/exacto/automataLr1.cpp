@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The LR(1) automaton with merged states (Pager 1977). A state is a kernel whose items carry their
 // look-aheads. Two states of one kernel are merged when no token of one item's look-aheads in the first is
 // among those of another item in the second: then each token finds in the merged state the items that it

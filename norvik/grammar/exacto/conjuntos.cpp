@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/exacto/conjuntos.hpp"
 
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/grammar/exacto/estados.hpp"
 
 #include "norvik/base/errores.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Nullable and FIRST are least fixpoints: the rules are gone through until a pass changes nothing. A pass
 // costs as much as the rules are long, and there are at most as many passes as heads.
 #include "norvik/grammar/exacto/producciones.hpp"

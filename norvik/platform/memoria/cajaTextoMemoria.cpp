@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 
 #include "norvik/base/numeros.hpp"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "norvik/platform/qt/teclas.hpp"
 
 #include "norvik/platform/cajaTexto.hpp"

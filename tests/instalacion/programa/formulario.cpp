@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The example form as its user sees it: the colours of a line, and what it says of its text, of a wrong one
 // and of one that is too long.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host program: loads a language, from a specification or with the module made for it, and shows what the
 // control then holds and answers, and the language as a value. Both ways must show the same.
 
