@@ -24,9 +24,18 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     texto.setAccessibleName(QStringLiteral("Texto"));
     texto.setAccessibleDescription(QStringLiteral("Control+Tabulador pasa al elemento siguiente"));
     setFocusProxy(&texto);
-    setTabOrder(&texto, elementos_.tabulador.get());
+    setFocusPolicy(texto.focusPolicy()); // Qt puts no one in an order who takes no focus
+    ordenaTabulador();
     conectaElementos();
     conectaEventos();
+}
+
+/// Qt moves nothing while the text is the first of its window that takes the focus, as it is in a control
+/// without a parent; by way of a third element the order holds wherever the control goes.
+void ControlNorvik::ordenaTabulador() {
+    QWidget* const texto = &caja_.ventana();
+    setTabOrder(texto, &elementos_.captaEnfoque);
+    setTabOrder(texto, elementos_.tabulador.get());
 }
 
 void ControlNorvik::conectaEventos() {

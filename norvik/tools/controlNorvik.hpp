@@ -239,6 +239,7 @@ private:
     void muestraReemplazar() override;
     void muestraAcerca() override;
 
+    void ordenaTabulador();
     void conectaEventos();
     void conectaElementos();
     void cuentaFallo(const std::u16string& texto);

@@ -27,8 +27,6 @@ protected:
         antes.setGeometry(0, 0, 80, 25);
         norvik.setGeometry(0, 30, 400, 200);
         despues.setGeometry(0, 232, 80, 25);
-        QWidget::setTabOrder(&antes, &norvik.caja().ventana());
-        QWidget::setTabOrder(elemento<QPushButton>("tabulador"), &despues);
         formulario.show();
         QApplication::setActiveWindow(&formulario);
         norvik.setFocus();
