@@ -5,6 +5,7 @@
 #include "norvik/base/texto.hpp"
 
 #include <cstddef>
+#include <cstdint>
 #include <set>
 #include <tuple>
 
@@ -63,6 +64,30 @@ bool deriva(const Reglas& reglas, const std::vector<std::u16string>& frase) {
         if (inicio == 0 && todas[r].cabeza == todas.front().cabeza && punto == todas[r].cuerpo.size())
             return true;
     return false;
+}
+
+std::string defectoDeArbol(const Reglas& reglas, const ArbolEjemplo& arbol,
+                           const std::vector<std::u16string>& frase) {
+    const std::vector<Regla> todas = partidas(reglas);
+    std::vector<std::vector<std::u16string>> textos; // of each node, made of its children's
+    for (const auto& [simbolo, regla, hijos] : arbol.nodos) {
+        std::vector<std::u16string>& texto = textos.emplace_back();
+        if (regla == 0) {
+            texto.push_back(simbolo);
+            continue;
+        }
+        std::vector<std::u16string> cuerpo;
+        for (const std::int32_t hijo : hijos) {
+            const auto sitio = static_cast<std::size_t>(hijo);
+            if (sitio + 1 >= textos.size()) return "a child behind its parent";
+            cuerpo.push_back(arbol.nodos[sitio].simbolo);
+            texto.insert(texto.end(), textos[sitio].begin(), textos[sitio].end());
+        }
+        const Regla& suya = todas.at(static_cast<std::size_t>(regla) - 1);
+        if (suya.cabeza != simbolo || suya.cuerpo != cuerpo) return "no such rule " + std::to_string(regla);
+    }
+    if (textos.empty()) return "no tree";
+    return textos.back() == frase ? "" : "another text";
 }
 
 } // namespace norvik::apoyo

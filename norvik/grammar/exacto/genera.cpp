@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+
+#include "norvik/grammar/exacto/genera.hpp"
+
+#include "norvik/grammar/exacto/automata.hpp"
+#include "norvik/grammar/exacto/conjuntos.hpp"
+#include "norvik/grammar/exacto/tabla.hpp"
+
+#include <utility>
+
+namespace norvik::exacto {
+
+GramaticaLR genera(Reglas reglas, Metodo metodo) {
+    GramaticaLR g;
+    g.reglas = std::move(reglas);
+    g.partidas = ReglasPartidas(g.reglas);
+    const Producciones producciones(g.partidas);
+    g.conjuntos = creaConjuntos(producciones);
+    g.automata = metodo == Metodo::Lr1 ? creaAutomataLr1(producciones) : creaAutomata(producciones);
+    g.tabla = creaTabla(producciones, g.automata, metodo);
+    return g;
+}
+
+} // namespace norvik::exacto

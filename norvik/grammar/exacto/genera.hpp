@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/metodo.hpp"
+
+namespace norvik::exacto {
+
+/// Derives all from rules that `chequea` has nothing to say of, by an exact method. Raises what the steps
+/// raise (producciones.hpp, automata.hpp).
+GramaticaLR genera(Reglas reglas, Metodo metodo);
+
+} // namespace norvik::exacto

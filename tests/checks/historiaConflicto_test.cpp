@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+
+// Every example of a conflict is proved by what shares nothing with the search: rule by rule, and by Earley.
+#include "norvik/checks/historiaConflicto.hpp"
+
+#include "apoyo/earley.hpp"
+#include "apoyo/repite.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/grammar/exacto/genera.hpp"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace norvik;
+
+namespace {
+
+using Clase = HistoriaConflicto::Clase;
+using Cura = HistoriaConflicto::Cura;
+
+// «S -> a S | Ø; B -> b»
+Reglas reglasDe(std::u16string_view texto) {
+    Reglas reglas;
+    while (!texto.empty()) {
+        const std::u16string_view regla = texto.substr(0, texto.find(u';'));
+        texto = texto.substr(std::min(regla.size() + 1, texto.size()));
+        const std::size_t flecha = regla.find(u"->");
+        reglas.guarda(recorta(regla.substr(0, flecha)), recorta(regla.substr(flecha + 2)));
+    }
+    return reglas;
+}
+
+std::vector<HistoriaConflicto> historias(std::u16string_view texto, Metodo metodo,
+                                         const LimitesHistorias& limites = {}) {
+    const GramaticaLR g = exacto::genera(reglasDe(texto), metodo);
+    return cuentaConflictos(g, metodo, g.tabla, limites);
+}
+
+// «si c . sino»
+std::string enTexto(const EjemploConflicto& ejemplo) {
+    std::string texto;
+    const auto frase = ejemplo.frase();
+    for (std::size_t i = 0; i <= frase.size(); ++i) {
+        if (i == ejemplo.punto) texto += texto.empty() ? "." : " .";
+        if (i < frase.size()) texto += (texto.empty() ? "" : " ") + aUtf8(frase[i]);
+    }
+    return texto;
+}
+
+// The beginning of an example, the token of the conflict included.
+std::vector<std::u16string> hastaElToken(const EjemploConflicto& ejemplo) {
+    auto frase = ejemplo.frase();
+    frase.emplace_back(u"$");
+    frase.resize(std::min(ejemplo.punto + 1, frase.size()));
+    return frase;
+}
+
+void pruebaCompletos(const HistoriaConflicto& historia, const Reglas& reglas) {
+    for (const EjemploConflicto& ejemplo : historia.completos) {
+        EXPECT_EQ(apoyo::defectoDeArbol(reglas, ejemplo.arbol, ejemplo.frase()), "");
+        EXPECT_EQ(ejemplo.arbol.nodos.back().simbolo, reglas.en(1).cabeza);
+        EXPECT_TRUE(apoyo::deriva(reglas, ejemplo.frase())) << enTexto(ejemplo);
+        EXPECT_EQ(hastaElToken(ejemplo).back(), historia.simbolo);
+    }
+}
+
+// What an example promises. Says what is wrong with it.
+void compruebaHistoria(const HistoriaConflicto& historia, const Reglas& reglas) {
+    if (historia.clase == Clase::SinEjemplo) return;
+    for (const EjemploConflicto& corto : historia.cortos)
+        EXPECT_EQ(apoyo::defectoDeArbol(reglas, corto.arbol, corto.frase()), "");
+    pruebaCompletos(historia, reglas);
+    const auto& [uno, otro] = historia.completos;
+    if (historia.clase == Clase::Ambigua) {
+        EXPECT_EQ(historia.cortos[0].frase(), historia.cortos[1].frase());
+        EXPECT_NE(norvik::enTexto(historia.cortos[0].arbol), norvik::enTexto(historia.cortos[1].arbol));
+        EXPECT_EQ(uno.frase(), otro.frase());
+        EXPECT_EQ(uno.punto, otro.punto);
+        EXPECT_NE(norvik::enTexto(uno.arbol), norvik::enTexto(otro.arbol));
+    } else if (historia.clase == Clase::DosFrases) {
+        ASSERT_EQ(uno.punto, otro.punto);
+        EXPECT_EQ(hastaElToken(uno), hastaElToken(otro));
+    }
+}
+
+struct Caso {
+    std::u16string_view reglas;
+    Metodo metodo;
+    Clase clase;
+    Cura cura;
+    std::string corto; // of the first conflict
+};
+
+TEST(Historia, LasConocidas) {
+    const Caso casos[] = {
+        {u"S -> si c entonces S | si c entonces S sino S | a", Metodo::Slr, Clase::Ambigua,
+         Cura::SinoColgante, "si c entonces si c entonces S . sino S"},
+        {u"E -> E mas E | num", Metodo::Lalr, Clase::Ambigua, Cura::Asociatividad, "E mas E . mas E"},
+        {u"E -> E mas T | T por E | menos E | T; T -> num", Metodo::Lalr, Clase::Ambigua, Cura::Prioridad,
+         "menos E . mas T"},
+        {u"S -> L; L -> L E | Ø; E -> e | Ø", Metodo::Lr1, Clase::Ambigua, Cura::ListaDosVeces, "L . e"},
+        {u"L -> L L | a", Metodo::Lalr, Clase::Ambigua, Cura::ListaDosVeces, "L L . a"},
+        {u"S -> S | a", Metodo::Lalr, Clase::Ambigua, Cura::Ciclo, "S ."},
+        {u"S -> A | B; A -> a; B -> a", Metodo::Lalr, Clase::Ambigua, Cura::DosVariables, "a ."},
+        {u"S -> L igual R | R; L -> por R | id; R -> L", Metodo::Slr, Clase::SinComienzoComun,
+         Cura::MetodoLalr, "L . igual R"},
+        {u"S -> a A d | b B d | a B e | b A e; A -> c; B -> c", Metodo::Lalr, Clase::SinComienzoComun,
+         Cura::MetodoLr1, "a c . d"},
+        {u"S -> A b c | B b d; A -> a; B -> a", Metodo::Lr1, Clase::DosFrases, Cura::Factorizar, "a . b c"},
+        {u"S -> a S a | a", Metodo::Lalr, Clase::DosFrases, Cura::Factorizar, "a a . a S a a a"},
+        {u"S -> A A; A -> a | b A; B -> B b | Ø", Metodo::Lalr, Clase::SinEjemplo, Cura::Reescribir, ""},
+    };
+    for (const auto& [texto, metodo, clase, cura, corto] : casos) {
+        const Reglas reglas = reglasDe(texto);
+        const auto todas = historias(texto, metodo);
+        if (clase == Clase::SinEjemplo) {
+            EXPECT_TRUE(todas.empty());
+            continue;
+        }
+        ASSERT_FALSE(todas.empty()) << aUtf8(texto);
+        for (const HistoriaConflicto& historia : todas) compruebaHistoria(historia, reglas);
+        EXPECT_EQ(todas.front().clase, clase) << aUtf8(texto);
+        EXPECT_EQ(todas.front().cura, cura) << aUtf8(texto);
+        EXPECT_EQ(enTexto(todas.front().cortos[0]), corto);
+        EXPECT_EQ(todas.front().prueba == HistoriaConflicto::Prueba::DaElPrimero, clase == Clase::Ambigua);
+    }
+}
+
+std::u16string alAzar(std::mt19937& azar) {
+    const auto hasta = [&](std::size_t n) {
+        return std::uniform_int_distribution<std::size_t>(0, n - 1)(azar);
+    };
+    const std::u16string simbolos[] = {u"a", u"b", u"c", u"S", u"A", u"B"};
+    std::u16string texto;
+    const std::size_t variables = 1 + hasta(3);
+    for (std::size_t v = 0; v < variables; ++v) {
+        texto += (v == 0 ? u"" : u"; ") + simbolos[3 + v] + u" ->";
+        for (std::size_t cuerpos = 1 + hasta(3); cuerpos > 0; --cuerpos) {
+            std::u16string cuerpo;
+            for (std::size_t largo = hasta(5); largo > 0; --largo)
+                cuerpo += u" " + simbolos[hasta(2) == 0 ? hasta(3) : 3 + hasta(variables)];
+            texto += (cuerpo.empty() ? u" Ø" : cuerpo) + (cuerpos > 1 ? u" |" : u"");
+        }
+    }
+    return texto;
+}
+
+TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
+    std::mt19937 azar(20261125);
+    int ambiguas = 0;
+    int dosFrases = 0;
+    int solas = 0;
+    int comoSeDice = 0;
+    const Metodo metodos[] = {Metodo::Slr, Metodo::Lalr, Metodo::Lr1};
+    for (int i = 0; i < 3000 && !::testing::Test::HasFailure(); ++i) {
+        const std::u16string texto = alAzar(azar);
+        const Reglas reglas = reglasDe(texto);
+        const auto todas = historias(texto, metodos[i % 3], {1'000, 4'000});
+        for (const HistoriaConflicto& historia : todas) {
+            SCOPED_TRACE(aUtf8(texto + u" · " + aTexto(historia.estado) + u" " + historia.simbolo));
+            compruebaHistoria(historia, reglas);
+            if (historia.clase == Clase::Ambigua) ++ambiguas;
+            if (historia.clase == Clase::DosFrases) ++dosFrases;
+            EXPECT_FALSE(historia.clase == Clase::DosFrases && historia.cura == Cura::MetodoLalr);
+            if (historia.clase == Clase::Ambigua && todas.size() == 1) {
+                ++solas;
+                if (historia.prueba == HistoriaConflicto::Prueba::DaElPrimero) ++comoSeDice;
+            }
+        }
+    }
+    EXPECT_GT(ambiguas, 1000);
+    EXPECT_GT(dosFrases, 100);
+    EXPECT_GT(comoSeDice * 10, solas * 9); // the same cell may come twice in a sentence
+}
+
+} // namespace
