@@ -35,8 +35,10 @@ enum class Codigo : std::uint8_t {
     SinReglas,       ///< de una especificación: no se puede analizar nada
     Conflicto, ///< de una especificación: `hallado` son las dos acciones de una celda; `nombre`, estado y
                ///< símbolo
-    CapacidadSuperada, ///< de una especificación: `hallado` es el límite que se pasó
-    ModuloIncorrecto,  ///< de un módulo: `hallado` dice qué está mal en su línea
+    CapacidadSuperada,   ///< de una especificación: `hallado` es el límite que se pasó
+    ModuloIncorrecto,    ///< de un módulo: `hallado` dice qué está mal en su línea
+    ConflictosDistintos, ///< de una especificación: tiene `hallado` conflictos y su directiva quiere
+                         ///< `esperados`
 
     // De la revisión de una especificación --------------------------------------------------------------
     TokenSinUsar,    ///< ninguna regla usa el token `nombre`
@@ -51,6 +53,10 @@ enum class Codigo : std::uint8_t {
     ReglaRepetida,   ///< la regla de `nombre` y cuerpo `hallado` está dos veces; `relacionados`, la otra
     CabezaMinuscula, ///< la cabeza `nombre` empieza por minúscula: en los cuerpos es un token
     CabezaDispersa,  ///< las reglas de `nombre` no están seguidas; `relacionados`, la primera
+    DirectivaDesconocida, ///< no hay directiva `nombre`; `esperados`, una parecida
+    DirectivaIncorrecta,  ///< la directiva `nombre` no entiende `hallado`; `esperados`, lo que entiende
+    DirectivaSinEfecto,   ///< la directiva `nombre` no hace nada con el método clásico
+    DirectivaTardia,      ///< la directiva `nombre` está detrás de una definición, donde no pide nada
 };
 
 /// Otro lugar que tiene que ver con un diagnóstico, y lo que hay en él.

@@ -35,68 +35,96 @@ std::u16string propuesta(const std::vector<std::u16string>& nombres) {
     return nombres.empty() ? std::u16string() : une({u" ¿Quería decir ", lista(nombres), u"?"});
 }
 
-// A finding of a review: its name and its words, which say what is odd and what to do about it. Parts of the
-// diagnostic stand in braces.
-struct DeRevision {
+// A code: its name, and the words of a diagnostic, in which parts of it stand in braces.
+struct Fila {
     Codigo codigo;
     std::u16string_view nombre;
-    std::u16string_view palabras;
+    std::u16string_view palabras; ///< empty for those that depend on more
 };
 
-const DeRevision& deRevision(Codigo codigo) {
+const Fila& filaDe(Codigo codigo) {
     static constexpr std::array todas = {
-        DeRevision{Codigo::TokenSinUsar, u"token-sin-usar",
-                   u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
-                   u"quítelo."},
-        DeRevision{Codigo::AuxiliarSinUsar, u"auxiliar-sin-usar",
-                   u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
-        DeRevision{Codigo::TokenTapado, u"token-tapado",
-                   u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
-                   u"está antes. Pase {nombre} delante."},
-        DeRevision{Codigo::TokenRepetido, u"token-repetido",
-                   u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
-        DeRevision{Codigo::PatronVacio, u"patron-vacio",
-                   u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
-                   u"al menos uno (con + en lugar de *, por ejemplo)."},
-        DeRevision{Codigo::VariableSinUsar, u"variable-sin-usar",
-                   u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
-                   u"reglas."},
-        DeRevision{Codigo::VariableInalcanzable, u"variable-inalcanzable",
-                   u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
-                   u"variables a las que tampoco se llega."},
-        DeRevision{Codigo::VariableImproductiva, u"variable-improductiva",
-                   u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
-                   u"vez una variable de la que no sale ninguno. Dele una que acabe."},
-        DeRevision{
-            Codigo::Ciclo, u"ciclo",
-            u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
-            u"infinitos árboles. Quite una de esas reglas."},
-        DeRevision{Codigo::ReglaRepetida, u"regla-repetida",
-                   u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
-        DeRevision{Codigo::CabezaMinuscula, u"cabeza-minuscula",
-                   u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
-                   u"no se usan. Escríbala con mayúscula."},
-        DeRevision{Codigo::CabezaDispersa, u"cabeza-dispersa",
-                   u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
-                   u"se usan. Júntelas."},
+        Fila{Codigo::CaracterIncorrecto, u"caracter-incorrecto", u"Carácter {hallado} incorrecto."},
+        Fila{Codigo::TokenInesperado, u"token-inesperado", {}},
+        Fila{Codigo::BusquedaDesbocada, u"busqueda-desbocada", {}},
+        Fila{Codigo::Cancelado, u"cancelado", u"La operación se ha cancelado."},
+        Fila{Codigo::Utf8Incorrecto, u"utf8-incorrecto", u"Los bytes del texto no son UTF-8."},
+        Fila{Codigo::SinGramatica, u"sin-gramatica",
+             u"El lenguaje no tiene reglas con las que analizar un texto."},
+        Fila{Codigo::TablaIncorrecta, u"tabla-incorrecta",
+             u"La tabla SLR del lenguaje es incorrecta: {hallado}."},
+        Fila{Codigo::CodigoMalEscrito, u"codigo-mal-escrito", {}},
+        Fila{Codigo::ReferenciaDesconocida, u"referencia-desconocida", {}},
+        Fila{Codigo::PatronIncorrecto, u"patron-incorrecto", {}},
+        Fila{Codigo::VariableIndefinida, u"variable-indefinida", {}},
+        Fila{Codigo::TokenIndefinido, u"token-indefinido",
+             u"El token {hallado}, que usa una regla de {nombre}, no está definido.{propuesta}"},
+        Fila{Codigo::SinReglas, u"sin-reglas",
+             u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto."},
+        Fila{Codigo::Conflicto, u"conflicto", u"Conflicto {hallado} en {nombre}."},
+        Fila{Codigo::CapacidadSuperada, u"capacidad-superada", u"{hallado}"},
+        Fila{Codigo::ModuloIncorrecto, u"modulo-incorrecto", u"{hallado}"},
+        Fila{Codigo::ConflictosDistintos, u"conflictos-distintos",
+             u"La tabla tiene {hallado} conflictos, y aquí se esperaban {esperados}. Mire los que sobran, o "
+             u"ponga el número que hay."},
+        Fila{Codigo::TokenSinUsar, u"token-sin-usar",
+             u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
+             u"quítelo."},
+        Fila{Codigo::AuxiliarSinUsar, u"auxiliar-sin-usar",
+             u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
+        Fila{Codigo::TokenTapado, u"token-tapado",
+             u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
+             u"está antes. Pase {nombre} delante."},
+        Fila{Codigo::TokenRepetido, u"token-repetido",
+             u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
+        Fila{Codigo::PatronVacio, u"patron-vacio",
+             u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
+             u"al menos uno (con + en lugar de *, por ejemplo)."},
+        Fila{Codigo::VariableSinUsar, u"variable-sin-usar",
+             u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
+             u"reglas."},
+        Fila{Codigo::VariableInalcanzable, u"variable-inalcanzable",
+             u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
+             u"variables a las que tampoco se llega."},
+        Fila{Codigo::VariableImproductiva, u"variable-improductiva",
+             u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
+             u"vez una variable de la que no sale ninguno. Dele una que acabe."},
+        Fila{Codigo::Ciclo, u"ciclo",
+             u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
+             u"infinitos árboles. Quite una de esas reglas."},
+        Fila{Codigo::ReglaRepetida, u"regla-repetida",
+             u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+        Fila{Codigo::CabezaMinuscula, u"cabeza-minuscula",
+             u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
+             u"no se usan. Escríbala con mayúscula."},
+        Fila{Codigo::CabezaDispersa, u"cabeza-dispersa",
+             u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
+             u"se usan. Júntelas."},
+        Fila{Codigo::DirectivaDesconocida, u"directiva-desconocida",
+             u"No hay ninguna directiva '{nombre}': la línea no pide nada.{propuesta}"},
+        Fila{Codigo::DirectivaIncorrecta, u"directiva-incorrecta",
+             u"La directiva '{nombre}' no sabe qué hacer con '{hallado}'. Se esperaba {esperados}."},
+        Fila{Codigo::DirectivaSinEfecto, u"directiva-sin-efecto",
+             u"La directiva '{nombre}' no tiene efecto con el método clásico. Elija otro con una línea "
+             u"'% metodo: lalr"},
+        Fila{Codigo::DirectivaTardia, u"directiva-tardia",
+             u"La directiva '{nombre}' no pide nada aquí: va delante de la primera definición."},
     };
-    return *std::ranges::find(todas, codigo, &DeRevision::codigo);
+    return *std::ranges::find(todas, codigo, &Fila::codigo);
 }
 
-std::u16string mensajeDeRevision(const Diagnostico& diagnostico) {
-    const Partes& partes = diagnostico.partes;
-    const std::u16string esperados = lista(partes.esperados);
+std::u16string rellena(std::u16string_view palabras, const Partes& partes) {
     std::u16string texto;
-    std::u16string_view resto = deRevision(diagnostico.codigo).palabras;
-    while (!resto.empty()) {
-        const std::size_t abre = std::min(resto.find(u'{'), resto.size());
-        const std::size_t cierra = std::min(resto.find(u'}', abre), resto.size());
-        const std::u16string_view hueco = resto.substr(abre, cierra - abre);
-        texto.append(resto.substr(0, abre));
+    while (!palabras.empty()) {
+        const std::size_t abre = std::min(palabras.find(u'{'), palabras.size());
+        const std::size_t cierra = std::min(palabras.find(u'}', abre), palabras.size());
+        const std::u16string_view hueco = palabras.substr(abre, cierra - abre);
+        texto.append(palabras.substr(0, abre));
         if (hueco == u"{nombre") texto += partes.nombre;
         if (hueco == u"{hallado") texto += partes.hallado;
-        if (hueco == u"{esperados") texto += esperados;
-        resto = resto.substr(std::min(cierra + 1, resto.size()));
+        if (hueco == u"{esperados") texto += lista(partes.esperados);
+        if (hueco == u"{propuesta") texto += propuesta(partes.esperados);
+        palabras = palabras.substr(std::min(cierra + 1, palabras.size()));
     }
     return texto;
 }
@@ -154,54 +182,7 @@ std::u16string entreApostrofos(std::u16string_view texto) {
 } // namespace palabras
 
 std::u16string_view nombreDe(Codigo codigo) {
-    switch (codigo) {
-    case Codigo::CaracterIncorrecto:
-        return u"caracter-incorrecto";
-    case Codigo::TokenInesperado:
-        return u"token-inesperado";
-    case Codigo::BusquedaDesbocada:
-        return u"busqueda-desbocada";
-    case Codigo::Cancelado:
-        return u"cancelado";
-    case Codigo::Utf8Incorrecto:
-        return u"utf8-incorrecto";
-    case Codigo::SinGramatica:
-        return u"sin-gramatica";
-    case Codigo::TablaIncorrecta:
-        return u"tabla-incorrecta";
-    case Codigo::CodigoMalEscrito:
-        return u"codigo-mal-escrito";
-    case Codigo::ReferenciaDesconocida:
-        return u"referencia-desconocida";
-    case Codigo::PatronIncorrecto:
-        return u"patron-incorrecto";
-    case Codigo::VariableIndefinida:
-        return u"variable-indefinida";
-    case Codigo::TokenIndefinido:
-        return u"token-indefinido";
-    case Codigo::SinReglas:
-        return u"sin-reglas";
-    case Codigo::Conflicto:
-        return u"conflicto";
-    case Codigo::CapacidadSuperada:
-        return u"capacidad-superada";
-    case Codigo::ModuloIncorrecto:
-        return u"modulo-incorrecto";
-    case Codigo::TokenSinUsar:
-    case Codigo::AuxiliarSinUsar:
-    case Codigo::TokenTapado:
-    case Codigo::TokenRepetido:
-    case Codigo::PatronVacio:
-    case Codigo::VariableSinUsar:
-    case Codigo::VariableInalcanzable:
-    case Codigo::VariableImproductiva:
-    case Codigo::Ciclo:
-    case Codigo::ReglaRepetida:
-    case Codigo::CabezaMinuscula:
-    case Codigo::CabezaDispersa:
-        return deRevision(codigo).nombre;
-    }
-    return {};
+    return filaDe(codigo).nombre;
 }
 
 std::u16string_view nombreDe(Gravedad gravedad) {
@@ -217,59 +198,22 @@ std::u16string_view nombreDe(Gravedad gravedad) {
 }
 
 std::u16string mensaje(const Diagnostico& diagnostico) {
+    const Fila& fila = filaDe(diagnostico.codigo);
+    if (!fila.palabras.empty()) return rellena(fila.palabras, diagnostico.partes);
     const auto& [nombre, hallado, esperados, relacionados] = diagnostico.partes;
-    switch (diagnostico.codigo) {
-    case Codigo::CaracterIncorrecto:
-        return une({u"Carácter ", hallado, u" incorrecto."});
-    case Codigo::TokenInesperado:
-        if (esperados.empty()) return une({u"Se ha encontrado ", hallado, u"."});
-        return une({u"Se ha encontrado ", hallado, u". Se esperaba ", lista(esperados), u"."});
-    case Codigo::BusquedaDesbocada:
-        return palabras::busquedaDesbocada(nombre);
-    case Codigo::Cancelado:
-        return u"La operación se ha cancelado.";
-    case Codigo::Utf8Incorrecto:
-        return u"Los bytes del texto no son UTF-8.";
-    case Codigo::SinGramatica:
-        return u"El lenguaje no tiene reglas con las que analizar un texto.";
-    case Codigo::TablaIncorrecta:
-        return une({u"La tabla SLR del lenguaje es incorrecta: ", hallado, u"."});
-    case Codigo::CodigoMalEscrito:
-        return palabras::codigoMalEscrito(nombre);
-    case Codigo::ReferenciaDesconocida:
-        if (!relacionados.empty())
-            return une({palabras::referenciaDesconocida(nombre, hallado),
-                        u" Está más abajo: póngala delante de '", nombre, u"'."});
-        return palabras::referenciaDesconocida(nombre, hallado) + propuesta(esperados);
-    case Codigo::PatronIncorrecto:
-        return palabras::patronIncorrecto(nombre, hallado);
-    case Codigo::VariableIndefinida:
+    const Codigo codigo = diagnostico.codigo;
+    if (codigo == Codigo::BusquedaDesbocada) return palabras::busquedaDesbocada(nombre);
+    if (codigo == Codigo::CodigoMalEscrito) return palabras::codigoMalEscrito(nombre);
+    if (codigo == Codigo::PatronIncorrecto) return palabras::patronIncorrecto(nombre, hallado);
+    if (codigo == Codigo::VariableIndefinida)
         return palabras::variableIndefinida(hallado, nombre) + propuesta(esperados);
-    case Codigo::TokenIndefinido:
-        return une({u"El token ", hallado, u", que usa una regla de ", nombre, u", no está definido.",
-                    propuesta(esperados)});
-    case Codigo::SinReglas:
-        return u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto.";
-    case Codigo::Conflicto:
-        return une({u"Conflicto ", hallado, u" en ", nombre, u"."});
-    case Codigo::CapacidadSuperada:
-    case Codigo::ModuloIncorrecto:
-        return hallado;
-    case Codigo::TokenSinUsar:
-    case Codigo::AuxiliarSinUsar:
-    case Codigo::TokenTapado:
-    case Codigo::TokenRepetido:
-    case Codigo::PatronVacio:
-    case Codigo::VariableSinUsar:
-    case Codigo::VariableInalcanzable:
-    case Codigo::VariableImproductiva:
-    case Codigo::Ciclo:
-    case Codigo::ReglaRepetida:
-    case Codigo::CabezaMinuscula:
-    case Codigo::CabezaDispersa:
-        return mensajeDeRevision(diagnostico);
-    }
-    return {};
+    if (codigo == Codigo::ReferenciaDesconocida && relacionados.empty())
+        return palabras::referenciaDesconocida(nombre, hallado) + propuesta(esperados);
+    if (codigo == Codigo::ReferenciaDesconocida)
+        return une({palabras::referenciaDesconocida(nombre, hallado),
+                    u" Está más abajo: póngala delante de '", nombre, u"'."});
+    if (esperados.empty()) return une({u"Se ha encontrado ", hallado, u"."});
+    return une({u"Se ha encontrado ", hallado, u". Se esperaba ", lista(esperados), u"."});
 }
 
 bool hayErrores(const std::vector<Diagnostico>& diagnosticos) {

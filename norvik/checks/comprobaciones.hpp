@@ -4,7 +4,7 @@
 
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/checks/fuente.hpp"
-#include "norvik/grammar/metodo.hpp"
+#include "norvik/spec/directivas.hpp"
 
 #include <vector>
 
@@ -12,9 +12,12 @@
 namespace norvik {
 
 /// Of definitions: those that nobody uses, stand twice or never win, and patterns that can take nothing.
-void compruebaTokens(const Fuente& fuente, std::vector<Diagnostico>& hallazgos);
+void compruebaTokens(const Fuente& fuente, const Directivas& directivas, std::vector<Diagnostico>& hallazgos);
 /// Of rules: variables that nobody uses or reaches, or from which no text comes; heads, cycles, rules that
 /// stand twice.
 void compruebaReglas(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos);
+/// Of the lines with the form of a directive: those that ask for nothing, and why.
+void compruebaDirectivas(std::u16string_view especificacion, const Fuente& fuente,
+                         const Directivas& directivas, std::vector<Diagnostico>& hallazgos);
 
 } // namespace norvik

@@ -115,11 +115,10 @@ private:
     MapaCoincidencias mapa_;
 };
 
-void compruebaPatrones(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+void compruebaPatrones(const Fuente& fuente, bool sensible, std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
     for (const Definicion& d : fuente.definiciones) {
-        constexpr bool sensible = false;
         const bool registrada = !lexico.registra({d.texto, d.nombre, d.esToken, sensible, {}, d.tipo});
         if (registrada && d.esToken) deToken.push_back(&d);
     }
@@ -139,11 +138,12 @@ void compruebaPatrones(const Fuente& fuente, std::vector<Diagnostico>& hallazgos
 
 } // namespace
 
-void compruebaTokens(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+void compruebaTokens(const Fuente& fuente, const Directivas& directivas,
+                     std::vector<Diagnostico>& hallazgos) {
     compruebaUsos(fuente, hallazgos);
     compruebaRepetidas(fuente, hallazgos);
     try {
-        compruebaPatrones(fuente, hallazgos);
+        compruebaPatrones(fuente, directivas.distingueMayusculas, hallazgos);
     } catch (const Desbordamiento&) {
         return; // compiling tells which capacity was passed, and a text that runs away proves nothing
     }

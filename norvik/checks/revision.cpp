@@ -7,7 +7,6 @@
 #include "norvik/checks/fuente.hpp"
 #include "norvik/checks/nombreCercano.hpp"
 #include "norvik/spec/compiladorLenguaje.hpp"
-#include "norvik/spec/directivas.hpp"
 
 #include <algorithm>
 #include <string>
@@ -60,14 +59,15 @@ void completa(Diagnostico& diagnostico, const Fuente& fuente) {
 } // namespace
 
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    const Metodo metodo = opciones.metodo.value_or(leeDirectivas(especificacion).metodo);
+    const Directivas directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
     const Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
     if (!analisis) return analisis.diagnosticos;
-    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, metodo).diagnosticos;
+    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, directivas).diagnosticos;
     const Fuente fuente = fuenteDe(analisis);
     for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
-    compruebaTokens(fuente, hallazgos);
-    compruebaReglas(fuente, metodo, hallazgos);
+    compruebaDirectivas(especificacion, fuente, directivas, hallazgos);
+    compruebaTokens(fuente, directivas, hallazgos);
+    compruebaReglas(fuente, directivas.tabla.metodo, hallazgos);
     std::ranges::stable_sort(hallazgos, {},
                              [](const Diagnostico& d) { return d.rango.inicio.desplazamiento; });
     return hallazgos;

@@ -50,14 +50,14 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
         return Fallo{Fallo::Paso::Analisis, especificacion.GetmensajeError()};
     gramatica_.inicializaConjuntos();
     gramatica_.inicializaGramatica();
-    gramatica_.ponMetodo(leeDirectivas(especificacion.Text()).metodo);
     lexico_.Inicializa();
     // Nothing is shown while the other control's tree is walked: a receiver may parse with it.
     std::vector<Mensaje> mensajes;
     SistemaMemoria callado([&](const Mensaje& mensaje) { mensajes.push_back(mensaje); });
     PasosFirmes paso;
     paso([&] {
-        CompilaArbolEspecificacion(especificacion.GetArbolSintactico(), gramatica_, lexico_, callado);
+        CompilaArbolEspecificacion(especificacion.GetArbolSintactico(), gramatica_, lexico_, callado,
+                                   leeDirectivas(especificacion.Text(), Lugares::Unidad::Utf16));
     });
     for (const Mensaje& mensaje : mensajes) sistema_.muestraMensaje(mensaje);
     paso.acaba();

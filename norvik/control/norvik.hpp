@@ -73,6 +73,9 @@ public:
     /// Lo mismo de un token cuya expresión es ya un patrón, sin referencias ni códigos.
     void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
                    std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) override;
+    /// Lo que pide al principio el módulo de un lenguaje que distingue mayúsculas: pone `LenguajeSensible`,
+    /// que se queda puesto, y los módulos que se escriban lo pedirán.
+    void DistingueMayusculas() override;
     /// Registra una palabra reservada. Si `token` está vacío se convierte en la palabra en minúsculas.
     void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                              std::u16string_view pseudoToken = {}) override;

@@ -24,6 +24,12 @@ void Norvik::SetPatron(std::u16string_view patron, std::u16string_view nomER, st
     partes_->SetPatron(patron, nomER, a16(tipoToken, u"el tipo del token"), pseudoToken, baseToken);
 }
 
+void Norvik::DistingueMayusculas() {
+    partes_->compruebaQueNadaCarga();
+    LenguajeSensible(true);
+    Lexico().distingueMayusculas = true;
+}
+
 void Norvik::SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
                                  std::u16string_view pseudoToken) {
     if (token.empty()) token = aMinusculas(lexema);

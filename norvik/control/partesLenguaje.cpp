@@ -120,12 +120,14 @@ bool PartesControl::CargaGramatica(std::u16string_view codGramatica) {
     const Ocupado ocupado(sistema);
     if (!analizaEspecificacion(codGramatica)) return false;
     laGramatica.inicializaGramatica();
-    laGramatica.ponMetodo(leeDirectivas(codGramatica).metodo);
     lexico.Inicializa();
     std::vector<Mensaje> mensajes;
     SistemaMemoria callado([&](const Mensaje& mensaje) { mensajes.push_back(mensaje); });
     PasosFirmes paso;
-    paso([&] { CompilaArbolEspecificacion(conductor.GetArbolSintactico(), laGramatica, lexico, callado); });
+    paso([&] {
+        CompilaArbolEspecificacion(conductor.GetArbolSintactico(), laGramatica, lexico, callado,
+                                   leeDirectivas(codGramatica, Lugares::Unidad::Utf16));
+    });
     bool correcta = false;
     if (!paso.haFallado()) {
         conductor.SetmensajeError(laGramatica.chequeaGramatica());

@@ -43,7 +43,7 @@ void gramatica::inicializaGramatica() {
     valores_.reglas = Reglas();
     valores_.partidas = ReglasPartidas();
     valores_.tabla.ponInicial({});
-    metodo_ = Metodo::Clasico;
+    opciones_ = {};
     inicializaConjuntos();
 }
 
@@ -51,14 +51,14 @@ void gramatica::copiaReglas(const gramatica& otra) {
     inicializaGramatica();
     valores_.reglas = otra.valores_.reglas;
     valores_.tabla.ponInicial(valores_.reglas.en(1).cabeza);
-    metodo_ = otra.metodo_;
+    opciones_ = otra.opciones_;
     inicializaConjuntos();
 }
 
 void gramatica::intercambia(gramatica& otra) {
     std::swap(valores_, otra.valores_);
     std::swap(pendientes_, otra.pendientes_);
-    std::swap(metodo_, otra.metodo_);
+    std::swap(opciones_, otra.opciones_);
     std::swap(numEstados_, otra.numEstados_);
     std::swap(conTextos_, otra.conTextos_);
     edicion_ = otra.edicion_ = std::max(edicion_, otra.edicion_) + 1;
@@ -120,7 +120,7 @@ void gramatica::creaAutomata() {
     valores_.automata = AutomataLR();
     numEstados_ = 0;
     try {
-        valores_.automata = automataDe(partidas(), metodo_);
+        valores_.automata = automataDe(partidas(), metodo());
         numEstados_ = a16(valores_.automata.estados.size());
     } catch (...) {
         olvidaGenerado();
@@ -163,11 +163,11 @@ void gramatica::creaTablaSLR() {
     if (!partidas().hayInicial()) return;
     cambia();
     try {
-        valores_.tabla = metodo_ == Metodo::Clasico
+        valores_.tabla = metodo() == Metodo::Clasico
                              ? clasico::creaTabla(valores_.partidas, valores_.conjuntos, valores_.automata,
                                                   valores_.tabla.simbolos())
                              : exacto::creaTabla(exacto::Producciones(valores_.partidas), valores_.automata,
-                                                 metodo_, valores_.tabla.simbolos());
+                                                 opciones_, valores_.tabla.simbolos());
     } catch (...) {
         olvidaGenerado();
         throw;

@@ -8,7 +8,7 @@
 #include "norvik/grammar/conjunto.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
 #include "norvik/grammar/gramaticaLR.hpp"
-#include "norvik/grammar/metodo.hpp"
+#include "norvik/grammar/opcionesTabla.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +18,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace norvik {
@@ -47,8 +48,10 @@ public:
 
     /// Con qué método se hacen conjuntos, autómata y tabla; no cambia los que ya estén hechos. El clásico,
     /// mientras no se ponga otro; `inicializaGramatica` vuelve a él.
-    void ponMetodo(Metodo metodo) { metodo_ = metodo; }
-    Metodo metodo() const { return metodo_; }
+    void ponMetodo(Metodo metodo) { opciones_.metodo = metodo; }
+    Metodo metodo() const { return opciones_.metodo; }
+    /// Lo mismo de lo que resuelve conflictos; `inicializaGramatica` lo quita.
+    void ponPrecedencias(Precedencias precedencias) { opciones_.precedencias = std::move(precedencias); }
 
     /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
     const GramaticaLR& valores() const { return valores_; }
@@ -274,7 +277,7 @@ private:
 
     GramaticaLR valores_; // `partidas` may lack the last rules
     clasico::Pendientes pendientes_;
-    Metodo metodo_ = Metodo::Clasico;
+    OpcionesTabla opciones_;
     std::int16_t numEstados_ = 0;
     std::uint64_t edicion_ = 0;
     // Made when they are first asked for: no table needs them. Several readers may be the first.

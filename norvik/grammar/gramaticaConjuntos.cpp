@@ -59,7 +59,7 @@ void gramatica::olvidaGenerado() {
 void gramatica::creaConjuntos() {
     inicializaConjuntos();
     try {
-        if (metodo_ == Metodo::Clasico) {
+        if (metodo() == Metodo::Clasico) {
             clasico::calculaConjuntos(valores_.partidas, valores_.conjuntos, pendientes_);
         } else {
             valores_.conjuntos = exacto::creaConjuntos(exacto::Producciones(valores_.partidas));

@@ -16,6 +16,7 @@ void pilaTokens::Inicializa() {
     mapaTokens_.vacia();
     reconocedor_.reset();
     definiciones_.vacia();
+    distingueMayusculas = false;
     ++edicion_;
 }
 

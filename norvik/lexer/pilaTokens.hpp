@@ -55,6 +55,9 @@ public:
 
     /// Se guarda y no tiene otro efecto.
     bool autoNumber = false;
+    /// El lenguaje pidió distinguir mayúsculas, y sus módulos lo dicen; cada definición sigue lo que se le
+    /// diga al registrarla. `Inicializa` lo quita.
+    bool distingueMayusculas = false;
 
     /// Olvida las definiciones y el mapa de tokens; los colores se quedan.
     void Inicializa();

@@ -76,6 +76,7 @@ void escribeTokens(EscritorLineas& salida, const pilaTokens& lexico) {
     salida.escribe();
     salida.escribe(u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
     salida.escribe();
+    if (lexico.distingueMayusculas) salida.escribe(llamada, u"LenguajeSensible = True");
     for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
         const expresionRegular& token = lexico.getTokenLenguaje(i);
         salida.escribe(llamada, u"SetER ", literal(token.getExpReg()), u", \"", token.GetToken(),

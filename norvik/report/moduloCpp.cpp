@@ -162,7 +162,8 @@ void escribeDatos(const GramaticaLR& g, EscritorLineas& salida, const pilaTokens
     salida.escribe(u"inline constexpr norvik::DatosLenguaje datos{");
     salida.escribe(u"    ", tabla(hayDefiniciones, u"definiciones"), u", ", tabla(hayReglas, u"reglas"),
                    u", ", g.tabla.filasVigentes(), u", ", simbolos.size(), u", ", tabla(hayCeldas, u"celdas"),
-                   u", ", tabla(haySimbolos, u"simbolos"), u"};");
+                   u", ", tabla(haySimbolos, u"simbolos"), lexico.distingueMayusculas ? u", true" : u"",
+                   u"};");
 }
 
 } // namespace

@@ -47,6 +47,8 @@ public:
                            std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) {
         SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
     }
+    /// Las definiciones que siguen distinguen mayúsculas: lo que hace `LenguajeSensible = True` en un módulo.
+    virtual void DistingueMayusculas() = 0;
     /// Registra una palabra reservada. Un nombre de token vacío se convierte en la palabra en minúsculas, y
     /// con él la variable de quien llama.
     virtual void SetPalabraReservada(std::u16string_view lexema, std::u16string& token,

@@ -57,13 +57,16 @@ std::u16string cuerpoDe(const NodoDeArbol& nodo) {
 } // namespace
 
 std::u16string CompilaArbolEspecificacion(const Arbol& nodo, gramatica& g, pilaTokens& lexico,
-                                          Sistema& sistema) {
+                                          Sistema& sistema, const Directivas& directivas) {
+    g.ponMetodo(directivas.tabla.metodo);
+    g.ponPrecedencias(directivas.tabla.precedencias);
+    lexico.distingueMayusculas = directivas.distingueMayusculas;
     const NodoDeArbol raiz(nodo);
     if (esParteDeUnCuerpo(raiz)) return cuerpoDe(raiz);
     const auto define = [&](const especificacion::Definicion<NodoDeArbol>& d) {
-        constexpr bool sensible = false;
-        const std::u16string error = lexico.SetER(d.patron.lexema(), d.nombre.lexema(), d.esToken, sensible,
-                                                  d.pseudoToken, d.perfil.tipo, d.perfil.base, sinColor);
+        const std::u16string error =
+            lexico.SetER(d.patron.lexema(), d.nombre.lexema(), d.esToken, directivas.distingueMayusculas,
+                         d.pseudoToken, d.perfil.tipo, d.perfil.base, sinColor);
         if (!error.empty())
             sistema.muestraMensaje({error, u"Atención", Icono::Exclamacion, Botones::Aceptar});
     };

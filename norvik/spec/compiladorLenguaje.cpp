@@ -34,8 +34,11 @@ Lenguaje acaba(std::shared_ptr<DatosDeLenguaje> datos) {
 
 class CompiladorLenguaje {
 public:
-    CompiladorLenguaje(NodoEspecificacion raiz, Metodo metodo) : raiz_(raiz) {
-        datos_->reglas.ponMetodo(metodo);
+    CompiladorLenguaje(NodoEspecificacion raiz, const Directivas& directivas)
+        : raiz_(raiz), directivas_(directivas) {
+        datos_->reglas.ponMetodo(directivas.tabla.metodo);
+        datos_->reglas.ponPrecedencias(directivas.tabla.precedencias);
+        datos_->lexico.distingueMayusculas = directivas.distingueMayusculas;
     }
 
     Compilacion compila() {
@@ -83,9 +86,9 @@ private:
     }
 
     void registra(const especificacion::Definicion<NodoEspecificacion>& d) {
-        constexpr bool sensible = false;
-        auto error = datos_->lexico.registra({d.patron.lexema(), d.nombre.lexema(), d.esToken, sensible,
-                                              d.pseudoToken, d.perfil.tipo, d.perfil.base});
+        auto error = datos_->lexico.registra({d.patron.lexema(), d.nombre.lexema(), d.esToken,
+                                              directivas_.distingueMayusculas, d.pseudoToken, d.perfil.tipo,
+                                              d.perfil.base});
         if (d.esToken) tokens_.insert(d.nombre.lexema());
         if (!error) return;
         error->rango = d.patron.rango();
@@ -140,6 +143,7 @@ private:
 
     void anotaConflictos() {
         const gramatica& g = datos_->reglas;
+        const std::size_t antes = diagnosticos_.size();
         for (std::int16_t fila = 1; fila <= g.filasVigentes(); ++fila)
             for (std::int16_t columna = 1; columna <= g.columnasVigentes(); ++columna) {
                 if (!g.enConflicto(fila, columna)) continue;
@@ -151,9 +155,22 @@ private:
                        {},
                        {}});
             }
+        comparaConLosQueridos(std::span(diagnosticos_).subspan(antes));
+    }
+
+    // Those that are meant are no longer warned of; another number of them is.
+    void comparaConLosQueridos(std::span<Diagnostico> conflictos) {
+        const auto& queridos = directivas_.conflictos;
+        if (!queridos || directivas_.tabla.metodo == Metodo::Clasico) return;
+        if (static_cast<std::size_t>(queridos->numero) == conflictos.size())
+            for (Diagnostico& conflicto : conflictos) conflicto.gravedad = Gravedad::Nota;
+        else
+            anota(Codigo::ConflictosDistintos, Gravedad::Aviso, queridos->lugar,
+                  {{}, aTexto(static_cast<std::int64_t>(conflictos.size())), {aTexto(queridos->numero)}, {}});
     }
 
     NodoEspecificacion raiz_;
+    const Directivas& directivas_;
     std::shared_ptr<DatosDeLenguaje> datos_ = std::make_shared<DatosDeLenguaje>();
     std::vector<Diagnostico> diagnosticos_;
     std::set<std::u16string_view> tokens_;
@@ -167,20 +184,20 @@ class CargadorDeDatos final : public CargadorLenguaje {
 public:
     explicit CargadorDeDatos(DatosDeLenguaje& datos) : datos_(datos) {}
 
+    void DistingueMayusculas() override { datos_.lexico.distingueMayusculas = true; }
+
     void SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken, std::int32_t tipoToken,
                std::u16string_view pseudoToken, std::int32_t baseToken,
                std::int32_t /*colorTexto*/) override {
-        constexpr bool sensible = false;
-        const auto error = datos_.lexico.registra({expresion, nomER, esToken, sensible, pseudoToken,
+        const auto error = datos_.lexico.registra({expresion, nomER, esToken, sensible(), pseudoToken,
                                                    a16(tipoToken, u"el tipo del token"), baseToken});
         if (error) throw ArgumentoNoValido(mensaje(*error));
     }
     void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
                    std::u16string_view pseudoToken, std::int32_t baseToken,
                    std::int32_t /*colorTexto*/) override {
-        constexpr bool sensible = false;
         const auto error = datos_.lexico.registraPatron(
-            {patron, nomER, true, sensible, pseudoToken, a16(tipoToken, u"el tipo del token"), baseToken});
+            {patron, nomER, true, sensible(), pseudoToken, a16(tipoToken, u"el tipo del token"), baseToken});
         if (error) throw ArgumentoNoValido(mensaje(*error));
     }
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas) override {
@@ -207,6 +224,8 @@ public:
     bool GeneraCompilador() override { return false; }
 
 private:
+    bool sensible() const { return datos_.lexico.distingueMayusculas; }
+
     DatosDeLenguaje& datos_;
 };
 
@@ -257,9 +276,16 @@ const Lenguaje& lenguajeDeEspecificaciones() {
     return lenguaje;
 }
 
-Compilacion compilaEspecificacion(const Analisis& especificacion, Metodo metodo) {
+Directivas directivasDe(std::u16string_view especificacion, const OpcionesCompilacion& opciones,
+                        Lugares::Unidad unidad) {
+    Directivas directivas = leeDirectivas(especificacion, unidad);
+    if (opciones.metodo) directivas.tabla.metodo = *opciones.metodo;
+    return directivas;
+}
+
+Compilacion compilaEspecificacion(const Analisis& especificacion, const Directivas& directivas) {
     if (!especificacion) return {std::nullopt, especificacion.diagnosticos};
-    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), metodo).compila();
+    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), directivas).compila();
 }
 
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {

@@ -7,6 +7,7 @@
 namespace norvik {
 
 void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control) {
+    if (datos.distingueMayusculas) control.DistingueMayusculas();
     for (const auto& d : datos.definiciones)
         control.SetPatron(d.patron, d.nombre, d.tipo, d.pseudoToken, d.base, d.color);
     for (const auto& regla : datos.reglas) control.SetRegla(regla);

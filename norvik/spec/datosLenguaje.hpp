@@ -31,6 +31,7 @@ struct DatosLenguaje {
     std::int16_t columnas = 0;
     std::span<const CeldaSLR> celdas;              ///< las entradas de la tabla que no están vacías
     std::span<const std::u16string_view> simbolos; ///< en el orden de las columnas
+    bool distingueMayusculas = false;
 };
 
 /// Carga un lenguaje en un control, con las llamadas de su módulo. Se añade a lo que el control ya tuviera.

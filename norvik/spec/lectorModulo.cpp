@@ -32,6 +32,7 @@ struct LlamadaSetER {
     std::int32_t base = 0;
     std::int32_t color = 0;
 };
+struct LlamadaSensible {};
 struct LlamadaSetRegla {
     std::u16string regla;
 };
@@ -73,6 +74,7 @@ private:
 
 /// All the calls of a module.
 struct Modulo {
+    std::vector<Llamada<LlamadaSensible>> sensible; ///< once or never
     std::vector<Llamada<LlamadaSetER>> definiciones;
     std::vector<Llamada<LlamadaSetRegla>> reglas;
     Llamada<LlamadaDimension> dimension;
@@ -163,6 +165,10 @@ private:
     void procedimientoDeTokens() {
         lineas_.linea(u"Public Sub CargaTokensLenguaje", parametro);
         lineas_.linea(u"'Función para cargar las definiciones léxicas de los tokens del lenguaje:");
+        if (lineas_.es(u"NorvikRefParam.LenguajeSensible = ")) {
+            lineas_.acaba(u"True");
+            modulo_.sensible.push_back({lineas_.numeroDeLinea(), {}});
+        }
         while (lineas_.es(u"NorvikRefParam.SetER ")) definicion();
         lineas_.linea(u"End Sub");
     }
@@ -199,6 +205,9 @@ private:
     Modulo modulo_;
 };
 
+void llama(CargadorLenguaje& control, LlamadaSensible /*l*/) {
+    control.DistingueMayusculas();
+}
 void llama(CargadorLenguaje& control, const LlamadaSetER& l) {
     control.SetPatron(l.patron, l.nombre, l.tipo, l.pseudoToken, l.base, l.color);
 }
@@ -218,6 +227,7 @@ public:
     explicit Ejecucion(CargadorLenguaje& control) : control_(control) {}
 
     void ejecuta(const Modulo& modulo) {
+        todas(modulo.sensible);
         todas(modulo.definiciones);
         todas(modulo.reglas);
         una(modulo.dimension);

@@ -10,7 +10,6 @@
 #include "norvik/spec/compiladorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/datosLenguaje.hpp"
-#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <limits>
@@ -46,10 +45,6 @@ Diagnostico utf8Incorrecto(std::string_view bytes) {
     return {Codigo::Utf8Incorrecto, Gravedad::Error, {inicio, fin}, {}};
 }
 
-Metodo metodoDe(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    return opciones.metodo.value_or(leeDirectivas(especificacion).metodo);
-}
-
 std::unique_ptr<TextoAnalizado> prepara(const Lenguaje& lenguaje, std::u16string texto,
                                         Lugares::Unidad unidad) {
     return std::make_unique<TextoAnalizado>(lenguaje.datos().vocabulario(), std::move(texto), unidad);
@@ -69,13 +64,13 @@ bool Lenguaje::tieneGramatica() const {
 
 Compilacion Lenguaje::compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
     return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacion),
-                                 metodoDe(especificacion, opciones));
+                                 directivasDe(especificacion, opciones, Lugares::Unidad::Utf16));
 }
 
 Compilacion Lenguaje::compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones) {
     const std::u16string especificacion = desdeUtf8(especificacionUtf8).value_or(std::u16string());
     return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacionUtf8),
-                                 metodoDe(especificacion, opciones));
+                                 directivasDe(especificacion, opciones, Lugares::Unidad::Utf8));
 }
 
 Compilacion Lenguaje::cargaModulo(std::u16string_view modulo) {

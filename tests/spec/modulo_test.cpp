@@ -44,6 +44,7 @@ public:
                std::u16string_view pseudoToken, std::int32_t base, std::int32_t color) override {
         norvik_.SetER(expresion, nomER, esToken, tipo, pseudoToken, base, color);
     }
+    void DistingueMayusculas() override { norvik_.DistingueMayusculas(); }
     void SetPalabraReservada(std::u16string_view, std::u16string&, std::u16string_view) override {}
     void SetOperador(std::u16string_view, std::u16string_view, std::u16string_view) override {}
     void SetComentarioLinea(std::u16string_view) override {}

@@ -5,6 +5,7 @@
 #include "norvik/grammar/columnas.hpp"
 #include "norvik/grammar/exacto/adelantos.hpp"
 #include "norvik/grammar/exacto/conjuntos.hpp"
+#include "norvik/grammar/exacto/prioridades.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -33,9 +34,17 @@ public:
     Fila(std::int16_t numero, const TablaLR& tabla)
         : numero_(numero), tabla_(tabla), celdas_(static_cast<std::size_t>(tabla.celdas().columnas())) {}
 
+    // Shifts come first, then what takes some of them away, then the reductions by rule.
     void desplaza(std::size_t columna, std::int16_t destino) { celdas_[columna] = destino; }
-    // Shifts come first, then the reductions by rule.
+    bool desplaza(std::size_t columna) const { return celdas_[columna] > 0; }
+    void quita(std::size_t columna) { celdas_[columna] = 0; }
+    // Nothing can be done there.
+    void anula(std::size_t columna) {
+        quita(columna);
+        anuladas_.push_back(columna);
+    }
     void reduce(std::size_t columna, std::int16_t regla) {
+        if (std::ranges::find(anuladas_, columna) != anuladas_.end()) return;
         const bool acepta = tabla_.entrada(static_cast<std::int16_t>(numero_ - 1),
                                            static_cast<std::int16_t>(columna)) == TablaLR::aceptar;
         if (celdas_[columna] == 0 && !acepta)
@@ -49,41 +58,75 @@ private:
     std::int16_t numero_;
     const TablaLR& tabla_;
     std::vector<std::int16_t> celdas_;
+    std::vector<std::size_t> anuladas_;
     std::vector<Conflicto> conflictos_;
 };
 
-void rellena(const estadoAutomata& estado, const std::vector<Bits>& adelantos, const Columnas& columnas,
-             std::int16_t numero, TablaLR& tabla) {
-    Fila fila(numero, tabla);
-    std::vector<std::size_t> acabados;
-    for (std::size_t i = 0; i < estado.items().size(); ++i) {
-        const std::int16_t destino = estado.adyacentes()[i];
-        if (destino == estadoAutomata::sinTransicion)
-            acabados.push_back(i);
-        else
-            fila.desplaza(columnas.de(estado.items()[i]), destino);
+class Rellenador {
+public:
+    Rellenador(const Columnas& columnas, const Prioridades& prioridades, TablaLR& tabla)
+        : columnas_(columnas), prioridades_(prioridades), tabla_(tabla) {}
+
+    void rellena(std::int16_t numero, const estadoAutomata& estado, const std::vector<Bits>& adelantos) {
+        Fila fila(numero, tabla_);
+        std::vector<std::size_t> acabados;
+        for (std::size_t i = 0; i < estado.items().size(); ++i) {
+            const std::int16_t destino = estado.adyacentes()[i];
+            if (destino == estadoAutomata::sinTransicion)
+                acabados.push_back(i);
+            else
+                fila.desplaza(columnas_.de(estado.items()[i]), destino);
+        }
+        std::ranges::sort(acabados, {}, [&](std::size_t i) { return estado.items()[i].regla; });
+        reducciones_.clear();
+        for (const std::size_t i : acabados)
+            adelantos[i].paraCada([&](std::size_t simbolo) {
+                prevalece(static_cast<Simbolo>(simbolo), estado.items()[i].regla, fila);
+            });
+        for (const auto& [columna, regla] : reducciones_) fila.reduce(columna, regla);
+        fila.guarda(tabla_);
     }
-    std::ranges::sort(acabados, {}, [&](std::size_t i) { return estado.items()[i].regla; });
-    for (const std::size_t i : acabados)
-        adelantos[i].paraCada([&](std::size_t simbolo) {
-            fila.reduce(columnas.de(static_cast<Simbolo>(simbolo)), estado.items()[i].regla);
-        });
-    fila.guarda(tabla);
-}
+
+private:
+    // A shift that a rule beats is gone for the rules behind it.
+    void prevalece(Simbolo token, std::int16_t regla, Fila& fila) {
+        const std::size_t columna = columnas_.de(token);
+        switch (fila.desplaza(columna) ? prioridades_.decide(regla, token) : Decision::Conflicto) {
+        case Decision::Desplaza:
+            return;
+        case Decision::Ninguna:
+            fila.anula(columna);
+            return;
+        case Decision::Reduce:
+            fila.quita(columna);
+            break;
+        case Decision::Conflicto:
+            break;
+        }
+        reducciones_.emplace_back(columna, regla);
+    }
+
+    const Columnas& columnas_;
+    const Prioridades& prioridades_;
+    TablaLR& tabla_;
+    std::vector<std::pair<std::size_t, std::int16_t>> reducciones_; // of the row, by column and rule
+};
 
 } // namespace
 
-TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, Metodo metodo,
+TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, const OpcionesTabla& opciones,
                   SimbolosTabla otros) {
     if (producciones.cabezas().empty()) return {};
     reuneSimbolos(producciones.reglas(), otros);
     TablaLR tabla(std::move(otros), producciones.reglas().texto(producciones.inicial()),
                   automata.estados.size());
-    const auto reducen =
-        metodo == Metodo::Slr ? porSiguientes(producciones, automata) : adelantos(producciones, automata);
+    const auto reducen = opciones.metodo == Metodo::Slr ? porSiguientes(producciones, automata)
+                                                        : adelantos(producciones, automata);
     const Columnas columnas(producciones.reglas(), tabla);
+    const Prioridades prioridades(producciones.reglas(), opciones.precedencias);
+    Rellenador rellenador(columnas, prioridades, tabla);
     for (std::size_t i = 0; i < automata.estados.size(); ++i)
-        rellena(automata.estados[i], reducen[i], columnas, static_cast<std::int16_t>(i + 1), tabla);
+        rellenador.rellena(static_cast<std::int16_t>(i + 1), automata.estados[i], reducen[i]);
     return tabla;
 }
 

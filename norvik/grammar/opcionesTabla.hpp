@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/grammar/metodo.hpp"
+#include "norvik/grammar/precedencia.hpp"
+
+namespace norvik {
+
+/// Cómo se hace la tabla de una gramática.
+struct OpcionesTabla {
+    Metodo metodo = Metodo::Clasico;
+    Precedencias precedencias; ///< con los métodos exactos: lo que resuelven deja de ser un conflicto
+};
+
+} // namespace norvik
