@@ -17,7 +17,7 @@ GramaticaLR genera(Reglas reglas, Metodo metodo) {
     const Producciones producciones(g.partidas);
     g.conjuntos = creaConjuntos(producciones);
     g.automata = metodo == Metodo::Lr1 ? creaAutomataLr1(producciones) : creaAutomata(producciones);
-    g.tabla = creaTabla(producciones, g.automata, metodo);
+    g.tabla = creaTabla(producciones, g.automata, {metodo, {}}, {});
     return g;
 }
 
