@@ -10,27 +10,18 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
-#include "norvik/control/guardas.hpp"
 
 namespace norvik {
 
-void Coloreado::coloreaRango(std::int32_t inicio, std::int32_t fin, std::int32_t linea) {
-    if (!opciones_.colorear) return;
-    const DibujoBloqueado bloqueado(caja_);
-    const bool esUnaLinea = linea != ningunaLinea && linea != 0;
-    if (esUnaLinea && linea == estado_.lineaMarcada) descoloreaLinea(linea);
-    if (inicio > fin) return;
-
-    const MarcaOcupado ocupado(estado_.ocupado);
-    const TextoOculto oculto(colocacion_);
+void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin) {
     const std::int32_t inicioSeleccion = caja_->inicioSeleccion();
     const std::int32_t longitudSeleccion = caja_->longitudSeleccion();
-    pintaTokens(inicio + 1, fin + 1);
+    recorre(inicio + 1, fin + 1);
     caja_->selecciona(inicioSeleccion, longitudSeleccion);
 }
 
 /// Paints the tokens of the positions [desde, hasta), 1-based.
-void Coloreado::pintaTokens(std::int32_t desde, std::int32_t hasta) {
+void Coloreado::recorre(std::int32_t desde, std::int32_t hasta) {
     if (hasta - 1 > a32(maximoTexto)) throw TextoDemasiadoLargo();
     const MapaTokens& mapa = lexico_.ReconoceTokens(caja_->texto(), a16(desde), a16(hasta));
     for (std::int32_t pos = desde; pos < hasta;) {
@@ -53,37 +44,6 @@ void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const e
     if (corrige && caja_->textoSeleccionado() != definicion.expresion) {
         caja_->reemplazaSeleccion(definicion.expresion);
     }
-}
-
-void Coloreado::coloreaLinea(std::int32_t linea) {
-    const auto total = static_cast<std::int32_t>(caja_->texto().size());
-    std::int32_t inicio = caja_->inicioDeLinea(linea - 1);
-    if (inicio < 0) inicio = caja_->inicioDeLinea(linea - 2);
-    if (inicio < 0) inicio = total; // there is no such line: nothing to colour
-    const std::int32_t siguiente = caja_->inicioDeLinea(linea);
-    coloreaRango(inicio, siguiente < 0 ? total : siguiente, linea);
-    estado_.lineaEnEdicion = false;
-}
-
-void Coloreado::coloreaTodo() {
-    coloreaRango(0, static_cast<std::int32_t>(caja_->texto().size()), ningunaLinea);
-    estado_.lineaEnEdicion = false;
-}
-
-void Coloreado::descoloreaLinea(std::int32_t linea) {
-    if (estado_.lineaMarcada == linea) estado_.lineaMarcada = -1;
-    if (linea > estado_.numLineas) return;
-    const std::int32_t inicio = caja_->inicioDeLinea(linea - 1);
-    std::int32_t fin = caja_->inicioDeLinea(linea);
-    if (fin < 0) fin = static_cast<std::int32_t>(caja_->texto().size());
-    if (inicio < 0 || fin < inicio) return;
-
-    const MarcaOcupado ocupado(estado_.ocupado);
-    const EdicionSilenciosa silenciosa(caja_);
-    const std::int32_t cursor = caja_->inicioSeleccion();
-    caja_->selecciona(inicio, fin - inicio);
-    caja_->ponColorSeleccion(0);
-    caja_->selecciona(cursor, 0);
 }
 
 } // namespace norvik

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-// Colouring is kept away from the keystroke. A line that is typed on is shown in colour 0 from its first
-// change on and coloured once, when the caret moves to another line or the focus leaves the box. What may
-// span several lines (a paste, Undo, Redo) is coloured as a range at the next change of line. A failure on
-// the way (a text too long to be coloured, a receiver that throws) ends nothing halfway: the change is
-// recorded and the caret's line is known before it is raised.
+// A change of the text that also moves the caret is one event of the box. All that the control does about it
+// is done first; then the host hears of the caret, and of the text last: a receiver finds the change
+// recorded, and an error that it marks when the caret comes to another line is not taken for one that the
+// change ends. A failure on the way (a text too long to be coloured, a receiver that throws) ends nothing
+// halfway.
 
 #include "norvik/control/edicion.hpp"
 
@@ -22,10 +22,15 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     const auto libre = [this, &duenio](auto accion) {
         return [this, duenio, accion](auto&... argumentos) {
             const auto vivo = duenio.lock();
-            if (vivo != nullptr && !callada_ && !estado_.ocupado) accion(argumentos...);
+            if (vivo != nullptr && !callada_ && !lineas_.ocupado()) accion(argumentos...);
         };
     };
-    e.cambio = libre([this] { alCambiar(); });
+    const auto alCambiarLibre = libre([this](const auto& cambio) { alCambiar(cambio); });
+    e.cambio = [this, duenio, alCambiarLibre](const CambioDeTexto& cambio) {
+        const auto vivo = duenio.lock();
+        if (vivo != nullptr) lineas_.siguePosiciones(cambio);
+        alCambiarLibre(cambio);
+    };
     e.cambioDeSeleccion = libre([this] { alCambiarLaSeleccion(); });
     e.teclaAbajo = libre([this](auto& codigo, auto& shift) { alBajarTecla(codigo, shift); });
     e.pulsacion = libre([this](auto& caracter) { avisa(eventos_.KeyPress, caracter); });
@@ -34,8 +39,8 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     e.ratonMueve = libre([this](auto&... a) { avisa(eventos_.MouseMove, a...); });
     e.ratonArriba = libre([this](auto&... a) { avisa(eventos_.MouseUp, a...); });
     e.click = libre([this] { avisa(eventos_.Click); });
-    e.pierdeFoco = libre([this] { alPerderElFoco(); });
-    e.vaAPegar = libre([this] { vaAPegar(); });
+    e.pierdeFoco = libre([this] { lineas_.alPerderElFoco(); });
+    e.vaAPegar = libre([this] { lineas_.vaAPegar(); });
 }
 
 std::int16_t Edicion::lineaActual() const {
@@ -49,63 +54,31 @@ std::int32_t Edicion::columnaActual() const {
 
 // --- Changes ---
 
-void Edicion::alCambiar() {
+void Edicion::alCambiar(const CambioDeTexto& cambio) {
     PasosFirmes paso;
-    estado_.numLineas = caja_->numeroDeLineas();
-    if (estado_.numLineasAnterior > estado_.numLineas) estado_.lineaEnEdicion = false;
-    if (!estado_.lineaEnEdicion) paso([this] { ponLineaLlana(); });
-    if (estado_.lineaMarcada != -1) paso([this] { quitaMarca(); });
-    estado_.numLineasAnterior = estado_.numLineas;
-    if (historial_.grabaDeshacer()) {
-        paso([this] { historial_.registra(); });
-        paso([this] { avisa(eventos_.change); });
-    }
-    paso.acaba();
-}
-
-void Edicion::ponLineaLlana() {
-    coloreado_.descoloreaLinea(lineaActual());
-    estado_.lineaEnEdicion = true;
-}
-
-void Edicion::quitaMarca() {
-    const bool enEdicion = estado_.lineaEnEdicion;
-    PasosFirmes paso;
-    paso([this] { coloreado_.coloreaLinea(estado_.lineaMarcada); });
-    estado_.lineaEnEdicion = enEdicion;
+    const bool graba = historial_.grabaDeshacer();
+    const auto linea = lineas_.alCambiar(cambio, paso);
+    if (graba) paso([this] { historial_.registra(); });
+    if (cambio.otraSeleccion) avisaSeleccion(linea, paso);
+    if (graba) paso([this] { avisa(eventos_.change); });
     paso.acaba();
 }
 
 void Edicion::alCambiarLaSeleccion() {
     PasosFirmes paso;
-    const std::int32_t linea = caja_->lineaDeCaracter(caja_->inicioSeleccion());
-    estado_.primeraLineaVisible = caja_->primeraLineaVisible();
-    if (linea != estado_.lineaAnterior) paso([&] { cambiaDeLinea(linea); });
-    estado_.recoloreaRango = false;
-    if (historial_.grabaDeshacer()) paso([this] { avisa(eventos_.SelChange); });
+    avisaSeleccion(lineas_.alCambiarLaSeleccion(paso), paso);
     paso.acaba();
 }
 
-void Edicion::cambiaDeLinea(std::int32_t linea) {
-    PasosFirmes paso;
-    const bool recolorea = estado_.recoloreaRango;
-    const bool estabaEnEdicion = estado_.lineaEnEdicion;
-    if (recolorea || estabaEnEdicion) {
-        const TextoOculto oculto(colocacion_);
-        const std::int32_t cursor = caja_->inicioSeleccion();
-        if (recolorea) {
-            paso([&] { coloreado_.coloreaRango(estado_.posicionAnterior, cursor, Coloreado::ningunaLinea); });
-        }
-        if (estabaEnEdicion) paso([&] { coloreado_.coloreaLinea(estado_.lineaAnterior + 1); });
+void Edicion::avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& paso) {
+    if (linea) {
+        paso([&] {
+            std::int16_t nueva = numeroDeLinea(*linea);
+            avisa(eventos_.CambioDeLinea, nueva);
+        });
     }
-    estado_.lineaEnEdicion = false;
-    estado_.lineaAnterior = linea;
-    estado_.posicionAnterior = caja_->inicioSeleccion();
-    paso([&] {
-        std::int16_t nueva = numeroDeLinea(linea);
-        avisa(eventos_.CambioDeLinea, nueva);
-    });
-    paso.acaba();
+    lineas_.rangoVisto();
+    if (historial_.grabaDeshacer()) paso([this] { avisa(eventos_.SelChange); });
 }
 
 // --- Keys ---
@@ -114,15 +87,9 @@ void Edicion::alBajarTecla(std::int16_t& codigo, std::int16_t& shift) {
     if (shift == mascara::control) {
         codigo = 0;
     } else if (codigo == tecla::insertar && shift == mascara::mayusculas) {
-        vaAPegar();
+        lineas_.vaAPegar();
     }
     avisa(eventos_.KeyDown, codigo, shift);
-}
-
-/// What is pasted arrives plain and is coloured as a range.
-void Edicion::vaAPegar() {
-    estado_.recoloreaRango = true;
-    caja_->ponColorSeleccion(0);
 }
 
 void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
@@ -146,14 +113,6 @@ void Edicion::tabula() {
     paso([this] { caja_->reemplazaSeleccion(espacios(1, opciones_.espaciosXTAB)); });
     paso([this] { caja_->enfoca(); });
     paso.acaba();
-}
-
-// --- Focus ---
-
-void Edicion::alPerderElFoco() {
-    if (!estado_.lineaEnEdicion) return;
-    estado_.lineaEnEdicion = false;
-    coloreado_.coloreaLinea(lineaActual());
 }
 
 } // namespace norvik

@@ -2,28 +2,26 @@
 
 #pragma once
 
-#include "norvik/control/colocacion.hpp"
-#include "norvik/control/coloreado.hpp"
-#include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
+#include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace norvik {
 
-/// What happens in the text box, and what of it reaches the host: the line being typed is kept plain and is
-/// coloured when the caret leaves it, each change is recorded, new lines are indented.
+/// What happens in the text box, and what of it reaches the host: its lines are told, each change is
+/// recorded, new lines are indented.
 class Edicion {
 public:
-    Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, EstadoEdicion& estado,
-            Coloreado& coloreado, Colocacion& colocacion, Historial& historial, EventosControl& eventos)
-        : caja_(caja), opciones_(opciones), estado_(estado), coloreado_(coloreado), colocacion_(colocacion),
-          historial_(historial), eventos_(eventos) {}
+    Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, LineasEditadas& lineas,
+            Historial& historial, EventosControl& eventos)
+        : caja_(caja), opciones_(opciones), lineas_(lineas), historial_(historial), eventos_(eventos) {}
 
     /// Receives the box's events from now on, as long as its owner lives, which it holds meanwhile: a
     /// receiver may delete the control.
@@ -46,22 +44,16 @@ private:
     void avisa(const Evento& evento, Argumentos&... argumentos) const {
         if (evento && !callada_) evento(argumentos...);
     }
-    void alCambiar();
-    void ponLineaLlana();
-    void quitaMarca();
+    void alCambiar(const CambioDeTexto& cambio);
     void alCambiarLaSeleccion();
-    void cambiaDeLinea(std::int32_t linea);
+    void avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& paso);
     void alBajarTecla(std::int16_t& codigo, std::int16_t& shift);
     void alSubirTecla(std::int16_t& codigo, std::int16_t& shift);
     void sangra();
-    void vaAPegar();
-    void alPerderElFoco();
 
     const Prestado<CajaTexto>& caja_;
     const Opciones& opciones_;
-    EstadoEdicion& estado_;
-    Coloreado& coloreado_;
-    Colocacion& colocacion_;
+    LineasEditadas& lineas_;
     Historial& historial_;
     EventosControl& eventos_;
     bool callada_ = false;

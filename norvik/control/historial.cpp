@@ -11,7 +11,6 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/guardas.hpp"
-#include "norvik/control/lineasTexto.hpp"
 
 #include <utility>
 
@@ -91,7 +90,7 @@ void Historial::Undo() {
         deshace(undos_.ultima(), act, paso);
         if (undos_.cuantas() > 0) redos_.pon(std::move(act)); // a receiver may have emptied the lists
     }
-    paso([this] { marcaSiCambioDeLinea(); });
+    paso([this] { lineas_.esperaRangoSiCambioDeLinea(); });
     grabaDeshacer_ = true;
     paso.acaba();
 }
@@ -116,7 +115,7 @@ void Historial::repone(std::int32_t inicio, std::u16string_view quitado, PasosFi
     caja_->ponColorSeleccion(0);
     const std::int32_t desde = caja_->inicioSeleccion();
     paso([&] { caja_->reemplazaSeleccion(r); });
-    estado_.recoloreaRango = true;
+    lineas_.esperaRango();
     const std::int32_t hasta = caja_->inicioSeleccion();
     paso([&] { quedaSeleccionado(r) ? caja_->selecciona(desde, hasta - desde) : ponCursor(hasta); });
 }
@@ -132,7 +131,7 @@ void Historial::Redo() {
         rehace(e, paso);
         if (undos_.cuantas() > 0) undos_.pon(std::move(e));
     }
-    paso([this] { marcaSiCambioDeLinea(); });
+    paso([this] { lineas_.esperaRangoSiCambioDeLinea(); });
     grabaDeshacer_ = true;
     paso.acaba();
 }
@@ -171,15 +170,8 @@ void Historial::cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso) {
     paso([&] { caja_->selecciona(desde, cuantos); });
     caja_->ponColorSeleccion(0);
     paso([&] { caja_->reemplazaSeleccion(r); });
-    estado_.recoloreaRango = true;
+    lineas_.esperaRango();
     paso([&] { caja_->selecciona(desde, longitud(r)); });
-}
-
-/// The caret's line counts from 1, the remembered one from 0: the mark is set unless the caret stands exactly
-/// one line below it. Colouring one range too many does no harm.
-void Historial::marcaSiCambioDeLinea() {
-    const std::int16_t lineaActual = numeroDeLinea(caja_->lineaDeCaracter(caja_->inicioSeleccion()));
-    if (estado_.lineaAnterior != lineaActual) estado_.recoloreaRango = true;
 }
 
 } // namespace norvik

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/instantaneas.hpp"
+#include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
@@ -18,7 +18,7 @@ namespace norvik {
 /// failure is raised, so that the lists agree with the text.
 class Historial {
 public:
-    Historial(const Prestado<CajaTexto>& caja, EstadoEdicion& estado) : caja_(caja), estado_(estado) {}
+    Historial(const Prestado<CajaTexto>& caja, LineasEditadas& lineas) : caja_(caja), lineas_(lineas) {}
 
     /// Empties both lists and switches recording on. Raises `Desbordamiento`, with both empty, when one held
     /// more than 32767 entries.
@@ -45,10 +45,9 @@ private:
     void inserta(std::int32_t inicio, std::u16string_view r, PasosFirmes& paso);
     void cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso);
     void ponCursor(std::int32_t posicion) { caja_->selecciona(posicion, 0); }
-    void marcaSiCambioDeLinea();
 
     const Prestado<CajaTexto>& caja_;
-    EstadoEdicion& estado_;
+    LineasEditadas& lineas_;
     Instantaneas undos_;
     Instantaneas redos_;
     bool grabaDeshacer_ = true;

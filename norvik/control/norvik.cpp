@@ -35,7 +35,7 @@ void Norvik::MarcaErrorToken() {
     // The reader stays at a wrong character.
     const bool parado = lector.leido().definicion == TokenLeido::desconocido;
     const std::int32_t fin = lector.posLectura() - (parado ? 0 : 1);
-    partes_->marcas.marcaToken(lector.inicioToken() - 1, fin, LineaToken(), ColorError());
+    partes_->lineas.marcaToken(lector.inicioToken() - 1, fin, LineaToken(), ColorError());
 }
 
 void Norvik::MarcaErrorLineaToken() {
@@ -43,19 +43,18 @@ void Norvik::MarcaErrorLineaToken() {
 }
 
 void Norvik::PonSignoError(std::int16_t numLinea) {
-    const signoDebuger& signo = partes_->marcas.ponSigno(numLinea);
+    const signoDebuger& signo = partes_->signos.ponSigno(numLinea);
     const CajaTexto& caja = *partes_->caja;
-    partes_->estado.primeraLineaVisible = caja.primeraLineaVisible();
     partes_->contenedor->ponSigno(signo,
                                   lugarDeSigno(numLinea, caja.primeraLineaVisible(), caja.altoDeLinea()));
 }
 
 void Norvik::ColoreaTodo() {
-    partes_->coloreado.coloreaTodo();
+    partes_->lineas.coloreaTodo();
 }
 
 void Norvik::ColoreaLineaActual() {
-    partes_->coloreado.coloreaLinea(LineaActual());
+    partes_->lineas.coloreaLinea(LineaActual());
 }
 
 std::u16string Norvik::ContenidoLinea(std::int16_t numLinea) const {

@@ -226,7 +226,7 @@ public:
     /// La columna del cursor, desde 1, en caracteres.
     std::int32_t ColumnaActual() const { return partes_->edicion.columnaActual(); }
     /// Cuántas había en el último cambio del texto.
-    std::int32_t TotalLineas() const { return partes_->estado.numLineas; }
+    std::int32_t TotalLineas() const { return partes_->lineas.numLineas(); }
     /// Una línea sin su salto; de un texto vacío, un texto vacío. Lanza `ArgumentoNoValido` si no hay tal
     /// línea.
     std::u16string ContenidoLinea(std::int16_t numLinea) const;
@@ -447,7 +447,7 @@ public:
     /// Las definiciones de tokens.
     pilaTokens& Lexico() { return partes_->lexico; }
     /// Las señales del borde izquierdo, por su número.
-    const Marcas::Signos& signos() const { return partes_->marcas.signos(); }
+    const SignosDelBorde::PorIndice& signos() const { return partes_->signos.signos(); }
     const Historial& historial() const { return partes_->historial; }
 
     /// @}

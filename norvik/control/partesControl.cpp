@@ -11,9 +11,9 @@ namespace norvik {
 PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& suContenedor)
     : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lector(lexico, suCaja),
       conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
-      propiedades(opciones, lexico, caja, colocacion, contenedor),
-      coloreado(caja, lexico, opciones, estado, colocacion), marcas(caja, estado), historial(caja, estado),
-      edicion(caja, opciones, estado, coloreado, colocacion, historial, eventos) {
+      propiedades(opciones, lexico, caja, colocacion, contenedor), coloreado(caja, lexico, opciones),
+      lineas(caja, opciones, coloreado, colocacion), historial(caja, lineas),
+      edicion(caja, opciones, lineas, historial, eventos) {
     propiedades.construye();
 }
 
@@ -36,24 +36,24 @@ void PartesControl::alFallarElAnalisis(const Mensaje& mensaje) {
 }
 
 void PartesControl::MarcaErrorLinea(std::int16_t numLinea) {
-    marcas.marcaLinea(numLinea, lexico.ColorError);
+    lineas.marcaLinea(numLinea, lexico.ColorError);
 }
 
 void PartesControl::MarcaErrorLineaToken() {
     MarcaErrorLinea(lector.LineaToken());
-    estado.lineaEnEdicion = false;
+    lineas.dejaDeEditar();
 }
 
 void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
     PasosFirmes paso;
     paso([&] { historial.sustituye(inicio, longitud, nuevo); });
-    paso([this] { coloreado.coloreaTodo(); });
+    paso([this] { lineas.coloreaTodo(); });
     paso.acaba();
 }
 
 void PartesControl::clickEnSuperficie() const {
     caja->enfoca();
-    if (!estado.ocupado) edicion.avisaClick();
+    if (!lineas.ocupado()) edicion.avisaClick();
 }
 
 // --- The text as a whole ---
@@ -72,7 +72,7 @@ void PartesControl::CargarFichero(const std::filesystem::path& nomFichero) {
     const TextoOculto oculto(colocacion);
     PasosFirmes paso;
     paso([&] { caja->ponTexto(texto); });
-    paso([this] { coloreado.coloreaTodo(); });
+    paso([this] { lineas.coloreaTodo(); });
     paso.acaba();
 }
 

@@ -6,13 +6,13 @@
 #include "norvik/control/coloreado.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/edicion.hpp"
-#include "norvik/control/estadoEdicion.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
-#include "norvik/control/marcas.hpp"
+#include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/prestado.hpp"
 #include "norvik/control/propiedades.hpp"
+#include "norvik/control/signosDelBorde.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/conductor.hpp"
@@ -68,7 +68,6 @@ public:
     Prestado<Contenedor> contenedor;
     EventosControl eventos;
     Opciones opciones;
-    EstadoEdicion estado;
     pilaTokens lexico;
     gramatica laGramatica;
     LectorTokens lector;
@@ -76,7 +75,8 @@ public:
     Colocacion colocacion;
     Propiedades propiedades;
     Coloreado coloreado;
-    Marcas marcas;
+    LineasEditadas lineas;
+    SignosDelBorde signos;
     Historial historial;
     Edicion edicion;
 

@@ -62,10 +62,24 @@ inline constexpr std::int32_t distingueMayusculas = 4;
 inline constexpr std::int32_t sinResaltar = 8;
 } // namespace opcionBusqueda
 
+/// Un cambio del texto: los caracteres [inicio, inicio + quitados) del de antes son [inicio, inicio +
+/// puestos) del nuevo.
+struct CambioDeTexto {
+    std::int32_t inicio = 0;
+    std::int32_t quitados = 0;
+    std::int32_t puestos = 0;
+    bool otraSeleccion = false; ///< también la selección, o el cursor, es otra
+
+    /// Adónde va a parar una posición; lo que se inserta en ella queda delante.
+    std::int32_t lleva(std::int32_t posicion) const {
+        if (posicion >= inicio + quitados) return posicion + puestos - quitados;
+        return posicion <= inicio ? posicion : inicio + puestos;
+    }
+};
+
 /// Lo que el control necesita de una caja de texto con formato. Posiciones desde 0, en caracteres, y un salto
 /// de línea cuenta como dos; colores 0x00BBGGRR; longitudes en la pantalla en twips (1/1440 de pulgada). Los
-/// cambios hechos por programa dan los eventos como los del usuario: primero `cambio` y después, cuando la
-/// selección es otra, `cambioDeSeleccion`. Colores y fuentes no dan ninguno.
+/// cambios hechos por programa dan los eventos como los del usuario. Colores y fuentes no dan ninguno.
 ///
 /// Un salto de línea que llega como CR o LF solo se convierte en CR LF, a no ser que complete medio salto que
 /// ya está a su lado. Solo quedan mitades cuando se selecciona y se reemplaza parte de un CR LF.
@@ -76,9 +90,9 @@ public:
         using Tecla = std::function<void(std::int16_t& codigo, std::int16_t& shift)>;
         using Raton = std::function<void(std::int16_t& boton, std::int16_t& shift, float& x, float& y)>;
 
-        std::function<void()> cambio;                          ///< el texto es otro
-        std::function<void()> cambioDeSeleccion;               ///< la selección o el cursor es otro
-        Tecla teclaAbajo;                                      ///< el código 0 suprime la tecla
+        std::function<void(const CambioDeTexto&)> cambio; ///< el texto es otro, y quizá la selección con él
+        std::function<void()> cambioDeSeleccion;          ///< solo la selección, o el cursor, es otra
+        Tecla teclaAbajo;                                 ///< el código 0 suprime la tecla
         std::function<void(std::int16_t& caracter)> pulsacion; ///< el carácter de una tecla; 0 lo suprime
         Tecla teclaArriba;
         Raton ratonAbajo; ///< botón 1 izquierdo, 2 derecho, 4 central; posición en twips desde la esquina de

@@ -158,7 +158,7 @@ TEST(Marcas, SignosNumeradosDesdeElDos) {
     Editor e(u"ab");
     e.norvik.PonSignoError(7);
     e.norvik.PonSignoError(7);
-    EXPECT_EQ(e.norvik.signos(), (Marcas::Signos{{2, {2, 1, 7}}, {3, {3, 1, 7}}}));
+    EXPECT_EQ(e.norvik.signos(), (SignosDelBorde::PorIndice{{2, {2, 1, 7}}, {3, {3, 1, 7}}}));
 }
 
 TEST(Analisis, UnErrorSeMuestraYSeMarcaSiSeQuiere) {

@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <utility>
@@ -26,6 +27,7 @@ struct ControlTest : testing::TestWithParam<Fabrica> {
         norvik.SetPalabraReservada(u"begin");
         norvik.SetER(u"[0-9]+", u"num", true, Norvik_Numero);
         norvik.SetER(u"/\\*([^*])*\\*/", u"com", true, Norvik_ComentarioBloque);
+        norvik.SetER(u"'[^'\\r\\n]*'", u"cad", true, Norvik_Cadena);
         norvik.Colorear(true);
         norvik.HideSelection(false);
         norvik.eventos.change = [this] { sucesos += "c "; };
@@ -97,7 +99,7 @@ TEST_P(ControlTest, LaLineaQueSeEscribeQuedaLlana) {
     EXPECT_EQ(colores(), "PPPPP.NN..PPPPP");
     teclea(u"3");
     EXPECT_EQ(colores(), "...........PPPPP");
-    EXPECT_EQ(dameSucesos(), "c s ");
+    EXPECT_EQ(dameSucesos(), "s c ");
     caja.selecciona(11, 0);
     EXPECT_EQ(colores(), "PPPPP.NNN..PPPPP");
     EXPECT_EQ(dameSucesos(), "L2 s ");
@@ -141,7 +143,7 @@ TEST_P(ControlTest, TeclasHaciaElAnfitrion) {
     pulsa('V', u"x", mascara::control); // a shortcut of the box
     EXPECT_EQ(dameSucesos(), "d0,2 u0 ");
     pulsa('V', u"x", 3);
-    EXPECT_EQ(dameSucesos(), "d86,3 c s u86 ");
+    EXPECT_EQ(dameSucesos(), "d86,3 s c u86 ");
     pulsa('A', u"x"); // suppressed by the host
     EXPECT_EQ(dameSucesos(), "d65,0 u0 ");
     std::int16_t caracter = u'a';
@@ -153,10 +155,10 @@ TEST_P(ControlTest, LoPegadoSeColoreaComoRango) {
     empieza(u"begin\r\n12", 5);
     pulsa(tecla::insertar, u"1 /* a\r\nb */\r\n2", mascara::mayusculas);
     EXPECT_EQ(norvik.Text(), u"begin1 /* a\r\nb */\r\n2\r\n12");
-    // The caret changed line while the text came in: the range from where it had been is coloured, and then
-    // the line that was edited, by itself.
-    EXPECT_EQ(colores().substr(0, 21), "PPPPPN.CCCCCCCCCC..N.");
-    EXPECT_EQ(dameSucesos(), "c L3 s ");
+    // The caret changed line while the text came in: the range from where it had been is coloured, and the
+    // line where it ends is plain until it is left.
+    EXPECT_EQ(colores().substr(0, 21), "PPPPPN.CCCCCCCCCC....");
+    EXPECT_EQ(dameSucesos(), "L3 s c ");
 }
 
 TEST_P(ControlTest, ElMarcadoDeErrorSeVaAlCambiar) {
@@ -177,6 +179,139 @@ TEST_P(ControlTest, ElMarcadoDeErrorQuedaAlDejarSuLinea) {
     norvik.MarcaErrorLinea(2);
     caja.selecciona(0, 0);
     EXPECT_EQ(colores(), "PPPPP....EEEEE");
+}
+
+TEST_P(ControlTest, LoQueTocaDosLineasSeColoreaAlDejarlo) {
+    const std::tuple<std::u16string_view, std::int32_t, std::int32_t, std::u16string_view, std::string>
+        casos[] = {
+            {u"begin 12 begin 34", 9, 0, u"\r\n", "PPPPP.NN...PPPPP.NN"}, // Return inside a line
+            {u"'12begin begin'", 8, 0, u"\r\n", ".NNPPPPP...PPPPP."},     // which makes something else of it
+            {u"begin\r\n12 begin", 5, 2, u"", "PPPPPNN.PPPPP"},           // Backspace or Delete
+            {u"begin 1\r\nx\r\n2 12", 6, 6, u"", "PPPPP.N.NN"},
+            {u"begin 12", 6, 0, u"1\r\nbegin 2\r\n3", "PPPPP.N..PPPPP.N..NNN"}};
+    for (const auto& [texto, inicio, longitud, nuevo, vistos] : casos) {
+        for (const bool tecleadaAntes : {false, true}) {
+            empieza(std::u16string(texto) + u"\r\nfin", inicio);
+            caja.selecciona(inicio, 0);
+            if (tecleadaAntes) {
+                teclea(u"x");
+                caja.selecciona(inicio, 1);
+                caja.reemplazaSeleccion(u"");
+            }
+            caja.selecciona(inicio, longitud);
+            if (nuevo.size() > 2) caja.eventos.vaAPegar();
+            caja.reemplazaSeleccion(nuevo);
+            const std::int32_t linea = caja.lineaDeCaracter(caja.inicioSeleccion());
+            const auto comienzo = static_cast<std::size_t>(caja.inicioDeLinea(linea));
+            const auto final = static_cast<std::size_t>(caja.inicioDeLinea(linea + 1));
+            EXPECT_EQ(colores().substr(comienzo, final - comienzo).find_first_not_of('.'), std::string::npos);
+            caja.selecciona(static_cast<std::int32_t>(caja.texto().size()), 0);
+            EXPECT_EQ(colores(), vistos + ".....") << tecleadaAntes;
+        }
+    }
+}
+
+/// What keys do to a box, and what a person sees after leaving what was edited.
+TEST_P(ControlTest, TeclasAlAzarYLosColoresSonLosDeColoreaTodo) {
+    std::mt19937 azar(3);
+    const std::u16string_view piezas[] = {
+        u"b", u"1", u" ", u"'", u"begin", u"12 b", u"a\r\nbegin\r\n1", u"begin\r\n"};
+    const auto texto = [&] { return caja.texto(); };
+    const auto hasta = [&](std::int32_t p) {
+        return std::clamp(p, 0, static_cast<std::int32_t>(texto().size()));
+    };
+    const auto salta = [&](std::int32_t p) { // never into the middle of a break
+        return texto().substr(0, static_cast<std::size_t>(hasta(p))).ends_with(u'\r') ? hasta(p) + 1
+                                                                                      : hasta(p);
+    };
+    empieza(u"begin 12\r\n'12 begin 1 begin' 12\r\nbegin");
+    for (int paso = 0; paso < 6000; ++paso) {
+        const std::int32_t cursor = caja.inicioSeleccion();
+        const auto dado = azar() % 12;
+        const bool hay = caja.longitudSeleccion() > 0;
+        if (dado < 3) {
+            teclea(piezas[azar() % 5]);
+        } else if (dado == 3) {
+            pulsa(tecla::retorno, saltoDeLinea);
+        } else if (dado == 4) {
+            norvik.tabuladorEnfocado();
+        } else if (dado == 5) {
+            pulsa(tecla::insertar, piezas[azar() % std::size(piezas)], mascara::mayusculas);
+        } else if (dado < 8) { // Backspace and Delete
+            const bool atras = dado == 6;
+            const std::int32_t cuantos =
+                texto().substr(static_cast<std::size_t>(atras ? std::max(cursor - 2, 0) : cursor))
+                        .starts_with(saltoDeLinea)
+                    ? 2
+                    : 1;
+            const std::int32_t desde = atras ? std::max(cursor - cuantos, 0) : cursor;
+            if (hay) {
+                caja.reemplazaSeleccion(u"");
+            } else if (cursor - desde == (atras ? cuantos : 0)) { // in one edit
+                const auto receptores = std::exchange(caja.eventos, {});
+                caja.selecciona(desde, cuantos);
+                caja.eventos = receptores;
+                caja.reemplazaSeleccion(u"");
+            }
+        } else {
+            const std::int32_t destino = salta(cursor + static_cast<std::int32_t>(azar() % 15) - 7);
+            caja.selecciona(destino, azar() % 3 == 0
+                                         ? salta(destino + static_cast<std::int32_t>(azar() % 20)) - destino
+                                         : 0);
+        }
+        if (texto().size() > 300) empieza(u"begin 12\r\n'12 begin 1 begin' 12\r\nbegin");
+        if (azar() % 6 == 0) {
+            norvik.ColoreaTodo();
+            norvik.MarcaErrorLinea(static_cast<std::int16_t>(1 + azar() % 6));
+            teclea(piezas[azar() % 5]);
+            ASSERT_EQ(colores().find('E'), std::string::npos) << paso;
+        }
+        if (azar() % 6 != 0) continue;
+        caja.selecciona(norvik.LineaActual() == 1 ? hasta(1 << 20) : 0, 0);
+        caja.eventos.pierdeFoco();
+        const std::string quedan = colores();
+        norvik.ColoreaTodo();
+        ASSERT_EQ(quedan, colores()) << paso << aUtf8(texto());
+    }
+}
+
+TEST_P(ControlTest, LaMarcaDeErrorSigueASuLinea) {
+    const std::tuple<std::int16_t, std::int32_t, std::int32_t, std::u16string_view> casos[] = {
+        {3, 5, 0, u"\r\n"}, // Return above
+        {3, 0, 0, u"x\r\ny\r\n"},
+        {3, 11, 0, u"\r\n"},        // Return where it begins
+        {3, 14, 0, u"\r\n"},        // and inside it
+        {3, 9, 2, u""},             // joined to the line above
+        {3, 5, 2, u""},             // lines above are joined
+        {3, 6, 6, u""},             // its beginning goes with them
+        {3, 18, 0, u"a\r\nb\r\nc"}, // many lines inside it
+        {1, 0, 0, u"x"},
+        {1, 0, 0, u"\r\n"},
+        {2, 0, 18, u"z"}};
+    for (const auto& [linea, inicio, longitud, nuevo] : casos) {
+        empieza(u"begin\r\n12\r\nbegin b");
+        caja.selecciona(inicio, longitud);
+        norvik.MarcaErrorLinea(linea);
+        const auto receptores = std::exchange(caja.eventos, {});
+        caja.selecciona(inicio, longitud);
+        caja.eventos = receptores;
+        caja.reemplazaSeleccion(nuevo);
+        EXPECT_EQ(colores().find('E'), std::string::npos) << inicio << ' ' << colores();
+        teclea(u"x");
+        EXPECT_EQ(colores().find('E'), std::string::npos) << inicio << ' ' << colores();
+    }
+}
+
+/// A host that parses at each line marks the one that was left.
+TEST_P(ControlTest, LoQueSeMarcaAlCambiarDeLineaQueda) {
+    empieza(u"begin 12", 8);
+    norvik.eventos.CambioDeLinea = [this](std::int16_t& linea) {
+        if (linea == 2) norvik.MarcaErrorLinea(1);
+    };
+    for (const std::string vistos : {"EEEEEEEENN", "PPPPP.NN..."}) {
+        teclea(vistos[0] == 'E' ? u"\n" : u"x");
+        EXPECT_EQ(colores(), vistos);
+    }
 }
 
 TEST_P(ControlTest, SangriaDeLaLineaNueva) {
@@ -446,7 +581,7 @@ TEST_P(ControlTest, CargarEsElPrimerEstado) {
     teclea(u"xy");
     dameSucesos();
     EXPECT_TRUE(norvik.CargarFichero(carpeta.pon("f.txt", "begin\n12\n")));
-    EXPECT_EQ(dameSucesos(), "c s c ");
+    EXPECT_EQ(dameSucesos(), "s c c ");
     EXPECT_EQ(colores(), "PPPPP..NN");
     norvik.Undo();
     EXPECT_EQ(foto(), u"|begin\r\n12");

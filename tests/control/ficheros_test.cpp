@@ -14,8 +14,8 @@ TEST(Texto, PropiedadesDeLaCaja) {
     Anfitrion a;
     int cambios = 0;
     const auto suyo = a.caja.eventos.cambio;
-    a.caja.eventos.cambio = [&] {
-        suyo();
+    a.caja.eventos.cambio = [&](const CambioDeTexto& cambio) {
+        suyo(cambio);
         ++cambios;
     };
     a.norvik.Text(u"uno dos");

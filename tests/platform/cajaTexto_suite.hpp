@@ -18,7 +18,7 @@ using namespace std::string_literals;
 
 struct CajaTextoTest : testing::TestWithParam<Fabrica> {
     CajaTextoTest() {
-        caja.eventos.cambio = [this] { sucesos += u'c'; };
+        caja.eventos.cambio = [this](const CambioDeTexto& c) { sucesos += c.otraSeleccion ? u"sc" : u"c"; };
         caja.eventos.cambioDeSeleccion = [this] { sucesos += u's'; };
     }
     /// The events since the last question.
@@ -74,7 +74,7 @@ TEST_P(CajaTextoTest, LosCambiosSeAvisanComoLosDelUsuario) {
     EXPECT_EQ(dameSucesos(), u"");
     EXPECT_FALSE(caja.modificado());
     caja.reemplazaSeleccion(u"x");
-    EXPECT_EQ(dameSucesos(), u"cs");
+    EXPECT_EQ(dameSucesos(), u"sc");
     EXPECT_TRUE(caja.modificado());
     caja.ponModificado(false);
     caja.reemplazaSeleccion(u"");
@@ -83,13 +83,13 @@ TEST_P(CajaTextoTest, LosCambiosSeAvisanComoLosDelUsuario) {
     caja.reemplazaSeleccion(u"y");
     dameSucesos();
     caja.ponTexto(u"");
-    EXPECT_EQ(dameSucesos(), u"cs");
+    EXPECT_EQ(dameSucesos(), u"sc");
     EXPECT_FALSE(caja.modificado());
 }
 
 TEST_P(CajaTextoTest, ElAvisoVeElTextoNuevo) {
     std::vector<std::int32_t> vistos;
-    caja.eventos.cambio = [&] {
+    caja.eventos.cambio = [&](const CambioDeTexto&) {
         vistos.push_back(caja.numeroDeLineas());
         vistos.push_back(caja.inicioSeleccion());
     };

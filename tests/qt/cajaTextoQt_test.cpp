@@ -23,7 +23,7 @@ struct CajaTextoQtTest : testing::Test {
         formulario.show();
         QApplication::setActiveWindow(&formulario);
         editor.setFocus();
-        caja.eventos.cambio = [this] { sucesos += u'c'; };
+        caja.eventos.cambio = [this](const CambioDeTexto& c) { sucesos += c.otraSeleccion ? u"sc" : u"c"; };
         caja.eventos.cambioDeSeleccion = [this] { sucesos += u's'; };
     }
     void pulsa(Qt::Key tecla, Qt::KeyboardModifiers teclas = Qt::NoModifier) {
@@ -67,18 +67,18 @@ INSTANTIATE_TEST_SUITE_P(Qt, ControlTest, testing::Values(crea<CajaTextoQt>));
 TEST_F(CajaTextoQtTest, TeclearEditaYAvisa) {
     teclea("ab");
     EXPECT_EQ(texto(), u"ab");
-    EXPECT_EQ(dameSucesos(), u"cscs");
+    EXPECT_EQ(dameSucesos(), u"scsc");
     pulsa(Qt::Key_Return);
     pulsa(Qt::Key_Return, Qt::ShiftModifier); // no other kind of break exists
     teclea("c");
     EXPECT_EQ(texto(), u"ab\r\n\r\nc");
     EXPECT_EQ(caja.inicioSeleccion(), 7);
-    EXPECT_EQ(dameSucesos(), u"cscscs"); // on the empty line, too, Return is one change
+    EXPECT_EQ(dameSucesos(), u"scscsc"); // on the empty line, too, Return is one change
     pulsa(Qt::Key_Left);
     EXPECT_EQ(dameSucesos(), u"s");
     pulsa(Qt::Key_Backspace);
     EXPECT_EQ(texto(), u"ab\r\nc");
-    EXPECT_EQ(dameSucesos(), u"cs");
+    EXPECT_EQ(dameSucesos(), u"sc");
     pulsa(Qt::Key_Home, Qt::ControlModifier);
     dameSucesos();
     pulsa(Qt::Key_Delete);
@@ -245,7 +245,7 @@ TEST_F(CajaTextoQtTest, RatonConSusArgumentos) {
 TEST_F(CajaTextoQtTest, LoQueFallaSeDiceUnaVezYNadaQuedaAMedias) {
     std::vector<std::u16string> fallos;
     caja.alFallar = [&](const std::u16string& t) { fallos.push_back(t); };
-    caja.eventos.cambio = [] { throw Desbordamiento(); };
+    caja.eventos.cambio = [](const CambioDeTexto&) { throw Desbordamiento(); };
     teclea("abc");
     QCoreApplication::processEvents();
     EXPECT_EQ(fallos, (std::vector<std::u16string>{u"Desbordamiento"}));
@@ -259,7 +259,7 @@ TEST_F(CajaTextoQtTest, LoQueFallaSeDiceUnaVezYNadaQuedaAMedias) {
 
 TEST_F(CajaTextoQtTest, ElAnfitrionEditaDentroDeUnAviso) {
     bool dentro = false;
-    caja.eventos.cambio = [&] {
+    caja.eventos.cambio = [&](const CambioDeTexto&) {
         if (std::exchange(dentro, true)) return;
         const auto cursor = caja.inicioSeleccion();
         caja.selecciona(0, 0);

@@ -171,11 +171,11 @@ TEST_F(ControlNorvikTest, LosEventosSonSenales) {
     QObject::connect(&norvik, &ControlNorvik::Click, [&] { sucesos << "click"; });
     QObject::connect(&norvik, &ControlNorvik::propiedadCambiada, [&](const QString& n) { sucesos << n; });
     pulsa(Qt::Key_A);
-    EXPECT_EQ(sucesos, QStringList({"abajo 65 0", "change", "sel", "arriba 65"}));
+    EXPECT_EQ(sucesos, QStringList({"abajo 65 0", "sel", "change", "arriba 65"}));
     EXPECT_EQ(texto(), u"A");
     sucesos.clear();
     pulsa(Qt::Key_Return);
-    EXPECT_EQ(sucesos, QStringList({"abajo 13 0", "change", "linea 2", "sel", "arriba 13"}));
+    EXPECT_EQ(sucesos, QStringList({"abajo 13 0", "linea 2", "sel", "change", "arriba 13"}));
     sucesos.clear();
     QTest::mouseClick(editor.viewport(), Qt::LeftButton, {}, {30, 100});
     QTest::mouseClick(&norvik, Qt::LeftButton, {}, {0, 0});

@@ -50,14 +50,14 @@ std::u16string CajaTextoMemoria::conSaltosDobles(std::u16string_view texto, std:
 
 void CajaTextoMemoria::ponTexto(std::u16string_view texto) {
     std::u16string nuevo = conSaltosDobles(texto, 0, static_cast<std::int32_t>(texto_.size()));
-    const Sustitucion sustitucion{0, static_cast<std::int32_t>(texto_.size()), a32(nuevo.size())};
+    const CambioDeTexto cambio{0, static_cast<std::int32_t>(texto_.size()), a32(nuevo.size())};
     std::vector<Estilo> estilos(nuevo.size());
     texto_ = std::move(nuevo);
     estilos_ = std::move(estilos);
     const Seleccion antes{inicio_, longitud_};
     inicio_ = longitud_ = 0;
     modificado_ = false;
-    avisaDelCambio(sustitucion, antes);
+    avisaDelCambio(cambio, antes);
 }
 
 void CajaTextoMemoria::selecciona(std::int32_t inicio, std::int32_t longitud) {
@@ -80,24 +80,24 @@ void CajaTextoMemoria::reemplazaSeleccion(std::u16string_view texto) {
     if (texto.empty() && longitud_ == 0) return;
     const std::u16string nuevo = conSaltosDobles(texto, inicio_, inicio_ + longitud_);
     const Seleccion antes{inicio_, longitud_};
-    const Sustitucion sustitucion{inicio_, longitud_, a32(nuevo.size())};
-    sustituye(sustitucion, nuevo);
-    inicio_ += sustitucion.puestos;
+    const CambioDeTexto cambio{inicio_, longitud_, a32(nuevo.size())};
+    sustituye(cambio, nuevo);
+    inicio_ += cambio.puestos;
     longitud_ = 0;
-    avisaDelCambio(sustitucion, antes);
+    avisaDelCambio(cambio, antes);
 }
 
 void CajaTextoMemoria::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                              std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
     const Seleccion antes{inicio_, longitud_};
-    const Sustitucion sustitucion{inicio, quitados, a32(texto.size())};
-    sustituye(sustitucion, texto);
+    const CambioDeTexto cambio{inicio, quitados, a32(texto.size())};
+    sustituye(cambio, texto);
     inicio_ = inicioSeleccion;
     longitud_ = longitudSeleccion;
-    avisaDelCambio(sustitucion, antes);
+    avisaDelCambio(cambio, antes);
 }
 
-void CajaTextoMemoria::sustituye(const Sustitucion& s, std::u16string_view nuevo) {
+void CajaTextoMemoria::sustituye(const CambioDeTexto& s, std::u16string_view nuevo) {
     const Estilo estilo = estiloEn(s.inicio, s.quitados);
     texto_.reserve(static_cast<std::size_t>(a32(texto_.size() + nuevo.size()))); // below, nothing fails
     const auto comunes = std::min(s.puestos, s.quitados);
@@ -112,15 +112,12 @@ void CajaTextoMemoria::sustituye(const Sustitucion& s, std::u16string_view nuevo
     modificado_ = true;
 }
 
-void CajaTextoMemoria::avisaDelCambio(const Sustitucion& sustitucion, const Seleccion& antes) {
+void CajaTextoMemoria::avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes) {
     lineasAlDia_ = false;
     estiloDeEscritura_.reset();
-    const bool otraSeleccion = antes != Seleccion{inicio_, longitud_};
-    alSustituir(sustitucion);
-    const auto vivo = testigo();
-    if (eventos.cambio) eventos.cambio();
-    if (vivo.expired()) return;
-    if (otraSeleccion && eventos.cambioDeSeleccion) eventos.cambioDeSeleccion();
+    cambio.otraSeleccion = antes != Seleccion{inicio_, longitud_};
+    alSustituir(cambio);
+    if (eventos.cambio) eventos.cambio(cambio);
 }
 
 /// Of a range its first character's; of none, that of what is written there.

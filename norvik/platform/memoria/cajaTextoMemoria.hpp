@@ -75,18 +75,11 @@ protected:
 
         bool operator==(const Estilo&) const = default;
     };
-    /// Los caracteres [inicio, inicio + quitados) del texto antiguo pasan a ser [inicio, inicio + puestos)
-    /// del nuevo.
-    struct Sustitucion {
-        std::int32_t inicio = 0;
-        std::int32_t quitados = 0;
-        std::int32_t puestos = 0;
-    };
 
     /// @name Para una caja que muestra esta
     /// Lo que debe saber, antes de los eventos.
     /// @{
-    virtual void alSustituir(const Sustitucion& /*sustitucion*/) {}
+    virtual void alSustituir(const CambioDeTexto& /*cambio*/) {}
     virtual void alSeleccionar() {}
     virtual void alPintar(std::int32_t /*inicio*/, std::int32_t /*longitud*/) {}
 
@@ -109,8 +102,8 @@ private:
 
     const IndiceLineas& lineas() const;
     std::u16string conSaltosDobles(std::u16string_view texto, std::int32_t inicio, std::int32_t fin) const;
-    void sustituye(const Sustitucion& sustitucion, std::u16string_view nuevo);
-    void avisaDelCambio(const Sustitucion& sustitucion, const Seleccion& antes);
+    void sustituye(const CambioDeTexto& cambio, std::u16string_view nuevo);
+    void avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes);
     Estilo estiloEn(std::int32_t inicio, std::int32_t longitud) const;
     Estilo estiloSeleccion() const { return estiloEn(inicio_, longitud_); }
     template <typename Cambio>

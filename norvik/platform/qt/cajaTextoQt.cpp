@@ -103,7 +103,7 @@ void CajaTextoQt::ponAlDia() {
     ponSeleccionEnVista();
 }
 
-void CajaTextoQt::alSustituir(const Sustitucion& s) {
+void CajaTextoQt::alSustituir(const CambioDeTexto& s) {
     if (sucio_ && sucio_->fin > s.inicio)
         sucio_->fin = std::max(sucio_->fin + s.puestos - s.quitados, s.inicio);
     if (!std::exchange(deLaVista_, false)) {

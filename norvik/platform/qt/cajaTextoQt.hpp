@@ -78,7 +78,7 @@ public:
     void cambiaComposicion();
 
 protected:
-    void alSustituir(const Sustitucion& sustitucion) override;
+    void alSustituir(const CambioDeTexto& sustitucion) override;
     void alSeleccionar() override { pideAlDia(); }
     void alPintar(std::int32_t inicio, std::int32_t longitud) override;
 
