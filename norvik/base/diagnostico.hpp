@@ -28,7 +28,8 @@ enum class Codigo : std::uint8_t {
     ReferenciaDesconocida, ///< de una especificación: `nombre` se refiere a `hallado`, que no está definida
                            ///< antes; la revisión da en `relacionados` dónde lo está, o en `esperados` un
                            ///< nombre parecido
-    PatronIncorrecto, ///< de una especificación: la definición `nombre`, de texto `hallado`, no es un patrón
+    PatronIncorrecto, ///< de una especificación: la definición `nombre`, de texto `hallado`, no es un patrón;
+                      ///< la revisión da en `relacionados` dónde y por qué, y ese lugar
     VariableIndefinida, ///< de una especificación: `hallado` está en un cuerpo de `nombre` y ninguna regla la
                         ///< define; la revisión da en `esperados` un nombre parecido
     TokenIndefinido, ///< de una especificación: lo mismo de un token

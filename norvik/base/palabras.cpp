@@ -175,6 +175,42 @@ std::u16string busquedaDesbocada(std::u16string_view definicion) {
                 u"' se ha desbocado: su patrón necesita demasiado tiempo o memoria con este texto."});
 }
 
+std::u16string_view motivo(MotivoPatron motivo) {
+    switch (motivo) {
+    case MotivoPatron::NadaQueRepetir:
+        return u"delante no hay nada que se pueda repetir";
+    case MotivoPatron::RepeticionAlReves:
+        return u"el mínimo de veces pasa del máximo";
+    case MotivoPatron::RepeticionExcesiva:
+        return u"se pueden pedir hasta 65535 veces";
+    case MotivoPatron::GrupoSinCerrar:
+        return u"este paréntesis no se cierra";
+    case MotivoPatron::CierreSinAbrir:
+        return u"este paréntesis no cierra ninguno";
+    case MotivoPatron::GrupoDesconocido:
+        return u"detrás de '(?' solo caben ':', '=' y '!'";
+    case MotivoPatron::ClaseSinCerrar:
+        return u"este corchete no se cierra";
+    case MotivoPatron::RangoAlReves:
+        return u"este intervalo va de un carácter a otro anterior";
+    case MotivoPatron::EscapeDesconocido:
+        return u"detrás de '\\' esta letra o cifra no significa nada";
+    case MotivoPatron::CodigoIncompleto:
+        return u"faltan cifras hexadecimales: son dos detrás de '\\x' y cuatro detrás de '\\u'";
+    case MotivoPatron::BarraAlFinal:
+        return u"detrás de '\\' falta un carácter";
+    case MotivoPatron::ReferenciaSinGrupo:
+        return u"no hay tantos paréntesis a los que referirse";
+    case MotivoPatron::CodigoMalEscrito:
+        return u"se escribe '\\c(numero)'";
+    case MotivoPatron::CodigoExcesivo:
+        return u"el código de un carácter no pasa de 255";
+    case MotivoPatron::DemasiadoLargo:
+        return u"con sus referencias expandidas pasa de 32767 caracteres";
+    }
+    return {};
+}
+
 std::u16string entreApostrofos(std::u16string_view texto) {
     return une({u"'", texto, u"'"});
 }
@@ -204,7 +240,10 @@ std::u16string mensaje(const Diagnostico& diagnostico) {
     const Codigo codigo = diagnostico.codigo;
     if (codigo == Codigo::BusquedaDesbocada) return palabras::busquedaDesbocada(nombre);
     if (codigo == Codigo::CodigoMalEscrito) return palabras::codigoMalEscrito(nombre);
-    if (codigo == Codigo::PatronIncorrecto) return palabras::patronIncorrecto(nombre, hallado);
+    if (codigo == Codigo::PatronIncorrecto && relacionados.empty())
+        return palabras::patronIncorrecto(nombre, hallado);
+    if (codigo == Codigo::PatronIncorrecto)
+        return une({u"La definición de '", nombre, u"' no es un patrón: ", relacionados.front().texto, u"."});
     if (codigo == Codigo::VariableIndefinida)
         return palabras::variableIndefinida(hallado, nombre) + propuesta(esperados);
     if (codigo == Codigo::ReferenciaDesconocida && relacionados.empty())

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/motivoPatron.hpp"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -22,6 +24,9 @@ std::u16string referenciaDesconocida(std::u16string_view definicion, std::u16str
 std::u16string patronIncorrecto(std::u16string_view definicion, std::u16string_view texto);
 std::u16string variableIndefinida(std::u16string_view variable, std::u16string_view cabeza);
 std::u16string busquedaDesbocada(std::u16string_view definicion);
+
+/// What is wrong at a place of a pattern: a few words without full stop.
+std::u16string_view motivo(MotivoPatron motivo);
 
 /// A text between apostrophes.
 std::u16string entreApostrofos(std::u16string_view texto);

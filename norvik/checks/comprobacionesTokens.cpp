@@ -5,6 +5,8 @@
 #include "norvik/checks/comprobaciones.hpp"
 #include "norvik/checks/muestrasPatron.hpp"
 
+#include "norvik/base/palabras.hpp"
+#include "norvik/lexer/defectoDefinicion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/lexer/reconocedor.hpp"
 
@@ -115,11 +117,24 @@ private:
     MapaCoincidencias mapa_;
 };
 
+// Narrows what compiling told of a definition to the place in it that is wrong, and says why.
+void situaDefecto(const Definicion& d, const DefinicionesTokens& anteriores,
+                  std::vector<Diagnostico>& hallazgos) {
+    const auto defecto = defectoDeDefinicion(d.texto, anteriores);
+    const auto suyo = std::ranges::find(hallazgos, d.lugarTexto, &Diagnostico::rango);
+    if (!defecto || suyo == hallazgos.end()) return;
+    const bool esEscape = d.texto.substr(defecto->lugar).starts_with(u'\\');
+    const std::size_t largo = std::min<std::size_t>(esEscape ? 2 : 1, d.texto.size() - defecto->lugar);
+    suyo->rango = d.lugarDe(defecto->lugar, largo);
+    suyo->partes.relacionados.push_back({suyo->rango, std::u16string(palabras::motivo(defecto->motivo))});
+}
+
 void compruebaPatrones(const Fuente& fuente, bool sensible, std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
     for (const Definicion& d : fuente.definiciones) {
         const bool registrada = !lexico.registra({d.texto, d.nombre, d.esToken, sensible, {}, d.tipo});
+        if (!registrada) situaDefecto(d, lexico.definiciones(), hallazgos);
         if (registrada && d.esToken) deToken.push_back(&d);
     }
     Concurso concurso(lexico.definiciones());

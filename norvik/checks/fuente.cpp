@@ -2,6 +2,7 @@
 
 #include "norvik/checks/fuente.hpp"
 
+#include "norvik/base/lugares.hpp"
 #include "norvik/spec/nodoEspecificacion.hpp"
 #include "norvik/spec/recorridoEspecificacion.hpp"
 
@@ -23,6 +24,19 @@ void anota(Fuente& fuente, const NodoEspecificacion& cabeza, const NodoEspecific
 }
 
 } // namespace
+
+Rango Fuente::Definicion::lugarDe(std::size_t desde, std::size_t largo) const {
+    const Rango dentro = Lugares(texto, Lugares::Unidad::Utf16).rango(desde, desde + largo);
+    const auto enEspecificacion = [this](Punto punto) {
+        constexpr std::int32_t comilla = 1;
+        const Punto& inicio = lugarTexto.inicio;
+        punto.desplazamiento += inicio.desplazamiento + comilla;
+        if (punto.linea == 1) punto.columna += inicio.columna - 1 + comilla;
+        punto.linea += inicio.linea - 1;
+        return punto;
+    };
+    return {enEspecificacion(dentro.inicio), enEspecificacion(dentro.fin)};
+}
 
 Fuente fuenteDe(const Analisis& especificacion) {
     Fuente fuente;

@@ -5,6 +5,7 @@
 #include "norvik/base/rango.hpp"
 #include "norvik/parser/analisis.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,6 +21,9 @@ struct Fuente {
         Rango lugarTexto;     ///< quotes included
         bool esToken = false;
         std::int16_t tipo = 0; ///< a `TipoExpReg`
+
+        /// Where a part of `texto` stands.
+        Rango lugarDe(std::size_t desde, std::size_t largo) const;
     };
     struct Simbolo {
         std::u16string nombre;

@@ -34,13 +34,7 @@ void situaReferencia(Diagnostico& diagnostico, const Fuente& fuente) {
         if (d.nombre == referencia) diagnostico.partes.relacionados.push_back({d.lugarNombre, d.nombre});
         const std::size_t sitio = d.texto.find(u'<' + referencia + u'>');
         if (d.lugarTexto != diagnostico.rango || sitio == std::u16string::npos) continue;
-        const auto delante = static_cast<std::int32_t>(sitio) + 1; // the quote
-        const auto largo = static_cast<std::int32_t>(referencia.size()) + 2;
-        const Punto& inicio = d.lugarTexto.inicio;
-        const std::u16string_view texto = d.texto;
-        if (texto.substr(0, sitio).find_first_of(u"\r\n") != std::u16string_view::npos) continue;
-        const Punto desde{inicio.desplazamiento + delante, inicio.linea, inicio.columna + delante};
-        diagnostico.rango = {desde, {desde.desplazamiento + largo, desde.linea, desde.columna + largo}};
+        diagnostico.rango = d.lugarDe(sitio, referencia.size() + 2);
     }
 }
 

@@ -9,6 +9,9 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/definicionesTokens.hpp"
 
+#include <algorithm>
+#include <iterator>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -23,10 +26,17 @@ public:
     Expansor(std::u16string_view texto, const DefinicionesTokens& definiciones)
         : texto_(texto), definiciones_(definiciones) {}
 
+    std::size_t Expansion::enTexto(std::size_t enPatron) const {
+        const auto siguiente = std::ranges::upper_bound(tramos, enPatron, {}, &Tramo::enPatron);
+        if (siguiente == tramos.begin()) return enPatron;
+        const Tramo& tramo = *std::prev(siguiente);
+        return tramo.esReferencia ? tramo.enTexto : tramo.enTexto + (enPatron - tramo.enPatron);
+    }
+
     std::variant<Expansion, ErrorExpansion> expande() {
         for (i_ = 0; i_ < texto_.size(); ++i_)
             if (const auto error = avanza(texto_[i_])) return *error;
-        if (demasiado_) return ErrorExpansion{Causa::Incorrecta, {}};
+        if (demasiado_) return ErrorExpansion{Causa::DemasiadoLarga, {}, 0};
         return std::move(resultado_);
     }
 
@@ -41,6 +51,7 @@ private:
         if (c == u'c' && escape_) return codigo();
         if (c == u'<' && !referencia_ && !escape_) {
             referencia_.emplace();
+            lugarReferencia_ = i_;
             return {};
         }
         if (c == u'>' && referencia_ && !escape_) return resuelve();
@@ -56,6 +67,7 @@ private:
         if (referencia_) {
             referencia_->append(pieza);
         } else {
+            situa(i_ + 1 - pieza.size(), false);
             aniade(resultado_.patron, pieza);
             aniade(resultado_.lectura, {&c, 1});
         }
@@ -68,6 +80,15 @@ private:
             destino.append(pieza);
     }
 
+    // What is added next to the pattern comes from there.
+    void situa(std::size_t enTexto, bool esReferencia) {
+        const std::size_t enPatron = resultado_.patron.size();
+        const std::size_t adelanto = enTexto - enPatron;
+        if (adelanto == adelanto_ && !esReferencia) return;
+        resultado_.tramos.push_back({enPatron, enTexto, esReferencia});
+        adelanto_ = esReferencia ? std::numeric_limits<std::size_t>::max() : adelanto;
+    }
+
     bool siguienteEs(char16_t c) {
         ++i_;
         return i_ < texto_.size() && texto_[i_] == c;
@@ -75,14 +96,16 @@ private:
 
     // The character-code operator, with the position on its "c".
     Error codigo() {
-        const ErrorExpansion malEscrito{Causa::CodigoMalEscrito, {}};
+        const std::size_t lugar = i_ - 1; // its bar
+        const ErrorExpansion malEscrito{Causa::CodigoMalEscrito, {}, lugar};
         if (!siguienteEs(u'(')) return malEscrito;
         const std::size_t inicio = ++i_;
         unsigned valor = 0;
         for (; i_ < texto_.size() && texto_[i_] >= u'0' && texto_[i_] <= u'9'; ++i_)
             if (valor <= 255) valor = valor * 10 + (texto_[i_] - unsigned{u'0'});
         if (i_ == inicio || i_ >= texto_.size() || texto_[i_] != u')') return malEscrito;
-        if (valor > 255) return ErrorExpansion{Causa::Incorrecta, {}};
+        if (valor > 255) return ErrorExpansion{Causa::CodigoExcesivo, {}, lugar};
+        situa(lugar, false);
         aniade(resultado_.patron, desdeWindows1252(std::string(1, static_cast<char>(valor))));
         escape_ = false;
         return {};
@@ -90,7 +113,9 @@ private:
 
     Error resuelve() {
         const auto* const definiciones = definiciones_.llamadas(*referencia_);
-        if (definiciones == nullptr) return ErrorExpansion{Causa::ReferenciaDesconocida, *referencia_};
+        if (definiciones == nullptr)
+            return ErrorExpansion{Causa::ReferenciaDesconocida, *referencia_, lugarReferencia_};
+        situa(lugarReferencia_, true);
         for (const expresionRegular* const definicion : *definiciones) {
             if (demasiado_) break;
             aniade(resultado_.patron, definicion->expresion);
@@ -105,6 +130,8 @@ private:
     std::size_t i_ = 0;
     bool escape_ = false;
     bool demasiado_ = false;
+    std::size_t adelanto_ = 0; // of the text before the pattern, in the stretch under way
+    std::size_t lugarReferencia_ = 0;
     std::optional<std::u16string> referencia_;
     Expansion resultado_;
 };

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace norvik {
 
@@ -15,14 +16,27 @@ class DefinicionesTokens;
 struct Expansion {
     std::u16string patron;
     std::u16string lectura;
+
+    /// From here on in the pattern comes what stands there in the definition text; a reference all from one
+    /// place.
+    struct Tramo {
+        std::size_t enPatron = 0;
+        std::size_t enTexto = 0;
+        bool esReferencia = false;
+    };
+    std::vector<Tramo> tramos;
+
+    /// Where in the definition text a place in the pattern comes from, both from 0.
+    std::size_t enTexto(std::size_t enPatron) const;
 };
 
 /// Why a definition text has no expansion.
 struct ErrorExpansion {
-    enum class Causa { CodigoMalEscrito, ReferenciaDesconocida, Incorrecta };
+    enum class Causa { CodigoMalEscrito, CodigoExcesivo, ReferenciaDesconocida, DemasiadoLarga };
 
-    Causa causa = Causa::Incorrecta;
+    Causa causa = Causa::DemasiadoLarga;
     std::u16string referencia; ///< the name that nothing bears
+    std::size_t lugar = 0;     ///< in the definition text, from 0
 };
 
 /// Length that neither pattern nor reading may exceed, in characters.

@@ -13,6 +13,14 @@ namespace norvik {
 
 namespace {
 
+Diagnostico patronIncorrecto(const DefinicionTexto& definicion) {
+    Diagnostico diagnostico;
+    diagnostico.codigo = Codigo::PatronIncorrecto;
+    diagnostico.partes.nombre = definicion.nombre;
+    diagnostico.partes.hallado = definicion.texto;
+    return diagnostico;
+}
+
 Diagnostico diagnosticoDe(const ErrorExpansion& error, const DefinicionTexto& definicion) {
     Diagnostico diagnostico;
     diagnostico.partes.nombre = definicion.nombre;
@@ -24,10 +32,9 @@ Diagnostico diagnosticoDe(const ErrorExpansion& error, const DefinicionTexto& de
         diagnostico.codigo = Codigo::ReferenciaDesconocida;
         diagnostico.partes.hallado = error.referencia;
         break;
-    case ErrorExpansion::Causa::Incorrecta:
-        diagnostico.codigo = Codigo::PatronIncorrecto;
-        diagnostico.partes.hallado = definicion.texto;
-        break;
+    case ErrorExpansion::Causa::CodigoExcesivo:
+    case ErrorExpansion::Causa::DemasiadoLarga:
+        return patronIncorrecto(definicion);
     }
     return diagnostico;
 }
@@ -38,8 +45,8 @@ std::optional<Diagnostico> pilaTokens::registra(const DefinicionTexto& definicio
     const auto expansion = expande(definicion.texto, definiciones_);
     if (const auto* const error = std::get_if<ErrorExpansion>(&expansion))
         return diagnosticoDe(*error, definicion);
-    const auto& [patron, lectura] = std::get<Expansion>(expansion);
-    if (!registra(definicion, patron, lectura)) return diagnosticoDe({}, definicion);
+    const auto& [patron, lectura, tramos] = std::get<Expansion>(expansion);
+    if (!registra(definicion, patron, lectura)) return patronIncorrecto(definicion);
     return std::nullopt;
 }
 
@@ -48,7 +55,7 @@ std::optional<Diagnostico> pilaTokens::registraPatron(const DefinicionTexto& def
     const std::u16string texto = definicionDePatron(definicion.texto);
     DefinicionTexto escrita = definicion;
     escrita.texto = texto;
-    return diagnosticoDe({}, escrita);
+    return patronIncorrecto(escrita);
 }
 
 /// False when the pattern is malformed, or something of the record is out of range.

@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include "norvik/base/motivoPatron.hpp"
 #include "norvik/pattern/patronClase.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -67,6 +69,15 @@ struct Patron {
 
 /// Reads a pattern; nothing when it is malformed.
 std::optional<Patron> leePatron(std::u16string_view texto, bool ignoraMayusculas);
+
+/// What makes a pattern malformed.
+struct DefectoPatron {
+    MotivoPatron motivo = MotivoPatron::NadaQueRepetir;
+    std::size_t lugar = 0; ///< of the piece that is wrong, from 0
+};
+
+/// Nothing for a pattern that can be read.
+std::optional<DefectoPatron> defectoDePatron(std::u16string_view texto);
 
 /// Fills `pareja`, `siguiente` and `anulable` of a list whose groups are balanced.
 void enlaza(std::vector<Pieza>& piezas);

@@ -62,8 +62,13 @@ public:
     }
 
     std::optional<Patron> lee();
+    /// Of a pattern that was not read.
+    const DefectoPatron& defecto() const { return defecto_; }
 
 private:
+    using Motivo = MotivoPatron;
+
+    Patron acaba();
     // Each reads from `i_` on and says whether what stands there is well formed.
     bool leePieza();
     bool leeGrupo();
@@ -87,6 +92,12 @@ private:
     bool quedan() const { return i_ < texto_.size(); }
     bool sigue(char16_t c) const { return quedan() && texto_[i_] == c; }
     bool consume(std::u16string_view esperado);
+    // What is wrong, and where; always false.
+    bool falla(Motivo motivo, std::size_t lugar) {
+        defecto_ = {motivo, lugar};
+        return false;
+    }
+    bool falla(Motivo motivo) { return falla(motivo, pieza_); }
 
     void abre(TipoGrupo grupo);
     bool cierra();
@@ -96,10 +107,14 @@ private:
 
     std::u16string_view texto_;
     std::size_t i_ = 0;
+    std::size_t pieza_ = 0; // where the one being read begins
     Patron patron_;
     std::vector<std::size_t> abiertos_;
-    std::optional<std::size_t> repetible_; // the piece that a repetition would join
+    std::vector<std::size_t> lugaresAbiertos_; // their brackets
+    std::optional<std::size_t> repetible_;     // the piece that a repetition would join
     std::uint32_t mayorReferencia_ = 0;
+    std::size_t lugarReferencia_ = 0; // of that one
+    DefectoPatron defecto_;
 };
 
 std::optional<Patron> LectorPatron::lee() {
@@ -107,7 +122,18 @@ std::optional<Patron> LectorPatron::lee() {
     abre(TipoGrupo::SinCaptura);
     while (quedan())
         if (!leePieza()) return std::nullopt;
-    if (abiertos_.size() != 1 || mayorReferencia_ > patron_.capturas) return std::nullopt;
+    if (abiertos_.size() != 1) {
+        falla(Motivo::GrupoSinCerrar, lugaresAbiertos_.back());
+        return std::nullopt;
+    }
+    if (mayorReferencia_ > patron_.capturas) {
+        falla(Motivo::ReferenciaSinGrupo, lugarReferencia_);
+        return std::nullopt;
+    }
+    return acaba();
+}
+
+Patron LectorPatron::acaba() {
     cierra();
     patron_.tieneReferencias = mayorReferencia_ > 0;
     enlaza(patron_.piezas);
@@ -115,6 +141,7 @@ std::optional<Patron> LectorPatron::lee() {
 }
 
 bool LectorPatron::leePieza() {
+    pieza_ = i_;
     const char16_t c = texto_[i_];
     if (c == u'{') {
         if (const auto llaves = leeLlaves()) return leeRepeticion(*llaves);
@@ -126,7 +153,7 @@ bool LectorPatron::leePieza() {
     case u'(':
         return leeGrupo();
     case u')':
-        return abiertos_.size() > 1 && cierra();
+        return abiertos_.size() > 1 ? cierra() : falla(Motivo::CierreSinAbrir);
     case u'[':
         return leeClase();
     case u'*':
@@ -163,16 +190,17 @@ bool LectorPatron::leeGrupo() {
     } else if (consume(u"!")) {
         abre(TipoGrupo::DelanteNo);
     } else {
-        return false;
+        return falla(Motivo::GrupoDesconocido);
     }
     return true;
 }
 
 bool LectorPatron::leeRepeticion(Repeticion repeticion) {
-    if (!repetible_ || repeticion.minimo > repeticion.maximo) return false;
+    if (!repetible_) return falla(Motivo::NadaQueRepetir);
+    if (repeticion.minimo > repeticion.maximo) return falla(Motivo::RepeticionAlReves);
     const bool cabe = repeticion.minimo <= mayorRepeticion &&
                       (repeticion.maximo <= mayorRepeticion || repeticion.maximo == Repeticion::sinLimite);
-    if (!cabe) return false;
+    if (!cabe) return falla(Motivo::RepeticionExcesiva);
     repeticion.perezosa = consume(u"?");
     patron_.piezas[*repetible_].repeticion = repeticion;
     repetible_.reset();
@@ -204,7 +232,7 @@ std::optional<std::uint32_t> LectorPatron::leeNumero() {
 }
 
 bool LectorPatron::leeEscape() {
-    if (!quedan()) return false;
+    if (!quedan()) return falla(Motivo::BarraAlFinal);
     const char16_t c = texto_[i_];
     if (c >= u'1' && c <= u'9') return leeReferencia();
     if (c == u'b' || c == u'B') {
@@ -224,13 +252,18 @@ bool LectorPatron::leeEscape() {
 
 bool LectorPatron::leeReferencia() {
     const std::uint32_t numero = *leeNumero();
-    mayorReferencia_ = std::max(mayorReferencia_, numero);
+    if (numero > mayorReferencia_) {
+        mayorReferencia_ = numero;
+        lugarReferencia_ = pieza_;
+    }
     aniade({.tipo = TipoPieza::Referencia, .numero = numero}, true);
     return true;
 }
 
 std::optional<char16_t> LectorPatron::leeUnidadEscapada() {
+    const std::size_t barra = i_ - 1;
     const char16_t c = texto_[i_++];
+    std::optional<char16_t> unidad;
     switch (c) {
     case u'n':
         return u'\n';
@@ -243,17 +276,19 @@ std::optional<char16_t> LectorPatron::leeUnidadEscapada() {
     case u'v':
         return u'\v';
     case u'x':
-        return leeCodigo(2);
     case u'u':
-        return leeCodigo(4);
+        unidad = leeCodigo(c == u'x' ? 2 : 4);
+        if (!unidad) falla(Motivo::CodigoIncompleto, barra);
+        return unidad;
     case u'0':
-        if (quedan() && esDigito(texto_[i_])) return std::nullopt;
-        return u'\0';
+        if (!quedan() || !esDigito(texto_[i_])) return u'\0';
+        break;
     default:
+        if (!esDigito(c) && !esLetra(c)) return c;
         break;
     }
-    if (esDigito(c) || esLetra(c)) return std::nullopt;
-    return c;
+    falla(Motivo::EscapeDesconocido, barra);
+    return std::nullopt;
 }
 
 std::optional<char16_t> LectorPatron::leeCodigo(std::size_t cifras) {
@@ -271,6 +306,7 @@ bool LectorPatron::leeClase() {
     ClaseLeida clase;
     clase.negada = consume(u"^");
     while (!consume(u"]")) {
+        const std::size_t lugar = i_;
         const auto desde = leeElemento(clase);
         if (!desde) return false;
         if (!desde->unidad) continue;
@@ -287,7 +323,7 @@ bool LectorPatron::leeClase() {
         } else {
             i_ = guion;
         }
-        if (rango.hasta < rango.desde) return false;
+        if (rango.hasta < rango.desde) return falla(Motivo::RangoAlReves, lugar);
         clase.rangos.push_back(rango);
     }
     aniadeClase(std::move(clase));
@@ -295,6 +331,7 @@ bool LectorPatron::leeClase() {
 }
 
 std::optional<LectorPatron::Elemento> LectorPatron::leeElemento(ClaseLeida& clase) {
+    falla(Motivo::ClaseSinCerrar); // unless more comes
     if (!quedan()) return std::nullopt;
     const char16_t c = texto_[i_];
     if (c != u'\\') {
@@ -322,12 +359,14 @@ bool LectorPatron::consume(std::u16string_view esperado) {
 void LectorPatron::abre(TipoGrupo grupo) {
     const std::uint32_t numero = grupo == TipoGrupo::Captura ? ++patron_.capturas : 0;
     abiertos_.push_back(patron_.piezas.size());
+    lugaresAbiertos_.push_back(pieza_);
     aniade({.tipo = TipoPieza::Abre, .grupo = grupo, .numero = numero}, false);
 }
 
 bool LectorPatron::cierra() {
     const std::size_t abre = abiertos_.back();
     abiertos_.pop_back();
+    lugaresAbiertos_.pop_back();
     Pieza pieza = patron_.piezas[abre];
     pieza.tipo = TipoPieza::Cierra;
     aniade(pieza, false);
@@ -362,6 +401,13 @@ struct GrupoAbierto {
 
 std::optional<Patron> leePatron(std::u16string_view texto, bool ignoraMayusculas) {
     return LectorPatron(texto, ignoraMayusculas).lee();
+}
+
+std::optional<DefectoPatron> defectoDePatron(std::u16string_view texto) {
+    constexpr bool ignoraMayusculas = false; // changes nothing of the form
+    LectorPatron lector(texto, ignoraMayusculas);
+    if (lector.lee()) return std::nullopt;
+    return lector.defecto();
 }
 
 std::optional<std::u16string> Patron::palabra() const {

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+
+namespace norvik {
+
+/// Why a definition has no pattern, or one that is malformed.
+enum class MotivoPatron : std::uint8_t {
+    NadaQueRepetir,
+    RepeticionAlReves,
+    RepeticionExcesiva,
+    GrupoSinCerrar,
+    CierreSinAbrir,
+    GrupoDesconocido,
+    ClaseSinCerrar,
+    RangoAlReves,
+    EscapeDesconocido,
+    CodigoIncompleto,
+    BarraAlFinal,
+    ReferenciaSinGrupo,
+    CodigoMalEscrito, ///< a \c( ) of the definition
+    CodigoExcesivo,   ///< the same
+    DemasiadoLargo,   ///< once it is expanded
+};
+
+} // namespace norvik
