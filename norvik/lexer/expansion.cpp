@@ -26,13 +26,6 @@ public:
     Expansor(std::u16string_view texto, const DefinicionesTokens& definiciones)
         : texto_(texto), definiciones_(definiciones) {}
 
-    std::size_t Expansion::enTexto(std::size_t enPatron) const {
-        const auto siguiente = std::ranges::upper_bound(tramos, enPatron, {}, &Tramo::enPatron);
-        if (siguiente == tramos.begin()) return enPatron;
-        const Tramo& tramo = *std::prev(siguiente);
-        return tramo.esReferencia ? tramo.enTexto : tramo.enTexto + (enPatron - tramo.enPatron);
-    }
-
     std::variant<Expansion, ErrorExpansion> expande() {
         for (i_ = 0; i_ < texto_.size(); ++i_)
             if (const auto error = avanza(texto_[i_])) return *error;
@@ -137,6 +130,13 @@ private:
 };
 
 } // namespace
+
+std::size_t Expansion::enTexto(std::size_t enPatron) const {
+    const auto siguiente = std::ranges::upper_bound(tramos, enPatron, {}, &Tramo::enPatron);
+    if (siguiente == tramos.begin()) return enPatron;
+    const Tramo& tramo = *std::prev(siguiente);
+    return tramo.esReferencia ? tramo.enTexto : tramo.enTexto + (enPatron - tramo.enPatron);
+}
 
 std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
                                                 const DefinicionesTokens& definiciones) {
