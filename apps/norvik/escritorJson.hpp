@@ -6,6 +6,7 @@
 
 #include "norvik/base/texto.hpp"
 
+#include <concepts>
 #include <cstdint>
 #include <rapidjson/writer.h>
 #include <string>
@@ -49,6 +50,10 @@ public:
     void campo(const char* clave, std::int32_t numero) {
         escritor_.Key(clave);
         escritor_.Int(numero);
+    }
+    void campo(const char* clave, std::same_as<bool> auto valor) { // nothing else may turn into one
+        escritor_.Key(clave);
+        escritor_.Bool(valor);
     }
     void acabaLinea() {
         flujo_.Put('\n');

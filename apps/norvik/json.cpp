@@ -36,6 +36,21 @@ void campoDeRango(Escritor& escritor, const Rango& rango) {
     escritor.cierraObjeto();
 }
 
+void escribeArreglo(Escritor& escritor, const Arreglo& arreglo) {
+    escritor.abreObjeto();
+    escritor.campo("titulo", arreglo.titulo);
+    escritor.abreLista("cambios");
+    for (const Cambio& cambio : arreglo.cambios) {
+        escritor.abreObjeto();
+        campoDeRango(escritor, cambio.rango);
+        escritor.campo("texto", cambio.texto);
+        if (cambio.conNombres) escritor.campo("conNombres", true);
+        escritor.cierraObjeto();
+    }
+    escritor.cierraLista();
+    escritor.cierraObjeto();
+}
+
 void escribeDiagnostico(Escritor& escritor, const Diagnostico& diagnostico, std::u16string_view fichero) {
     const Partes& partes = diagnostico.partes;
     escritor.abreObjeto();
@@ -57,6 +72,7 @@ void escribeDiagnostico(Escritor& escritor, const Diagnostico& diagnostico, std:
     }
     escritor.cierraLista();
     escritor.abreLista("arreglos");
+    for (const Arreglo& arreglo : partes.arreglos) escribeArreglo(escritor, arreglo);
     escritor.cierraLista();
     escritor.cierraObjeto();
 }

@@ -19,6 +19,8 @@ enum class Codigo : std::uint8_t {
     CaracterIncorrecto, ///< de un texto: el carácter `hallado` no empieza ningún token
     TokenInesperado,    ///< de un texto: `hallado` donde solo caben `esperados`
     BusquedaDesbocada,  ///< de un texto: buscar la definición `nombre` pide demasiado tiempo o memoria
+    ReparacionAgotada,  ///< de un texto: nota en el último error de que se siguió; los de detrás no se
+                        ///< buscaron
     Cancelado,          ///< quien llamó no quiso más
     Utf8Incorrecto,     ///< de un texto: bytes que no son UTF-8
     SinGramatica,       ///< se quiso analizar un texto con un lenguaje sin reglas
@@ -68,6 +70,26 @@ struct Relacionado {
     bool operator==(const Relacionado&) const = default;
 };
 
+/// Un cambio de un texto: lo que hay en un rango, por otro texto. Con un rango vacío inserta; con un texto
+/// vacío, quita.
+struct Cambio {
+    Rango rango;
+    std::u16string texto;
+    /// El texto no es lo que se escribe: en lugar de algún token lleva su nombre, porque se escribe de muchas
+    /// maneras (un identificador, un número).
+    bool conNombres = false;
+
+    bool operator==(const Cambio&) const = default;
+};
+
+/// Una manera de arreglar un error: sus palabras y sus cambios, en el orden del texto y sin que se pisen.
+struct Arreglo {
+    std::u16string titulo;
+    std::vector<Cambio> cambios;
+
+    bool operator==(const Arreglo&) const = default;
+};
+
 /// Aquello de lo que se hacen las palabras de un diagnóstico; cada código dice qué partes llena. Los textos
 /// son como los conoce una persona: un token por su nombre para personas o entre apóstrofos.
 struct Partes {
@@ -75,6 +97,7 @@ struct Partes {
     std::u16string hallado;
     std::vector<std::u16string> esperados;
     std::vector<Relacionado> relacionados;
+    std::vector<Arreglo> arreglos{}; ///< el primero, el más probable
 
     bool operator==(const Partes&) const = default;
 };

@@ -35,6 +35,12 @@ std::u16string propuesta(const std::vector<std::u16string>& nombres) {
     return nombres.empty() ? std::u16string() : une({u" ¿Quería decir ", lista(nombres), u"?"});
 }
 
+// A wrong character between apostrophes is one unit, or a pair of them; a run of characters is longer.
+bool sonVarios(std::u16string_view entreApostrofos) {
+    const bool esPar = entreApostrofos.size() == 4 && (entreApostrofos[1] & 0xFC00) == 0xD800;
+    return entreApostrofos.size() > 3 && !esPar;
+}
+
 // A code: its name, and the words of a diagnostic, in which parts of it stand in braces.
 struct Fila {
     Codigo codigo;
@@ -44,9 +50,11 @@ struct Fila {
 
 const Fila& filaDe(Codigo codigo) {
     static constexpr std::array todas = {
-        Fila{Codigo::CaracterIncorrecto, u"caracter-incorrecto", u"Carácter {hallado} incorrecto."},
+        Fila{Codigo::CaracterIncorrecto, u"caracter-incorrecto", {}},
         Fila{Codigo::TokenInesperado, u"token-inesperado", {}},
         Fila{Codigo::BusquedaDesbocada, u"busqueda-desbocada", {}},
+        Fila{Codigo::ReparacionAgotada, u"reparacion-agotada",
+             u"No se siguió más allá de este error: no se encontró a tiempo cómo arreglarlo."},
         Fila{Codigo::Cancelado, u"cancelado", u"La operación se ha cancelado."},
         Fila{Codigo::Utf8Incorrecto, u"utf8-incorrecto", u"Los bytes del texto no son UTF-8."},
         Fila{Codigo::SinGramatica, u"sin-gramatica",
@@ -211,6 +219,21 @@ std::u16string_view motivo(MotivoPatron motivo) {
     return {};
 }
 
+std::u16string arreglo(std::u16string_view puesto, std::u16string_view quitado) {
+    if (quitado.empty()) return une({u"inserte ", puesto});
+    if (puesto.empty()) return une({u"quite ", quitado});
+    return une({u"cambie ", quitado, u" por ", puesto});
+}
+
+std::u16string detrasDe(std::u16string_view arreglo, std::u16string_view lexema) {
+    return une({arreglo, u" detrás de ", entreApostrofos(lexema)});
+}
+
+std::u16string yTambien(std::u16string_view uno, std::u16string_view otro) {
+    if (uno.empty()) return std::u16string(otro);
+    return une({uno, otro.starts_with(u'i') ? u" e " : u" y ", otro});
+}
+
 std::u16string entreApostrofos(std::u16string_view texto) {
     return une({u"'", texto, u"'"});
 }
@@ -236,8 +259,11 @@ std::u16string_view nombreDe(Gravedad gravedad) {
 std::u16string mensaje(const Diagnostico& diagnostico) {
     const Fila& fila = filaDe(diagnostico.codigo);
     if (!fila.palabras.empty()) return rellena(fila.palabras, diagnostico.partes);
-    const auto& [nombre, hallado, esperados, relacionados] = diagnostico.partes;
+    const auto& [nombre, hallado, esperados, relacionados, arreglos] = diagnostico.partes;
     const Codigo codigo = diagnostico.codigo;
+    if (codigo == Codigo::CaracterIncorrecto)
+        return sonVarios(hallado) ? une({u"Caracteres ", hallado, u" incorrectos."})
+                                  : une({u"Carácter ", hallado, u" incorrecto."});
     if (codigo == Codigo::BusquedaDesbocada) return palabras::busquedaDesbocada(nombre);
     if (codigo == Codigo::CodigoMalEscrito) return palabras::codigoMalEscrito(nombre);
     if (codigo == Codigo::PatronIncorrecto && relacionados.empty())

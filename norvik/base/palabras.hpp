@@ -28,6 +28,13 @@ std::u16string busquedaDesbocada(std::u16string_view definicion);
 /// What is wrong at a place of a pattern: a few words without full stop.
 std::u16string_view motivo(MotivoPatron motivo);
 
+/// What a repair does at one place: "inserte X", "quite Y", or "cambie Y por X".
+std::u16string arreglo(std::u16string_view puesto, std::u16string_view quitado);
+/// The same at a place behind the one of the error.
+std::u16string detrasDe(std::u16string_view arreglo, std::u16string_view lexema);
+/// Two of them, the first of which may be empty.
+std::u16string yTambien(std::u16string_view uno, std::u16string_view otro);
+
 /// A text between apostrophes.
 std::u16string entreApostrofos(std::u16string_view texto);
 

@@ -8,7 +8,9 @@
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/erroresTexto.hpp"
+#include "norvik/parser/lectorTexto.hpp"
 #include "norvik/parser/motorSLR.hpp"
+#include "norvik/parser/reparador.hpp"
 
 #include <chrono>
 #include <span>
@@ -33,19 +35,19 @@ public:
     CursoDeTexto(TextoAnalizado& texto, const pilaTokens& lexico, const MapaTokens& mapa,
                  LenguajeAnalisis& lenguaje, std::vector<std::int16_t>& pasos,
                  const std::stop_token& cancelacion)
-        : texto_(texto), definiciones_(lexico.tokensLenguaje()), mapa_(mapa), lenguaje_(lenguaje),
-          pasos_(pasos), cancelacion_(cancelacion),
-          maximoPasos_(pasosDeMas + pasosPorCaracter * texto.texto.size()) {
+        : texto_(texto), lector_(texto.texto, lexico, mapa), lenguaje_(lenguaje), pasos_(pasos),
+          cancelacion_(cancelacion), maximoPasos_(pasosDeMas + pasosPorCaracter * texto.texto.size()) {
         lee();
     }
 
     std::int16_t columna() const { return columna_; }
     static Posicion posicion() { return {}; }
     void desplaza() {
-        if (lectura_.leido.definicion == TokenLeido::fin)
+        const Lectura& lectura = lector_.lectura();
+        if (lectura.leido.definicion == TokenLeido::fin)
             throw Corte{Codigo::TablaIncorrecta, u"desplaza el final del texto"};
-        texto_.tokens.push_back({lectura_.leido.definicion, static_cast<std::uint32_t>(lectura_.inicio - 1),
-                                 static_cast<std::uint32_t>(lectura_.fin - 1)});
+        texto_.tokens.push_back({lectura.leido.definicion, static_cast<std::uint32_t>(lectura.inicio - 1),
+                                 static_cast<std::uint32_t>(lectura.fin - 1)});
         pasos_.push_back(0);
         if (texto_.tokens.size() % tokensPorConsulta == 0 && cancelacion_.stop_requested())
             throw Corte{Codigo::Cancelado, {}};
@@ -56,7 +58,7 @@ public:
         if (pasos_.size() > maximoPasos_) throw Corte{Codigo::TablaIncorrecta, u"no deja de reducir"};
         pasos_.insert(pasos_.end(), reglas.begin(), reglas.end());
     }
-    const Lectura& lectura() const { return lectura_; }
+    LectorTexto& lector() { return lector_; }
 
 private:
     // More than any tree needs that comes from a table without endless reductions, and bearable.
@@ -64,27 +66,14 @@ private:
     static constexpr std::size_t pasosPorCaracter = 100;
     static constexpr std::size_t tokensPorConsulta = 1024;
 
-    void lee() {
-        lectura_ = leeDesde(lectura_.fin, texto_.texto, mapa_, definiciones_);
-        if (lectura_.leido.definicion == TokenLeido::fin) leeFinal();
-        columna_ = lenguaje_.columna(lectura_.leido);
-    }
-    // An empty match at the very end is a token, once.
-    void leeFinal() {
-        const auto token = mapa_.ganadoraEn(lectura_.inicio);
-        if (!token || std::exchange(finalLeido_, true)) return;
-        lectura_.leido = {token->patron, {}};
-    }
+    void lee() { columna_ = lenguaje_.columna(lector_.lee().leido); }
 
     TextoAnalizado& texto_;
-    const std::vector<const expresionRegular*>& definiciones_;
-    const MapaTokens& mapa_;
+    LectorTexto lector_;
     LenguajeAnalisis& lenguaje_;
     std::vector<std::int16_t>& pasos_;
     const std::stop_token& cancelacion_;
     std::size_t maximoPasos_;
-    Lectura lectura_;
-    bool finalLeido_ = false;
     std::int16_t columna_ = 0;
 };
 
@@ -97,20 +86,17 @@ Diagnostico sinLugar(Codigo codigo, std::u16string_view hallado = {}) {
 } // namespace
 
 Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {
-    Analisis analisis;
-    auto error = reconoce(*texto, opciones);
-    if (!error) error = recorre(*texto, opciones);
-    if (error) {
-        analisis.diagnosticos.push_back(std::move(*error));
-        return analisis;
-    }
+    if (auto error = reconoce(*texto, opciones)) return {{}, {std::move(*error)}};
+    Recorrido recorrido = recorre(*texto, opciones);
+    if (recorrido.final == Final::SinArbol) return {{}, std::move(recorrido.diagnosticos)};
     auto arbol = ArbolAnalisis::construye(std::move(texto), pasos_);
-    if (arbol)
-        analisis.arbol = std::move(*arbol);
-    else
-        analisis.diagnosticos.push_back(
+    if (!arbol) {
+        recorrido.diagnosticos.push_back(
             sinLugar(Codigo::TablaIncorrecta, u"sus reducciones no forman un árbol"));
-    return analisis;
+        return {{}, std::move(recorrido.diagnosticos)};
+    }
+    if (recorrido.final == Final::Reparado) return {{}, std::move(recorrido.diagnosticos), std::move(*arbol)};
+    return {std::move(*arbol), {}};
 }
 
 std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
@@ -128,28 +114,34 @@ std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
     return std::nullopt;
 }
 
-std::optional<Diagnostico> Analizador::recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones) {
-    if (gramatica_.simbolos().esVacio()) return sinLugar(Codigo::SinGramatica);
-    if (lenguaje_.actualiza()) cadenas_.olvida();
+Analizador::Recorrido Analizador::recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones) {
+    if (gramatica_.simbolos().esVacio()) return {Final::SinArbol, {sinLugar(Codigo::SinGramatica)}};
+    if (lenguaje_.actualiza()) {
+        cadenas_.olvida();
+        fichas_.reset();
+    }
     pasos_.clear();
     try {
         CursoDeTexto curso(texto, lexico_, mapa_, lenguaje_, pasos_, opciones.cancelacion);
-        switch (MotorSLR(curso, lenguaje_, cadenas_).ejecuta()) {
-        case Desenlace::Aceptado:
-            return std::nullopt;
-        case Desenlace::ErrorLexico:
-            return caracterIncorrecto(texto.texto, static_cast<std::size_t>(curso.lectura().inicio) - 1,
-                                      texto.lugares);
-        case Desenlace::ErrorSintactico:
-            return tokenInesperado({texto.texto, mapa_, lexico_, gramatica_}, curso.lectura(), texto.lugares,
-                                   lenguaje_);
-        }
+        if (MotorSLR(curso, lenguaje_, cadenas_).ejecuta() == Desenlace::Aceptado)
+            return {Final::Aceptado, {}};
+        return repara(texto, curso.lector(), opciones);
     } catch (const Corte& corte) {
-        return sinLugar(corte.codigo, corte.causa);
+        return {Final::SinArbol, {sinLugar(corte.codigo, corte.causa)}};
+    } catch (const OperacionCancelada&) {
+        return {Final::SinArbol, {sinLugar(Codigo::Cancelado)}};
     } catch (const SubindiceFueraDeIntervalo&) {
-        return sinLugar(Codigo::TablaIncorrecta, u"nombra un estado o una regla que no existen");
+        return {Final::SinArbol,
+                {sinLugar(Codigo::TablaIncorrecta, u"nombra un estado o una regla que no existen")}};
     }
-    return std::nullopt;
+}
+
+Analizador::Recorrido Analizador::repara(TextoAnalizado& texto, LectorTexto& lector,
+                                         const OpcionesAnalisis& opciones) {
+    if (!fichas_) fichas_.emplace(lexico_, gramatica_);
+    Reparador reparador({texto, pasos_, lector}, lenguaje_, {lexico_, *fichas_}, opciones);
+    const bool reparado = reparador.repara();
+    return {reparado ? Final::Reparado : Final::SinArbol, reparador.diagnosticos()};
 }
 
 Lexemas Analizador::lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {

@@ -7,6 +7,7 @@
 #include "norvik/lexer/reconocedor.hpp"
 #include "norvik/parser/analisis.hpp"
 #include "norvik/parser/cadenasReglas.hpp"
+#include "norvik/parser/fichasTokens.hpp"
 #include "norvik/parser/lenguajeAnalisis.hpp"
 #include "norvik/parser/lexemas.hpp"
 #include "norvik/parser/textoAnalizado.hpp"
@@ -18,6 +19,7 @@
 
 namespace norvik {
 
+class LectorTexto;
 class gramatica;
 
 /// Reads and parses texts of one language as values. It learns from each text what makes the next one faster,
@@ -33,8 +35,15 @@ public:
     Lexemas lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones);
 
 private:
+    enum class Final : std::uint8_t { Aceptado, Reparado, SinArbol };
+    struct Recorrido {
+        Final final = Final::SinArbol;
+        std::vector<Diagnostico> diagnosticos;
+    };
+
     std::optional<Diagnostico> reconoce(const TextoAnalizado& texto, const OpcionesAnalisis& opciones);
-    std::optional<Diagnostico> recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones);
+    Recorrido recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones);
+    Recorrido repara(TextoAnalizado& texto, LectorTexto& lector, const OpcionesAnalisis& opciones);
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;
@@ -42,6 +51,7 @@ private:
     MapaTokens mapa_;
     LenguajeAnalisis lenguaje_;
     CadenasReglas cadenas_;
+    std::optional<FichasTokens> fichas_; ///< made at the first error
     std::vector<std::int16_t> pasos_;
 };
 

@@ -10,6 +10,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/parser/lectura.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace norvik {
@@ -143,6 +144,11 @@ std::u16string ArbolAnalisis::toString() const {
 
 std::int16_t Nodo::regla() const {
     return contenido_->fichas[indice_].regla;
+}
+
+bool Nodo::esInsertado() const {
+    return esToken() &&
+           std::ranges::binary_search(contenido_->texto->insertados, contenido_->fichas[indice_].tokens);
 }
 
 std::int16_t Nodo::token() const {

@@ -28,6 +28,9 @@ class Nodo {
 public:
     /// Verdadero con un token del texto. La aplicación de una regla vacía no tiene hijos y no es un token.
     bool esToken() const { return regla() == 0; }
+    /// Verdadero con un token que no está en el texto: lo puso el arreglo de un error. Su rango es vacío,
+    /// detrás del token anterior, y no tiene texto ni lexema; nombre y número son los suyos.
+    bool esInsertado() const;
     /// Número de su regla, desde 1; 0 en un token.
     std::int16_t regla() const;
     /// Número del nombre de su token, desde 1; 0 en una regla.

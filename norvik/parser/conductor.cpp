@@ -7,10 +7,14 @@
 #include "norvik/base/palabras.hpp"
 #include "norvik/parser/constructorArbol.hpp"
 #include "norvik/parser/erroresTexto.hpp"
+#include "norvik/parser/fichasTokens.hpp"
+#include "norvik/parser/lectorTexto.hpp"
 #include "norvik/parser/lectorTokens.hpp"
 #include "norvik/parser/motorSLR.hpp"
 
+#include <cstddef>
 #include <span>
+#include <vector>
 
 namespace norvik {
 
@@ -52,6 +56,42 @@ private:
     std::int16_t columna_ = 0;
     Posicion posicion_{0, 0};
 };
+
+// The parse of a text once more, up to the token at a position, which then is one that no grammar knows.
+class Repeticion {
+public:
+    Repeticion(LectorTexto lector, std::int32_t hasta, LenguajeAnalisis& lenguaje)
+        : lector_(lector), hasta_(hasta), lenguaje_(lenguaje) {
+        desplaza();
+    }
+    std::int16_t columna() const { return columna_; }
+    static Posicion posicion() { return {}; }
+    void desplaza() {
+        const Lectura& lectura = lector_.lee();
+        columna_ = lectura.inicio >= hasta_ ? LenguajeAnalisis::columnaDesconocida
+                                            : lenguaje_.columna(lectura.leido);
+    }
+    void reduce(std::int16_t /*regla*/) {}
+    void reduce(std::span<const std::int16_t> /*reglas*/) {}
+
+private:
+    LectorTexto lector_;
+    std::int32_t hasta_;
+    LenguajeAnalisis& lenguaje_;
+    std::int16_t columna_ = 0;
+};
+
+// The stack as a token came, before any reduction was made for its sake.
+std::vector<std::int16_t> pilaAntesDe(std::int32_t posicion, std::u16string_view texto,
+                                      const pilaTokens& lexico, LenguajeAnalisis& lenguaje) {
+    Repeticion curso(LectorTexto(texto, lexico, lexico.mapaTokens()), posicion, lenguaje);
+    CadenasReglas cadenas;
+    MotorSLR motor(curso, lenguaje, cadenas);
+    motor.ejecuta();
+    std::vector<std::int16_t> estados;
+    for (std::size_t i = 0; i < motor.pila().altura(); ++i) estados.push_back(motor.pila().estado(i));
+    return estados;
+}
 
 } // namespace
 
@@ -116,8 +156,9 @@ Mensaje ConductorSLR::informaErrorSintactico(std::u16string_view texto, std::int
     mensajeError_ = palabras::errorSintactico(lector_.DameStringTokenLeido(),
                                               gramatica_.toStringEsperados(estado, lexico_));
     const Lectura lectura{lector_.leido(), lector_.inicioToken(), lector_.posLectura()};
-    diagnostico_ = tokenInesperado({texto, lexico_.mapaTokens(), lexico_, gramatica_}, lectura,
-                                   Lugares(texto, Lugares::Unidad::Utf16), lenguaje_);
+    const std::vector<std::int16_t> pila = pilaAntesDe(lectura.inicio, texto, lexico_, lenguaje_);
+    diagnostico_ = tokenInesperado(lectura, esperadosEn(pila, FichasTokens(lexico_, gramatica_), lenguaje_),
+                                   Lugares(texto, Lugares::Unidad::Utf16), lexico_);
     return {mensajeError_, u"ERROR de Sintaxis", Icono::Exclamacion, Botones::Aceptar};
 }
 

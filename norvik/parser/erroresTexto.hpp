@@ -7,21 +7,22 @@
 #include "norvik/parser/lectura.hpp"
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik {
 
+class FichasTokens;
 class LenguajeAnalisis;
-class MapaTokens;
-class gramatica;
 class pilaTokens;
 
-/// A text that was recognised and parsed, and the language that did it.
-struct TextoReconocido {
-    std::u16string_view texto;
-    const MapaTokens& mapa;
+/// What is said of the tokens of a language.
+struct VocesDeLenguaje {
     const pilaTokens& lexico;
-    const gramatica& reglas;
+    const FichasTokens& fichas;
 };
 
 /// 2 for a character outside the first plane, which is a pair of units; else 1.
@@ -30,9 +31,18 @@ std::size_t largoDeCaracter(std::u16string_view texto, std::size_t indice);
 /// What is wrong with the character at a 0-based index, which starts no token.
 Diagnostico caracterIncorrecto(std::u16string_view texto, std::size_t indice, const Lugares& lugares);
 
-/// What is wrong with a token that the parse could not go on with. What is expected is exact: the tokens that
-/// the table can really shift there after its reductions, the end of the text among them.
-Diagnostico tokenInesperado(const TextoReconocido& reconocido, const Lectura& lectura, const Lugares& lugares,
-                            LenguajeAnalisis& lenguaje);
+/// What is wrong with the characters from a 0-based index up to the one before `fin`, which start no token.
+Diagnostico caracteresIncorrectos(std::u16string_view texto, std::size_t inicio, std::size_t fin,
+                                  const Lugares& lugares);
+
+/// The tokens that the table can really shift on a stack after its reductions, the end of the text among
+/// them: exactly those, each by what a person calls it and each name once. The stack's states count from the
+/// bottom.
+std::vector<std::u16string> esperadosEn(std::span<const std::int16_t> pila, const FichasTokens& fichas,
+                                        const LenguajeAnalisis& lenguaje);
+
+/// What is wrong with a token that the parse could not go on with.
+Diagnostico tokenInesperado(const Lectura& lectura, std::vector<std::u16string> esperados,
+                            const Lugares& lugares, const pilaTokens& lexico);
 
 } // namespace norvik

@@ -41,6 +41,7 @@ struct TextoAnalizado {
     std::u16string texto;
     Lugares lugares;
     std::vector<TokenSituado> tokens;
+    std::vector<std::uint32_t> insertados; ///< which of them a repair put in, in order
 };
 
 } // namespace norvik
