@@ -53,9 +53,10 @@ enum class Codigo : std::uint8_t {
     VariableInalcanzable, ///< de la variable inicial, `hallado`, no se llega a `nombre`
     VariableImproductiva, ///< de la variable `nombre` no sale ningún texto
     Ciclo,                ///< `nombre` deriva en sí misma sin más: `hallado` son los pasos
-    ReglaRepetida,   ///< la regla de `nombre` y cuerpo `hallado` está dos veces; `relacionados`, la otra
-    CabezaMinuscula, ///< la cabeza `nombre` empieza por minúscula: en los cuerpos es un token
-    CabezaDispersa,  ///< las reglas de `nombre` no están seguidas; `relacionados`, la primera
+    ReglaRepetida,    ///< la regla de `nombre` y cuerpo `hallado` está dos veces; `relacionados`, la otra
+    NombreIncorrecto, ///< el nombre `nombre` tiene el carácter `hallado`, que no es de los nombres
+    CabezaMinuscula,  ///< la cabeza `nombre` empieza por minúscula: en los cuerpos es un token
+    CabezaDispersa,   ///< las reglas de `nombre` no están seguidas; `relacionados`, la primera
     DirectivaDesconocida, ///< no hay directiva `nombre`; `esperados`, una parecida
     DirectivaIncorrecta,  ///< la directiva `nombre` no entiende `hallado`; `esperados`, lo que entiende
     DirectivaSinEfecto,   ///< la directiva `nombre` no hace nada con el método clásico

@@ -102,6 +102,9 @@ const Fila& filaDe(Codigo codigo) {
              u"infinitos árboles. Quite una de esas reglas."},
         Fila{Codigo::ReglaRepetida, u"regla-repetida",
              u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+        Fila{Codigo::NombreIncorrecto, u"nombre-incorrecto",
+             u"El nombre '{nombre}' tiene {hallado}. Los nombres se escriben con letras de la A a la Z, Ñ, "
+             u"cifras y '_', y no empiezan por cifra."},
         Fila{Codigo::CabezaMinuscula, u"cabeza-minuscula",
              u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
              u"no se usan. Escríbala con mayúscula."},

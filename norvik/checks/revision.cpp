@@ -6,6 +6,7 @@
 #include "norvik/checks/comprobaciones.hpp"
 #include "norvik/checks/fuente.hpp"
 #include "norvik/checks/nombreCercano.hpp"
+#include "norvik/pattern/patronClase.hpp"
 #include "norvik/spec/compiladorLenguaje.hpp"
 
 #include <algorithm>
@@ -50,12 +51,38 @@ void completa(Diagnostico& diagnostico, const Fuente& fuente) {
     if (!cercano.empty()) diagnostico.partes.esperados = {cercano};
 }
 
+bool esDeNombre(char16_t c) {
+    constexpr std::u16string_view separadores = u" \t\r\n;|,=()\"'{}<>";
+    return separadores.find(c) == std::u16string_view::npos;
+}
+
+// A wrong character among letters is one of a name, which is then told whole.
+void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacion) {
+    if (diagnostico.codigo != Codigo::CaracterIncorrecto) return;
+    const auto sitio = static_cast<std::size_t>(diagnostico.rango.inicio.desplazamiento);
+    const auto fin = static_cast<std::size_t>(
+        std::find_if_not(especificacion.begin() + diagnostico.rango.inicio.desplazamiento,
+                         especificacion.end(), esDeNombre) -
+        especificacion.begin());
+    std::size_t inicio = sitio;
+    while (inicio > 0 && esDeNombre(especificacion[inicio - 1])) --inicio;
+    const std::u16string_view nombre = especificacion.substr(inicio, fin - inicio);
+    const auto esLetra = [](char16_t c) { return tiene(Propiedad::Letra, c); };
+    if (std::ranges::none_of(nombre, esLetra)) return;
+    diagnostico.codigo = Codigo::NombreIncorrecto;
+    diagnostico.partes.nombre = nombre;
+    diagnostico.rango = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
+}
+
 } // namespace
 
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
     const Directivas directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
-    const Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
-    if (!analisis) return analisis.diagnosticos;
+    Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
+    if (!analisis) {
+        for (Diagnostico& diagnostico : analisis.diagnosticos) ensanchaANombre(diagnostico, especificacion);
+        return std::move(analisis.diagnosticos);
+    }
     std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, directivas).diagnosticos;
     const Fuente fuente = fuenteDe(analisis);
     for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -67,9 +68,56 @@ TEST(Revision, CadaFaltaEnSuLugarYSolaElla) {
         {u"Token a = \"a\";\nS -> a |\n  Ø | a;", "3:7 regla-repetida S a [2:6]\n"},
         {u"Token a = \"a\";\nS -> a b;\nb -> a;", "2:8 token-indefinido S b ~a\n3:1 cabeza-minuscula b\n"},
         {u"Token a = \"a\";\nS -> B;\nB -> a;\nS -> a;\n", "4:1 cabeza-dispersa S [2:1]\n"},
+        {u"Token ni-o = \"a\";\nS -> a;", "1:7 nombre-incorrecto ni-o '-'\n"},
+        {u"Token a = \"a\";\nS -> a | # ;", "2:10 caracter-incorrecto '#'\n"},
+        {u"'% metdo: lalr\nToken a = \"a\";\nS -> a;", "1:1 directiva-desconocida metdo ~metodo\n"},
+        {u"'% metodo: lalr \nToken a = \"a\";\nS -> a;",
+         "1:1 directiva-incorrecta metodo lalr  ~clasico ~slr ~lalr ~lr1\n"},
+        {u"'% izquierda: a\nToken a = \"a\";\nS -> a;", "1:1 directiva-sin-efecto izquierda\n"},
+        {u"'% metodo: slr\n'% derecha: a  m\u00e1s\nToken a = \"a\";\nToken mas = \"m\";\nS -> a mas;",
+         "2:1 directiva-incorrecta derecha m\u00e1s ~mas\n"},
+        {u"Token a = \"a\";\n'% metodo: lalr\n' % metodo: lalr\nS -> a;", "2:1 directiva-tardia metodo\n"},
+        {u"'%%% metodo: lalr\n'%metodo: lalr\n'nada\nToken a = \"a\";\nS -> a;", ""},
+        {u"'% metodo: lalr\n'% conflictos: 2\nToken a = \"a\";\nS -> S S | a;",
+         "2:1 conflictos-distintos 1 ~2\n"},
+        {u"'% metodo: lalr\n'% conflictos: 1\nToken a = \"a\";\nS -> S S | a;", ""},
     };
     for (const auto& [especificacion, esperados] : casos)
         EXPECT_EQ(hallazgos(especificacion), esperados) << aUtf8(especificacion);
+}
+
+// The place in the definition, through references and codes, lines of its own and characters outside ASCII.
+TEST(Revision, UnPatronMalEscritoSeSitua) {
+    const std::pair<std::u16string, std::string> casos[] = {
+        {u"x*+", "2:14 delante no hay nada que se pueda repetir"},
+        {u"a{3,2}", "2:13 el mínimo de veces pasa del máximo"},
+        {u"a{70000}", "2:13 se pueden pedir hasta 65535 veces"},
+        {u"<r>\\c(65)(ñ(a)", "2:21 este paréntesis no se cierra"},
+        {u"\\\\n)", "2:15 este paréntesis no cierra ninguno"},
+        {u"(?<a)", "2:12 detrás de '(?' solo caben ':', '=' y '!'"},
+        {u"b\n<r>[^a\\]", "3:4 este corchete no se cierra"},
+        {u"[a-zz-a]", "2:16 este intervalo va de un carácter a otro anterior"},
+        {u"[a\\q]", "2:14 detrás de '\\' esta letra o cifra no significa nada"},
+        {u"\\x4", "2:12 faltan cifras hexadecimales: son dos detrás de '\\x' y cuatro detrás de '\\u'"},
+        {u"(a)\\2\\1", "2:15 no hay tantos paréntesis a los que referirse"},
+        {u"<r>*", "2:15 delante no hay nada que se pueda repetir"},
+        {u"ab\\c(300)", "2:14 el código de un carácter no pasa de 255"},
+        {u"ab\\c300", "2:14 se escribe '\\c(numero)'"},
+    };
+    for (const auto& [patron, esperado] : casos) {
+        const auto todos = revisa(u"ExpReg r = \"[ab]+\";\nToken a = \"" + patron + u"\";\nS -> a;");
+        const auto d = std::ranges::find_if(todos, [](const Diagnostico& suyo) {
+            return suyo.codigo == Codigo::PatronIncorrecto || suyo.codigo == Codigo::CodigoMalEscrito;
+        });
+        ASSERT_NE(d, todos.end()) << aUtf8(patron);
+        ASSERT_EQ(d->partes.relacionados.size(), 1U) << aUtf8(patron);
+        const Relacionado& donde = d->partes.relacionados[0];
+        EXPECT_EQ(donde.rango, d->rango);
+        EXPECT_EQ(std::to_string(donde.rango.inicio.linea) + ":" +
+                      std::to_string(donde.rango.inicio.columna) + " " + aUtf8(donde.texto),
+                  esperado)
+            << aUtf8(patron);
+    }
 }
 
 TEST(Revision, LoQueNadieConoceSeSituaYSeSugiere) {
