@@ -71,6 +71,7 @@ void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacio
     if (std::ranges::none_of(nombre, esLetra)) return;
     diagnostico.codigo = Codigo::NombreIncorrecto;
     diagnostico.partes.nombre = nombre;
+    diagnostico.partes.esperados.clear();
     diagnostico.rango = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
 }
 
