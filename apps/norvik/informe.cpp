@@ -6,8 +6,21 @@
 #include "carpeta.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/checks/contrasteClasico.hpp"
 
 namespace norvik::orden {
+
+namespace {
+
+// Where the classic method left it.
+void avisaDeLaVerdad(const gramatica& gramatica, Salida& salida) {
+    if (gramatica.metodo() != Metodo::Clasico) return;
+    salida.vuelca();
+    for (const Diagnostico& diagnostico : contrastaClasico(gramatica.valores()))
+        salida.avisa(u"aviso: " + visible(mensaje(diagnostico)));
+}
+
+} // namespace
 
 int ejecuta(const Informe& orden, Salida& salida) {
     compruebaCarpeta(orden.carpeta);
@@ -24,6 +37,7 @@ int ejecuta(const Informe& orden, Salida& salida) {
         salida.escribe(aUtf8(problemas));
         if (problemas.back() != u'\n') salida.escribe("\n");
     }
+    avisaDeLaVerdad(gramatica, salida);
     return anfitrion.estado();
 }
 

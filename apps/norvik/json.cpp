@@ -3,6 +3,7 @@
 #include "json.hpp"
 
 #include "escritorJson.hpp"
+#include "jsonHistoria.hpp"
 #include "recorrido.hpp"
 
 namespace norvik::orden {
@@ -51,9 +52,9 @@ void escribeArreglo(Escritor& escritor, const Arreglo& arreglo) {
     escritor.cierraObjeto();
 }
 
-void escribeDiagnostico(Escritor& escritor, const Diagnostico& diagnostico, std::u16string_view fichero) {
+// The fields of an open object.
+void camposDe(Escritor& escritor, const Diagnostico& diagnostico, std::u16string_view fichero) {
     const Partes& partes = diagnostico.partes;
-    escritor.abreObjeto();
     escritor.campo("codigo", nombreDe(diagnostico.codigo));
     escritor.campo("gravedad", nombreDe(diagnostico.gravedad));
     escritor.campo("mensaje", mensaje(diagnostico));
@@ -74,7 +75,6 @@ void escribeDiagnostico(Escritor& escritor, const Diagnostico& diagnostico, std:
     escritor.abreLista("arreglos");
     for (const Arreglo& arreglo : partes.arreglos) escribeArreglo(escritor, arreglo);
     escritor.cierraLista();
-    escritor.cierraObjeto();
 }
 
 } // namespace
@@ -111,15 +111,22 @@ void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_vi
     Escritor escritor(salida);
     escritor.abreObjeto();
     escritor.abreLista("diagnosticos");
-    for (const Diagnostico& diagnostico : diagnosticos) escribeDiagnostico(escritor, diagnostico, fichero);
+    for (const Diagnostico& diagnostico : diagnosticos) {
+        escritor.abreObjeto();
+        camposDe(escritor, diagnostico, fichero);
+        escritor.cierraObjeto();
+    }
     escritor.cierraLista();
     escritor.cierraObjeto();
     escritor.acabaLinea();
 }
 
-void escribeJson(const Diagnostico& diagnostico, std::u16string_view fichero, Salida& salida) {
+void escribeJson(const Hallazgo& hallazgo, std::u16string_view fichero, Salida& salida) {
     Escritor escritor(salida);
-    escribeDiagnostico(escritor, diagnostico, fichero);
+    escritor.abreObjeto();
+    camposDe(escritor, hallazgo.diagnostico, fichero);
+    if (hallazgo.historia) escribeHistoria(escritor, *hallazgo.historia);
+    escritor.cierraObjeto();
     escritor.acabaLinea();
 }
 

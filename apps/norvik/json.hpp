@@ -5,6 +5,7 @@
 #include "salida.hpp"
 
 #include "norvik/base/diagnostico.hpp"
+#include "norvik/checks/revision.hpp"
 
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/parser/arbol.hpp"
@@ -25,6 +26,6 @@ void escribeJson(const parLT& token, std::int32_t linea, std::int32_t columna, S
 /// One line: {"diagnosticos":[…]}, all of one file.
 void escribeJson(const std::vector<Diagnostico>& diagnosticos, std::u16string_view fichero, Salida& salida);
 /// One line for one.
-void escribeJson(const Diagnostico& diagnostico, std::u16string_view fichero, Salida& salida);
+void escribeJson(const Hallazgo& hallazgo, std::u16string_view fichero, Salida& salida);
 
 } // namespace norvik::orden

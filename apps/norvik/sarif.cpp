@@ -79,7 +79,7 @@ void escribeSarif(std::span<const Revisado> revisados, Salida& salida) {
     escritor.campo("columnKind", u"utf16CodeUnits");
     escritor.abreLista("results");
     for (const auto& [fichero, hallazgos] : revisados)
-        for (const Diagnostico& hallazgo : hallazgos) escribeHallazgo(escritor, fichero, hallazgo);
+        for (const Hallazgo& hallazgo : hallazgos) escribeHallazgo(escritor, fichero, hallazgo.diagnostico);
     escritor.cierraLista();
     escritor.cierraObjeto();
     escritor.cierraLista();

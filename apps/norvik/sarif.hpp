@@ -4,7 +4,7 @@
 
 #include "salida.hpp"
 
-#include "norvik/base/diagnostico.hpp"
+#include "norvik/checks/revision.hpp"
 
 #include <span>
 #include <string>
@@ -15,7 +15,7 @@ namespace norvik::orden {
 /// What was found in a file.
 struct Revisado {
     std::u16string fichero;
-    std::vector<Diagnostico> hallazgos;
+    std::vector<Hallazgo> hallazgos;
 };
 
 /// One document of SARIF 2.1.0.

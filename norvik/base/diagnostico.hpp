@@ -61,6 +61,13 @@ enum class Codigo : std::uint8_t {
     DirectivaIncorrecta,  ///< la directiva `nombre` no entiende `hallado`; `esperados`, lo que entiende
     DirectivaSinEfecto,   ///< la directiva `nombre` no hace nada con el método clásico
     DirectivaTardia,      ///< la directiva `nombre` está detrás de una definición, donde no pide nada
+
+    // Donde el método clásico se aparta de la verdad ----------------------------------------------------
+    ConflictoCallado,    ///< la tabla no apunta un conflicto: ante el token `nombre` cabe la regla `hallado`
+    PrimerosDistintos,   ///< los primeros de `nombre` son `hallado`, y los exactos, `esperados`
+    SiguientesDistintos, ///< los siguientes de `nombre` son `hallado`, y los exactos, `esperados`
+    FraseRechazada, ///< la tabla rechaza `hallado`, que es de la gramática; `esperados`, el método que no
+    FraseDeMas,     ///< la tabla acepta `hallado`, que no es de la gramática; `esperados`, el método que no
 };
 
 /// Otro lugar que tiene que ver con un diagnóstico, y lo que hay en él.

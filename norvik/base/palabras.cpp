@@ -41,12 +41,38 @@ bool sonVarios(std::u16string_view entreApostrofos) {
     return entreApostrofos.size() > 3 && !esPar;
 }
 
+// The method that does what the classic one does not.
+std::u16string remedio(const std::vector<std::u16string>& metodos) {
+    if (metodos.empty()) return u" Tampoco acierta ningún otro método: mire los conflictos.";
+    return une({u" Con la línea '% metodo: ", lista(metodos), u" al principio acierta."});
+}
+
 // A code: its name, and the words of a diagnostic, in which parts of it stand in braces.
 struct Fila {
     Codigo codigo;
     std::u16string_view nombre;
     std::u16string_view palabras; ///< empty for those that depend on more
 };
+
+// Where the classic method leaves the truth.
+const Fila& filaDelContraste(Codigo codigo) {
+    static constexpr std::array todas = {
+        Fila{Codigo::ConflictoCallado, u"conflicto-callado",
+             u"La tabla clásica calla un conflicto: ante {nombre} cabe también reducir por {hallado}. Con la "
+             u"línea '% metodo: lalr al principio se cuentan todos."},
+        Fila{Codigo::PrimerosDistintos, u"primeros-distintos",
+             u"El método clásico da por primeros de {nombre} {hallado}, y son {esperados}. Con la línea '% "
+             u"metodo: lalr al principio son los exactos."},
+        Fila{Codigo::SiguientesDistintos, u"siguientes-distintos",
+             u"El método clásico da por siguientes de {nombre} {hallado}, y son {esperados}. Con la línea '% "
+             u"metodo: lalr al principio son los exactos."},
+        Fila{Codigo::FraseRechazada, u"frase-rechazada",
+             u"La tabla clásica rechaza un texto que es de la gramática: {hallado}.{remedio}"},
+        Fila{Codigo::FraseDeMas, u"frase-de-mas",
+             u"La tabla clásica acepta un texto que no es de la gramática: {hallado}.{remedio}"},
+    };
+    return *std::ranges::find(todas, codigo, &Fila::codigo);
+}
 
 const Fila& filaDe(Codigo codigo) {
     static constexpr std::array todas = {
@@ -121,7 +147,8 @@ const Fila& filaDe(Codigo codigo) {
         Fila{Codigo::DirectivaTardia, u"directiva-tardia",
              u"La directiva '{nombre}' no pide nada aquí: va delante de la primera definición."},
     };
-    return *std::ranges::find(todas, codigo, &Fila::codigo);
+    const auto* const sitio = std::ranges::find(todas, codigo, &Fila::codigo);
+    return sitio != todas.end() ? *sitio : filaDelContraste(codigo);
 }
 
 std::u16string rellena(std::u16string_view palabras, const Partes& partes) {
@@ -135,6 +162,7 @@ std::u16string rellena(std::u16string_view palabras, const Partes& partes) {
         if (hueco == u"{hallado") texto += partes.hallado;
         if (hueco == u"{esperados") texto += lista(partes.esperados);
         if (hueco == u"{propuesta") texto += propuesta(partes.esperados);
+        if (hueco == u"{remedio") texto += remedio(partes.esperados);
         palabras = palabras.substr(std::min(cierra + 1, palabras.size()));
     }
     return texto;

@@ -12,12 +12,13 @@
 namespace norvik {
 
 /// Of definitions: those that nobody uses, stand twice or never win, and patterns that can take nothing.
-void compruebaTokens(const Fuente& fuente, const Directivas& directivas, std::vector<Diagnostico>& hallazgos);
+void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& directivas,
+                     std::vector<Diagnostico>& hallazgos);
 /// Of rules: variables that nobody uses or reaches, or from which no text comes; heads, cycles, rules that
 /// stand twice.
-void compruebaReglas(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos);
+void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos);
 /// Of the lines with the form of a directive: those that ask for nothing, and why.
-void compruebaDirectivas(std::u16string_view especificacion, const Fuente& fuente,
+void compruebaDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
                          const Directivas& directivas, std::vector<Diagnostico>& hallazgos);
 
 } // namespace norvik

@@ -28,11 +28,11 @@ Textos valoresDe(std::u16string_view palabra) {
 
 class RevisorDirectivas {
 public:
-    RevisorDirectivas(std::u16string_view especificacion, const Fuente& fuente, const Directivas& directivas,
-                      std::vector<Diagnostico>& hallazgos)
+    RevisorDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
+                      const Directivas& directivas, std::vector<Diagnostico>& hallazgos)
         : especificacion_(especificacion), lugares_(especificacion, Lugares::Unidad::Utf16),
           directivas_(directivas), hallazgos_(hallazgos) {
-        for (const Fuente::Definicion& d : fuente.definiciones)
+        for (const FuenteEspecificacion::Definicion& d : fuente.definiciones)
             if (d.esToken) tokens_.insert(d.nombre);
     }
 
@@ -90,7 +90,7 @@ private:
 
 } // namespace
 
-void compruebaDirectivas(std::u16string_view especificacion, const Fuente& fuente,
+void compruebaDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
                          const Directivas& directivas, std::vector<Diagnostico>& hallazgos) {
     RevisorDirectivas(especificacion, fuente, directivas, hallazgos).revisa();
 }

@@ -19,7 +19,7 @@ namespace norvik {
 
 namespace {
 
-using Regla = Fuente::Regla;
+using Regla = FuenteEspecificacion::Regla;
 using Nombres = std::set<std::u16string_view>;
 
 bool esVariable(std::u16string_view nombre) {
@@ -28,7 +28,7 @@ bool esVariable(std::u16string_view nombre) {
 
 class Revisor {
 public:
-    Revisor(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos)
+    Revisor(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos)
         : fuente_(fuente), metodo_(metodo), hallazgos_(hallazgos) {
         for (const Regla& regla : fuente.reglas) reglasDe_[regla.cabeza.nombre].push_back(&regla);
     }
@@ -47,7 +47,7 @@ private:
     }
     // At the first rule of a head.
     void anotaVariable(Codigo codigo, std::u16string_view variable, std::u16string hallado) {
-        const Fuente::Simbolo& cabeza = reglasDe_[variable].front()->cabeza;
+        const FuenteEspecificacion::Simbolo& cabeza = reglasDe_[variable].front()->cabeza;
         anota(codigo, cabeza.lugar, {cabeza.nombre, std::move(hallado), {}, {}});
     }
     std::u16string_view inicial() const { return fuente_.reglas.front().cabeza.nombre; }
@@ -75,7 +75,7 @@ private:
 
     static std::u16string cuerpoDe(const Regla& regla) {
         std::u16string cuerpo;
-        for (const Fuente::Simbolo& simbolo : regla.cuerpo)
+        for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
             cuerpo += (cuerpo.empty() ? u"" : u" ") + simbolo.nombre;
         return cuerpo.empty() ? std::u16string(cadenaVacia) : cuerpo;
     }
@@ -94,7 +94,7 @@ private:
     void compruebaUsos() {
         Nombres usadas;
         for (const Regla& regla : fuente_.reglas)
-            for (const Fuente::Simbolo& simbolo : regla.cuerpo)
+            for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
                 if (simbolo.nombre != regla.cabeza.nombre) usadas.insert(simbolo.nombre);
         const Nombres alcanzadas = alcanzadasDesde(inicial());
         for (const auto& [cabeza, reglas] : reglasDe_) {
@@ -114,7 +114,7 @@ private:
             pendientes.pop_back();
             if (suyas == reglasDe_.end()) continue;
             for (const Regla* regla : suyas->second)
-                for (const Fuente::Simbolo& simbolo : regla->cuerpo)
+                for (const FuenteEspecificacion::Simbolo& simbolo : regla->cuerpo)
                     if (esVariable(simbolo.nombre) && alcanzadas.insert(simbolo.nombre).second)
                         pendientes.push_back(simbolo.nombre);
         }
@@ -132,7 +132,7 @@ private:
             if (!std::ranges::all_of(regla.cuerpo,
                                      [&](const auto& s) { return esVariable(s.nombre) || vale(s.nombre); }))
                 continue;
-            for (const Fuente::Simbolo& simbolo : regla.cuerpo)
+            for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
                 if (esVariable(simbolo.nombre)) ++faltan[&regla], esperan[simbolo.nombre].push_back(&regla);
             if (!faltan.contains(&regla)) listas.push_back(&regla);
         }
@@ -157,7 +157,7 @@ private:
     // What an undefined variable hides is told once it is defined.
     bool pideIndefinida(const std::vector<const Regla*>& reglas) const {
         return std::ranges::any_of(reglas, [&](const Regla* regla) {
-            return std::ranges::any_of(regla->cuerpo, [&](const Fuente::Simbolo& s) {
+            return std::ranges::any_of(regla->cuerpo, [&](const FuenteEspecificacion::Simbolo& s) {
                 return esVariable(s.nombre) && !reglasDe_.contains(s.nombre);
             });
         });
@@ -168,11 +168,13 @@ private:
         const Nombres anulables = cierre([](std::u16string_view) { return false; });
         std::map<std::u16string_view, Nombres> llevan;
         for (const Regla& regla : fuente_.reglas) {
-            const auto anulable = [&](const Fuente::Simbolo& s) { return anulables.contains(s.nombre); };
+            const auto anulable = [&](const FuenteEspecificacion::Simbolo& s) {
+                return anulables.contains(s.nombre);
+            };
             const auto noAnulables =
                 regla.cuerpo.size() - static_cast<std::size_t>(std::ranges::count_if(regla.cuerpo, anulable));
             if (noAnulables > 1) continue;
-            for (const Fuente::Simbolo& simbolo : regla.cuerpo)
+            for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
                 if (esVariable(simbolo.nombre) && (noAnulables == 0 || !anulable(simbolo)))
                     llevan[regla.cabeza.nombre].insert(simbolo.nombre);
         }
@@ -203,7 +205,7 @@ private:
         anotaVariable(Codigo::Ciclo, variable, pasos);
     }
 
-    const Fuente& fuente_;
+    const FuenteEspecificacion& fuente_;
     Metodo metodo_;
     std::vector<Diagnostico>& hallazgos_;
     std::map<std::u16string_view, std::vector<const Regla*>> reglasDe_;
@@ -211,7 +213,7 @@ private:
 
 } // namespace
 
-void compruebaReglas(const Fuente& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos) {
+void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos) {
     if (!fuente.reglas.empty()) Revisor(fuente, metodo, hallazgos).revisa();
 }
 

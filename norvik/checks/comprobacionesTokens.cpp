@@ -23,7 +23,7 @@ namespace norvik {
 
 namespace {
 
-using Definicion = Fuente::Definicion;
+using Definicion = FuenteEspecificacion::Definicion;
 
 Diagnostico aviso(Codigo codigo, const Rango& lugar, Partes partes) {
     return {codigo, Gravedad::Aviso, lugar, std::move(partes)};
@@ -41,11 +41,11 @@ void anotaReferencias(std::u16string_view texto, std::set<std::u16string_view>& 
             nombres.insert(texto.substr(i + 1, fin - i - 1));
 }
 
-void compruebaUsos(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+void compruebaUsos(const FuenteEspecificacion& fuente, std::vector<Diagnostico>& hallazgos) {
     std::set<std::u16string_view> usados;
     for (const Definicion& d : fuente.definiciones) anotaReferencias(d.texto, usados);
-    for (const Fuente::Regla& regla : fuente.reglas)
-        for (const Fuente::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
+    for (const FuenteEspecificacion::Regla& regla : fuente.reglas)
+        for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
     std::set<std::u16string_view> dichos;
     for (const Definicion& d : fuente.definiciones) {
         const bool seUsa =
@@ -56,7 +56,7 @@ void compruebaUsos(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
     }
 }
 
-void compruebaRepetidas(const Fuente& fuente, std::vector<Diagnostico>& hallazgos) {
+void compruebaRepetidas(const FuenteEspecificacion& fuente, std::vector<Diagnostico>& hallazgos) {
     std::map<std::pair<std::u16string_view, std::u16string_view>, const Definicion*> vistas;
     for (const Definicion& d : fuente.definiciones) {
         const auto [sitio, nueva] = vistas.try_emplace({d.nombre, d.texto}, &d);
@@ -129,7 +129,8 @@ void situaDefecto(const Definicion& d, const DefinicionesTokens& anteriores,
     suyo->partes.relacionados.push_back({suyo->rango, std::u16string(palabras::motivo(defecto->motivo))});
 }
 
-void compruebaPatrones(const Fuente& fuente, bool sensible, std::vector<Diagnostico>& hallazgos) {
+void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
+                       std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
     for (const Definicion& d : fuente.definiciones) {
@@ -153,7 +154,7 @@ void compruebaPatrones(const Fuente& fuente, bool sensible, std::vector<Diagnost
 
 } // namespace
 
-void compruebaTokens(const Fuente& fuente, const Directivas& directivas,
+void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& directivas,
                      std::vector<Diagnostico>& hallazgos) {
     compruebaUsos(fuente, hallazgos);
     compruebaRepetidas(fuente, hallazgos);

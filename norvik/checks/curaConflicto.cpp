@@ -22,9 +22,9 @@ std::u16string textoDeRegla(const ReglasPartidas& reglas, std::int16_t regla) {
 Cura CurasConflicto::de(const CasoConflicto& caso, const HistoriaConflicto& historia) {
     if (historia.clase == HistoriaConflicto::Clase::Ambigua) return deAmbigua(caso, historia);
     const Firma firma{caso.estado, historia.simbolo, caso.reduccion, caso.otraRegla};
-    if (metodo_ == Metodo::Slr && !tiene(Metodo::Lalr, firma)) return Cura::MetodoLalr;
+    if (opciones_.metodo == Metodo::Slr && !tiene(Metodo::Lalr, firma)) return Cura::MetodoLalr;
     const Firma enCualquiera{0, historia.simbolo, caso.reduccion, caso.otraRegla};
-    if (metodo_ != Metodo::Lr1 && !tiene(Metodo::Lr1, enCualquiera)) return Cura::MetodoLr1;
+    if (opciones_.metodo != Metodo::Lr1 && !tiene(Metodo::Lr1, enCualquiera)) return Cura::MetodoLr1;
     return Cura::Factorizar;
 }
 
@@ -83,7 +83,8 @@ std::set<CurasConflicto::Firma> CurasConflicto::firmas(const TablaLR& tabla, Met
 bool CurasConflicto::tiene(Metodo metodo, const Firma& firma) {
     auto& suyas = metodo == Metodo::Lalr ? lalr_ : lr1_;
     try {
-        if (!suyas) suyas = firmas(exacto::genera(gramatica_.reglas, metodo).tabla, metodo);
+        if (!suyas)
+            suyas = firmas(exacto::genera(gramatica_.reglas, {metodo, opciones_.precedencias}).tabla, metodo);
     } catch (const ErrorNorvik&) {
         suyas = std::set<Firma>{};
         return true;

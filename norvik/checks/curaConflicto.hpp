@@ -5,12 +5,15 @@
 #include "norvik/checks/ejemploUnificador.hpp"
 #include "norvik/checks/historiaConflicto.hpp"
 #include "norvik/grammar/exacto/producciones.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/opcionesTabla.hpp"
 
 #include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace norvik {
@@ -19,8 +22,9 @@ namespace norvik {
 /// building the other tables where it is not known to be. The grammar outlives it.
 class CurasConflicto {
 public:
-    CurasConflicto(const GramaticaLR& gramatica, const exacto::Producciones& producciones, Metodo metodo)
-        : gramatica_(gramatica), producciones_(producciones), metodo_(metodo) {}
+    CurasConflicto(const GramaticaLR& gramatica, const exacto::Producciones& producciones,
+                   OpcionesTabla opciones)
+        : gramatica_(gramatica), producciones_(producciones), opciones_(std::move(opciones)) {}
 
     HistoriaConflicto::Cura de(const CasoConflicto& caso, const HistoriaConflicto& historia);
 
@@ -37,7 +41,7 @@ private:
 
     const GramaticaLR& gramatica_;
     const exacto::Producciones& producciones_;
-    Metodo metodo_;
+    OpcionesTabla opciones_;
     std::optional<std::set<Firma>> lalr_;
     std::optional<std::set<Firma>> lr1_;
 };

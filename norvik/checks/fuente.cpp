@@ -10,11 +10,12 @@ namespace norvik {
 
 namespace {
 
-Fuente::Simbolo simboloDe(const NodoEspecificacion& hoja) {
+FuenteEspecificacion::Simbolo simboloDe(const NodoEspecificacion& hoja) {
     return {std::u16string(hoja.lexema()), hoja.rango()};
 }
 
-void anota(Fuente& fuente, const NodoEspecificacion& cabeza, const NodoEspecificacion& alternativas) {
+void anota(FuenteEspecificacion& fuente, const NodoEspecificacion& cabeza,
+           const NodoEspecificacion& alternativas) {
     especificacion::cuerpoDe(
         alternativas,
         [&](const NodoEspecificacion& simbolo) { fuente.reglas.back().cuerpo.push_back(simboloDe(simbolo)); },
@@ -25,7 +26,7 @@ void anota(Fuente& fuente, const NodoEspecificacion& cabeza, const NodoEspecific
 
 } // namespace
 
-Rango Fuente::Definicion::lugarDe(std::size_t desde, std::size_t largo) const {
+Rango FuenteEspecificacion::Definicion::lugarDe(std::size_t desde, std::size_t largo) const {
     const Rango dentro = Lugares(texto, Lugares::Unidad::Utf16).rango(desde, desde + largo);
     const auto enEspecificacion = [this](Punto punto) {
         constexpr std::int32_t comilla = 1;
@@ -38,8 +39,8 @@ Rango Fuente::Definicion::lugarDe(std::size_t desde, std::size_t largo) const {
     return {enEspecificacion(dentro.inicio), enEspecificacion(dentro.fin)};
 }
 
-Fuente fuenteDe(const Analisis& especificacion) {
-    Fuente fuente;
+FuenteEspecificacion fuenteDe(const Analisis& especificacion) {
+    FuenteEspecificacion fuente;
     especificacion::recorre(
         NodoEspecificacion(especificacion.arbol.raiz()),
         [&](const especificacion::Definicion<NodoEspecificacion>& d) {

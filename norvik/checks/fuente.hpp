@@ -13,7 +13,7 @@
 namespace norvik {
 
 /// A specification as it is written, with the place of everything in it.
-struct Fuente {
+struct FuenteEspecificacion {
     struct Definicion {
         std::u16string nombre;
         Rango lugarNombre;
@@ -40,6 +40,6 @@ struct Fuente {
 };
 
 /// Of the analysis of a specification that was accepted.
-Fuente fuenteDe(const Analisis& especificacion);
+FuenteEspecificacion fuenteDe(const Analisis& especificacion);
 
 } // namespace norvik

@@ -3,8 +3,6 @@
 #pragma once
 
 #include "norvik/checks/arbolEjemplo.hpp"
-#include "norvik/grammar/gramaticaLR.hpp"
-#include "norvik/grammar/metodo.hpp"
 
 #include <array>
 #include <chrono>
@@ -57,7 +55,9 @@ struct HistoriaConflicto {
     /// sitio del ejemplo, lo decide), el primero de los completos es ese.
     enum class Prueba : std::uint8_t { SinProbar, DaElPrimero, DaElSegundo, DaOtro, LoRechaza };
 
-    std::int16_t estado = 0;
+    static constexpr std::int16_t sinEstado = -1;
+
+    std::int16_t estado = sinEstado;
     std::u16string simbolo;                  ///< el token que se ve
     std::array<AccionConflicto, 2> acciones; ///< la que se queda en la celda y la que se pierde
     Clase clase = Clase::SinEjemplo;
@@ -82,10 +82,5 @@ struct LimitesHistorias {
     std::chrono::milliseconds porConflicto{1'500};
     std::chrono::milliseconds enTotal{8'000};
 };
-
-/// Las historias de los conflictos de una gramática con una tabla de un método exacto, en el orden de la
-/// tabla. `enUso` es la tabla con que se prueban los ejemplos: la suya, o la clásica de las mismas reglas.
-std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, Metodo metodo,
-                                                const TablaLR& enUso, const LimitesHistorias& limites = {});
 
 } // namespace norvik

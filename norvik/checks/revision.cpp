@@ -2,36 +2,44 @@
 
 #include "norvik/checks/revision.hpp"
 
+#include "norvik/base/lugares.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/comprobaciones.hpp"
+#include "norvik/checks/contrasteClasico.hpp"
+#include "norvik/checks/cuentaConflictos.hpp"
 #include "norvik/checks/fuente.hpp"
 #include "norvik/checks/nombreCercano.hpp"
 #include "norvik/pattern/patronClase.hpp"
 #include "norvik/spec/compiladorLenguaje.hpp"
+#include "norvik/spec/datosDeLenguaje.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <string>
+#include <utility>
 
 namespace norvik {
 
 namespace {
 
 // What is known where a name is not: heads for a variable, tokens for a token, definitions for a reference.
-std::vector<std::u16string> conocidosPara(const Diagnostico& diagnostico, const Fuente& fuente) {
+std::vector<std::u16string> conocidosPara(const Diagnostico& diagnostico,
+                                          const FuenteEspecificacion& fuente) {
     std::vector<std::u16string> nombres;
     if (diagnostico.codigo == Codigo::VariableIndefinida) {
-        for (const Fuente::Regla& regla : fuente.reglas) nombres.push_back(regla.cabeza.nombre);
+        for (const FuenteEspecificacion::Regla& regla : fuente.reglas) nombres.push_back(regla.cabeza.nombre);
         return nombres;
     }
-    for (const Fuente::Definicion& d : fuente.definiciones)
+    for (const FuenteEspecificacion::Definicion& d : fuente.definiciones)
         if (d.esToken || diagnostico.codigo == Codigo::ReferenciaDesconocida) nombres.push_back(d.nombre);
     return nombres;
 }
 
 // Narrows an unknown reference to its place between the quotes, and says where the name is defined.
-void situaReferencia(Diagnostico& diagnostico, const Fuente& fuente) {
+void situaReferencia(Diagnostico& diagnostico, const FuenteEspecificacion& fuente) {
     const std::u16string& referencia = diagnostico.partes.hallado;
-    for (const Fuente::Definicion& d : fuente.definiciones) {
+    for (const FuenteEspecificacion::Definicion& d : fuente.definiciones) {
         if (d.nombre == referencia) diagnostico.partes.relacionados.push_back({d.lugarNombre, d.nombre});
         const std::size_t sitio = d.texto.find(u'<' + referencia + u'>');
         if (d.lugarTexto != diagnostico.rango || sitio == std::u16string::npos) continue;
@@ -39,7 +47,7 @@ void situaReferencia(Diagnostico& diagnostico, const Fuente& fuente) {
     }
 }
 
-void completa(Diagnostico& diagnostico, const Fuente& fuente) {
+void completa(Diagnostico& diagnostico, const FuenteEspecificacion& fuente) {
     const Codigo codigo = diagnostico.codigo;
     const bool esReferencia = codigo == Codigo::ReferenciaDesconocida;
     if (esReferencia) situaReferencia(diagnostico, fuente);
@@ -75,23 +83,130 @@ void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacio
     diagnostico.rango = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
 }
 
-} // namespace
+// What a review works on.
+struct Revisada {
+    std::vector<Diagnostico> hallazgos;
+    std::optional<Lenguaje> lenguaje; ///< without one there is nothing to tell of its table
+    Directivas directivas;
+};
 
-std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    const Directivas directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
+LugaresReglas lugaresDe(const FuenteEspecificacion& fuente) {
+    LugaresReglas lugares;
+    for (const FuenteEspecificacion::Regla& regla : fuente.reglas) {
+        lugares.cabezas.push_back(regla.cabeza.lugar);
+        lugares.cuerpos.push_back(regla.lugar);
+    }
+    return lugares;
+}
+
+const gramatica* gramaticaDe(const Revisada& revisada) {
+    const bool hay = revisada.lenguaje && revisada.lenguaje->tieneGramatica();
+    return hay ? &revisada.lenguaje->datos().reglas : nullptr;
+}
+
+// One step changes the language: a line at its head, or another value in the one that is there.
+void ofreceMetodo(std::u16string_view especificacion, std::vector<Diagnostico>& apartados) {
+    std::size_t inicio = 0;
+    std::size_t fin = 0;
+    for (const LineaDirectiva& linea : lineasDeDirectivas(cabecera(especificacion)))
+        if (linea.palabra == u"metodo") inicio = linea.inicio, fin = linea.fin;
+    const Rango lugar = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
+    for (Diagnostico& diagnostico : apartados) {
+        const bool esFrase =
+            diagnostico.codigo == Codigo::FraseRechazada || diagnostico.codigo == Codigo::FraseDeMas;
+        if (esFrase && diagnostico.partes.esperados.empty()) continue; // no method knows better
+        const std::u16string directiva =
+            u"'% metodo: " + (esFrase ? diagnostico.partes.esperados.front() : u"lalr");
+        diagnostico.partes.arreglos.push_back(
+            {u"Poner la línea " + directiva + u" al principio",
+             {{lugar, inicio == fin ? directiva + u"\n" : directiva, false}}});
+    }
+}
+
+// In the order in which they are found.
+Revisada reune(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+    Revisada revisada;
+    revisada.directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
+    const Directivas& directivas = revisada.directivas;
     Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
     if (!analisis) {
         for (Diagnostico& diagnostico : analisis.diagnosticos) ensanchaANombre(diagnostico, especificacion);
-        return std::move(analisis.diagnosticos);
+        revisada.hallazgos = std::move(analisis.diagnosticos);
+        return revisada;
     }
-    std::vector<Diagnostico> hallazgos = compilaEspecificacion(analisis, directivas).diagnosticos;
-    const Fuente fuente = fuenteDe(analisis);
+    Compilacion compilacion = compilaEspecificacion(analisis, directivas);
+    std::vector<Diagnostico>& hallazgos = revisada.hallazgos;
+    hallazgos = std::move(compilacion.diagnosticos);
+    revisada.lenguaje = std::move(compilacion.lenguaje);
+    const FuenteEspecificacion fuente = fuenteDe(analisis);
     for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
     compruebaDirectivas(especificacion, fuente, directivas, hallazgos);
     compruebaTokens(fuente, directivas, hallazgos);
     compruebaReglas(fuente, directivas.tabla.metodo, hallazgos);
-    std::ranges::stable_sort(hallazgos, {},
-                             [](const Diagnostico& d) { return d.rango.inicio.desplazamiento; });
+    if (const gramatica* g = gramaticaDe(revisada);
+        g != nullptr && directivas.tabla.metodo == Metodo::Clasico) {
+        auto apartados = contrastaClasico(g->valores(), lugaresDe(fuente));
+        if (!opciones.metodo) ofreceMetodo(especificacion, apartados);
+        std::ranges::move(apartados, std::back_inserter(hallazgos));
+    }
+    return revisada;
+}
+
+std::size_t inicioDe(const Diagnostico& diagnostico) {
+    return static_cast<std::size_t>(diagnostico.rango.inicio.desplazamiento);
+}
+
+// The stories of a table's conflicts go to their diagnostics one by one: both are in the order of its cells.
+template <typename Historias>
+void reparte(std::vector<Hallazgo>& hallazgos, Codigo codigo, Historias historias) {
+    const auto esSuyo = [&](const Hallazgo& h) { return h.diagnostico.codigo == codigo; };
+    if (static_cast<std::size_t>(std::ranges::count_if(hallazgos, esSuyo)) != historias.size()) return;
+    std::size_t siguiente = 0;
+    for (Hallazgo& hallazgo : hallazgos)
+        if (esSuyo(hallazgo)) hallazgo.historia = std::move(historias[siguiente++]);
+}
+
+// A cell with several conflicts has one diagnostic, which names the last.
+std::vector<HistoriaConflicto> unaPorCelda(std::vector<HistoriaConflicto> historias) {
+    std::vector<HistoriaConflicto> unas;
+    for (HistoriaConflicto& historia : historias) {
+        const bool otraVez =
+            !unas.empty() && unas.back().estado == historia.estado && unas.back().simbolo == historia.simbolo;
+        if (otraVez) unas.pop_back();
+        unas.push_back(std::move(historia));
+    }
+    return unas;
+}
+
+void cuenta(const gramatica& g, const OpcionesTabla& opciones, const LimitesHistorias& limites,
+            std::vector<Hallazgo>& hallazgos) {
+    if (opciones.metodo != Metodo::Clasico) {
+        reparte(hallazgos, Codigo::Conflicto,
+                unaPorCelda(cuentaConflictos(g.valores(), opciones, g.valores().tabla, limites)));
+        return;
+    }
+    ConflictosClasicos conflictos = cuentaConflictosClasicos(g.valores(), limites);
+    reparte(hallazgos, Codigo::ConflictoCallado, std::move(conflictos.callados));
+    reparte(hallazgos, Codigo::Conflicto, std::move(conflictos.apuntados));
+}
+
+} // namespace
+
+std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+    std::vector<Diagnostico> hallazgos = reune(especificacion, opciones).hallazgos;
+    std::ranges::stable_sort(hallazgos, {}, inicioDe);
+    return hallazgos;
+}
+
+std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
+                                         const OpcionesCompilacion& opciones,
+                                         const LimitesHistorias& limites) {
+    Revisada revisada = reune(especificacion, opciones);
+    std::vector<Hallazgo> hallazgos;
+    for (Diagnostico& diagnostico : revisada.hallazgos)
+        hallazgos.push_back({std::move(diagnostico), std::nullopt});
+    if (const gramatica* g = gramaticaDe(revisada)) cuenta(*g, revisada.directivas.tabla, limites, hallazgos);
+    std::ranges::stable_sort(hallazgos, {}, [](const Hallazgo& h) { return inicioDe(h.diagnostico); });
     return hallazgos;
 }
 

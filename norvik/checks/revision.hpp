@@ -3,8 +3,10 @@
 #pragma once
 
 #include "norvik/base/diagnostico.hpp"
+#include "norvik/checks/historiaConflicto.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -15,5 +17,16 @@ namespace norvik {
 /// compilarla pero no hace lo que parece. Los rangos cuentan unidades UTF-16. Lanza `Desbordamiento` con un
 /// texto de 2^31 - 1 unidades o más.
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
+
+/// Un diagnóstico de una revisión, con su historia si es de un conflicto.
+struct Hallazgo {
+    Diagnostico diagnostico;
+    std::optional<HistoriaConflicto> historia;
+};
+
+/// Lo mismo, y cada conflicto contado con un ejemplo, que se busca dentro de unos límites.
+std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
+                                         const OpcionesCompilacion& opciones = {},
+                                         const LimitesHistorias& limites = {});
 
 } // namespace norvik

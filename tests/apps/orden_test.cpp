@@ -118,7 +118,12 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
 }
 
 TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
-    comprueba(ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta()}), 0,
+    comprueba(
+        ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta()}), 0,
+        "La gramática carece de problema alguno.\n",
+        "aviso: El método clásico da por primeros de E cad, num, si, Ø, y son cad, mas, num, si, Ø. Con "
+        "la línea '% metodo: lalr al principio son los exactos.\n");
+    comprueba(ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta(), "--metodo", "lalr"}), 0,
               "La gramática carece de problema alguno.\n", "");
     EXPECT_NE(bytesDe(carpeta_ / "informeGramatica.txt").find("T -> si id\r\n"), std::string::npos);
 
@@ -126,7 +131,8 @@ TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
     EXPECT_EQ(conflictos.estado, 0);
     EXPECT_EQ(conflictos.salida.substr(0, 37), "Informe sobre la gramática actual:\r\n");
     EXPECT_EQ(conflictos.errores.substr(0, 35), "Problemas detectados:\r\n\r\nConflicto ");
-    EXPECT_EQ(conflictos.errores, ejecuta({"informe", ruta("a.nvk"), "-o", carpeta_.ruta()}).salida);
+    const Resultado enFichero = ejecuta({"informe", ruta("a.nvk"), "-o", carpeta_.ruta()});
+    EXPECT_EQ(conflictos.errores, enFichero.salida + enFichero.errores);
 }
 
 TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
@@ -164,6 +170,7 @@ TEST_F(Orden, ElMetodoLoEligeLaOpcionOLaEspecificacion) {
 }
 
 TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
+    lenguaje_ = pon("lalr.nvk", "'% metodo: lalr\n" + especificacion);
     comprueba(ejecuta({"revisa", lenguaje_}), 0, "", "");
     const std::string rara = pon("rara.nvk", "Token a = \"a\";\nToken b = \"b\";\nS -> a;\n");
     const std::string aviso =
@@ -183,6 +190,28 @@ TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
     EXPECT_NE(sarif.salida.find("\"ruleId\":\"token-sin-usar\",\"level\":\"warning\""), std::string::npos);
     EXPECT_EQ(ejecuta({"revisa", "-", "-"}).estado, 2);
     comprueba(ejecuta({"revisa"}), 2, "", "norvik: falta ESPECIFICACION (norvik revisa --help lo explica)\n");
+}
+
+TEST_F(Orden, RevisaCuentaLosConflictos) {
+    const std::string sino = pon("sino.nvk", "Token si = \"si\";\nToken no = \"no\";\nToken a = \"a\";\n"
+                                             "S -> si S | si S no S | a;\n");
+    const Resultado clasico = ejecuta({"revisa", sino});
+    const Resultado lalr = ejecuta({"revisa", sino, "--metodo", "lalr"});
+    EXPECT_EQ(clasico.salida.find(sino + ":4:6: aviso: La tabla clásica calla un conflicto"), 0U);
+    EXPECT_EQ(lalr.salida.find(sino + ":4:6: aviso: Conflicto D5 / R1 en el estado 4"), 0U) << lalr.salida;
+    for (const std::string& salida : {clasico.salida, lalr.salida}) {
+        EXPECT_NE(salida.find("\n      si si S • no S\n"), std::string::npos) << salida;
+        EXPECT_NE(salida.find("      S\n      ├─ si\n      └─ S\n         └─ si S no S\n"),
+                  std::string::npos);
+    }
+    const Resultado json = ejecuta({"revisa", sino, "--formato", "json"});
+    EXPECT_NE(json.salida.find(R"("historia":{"clase":"ambigua","estado":-1,"simbolo":"no")"),
+              std::string::npos)
+        << json.salida;
+    EXPECT_NE(
+        json.salida.find(R"({"frase":["si","si","S","no","S"],"punto":3,"arbol":{"simbolo":"S","regla":1,)"),
+        std::string::npos)
+        << json.salida;
 }
 
 TEST_F(Orden, LaEntradaEstandarSirveDeFichero) {

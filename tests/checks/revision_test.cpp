@@ -26,7 +26,10 @@ std::string hallazgos(std::u16string_view especificacion) {
         return std::to_string(r.inicio.linea) + ":" + std::to_string(r.inicio.columna);
     };
     for (const Diagnostico& d : revisa(especificacion)) {
-        if (d.codigo == Codigo::Conflicto) continue; // what is ambiguous has some besides
+        // What is ambiguous has some besides.
+        if (d.codigo == Codigo::Conflicto || d.codigo == Codigo::ConflictoCallado ||
+            d.codigo == Codigo::FraseRechazada)
+            continue;
         lineas += lugar(d.rango) + " " + aUtf8(nombreDe(d.codigo));
         for (const auto* parte : {&d.partes.nombre, &d.partes.hallado})
             if (!parte->empty()) lineas += " " + aUtf8(*parte);

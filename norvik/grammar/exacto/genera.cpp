@@ -10,14 +10,14 @@
 
 namespace norvik::exacto {
 
-GramaticaLR genera(Reglas reglas, Metodo metodo) {
+GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones) {
     GramaticaLR g;
     g.reglas = std::move(reglas);
     g.partidas = ReglasPartidas(g.reglas);
     const Producciones producciones(g.partidas);
     g.conjuntos = creaConjuntos(producciones);
-    g.automata = metodo == Metodo::Lr1 ? creaAutomataLr1(producciones) : creaAutomata(producciones);
-    g.tabla = creaTabla(producciones, g.automata, {metodo, {}}, {});
+    g.automata = opciones.metodo == Metodo::Lr1 ? creaAutomataLr1(producciones) : creaAutomata(producciones);
+    g.tabla = creaTabla(producciones, g.automata, opciones, {});
     return g;
 }
 

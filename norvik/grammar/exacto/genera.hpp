@@ -3,12 +3,12 @@
 #pragma once
 
 #include "norvik/grammar/gramaticaLR.hpp"
-#include "norvik/grammar/metodo.hpp"
+#include "norvik/grammar/opcionesTabla.hpp"
 
 namespace norvik::exacto {
 
 /// Derives all from rules that `chequea` has nothing to say of, by an exact method. Raises what the steps
 /// raise (producciones.hpp, automata.hpp).
-GramaticaLR genera(Reglas reglas, Metodo metodo);
+GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones);
 
 } // namespace norvik::exacto

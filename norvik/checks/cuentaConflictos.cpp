@@ -4,7 +4,7 @@
 // else two sentences that are alike up to the token of the conflict; else, where the table takes for one what
 // never stands in one place, a sentence for each action. The first search may not end, so it has a share of
 // the budget; the others walk over states and items, and do.
-#include "norvik/checks/historiaConflicto.hpp"
+#include "norvik/checks/cuentaConflictos.hpp"
 
 #include "norvik/checks/contextoConflicto.hpp"
 #include "norvik/checks/curaConflicto.hpp"
@@ -27,11 +27,11 @@ using Contraria = CasoConflicto::Contraria;
 
 class Narrador {
 public:
-    Narrador(const GramaticaLR& gramatica, Metodo metodo, const TablaLR& enUso,
+    Narrador(const GramaticaLR& gramatica, const OpcionesTabla& opciones, const TablaLR& enUso,
              const LimitesHistorias& limites)
         : gramatica_(gramatica), enUso_(enUso), limites_(limites), producciones_(gramatica.partidas),
           minimas_(producciones_), grafo_(producciones_, gramatica.automata, minimas_),
-          siguientes_(exacto::siguientes(producciones_)), curas_(gramatica, producciones_, metodo),
+          siguientes_(exacto::siguientes(producciones_)), curas_(gramatica, producciones_, opciones),
           fin_(Reloj::now() + limites.enTotal) {}
 
     HistoriaConflicto cuenta(const Conflicto& conflicto) {
@@ -197,7 +197,10 @@ private:
             historia.clase = HistoriaConflicto::Clase::SinEjemplo;
             return;
         }
-        const std::array ejemplos = {ejemploDe(lados[0], contexto), ejemploDe(lados[1], contexto)};
+        const std::array ejemplos = {caso.contraria == Contraria::Desplazar
+                                         ? masCortoQueDesplaza(caso, lados[0], contexto)
+                                         : ejemploDe(lados[0], contexto),
+                                     ejemploDe(lados[1], contexto)};
         if (!ejemplos[0] || !ejemplos[1]) {
             historia.clase = HistoriaConflicto::Clase::SinEjemplo;
             return;
@@ -223,6 +226,21 @@ private:
                 todos.push_back({otro, {lado.item, std::nullopt}});
         }
         return contexto.camino(todos);
+    }
+
+    // Of all items that shift the token there.
+    std::optional<EjemploConflicto> masCortoQueDesplaza(const CasoConflicto& caso, Lado lado,
+                                                        const ContextoConflicto& contexto) {
+        std::optional<EjemploConflicto> mejor;
+        for (const Item item : grafo_.items(caso.estado)) {
+            if (grafo_.simboloTras(item) != caso.token || !minimas_.produce(producciones_.cuerpo(item.regla)))
+                continue;
+            lado.item = item;
+            auto ejemplo = ejemploDe(lado, contexto);
+            if (ejemplo && (!mejor || ejemplo->frase().size() < mejor->frase().size()))
+                mejor = std::move(ejemplo);
+        }
+        return mejor;
     }
 
     std::optional<EjemploConflicto> ejemploDe(const Lado& lado, const ContextoConflicto& contexto) {
@@ -256,11 +274,11 @@ private:
 
 } // namespace
 
-std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, Metodo metodo,
+std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, const OpcionesTabla& opciones,
                                                 const TablaLR& enUso, const LimitesHistorias& limites) {
     std::vector<HistoriaConflicto> historias;
     if (gramatica.tabla.conflictos().empty()) return historias;
-    Narrador narrador(gramatica, metodo, enUso, limites);
+    Narrador narrador(gramatica, opciones, enUso, limites);
     for (const Conflicto& conflicto : gramatica.tabla.conflictos())
         historias.push_back(narrador.cuenta(conflicto));
     return historias;

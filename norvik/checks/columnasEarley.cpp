@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+
+// Earley (1970), with the step of Aycock and Horspool (2002) for what can be empty: an item that waits for
+// such a variable goes past it at once, so that a column is closed in one walk over its items. The shortest
+// way on is a least fixpoint over pairs of a column and a variable begun there: what is still to come after
+// it.
+#include "norvik/checks/columnasEarley.hpp"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace norvik {
+
+ColumnasEarley::ColumnasEarley(const exacto::Producciones& producciones, const DerivacionesMinimas& minimas)
+    : producciones_(producciones), minimas_(minimas) {
+    columnas_.emplace_back();
+    predice(0, producciones_.inicial());
+    cierra(0);
+}
+
+std::size_t ColumnasEarley::avanza(std::size_t columna, Simbolo token) {
+    const std::size_t nueva = columnas_.size();
+    columnas_.emplace_back();
+    puestos_.clear();
+    for (const Item& item : columnas_[columna])
+        if (tras(item) == token)
+            pon(nueva, {item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen});
+    cierra(nueva);
+    return nueva;
+}
+
+Simbolo ColumnasEarley::tras(const Item& item) const {
+    const Cuerpo cuerpo = producciones_.cuerpo(item.regla);
+    const auto punto = static_cast<std::size_t>(item.punto);
+    return punto < cuerpo.size() ? cuerpo[punto] : ReglasPartidas::sinSimbolo;
+}
+
+Cuerpo ColumnasEarley::resto(const Item& item, std::size_t desde) const {
+    return producciones_.cuerpo(item.regla).subspan(static_cast<std::size_t>(item.punto) + desde);
+}
+
+void ColumnasEarley::pon(std::size_t cual, Item item) {
+    const auto lugar = (static_cast<std::int32_t>(item.regla) << 16) + item.punto;
+    if (!puestos_.emplace(lugar, item.origen).second) return;
+    columnas_[cual].push_back(item);
+    ++trabajo_;
+}
+
+void ColumnasEarley::predice(std::size_t cual, Simbolo variable) {
+    for (const std::int16_t regla : producciones_.de(variable))
+        if (minimas_.produce(producciones_.cuerpo(regla))) pon(cual, {regla, 0, cual});
+}
+
+void ColumnasEarley::cierra(std::size_t cual) {
+    for (std::size_t i = 0; i < columnas_[cual].size(); ++i) {
+        const Item item = columnas_[cual][i];
+        const Simbolo simbolo = tras(item);
+        const Item pasado{item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen};
+        if (simbolo == ReglasPartidas::sinSimbolo) {
+            if (item.origen == cual) continue; // empty: whoever waits for it is past it
+            const Simbolo cabeza = producciones_.reglas().cabeza(item.regla);
+            for (const Item& espera : columnas_[item.origen])
+                if (tras(espera) == cabeza)
+                    pon(cual, {espera.regla, static_cast<std::int16_t>(espera.punto + 1), espera.origen});
+        } else if (producciones_.esVariable(simbolo)) {
+            predice(cual, simbolo);
+            if (producciones_.esAnulable(simbolo)) pon(cual, pasado);
+        }
+    }
+}
+
+bool ColumnasEarley::acepta(std::size_t columna) const {
+    return std::ranges::any_of(columnas_[columna], [&](const Item& item) {
+        return item.origen == 0 && tras(item) == ReglasPartidas::sinSimbolo &&
+               producciones_.reglas().cabeza(item.regla) == producciones_.inicial();
+    });
+}
+
+std::set<Simbolo> ColumnasEarley::siguientes(std::size_t columna) const {
+    std::set<Simbolo> tokens;
+    for (const Item& item : columnas_[columna])
+        if (const Simbolo simbolo = tras(item);
+            simbolo != ReglasPartidas::sinSimbolo && !producciones_.esVariable(simbolo))
+            tokens.insert(simbolo);
+    return tokens;
+}
+
+std::vector<Simbolo> ColumnasEarley::completa(std::size_t columna) const {
+    using Pedido = std::pair<std::size_t, Simbolo>; // what comes after a variable begun in a column
+    struct Respuesta {
+        std::int32_t tokens = DerivacionesMinimas::maximo;
+        std::optional<Item> espera; // none at the end of the text
+    };
+    std::map<Pedido, Respuesta> respuestas;
+    const auto pedidoDe = [&](const Item& item) {
+        return Pedido(item.origen, producciones_.reglas().cabeza(item.regla));
+    };
+    std::vector<Pedido> pedidos;
+    const auto pide = [&](const Pedido& pedido) {
+        if (respuestas.try_emplace(pedido).second) pedidos.push_back(pedido);
+    };
+    for (const Item& item : columnas_[columna]) pide(pedidoDe(item));
+    std::size_t porMirar = 0;
+    while (porMirar < pedidos.size()) { // they grow meanwhile
+        const Pedido pedido = pedidos[porMirar++];
+        if (pedido == Pedido(0, producciones_.inicial())) respuestas[pedido].tokens = 0;
+        for (const Item& espera : columnas_[pedido.first])
+            if (tras(espera) == pedido.second) pide(pedidoDe(espera));
+    }
+    for (bool mejora = true; mejora;) {
+        mejora = false;
+        for (const Pedido& pedido : pedidos)
+            for (const Item& espera : columnas_[pedido.first]) {
+                if (tras(espera) != pedido.second) continue;
+                const std::int32_t coste =
+                    minimas_.tokens(resto(espera, 1)) + respuestas[pedidoDe(espera)].tokens;
+                if (coste >= respuestas[pedido].tokens) continue;
+                respuestas[pedido] = {coste, espera};
+                mejora = true;
+            }
+    }
+    const auto coste = [&](const Item& item) {
+        return minimas_.tokens(resto(item, 0)) + respuestas[pedidoDe(item)].tokens;
+    };
+    const Item* const mejor = &*std::ranges::min_element(columnas_[columna], {}, coste);
+    std::vector<Simbolo> frase;
+    const auto escribe = [&](Cuerpo cuerpo) {
+        ArbolEjemplo arbol;
+        for (const Simbolo simbolo : cuerpo) {
+            if (minimas_.tokens({&simbolo, 1}) > 1'000) return;
+            arbol.nodos.clear();
+            minimas_.ponMinimo(arbol, simbolo);
+            for (const std::u16string& token : hojas(arbol))
+                frase.push_back(producciones_.reglas().simbolo(token));
+        }
+    };
+    escribe(resto(*mejor, 0));
+    for (std::optional<Item> espera = respuestas[pedidoDe(*mejor)].espera; espera;
+         espera = respuestas[pedidoDe(*espera)].espera)
+        escribe(resto(*espera, 1));
+    return frase;
+}
+
+} // namespace norvik

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/checks/derivacionesMinimas.hpp"
+#include "norvik/grammar/exacto/producciones.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace norvik {
+
+/// Earley's recogniser over a tree of beginnings: each has a column, and those that begin alike share theirs.
+/// Rules from which no text comes do not count, so that a beginning with items has a text that goes on with
+/// it.
+class ColumnasEarley {
+public:
+    ColumnasEarley(const exacto::Producciones& producciones, const DerivacionesMinimas& minimas);
+
+    /// The column of the empty beginning has number 0. Adds that of another with a token behind it; its
+    /// number.
+    std::size_t avanza(std::size_t columna, Simbolo token);
+    bool estaViva(std::size_t columna) const { return !columnas_[columna].empty(); }
+    /// Whether the beginning is a text.
+    bool acepta(std::size_t columna) const;
+    /// The tokens that may come next.
+    std::set<Simbolo> siguientes(std::size_t columna) const;
+    /// The shortest tokens with which a beginning that is alive becomes a text.
+    std::vector<Simbolo> completa(std::size_t columna) const;
+    /// Nothing goes on from the last one: it becomes empty.
+    void olvidaUltima() { columnas_.back().clear(); }
+    /// Items made so far.
+    std::size_t trabajo() const { return trabajo_; }
+
+private:
+    struct Item {
+        std::int16_t regla;
+        std::int16_t punto;
+        std::size_t origen; // column where it began
+
+        bool operator==(const Item&) const = default;
+    };
+    using Columna = std::vector<Item>;
+
+    Simbolo tras(const Item& item) const;
+    Cuerpo resto(const Item& item, std::size_t desde) const;
+    void cierra(std::size_t cual);
+    void pon(std::size_t cual, Item item);
+    void predice(std::size_t cual, Simbolo variable);
+
+    const exacto::Producciones& producciones_;
+    const DerivacionesMinimas& minimas_;
+    std::vector<Columna> columnas_;
+    std::set<std::pair<std::int32_t, std::size_t>> puestos_; // of the column being made
+    std::size_t trabajo_ = 0;
+};
+
+} // namespace norvik

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/base/diagnostico.hpp"
+#include "norvik/checks/historiaConflicto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace norvik {
+
+/// Dónde están las reglas de una gramática en su especificación, en su orden; vacío si no se sabe.
+struct LugaresReglas {
+    std::vector<Rango> cabezas;
+    std::vector<Rango> cuerpos;
+};
+
+/// En qué se aparta de la verdad lo que ha hecho el método clásico: conjuntos que no son los exactos,
+/// conflictos que la tabla no apunta (en el orden de la exacta), un texto de la gramática que rechaza y uno
+/// que acepta sin serlo, los más cortos que aparecen con un trabajo limitado. No cambia nada de lo que
+/// recibe.
+std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const LugaresReglas& lugares = {});
+
+/// Los conflictos de las reglas de una gramática hecha con el método clásico, contados. Los ejemplos se
+/// prueban con su tabla; los callados no tienen estado, porque los de las dos tablas no son los mismos.
+struct ConflictosClasicos {
+    std::vector<HistoriaConflicto> callados;
+    /// De cada celda de la tabla que enseña un conflicto, en su orden; nada de los que la tabla exacta no
+    /// tiene.
+    std::vector<std::optional<HistoriaConflicto>> apuntados;
+};
+
+ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const LimitesHistorias& limites = {});
+
+} // namespace norvik
