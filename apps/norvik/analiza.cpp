@@ -13,7 +13,7 @@ namespace {
 void escribeArbol(const Arbol& raiz, FormatoArbol formato, Salida& salida) {
     switch (formato) {
     case FormatoArbol::Dibujo:
-        return dibuja(raiz, salida);
+        return dibuja(raiz, [&](std::string_view linea) { salida.escribe(linea); });
     case FormatoArbol::Json:
         return escribeJson(raiz, salida);
     case FormatoArbol::Lineas:

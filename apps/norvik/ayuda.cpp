@@ -23,6 +23,8 @@ Uso:
   norvik informe  ESPECIFICACION [-o CARPETA]
   norvik modulo   ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
   norvik revisa   ESPECIFICACION... [--formato texto|json|sarif] [--estricto]
+  norvik prueba   LENGUAJE CARPETA [--actualiza] [--junit FICHERO]
+  norvik frases   ESPECIFICACION [--cuantas N] [--semilla N] [--mal]
   norvik --help | --version
   norvik ORDEN --help
 
@@ -33,6 +35,8 @@ Uso:
   informe   escribe el informe de una gramática y dice sus conflictos
   modulo    escribe el módulo que carga un lenguaje ya compilado
   revisa    dice lo que está mal o llama la atención en especificaciones
+  prueba    comprueba que un lenguaje acepta unos textos y rechaza otros
+  frases    escribe textos de un lenguaje
 
 Donde se compila una especificación, --metodo clasico|slr|lalr|lr1 elige cómo se hace la
 tabla; si no, lo elige su línea «'% metodo: lalr», o es el clásico.
@@ -141,6 +145,38 @@ Opciones:
   --help            muestra esta ayuda
 
 El estado de salida es 0 si no hay errores y 1 si los hay.
+)"},
+    Ayuda{"prueba", R"(Uso: norvik prueba LENGUAJE CARPETA [--actualiza] [--junit FICHERO]
+
+Analiza los textos de CARPETA/bien, que se deben aceptar, y los de CARPETA/mal, que
+no. Si al lado de TEXTO está TEXTO.arbol, su árbol dibujado debe ser ese; si está
+TEXTO.mal, sus errores, uno por línea, deben ser esos. Dice los textos que difieren,
+cuántos pasan, y las reglas y los tokens que ningún texto aceptado usa.
+
+  LENGUAJE     especificación, o módulo de carga (.bas); «-» es la entrada estándar
+  CARPETA      la que contiene bien, mal o las dos
+
+Opciones:
+  --actualiza        escribe los .arbol y los .mal de todos los textos
+  --junit FICHERO    escribe también un informe de JUnit
+  --metodo M         clasico, slr, lalr o lr1: cómo se hace la tabla
+  --help             muestra esta ayuda
+
+El estado de salida es 0 si ninguno difiere y 1 si difiere alguno.
+)"},
+    Ayuda{"frases", R"(Uso: norvik frases ESPECIFICACION [--cuantas N] [--semilla N] [--mal]
+
+Escribe textos del lenguaje, uno por línea: pocos, que usan todas las reglas. Cada uno
+se ha analizado antes de escribirlo.
+
+  ESPECIFICACION   fichero con la especificación; «-» es la entrada estándar
+
+Opciones:
+  --cuantas N   N textos al azar
+  --semilla N   otros textos; con la misma salen los mismos (por omisión, 1)
+  --mal         textos con un error cada uno, que el lenguaje rechaza
+  --metodo M    clasico, slr, lalr o lr1: cómo se hace la tabla
+  --help        muestra esta ayuda
 )"}};
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "dibujo.hpp"
 
 #include "recorrido.hpp"
+#include "salida.hpp"
 
 #include "norvik/base/texto.hpp"
 
@@ -44,13 +45,13 @@ private:
 
 } // namespace
 
-void dibuja(const Arbol& raiz, Salida& salida) {
+void dibuja(const Arbol& raiz, const std::function<void(std::string_view)>& escribe) {
     Sangria sangria;
     recorre(
         raiz,
         [&](const Paso& paso) {
-            salida.escribe(aUtf8(sangria.de(paso) + rotulo(paso.nodo)));
-            salida.escribe("\n");
+            escribe(aUtf8(sangria.de(paso) + rotulo(paso.nodo)));
+            escribe("\n");
         },
         [](const Arbol& /*nodo*/) {});
 }

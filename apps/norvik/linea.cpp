@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <optional>
 
 namespace norvik::orden {
@@ -80,6 +81,11 @@ private:
         std::string carpeta = ".";
         std::vector<std::string> especificaciones;
         bool estricto = false;
+        bool actualiza = false;
+        std::optional<std::string> junit;
+        std::optional<std::string> cuantas;
+        std::optional<std::string> semilla;
+        bool mal = false;
     };
 
     CLI::App* conAyuda(const char* nombre);
@@ -90,6 +96,7 @@ private:
     std::optional<Metodo> metodo() const;
     Modulo modulo() const;
     Revisa revisa() const;
+    Frases frases() const;
 
     CLI::App app_;
     Palabras palabras_;
@@ -109,6 +116,13 @@ Linea::Linea() {
     CLI::App* const modulo = nueva("modulo", "NOMBRE");
     modulo->add_option("-o", palabras_.carpeta)->take_last();
     modulo->add_option("--lenguaje", palabras_.lenguaje)->take_last();
+    CLI::App* const prueba = nueva("prueba", "CARPETA");
+    prueba->add_flag("--actualiza", palabras_.actualiza)->disable_flag_override();
+    prueba->add_option("--junit", palabras_.junit)->take_last();
+    CLI::App* const frases = nueva("frases", nullptr);
+    frases->add_option("--cuantas", palabras_.cuantas)->take_last();
+    frases->add_option("--semilla", palabras_.semilla)->take_last();
+    frases->add_flag("--mal", palabras_.mal)->disable_flag_override();
     CLI::App* const revisa = conAyuda("revisa");
     revisa->add_option("ESPECIFICACION", palabras_.especificaciones);
     revisa->add_option("--formato", palabras_.formato)->take_last();
@@ -125,8 +139,8 @@ CLI::App* Linea::conAyuda(const char* nombre) {
 
 CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
     CLI::App* const orden = conAyuda(nombre);
-    orden->add_option(segunda != nullptr && std::string_view(segunda) == "TEXTO" ? "LENGUAJE"
-                                                                                 : "ESPECIFICACION",
+    const std::string_view otra = segunda == nullptr ? std::string_view() : segunda;
+    orden->add_option(otra == "TEXTO" || otra == "CARPETA" ? "LENGUAJE" : "ESPECIFICACION",
                       palabras_.primera);
     if (segunda != nullptr) orden->add_option(segunda, palabras_.segunda);
     return orden;
@@ -138,7 +152,9 @@ Orden Linea::lee(int argc, const char* const* argv) {
     } catch (const CLI::ArgumentMismatch&) {
         const std::string_view ultima = argv[argc - 1];
         // An option takes the next word whatever it is, so that only the last one can lack its value.
-        if (ultima == "-o" || ultima == "--formato" || ultima == "--lenguaje" || ultima == "--metodo")
+        constexpr std::array conValor = {"-o",      "--formato", "--lenguaje", "--metodo",
+                                         "--junit", "--cuantas", "--semilla"};
+        if (std::ranges::find(conValor, ultima) != conValor.end())
             throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
         throw LineaIncorrecta(u"--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
@@ -203,6 +219,24 @@ Revisa Linea::revisa() const {
             metodo()};
 }
 
+std::uint32_t numeroDe(std::string_view opcion, const std::optional<std::string>& palabra,
+                       std::uint32_t siFalta) {
+    if (!palabra) return siFalta;
+    std::uint32_t numero = 0;
+    const char* const fin = palabra->data() + palabra->size();
+    const auto [hasta, error] = std::from_chars(palabra->data(), fin, numero);
+    constexpr std::uint32_t maximo = 1'000'000;
+    if (error != std::errc() || hasta != fin || numero == 0 || numero > maximo)
+        throw LineaIncorrecta(entreComillas(*palabra) + u" no es un valor de " + decodifica(opcion) +
+                              u" (un número del 1 al 1000000)");
+    return numero;
+}
+
+Frases Linea::frases() const {
+    return {palabras_.primera, numeroDe("--cuantas", palabras_.cuantas, 0),
+            numeroDe("--semilla", palabras_.semilla, 1), palabras_.mal, metodo()};
+}
+
 Orden Linea::interpreta(const CLI::App& orden) const {
     const std::string& nombre = orden.get_name();
     if (nombre == "analiza")
@@ -215,6 +249,9 @@ Orden Linea::interpreta(const CLI::App& orden) const {
         return Colorea{palabras_.primera, palabras_.segunda,
                        elige(formatosDeColor, "--formato", palabras_.formato), metodo()};
     if (nombre == "revisa") return revisa();
+    if (nombre == "frases") return frases();
+    if (nombre == "prueba")
+        return Prueba{palabras_.primera, palabras_.segunda, palabras_.actualiza, palabras_.junit, metodo()};
     if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta, metodo()};
     return modulo();
 }

@@ -6,6 +6,8 @@
 #include "norvik/grammar/metodo.hpp"
 #include "norvik/report/nombreDeModulo.hpp"
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -63,12 +65,28 @@ struct Revisa {
     std::optional<Metodo> metodo;
 };
 
+struct Prueba {
+    std::filesystem::path lenguaje;
+    std::filesystem::path carpeta;
+    bool actualiza = false; ///< what is expected is written instead of compared
+    std::optional<std::filesystem::path> junit;
+    std::optional<Metodo> metodo;
+};
+
+struct Frases {
+    std::filesystem::path especificacion;
+    std::size_t cuantas = 0; ///< 0: few that use every rule
+    std::uint32_t semilla = 1;
+    bool mal = false;
+    std::optional<Metodo> metodo;
+};
+
 /// Help or version: the text is the answer.
 struct Contesta {
     std::string texto;
 };
 
-using Orden = std::variant<Contesta, Analiza, Lexemas, Colorea, Informe, Modulo, Revisa>;
+using Orden = std::variant<Contesta, Analiza, Lexemas, Colorea, Informe, Modulo, Revisa, Prueba, Frases>;
 
 /// A command line that asks for nothing that can be done.
 class LineaIncorrecta : public ErrorNorvik {

@@ -64,17 +64,19 @@ void acorta(Linea& linea) {
 
 } // namespace
 
+std::u16string lineaDeError(const Diagnostico& diagnostico) {
+    const Punto& inicio = diagnostico.rango.inicio;
+    std::u16string linea = aTexto(inicio.linea) + u":" + aTexto(inicio.columna) + u": ";
+    linea.append(nombreDe(diagnostico.gravedad)).append(u": ");
+    linea.append(visible(enUnaLinea(mensaje(diagnostico))));
+    return linea.append(u" [").append(nombreDe(diagnostico.codigo)).append(u"]");
+}
+
 std::u16string muestraError(const Diagnostico& diagnostico, std::u16string_view fichero,
                             std::u16string_view texto) {
-    const Punto& inicio = diagnostico.rango.inicio;
     Linea linea = lineaDe(diagnostico.rango, texto);
     acorta(linea);
-    std::u16string muestra = visible(fichero);
-    muestra += u":" + aTexto(inicio.linea) + u":" + aTexto(inicio.columna) + u": ";
-    muestra.append(nombreDe(diagnostico.gravedad))
-        .append(u": ")
-        .append(visible(enUnaLinea(mensaje(diagnostico))));
-    muestra.append(u" [").append(nombreDe(diagnostico.codigo)).append(u"]\n");
+    std::u16string muestra = visible(fichero) + u":" + lineaDeError(diagnostico) + u"\n";
     muestra += linea.texto + u"\n" + std::u16string(linea.desde, u' ');
     return muestra + std::u16string(linea.hasta - linea.desde, u'^');
 }

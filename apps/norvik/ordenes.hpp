@@ -18,5 +18,7 @@ int ejecuta(const Colorea& orden, Salida& salida);
 int ejecuta(const Informe& orden, Salida& salida);
 int ejecuta(const Modulo& orden, Salida& salida);
 int ejecuta(const Revisa& orden, Salida& salida);
+int ejecuta(const Prueba& orden, Salida& salida);
+int ejecuta(const Frases& orden, Salida& salida);
 
 } // namespace norvik::orden

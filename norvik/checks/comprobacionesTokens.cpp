@@ -76,14 +76,6 @@ struct Perdida {
     std::size_t ganador;
 };
 
-// A person reads it: plain characters first, few of them.
-bool esMejorEjemplo(std::u16string_view uno, std::u16string_view otro) {
-    const auto raros = [](std::u16string_view texto) {
-        return std::ranges::count_if(texto, [](char16_t c) { return c <= u' ' || c > u'~'; });
-    };
-    return std::pair(raros(uno), uno.size()) < std::pair(raros(otro), otro.size());
-}
-
 class Concurso {
 public:
     explicit Concurso(const DefinicionesTokens& definiciones)
@@ -101,7 +93,7 @@ public:
         for (const std::u16string& texto : textos) {
             const std::size_t ganador = gana(texto);
             if (tokens_[ganador]->nomToken == token.nomToken) return std::nullopt;
-            if (!perdida || esMejorEjemplo(texto, perdida->texto)) perdida = {texto, ganador};
+            if (!perdida || esMasLegible(texto, perdida->texto)) perdida = {texto, ganador};
         }
         return perdida;
     }

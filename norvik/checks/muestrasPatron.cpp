@@ -148,4 +148,11 @@ std::vector<std::u16string> muestrasDe(std::u16string_view texto, bool ignoraMay
     return muestras;
 }
 
+bool esMasLegible(std::u16string_view uno, std::u16string_view otro) {
+    const auto raros = [](std::u16string_view texto) {
+        return std::ranges::count_if(texto, [](char16_t c) { return c <= u' ' || c > u'~'; });
+    };
+    return std::pair(raros(uno), uno.size()) < std::pair(raros(otro), otro.size());
+}
+
 } // namespace norvik

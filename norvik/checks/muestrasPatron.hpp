@@ -13,5 +13,7 @@ namespace norvik {
 /// None of a pattern that needs more text around it, or whose texts are not found by trying.
 std::vector<std::u16string> muestrasDe(std::u16string_view patron, bool ignoraMayusculas,
                                        std::size_t cuantas);
+/// Whether a person reads the one more easily: plain characters first, few of them.
+bool esMasLegible(std::u16string_view uno, std::u16string_view otro);
 
 } // namespace norvik

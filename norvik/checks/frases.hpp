@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/spec/lenguaje.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace norvik {
+
+struct OpcionesFrases {
+    std::size_t cuantas = 0; ///< at random; 0 for few that use every rule
+    std::uint32_t semilla = 1;
+    bool mal = false; ///< each with one error
+};
+
+struct Frases {
+    std::vector<std::u16string> textos;
+    std::vector<std::int16_t>
+        reglasSinUsar; ///< of few that use every rule: those that none could be found for
+};
+
+/// Texts of a language, each accepted by `analiza`, or refused with one error. The same options give the
+/// same texts; there are fewer where none was found.
+Frases frasesDe(const Lenguaje& lenguaje, const OpcionesFrases& opciones);
+
+} // namespace norvik
