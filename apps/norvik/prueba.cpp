@@ -49,7 +49,8 @@ std::vector<fs::path> textosDe(const fs::path& carpeta) {
 std::u16string primeraDiferencia(std::u16string_view esperado, std::u16string_view hallado) {
     const auto linea = [](std::u16string_view& texto) {
         const std::size_t fin = std::min(texto.find(u'\n'), texto.size());
-        const std::u16string_view una = texto.substr(0, fin);
+        std::u16string_view una = texto.substr(0, fin);
+        if (una.ends_with(u'\r')) una.remove_suffix(1);
         texto.remove_prefix(std::min(fin + 1, texto.size()));
         return una;
     };
@@ -117,9 +118,7 @@ private:
         }
         std::error_code error;
         if (!fs::exists(fichero, error)) return {};
-        std::u16string esperado = leeTexto(fichero);
-        if (!esperado.empty()) esperado += u'\n'; // which reading leaves out
-        std::u16string diferencia = primeraDiferencia(esperado, hallado());
+        std::u16string diferencia = primeraDiferencia(decodifica(leeBytes(fichero)), hallado());
         return diferencia.empty() ? diferencia : std::u16string(que) + u" difiere, " + diferencia;
     }
 

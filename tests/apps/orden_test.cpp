@@ -5,9 +5,12 @@
 #include "apoyo/carpetaTemporal.hpp"
 #include "apoyo/proceso.hpp"
 #include "apoyo/repite.hpp"
+#include "norvik/base/ficheros.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
@@ -167,6 +170,54 @@ TEST_F(Orden, ElMetodoLoEligeLaOpcionOLaEspecificacion) {
         EXPECT_EQ(ejecuta({"analiza", sinMetodo, texto, "--metodo", metodo}).estado, 0) << metodo;
     comprueba(ejecuta({"informe", sinMetodo, "--metodo", "ll"}), 2, "",
               "norvik: «ll» no es un valor de --metodo (clasico, slr, lalr, lr1)\n");
+}
+
+TEST_F(Orden, FrasesSonDelLenguaje) {
+    const Resultado pocas = ejecuta({"frases", lenguaje_});
+    EXPECT_EQ(pocas.estado, 0);
+    EXPECT_EQ(pocas.errores, "");
+    const Resultado malas = ejecuta({"frases", lenguaje_, "--mal", "--cuantas", "5", "--semilla", "7"});
+    EXPECT_EQ(std::ranges::count(malas.salida, '\n'), 5);
+    EXPECT_EQ(ejecuta({"frases", lenguaje_, "--mal", "--cuantas", "5", "--semilla", "7"}).salida,
+              malas.salida);
+    for (const auto& [textos, estado] : {std::pair(pocas.salida, 0), std::pair(malas.salida, 1)})
+        for (std::size_t i = 0; i < textos.size(); i = textos.find('\n', i) + 1)
+            EXPECT_EQ(sobre(textos.substr(i, textos.find('\n', i) - i), {"analiza"}).estado, estado);
+    comprueba(ejecuta({"frases", lenguaje_, "--cuantas", "0"}), 2, "",
+              "norvik: «0» no es un valor de --cuantas (un número del 1 al 1000000)\n");
+    const Resultado ninguna = ejecuta({"frases", pon("n.nvk", "Token a = \"a\";\nS -> a S;\n")});
+    comprueba(ninguna, 0, "", "aviso: no se ha encontrado ningún texto que use la regla 1. S -> a S\n");
+    EXPECT_EQ(ejecuta({"frases", pon("mala.nvk", "S -> ;")}).estado, 1);
+}
+
+TEST_F(Orden, PruebaComparaLosTextosConLoQueSeEspera) {
+    for (const char* const carpeta : {"t/bien/dentro", "t/mal"})
+        std::filesystem::create_directories(carpeta_ / carpeta);
+    pon("t/bien/suma", "1 + si x\n");
+    pon("t/bien/dentro/cadena", "'a'");
+    pon("t/mal/final", "1 2 +");
+    const std::string uso = "Ningún texto usa la regla 6. T -> Ø\n";
+    const Palabras prueba{"prueba", lenguaje_, ruta("t")};
+    comprueba(ejecuta(prueba), 0, "3 de 3 textos pasan.\n" + uso, "");
+    Palabras actualiza = prueba;
+    actualiza.emplace_back("--actualiza");
+    comprueba(ejecuta(actualiza), 0, "3 de 3 textos pasan.\n" + uso, "");
+    EXPECT_EQ(leeBytes(ruta("t/bien/suma.arbol")), sobre("1 + si x\n", {"analiza"}).salida);
+    EXPECT_EQ(leeBytes(ruta("t/mal/final.mal")).find("1:3: error: "), 0U);
+    comprueba(ejecuta(prueba), 0, "3 de 3 textos pasan.\n" + uso, "");
+    // Now each goes wrong in its way.
+    pon("t/bien/suma", "1 + si y\n");
+    pon("t/bien/dentro/cadena", "'a");
+    pon("t/mal/final", "1");
+    const Resultado mal = ejecuta({"prueba", lenguaje_, ruta("t"), "--junit", ruta("j.xml")});
+    EXPECT_EQ(mal.estado, 1);
+    EXPECT_NE(mal.salida.find("suma: su árbol difiere, línea 8: se esperaba «"), std::string::npos)
+        << mal.salida;
+    EXPECT_NE(mal.salida.find("cadena: no se acepta: 1:1: error: "), std::string::npos) << mal.salida;
+    EXPECT_NE(mal.salida.find("final: se acepta\n0 de 3 textos pasan.\n"), std::string::npos) << mal.salida;
+    const std::string junit = leeBytes(ruta("j.xml"));
+    EXPECT_NE(junit.find("tests=\"3\" failures=\"3\""), std::string::npos) << junit;
+    EXPECT_EQ(ejecuta({"prueba", lenguaje_, ruta("nada")}).estado, 2);
 }
 
 TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
