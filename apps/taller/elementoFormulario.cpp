@@ -4,6 +4,8 @@
 
 #include "lenguaje.hpp"
 
+#include "norvik/base/ficheros.hpp"
+
 #include <QAbstractScrollArea>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -39,10 +41,7 @@ void ElementoFormulario::conecta() {
     auto& texto = static_cast<QAbstractScrollArea&>(norvik_.caja().ventana());
     texto.installEventFilter(this);
     texto.viewport()->installEventFilter(this);
-    connect(&norvik_, &ControlNorvik::change, this, [this] {
-        actualizaTitulo();
-        emit otroTexto();
-    });
+    connect(&norvik_, &ControlNorvik::change, this, &ElementoFormulario::cambiaTexto);
     connect(&norvik_, &ControlNorvik::SelChange, this, &ElementoFormulario::otroLugar);
     connect(&norvik_, &ControlNorvik::fallo, this, [this](const QString& motivo, bool& contado) {
         contado = true;
@@ -109,33 +108,56 @@ void ElementoFormulario::actualizaTitulo() {
     titulo_.setText(nombre_ + QStringLiteral(" — ") + tituloTexto() + marca);
 }
 
-void ElementoFormulario::nuevoTexto() {
-    fichero_.clear();
-    norvik_.control().BorraTodo();
-    norvik_.TextoModificado(false);
+bool ElementoFormulario::textoModificado() const {
+    return norvik_.TextoModificado() && norvik_.caja().texto() != textoGuardado_;
+}
+
+void ElementoFormulario::cambiaTexto() {
     actualizaTitulo();
     emit otroTexto();
 }
 
+void ElementoFormulario::nuevoTexto() {
+    formato_ = {};
+    esBinario_ = false;
+    fichero_.clear();
+    norvik_.control().BorraTodo();
+    anotaTextoGuardado();
+}
+
 void ElementoFormulario::abreTexto(const QString& fichero) {
     nuevoTexto();
+    const std::string bytes = leeBytes(aRuta(fichero));
     try {
         norvik_.control().CargarFichero(aRuta(fichero));
     } catch (const Desbordamiento&) {
         norvik_.caja().protege([] { throw; }); // it is told as at any key
     }
+    formato_ = formatoDe(bytes);
+    esBinario_ = norvik::esBinario(bytes);
     ponFichero(fichero);
 }
 
 void ElementoFormulario::ponFichero(const QString& fichero) {
     fichero_ = QFileInfo(fichero).absoluteFilePath();
+    anotaTextoGuardado();
+}
+
+void ElementoFormulario::anotaTextoGuardado() {
+    textoGuardado_ = norvik_.caja().texto();
     norvik_.TextoModificado(false);
-    actualizaTitulo();
-    emit otroTexto();
+    cambiaTexto();
 }
 
 bool ElementoFormulario::guardaTexto(const QString& fichero) {
-    if (!norvik_.control().SalvarFichero(aRuta(fichero))) return false;
+    try {
+        const TextoCodificado codificado = codifica(norvik_.caja().texto(), formato_);
+        escribeBytes(aRuta(fichero), codificado.bytes, Durabilidad::EnDisco);
+        if (std::exchange(formato_, codificado.formato) != codificado.formato)
+            emit aviso(QStringLiteral("Hay caracteres que no caben en Windows-1252: guardado en UTF-8"));
+    } catch (const ErrorDeFichero&) {
+        return false;
+    }
     ponFichero(fichero);
     return true;
 }

@@ -4,6 +4,7 @@
 
 #include "veloDisenio.hpp"
 
+#include "norvik/base/formatoTexto.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 
 #include <QLabel>
@@ -38,12 +39,18 @@ public:
     const QString& fichero() const { return fichero_; }
     /// What a person calls the text.
     QString tituloTexto() const;
-    bool textoModificado() const { return norvik_.TextoModificado(); }
+    /// It is another one than that which was saved or read.
+    bool textoModificado() const;
+    /// The control tells nobody of what it does to the text by Undo and Redo.
+    void cambiaTexto();
+    const FormatoTexto& formato() const { return formato_; }
+    /// What was read was no text: written as one it would not be the same.
+    bool esBinario() const { return esBinario_; }
     void nuevoTexto();
     /// Raises `ErrorDeFichero`, the text is then empty and without a file. One that is too long to be
     /// coloured is loaded, and that is told.
     void abreTexto(const QString& fichero);
-    /// False when the file could not be written.
+    /// As it was read. False when the file could not be written.
     bool guardaTexto(const QString& fichero);
 
     /// Puts the caret at a place (1-based), with the lexeme selected that stands there.
@@ -69,6 +76,8 @@ signals:
     void otroLugar(); ///< of the caret
     /// A limit was passed, or something else failed, while the user worked on the text.
     void fallo(const QString& texto);
+    /// What was done is not all that was asked for.
+    void aviso(const QString& texto);
     /// What is saved has changed: the property bag, or what the container keeps besides.
     void otraPropiedad();
 
@@ -78,6 +87,7 @@ protected:
 private:
     void conecta();
     void ponFichero(const QString& fichero);
+    void anotaTextoGuardado();
     void actualizaTitulo();
     void anota(const QString& propiedad);
     void anotaEspecificacion();
@@ -85,6 +95,9 @@ private:
 
     QString nombre_;
     QString fichero_;
+    FormatoTexto formato_;
+    bool esBinario_ = false;
+    std::u16string textoGuardado_;
     QString modulo_;
     std::string guardada_;          ///< the property bag as it was last saved
     std::u16string especificacion_; ///< as it was last seen

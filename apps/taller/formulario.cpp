@@ -41,6 +41,7 @@ void Formulario::conecta(ElementoFormulario& elemento) {
     connect(&elemento, &ElementoFormulario::otroTexto, this, &Formulario::otroTexto);
     connect(&elemento, &ElementoFormulario::otroLugar, this, &Formulario::otroLugar);
     connect(&elemento, &ElementoFormulario::fallo, this, &Formulario::fallo);
+    connect(&elemento, &ElementoFormulario::aviso, this, &Formulario::aviso);
     connect(&elemento, &ElementoFormulario::otraPropiedad, this, [this] { ponModificado(true); });
 }
 

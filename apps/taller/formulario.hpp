@@ -51,6 +51,7 @@ signals:
     void otroTexto(); ///< of any control
     void otroLugar(); ///< of the active one's caret
     void fallo(const QString& texto);
+    void aviso(const QString& texto);
     void cambiado(); ///< the controls, or what is saved of them
     void pidePropiedades();
 

@@ -5,12 +5,27 @@
 #include "lenguaje.hpp"
 #include "rutas.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/base/formatoTexto.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <QFileInfo>
 
 namespace norvik::taller {
+
+namespace {
+
+/// A file that stands there keeps its encoding and its line ends.
+FormatoTexto formatoDelQueHay(const QString& fichero) {
+    try {
+        return formatoDe(leeBytes(aRuta(fichero)));
+    } catch (const ErrorDeFichero&) {
+        return {};
+    }
+}
+
+} // namespace
 
 bool OrdenesLenguaje::nuevo() {
     ElementoFormulario& elemento = formulario_.activo();
@@ -46,8 +61,8 @@ bool OrdenesLenguaje::guardaEspecificacion() {
         dialogos_.eligeParaGuardar(QStringLiteral("Guardar la especificación"), filtroEspecificacion,
                                    nombre + u'.' + extensionEspecificacion, extensionEspecificacion);
     if (!fichero) return false;
-    escribeTexto(aRuta(*fichero), especificacionDe(norvik) + std::u16string(saltoDeLinea),
-                 Durabilidad::EnDisco);
+    const TextoCodificado codificado = codifica(especificacionDe(norvik), formatoDelQueHay(*fichero));
+    escribeBytes(aRuta(*fichero), codificado.bytes, Durabilidad::EnDisco);
     return true;
 }
 

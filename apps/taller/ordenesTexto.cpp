@@ -22,12 +22,17 @@ void OrdenesTexto::abre(const QString& fichero) {
 }
 
 bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero) {
-    if (elemento.guardaTexto(fichero)) {
-        recientes_.anota(fichero);
-        return true;
-    }
-    const QString texto = QStringLiteral("No se ha podido escribir el fichero «%1».").arg(fichero);
-    sistema_.muestraMensaje({texto.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
+    if (elemento.esBinario())
+        return rehusa(QStringLiteral("«%1» no se leyó como texto, y guardado como texto sería otro fichero.")
+                          .arg(elemento.tituloTexto()));
+    if (!elemento.guardaTexto(fichero))
+        return rehusa(QStringLiteral("No se ha podido escribir el fichero «%1».").arg(fichero));
+    recientes_.anota(fichero);
+    return true;
+}
+
+bool OrdenesTexto::rehusa(const QString& motivo) {
+    sistema_.muestraMensaje({motivo.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
     return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "panelMensaje.hpp"
 
+#include <QAccessible>
 #include <QStyle>
 
 namespace norvik::taller {
@@ -34,6 +35,9 @@ PanelMensaje::PanelMensaje(QWidget* padre) : QFrame(padre) {
 void PanelMensaje::muestra(const QString& error) {
     mensaje_.setText(error);
     setVisible(!error.isEmpty());
+    if (error.isEmpty()) return;
+    QAccessibleEvent alerta(&mensaje_, QAccessible::Alert); // the focus stays in the text
+    QAccessible::updateAccessibility(&alerta);
 }
 
 } // namespace norvik::taller

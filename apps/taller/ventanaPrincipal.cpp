@@ -64,9 +64,11 @@ void VentanaPrincipal::compone() {
     acciones_.ver.addAction(arbol_.toggleViewAction());
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
     lenguaje_.setContentsMargins(8, 0, 8, 0);
+    formato_.setContentsMargins(8, 0, 8, 0);
     lugar_.setContentsMargins(8, 0, 8, 0);
     statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
     statusBar()->addPermanentWidget(&lenguaje_);
+    statusBar()->addPermanentWidget(&formato_);
     statusBar()->addPermanentWidget(&lugar_);
 }
 
@@ -99,10 +101,7 @@ void VentanaPrincipal::conectaEdicion() {
         conControl(accion, [orden](ControlNorvik& n) {
             n.caja().atiende([&] { orden(n); }); // what a key came to is told as it is at other keys
         });
-        connect(&accion, &QAction::triggered, this, [this] { // nobody tells of these changes
-            actualizaHistorial();
-            actualizaLugar();
-        });
+        connect(&accion, &QAction::triggered, this, [this] { formulario_.activo().cambiaTexto(); });
     };
     enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
     enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
@@ -132,6 +131,8 @@ void VentanaPrincipal::conectaFormulario() {
     connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
     connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
     connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
+    connect(&formulario_, &Formulario::aviso, this,
+            [this](const QString& texto) { statusBar()->showMessage(texto); });
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
@@ -228,6 +229,14 @@ void VentanaPrincipal::actualizaTitulo() {
     const QString sinNombre = tieneLenguaje(activo.norvik()) ? QStringLiteral("Lenguaje sin nombre")
                                                              : QStringLiteral("Sin lenguaje");
     lenguaje_.setText(nombre.isEmpty() ? sinNombre : nombre);
+    actualizaFormato();
+}
+
+void VentanaPrincipal::actualizaFormato() {
+    const FormatoTexto& formato = formulario_.activo().formato();
+    const QString nombre =
+        aQString(nombreDe(formato.codificacion)) + QStringLiteral("  ") + aQString(nombreDe(formato.salto));
+    formato_.setText(formulario_.activo().esBinario() ? QStringLiteral("No es texto") : nombre);
 }
 
 void VentanaPrincipal::actualizaLugar() {

@@ -57,6 +57,7 @@ private:
     void otroActivo();
     void cuentaFallo(const QString& texto);
     void actualizaTitulo();
+    void actualizaFormato();
     void actualizaLugar();
     void actualizaOrdenes();
     void actualizaHistorial();
@@ -71,7 +72,7 @@ private:
     Formulario formulario_{sistema_, &centro_};
     PanelMensaje mensaje_{&centro_};
     PanelArbol arbol_{this};
-    QLabel lenguaje_, lugar_;
+    QLabel lenguaje_, formato_, lugar_;
     OrdenesTexto textos_;
     OrdenesFormulario formularios_;
     OrdenesLenguaje lenguajes_;

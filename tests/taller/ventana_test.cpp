@@ -64,7 +64,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     EXPECT_TRUE(ventana.isWindowModified());
     ordena(a.guardarTexto);
     EXPECT_FALSE(ventana.isWindowModified());
-    EXPECT_EQ(apoyo::bytesDe(carpeta / "uno.txt"), "xa\r\nb\r\n");
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "uno.txt"), "xa\nb\n");
     escribe("y");
     ordena(a.deshacer);
     EXPECT_EQ(ventana.findChild<QStatusBar*>()->findChildren<QLabel*>().last()->text(), "Línea 1, Columna 2");
@@ -78,6 +78,56 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     ventana.abre(ruta("falta.txt"));
     EXPECT_EQ(dialogos.toma().size(), 1);
     EXPECT_EQ(norvik().control().Text(), u"");
+}
+
+TEST_F(TallerTest, CadaFicheroSigueComoEra) {
+    const std::tuple<std::string, const char*, std::string, QString> casos[] = {
+        {"", "n", "n", "UTF-8  LF"},
+        {"a\n", "n", "na\n", "UTF-8  LF"},
+        {"a\r\n\r\n", "n", "na\r\n\r\n", "UTF-8  CR LF"},
+        {"a\rb", "n", "na\rb", "UTF-8  CR"},
+        {"\xEF\xBB\xBF\xC3\xB1\n", "n", "\xEF\xBB\xBFn\xC3\xB1\n", "UTF-8 con marca  LF"},
+        {"\xF1\r\na", "n", "n\xF1\r\na", "Windows-1252  CR LF"},
+        {"\xF1\n", "\xCE\xB1", "\xCE\xB1\xC3\xB1\n", "UTF-8  LF"}, // a letter that it cannot hold
+    };
+    const QStatusBar& barra = *ventana.findChild<QStatusBar*>();
+    for (const auto& [bytes, escrito, queda, formato] : casos) {
+        ventana.abre(pon("f.txt", bytes));
+        ordena(a.guardarTexto);
+        EXPECT_EQ(apoyo::bytesDe(carpeta / "f.txt"), bytes);
+        QInputMethodEvent letra;
+        letra.setCommitString(escrito);
+        QApplication::sendEvent(&norvik().caja().ventana(), &letra);
+        ordena(a.guardarTexto);
+        EXPECT_EQ(apoyo::bytesDe(carpeta / "f.txt"), queda);
+        EXPECT_EQ(barra.findChildren<QLabel*>()[1]->text(), formato);
+    }
+    EXPECT_TRUE(barra.currentMessage().contains("guardado en UTF-8"));
+    const std::string binario("MZ\0\xF1\n", 5);
+    ventana.abre(pon("f.bin", binario));
+    EXPECT_EQ(barra.findChildren<QLabel*>()[1]->text(), "No es texto");
+    escribe("x");
+    for (int vez = 0; vez < 2; ++vez) {
+        ordena(a.guardarTexto);
+        EXPECT_EQ(dialogos.toma().size(), 1);
+    }
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "f.bin"), binario);
+    EXPECT_TRUE(ventana.isWindowModified());
+}
+
+TEST_F(TallerTest, DeshechoTodoNadaEstaModificado) {
+    ventana.abre(pon("uno.txt", "a\n"));
+    for (int vez = 0; vez < 2; ++vez) {
+        escribe("xy");
+        EXPECT_TRUE(ventana.isWindowModified());
+        for (int i = 0; i < 2; ++i) ordena(a.deshacer);
+        EXPECT_FALSE(ventana.isWindowModified());
+        ordena(a.rehacer);
+        EXPECT_TRUE(ventana.isWindowModified());
+        QTest::keyClick(&norvik().caja().ventana(), Qt::Key_Backspace);
+        EXPECT_FALSE(ventana.isWindowModified());
+    }
+    EXPECT_TRUE(cierra());
 }
 
 TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
@@ -101,7 +151,7 @@ TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     dialogos.destinos = {Destino::Guardar};
     dialogos.ficheros = {ruta("mio.txt")};
     EXPECT_TRUE(cierra());
-    EXPECT_EQ(apoyo::bytesDe(carpeta / "mio.txt"), "mio\r\n");
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "mio.txt"), "mio\n");
     norvik().Borde3D(false);
     dialogos.toma();
     EXPECT_FALSE(cierra());

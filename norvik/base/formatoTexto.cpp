@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+
+#include "norvik/base/formatoTexto.hpp"
+
+#include "norvik/base/codificacion.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
+
+SaltoDeFichero saltoMasFrecuente(std::string_view bytes) {
+    std::size_t lf = 0;
+    std::size_t crLf = 0;
+    std::size_t cr = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] == '\n') ++lf;
+        if (bytes[i] != '\r') continue;
+        const bool doble = i + 1 < bytes.size() && bytes[i + 1] == '\n';
+        ++(doble ? crLf : cr);
+        if (doble) ++i;
+    }
+    if (crLf > 0 && crLf >= lf && crLf >= cr) return SaltoDeFichero::CrLf;
+    return cr > lf ? SaltoDeFichero::Cr : SaltoDeFichero::Lf;
+}
+
+std::u16string_view saltoEnFichero(SaltoDeFichero salto) {
+    switch (salto) {
+    case SaltoDeFichero::Lf:
+        return u"\n";
+    case SaltoDeFichero::CrLf:
+        return u"\r\n";
+    case SaltoDeFichero::Cr:
+        return u"\r";
+    }
+    return u"\n";
+}
+
+std::u16string conSaltos(std::u16string_view texto, const FormatoTexto& formato) {
+    const std::u16string_view salto = saltoEnFichero(formato.salto);
+    std::u16string resultado;
+    resultado.reserve(texto.size() + salto.size());
+    while (true) {
+        const std::size_t fin = texto.find(saltoDeLinea);
+        resultado.append(texto.substr(0, fin));
+        if (fin == std::u16string_view::npos) break;
+        resultado.append(salto);
+        texto.remove_prefix(fin + saltoDeLinea.size());
+    }
+    if (formato.acabaEnSalto) resultado.append(salto);
+    return resultado;
+}
+
+/// Nothing when reading back would give another text.
+std::optional<std::string> enWindows1252(std::u16string_view texto) {
+    CodificadorWindows1252 codificador;
+    auto bytes = codificador.codifica(texto);
+    return bytes && codificador.seLeeIgual() ? std::move(bytes) : std::nullopt;
+}
+
+} // namespace
+
+bool esBinario(std::string_view bytes) {
+    return bytes.find('\0') != std::string_view::npos;
+}
+
+FormatoTexto formatoDe(std::string_view bytes) {
+    FormatoTexto formato;
+    if (bytes.starts_with(marcaUtf8)) formato.codificacion = Codificacion::Utf8ConMarca;
+    if (!esUtf8(bytes)) formato.codificacion = Codificacion::Windows1252;
+    formato.salto = saltoMasFrecuente(bytes);
+    formato.acabaEnSalto = bytes.ends_with('\n') || bytes.ends_with('\r');
+    return formato;
+}
+
+TextoCodificado codifica(std::u16string_view texto, const FormatoTexto& formato) {
+    const std::u16string entero = conSaltos(texto, formato);
+    TextoCodificado codificado{{}, formato};
+    if (formato.codificacion == Codificacion::Windows1252) {
+        if (auto bytes = enWindows1252(entero)) {
+            codificado.bytes = *std::move(bytes);
+            return codificado;
+        }
+        codificado.formato.codificacion = Codificacion::Utf8;
+    }
+    std::string bytes = aUtf8(entero);
+    if (desdeUtf8(bytes) != entero)
+        throw ErrorDeFichero(
+            u"El texto contiene medio carácter (un sustituto suelto), que no se puede guardar");
+    if (formato.codificacion == Codificacion::Utf8ConMarca) codificado.bytes = marcaUtf8;
+    codificado.bytes += bytes;
+    return codificado;
+}
+
+std::u16string_view nombreDe(Codificacion codificacion) {
+    switch (codificacion) {
+    case Codificacion::Utf8:
+        return u"UTF-8";
+    case Codificacion::Utf8ConMarca:
+        return u"UTF-8 con marca";
+    case Codificacion::Windows1252:
+        return u"Windows-1252";
+    }
+    return {};
+}
+
+std::u16string_view nombreDe(SaltoDeFichero salto) {
+    switch (salto) {
+    case SaltoDeFichero::Lf:
+        return u"LF";
+    case SaltoDeFichero::CrLf:
+        return u"CR LF";
+    case SaltoDeFichero::Cr:
+        return u"CR";
+    }
+    return {};
+}
+
+} // namespace norvik
