@@ -3,8 +3,12 @@
 #include "apoyo/carpetaTemporal.hpp"
 #include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/impresion.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 
+#include <QPaintEngine>
+#include <QPrintEngine>
 #include <QtWidgets>
 
 #include <gtest/gtest.h>
@@ -71,6 +75,70 @@ TEST(SistemaQt, PunteroDeLaAplicacion) {
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+namespace {
+
+/// A printer that writes down what is drawn on it: pages of 50 letters by 20 lines.
+class ImpresoraDePrueba final : public QPrinter, QPrintEngine, QPaintEngine {
+public:
+    ImpresoraDePrueba() : QPaintEngine(AllFeatures) {
+        setEngines(this, this);
+        const QFontMetrics letra(aQFont({}), this);
+        ancho_ = letra.horizontalAdvance(u'x') * 50;
+        alto_ = letra.height() * 20;
+    }
+
+    QString texto; ///< a line of it for each one of a page, a form feed between pages
+    double masALaDerecha = 0;
+    double masAbajo = 0;
+    int ancho() const { return ancho_; }
+    int alto() const { return alto_; }
+
+private:
+    bool newPage() override {
+        texto += u'\f';
+        return true;
+    }
+    int metric(PaintDeviceMetric medida) const override {
+        if (medida == PdmWidth) return ancho_;
+        if (medida == PdmHeight) return alto_;
+        return medida == PdmDevicePixelRatio ? 1 : medida == PdmDevicePixelRatioScaled ? 65536 : 96;
+    }
+    void setProperty(PrintEnginePropertyKey /*clave*/, const QVariant& /*valor*/) override {}
+    QVariant property(PrintEnginePropertyKey /*clave*/) const override { return {}; }
+    bool abort() override { return true; }
+    QPrinter::PrinterState printerState() const override { return QPrinter::Active; }
+    bool begin(QPaintDevice* /*papel*/) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState& /*estado*/) override {}
+    void drawPixmap(const QRectF& /*r*/, const QPixmap& /*p*/, const QRectF& /*s*/) override {}
+    void drawPolygon(const QPointF* /*p*/, int /*n*/, PolygonDrawMode /*m*/) override {}
+    Type type() const override { return User; }
+    void drawTextItem(const QPointF& donde, const QTextItem& trozo) override {
+        texto += trozo.text();
+        masALaDerecha = std::max(masALaDerecha, donde.x() + trozo.width());
+        masAbajo = std::max(masAbajo, donde.y() + trozo.descent());
+    }
+
+    int ancho_ = 0;
+    int alto_ = 0;
+};
+
+} // namespace
+
+TEST(SistemaQt, LoImpresoCabeEnteroEnLaPagina) {
+    const std::u16string anchas = apoyo::repite(u"漢字", 100);
+    for (const std::u16string& texto :
+         {std::u16string(120, u'x'), apoyo::repite(u"a\tb", 40), std::u16string(30, u'\t') + u"z", anchas,
+          apoyo::repite(u"\U0001F600", 60), std::u16string(7000, u'y')}) {
+        ImpresoraDePrueba impresora;
+        const QString linea = QString::fromStdU16String(texto);
+        Impresion(impresora).imprimeLinea(linea);
+        EXPECT_EQ(impresora.texto.remove(u'\f').remove(u'\t'), QString(linea).remove(u'\t'));
+        EXPECT_LE(impresora.masALaDerecha, impresora.ancho() + 0.5);
+        EXPECT_LE(impresora.masAbajo, impresora.alto() + 0.5);
+    }
 }
 
 TEST(SistemaQt, ImprimeEnPdf) {

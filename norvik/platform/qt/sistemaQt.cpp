@@ -4,6 +4,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/impresion.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 
 #include <QApplication>
@@ -11,13 +12,9 @@
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPushButton>
-
-#include <algorithm>
-#include <cmath>
 
 namespace norvik {
 
@@ -38,41 +35,6 @@ QMessageBox::Icon iconoQt(Icono icono) {
     }
     return QMessageBox::NoIcon;
 }
-
-/// Writes lines down the pages of a printer; a line wider than the page goes on in the next one.
-class Impresion {
-public:
-    explicit Impresion(QPrinter& impresora) : impresora_(impresora) {
-        if (!pintor_.begin(&impresora_))
-            throw ErrorNorvik(u"No se puede imprimir: la impresora no está disponible");
-        pintor_.setFont(aQFont({}));
-        alto_ = pintor_.fontMetrics().lineSpacing();
-        columnas_ = std::max(pintor_.window().width() / pintor_.fontMetrics().horizontalAdvance(u'x'), 1);
-    }
-    void imprimeLinea(const QString& linea) {
-        const qsizetype trozos = std::max<qsizetype>((linea.size() + columnas_ - 1) / columnas_, 1);
-        for (qsizetype i = 0; i < trozos; ++i) imprimeTrozo(linea.mid(i * columnas_, columnas_));
-    }
-
-private:
-    void imprimeTrozo(const QString& trozo) {
-        if (y_ + alto_ > pintor_.window().height()) {
-            if (!impresora_.newPage())
-                throw ErrorNorvik(u"No se puede imprimir: la impresora no acepta más páginas");
-            y_ = 0;
-        }
-        constexpr int espaciosPorTabulacion = 8;
-        const QString visto = QString(trozo).replace(u'\t', QString(espaciosPorTabulacion, u' '));
-        pintor_.drawText(0, y_ + pintor_.fontMetrics().ascent(), visto);
-        y_ += alto_;
-    }
-
-    QPrinter& impresora_;
-    QPainter pintor_;
-    int alto_ = 0;
-    int y_ = 0;
-    qsizetype columnas_ = 1;
-};
 
 /// Ends an event loop when a window is closed or hidden, which it is not by being minimised.
 class FinAlOcultar final : public QObject {
