@@ -2,6 +2,7 @@
 
 #include "norvik/control/buscador.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
@@ -16,6 +17,17 @@ constexpr std::u16string_view abajo = direccionesBusqueda[2];
 
 std::u16string patronDe(const Peticion& peticion) {
     return peticion.soloPalabrasCompletas ? u"\\b" + peticion.texto + u"\\b" : peticion.texto;
+}
+
+/// A text that passes the limits of colouring is edited all the same: that it is not coloured is no failure
+/// of the search.
+template <typename Paso>
+void aunqueNoSeColoree(Paso paso) {
+    try {
+        paso();
+    } catch (const Desbordamiento&) { // raised when all was done
+        return;
+    }
 }
 
 /// The part of a text from the first match to the end of the last, with every match replaced.
@@ -66,18 +78,22 @@ void Buscador::empieza(const Peticion& peticion) {
     estado_.direccionBusqueda = peticion.direccion == todo ? std::u16string(abajo) : peticion.direccion;
 }
 
-void Buscador::buscaSiguiente(const Peticion& peticion) {
+bool Buscador::buscaSiguiente(const Peticion& peticion) {
     const auto halladas = coincidencias(peticion);
-    if (!halladas) return;
+    if (!halladas) return false;
     empieza(peticion);
     const std::int32_t cursor = destino_.textoDestino->inicioSeleccion();
-    selecciona(*halladas, cursor, cursor);
+    const bool hallada = selecciona(*halladas, cursor, cursor);
     recuerda();
+    return hallada;
 }
 
 /// Selects, by the direction, the first match after a position or the last one before another.
-void Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const {
-    if (halladas.empty()) return avisa(u"No se encontró el texto de busqueda");
+bool Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const {
+    if (halladas.empty()) {
+        avisa(u"No se encontró el texto de busqueda");
+        return false;
+    }
     const Coincidencia* tomada = nullptr;
     if (estado_.direccionBusqueda == abajo) {
         const auto i = std::find_if(halladas.begin(), halladas.end(),
@@ -89,10 +105,11 @@ void Buscador::selecciona(const Coincidencias& halladas, std::int32_t despuesDe,
         if (i != halladas.rend()) tomada = &*i;
     }
     if (tomada != nullptr) {
-        destino_.textoDestino->selecciona(tomada->indice, tomada->longitud);
+        aunqueNoSeColoree([&] { destino_.textoDestino->selecciona(tomada->indice, tomada->longitud); });
     } else {
         avisa(u"Se ha buscado en la región especificada", u"Busqueda completada");
     }
+    return tomada != nullptr;
 }
 
 void Buscador::recuerda() {
@@ -109,9 +126,11 @@ void Buscador::reemplaza(const Peticion& peticion, std::u16string_view con) {
     const CajaTexto& caja = *destino_.textoDestino;
     const Coincidencia elegida{caja.inicioSeleccion(), caja.longitudSeleccion()};
     const bool esHallada = std::find(halladas->begin(), halladas->end(), elegida) != halladas->end();
-    if (elegida.longitud == 0 || !esHallada) return buscaSiguiente(peticion);
-
-    destino_.sustituye(elegida.indice, elegida.longitud, con);
+    if (elegida.longitud == 0 || !esHallada) {
+        buscaSiguiente(peticion);
+        return;
+    }
+    aunqueNoSeColoree([&] { destino_.sustituye(elegida.indice, elegida.longitud, con); });
     const auto quedan = coincidencias(peticion);
     if (!quedan) return;
     empieza(peticion);
@@ -126,7 +145,8 @@ void Buscador::reemplazaTodo(const Peticion& peticion, std::u16string_view con) 
     const CajaTexto& caja = *destino_.textoDestino;
     const std::int32_t inicio = halladas->front().indice;
     const std::int32_t fin = halladas->back().indice + halladas->back().longitud;
-    destino_.sustituye(inicio, fin - inicio, tramoReemplazado(caja.texto(), *halladas, con));
+    const std::u16string nuevo = tramoReemplazado(caja.texto(), *halladas, con);
+    aunqueNoSeColoree([&] { destino_.sustituye(inicio, fin - inicio, nuevo); });
     const bool uno = halladas->size() == 1;
     const std::u16string cuantos = aTexto(static_cast<std::int64_t>(halladas->size()));
     avisa(uno ? u"Se ha hecho 1 reemplazo" : u"Se han hecho " + cuantos + u" reemplazos",

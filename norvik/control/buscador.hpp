@@ -38,7 +38,8 @@ public:
     void cierra();
 
     /// "Buscar siguiente": selects the next match strictly beyond the caret, or strictly before it.
-    void buscaSiguiente(const Peticion& peticion);
+    /// False when nothing more was found.
+    bool buscaSiguiente(const Peticion& peticion);
     /// "Reemplazar": replaces the selection when it is a match, and selects the next one.
     void reemplaza(const Peticion& peticion, std::u16string_view con);
     /// "Reemplazar todo": replaces every match, as one step of Undo, and says how many they were.
@@ -54,7 +55,7 @@ private:
     using Coincidencias = std::vector<Coincidencia>;
 
     std::optional<Coincidencias> coincidencias(const Peticion& peticion) const;
-    void selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const;
+    bool selecciona(const Coincidencias& halladas, std::int32_t despuesDe, std::int32_t antesDe) const;
     void empieza(const Peticion& peticion);
     void recuerda();
 

@@ -4,6 +4,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 
 namespace norvik {
@@ -47,7 +48,8 @@ void PartesControl::MarcaErrorLineaToken() {
 void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
     PasosFirmes paso;
     paso([&] { historial.sustituye(inicio, longitud, nuevo); });
-    paso([this] { lineas.coloreaTodo(); });
+    // What is too long to be coloured is no reason not to go on with the next match.
+    if (caja->texto().size() <= maximoTexto) paso([this] { lineas.coloreaTodo(); });
     paso.acaba();
 }
 

@@ -91,13 +91,16 @@ void buscar::changeEvent(QEvent* evento) {
 }
 
 /// While something is told, the control may go, and take this dialog along: the search works on a searcher of
-/// its own.
+/// its own. The text takes the focus after a new search; who found nothing goes on in the dialog.
 void buscar::buscaSiguiente() {
     Buscador buscador = buscador_;
     const QPointer<buscar> vivo(this);
-    const auto fallo = falloDe([&] { buscador.buscaSiguiente(campos_.peticion()); });
+    bool hallada = false;
+    const auto fallo = falloDe([&] { hallada = buscador.buscaSiguiente(campos_.peticion()); });
     if (!fallo.empty()) buscador.avisa(fallo, {}, Icono::Ninguno);
-    if (!vivo.isNull()) campos_.ponHistorial();
+    if (vivo.isNull()) return;
+    campos_.ponHistorial();
+    if (!hallada) activateWindow();
 }
 
 } // namespace norvik

@@ -166,6 +166,22 @@ TEST_F(BusquedaTest, ReemplazarTodoEsUnPasoDeDeshacer) {
     }
 }
 
+TEST_F(BusquedaTest, EnUnTextoQueYaNoSeColorea) {
+    const std::u16string relleno(33000, u'x');
+    a.norvik.Colorear(true);
+    a.norvik.MuestraMensajesDeError(true);
+    empieza(u"ab\r\n" + relleno + u"\r\nab\r\nab\r\nab", 0, 2);
+    for (const std::int32_t siguiente : {33007, 33012, 33017}) {
+        buscador.reemplaza({u"ab"}, u"yyy");
+        EXPECT_EQ(a.caja.inicioSeleccion(), siguiente);
+        EXPECT_EQ(a.caja.textoSeleccionado(), u"ab");
+    }
+    buscador.reemplazaTodo({u"y+"}, u"z");
+    EXPECT_EQ(a.norvik.Text(), u"z\r\n" + relleno + u"\r\nz\r\nz\r\nab");
+    ASSERT_EQ(a.sistema.mensajes.size(), 1U);
+    EXPECT_EQ(a.sistema.mensajes[0].texto, u"Se han hecho 3 reemplazos");
+}
+
 TEST_F(BusquedaTest, Find) {
     empieza(u"ab AB ab", 5);
     EXPECT_EQ(a.norvik.Find(u"AB"), 0);

@@ -119,6 +119,25 @@ TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
     EXPECT_FALSE(estadoBusqueda().dialogoAbierto);
 }
 
+TEST_F(DialogosBusquedaTest, QuienNoEncuentraNadaSigueEnElDialogo) {
+    norvik.control().ShowBuscarDialog();
+    QCoreApplication::processEvents();
+    QDialog* const dialogo = abierto();
+    auto& lista = en<QComboBox>(dialogo, "Combo1");
+    for (const char* nuevo : {"zz", "zzz"}) {
+        escribe(dialogo, "Combo1", nuevo);
+        for (int vez = 0; vez < 2; ++vez) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(lista.lineEdit()->hasFocus()) << nuevo << vez;
+        }
+    }
+    EXPECT_EQ(sistema.dameMensajes().size(), 4U);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(abierto(), nullptr);
+    EXPECT_EQ(norvik.Text(), "ab AB cabo abc");
+}
+
 TEST_F(DialogosBusquedaTest, UnSoloDialogoParaTodos) {
     norvik.control().ShowBuscarDialog();
     QDialog* dialogo = abierto();
