@@ -32,10 +32,11 @@ void Norvik::MarcaErrorLinea(std::int16_t numLinea) {
 
 void Norvik::MarcaErrorToken() {
     const LectorTokens& lector = partes_->lector;
+    const std::int32_t inicio = lector.inicioToken() - 1;
     // The reader stays at a wrong character.
     const bool parado = lector.leido().definicion == TokenLeido::desconocido;
-    const std::int32_t fin = lector.posLectura() - (parado ? 0 : 1);
-    partes_->lineas.marcaToken(lector.inicioToken() - 1, fin, LineaToken(), ColorError());
+    const std::int32_t fin = parado ? inicio + a32(lector.leido().lexema.size()) : lector.posLectura() - 1;
+    partes_->lineas.marcaToken(inicio, fin, LineaToken(), ColorError());
 }
 
 void Norvik::MarcaErrorLineaToken() {

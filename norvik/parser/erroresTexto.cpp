@@ -30,13 +30,6 @@ constexpr std::size_t maximoReducciones = 100'000;
 
 } // namespace
 
-std::size_t largoDeCaracter(std::u16string_view texto, std::size_t indice) {
-    const auto es = [&](std::size_t i, char16_t desde) {
-        return i < texto.size() && texto[i] >= desde && texto[i] < desde + 0x400;
-    };
-    return es(indice, 0xD800) && es(indice + 1, 0xDC00) ? 2 : 1;
-}
-
 Diagnostico caracterIncorrecto(std::u16string_view texto, std::size_t indice, const Lugares& lugares) {
     return caracteresIncorrectos(texto, indice, indice + largoDeCaracter(texto, indice), lugares);
 }

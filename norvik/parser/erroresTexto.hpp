@@ -25,9 +25,6 @@ struct VocesDeLenguaje {
     const FichasTokens& fichas;
 };
 
-/// 2 for a character outside the first plane, which is a pair of units; else 1.
-std::size_t largoDeCaracter(std::u16string_view texto, std::size_t indice);
-
 /// What is wrong with the character at a 0-based index, which starts no token.
 Diagnostico caracterIncorrecto(std::u16string_view texto, std::size_t indice, const Lugares& lugares);
 

@@ -39,6 +39,14 @@ constexpr std::u16string_view sinDelimitadores(std::u16string_view lexema, std::
     return literal && lexema.size() > 2 ? lexema.substr(1, lexema.size() - 2) : lexema;
 }
 
+/// 2 for a character outside the first plane, which is a pair of units; else 1.
+constexpr std::size_t largoDeCaracter(std::u16string_view texto, std::size_t indice) {
+    const auto es = [&](std::size_t i, char16_t desde) {
+        return i < texto.size() && texto[i] >= desde && texto[i] < desde + 0x400;
+    };
+    return es(indice, 0xD800) && es(indice + 1, 0xDC00) ? 2 : 1;
+}
+
 enum class Comentarios : std::uint8_t { SeSaltan, SeLeen };
 
 /// The token at a position of a recognised text or after it: blanks and comments are passed over, an empty
@@ -53,7 +61,9 @@ Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTok
         if (!token || token->longitud == 0) {
             const std::size_t lugar = static_cast<std::size_t>(posicion) - 1;
             if (!esBlanco(texto[lugar]))
-                return {{TokenLeido::desconocido, texto.substr(lugar, 1)}, posicion, posicion};
+                return {{TokenLeido::desconocido, texto.substr(lugar, largoDeCaracter(texto, lugar))},
+                        posicion,
+                        posicion};
             ++posicion;
             continue;
         }

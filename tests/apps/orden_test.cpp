@@ -394,7 +394,7 @@ TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {
     comprueba(sobre(std::string(1, '\0'), {"analiza"}), 1, "", nulo);
     comprueba(sobre("\xC3(", {"analiza"}), 1, "", "Error (Línea 1, Columna 1): caracter 'Ã' incorrecto.\n");
     comprueba(sobre("\xF0\x9F\x98\x80", {"analiza"}), 1, "",
-              "Error (Línea 1, Columna 1): caracter '\xEF\xBF\xBD' incorrecto.\n");
+              "Error (Línea 1, Columna 1): caracter '\xF0\x9F\x98\x80' incorrecto.\n");
     for (const std::size_t largo : {32767U, 10'000'000U})
         comprueba(sobre(std::string(largo, ' '), {"analiza"}), 2, "", desbordamiento);
     EXPECT_EQ(sobre(std::string(32766, ' '), {"analiza"}).estado, 0);

@@ -152,6 +152,11 @@ TEST(Marcas, ElUltimoTokenLeido) {
     }
     e.norvik.MarcaErrorLineaToken();
     EXPECT_EQ(colores(e), "4-9:0000ff ");
+    Editor par(u"\U0001F600 a");
+    par.norvik.InicializaLecturaTokens();
+    par.norvik.Lex();
+    par.norvik.MarcaErrorToken();
+    EXPECT_EQ(colores(par), "0-2:0000ff ");
 }
 
 TEST(Marcas, SignosNumeradosDesdeElDos) {

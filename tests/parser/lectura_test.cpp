@@ -54,6 +54,8 @@ TEST(Lectura, LosDosLectoresDanLosMismosTokens) {
                                  u"EOF:EOF(1,16) "},
         {u"a #b", u"id:a(1,1) Norvik_ERROR:#(1,3) "},
         {u"a\u00A0", u"id:a(1,1) Norvik_ERROR:\u00A0(1,2) "},
+        {u"a\U0001F600=", u"id:a(1,1) Norvik_ERROR:\U0001F600(1,2) "}, // a character is whole
+        {u"a\xD83D=", u"id:a(1,1) Norvik_ERROR:\xD83D(1,2) "},
         {u"EOF=", u"Norvik_ERROR:E(1,1) "},
     };
     for (const auto& [texto, tokens] : casos) {
