@@ -3,6 +3,7 @@
 #include "norvik/tools/controlNorvik.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/tools/accesibleControl.hpp"
 #include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
@@ -17,14 +18,15 @@ namespace norvik {
 ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     : QWidget(padre), elementos_(*this), propio_(this),
       sistema_(compartido != nullptr ? *compartido : propio_), caja_(this), control_(caja_, sistema_, *this) {
+    simplificaParaLectores();
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     QWidget& texto = caja_.ventana();
     texto.setObjectName(QStringLiteral("Texto"));
     texto.setAccessibleName(QStringLiteral("Texto"));
     texto.setAccessibleDescription(QStringLiteral("Control+Tabulador pasa al elemento siguiente"));
+    setFocusPolicy(Qt::TabFocus); // Qt puts no one in an order who takes no focus
     setFocusProxy(&texto);
-    setFocusPolicy(texto.focusPolicy()); // Qt puts no one in an order who takes no focus
     ordenaTabulador();
     conectaElementos();
     conectaEventos();
@@ -125,13 +127,19 @@ void ControlNorvik::saleHaciaDelante() {
     focusNextChild();
 }
 
-/// A click that deleted the control is not for whoever stands behind it.
+/// The other buttons are for whoever stands behind the control.
 void ControlNorvik::mousePressEvent(QMouseEvent* evento) {
-    const QPointer<ControlNorvik> vivo(this);
     QWidget::mousePressEvent(evento);
-    if (evento->button() != Qt::LeftButton) return; // the text leaves those to whoever stands behind it
-    caja_.atiende([this] { control_.clickEnSuperficie(); });
-    if (vivo.isNull()) evento->accept();
+    pulsada_ = evento->button() == Qt::LeftButton;
+    evento->setAccepted(pulsada_);
+}
+
+/// A click that deleted the control is not for whoever stands behind it either.
+void ControlNorvik::mouseReleaseEvent(QMouseEvent* evento) {
+    evento->setAccepted(evento->button() == Qt::LeftButton);
+    const bool suya = evento->isAccepted() && std::exchange(pulsada_, false);
+    const bool esClick = suya && rect().contains(evento->position().toPoint());
+    if (esClick) caja_.atiende([this] { control_.clickEnSuperficie(); });
 }
 
 // ---- what the control asks of its container

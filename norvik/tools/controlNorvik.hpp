@@ -130,6 +130,7 @@ public:
     Norvik& control() { return control_; }
     /// Su caja de texto.
     CajaTextoQt& caja() { return caja_; }
+    const CajaTextoQt& caja() const { return caja_; }
     /// Sus servicios: cajas de mensaje, puntero, impresora.
     SistemaQt& sistema() { return sistema_; }
 
@@ -160,7 +161,7 @@ public:
     NORVIK_PROPIEDAD_COLOR(ColorCaracter)
     NORVIK_PROPIEDAD_COLOR(ColorFechas)
     QFont Font() const { return aQFont(control_.Font()); }
-    void Font(const QFont& letra) { control_.Font(deQFont(letra)); }
+    void Font(const QFont& letra) { control_.Font(deQFont(letra, control_.Font())); }
     NORVIK_PROPIEDAD_DE_QT(QFont, Font, true)
     /// La especificación del lenguaje en que se trabaja. Sus saltos de línea, como quiera que se pongan, son
     /// CR LF.
@@ -221,6 +222,7 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
@@ -252,6 +254,7 @@ private:
     SistemaQt& sistema_; ///< `propio_` o uno compartido
     CajaTextoQt caja_;
     Norvik control_;
+    bool pulsada_ = false;                    ///< la superficie, con el botón izquierdo
     std::set<std::u16string> fallosContados_; ///< de un texto demasiado largo
 };
 

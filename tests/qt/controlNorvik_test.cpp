@@ -5,6 +5,7 @@
 #include "norvik/tools/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QMetaProperty>
@@ -15,6 +16,8 @@
 #include <QTextBlock>
 
 #include <gtest/gtest.h>
+
+#include <random>
 
 using namespace norvik;
 
@@ -190,6 +193,169 @@ TEST_F(ControlNorvikTest, LosEventosSonSenales) {
     EXPECT_EQ(norvik.property("MargenIzquierdo").toInt(), 150);
 }
 
+/// What a person sees of all that was typed, pasted and deleted, once it is left.
+TEST_F(ControlNorvikTest, TeclasAlAzarYLosColoresSonLosDeColoreaTodo) {
+    std::mt19937 azar(17);
+    const Qt::Key mueven[] = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
+                              Qt::Key_Down, Qt::Key_Home,  Qt::Key_End};
+    const Qt::Key editan[] = {Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Tab, Qt::Key_Return};
+    const char* const escritos[] = {"si", " 1", "2", "'", "x "};
+    const char* const pegados[] = {"si", "'2\nsi 1\nsi", "si 3\n", "\n\n'si"};
+    norvik.control().SetER(u"'[^'\\r\\n]*'", u"cad", true, Norvik_Cadena);
+    for (int paso = 0; paso < 3000; ++paso) {
+        if (norvik.caja().texto().size() > 200)
+            norvik.Text("si 1\n'2 si 3' si\n\n4"), norvik.control().ColoreaTodo();
+        const auto dado = azar() % 10;
+        if (dado < 4) {
+            pulsa(mueven[azar() % std::size(mueven)], azar() % 4 == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+        } else if (dado < 7) {
+            QTest::keyClicks(&editor, escritos[azar() % std::size(escritos)]);
+        } else if (dado < 9) {
+            pulsa(editan[azar() % std::size(editan)]);
+        } else {
+            QApplication::clipboard()->setText(pegados[azar() % std::size(pegados)]);
+            pulsa(Qt::Key_Insert, Qt::ShiftModifier);
+        }
+        if (azar() % 5 != 0) continue;
+        pulsa(norvik.control().LineaActual() == 1 ? Qt::Key_PageDown : Qt::Key_PageUp);
+        despues.setFocus();
+        const auto vistos = [&] {
+            std::string todos;
+            for (int linea = 0; linea < editor.blockCount(); ++linea) todos += colores(linea) + '\n';
+            return todos;
+        };
+        const std::string quedan = vistos();
+        norvik.control().ColoreaTodo();
+        ASSERT_EQ(quedan, vistos()) << paso << qPrintable(norvik.Text());
+        norvik.setFocus();
+    }
+}
+
+TEST_F(ControlNorvikTest, UnaTeclaSuprimidaNoTocaNada) {
+    norvik.control().Text(u"abcdef");
+    QObject::connect(&norvik, &ControlNorvik::KeyPress, [](qint16& caracter) { caracter = 0; });
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> teclas[] = {{Qt::Key_X, {}},
+                                                                {Qt::Key_Return, {}},
+                                                                {Qt::Key_Escape, {}},
+                                                                {Qt::Key_Backspace, {}},
+                                                                {Qt::Key_A, Qt::AltModifier}};
+    for (const auto& [tecla, con] : teclas) {
+        for (const int longitud : {3, 0}) {
+            norvik.SelStart(1);
+            norvik.SelLength(longitud);
+            for (int vez = 0; vez < 2; ++vez) pulsa(tecla, con);
+            EXPECT_EQ(texto(), u"abcdef") << tecla;
+            EXPECT_EQ(norvik.SelLength(), longitud) << tecla;
+        }
+    }
+    QInputMethodEvent compuesto;
+    compuesto.setCommitString("á");
+    QApplication::sendEvent(&editor, &compuesto);
+    EXPECT_EQ(texto(), u"abcdef");
+}
+
+/// With the caret at 5 and the one that the host sets at 1.
+TEST_F(ControlNorvikTest, LaTeclaActuaDondeElAnfitrionPoneElCursor) {
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, std::u16string, int> casos[] = {
+        {Qt::Key_X, {}, u"axbcdef", 2},
+        {Qt::Key_Return, {}, u"a\r\nbcdef", 3},
+        {Qt::Key_Backspace, {}, u"bcdef", 0},
+        {Qt::Key_Delete, {}, u"acdef", 1},
+        {Qt::Key_Right, {}, u"abcdef", 2},
+        {Qt::Key_End, {}, u"abcdef", 6},
+        {Qt::Key_Insert, Qt::ShiftModifier, u"aPbcdef", 2}};
+    QApplication::clipboard()->setText("P");
+    norvik.AutoTAB(false);
+    bool enKeyDown = true;
+    const auto mueve = [&](bool ahora) {
+        if (ahora) norvik.SelStart(1);
+    };
+    QObject::connect(&norvik, &ControlNorvik::KeyDown, [&] { mueve(enKeyDown); });
+    QObject::connect(&norvik, &ControlNorvik::KeyPress, [&] { mueve(!enKeyDown); });
+    for (const auto& [tecla, con, queda, cursor] : casos) {
+        for (enKeyDown = true;; enKeyDown = false) {
+            norvik.Text("abcdef");
+            norvik.SelStart(5);
+            pulsa(tecla, con);
+            const bool escribe = tecla == Qt::Key_X || tecla == Qt::Key_Return || tecla == Qt::Key_Backspace;
+            if (!enKeyDown && !escribe) break;
+            EXPECT_EQ(texto(), queda) << tecla << enKeyDown;
+            EXPECT_EQ(norvik.SelStart(), cursor) << tecla << enKeyDown;
+            if (!enKeyDown) break;
+        }
+    }
+}
+
+TEST_F(ControlNorvikTest, LaTeclaQueCierraUnMensajeNoEsDelTexto) {
+    norvik.control().Text(u"    a\r\n");
+    QStringList sucesos;
+    QObject::connect(&norvik, &ControlNorvik::KeyUp, [&](qint16& c) { sucesos << QString::number(c); });
+    norvik.SelStart(7);
+    QTest::keyRelease(&editor, Qt::Key_Return);
+    QTest::keyPress(&editor, Qt::Key_Return); // opens another one
+    despues.setFocus();
+    norvik.setFocus();
+    QTest::keyRelease(&editor, Qt::Key_Return);
+    EXPECT_EQ(texto(), u"    a\r\n\r\n");
+    EXPECT_EQ(sucesos, QStringList());
+    pulsa(Qt::Key_Tab); // it comes up where it stays
+    EXPECT_EQ(sucesos, QStringList{"9"});
+}
+
+TEST_F(ControlNorvikTest, LaMismaTeclaTieneUnCodigo) {
+    std::vector<std::pair<int, int>> bajadas;
+    QObject::connect(&norvik, &ControlNorvik::KeyDown,
+                     [&](qint16& codigo, qint16& shift) { bajadas.emplace_back(codigo, shift); });
+    const auto pulsaEnSitio = [&](quint32 sitio, Qt::Key tecla, const char* escrito) {
+        const bool conShift = tecla != Qt::Key_2;
+        QKeyEvent abajo(QEvent::KeyPress, tecla, conShift ? Qt::ShiftModifier : Qt::NoModifier, sitio, 0, 0,
+                        escrito);
+        QApplication::sendEvent(&editor, &abajo);
+    };
+    pulsaEnSitio(11, Qt::Key_2, "2");
+    pulsaEnSitio(11, Qt::Key_QuoteDbl, "\""); // on a Spanish keyboard
+    pulsaEnSitio(11, Qt::Key_At, "@");
+    pulsaEnSitio(0, Qt::Key_Exclam, "!"); // who knows no places knows keys of one kind
+    pulsaEnSitio(0, Qt::Key_Colon, ":");
+    pulsaEnSitio(0, Qt::Key_Ntilde, "Ñ");
+    EXPECT_EQ(bajadas,
+              (std::vector<std::pair<int, int>>{{'2', 0}, {'2', 1}, {'2', 1}, {'1', 1}, {186, 1}, {231, 1}}));
+    EXPECT_EQ(texto(), u"2\"@!:Ñ");
+}
+
+TEST_F(ControlNorvikTest, UnaLetraVuelveComoSePuso) {
+    norvik.control().Font({.juegoCaracteres = 238});
+    for (const int peso : {300, 400, 600, 700, 900}) {
+        QFont letra(QStringLiteral("Monospace"), 11, peso);
+        norvik.Font(letra);
+        EXPECT_EQ(norvik.Font().weight(), peso);
+        EXPECT_EQ(norvik.control().Font().negrita, peso >= 700);
+    }
+    QFont enPixeles = norvik.Font();
+    enPixeles.setPixelSize(32);
+    norvik.Font(enPixeles);
+    EXPECT_NEAR(norvik.Font().pointSizeF(), 32 * 72 / formulario.screen()->logicalDotsPerInchY(), 0.01);
+    EXPECT_EQ(norvik.control().Font().juegoCaracteres, 238);
+}
+
+TEST_F(ControlNorvikTest, ElClickDeLaSuperficieEsDelBotonIzquierdoAlSoltarlo) {
+    int clicks = 0;
+    QObject::connect(&norvik, &ControlNorvik::Click, [&] { ++clicks; });
+    norvik.LeftBorderVisible(false);
+    const QPoint enElMarco(0, 0);
+    for (const Qt::MouseButton boton : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        despues.setFocus();
+        QTest::mousePress(&norvik, boton, {}, enElMarco);
+        EXPECT_TRUE(despues.hasFocus());
+        QTest::mouseRelease(&norvik, boton, {}, enElMarco);
+        EXPECT_EQ(editor.hasFocus(), boton == Qt::LeftButton);
+    }
+    EXPECT_EQ(clicks, 1);
+    QTest::mousePress(&norvik, Qt::LeftButton, {}, enElMarco);
+    QTest::mouseRelease(&norvik, Qt::LeftButton, {}, {-20, -20}); // thought better of
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(ControlNorvikTest, TodasLasOpcionesSonPropiedades) {
     const QMetaObject& meta = ControlNorvik::staticMetaObject;
     EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 32);
@@ -229,6 +395,26 @@ TEST_F(ControlNorvikTest, DisposicionDeLosElementos) {
                              e->parentWidget()->inherits("QAbstractScrollArea") || e->inherits("QScrollBar");
         EXPECT_TRUE(interno || !e->accessibleName().isEmpty()) << e->objectName().toStdString();
     }
+}
+
+TEST_F(ControlNorvikTest, UnLectorDePantallaEncuentraElTextoYSusSenales) {
+    const auto nombres = [](QWidget* de) {
+        QStringList todos;
+        QAccessibleInterface* const padre = QAccessible::queryAccessibleInterface(de);
+        for (int i = 0; i < padre->childCount(); ++i) {
+            todos << padre->child(i)->text(QAccessible::Name);
+            EXPECT_EQ(padre->indexOfChild(padre->child(i)), i);
+        }
+        return todos;
+    };
+    norvik.control().PonSignoError(2);
+    EXPECT_EQ(nombres(&norvik), QStringList({"Texto", "Margen de señales"}));
+    EXPECT_TRUE(nombres(elemento("debugBox")).contains("Error en la línea 2"));
+    norvik.LeftBorderVisible(false);
+    EXPECT_EQ(nombres(&norvik), QStringList({"Texto"}));
+    const auto* tabulador = QAccessible::queryAccessibleInterface(elemento("tabulador"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&norvik)->indexOfChild(tabulador), -1);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&norvik)->child(7), nullptr);
 }
 
 TEST_F(ControlNorvikTest, ErroresEnSuLineaConSuSigno) {

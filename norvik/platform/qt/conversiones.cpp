@@ -2,6 +2,9 @@
 
 #include "norvik/platform/qt/conversiones.hpp"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <cmath>
 
@@ -41,8 +44,19 @@ double aPuntos(std::int32_t tamano) {
     return std::clamp(tamano / 10000.0, 1.0, 1638.0);
 }
 
+namespace {
+constexpr int pesoNegrita = QFont::Bold;
+
+/// A font whose size is in pixels has as many points as they measure on the screen.
+double puntosDe(const QFont& letra) {
+    constexpr double puntosPorPulgada = 72;
+    if (letra.pointSizeF() > 0) return letra.pointSizeF();
+    return letra.pixelSize() * puntosPorPulgada / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+}
+
+} // namespace
+
 QFont aQFont(const Fuente& fuente) {
-    constexpr int pesoNegrita = 700;
     QFont letra;
     letra.setFamilies({aQString(fuente.nombre)});
     letra.setStyleHint(QFont::TypeWriter);
@@ -55,12 +69,12 @@ QFont aQFont(const Fuente& fuente) {
     return letra;
 }
 
-Fuente deQFont(const QFont& letra) {
+Fuente deQFont(const QFont& letra, const Fuente& antes) {
     Fuente fuente;
+    fuente.juegoCaracteres = antes.juegoCaracteres;
     fuente.nombre = letra.family().toStdU16String();
-    if (letra.pointSizeF() > 0)
-        fuente.tamano = static_cast<std::int32_t>(std::lround(letra.pointSizeF() * 10000));
-    fuente.negrita = letra.bold();
+    fuente.tamano = static_cast<std::int32_t>(std::lround(puntosDe(letra) * 10000));
+    fuente.negrita = letra.weight() >= pesoNegrita; // which lesser weights are not yet
     fuente.cursiva = letra.italic();
     fuente.tachado = letra.strikeOut();
     fuente.subrayado = letra.underline();

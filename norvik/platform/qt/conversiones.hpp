@@ -51,7 +51,8 @@ inline std::int32_t deQColor(const QColor& color) {
 QColor legible(const QColor& color, const QColor& fondo);
 
 QFont aQFont(const Fuente& fuente);
-Fuente deQFont(const QFont& letra);
+/// What a Qt font does not have is as it was before.
+Fuente deQFont(const QFont& letra, const Fuente& antes);
 /// A size in 1/10000 points as one that a font can have.
 double aPuntos(std::int32_t tamano);
 

@@ -13,7 +13,7 @@ namespace norvik {
 namespace {
 
 struct Equivalencia {
-    int qt;
+    int qt; ///< Qt's number of the key, or that of its place
     std::int16_t codigo;
 };
 
@@ -47,6 +47,31 @@ constexpr auto teclado = std::to_array<Equivalencia>({{Qt::Key_Asterisk, 106},
                                                       {Qt::Key_Comma, 110},
                                                       {Qt::Key_Slash, 111}});
 
+/// What a key writes with the shift key, where its place does not tell which one it is.
+constexpr auto conMayusculas = std::to_array<Equivalencia>(
+    {{Qt::Key_ParenRight, '0'},  {Qt::Key_Exclam, '1'},    {Qt::Key_At, '2'},
+     {Qt::Key_NumberSign, '3'},  {Qt::Key_Dollar, '4'},    {Qt::Key_Percent, '5'},
+     {Qt::Key_AsciiCircum, '6'}, {Qt::Key_Ampersand, '7'}, {Qt::Key_Asterisk, '8'},
+     {Qt::Key_ParenLeft, '9'},   {Qt::Key_Colon, 186},     {Qt::Key_Less, 188},
+     {Qt::Key_Underscore, 189},  {Qt::Key_Greater, 190},   {Qt::Key_Question, 191},
+     {Qt::Key_AsciiTilde, 192},  {Qt::Key_BraceLeft, 219}, {Qt::Key_Bar, 220},
+     {Qt::Key_BraceRight, 221},  {Qt::Key_QuoteDbl, 222}});
+
+/// Keys that are the same on every keyboard whatever they write, by their place: X and Wayland number them.
+constexpr auto sitios = std::to_array<Equivalencia>({{10, '1'},
+                                                     {11, '2'},
+                                                     {12, '3'},
+                                                     {13, '4'},
+                                                     {14, '5'},
+                                                     {15, '6'},
+                                                     {16, '7'},
+                                                     {17, '8'},
+                                                     {18, '9'},
+                                                     {19, '0'},
+                                                     {59, 188},
+                                                     {60, 190},
+                                                     {94, 226}});
+
 constexpr std::int16_t soloCaracter = 231;
 
 template <std::size_t N>
@@ -71,10 +96,11 @@ std::int16_t codigoDeTecla(const QKeyEvent& evento) {
     const int qt = evento.key();
     const bool numerico = evento.modifiers().testFlag(Qt::KeypadModifier);
     const auto candidatos = std::to_array<std::int16_t>(
-        {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0}, codigoEn(sinCaracter, qt),
+        {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0},
+         codigoEn(sitios, static_cast<int>(evento.nativeScanCode())), codigoEn(sinCaracter, qt),
          codigoEn(signos, qt), codigoEnFila(qt, Qt::Key_0, Qt::Key_9, '0'),
          codigoEnFila(qt, Qt::Key_A, Qt::Key_Z, 'A'), codigoEnFila(qt, Qt::Key_F1, Qt::Key_F24, 112),
-         evento.text().isEmpty() ? std::int16_t{0} : soloCaracter});
+         codigoEn(conMayusculas, qt), evento.text().isEmpty() ? std::int16_t{0} : soloCaracter});
     const auto* codigo = std::ranges::find_if(candidatos, [](std::int16_t c) { return c != 0; });
     return codigo == std::end(candidatos) ? std::int16_t{0} : *codigo;
 }

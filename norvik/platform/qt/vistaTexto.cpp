@@ -61,7 +61,24 @@ void VistaTexto::changeEvent(QEvent* evento) {
 
 // ---- keys
 
+namespace {
+
+/// A key is known by its place: what it writes may be something else by the time it comes up.
+std::uint64_t identidad(const QKeyEvent& tecla) {
+    constexpr std::uint64_t deSitio = std::uint64_t{1} << 32;
+    return tecla.nativeScanCode() != 0 ? deSitio | tecla.nativeScanCode()
+                                       : static_cast<std::uint64_t>(tecla.key());
+}
+
+/// The tab key goes down for whom the focus passes to, and comes up where it stays.
+bool esTabulador(const QKeyEvent& tecla) {
+    return tecla.key() == Qt::Key_Tab || tecla.key() == Qt::Key_Backtab;
+}
+
+} // namespace
+
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
+    bajadas_.insert(identidad(*evento));
     atiende([&] { pulsa(*evento); });
 }
 
@@ -80,12 +97,14 @@ void VistaTexto::pulsa(QKeyEvent& evento) {
 }
 
 /// A key that writes raises its characters first; those that come back as they were are written by the
-/// editor.
+/// editor, where the receivers left the caret.
 void VistaTexto::escribe(QKeyEvent& evento) {
     const bool escribeTexto = evento.key() != Qt::Key_Delete && !evento.text().isEmpty();
     const QString texto = escribeTexto ? filtra(evento.text()) : evento.text();
     if (!hayCaja()) return;
+    if (texto.isEmpty() && escribeTexto) return; // suppressed
     if (texto != evento.text()) return caja_->reemplazaSeleccion(vistaDe(texto));
+    caja_->ponAlDia();
     const bool saltoBlando = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
     const auto teclas = saltoBlando ? evento.modifiers() & ~Qt::ShiftModifier : evento.modifiers();
     QKeyEvent copia(QEvent::KeyPress, evento.key(), teclas, texto);
@@ -106,7 +125,11 @@ QString VistaTexto::filtra(const QString& texto) {
     return queda;
 }
 
+/// A key that went down elsewhere, in a message box that it closed, is not one of the text's.
 void VistaTexto::keyReleaseEvent(QKeyEvent* evento) {
+    const bool suya =
+        evento->isAutoRepeat() || bajadas_.erase(identidad(*evento)) > 0 || esTabulador(*evento);
+    if (!suya) return;
     std::int16_t codigo = codigoDeTecla(*evento);
     std::int16_t shift = mascaraDe(*evento);
     atiende([&] {
@@ -123,6 +146,7 @@ void VistaTexto::inputMethodEvent(QInputMethodEvent* evento) {
         filtrado.setCommitString(filtra(evento->commitString()), evento->replacementStart(),
                                  evento->replacementLength());
         if (!hayCaja()) return;
+        caja_->ponAlDia();
         QPlainTextEdit::inputMethodEvent(&filtrado);
         evento->setAccepted(filtrado.isAccepted());
         if (hayCaja()) caja_->cambiaComposicion();
@@ -206,6 +230,7 @@ void VistaTexto::focusInEvent(QFocusEvent* evento) {
 /// A menu that opens takes the focus for a moment only.
 void VistaTexto::focusOutEvent(QFocusEvent* evento) {
     QPlainTextEdit::focusOutEvent(evento);
+    bajadas_.clear();
     if (evento->reason() == Qt::PopupFocusReason) return;
     atiende([&] {
         if (caja_->eventos.pierdeFoco) caja_->eventos.pierdeFoco();

@@ -8,6 +8,9 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
+#include <cstdint>
+#include <set>
+
 namespace norvik {
 
 class CajaTextoQt;
@@ -56,7 +59,8 @@ private:
     bool avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
     void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
 
-    CajaTextoQt* caja_; ///< null once it has gone
+    CajaTextoQt* caja_;               ///< null once it has gone
+    std::set<std::uint64_t> bajadas_; ///< keys that went down here and have not come up
 };
 
 } // namespace norvik
