@@ -218,6 +218,7 @@ void CajaTextoQt::recogeEdicion() {
         const EspejoDocumento::Edicion r = espejo_.recortada(e);
         const bool mismoTexto = r.inicio == r.fin && r.nuevo.empty();
         if (mismoTexto && seleccion == seleccionModelo()) return; // Return gives an empty line a format first
+        ensucia({e.inicio, e.fin}); // also where the editor put the same text again, without its colours
         deLaVista_ = true;
         edita(r.inicio, r.fin - r.inicio, r.nuevo, seleccion.inicio, seleccion.fin - seleccion.inicio);
     });
