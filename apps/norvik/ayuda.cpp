@@ -20,7 +20,7 @@ Uso:
   norvik analiza  LENGUAJE TEXTO [--formato arbol|json|lineas]
   norvik lexemas  LENGUAJE TEXTO [--formato tabla|json]
   norvik colorea  LENGUAJE TEXTO [--formato ansi|html]
-  norvik informe  ESPECIFICACION [-o CARPETA]
+  norvik informe  ESPECIFICACION [-o CARPETA] [--formato texto|html]
   norvik modulo   ESPECIFICACION NOMBRE [-o CARPETA] [--lenguaje vb|cpp]
   norvik revisa   ESPECIFICACION... [--formato texto|json|sarif] [--estricto]
   norvik prueba   LENGUAJE CARPETA [--actualiza] [--junit FICHERO]
@@ -99,15 +99,19 @@ Opciones:
 
 Sin --formato, los colores de terminal solo se emiten cuando la salida es un terminal.
 )"},
-    Ayuda{"informe", R"(Uso: norvik informe ESPECIFICACION [-o CARPETA]
+    Ayuda{"informe", R"(Uso: norvik informe ESPECIFICACION [-o CARPETA] [--formato texto|html]
 
 Escribe informeGramatica.txt (conjuntos, autómata y tabla SLR) y muestra los conflictos.
+Cada cosa en que el método clásico se aparta de la verdad es un aviso.
 
   ESPECIFICACION   fichero con la especificación; «-» es la entrada estándar
 
 Opciones:
   -o CARPETA   carpeta, que debe existir (por omisión, la actual);
                «-» escribe el informe en la salida estándar
+  --formato texto   informeGramatica.txt (por omisión)
+  --formato html    informeGramatica.html: una página con todo enlazado, los
+                    conflictos contados y, con Graphviz, el autómata dibujado
   --metodo M   clasico, slr, lalr o lr1: cómo se hace la tabla
   --help       muestra esta ayuda
 )"},

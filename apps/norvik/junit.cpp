@@ -4,6 +4,7 @@
 
 #include "salida.hpp"
 
+#include "norvik/base/html.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
@@ -14,23 +15,7 @@ namespace {
 
 // Inside quotes; control characters, which XML has no place for, as a terminal shows them.
 std::string enAtributo(std::u16string_view texto) {
-    std::u16string escapado;
-    for (const char16_t c : visible(texto)) {
-        switch (c) {
-        case u'&':
-            escapado += u"&amp;";
-            break;
-        case u'<':
-            escapado += u"&lt;";
-            break;
-        case u'"':
-            escapado += u"&quot;";
-            break;
-        default:
-            escapado += c;
-        }
-    }
-    return aUtf8(escapado);
+    return aUtf8(escapaHtml(visible(texto)));
 }
 
 } // namespace

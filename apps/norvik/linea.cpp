@@ -47,6 +47,8 @@ constexpr std::array formatosDeColor = {Opcion{"", FormatoColor::Terminal},
 constexpr std::array lenguajesDeModulo = {Opcion{"vb", LenguajeModulo::Vb},
                                           Opcion{"cpp", LenguajeModulo::Cpp}};
 
+constexpr std::array formatosDeInforme = {Opcion{"texto", FormatoInforme::Texto},
+                                          Opcion{"html", FormatoInforme::Html}};
 constexpr std::array formatosDeRevision = {Opcion{"texto", FormatoRevision::Texto},
                                            Opcion{"json", FormatoRevision::Json},
                                            Opcion{"sarif", FormatoRevision::Sarif}};
@@ -112,7 +114,9 @@ Linea::Linea() {
     app_.add_flag("--version", version_)->disable_flag_override();
     for (const char* const nombre : {"analiza", "lexemas", "colorea"})
         nueva(nombre, "TEXTO")->add_option("--formato", palabras_.formato)->take_last();
-    nueva("informe", nullptr)->add_option("-o", palabras_.carpeta)->take_last();
+    CLI::App* const informe = nueva("informe", nullptr);
+    informe->add_option("-o", palabras_.carpeta)->take_last();
+    informe->add_option("--formato", palabras_.formato)->take_last();
     CLI::App* const modulo = nueva("modulo", "NOMBRE");
     modulo->add_option("-o", palabras_.carpeta)->take_last();
     modulo->add_option("--lenguaje", palabras_.lenguaje)->take_last();
@@ -252,7 +256,9 @@ Orden Linea::interpreta(const CLI::App& orden) const {
     if (nombre == "frases") return frases();
     if (nombre == "prueba")
         return Prueba{palabras_.primera, palabras_.segunda, palabras_.actualiza, palabras_.junit, metodo()};
-    if (nombre == "informe") return Informe{palabras_.primera, palabras_.carpeta, metodo()};
+    if (nombre == "informe")
+        return Informe{palabras_.primera, palabras_.carpeta,
+                       elige(formatosDeInforme, "--formato", palabras_.formato), metodo()};
     return modulo();
 }
 

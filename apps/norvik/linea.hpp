@@ -42,9 +42,12 @@ struct Colorea {
     std::optional<Metodo> metodo;
 };
 
+enum class FormatoInforme { Texto, Html };
+
 struct Informe {
     std::filesystem::path especificacion;
     std::filesystem::path carpeta;
+    FormatoInforme formato = FormatoInforme::Texto;
     std::optional<Metodo> metodo;
 };
 

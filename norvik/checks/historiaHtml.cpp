@@ -4,6 +4,7 @@
 // middle of its children: nodes stand in the tree children first, so that one pass over them places all.
 #include "norvik/checks/historiaHtml.hpp"
 
+#include "norvik/base/html.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/palabrasHistoria.hpp"
 #include "norvik/checks/recorridoEjemplo.hpp"
@@ -17,29 +18,12 @@ namespace norvik {
 
 namespace {
 
-std::u16string escapado(std::u16string_view texto) {
-    std::u16string html;
-    for (const char16_t c : texto) {
-        if (c == u'<')
-            html += u"&lt;";
-        else if (c == u'>')
-            html += u"&gt;";
-        else if (c == u'&')
-            html += u"&amp;";
-        else if (c == u'"')
-            html += u"&quot;";
-        else
-            html += c;
-    }
-    return html;
-}
-
 std::u16string parrafo(std::u16string_view texto) {
-    return u"<p>" + escapado(texto) + u"</p>\n";
+    return u"<p>" + escapaHtml(texto) + u"</p>\n";
 }
 
 std::u16string codigo(std::u16string_view texto) {
-    return u"<p><code>" + escapado(texto) + u"</code></p>\n";
+    return u"<p><code>" + escapaHtml(texto) + u"</code></p>\n";
 }
 
 class Dibujo {
@@ -57,7 +41,7 @@ public:
         std::u16string html = u"<svg role=\"img\" width=\"" + aTexto(ancho_) + u"\" height=\"" +
                               aTexto(alto) + u"\" viewBox=\"0 0 " + aTexto(ancho_) + u" " + aTexto(alto) +
                               u"\" style=\"max-width:100%;height:auto\" aria-label=\"" +
-                              escapado(enPalabras()) + u"\">\n";
+                              escapaHtml(enPalabras()) + u"\">\n";
         html += u"<g stroke=\"currentColor\" stroke-width=\"1\">";
         for (std::size_t i = 0; i < arbol_.nodos.size(); ++i)
             for (const std::int32_t hijo : arbol_.nodos[i].hijos)
@@ -78,7 +62,7 @@ private:
 
     static std::u16string rotulo(const NodoEjemplo& nodo) {
         const bool vacia = nodo.regla != 0 && nodo.hijos.empty();
-        return escapado(vacia ? nodo.simbolo + u" → Ø" : nodo.simbolo);
+        return escapaHtml(vacia ? nodo.simbolo + u" → Ø" : nodo.simbolo);
     }
     static int largo(const NodoEjemplo& nodo) {
         const std::size_t letras = nodo.simbolo.size() + (nodo.regla != 0 && nodo.hijos.empty() ? 4 : 0);
@@ -135,9 +119,9 @@ private:
 };
 
 std::u16string lado(const HistoriaConflicto& historia, std::size_t cual) {
-    std::u16string html = u"<figure>\n<figcaption>" + escapado(palabras::rotulo(historia, cual));
+    std::u16string html = u"<figure>\n<figcaption>" + escapaHtml(palabras::rotulo(historia, cual));
     if (historia.clase != HistoriaConflicto::Clase::Ambigua)
-        html += u" <code>" + escapado(palabras::frase(historia.cortos[cual])) + u"</code>";
+        html += u" <code>" + escapaHtml(palabras::frase(historia.cortos[cual])) + u"</code>";
     return html + u"</figcaption>\n" + Dibujo(historia.cortos[cual].arbol).svg() + u"</figure>\n";
 }
 
@@ -162,7 +146,7 @@ std::u16string enHtml(const HistoriaConflicto& historia) {
     if (historia.clase != HistoriaConflicto::Clase::SinEjemplo) html += ejemplo(historia);
     if (!historia.porque.empty()) {
         html += parrafo(u"Por qué cabe reducir ahí:") + u"<ul>\n";
-        for (const std::u16string& paso : historia.porque) html += u"<li>" + escapado(paso) + u"</li>\n";
+        for (const std::u16string& paso : historia.porque) html += u"<li>" + escapaHtml(paso) + u"</li>\n";
         html += u"</ul>\n";
     }
     return html + parrafo(u"Qué hacer: " + palabras::remedio(historia)) + u"</section>\n";

@@ -50,6 +50,7 @@ public:
     /// mientras no se ponga otro; `inicializaGramatica` vuelve a él.
     void ponMetodo(Metodo metodo) { opciones_.metodo = metodo; }
     Metodo metodo() const { return opciones_.metodo; }
+    const OpcionesTabla& opciones() const { return opciones_; }
     /// Lo mismo de lo que resuelve conflictos; `inicializaGramatica` lo quita.
     void ponPrecedencias(Precedencias precedencias) { opciones_.precedencias = std::move(precedencias); }
 

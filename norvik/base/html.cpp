@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+
+#include "norvik/base/html.hpp"
+
+namespace norvik {
+
+std::u16string escapaHtml(std::u16string_view texto) {
+    std::u16string html;
+    for (const char16_t c : texto) {
+        if (c == u'<')
+            html += u"&lt;";
+        else if (c == u'>')
+            html += u"&gt;";
+        else if (c == u'&')
+            html += u"&amp;";
+        else if (c == u'"')
+            html += u"&quot;";
+        else
+            html += c;
+    }
+    return html;
+}
+
+} // namespace norvik
