@@ -174,13 +174,14 @@ private:
 
     void conflictos() {
         titulo(2);
-        const std::u16string problemas = textoProblemas(g_);
-        pon(u"<pre>", escapaHtml(problemas), u"</pre>\n");
+        pon(u"<p>Lo que dice la tabla:</p>\n<pre>", escapaHtml(textoProblemas(g_)), u"</pre>\n");
         for (const HistoriaConflicto& historia : notas_.historias) {
+            pon(u"<h3>");
             if (historia.estado != HistoriaConflicto::sinEstado)
-                pon(u"<p>En el ", estado(historia.estado, u"estado " + aTexto(historia.estado)),
-                    u", ante <code>", escapaHtml(historia.simbolo), u"</code>:</p>\n");
-            pon(enHtml(historia));
+                pon(u"En el ", estado(historia.estado, u"estado " + aTexto(historia.estado)), u", ante «");
+            else
+                pon(u"Callado por la tabla clásica, ante «");
+            pon(escapaHtml(historia.simbolo), u"»</h3>\n", enHtml(historia));
         }
     }
 
