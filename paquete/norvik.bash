@@ -17,7 +17,7 @@ _norvik_cuenta() {
     local i n=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-            --formato | --lenguaje | --metodo | -o) ((i++)) ;;
+            --formato | --lenguaje | --metodo | --junit | --cuantas | --semilla | -o) ((i++)) ;;
             -?*) ;;
             *) ((n++)) ;;
         esac
@@ -29,7 +29,7 @@ _norvik() {
     local palabra=${COMP_WORDS[COMP_CWORD]} anterior=${COMP_WORDS[COMP_CWORD - 1]} orden=${COMP_WORDS[1]}
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        _norvik_palabras "$palabra" "analiza lexemas colorea informe modulo revisa --help --version"
+        _norvik_palabras "$palabra" "analiza lexemas colorea informe modulo revisa prueba frases --help --version"
         return
     fi
     case $orden:$anterior in
@@ -37,6 +37,9 @@ _norvik() {
         lexemas:--formato) _norvik_palabras "$palabra" "tabla json"; return ;;
         colorea:--formato) _norvik_palabras "$palabra" "ansi html"; return ;;
         revisa:--formato) _norvik_palabras "$palabra" "texto json sarif"; return ;;
+        informe:--formato) _norvik_palabras "$palabra" "texto html"; return ;;
+        *:--cuantas | *:--semilla) return ;;
+        *:--junit) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -f -- "$palabra"); return ;;
         *:--metodo) _norvik_palabras "$palabra" "clasico slr lalr lr1"; return ;;
         modulo:--lenguaje) _norvik_palabras "$palabra" "vb cpp"; return ;;
         *:-o) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -d -- "$palabra"); return ;;
@@ -44,12 +47,17 @@ _norvik() {
     case $orden:$palabra in
         modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --metodo --help" ;;
         revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --metodo --help" ;;
-        informe:-*) _norvik_palabras "$palabra" "-o --metodo --help" ;;
+        informe:-*) _norvik_palabras "$palabra" "-o --formato --metodo --help" ;;
+        prueba:-*) _norvik_palabras "$palabra" "--actualiza --junit --metodo --help" ;;
+        frases:-*) _norvik_palabras "$palabra" "--cuantas --semilla --mal --metodo --help" ;;
         *:-*) _norvik_palabras "$palabra" "--formato --metodo --help" ;;
         *)
             case $orden:$(_norvik_cuenta) in
-                informe:0 | modulo:0 | revisa:*) _norvik_ficheros "$palabra" nvk ;;
+                informe:0 | modulo:0 | frases:0 | revisa:*) _norvik_ficheros "$palabra" nvk ;;
                 *:0) _norvik_ficheros "$palabra" nvk bas ;;
+                prueba:1)
+                    compopt -o filenames 2>/dev/null
+                    mapfile -t COMPREPLY < <(compgen -d -- "$palabra") ;;
                 analiza:1 | lexemas:1 | colorea:1)
                     compopt -o filenames 2>/dev/null
                     mapfile -t COMPREPLY < <(compgen -f -- "$palabra") ;;
