@@ -12,6 +12,8 @@
 #include "norvik/checks/cuentaConflictos.hpp"
 #include "norvik/report/paginaGramatica.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,8 +31,7 @@ std::vector<HistoriaConflicto> historiasDe(const gramatica& gramatica) {
     const GramaticaLR& g = gramatica.valores();
     if (gramatica.metodo() != Metodo::Clasico) return cuentaConflictos(g, gramatica.opciones(), g.tabla);
     auto [historias, apuntados] = cuentaConflictosClasicos(g);
-    for (auto& historia : apuntados)
-        if (historia) historias.push_back(std::move(*historia));
+    for (auto& deUnaCelda : apuntados) std::ranges::move(deUnaCelda, std::back_inserter(historias));
     return historias;
 }
 

@@ -125,7 +125,7 @@ void escribeJson(const Hallazgo& hallazgo, std::u16string_view fichero, Salida& 
     Escritor escritor(salida);
     escritor.abreObjeto();
     camposDe(escritor, hallazgo.diagnostico, fichero);
-    if (hallazgo.historia) escribeHistoria(escritor, *hallazgo.historia);
+    if (!hallazgo.historias.empty()) escribeHistorias(escritor, hallazgo.historias);
     escritor.cierraObjeto();
     escritor.acabaLinea();
 }

@@ -58,10 +58,8 @@ void escribeEjemplos(Escritor& escritor, const char* clave, const std::array<Eje
     escritor.cierraLista();
 }
 
-} // namespace
-
-void escribeHistoria(Escritor& escritor, const HistoriaConflicto& historia) {
-    escritor.abreObjeto("historia");
+void escribe(Escritor& escritor, const HistoriaConflicto& historia) {
+    escritor.abreObjeto();
     escritor.campo("clase", palabras::nombreDe(historia.clase));
     escritor.campo("estado", historia.estado);
     escritor.campo("simbolo", historia.simbolo);
@@ -83,6 +81,14 @@ void escribeHistoria(Escritor& escritor, const HistoriaConflicto& historia) {
     escritor.campo("remedio", palabras::remedio(historia));
     escritor.campo("agotado", historia.agotado ? std::u16string_view(u"sí") : std::u16string_view(u"no"));
     escritor.cierraObjeto();
+}
+
+} // namespace
+
+void escribeHistorias(Escritor& escritor, const std::vector<HistoriaConflicto>& historias) {
+    escritor.abreLista("historias");
+    for (const HistoriaConflicto& historia : historias) escribe(escritor, historia);
+    escritor.cierraLista();
 }
 
 } // namespace norvik::orden

@@ -6,9 +6,11 @@
 
 #include "norvik/checks/historiaConflicto.hpp"
 
+#include <vector>
+
 namespace norvik::orden {
 
-/// The story of a conflict as the field "historia" of an open object.
-void escribeHistoria(Escritor& escritor, const HistoriaConflicto& historia);
+/// The stories of a conflict as the field "historias" of an open object.
+void escribeHistorias(Escritor& escritor, const std::vector<HistoriaConflicto>& historias);
 
 } // namespace norvik::orden

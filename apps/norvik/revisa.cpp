@@ -28,13 +28,13 @@ public:
 
     void cuenta(const Hallazgo& hallazgo, std::u16string_view fichero, std::u16string_view texto) {
         salida_.escribe(aUtf8(muestraError(hallazgo.diagnostico, fichero, texto)) + "\n");
-        const auto& historia = hallazgo.historia;
-        if (!historia) return;
-        if (contada_ != nullptr && seCuentanIgual(*contada_, *historia))
-            salida_.escribe("  Se cuenta como el anterior.\n");
-        else
-            salida_.escribe(aUtf8(enTexto(*historia)));
-        contada_ = &*historia;
+        for (const HistoriaConflicto& historia : hallazgo.historias) {
+            if (contada_ != nullptr && seCuentanIgual(*contada_, historia))
+                salida_.escribe("  Se cuenta como el anterior.\n");
+            else
+                salida_.escribe(aUtf8(enTexto(historia)));
+            contada_ = &historia;
+        }
     }
 
 private:

@@ -173,17 +173,15 @@ ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const Li
             else
                 todos.callados.push_back(std::move(historias[i]));
         }
-        const auto& suyos = clasica.tabla.conflictos();
-        for (std::size_t i = 0; i < suyos.size(); ++i) {
-            const Conflicto& conflicto = suyos[i];
-            const bool esElUltimo = i + 1 == suyos.size() || suyos[i + 1].fila != conflicto.fila ||
-                                    suyos[i + 1].columna != conflicto.columna;
-            if (!esElUltimo || !clasica.tabla.enConflicto(conflicto.fila, conflicto.columna)) continue;
-            auto& historia = todos.apuntados.emplace_back();
+        std::tuple<int, int> celda;
+        for (const Conflicto& conflicto : clasica.tabla.conflictos()) {
+            if (!clasica.tabla.enConflicto(conflicto.fila, conflicto.columna)) continue;
+            const std::tuple<int, int> suya(conflicto.fila, conflicto.columna);
+            if (std::exchange(celda, suya) != suya) todos.apuntados.emplace_back();
             const auto sitio = conocidas.find(firmaDe(clasica.tabla, conflicto));
             if (sitio == conocidas.end()) continue;
-            historia = sitio->second;
-            historia->estado = static_cast<std::int16_t>(conflicto.fila - 1);
+            todos.apuntados.back().push_back(sitio->second);
+            todos.apuntados.back().back().estado = static_cast<std::int16_t>(conflicto.fila - 1);
         }
     } catch (const ErrorNorvik&) { // too large for an exact method
     }

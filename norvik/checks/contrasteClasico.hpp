@@ -7,7 +7,6 @@
 #include "norvik/grammar/gramaticaLR.hpp"
 
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 namespace norvik {
@@ -30,7 +29,7 @@ struct ConflictosClasicos {
     std::vector<HistoriaConflicto> callados;
     /// De cada celda de la tabla que enseña un conflicto, en su orden; nada de los que la tabla exacta no
     /// tiene.
-    std::vector<std::optional<HistoriaConflicto>> apuntados;
+    std::vector<std::vector<HistoriaConflicto>> apuntados;
 };
 
 ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const LimitesHistorias& limites = {});

@@ -157,36 +157,37 @@ std::size_t inicioDe(const Diagnostico& diagnostico) {
 }
 
 // The stories of a table's conflicts go to their diagnostics one by one: both are in the order of its cells.
-template <typename Historias>
-void reparte(std::vector<Hallazgo>& hallazgos, Codigo codigo, Historias historias) {
+void reparte(std::vector<Hallazgo>& hallazgos, Codigo codigo,
+             std::vector<std::vector<HistoriaConflicto>> historias) {
     const auto esSuyo = [&](const Hallazgo& h) { return h.diagnostico.codigo == codigo; };
     if (static_cast<std::size_t>(std::ranges::count_if(hallazgos, esSuyo)) != historias.size()) return;
     std::size_t siguiente = 0;
     for (Hallazgo& hallazgo : hallazgos)
-        if (esSuyo(hallazgo)) hallazgo.historia = std::move(historias[siguiente++]);
+        if (esSuyo(hallazgo)) hallazgo.historias = std::move(historias[siguiente++]);
 }
 
-// A cell with several conflicts has one diagnostic, which names the last.
-std::vector<HistoriaConflicto> unaPorCelda(std::vector<HistoriaConflicto> historias) {
-    std::vector<HistoriaConflicto> unas;
+std::vector<std::vector<HistoriaConflicto>> porCelda(std::vector<HistoriaConflicto> historias) {
+    std::vector<std::vector<HistoriaConflicto>> celdas;
     for (HistoriaConflicto& historia : historias) {
-        const bool otraVez =
-            !unas.empty() && unas.back().estado == historia.estado && unas.back().simbolo == historia.simbolo;
-        if (otraVez) unas.pop_back();
-        unas.push_back(std::move(historia));
+        const bool esDeLaMisma = !celdas.empty() && celdas.back().back().estado == historia.estado &&
+                                 celdas.back().back().simbolo == historia.simbolo;
+        if (!esDeLaMisma) celdas.emplace_back();
+        celdas.back().push_back(std::move(historia));
     }
-    return unas;
+    return celdas;
 }
 
 void cuenta(const gramatica& g, const OpcionesTabla& opciones, const LimitesHistorias& limites,
             std::vector<Hallazgo>& hallazgos) {
     if (opciones.metodo != Metodo::Clasico) {
         reparte(hallazgos, Codigo::Conflicto,
-                unaPorCelda(cuentaConflictos(g.valores(), opciones, g.valores().tabla, limites)));
+                porCelda(cuentaConflictos(g.valores(), opciones, g.valores().tabla, limites)));
         return;
     }
     ConflictosClasicos conflictos = cuentaConflictosClasicos(g.valores(), limites);
-    reparte(hallazgos, Codigo::ConflictoCallado, std::move(conflictos.callados));
+    std::vector<std::vector<HistoriaConflicto>> callados; // one each
+    for (HistoriaConflicto& historia : conflictos.callados) callados.push_back({std::move(historia)});
+    reparte(hallazgos, Codigo::ConflictoCallado, std::move(callados));
     reparte(hallazgos, Codigo::Conflicto, std::move(conflictos.apuntados));
 }
 
@@ -203,8 +204,7 @@ std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
                                          const LimitesHistorias& limites) {
     Revisada revisada = reune(especificacion, opciones);
     std::vector<Hallazgo> hallazgos;
-    for (Diagnostico& diagnostico : revisada.hallazgos)
-        hallazgos.push_back({std::move(diagnostico), std::nullopt});
+    for (Diagnostico& diagnostico : revisada.hallazgos) hallazgos.push_back({std::move(diagnostico), {}});
     if (const gramatica* g = gramaticaDe(revisada)) cuenta(*g, revisada.directivas.tabla, limites, hallazgos);
     std::ranges::stable_sort(hallazgos, {}, [](const Hallazgo& h) { return inicioDe(h.diagnostico); });
     return hallazgos;

@@ -6,7 +6,6 @@
 #include "norvik/checks/historiaConflicto.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -18,10 +17,11 @@ namespace norvik {
 /// texto de 2^31 - 1 unidades o más.
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
 
-/// Un diagnóstico de una revisión, con su historia si es de un conflicto.
+/// Un diagnóstico de una revisión y, si es de un conflicto, la historia de cada acción que se pierde en su
+/// celda.
 struct Hallazgo {
     Diagnostico diagnostico;
-    std::optional<HistoriaConflicto> historia;
+    std::vector<HistoriaConflicto> historias;
 };
 
 /// Lo mismo, y cada conflicto contado con un ejemplo, que se busca dentro de unos límites.

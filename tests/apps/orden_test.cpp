@@ -256,7 +256,7 @@ TEST_F(Orden, RevisaCuentaLosConflictos) {
                   std::string::npos);
     }
     const Resultado json = ejecuta({"revisa", sino, "--formato", "json"});
-    EXPECT_NE(json.salida.find(R"("historia":{"clase":"ambigua","estado":-1,"simbolo":"no")"),
+    EXPECT_NE(json.salida.find(R"("historias":[{"clase":"ambigua","estado":-1,"simbolo":"no")"),
               std::string::npos)
         << json.salida;
     EXPECT_NE(
