@@ -33,10 +33,9 @@ int ejecuta(const Analiza& orden, Salida& salida) {
         escribeArbol(control.GetArbolSintactico(), orden.formato, salida);
         return anfitrion.estado();
     }
-    const auto& error = control.GetDiagnostico();
-    if (error && orden.formato != FormatoArbol::Dibujo)
-        escribeJson(std::vector{*error}, nombreDeFichero(orden.texto), salida);
-    anfitrion.cuentaError(control.GetmensajeError(), error, orden.texto, texto);
+    const std::vector<Diagnostico> errores = anfitrion.erroresDe(texto);
+    if (orden.formato != FormatoArbol::Dibujo) escribeJson(errores, nombreDeFichero(orden.texto), salida);
+    anfitrion.cuentaErrores(control.GetmensajeError(), errores, orden.texto, texto);
     return anfitrion.estado();
 }
 

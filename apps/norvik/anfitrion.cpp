@@ -6,7 +6,13 @@
 #include "muestraError.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/parser/analizador.hpp"
+#include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lectorModulo.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <memory>
+#include <utility>
 
 namespace norvik::orden {
 
@@ -48,7 +54,9 @@ void Anfitrion::avisa(std::u16string_view mensaje) {
 bool Anfitrion::compila(const fs::path& fichero, std::optional<Metodo> metodo) {
     const std::u16string especificacion = leeTextoDe(fichero);
     if (!control.CargaGramatica(especificacion)) {
-        cuentaError(control.GetmensajeError(), control.GetDiagnostico(), fichero, especificacion);
+        std::vector<Diagnostico> errores = Lenguaje::compila(especificacion).diagnosticos;
+        std::erase_if(errores, [](const Diagnostico& d) { return d.gravedad != Gravedad::Error; });
+        cuentaErrores(control.GetmensajeError(), errores, fichero, especificacion);
         return false;
     }
     if (metodo) control.Gramatica().ponMetodo(*metodo);
@@ -65,11 +73,22 @@ bool Anfitrion::cargaLenguaje(const fs::path& fichero, std::optional<Metodo> met
     return esModulo(fichero) ? replica(fichero) : compila(fichero, metodo);
 }
 
-void Anfitrion::cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,
-                            const fs::path& fichero, std::u16string_view texto) {
+void Anfitrion::cuentaErrores(std::u16string_view mensaje, const std::vector<Diagnostico>& errores,
+                              const fs::path& fichero, std::u16string_view texto) {
     avisa(mensaje);
-    if (error && salida_.erroresEnTerminal())
-        salida_.avisa(muestraError(*error, nombreDeFichero(fichero), texto));
+    if (!salida_.erroresEnTerminal()) return;
+    const Estilo estilo = salida_.erroresConColor() ? Estilo::EnColor : Estilo::Liso;
+    for (const Diagnostico& error : errores)
+        salida_.avisa(muestraError(error, nombreDeFichero(fichero), texto, estilo));
+}
+
+std::vector<Diagnostico> Anfitrion::erroresDe(std::u16string_view texto) {
+    const pilaTokens& lexico = control.Lexico();
+    const gramatica& reglas = control.Gramatica();
+    const auto vocabulario = std::make_shared<Vocabulario>(vocabularioDe(lexico, reglas.valores().reglas));
+    auto analizado =
+        std::make_unique<TextoAnalizado>(vocabulario, std::u16string(texto), Lugares::Unidad::Utf16);
+    return Analizador(lexico, reglas).analiza(std::move(analizado), {}).diagnosticos;
 }
 
 } // namespace norvik::orden

@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace norvik::orden {
 
@@ -32,9 +34,11 @@ public:
     bool compila(const std::filesystem::path& fichero, std::optional<Metodo> metodo);
     /// The same of a file, which may be a loading module, by its ".bas" ending.
     bool cargaLenguaje(const std::filesystem::path& fichero, std::optional<Metodo> metodo);
-    /// Tells an error found in a file's text; a terminal is shown its place, too.
-    void cuentaError(std::u16string_view mensaje, const std::optional<Diagnostico>& error,
-                     const std::filesystem::path& fichero, std::u16string_view texto);
+    /// Tells that a file's text is wrong by its fixed message; a terminal is shown every error besides.
+    void cuentaErrores(std::u16string_view mensaje, const std::vector<Diagnostico>& errores,
+                       const std::filesystem::path& fichero, std::u16string_view texto);
+    /// Every error of a text that the control's language does not accept, with its repairs.
+    std::vector<Diagnostico> erroresDe(std::u16string_view texto);
 
     /// 0, or 1 once something has been told to be wrong.
     int estado() const { return estado_; }

@@ -40,6 +40,8 @@ Uso:
 
 Donde se compila una especificación, --metodo clasico|slr|lalr|lr1 elige cómo se hace la
 tabla; si no, lo elige su línea «'% metodo: lalr», o es el clásico.
+En todas, --color siempre|nunca|auto dice si los errores y «colorea» llevan colores; con auto,
+los llevan en un terminal, salvo con NO_COLOR o TERM=dumb.
 LENGUAJE es la especificación de un lenguaje (por costumbre, NOMBRE.nvk) o un módulo
 de carga (NOMBRE.bas) escrito por «norvik modulo».
 «-» en lugar de un fichero es la entrada estándar.

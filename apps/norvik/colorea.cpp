@@ -21,7 +21,7 @@ std::string textoSinColor(std::string texto) {
 std::string escribeTexto(const CajaTextoMemoria& caja, const Colorea& orden, const Salida& salida) {
     switch (orden.formato) {
     case FormatoColor::Terminal:
-        return salida.esTerminal() ? ansiDe(caja) : textoSinColor(aUtf8(caja.texto()));
+        return salida.conColor() ? ansiDe(caja) : textoSinColor(aUtf8(caja.texto()));
     case FormatoColor::Ansi:
         return ansiDe(caja);
     case FormatoColor::Html:

@@ -16,11 +16,12 @@ std::optional<Lenguaje> lenguajeDe(const std::filesystem::path& fichero, std::op
     const bool deModulo = esModulo(fichero);
     const std::u16string texto = deModulo ? std::u16string() : leeTextoDe(fichero);
     Compilacion compilacion = deModulo ? Lenguaje::deFichero(fichero) : Lenguaje::compila(texto, {metodo});
+    const Estilo estilo = salida.erroresConColor() ? Estilo::EnColor : Estilo::Liso;
     for (const Diagnostico& diagnostico : compilacion.diagnosticos) {
         if (diagnostico.gravedad != Gravedad::Error) continue;
         const std::u16string nombre = nombreDeFichero(fichero);
         salida.avisa(deModulo ? visible(nombre) + u":" + lineaDeError(diagnostico)
-                              : muestraError(diagnostico, nombre, texto));
+                              : muestraError(diagnostico, nombre, texto, estilo));
     }
     if (!compilacion) return std::nullopt;
     return std::move(compilacion.lenguaje);

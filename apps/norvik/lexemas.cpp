@@ -83,7 +83,7 @@ int ejecuta(const Lexemas& orden, Salida& salida) {
         break;
     }
     if (const Leido& ultimo = leidos.back(); esError(ultimo.token))
-        anfitrion.cuentaError(mensajeDeError(ultimo), diagnosticoDe(ultimo, texto), orden.texto, texto);
+        anfitrion.cuentaErrores(mensajeDeError(ultimo), {diagnosticoDe(ultimo, texto)}, orden.texto, texto);
     return anfitrion.estado();
 }
 

@@ -53,6 +53,9 @@ constexpr std::array formatosDeRevision = {Opcion{"texto", FormatoRevision::Text
                                            Opcion{"json", FormatoRevision::Json},
                                            Opcion{"sarif", FormatoRevision::Sarif}};
 
+constexpr std::array colores = {Opcion{"auto", Color::Auto}, Opcion{"siempre", Color::Siempre},
+                                Opcion{"nunca", Color::Nunca}};
+
 template <typename Valor, std::size_t n>
 Valor elige(const std::array<Opcion<Valor>, n>& opciones, std::string_view opcion,
             const std::optional<std::string>& palabra) {
@@ -70,7 +73,7 @@ Valor elige(const std::array<Opcion<Valor>, n>& opciones, std::string_view opcio
 class Linea {
 public:
     Linea();
-    Orden lee(int argc, const char* const* argv);
+    Peticion lee(int argc, const char* const* argv);
 
 private:
     // The words that an order may have, as they were written.
@@ -80,6 +83,7 @@ private:
         std::optional<std::string> formato;
         std::optional<std::string> lenguaje;
         std::optional<std::string> metodo;
+        std::optional<std::string> color;
         std::string carpeta = ".";
         std::vector<std::string> especificaciones;
         bool estricto = false;
@@ -112,6 +116,7 @@ Linea::Linea() {
     app_.require_subcommand(0, 1); // else a file named as an order would be taken for one
     app_.add_flag("-h,--help", ayuda_)->disable_flag_override();
     app_.add_flag("--version", version_)->disable_flag_override();
+    app_.add_option("--color", palabras_.color)->take_last();
     for (const char* const nombre : {"analiza", "lexemas", "colorea"})
         nueva(nombre, "TEXTO")->add_option("--formato", palabras_.formato)->take_last();
     CLI::App* const informe = nueva("informe", nullptr);
@@ -138,6 +143,7 @@ CLI::App* Linea::conAyuda(const char* nombre) {
     orden->set_help_flag();
     orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
     orden->add_option("--metodo", palabras_.metodo)->take_last();
+    orden->add_option("--color", palabras_.color)->take_last();
     return orden;
 }
 
@@ -150,14 +156,14 @@ CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
     return orden;
 }
 
-Orden Linea::lee(int argc, const char* const* argv) {
+Peticion Linea::lee(int argc, const char* const* argv) {
     try {
         app_.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
         const std::string_view ultima = argv[argc - 1];
         // An option takes the next word whatever it is, so that only the last one can lack its value.
         constexpr std::array conValor = {"-o",      "--formato", "--lenguaje", "--metodo",
-                                         "--junit", "--cuantas", "--semilla"};
+                                         "--junit", "--cuantas", "--semilla",  "--color"};
         if (std::ranges::find(conValor, ultima) != conValor.end())
             throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
         throw LineaIncorrecta(u"--help y --version no llevan valor");
@@ -168,12 +174,12 @@ Orden Linea::lee(int argc, const char* const* argv) {
     compruebaOpciones(app_);
     if (!ordenes.empty()) compruebaOpciones(*ordenes[0]);
     if (ayuda_)
-        return Contesta{std::string(ordenes.empty() ? ayudaGeneral() : ayudaDe(ordenes[0]->get_name()))};
-    if (version_) return Contesta{"norvik " NORVIK_VERSION "\n"};
+        return {Contesta{std::string(ordenes.empty() ? ayudaGeneral() : ayudaDe(ordenes[0]->get_name()))}};
+    if (version_) return {Contesta{"norvik " NORVIK_VERSION "\n"}};
     comprueba(app_);
     if (ordenes.empty()) throw LineaIncorrecta(u"falta la orden (norvik --help las enumera)");
     comprueba(*ordenes[0]);
-    return interpreta(*ordenes[0]);
+    return {interpreta(*ordenes[0]), elige(colores, "--color", palabras_.color)};
 }
 
 void Linea::compruebaOpciones(const CLI::App& orden) {
@@ -264,7 +270,7 @@ Orden Linea::interpreta(const CLI::App& orden) const {
 
 } // namespace
 
-Orden leeLinea(int argc, const char* const* argv) {
+Peticion leeLinea(int argc, const char* const* argv) {
     return Linea().lee(argc, argv);
 }
 

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "salida.hpp"
+
 #include "norvik/base/errores.hpp"
 #include "norvik/grammar/metodo.hpp"
 #include "norvik/report/nombreDeModulo.hpp"
@@ -97,8 +99,13 @@ public:
     explicit LineaIncorrecta(std::u16string_view texto) : ErrorNorvik(texto) {}
 };
 
+struct Peticion {
+    Orden orden;
+    Color color = Color::Auto;
+};
+
 /// What the command line asks for; raises `LineaIncorrecta`.
-Orden leeLinea(int argc, const char* const* argv);
+Peticion leeLinea(int argc, const char* const* argv);
 
 /// In place of a file, standard input; in place of a folder, standard output.
 inline constexpr std::string_view flujo = "-";

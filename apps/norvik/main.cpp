@@ -23,8 +23,10 @@ int cuentaFallo(Salida& salida, std::u16string_view texto) {
 
 int ejecutaLinea(int argc, const char* const* argv, Salida& salida) {
     try {
+        const Peticion peticion = leeLinea(argc, argv);
+        salida.ponColor(peticion.color);
         const int estado =
-            std::visit([&](const auto& orden) { return ejecuta(orden, salida); }, leeLinea(argc, argv));
+            std::visit([&](const auto& orden) { return ejecuta(orden, salida); }, peticion.orden);
         salida.vuelca();
         return estado;
     } catch (const norvik::ErrorNorvik& error) {

@@ -62,23 +62,71 @@ void acorta(Linea& linea) {
     linea.hasta = std::min(linea.hasta, ancho);
 }
 
-} // namespace
+// Of the terminal's own sixteen, those that can be read on light and dark.
+std::u16string_view colorDe(Gravedad gravedad) {
+    switch (gravedad) {
+    case Gravedad::Error:
+        return u"1;31";
+    case Gravedad::Aviso:
+        return u"1;35";
+    case Gravedad::Nota:
+        return u"1;36";
+    }
+    return {};
+}
 
-std::u16string lineaDeError(const Diagnostico& diagnostico) {
+// Puts a text between the sequences of a colour.
+class Pintor {
+public:
+    explicit Pintor(Estilo estilo) : estilo_(estilo) {}
+    std::u16string operator()(std::u16string_view color, std::u16string_view texto) const {
+        if (estilo_ == Estilo::Liso) return std::u16string(texto);
+        return u"\x1B[" + std::u16string(color) + u"m" + std::u16string(texto) + u"\x1B[0m";
+    }
+
+private:
+    Estilo estilo_;
+};
+
+// The first repairs: the others differ little.
+std::u16string muestraArreglos(const std::vector<Arreglo>& arreglos) {
+    constexpr std::size_t maximo = 3;
+    std::u16string lista;
+    for (std::size_t i = 0; i < std::min(arreglos.size(), maximo); ++i)
+        lista += (i == 0 ? u"" : u", o ") + visible(enUnaLinea(arreglos[i].titulo));
+    return arreglos.size() > maximo ? lista + u"…" : lista;
+}
+
+// The first line; the file stands before the place.
+std::u16string cabecera(const Diagnostico& diagnostico, std::u16string_view fichero, const Pintor& pinta) {
+    constexpr std::u16string_view negrita = u"1";
     const Punto& inicio = diagnostico.rango.inicio;
-    std::u16string linea = aTexto(inicio.linea) + u":" + aTexto(inicio.columna) + u": ";
-    linea.append(nombreDe(diagnostico.gravedad)).append(u": ");
-    linea.append(visible(enUnaLinea(mensaje(diagnostico))));
+    const std::u16string lugar =
+        std::u16string(fichero) + aTexto(inicio.linea) + u":" + aTexto(inicio.columna) + u":";
+    std::u16string linea = pinta(negrita, lugar) + u" ";
+    linea += pinta(colorDe(diagnostico.gravedad), std::u16string(nombreDe(diagnostico.gravedad)) + u":");
+    linea.append(u" ").append(visible(enUnaLinea(mensaje(diagnostico))));
     return linea.append(u" [").append(nombreDe(diagnostico.codigo)).append(u"]");
 }
 
+} // namespace
+
+std::u16string lineaDeError(const Diagnostico& diagnostico) {
+    return cabecera(diagnostico, {}, Pintor(Estilo::Liso));
+}
+
 std::u16string muestraError(const Diagnostico& diagnostico, std::u16string_view fichero,
-                            std::u16string_view texto) {
+                            std::u16string_view texto, Estilo estilo) {
+    constexpr std::u16string_view verde = u"1;32";
+    const Pintor pinta(estilo);
     Linea linea = lineaDe(diagnostico.rango, texto);
     acorta(linea);
-    std::u16string muestra = visible(fichero) + u":" + lineaDeError(diagnostico) + u"\n";
+    std::u16string muestra = cabecera(diagnostico, visible(fichero) + u":", pinta) + u"\n";
     muestra += linea.texto + u"\n" + std::u16string(linea.desde, u' ');
-    return muestra + std::u16string(linea.hasta - linea.desde, u'^');
+    muestra += pinta(colorDe(diagnostico.gravedad), std::u16string(linea.hasta - linea.desde, u'^'));
+    const auto& arreglos = diagnostico.partes.arreglos;
+    if (arreglos.empty()) return muestra;
+    return muestra + u"\n" + pinta(verde, u"arreglo:") + u" " + muestraArreglos(arreglos);
 }
 
 } // namespace norvik::orden

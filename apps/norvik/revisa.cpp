@@ -24,10 +24,11 @@ bool esGrave(const Diagnostico& hallazgo, bool estricto) {
 // For a person: each finding at its place, a conflict with its story unless the one before has told it.
 class Relato {
 public:
-    explicit Relato(Salida& salida) : salida_(salida) {}
+    explicit Relato(Salida& salida)
+        : salida_(salida), estilo_(salida.conColor() ? Estilo::EnColor : Estilo::Liso) {}
 
     void cuenta(const Hallazgo& hallazgo, std::u16string_view fichero, std::u16string_view texto) {
-        salida_.escribe(aUtf8(muestraError(hallazgo.diagnostico, fichero, texto)) + "\n");
+        salida_.escribe(aUtf8(muestraError(hallazgo.diagnostico, fichero, texto, estilo_)) + "\n");
         for (const HistoriaConflicto& historia : hallazgo.historias) {
             if (contada_ != nullptr && seCuentanIgual(*contada_, historia))
                 salida_.escribe("  Se cuenta como el anterior.\n");
@@ -39,6 +40,7 @@ public:
 
 private:
     Salida& salida_;
+    Estilo estilo_;
     const HistoriaConflicto* contada_ = nullptr; // the last
 };
 

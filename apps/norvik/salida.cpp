@@ -8,6 +8,7 @@
 #include "norvik/base/texto.hpp"
 
 #include <cerrno>
+#include <cstdlib>
 #include <unistd.h>
 
 namespace norvik::orden {
@@ -25,8 +26,28 @@ void Salida::avisa(std::u16string_view mensaje) {
     escribeTodo(STDERR_FILENO, linea); // there is nobody to tell that this failed
 }
 
-bool Salida::esTerminal() const {
-    return isatty(STDOUT_FILENO) == 1;
+bool Salida::conColor() const {
+    return coloreable(STDOUT_FILENO);
+}
+
+bool Salida::erroresConColor() const {
+    return coloreable(STDERR_FILENO);
+}
+
+bool Salida::coloreable(int descriptor) const {
+    const auto variable = [](const char* nombre) {
+        const char* const valor = std::getenv(nombre);
+        return std::string_view(valor != nullptr ? valor : "");
+    };
+    switch (color_) {
+    case Color::Siempre:
+        return true;
+    case Color::Nunca:
+        return false;
+    case Color::Auto:
+        return isatty(descriptor) == 1 && variable("NO_COLOR").empty() && variable("TERM") != "dumb";
+    }
+    return false;
 }
 
 bool Salida::erroresEnTerminal() const {

@@ -8,6 +8,9 @@
 
 namespace norvik::orden {
 
+/// When colours are used.
+enum class Color { Auto, Siempre, Nunca };
+
 /// The command's two streams. An order writes to standard output once nothing but the writing can fail any
 /// more, so that one that fails writes nothing there.
 class Salida {
@@ -24,10 +27,17 @@ public:
     /// One message on standard error, at once.
     void avisa(std::u16string_view mensaje);
 
-    bool esTerminal() const;
+    void ponColor(Color color) { color_ = color; }
+    /// Whether standard output, and standard error, may have colours: those that are a terminal, unless the
+    /// environment or the command line asks for something else.
+    bool conColor() const;
+    bool erroresConColor() const;
     bool erroresEnTerminal() const;
 
 private:
+    bool coloreable(int descriptor) const;
+
+    Color color_ = Color::Auto;
     std::string pendiente_;
 };
 

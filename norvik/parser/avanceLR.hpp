@@ -16,9 +16,20 @@ namespace norvik {
 
 enum class Avance : std::uint8_t { Desplazado, Aceptado, Rechazado, SinFin };
 
-/// Does with a stack what the table asks for at a token: its reductions, then the shift. The stack has
-/// `cima()`, `quita(n)` and `pon(estado)`; a rejected token leaves it somewhere between. `alReducir(regla)`
-/// is called for each reduction, of which there are `maximo` at most; a damaged table rejects.
+/// Reduces a stack, which has `cima()`, `quita(n)` and `pon(estado)`, by a rule; false when the table has no
+/// way on over its head. Raises `SubindiceFueraDeIntervalo`.
+template <typename Pila>
+bool reduce(Pila& pila, std::int16_t numRegla, const LenguajeAnalisis& lenguaje) {
+    const auto regla = lenguaje.regla(numRegla);
+    pila.quita(static_cast<std::size_t>(std::max<std::int16_t>(regla.numElementos, 0)));
+    const std::int16_t estado = lenguaje.entrada(pila.cima(), regla.columnaCabeza);
+    if (estado != 0) pila.pon(estado);
+    return estado != 0;
+}
+
+/// Does with a stack what the table asks for at a token: its reductions, then the shift. A rejected token
+/// leaves it somewhere between. `alReducir(regla)` is called for each reduction, of which there are `maximo`
+/// at most; a damaged table rejects.
 template <typename Pila, typename AlReducir>
 Avance avanza(Pila& pila, std::int16_t columna, const LenguajeAnalisis& lenguaje, std::size_t maximo,
               const AlReducir& alReducir) {
@@ -33,11 +44,7 @@ Avance avanza(Pila& pila, std::int16_t columna, const LenguajeAnalisis& lenguaje
                 return Avance::Desplazado;
             }
             const auto numRegla = static_cast<std::int16_t>(-accion);
-            const auto regla = lenguaje.regla(numRegla);
-            pila.quita(static_cast<std::size_t>(std::max<std::int16_t>(regla.numElementos, 0)));
-            const std::int16_t estado = lenguaje.entrada(pila.cima(), regla.columnaCabeza);
-            if (estado == 0) return Avance::Rechazado;
-            pila.pon(estado);
+            if (!reduce(pila, numRegla, lenguaje)) return Avance::Rechazado;
             alReducir(numRegla);
         }
     } catch (const SubindiceFueraDeIntervalo&) {

@@ -11,7 +11,11 @@
 //
 // Of all repairs of that cost those stay after which parsing gets furthest, 250 tokens at most. Stacks are
 // numbers that share their tails: neither the search nor the comparison grows with the depth of the parse.
-// What stays is put in order here, by how likely it is; the article takes any.
+//
+// Departures from the article: what stays is put in order, by how likely it is, where the article takes any;
+// and where all of it leads to another error within those 250 tokens, repairs that cost one more are looked
+// for that lead to none and change one place: a brace that was mistyped is cheaper to leave out than to put
+// right, and then every function after it is wrong.
 #include "norvik/parser/busquedaReparaciones.hpp"
 
 #include "norvik/parser/avanceLR.hpp"
@@ -33,6 +37,9 @@ using Tipo = PasoReparacion::Tipo;
 constexpr std::uint8_t seguidosQueBastan = 3;
 constexpr std::size_t tokensDeAlcance = 250;
 constexpr std::size_t maximoReparaciones = 100;
+constexpr std::size_t pasosPorEscrita = 50; // it takes memory, too
+constexpr std::size_t pasosPorLlegada = 5;
+constexpr std::size_t columnasPorPaso = 8;
 constexpr std::size_t maximoReducciones = 100'000; // a table may never stop reducing
 
 struct Configuracion {
@@ -61,11 +68,23 @@ public:
 
     std::vector<Reparacion> busca() {
         llega({pilas_.primera(), 0, 0, false}, sinNumero, {}, 0);
-        for (std::size_t coste = 0; coste < porCoste_.size() && finales_.empty(); ++coste)
-            for (std::size_t i = 0; i < porCoste_[coste].size() && gasto_.anota(1); ++i)
-                visita(porCoste_[coste][i], coste);
-        dejaLosDeMasAlcance();
-        return escribe();
+        std::size_t coste = 0;
+        while (coste < porCoste_.size() && finales_.empty()) visitaLosDe(coste++);
+        const std::uint32_t maximo = dejaLosDeMasAlcance();
+        std::vector<Reparacion> todas = escribe();
+        if (todas.empty() || maximo >= tokensDeAlcance || !gasto_.sobra()) return todas;
+        // Another error follows soon.
+        finales_.clear();
+        for (const std::uint32_t numero : sinEncarecer_) encarece(numero, coste - 1);
+        if (coste < porCoste_.size()) visitaLosDe(coste);
+        if (dejaLosDeMasAlcance() < tokensDeAlcance) return todas;
+        std::vector<Reparacion> mejores = escribe();
+        std::erase_if(mejores, [](const Reparacion& reparacion) { // they would swallow the other error
+            return std::ranges::any_of(
+                reparacion, [](const PasoReparacion& paso) { return paso.tipo == Tipo::Conserva; });
+        });
+        mejores.insert(mejores.end(), todas.begin(), todas.end());
+        return mejores;
     }
 
 private:
@@ -84,6 +103,10 @@ private:
     struct Insercion {
         std::int16_t columna = 0;
         Pila pila = 0;
+    };
+    struct Grupo {
+        Pila pila = 0;
+        std::vector<std::int16_t> columnas;
     };
 
     std::int16_t columna(std::uint32_t token) const {
@@ -105,6 +128,7 @@ private:
 
     // A way to a configuration, unless a cheaper one is known.
     void llega(const Configuracion& a, std::uint32_t desde, PasoReparacion paso, std::size_t coste) {
+        gasto_.anota(pasosPorLlegada);
         const auto [sitio, nueva] = numeros_.try_emplace(a, static_cast<std::uint32_t>(nodos_.size()));
         if (nueva) {
             nodos_.push_back({a, coste});
@@ -117,6 +141,11 @@ private:
         nodo.llegada = static_cast<std::uint32_t>(llegadas_.size() - 1);
     }
 
+    void visitaLosDe(std::size_t coste) {
+        for (std::size_t i = 0; i < porCoste_[coste].size() && gasto_.anota(1); ++i)
+            visita(porCoste_[coste][i], coste);
+    }
+
     void visita(std::uint32_t numero, std::size_t coste) {
         const Configuracion aqui = nodos_[numero].configuracion;
         if (aqui.seguidos == seguidosQueBastan) {
@@ -124,7 +153,15 @@ private:
             return;
         }
         conserva(aqui, numero, coste);
-        if (!finales_.empty()) return; // nothing dearer is wanted any more
+        if (finales_.empty())
+            encarece(numero, coste);
+        else
+            sinEncarecer_.push_back(numero);
+    }
+
+    // What leads on at a cost.
+    void encarece(std::uint32_t numero, std::size_t coste) {
+        const Configuracion aqui = nodos_[numero].configuracion;
         if (!aqui.trasQuitar)
             for (const auto& [columna, pila] : inserciones(aqui.pila))
                 llega({pila, aqui.token, 0, false}, numero, {Tipo::Inserta, columna}, coste + 1);
@@ -140,16 +177,45 @@ private:
               {Tipo::Conserva, 0}, coste);
     }
 
+    // The tokens that can be put in at a stack. Those for which the table reduces by the same rule go on
+    // together: most of them do, all the way.
     const std::vector<Insercion>& inserciones(Pila pila) {
         const auto [sitio, nueva] = inserciones_.try_emplace(pila);
-        if (!nueva) return sitio->second;
-        std::vector<Insercion> todas;
-        for (const std::int16_t columna : fichas_.insertables()) {
-            if (gasto_.agotado()) break;
-            const auto [avance, despues] = avanzaDesde(pila, columna);
-            if (avance == Avance::Desplazado) todas.push_back({columna, despues});
+        std::vector<Insercion>& todas = sitio->second;
+        if (!nueva) return todas;
+        std::vector<Grupo> pendientes{{pila, fichas_.insertables()}};
+        while (!pendientes.empty() && gasto_.anota(1 + pendientes.back().columnas.size() / columnasPorPaso)) {
+            const Grupo grupo = std::move(pendientes.back());
+            pendientes.pop_back();
+            try {
+                reparte(grupo, todas, pendientes);
+            } catch (const SubindiceFueraDeIntervalo&) { // a damaged table
+                continue;
+            }
         }
-        return inserciones_[pila] = std::move(todas);
+        std::ranges::sort(todas, {}, &Insercion::columna);
+        return todas;
+    }
+
+    void reparte(const Grupo& grupo, std::vector<Insercion>& todas, std::vector<Grupo>& pendientes) {
+        std::vector<std::pair<std::int16_t, std::int16_t>> porRegla;
+        const std::int16_t cima = pilas_.cima(grupo.pila);
+        for (const std::int16_t columna : grupo.columnas) {
+            const std::int16_t accion = lenguaje_.entrada(cima, columna);
+            if (accion < 0) porRegla.emplace_back(static_cast<std::int16_t>(-accion), columna);
+            if (accion > 0 && accion != gramatica::aceptar)
+                todas.push_back({columna, pilas_.con(grupo.pila, accion)});
+        }
+        std::ranges::sort(porRegla);
+        for (std::size_t i = 0; i < porRegla.size();) {
+            const std::int16_t regla = porRegla[i].first;
+            PilasCompartidas::Mano mano(pilas_, grupo.pila);
+            const bool sigue = reduce(mano, regla, lenguaje_);
+            Grupo otro{mano.pila(), {}};
+            for (; i < porRegla.size() && porRegla[i].first == regla; ++i)
+                otro.columnas.push_back(porRegla[i].second);
+            if (sigue) pendientes.push_back(std::move(otro));
+        }
     }
 
     // How far parsing gets behind a repair, the same for all that meet on their way.
@@ -175,7 +241,8 @@ private:
         return hasta;
     }
 
-    void dejaLosDeMasAlcance() {
+    // Of the repairs found, those that get furthest; how far that is.
+    std::uint32_t dejaLosDeMasAlcance() {
         std::vector<std::uint32_t> mejores;
         std::uint32_t maximo = 0;
         for (const std::uint32_t final : finales_) {
@@ -185,10 +252,11 @@ private:
             if (suyo == maximo) mejores.push_back(final);
         }
         finales_ = std::move(mejores);
+        return maximo;
     }
 
     // Writes out the ways to the repairs that stay, from their ends, as far as they are bearable.
-    std::vector<Reparacion> escribe() const {
+    std::vector<Reparacion> escribe() {
         struct Tramo {
             std::uint32_t nodo = 0;
             Reparacion despues; ///< from the last step to the first
@@ -203,6 +271,7 @@ private:
                 const Llegada& llegada = llegadas_[i];
                 Reparacion pasos = tramo.despues;
                 if (llegada.desde == sinNumero) {
+                    gasto_.anota(pasosPorEscrita);
                     todas.emplace_back(pasos.rbegin(), pasos.rend());
                     continue;
                 }
@@ -249,6 +318,7 @@ private:
     std::unordered_map<Configuracion, std::uint32_t, HuellaConfiguracion> numeros_;
     std::vector<std::vector<std::uint32_t>> porCoste_;
     std::vector<std::uint32_t> finales_;
+    std::vector<std::uint32_t> sinEncarecer_; ///< nodes from which nothing dearer was sought
     std::unordered_map<Pila, std::vector<Insercion>> inserciones_;
     std::unordered_map<std::uint64_t, std::uint32_t> alcances_;
 };

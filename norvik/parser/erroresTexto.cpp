@@ -37,7 +37,11 @@ Diagnostico caracterIncorrecto(std::u16string_view texto, std::size_t indice, co
 Diagnostico caracteresIncorrectos(std::u16string_view texto, std::size_t inicio, std::size_t fin,
                                   const Lugares& lugares) {
     Diagnostico diagnostico{Codigo::CaracterIncorrecto, Gravedad::Error, lugares.rango(inicio, fin), {}};
-    diagnostico.partes.hallado = palabras::entreApostrofos(texto.substr(inicio, fin - inicio));
+    constexpr std::size_t maximo = 40; // to be read; the range tells the rest
+    const std::u16string_view hallado = texto.substr(inicio, fin - inicio);
+    diagnostico.partes.hallado = palabras::entreApostrofos(
+        hallado.size() <= maximo ? std::u16string(hallado)
+                                 : std::u16string(hallado.substr(0, maximo)) + u"…");
     return diagnostico;
 }
 

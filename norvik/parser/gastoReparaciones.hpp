@@ -20,8 +20,9 @@ public:
 
     explicit GastoReparaciones(std::stop_token parada) : parada_(std::move(parada)) {}
 
-    /// A search begins.
+    /// A search begins. Raises `OperacionCancelada`.
     void empieza() {
+        if (parada_.stop_requested()) throw OperacionCancelada();
         quedan_ = std::min(pasosDeTexto_, pasosPorError);
         inicio_ = Reloj::now();
     }
@@ -37,6 +38,8 @@ public:
         if (sinConsultar_ >= pasosPorConsulta) consulta();
         return quedan_ > 0;
     }
+    /// So much is left that a search may take more than it needs.
+    bool sobra() const { return quedan_ > 0 && pasosDeTexto_ > pasosPorTexto / 2; }
     bool agotado() const { return quedan_ == 0; }
 
 private:

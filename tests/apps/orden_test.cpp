@@ -110,7 +110,8 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
                              "\x1B[38;2;0;128;0m# dos\x1B[39m\nfin\n";
     comprueba(sobre(texto, {"colorea", "--formato", "ansi"}), 0, ansi, "");
     comprueba(sobre(texto, {"colorea"}), 0, texto + "\n", "");
-    EXPECT_EQ(sobre(texto, {"colorea"}, {.salida = Destino::Terminal}).salida, ansi);
+    EXPECT_EQ(sobre(texto, {"colorea"}, {.salida = Destino::Terminal, .variables = {"TERM=xterm"}}).salida,
+              ansi);
     const Resultado html = sobre(texto, {"colorea", "--formato", "html"});
     EXPECT_EQ(html.salida.substr(0, 32), "<!DOCTYPE html>\n<html lang=\"es\">");
     EXPECT_NE(html.salida.find("<pre>\n<span style=\"color:#000080\">si</span>&lt;"
@@ -276,18 +277,42 @@ TEST_F(Orden, ElErrorDelTextoEsSuMensajeConElLugarEnUnTerminal) {
     const std::string mensaje =
         "Error: Se ha encontrado identificador (Línea 2, Columna 4). Se esperaba '+'.\n";
     comprueba(sobre("1 +\n\t1 x", {"analiza"}), 1, "", mensaje);
-    EXPECT_EQ(sobre("1 +\n\t1 x", {"analiza"}, {.errores = Destino::Terminal}).errores,
+    const Entorno terminal{.errores = Destino::Terminal, .variables = {"TERM=dumb"}};
+    EXPECT_EQ(sobre("1 +\n\t1 x", {"analiza"}, terminal).errores,
               mensaje + ruta("texto") +
                   ":2:4: error: Se ha encontrado identificador. Se esperaba '+', final del fichero. "
-                  "[token-inesperado]\n 1 x\n   ^\n");
+                  "[token-inesperado]\n 1 x\n   ^\narreglo: quite 'x'\n");
     // A lexeme may read like a place.
-    const Resultado enganoso =
-        sobre("'a' +\n'b' +\n'c' '(Línea 1, Columna 1)'", {"analiza"}, {.errores = Destino::Terminal});
+    const Resultado enganoso = sobre("'a' +\n'b' +\n'c' '(Línea 1, Columna 1)'", {"analiza"}, terminal);
     EXPECT_NE(enganoso.errores.find("texto:3:5: error: "), std::string::npos);
-    EXPECT_TRUE(enganoso.errores.ends_with("\n'c' '(Línea 1, Columna 1)'\n    ^^^^^^^^^^^^^^^^^^^^^^\n"));
+    EXPECT_NE(enganoso.errores.find("\n'c' '(Línea 1, Columna 1)'\n    ^^^^^^^^^^^^^^^^^^^^^^\narreglo: "),
+              std::string::npos);
     comprueba(sobre("1 + ?", {"analiza"}), 1, "", "Error (Línea 1, Columna 5): caracter '?' incorrecto.\n");
     comprueba(ejecuta({"analiza", "-", lenguaje_}, {.entrada = "Token a\n= 7;"}), 1, "",
               "Error: Se ha encontrado numero entero (Línea 2, Columna 3). Se esperaba cadena.\n");
+}
+
+TEST_F(Orden, UnTerminalVeTodosLosErroresConSusColoresYSinControles) {
+    const std::string texto = "1 x + \x1B[7 + 1\n2 + 2";
+    const auto errores = [&](const Palabras& opciones, const std::vector<std::string>& variables) {
+        Palabras orden{"analiza"};
+        orden.insert(orden.end(), opciones.begin(), opciones.end());
+        return sobre(texto, orden, {.errores = Destino::Terminal, .variables = variables}).errores;
+    };
+    const std::string liso = errores({}, {"TERM=dumb"});
+    const std::string lugar = "\n" + ruta("texto");
+    for (const std::string& parte :
+         {lugar + ":1:3: error: ", lugar + ":1:7: error: ", lugar + ":2:1: error: "})
+        EXPECT_NE(liso.find(parte), std::string::npos) << liso;
+    EXPECT_NE(liso.find("\n1 x + ␛[7 + 1\n      ^^\narreglo: quite '␛['\n"), std::string::npos) << liso;
+    EXPECT_EQ(liso.find('\x1B'), std::string::npos);
+    EXPECT_EQ(errores({}, {"NO_COLOR=1", "TERM=xterm"}), liso);
+    EXPECT_EQ(errores({"--color", "nunca"}, {"TERM=xterm"}), liso);
+    const std::string pintado = errores({}, {"TERM=xterm"});
+    EXPECT_NE(pintado.find("\x1B[1;31merror:\x1B[0m "), std::string::npos) << pintado;
+    EXPECT_EQ(errores({"--color", "siempre"}, {"TERM=dumb"}), pintado);
+    comprueba(sobre(texto, {"analiza", "--color", "rojo"}), 2, "",
+              "norvik: «rojo» no es un valor de --color (auto, siempre, nunca)\n");
 }
 
 TEST_F(Orden, ElErrorDelTextoSaleTambienComoJson) {
@@ -298,7 +323,10 @@ TEST_F(Orden, ElErrorDelTextoSaleTambienComoJson) {
                       ruta("texto") +
                       R"(","rango":{"inicio":{"linea":2,"columna":4,"desplazamiento":8},)"
                       R"("fin":{"linea":2,"columna":5,"desplazamiento":9}},"hallado":"identificador",)"
-                      R"("esperados":["'+'","final del fichero"],"relacionados":[],"arreglos":[]}]})"
+                      R"("esperados":["'+'","final del fichero"],"relacionados":[],"arreglos":[)"
+                      R"({"titulo":"quite 'x'","cambios":[{"rango":{"inicio":{"linea":2,"columna":4,)"
+                      R"("desplazamiento":8},"fin":{"linea":2,"columna":5,"desplazamiento":9}},)"
+                      R"("texto":""}]}]}]})"
                       "\n",
                   "Error: Se ha encontrado identificador (Línea 2, Columna 4). Se esperaba '+'.\n");
 }
