@@ -54,8 +54,8 @@ struct Configuracion {
 struct HuellaConfiguracion {
     std::size_t operator()(const Configuracion& c) const {
         const std::uint64_t junta = (static_cast<std::uint64_t>(c.pila) << 32) ^
-                                    (static_cast<std::uint64_t>(c.token) << 3) ^ (c.seguidos * 2U) ^
-                                    (c.trasQuitar ? 1U : 0U);
+                                    (static_cast<std::uint64_t>(c.token) << 3) ^
+                                    (static_cast<std::uint64_t>(c.seguidos) << 1) ^ (c.trasQuitar ? 1U : 0U);
         return static_cast<std::size_t>((junta ^ (junta >> 29)) * 0x9E3779B97F4A7C15U);
     }
 };
