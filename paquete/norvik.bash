@@ -17,7 +17,7 @@ _norvik_cuenta() {
     local i n=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-            --formato | --lenguaje | --metodo | --junit | --cuantas | --semilla | -o) ((i++)) ;;
+            --formato | --lenguaje | --metodo | --color | --junit | --cuantas | --semilla | -o) ((i++)) ;;
             -?*) ;;
             *) ((n++)) ;;
         esac
@@ -41,16 +41,17 @@ _norvik() {
         *:--cuantas | *:--semilla) return ;;
         *:--junit) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -f -- "$palabra"); return ;;
         *:--metodo) _norvik_palabras "$palabra" "clasico slr lalr lr1"; return ;;
+        *:--color) _norvik_palabras "$palabra" "siempre nunca auto"; return ;;
         modulo:--lenguaje) _norvik_palabras "$palabra" "vb cpp"; return ;;
         *:-o) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -d -- "$palabra"); return ;;
     esac
     case $orden:$palabra in
-        modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --metodo --help" ;;
-        revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --metodo --help" ;;
-        informe:-*) _norvik_palabras "$palabra" "-o --formato --metodo --help" ;;
-        prueba:-*) _norvik_palabras "$palabra" "--actualiza --junit --metodo --help" ;;
-        frases:-*) _norvik_palabras "$palabra" "--cuantas --semilla --mal --metodo --help" ;;
-        *:-*) _norvik_palabras "$palabra" "--formato --metodo --help" ;;
+        modulo:-*) _norvik_palabras "$palabra" "-o --lenguaje --metodo --color --help" ;;
+        revisa:-*) _norvik_palabras "$palabra" "--formato --estricto --metodo --color --help" ;;
+        informe:-*) _norvik_palabras "$palabra" "-o --formato --metodo --color --help" ;;
+        prueba:-*) _norvik_palabras "$palabra" "--actualiza --junit --metodo --color --help" ;;
+        frases:-*) _norvik_palabras "$palabra" "--cuantas --semilla --mal --metodo --color --help" ;;
+        *:-*) _norvik_palabras "$palabra" "--formato --metodo --color --help" ;;
         *)
             case $orden:$(_norvik_cuenta) in
                 informe:0 | modulo:0 | frases:0 | revisa:*) _norvik_ficheros "$palabra" nvk ;;
