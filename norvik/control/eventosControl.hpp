@@ -8,7 +8,9 @@
 namespace norvik {
 
 /// Los eventos del control hacia su anfitrión, con sus propios nombres. El receptor puede cambiar los
-/// argumentos. No se da ninguno mientras el propio control trabaja con su texto.
+/// argumentos. No se da ninguno mientras el propio control trabaja con su texto. Un cambio que también mueve
+/// el cursor está ya anotado y coloreado cuando se da, y es `CambioDeLinea`, `SelChange` y `change`, por este
+/// orden.
 struct EventosControl {
     using Tecla = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
     using Raton = std::function<void(std::int16_t& Button, std::int16_t& Shift, float& x, float& y)>;
