@@ -18,6 +18,7 @@
 #include <filesystem>
 #include <functional>
 #include <random>
+#include <ranges>
 #include <set>
 #include <string>
 #include <string_view>
@@ -83,6 +84,7 @@ Texto parte(const Lenguaje& lenguaje, const std::u16string& entero) {
 
 std::vector<std::int16_t> numeros(const std::vector<Token>& tokens) {
     std::vector<std::int16_t> todos;
+    todos.reserve(tokens.size());
     for (const Token& token : tokens) todos.push_back(token.numero);
     return todos;
 }
@@ -164,11 +166,10 @@ private:
     // The numbers of a text's tokens once a repair is made.
     std::vector<std::int16_t> conArreglo(const std::u16string& texto, const Arreglo& arreglo) const {
         std::u16string nuevo = texto;
-        for (auto cambio = arreglo.cambios.rbegin(); cambio != arreglo.cambios.rend(); ++cambio) {
-            const auto inicio = static_cast<std::size_t>(cambio->rango.inicio.desplazamiento);
-            const auto fin = static_cast<std::size_t>(cambio->rango.fin.desplazamiento);
-            nuevo.replace(inicio, fin - inicio,
-                          cambio->conNombres ? conMuestras(cambio->texto) : cambio->texto);
+        for (const Cambio& cambio : std::views::reverse(arreglo.cambios)) {
+            const auto inicio = static_cast<std::size_t>(cambio.rango.inicio.desplazamiento);
+            const auto fin = static_cast<std::size_t>(cambio.rango.fin.desplazamiento);
+            nuevo.replace(inicio, fin - inicio, cambio.conNombres ? conMuestras(cambio.texto) : cambio.texto);
         }
         return numeros(parte(lenguaje_, nuevo).tokens);
     }
@@ -232,6 +233,7 @@ int main(int argc, char** argv) {
         std::vector<fs::path> ficheros(fs::directory_iterator(carpeta / "bien"), {});
         std::ranges::sort(ficheros);
         std::vector<Texto> textos;
+        textos.reserve(ficheros.size());
         for (const fs::path& fichero : ficheros)
             textos.push_back(parte(compilacion.lenguaje.value(), leeTexto(fichero)));
         std::array<Cuenta, 3> suyas;

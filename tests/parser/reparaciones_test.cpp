@@ -11,8 +11,10 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
+#include <ranges>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace norvik;
@@ -47,10 +49,10 @@ std::string errores(const Analisis& analisis) {
 
 std::u16string conElPrimero(std::u16string texto, const Diagnostico& error) {
     const auto& cambios = error.partes.arreglos.front().cambios;
-    for (auto cambio = cambios.rbegin(); cambio != cambios.rend(); ++cambio) {
-        const auto inicio = static_cast<std::size_t>(cambio->rango.inicio.desplazamiento);
-        texto.replace(inicio, static_cast<std::size_t>(cambio->rango.fin.desplazamiento) - inicio,
-                      cambio->texto);
+    for (const Cambio& cambio : std::views::reverse(cambios)) {
+        const auto inicio = static_cast<std::size_t>(cambio.rango.inicio.desplazamiento);
+        texto.replace(inicio, static_cast<std::size_t>(cambio.rango.fin.desplazamiento) - inicio,
+                      cambio.texto);
     }
     return texto;
 }
@@ -176,7 +178,7 @@ struct Muestra {
     Nombres tokens;
     std::vector<std::u16string> lexemas;
 
-    explicit Muestra(const std::filesystem::path& texto, const Lenguaje& suyo) : lenguaje(suyo) {
+    explicit Muestra(const std::filesystem::path& texto, Lenguaje suyo) : lenguaje(std::move(suyo)) {
         const Lexemas todos = norvik::lexemas(lenguaje, leeTexto(texto));
         for (std::size_t i = 0; i < todos.size(); ++i) {
             if (todos[i].esComentario) continue;
@@ -211,6 +213,7 @@ const Reglas& reglasDe(const Lenguaje& lenguaje) {
 
 TEST(Reparaciones, ElTextoReparadoEsDeLaGramatica) {
     std::mt19937 azar(7);
+    int reparados = 0;
     for (const Muestra& muestra : muestras()) {
         const std::size_t largo = std::min<std::size_t>(muestra.lexemas.size(), 60);
         for (int caso = 0; caso < 12; ++caso) {
@@ -222,7 +225,9 @@ TEST(Reparaciones, ElTextoReparadoEsDeLaGramatica) {
             if (caso % 3 == 2) lexemas[static_cast<std::size_t>(lugar)] = otro;
             const std::u16string texto = Muestra::junta(lexemas);
             const Analisis analisis = analiza(muestra.lenguaje, texto);
-            if (analisis) continue;
+            // On a slow machine the budget may end first.
+            if (analisis || analisis.reparado.esVacio()) continue;
+            ++reparados;
             const Nombres suyas = hojas(analisis.reparado);
             EXPECT_TRUE(apoyo::deriva(reglasDe(muestra.lenguaje), suyas)) << aUtf8(texto);
             const auto& arreglos = analisis.diagnosticos.front().partes.arreglos;
@@ -236,6 +241,7 @@ TEST(Reparaciones, ElTextoReparadoEsDeLaGramatica) {
             EXPECT_EQ(hojas(arreglado.arbol), suyas) << aUtf8(texto);
         }
     }
+    EXPECT_GT(reparados, 40);
 }
 
 // How a list of what is expected names a lexeme, when it names it alone.
