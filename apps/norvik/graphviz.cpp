@@ -14,9 +14,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// NOLINTNEXTLINE(readability-identifier-naming): the system's name
-extern char** environ;
-
 namespace norvik::orden {
 
 namespace {
@@ -24,6 +21,7 @@ namespace {
 using Reloj = std::chrono::steady_clock;
 
 struct CierraFichero {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): this is the owner
     void operator()(std::FILE* fichero) const { std::fclose(fichero); }
 };
 using Fichero = std::unique_ptr<std::FILE, CierraFichero>;

@@ -26,7 +26,7 @@ std::string enJunit(const std::vector<CasoProbado>& casos) {
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuite name=\"norvik prueba\" tests=\"" +
         std::to_string(casos.size()) + "\" failures=\"" + std::to_string(fallos) + "\">\n";
     for (const auto& [nombre, diferencia] : casos) {
-        xml += "  <testcase classname=\"norvik\" name=\"" + enAtributo(nombre) + "\"";
+        xml += R"(  <testcase classname="norvik" name=")" + enAtributo(nombre) + '"';
         if (diferencia.empty())
             xml += "/>\n";
         else

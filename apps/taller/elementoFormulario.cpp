@@ -186,7 +186,7 @@ std::u16string ElementoFormulario::preparaLenguaje() {
     if (lenguajeAlDia_) return {};
     lenguajeAlDia_ = true;
     if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
-    if (!especificacionDe(norvik_).empty()) return compilaLenguaje(norvik_);
+    if (hayEspecificacion(norvik_)) return compilaLenguaje(norvik_);
     descargaLenguaje(norvik_);
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "lenguaje.hpp"
 
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 namespace norvik::taller {
@@ -23,6 +24,11 @@ bool tieneLenguaje(ControlNorvik& norvik) {
 
 const std::u16string& especificacionDe(ControlNorvik& norvik) {
     return norvik.control().ContenidoG();
+}
+
+bool hayEspecificacion(ControlNorvik& norvik) {
+    const std::u16string& especificacion = especificacionDe(norvik);
+    return cabecera(especificacion).size() < especificacion.size();
 }
 
 void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion) {

@@ -14,6 +14,8 @@ namespace norvik::taller {
 bool tieneLenguaje(ControlNorvik& norvik);
 /// The specification that the control keeps.
 const std::u16string& especificacionDe(ControlNorvik& norvik);
+/// It has something besides blank lines and comments.
+bool hayEspecificacion(ControlNorvik& norvik);
 /// Gives the control a specification to keep; its language stays as it is.
 void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion);
 

@@ -16,6 +16,9 @@ namespace norvik::taller {
 
 namespace {
 
+/// What a new language begins with: conflicts are all told, and no text of the grammar is refused.
+constexpr std::u16string_view plantilla = u"'% metodo: lalr\r\n";
+
 /// A file that stands there keeps its encoding and its line ends.
 FormatoTexto formatoDelQueHay(const QString& fichero) {
     try {
@@ -30,7 +33,7 @@ FormatoTexto formatoDelQueHay(const QString& fichero) {
 bool OrdenesLenguaje::nuevo() {
     ElementoFormulario& elemento = formulario_.activo();
     if (!puedePerder(elemento)) return false;
-    ponEspecificacion(elemento.norvik(), {});
+    ponEspecificacion(elemento.norvik(), plantilla);
     elemento.ponModulo({});
     elemento.norvik().NomLenguaje({});
     return prepara(elemento);
@@ -69,7 +72,7 @@ bool OrdenesLenguaje::guardaEspecificacion() {
 /// A specification that was written here and is not saved with its form would be lost.
 bool OrdenesLenguaje::puedePerder(ElementoFormulario& elemento) {
     const Opciones& opciones = elemento.norvik().control().opciones();
-    const bool escrita = opciones.pendienteGuardarG && !opciones.contenidoG.empty();
+    const bool escrita = opciones.pendienteGuardarG && hayEspecificacion(elemento.norvik());
     if (!escrita || !formulario_.modificado()) return true;
     const QString pregunta =
         QStringLiteral("¿Quiere guardar en un fichero la especificación de %1?").arg(elemento.nombre());
