@@ -110,6 +110,11 @@ std::vector<Ejemplo> ejemplos() {
         deEspecificacion(Codigo::DirectivaTardia, a + u"'% metodo: lalr\nS -> a;"),
         deEspecificacion(Codigo::ConflictoCallado,
                          u"Token a = \"a\";\nToken mas = \"\\+\";\nE -> E mas E | a;"),
+        deEspecificacion(Codigo::PrimerosDistintos, a + u"S -> S a A | Ø;\nA -> a S;"),
+        deEspecificacion(Codigo::SiguientesDistintos, a + u"S -> B | Ø | A B a;\nA -> a;\nB -> Ø | a B a;"),
+        deEspecificacion(
+            Codigo::FraseDeMas,
+            a + u"Token b = \"b\";\nToken c = \"c\";\nS -> b b | c S | c A;\nA -> S S a | a A b;"),
         deEspecificacion(Codigo::FraseRechazada,
                          u"Token a = \"a\";\nToken b = \"b\";\nToken c = \"c\";\nToken d "
                          u"= \"d\";\nS -> A a | b;\nA -> A c | S d | Ø;"),
