@@ -109,7 +109,10 @@ std::vector<std::int16_t> ContextoConflicto::camino(const std::vector<ComienzoCo
             frontera.pon(otro, frontera.coste(cual) + 1, cual);
         }
     };
-    while (const auto cual = frontera.saca()) {
+    constexpr std::size_t maximo = 100'000; // places looked at, in well under a second
+    for (std::size_t vistos = 0; vistos < maximo; ++vistos) {
+        const auto cual = frontera.saca();
+        if (!cual) break;
         const Lugar& aqui = frontera.nodo(*cual);
         const auto hilo = std::ranges::find_if(aqui.hilos, [](const auto& h) { return h && h->punto == 0; });
         if (hilo != aqui.hilos.end()) {

@@ -32,7 +32,7 @@ public:
         : gramatica_(gramatica), enUso_(enUso), limites_(limites), producciones_(gramatica.partidas),
           minimas_(producciones_), grafo_(producciones_, gramatica.automata, minimas_),
           siguientes_(exacto::siguientes(producciones_)), curas_(gramatica, producciones_, opciones),
-          fin_(Reloj::now() + limites.enTotal) {}
+          fin_(Reloj::now() + limites.enTotal), faltan_(gramatica.tabla.conflictos().size()) {}
 
     HistoriaConflicto cuenta(const Conflicto& conflicto) {
         const CasoConflicto caso = casoDe(conflicto);
@@ -40,6 +40,10 @@ public:
         historia.estado = caso.estado;
         historia.simbolo = gramatica_.partidas.texto(caso.token);
         historia.acciones = accionesDe(caso);
+        if (Reloj::now() > fin_) {
+            historia.agotado = true;
+            return historia;
+        }
         ContextoConflicto contexto(grafo_, producciones_, minimas_, caso.token);
         if (!cuentaAmbigua(caso, contexto, historia)) cuentaDosFrases(caso, contexto, historia);
         historia.cura = curas_.de(caso, historia);
@@ -107,7 +111,9 @@ private:
     bool cuentaAmbigua(const CasoConflicto& caso, const ContextoConflicto& contexto,
                        HistoriaConflicto& historia) {
         const auto ahora = Reloj::now();
-        const LimiteBusqueda limite{std::min(limites_.pasosPorConflicto, limites_.pasosEnTotal - pasos_),
+        // None takes what the others need.
+        const std::size_t parte = (limites_.pasosEnTotal - pasos_) / std::max<std::size_t>(faltan_, 1);
+        const LimiteBusqueda limite{std::min(limites_.pasosPorConflicto, parte),
                                     std::min(fin_, ahora + limites_.porConflicto)};
         HallazgoUnificador hallazgo =
             buscaUnificador(caso, grafo_, producciones_, minimas_, siguientes_, limite,
@@ -117,6 +123,7 @@ private:
         historia.pasos = hallazgo.pasos;
         historia.agotado = hallazgo.agotado;
         pasos_ = std::min(limites_.pasosEnTotal, pasos_ + hallazgo.pasos);
+        --faltan_;
         if (!hallazgo.ejemplo) return false;
         const EjemploUnificador& ejemplo = *hallazgo.ejemplo;
         const Simbolo cabeza = gramatica_.partidas.simbolo(ejemplo.arboles[0].nodos.back().simbolo);
@@ -270,6 +277,7 @@ private:
     CurasConflicto curas_;
     Reloj::time_point fin_;
     std::size_t pasos_ = 0;
+    std::size_t faltan_; // conflicts, the one that is told included
 };
 
 } // namespace

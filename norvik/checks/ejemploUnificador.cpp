@@ -58,13 +58,15 @@ public:
         const Pila aqui(1, static_cast<char16_t>(caso_.estado));
         pon({Fase::PrimeraDebe, false, aqui, aqui}, 0, {}, -1);
         HallazgoUnificador hallazgo;
+        std::size_t vueltas = 0;
         while (const auto cual = saca()) {
             const Pareja pareja = nodos_[*cual].pareja;
             if (esFinal(pareja, cabe)) {
                 hallazgo.ejemplo = reconstruye(*cual);
                 break;
             }
-            const bool pideHora = ++hallazgo.pasos % 256 == 0;
+            hallazgo.pasos = nodos_.size(); // a pair may have many successors
+            const bool pideHora = ++vueltas % 64 == 0;
             if (hallazgo.pasos > limite.pasos ||
                 (pideHora && std::chrono::steady_clock::now() > limite.fin)) {
                 hallazgo.agotado = true;

@@ -36,7 +36,7 @@ struct HistoriaConflicto {
         Ambigua,          ///< una frase con dos árboles
         DosFrases,        ///< dos frases con un mismo comienzo, hasta el token incluido
         SinComienzoComun, ///< una frase de cada acción, con comienzos distintos: la tabla los confunde
-        SinEjemplo,       ///< de las variables que tienen que ver no sale ningún texto
+        SinEjemplo,       ///< de las variables que tienen que ver no sale ningún texto, o no hubo tiempo
     };
     /// Lo que suele arreglar uno así.
     enum class Cura : std::uint8_t {
@@ -77,8 +77,8 @@ struct HistoriaConflicto {
 /// Lo que se puede gastar en contar los conflictos de una gramática. Los pasos dan lo mismo en toda máquina;
 /// el tiempo es solo un seguro.
 struct LimitesHistorias {
-    std::size_t pasosPorConflicto = 60'000;
-    std::size_t pasosEnTotal = 400'000;
+    std::size_t pasosPorConflicto = 120'000;
+    std::size_t pasosEnTotal = 2'000'000;
     std::chrono::milliseconds porConflicto{1'500};
     std::chrono::milliseconds enTotal{8'000};
 };

@@ -66,6 +66,7 @@ std::u16string explicacion(const HistoriaConflicto& historia) {
         return u"Estas dos frases no empiezan igual, pero la tabla las lleva al mismo sitio y no las "
                u"distingue: el conflicto es de la tabla, no de la gramática.";
     case Clase::SinEjemplo:
+        if (historia.agotado) return u"Se acabó el tiempo para esta gramática sin buscarle un ejemplo.";
         return u"No hay ejemplo: de alguna de las variables que intervienen no sale ningún texto.";
     }
     return {};

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <random>
 #include <string>
 #include <utility>
@@ -100,15 +101,10 @@ TEST(Historia, LasConocidas) {
          Cura::MetodoLr1, "a c . d"},
         {u"S -> A b c | B b d; A -> a; B -> a", Metodo::Lr1, Clase::DosFrases, Cura::Factorizar, "a . b c"},
         {u"S -> a S a | a", Metodo::Lalr, Clase::DosFrases, Cura::Factorizar, "a a . a a a"},
-        {u"S -> A A; A -> a | b A; B -> B b | Ø", Metodo::Lalr, Clase::SinEjemplo, Cura::Reescribir, ""},
     };
     for (const auto& [texto, metodo, clase, cura, corto] : casos) {
         const Reglas reglas = apoyo::reglasDe(texto);
         const auto todas = historias(texto, metodo);
-        if (clase == Clase::SinEjemplo) {
-            EXPECT_TRUE(todas.empty());
-            continue;
-        }
         ASSERT_FALSE(todas.empty()) << aUtf8(texto);
         for (const HistoriaConflicto& historia : todas) compruebaHistoria(historia, reglas);
         EXPECT_EQ(todas.front().clase, clase) << aUtf8(texto);
@@ -118,6 +114,50 @@ TEST(Historia, LasConocidas) {
     }
 }
 
+// «E0 -> E0 o0 E0 | E1; …», and what follows the last.
+std::u16string escala(int niveles, std::u16string_view fin) {
+    std::u16string texto;
+    for (int i = 0; i < niveles; ++i) {
+        const std::u16string n = aTexto(i);
+        texto += u"E" + n + u" -> E" + n + u" o" + n + u" E" + n + u" | E" + aTexto(i + 1) + u"; ";
+    }
+    return texto + u"E" + aTexto(niveles) + u" -> " + std::u16string(fin);
+}
+
+TEST(Historia, GramaticasHostilesAcabanEnSuPlazo) {
+    std::u16string palabras = u"S -> S S";
+    for (int i = 0; i < 300; ++i) palabras += u" | k" + aTexto(i);
+    std::u16string doblan; // its shortest text has 2^60 tokens
+    for (int i = 0; i < 60; ++i)
+        doblan += u"V" + aTexto(i) + u" -> V" + aTexto(i + 1) + u" V" + aTexto(i + 1) + u"; ";
+    std::u16string hondas;
+    for (int i = 0; i < 240; ++i)
+        hondas += u"R" + aTexto(i) + u" -> a R" + aTexto(i + 1) + u" | a R" + aTexto(i + 1) + u" b | c; ";
+    for (const std::u16string& texto :
+         {escala(80, u"num | pa E0 pc"), palabras, u"S -> x V0 | V0 x; " + doblan + u"V60 -> a | a a",
+          hondas + u"R240 -> a", std::u16string(u"S -> S"), std::u16string(u"S -> Ø"),
+          std::u16string(u"S -> S | Ø | S S"), std::u16string(u"S -> a S B | a S; B -> B b"),
+          std::u16string(u"S -> A S A; A -> Ø"), std::u16string(u"S -> a S a | b S b | a | b")}) {
+        const auto antes = std::chrono::steady_clock::now();
+        const GramaticaLR g = exacto::genera(apoyo::reglasDe(texto), {Metodo::Lalr, {}});
+        EXPECT_EQ(cuentaConflictos(g, {Metodo::Lalr, {}}, g.tabla).size(), g.tabla.conflictos().size());
+        EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(10))
+            << aUtf8(texto.substr(0, 60));
+    }
+}
+
+// A budget that is spent at once leaves every conflict told, and says so.
+TEST(Historia, SinPlazoSeDice) {
+    const auto sinPasos = historias(u"E -> E mas E | num", Metodo::Lalr, {0, 0});
+    ASSERT_EQ(sinPasos.size(), 1U);
+    EXPECT_TRUE(sinPasos[0].agotado);
+    EXPECT_EQ(sinPasos[0].clase, Clase::DosFrases);
+    const auto sinTiempo =
+        historias(u"E -> E mas E | num", Metodo::Lalr, {.enTotal = std::chrono::milliseconds(-1)});
+    EXPECT_TRUE(sinTiempo[0].agotado);
+    EXPECT_EQ(sinTiempo[0].clase, Clase::SinEjemplo);
+}
+
 TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
     std::mt19937 azar(20261125);
     int ambiguas = 0;
@@ -125,7 +165,7 @@ TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
     int solas = 0;
     int comoSeDice = 0;
     const Metodo metodos[] = {Metodo::Slr, Metodo::Lalr, Metodo::Lr1};
-    for (int i = 0; i < 3000 && !::testing::Test::HasFailure(); ++i) {
+    for (int i = 0; i < 2000 && !::testing::Test::HasFailure(); ++i) {
         const std::u16string texto = apoyo::gramaticaAlAzar(azar);
         const Reglas reglas = apoyo::reglasDe(texto);
         const auto todas = historias(texto, metodos[i % 3], {1'000, 4'000});
@@ -141,7 +181,7 @@ TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
             }
         }
     }
-    EXPECT_GT(ambiguas, 1000);
+    EXPECT_GT(ambiguas, 700);
     EXPECT_GT(dosFrases, 100);
     EXPECT_GT(comoSeDice * 10, solas * 9); // the same cell may come twice in a sentence
 }
