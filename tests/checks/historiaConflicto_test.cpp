@@ -153,7 +153,7 @@ TEST(Historia, SinPlazoSeDice) {
     EXPECT_TRUE(sinPasos[0].agotado);
     EXPECT_EQ(sinPasos[0].clase, Clase::DosFrases);
     const auto sinTiempo =
-        historias(u"E -> E mas E | num", Metodo::Lalr, {.enTotal = std::chrono::milliseconds(-1)});
+        historias(u"E -> E mas E | num", Metodo::Lalr, {.enTotal = std::chrono::milliseconds(-2000)});
     EXPECT_TRUE(sinTiempo[0].agotado);
     EXPECT_EQ(sinTiempo[0].clase, Clase::SinEjemplo);
 }
