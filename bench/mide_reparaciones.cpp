@@ -18,7 +18,6 @@
 #include <filesystem>
 #include <functional>
 #include <random>
-#include <ranges>
 #include <set>
 #include <string>
 #include <string_view>
@@ -166,7 +165,8 @@ private:
     // The numbers of a text's tokens once a repair is made.
     std::vector<std::int16_t> conArreglo(const std::u16string& texto, const Arreglo& arreglo) const {
         std::u16string nuevo = texto;
-        for (const Cambio& cambio : std::views::reverse(arreglo.cambios)) {
+        const std::vector<Cambio> alReves(arreglo.cambios.rbegin(), arreglo.cambios.rend());
+        for (const Cambio& cambio : alReves) {
             const auto inicio = static_cast<std::size_t>(cambio.rango.inicio.desplazamiento);
             const auto fin = static_cast<std::size_t>(cambio.rango.fin.desplazamiento);
             nuevo.replace(inicio, fin - inicio, cambio.conNombres ? conMuestras(cambio.texto) : cambio.texto);

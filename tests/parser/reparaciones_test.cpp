@@ -11,7 +11,6 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
-#include <ranges>
 #include <set>
 #include <string>
 #include <utility>
@@ -49,7 +48,8 @@ std::string errores(const Analisis& analisis) {
 
 std::u16string conElPrimero(std::u16string texto, const Diagnostico& error) {
     const auto& cambios = error.partes.arreglos.front().cambios;
-    for (const Cambio& cambio : std::views::reverse(cambios)) {
+    const std::vector<Cambio> alReves(cambios.rbegin(), cambios.rend());
+    for (const Cambio& cambio : alReves) {
         const auto inicio = static_cast<std::size_t>(cambio.rango.inicio.desplazamiento);
         texto.replace(inicio, static_cast<std::size_t>(cambio.rango.fin.desplazamiento) - inicio,
                       cambio.texto);
