@@ -2,9 +2,11 @@
 
 // docs/diagnosticos.md is made here: every code with something small that gives it, and its words. With
 // NORVIK_ESCRIBE_DOCS in the environment the file is written, else it must be the same.
+#include "apoyo/anfitrion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/revision.hpp"
+#include "norvik/report/modulo.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>
@@ -17,6 +19,7 @@
 #include <vector>
 
 using namespace norvik;
+using apoyo::Anfitrion;
 
 namespace {
 
@@ -68,6 +71,23 @@ Diagnosticos desbocada() {
     return analiza(lenguaje, std::u16string(20'000, u'a')).diagnosticos;
 }
 
+Diagnosticos conTablaIncorrecta() {
+    Anfitrion anfitrion;
+    anfitrion.compila(sumas);
+    std::u16string modulo =
+        textoModulo(anfitrion.norvik.Gramatica().valores(), u"Sumas", anfitrion.norvik.Lexico());
+    const std::u16string_view celda = u"SetElementoTablaSLR 1, 2, ";
+    modulo.insert(modulo.find(celda) + celda.size(), u"99");
+    return Lenguaje::cargaModulo(modulo).diagnosticos;
+}
+
+// Repairs have to be sought among many that cost much.
+Diagnosticos agotada() {
+    std::u16string texto;
+    for (int i = 0; i < 200'000; ++i) texto += u"+ + + ";
+    return analiza(Lenguaje::compila(sumas).lenguaje.value(), texto).diagnosticos;
+}
+
 const std::u16string a = u"Token a = \"a\";\n";
 
 std::vector<Ejemplo> ejemplos() {
@@ -75,6 +95,8 @@ std::vector<Ejemplo> ejemplos() {
         deTexto(Codigo::CaracterIncorrecto, u"1 + ?"),
         deTexto(Codigo::TokenInesperado, u"1 + + 2"),
         {Codigo::BusquedaDesbocada, u"Token a = \"(a*)*\\1b\";\n\nveinte mil letras a", desbocada},
+        {Codigo::ReparacionAgotada, u"un texto con más errores de los que se pueden arreglar en su tiempo",
+         agotada},
         {Codigo::Cancelado, u"el anfitrión pide parar con su std::stop_token", alCancelar},
         {Codigo::Utf8Incorrecto, u"1 + y un byte FF, en UTF-8", conBytes},
         {Codigo::SinGramatica, u"Token a = \"a\";\n\na", sinReglas},
@@ -89,6 +111,7 @@ std::vector<Ejemplo> ejemplos() {
         {Codigo::CapacidadSuperada, u"mil y una reglas", conMilReglas},
         {Codigo::ModuloIncorrecto, u"un fichero .bas que no es un módulo: Hola",
          [] { return Lenguaje::cargaModulo(u"Hola").diagnosticos; }},
+        {Codigo::TablaIncorrecta, u"un módulo cuya tabla nombra un estado que no hay", conTablaIncorrecta},
         deEspecificacion(Codigo::ConflictosDistintos,
                          u"'% metodo: lalr\n'% conflictos: 2\n" + a + u"S -> S S | a;"),
         deEspecificacion(Codigo::TokenSinUsar, a + u"Token b = \"b\";\nS -> a;"),
@@ -146,6 +169,8 @@ TEST(Diagnosticos, LosDeLaDocumentacionSonLosQueDa) {
             documento += apartado(ejemplo, *suyo);
     }
     documento.pop_back();
+    const auto ultimo = static_cast<std::size_t>(Codigo::FraseDeMas);
+    EXPECT_EQ(ejemplos().size(), ultimo + 1) << "a code has no example";
     const char* const fichero = NORVIK_SOURCE_DIR "/docs/diagnosticos.md";
     if (std::getenv("NORVIK_ESCRIBE_DOCS") != nullptr) // NOLINT(concurrency-mt-unsafe): one thread
         escribeBytes(fichero, documento, Durabilidad::Normal);

@@ -67,9 +67,9 @@ TEST(Frases, DeGramaticasDificiles) {
         {u"S -> S;", " 1"},
         {u"S -> a | S; ", "[a] 2"},
         {u"S -> A; A -> B | a; B -> A;", "[a] 2 4"}, // goes round for nothing
-        {u"S -> A | b; A -> a A;", "[b] 1 3"},     // gives no text
-        {u"S -> a; B -> b;", "[a] 2"},             // is not reached
-        {u"S -> a | c b;", "[a] 2"},               // no text of the token is known
+        {u"S -> A | b; A -> a A;", "[b] 1 3"},       // gives no text
+        {u"S -> a; B -> b;", "[a] 2"},               // is not reached
+        {u"S -> a | c b;", "[a] 2"},                 // no text of the token is known
         {u"S -> a | nada;", "[a] 2"},
         {u"S -> a s; s -> b;", " 1 2"},     // a head in lower case is a token in bodies
         {u"S -> S S | Ø | a;", "[a] [] 1"}, // the table never reduces by the first
