@@ -222,7 +222,7 @@ private:
     std::uint32_t alcance(const Configuracion& final) {
         std::vector<std::uint64_t> camino;
         std::uint32_t token = final.token;
-        std::uint32_t hasta = token;
+        std::uint32_t hasta = 0;
         for (Pila pila = final.pila;; ++token) {
             hasta = token;
             if (token >= tokensDeAlcance || gasto_.agotado()) break;
