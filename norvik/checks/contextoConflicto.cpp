@@ -125,7 +125,8 @@ std::vector<std::int16_t> ContextoConflicto::camino(const std::vector<ComienzoCo
         }
         std::vector<std::int16_t> camino = grafo_.caminoHasta(aqui.estado);
         if (camino.empty()) continue;
-        for (auto paso = cual; const auto desde = frontera.desde(*paso); paso = desde)
+        auto desde = frontera.desde(*cual);
+        for (auto paso = cual; desde; paso = desde, desde = frontera.desde(*paso))
             if (frontera.nodo(*paso).retrocedido) camino.push_back(frontera.nodo(*desde).estado);
         return camino;
     }
@@ -158,7 +159,8 @@ std::optional<std::vector<Eslabon>> ContextoConflicto::cadena(const std::vector<
         if (llega && (!aqui.pide || token_ == ReglasPartidas::finTexto)) {
             std::vector<Eslabon> eslabones;
             // An item is in the chain where it was reached from another one's beginning.
-            for (auto paso = cual; const auto desde = frontera.desde(*paso); paso = desde)
+            auto desde = frontera.desde(*cual);
+            for (auto paso = cual; desde; paso = desde, desde = frontera.desde(*paso))
                 if (frontera.nodo(*desde).item.punto == 0)
                     eslabones.push_back({frontera.nodo(*paso).item, frontera.nodo(*paso).resto});
             std::ranges::reverse(eslabones);
