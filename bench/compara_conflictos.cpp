@@ -350,7 +350,8 @@ int main(int argc, char** argv) {
     }
     std::mt19937 azar(2026);
     for (const std::string ejemplo : {"calculadora", "json", "configuracion", "consulta", "pascal", "c"}) {
-        const Gramatica gramatica = deEjemplo(fuentes + "/ejemplos/" + ejemplo + "/" + ejemplo + ".nvk");
+        const auto fichero = std::filesystem::path(fuentes) / "ejemplos" / ejemplo / (ejemplo + ".nvk");
+        const Gramatica gramatica = deEjemplo(fichero);
         comparacion.compara(ejemplo, gramatica);
         for (int i = 1; i <= 3; ++i)
             comparacion.compara(ejemplo + "-" + std::to_string(i), rompe(gramatica, azar));
