@@ -54,101 +54,94 @@ struct Fila {
     std::u16string_view palabras; ///< empty for those that depend on more
 };
 
-// Where the classic method leaves the truth.
-const Fila& filaDelContraste(Codigo codigo) {
-    static constexpr std::array todas = {
-        Fila{Codigo::ConflictoCallado, u"conflicto-callado",
-             u"La tabla clásica calla un conflicto: ante {nombre} cabe también reducir por {hallado}. Con la "
-             u"línea '% metodo: lalr al principio se cuentan todos."},
-        Fila{Codigo::PrimerosDistintos, u"primeros-distintos",
-             u"El método clásico da por primeros de {nombre} {hallado}, y son {esperados}. Con la línea '% "
-             u"metodo: lalr al principio son los exactos."},
-        Fila{Codigo::SiguientesDistintos, u"siguientes-distintos",
-             u"El método clásico da por siguientes de {nombre} {hallado}, y son {esperados}. Con la línea '% "
-             u"metodo: lalr al principio son los exactos."},
-        Fila{Codigo::FraseRechazada, u"frase-rechazada",
-             u"La tabla clásica rechaza un texto que es de la gramática: {hallado}.{remedio}"},
-        Fila{Codigo::FraseDeMas, u"frase-de-mas",
-             u"La tabla clásica acepta un texto que no es de la gramática: {hallado}.{remedio}"},
-    };
-    return *std::ranges::find(todas, codigo, &Fila::codigo);
-}
+constexpr std::array filas = {
+    Fila{Codigo::CaracterIncorrecto, u"caracter-incorrecto", {}},
+    Fila{Codigo::TokenInesperado, u"token-inesperado", {}},
+    Fila{Codigo::BusquedaDesbocada, u"busqueda-desbocada", {}},
+    Fila{Codigo::ReparacionAgotada, u"reparacion-agotada",
+         u"No se siguió más allá de este error: no se encontró a tiempo cómo arreglarlo."},
+    Fila{Codigo::Cancelado, u"cancelado", u"La operación se ha cancelado."},
+    Fila{Codigo::Utf8Incorrecto, u"utf8-incorrecto", u"Los bytes del texto no son UTF-8."},
+    Fila{Codigo::SinGramatica, u"sin-gramatica",
+         u"El lenguaje no tiene reglas con las que analizar un texto."},
+    Fila{Codigo::TablaIncorrecta, u"tabla-incorrecta",
+         u"La tabla SLR del lenguaje es incorrecta: {hallado}."},
+    Fila{Codigo::CodigoMalEscrito, u"codigo-mal-escrito", {}},
+    Fila{Codigo::ReferenciaDesconocida, u"referencia-desconocida", {}},
+    Fila{Codigo::PatronIncorrecto, u"patron-incorrecto", {}},
+    Fila{Codigo::VariableIndefinida, u"variable-indefinida", {}},
+    Fila{Codigo::TokenIndefinido, u"token-indefinido",
+         u"El token {hallado}, que usa una regla de {nombre}, no está definido.{propuesta}"},
+    Fila{Codigo::SinReglas, u"sin-reglas",
+         u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto."},
+    Fila{Codigo::Conflicto, u"conflicto", u"Conflicto {hallado} en {nombre}."},
+    Fila{Codigo::CapacidadSuperada, u"capacidad-superada", u"{hallado}"},
+    Fila{Codigo::ModuloIncorrecto, u"modulo-incorrecto", u"{hallado}"},
+    Fila{Codigo::ConflictosDistintos, u"conflictos-distintos",
+         u"La tabla tiene {hallado} conflictos, y aquí se esperaban {esperados}. Mire los que sobran, o "
+         u"ponga el número que hay."},
+    Fila{Codigo::TokenSinUsar, u"token-sin-usar",
+         u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
+         u"quítelo."},
+    Fila{Codigo::AuxiliarSinUsar, u"auxiliar-sin-usar",
+         u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
+    Fila{Codigo::TokenTapado, u"token-tapado",
+         u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
+         u"está antes. Pase {nombre} delante."},
+    Fila{Codigo::TokenRepetido, u"token-repetido",
+         u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
+    Fila{Codigo::PatronVacio, u"patron-vacio",
+         u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
+         u"al menos uno (con + en lugar de *, por ejemplo)."},
+    Fila{Codigo::VariableSinUsar, u"variable-sin-usar",
+         u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
+         u"reglas."},
+    Fila{Codigo::VariableInalcanzable, u"variable-inalcanzable",
+         u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
+         u"variables a las que tampoco se llega."},
+    Fila{Codigo::VariableImproductiva, u"variable-improductiva",
+         u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
+         u"vez una variable de la que no sale ninguno. Dele una que acabe."},
+    Fila{Codigo::Ciclo, u"ciclo",
+         u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
+         u"infinitos árboles. Quite una de esas reglas."},
+    Fila{Codigo::ReglaRepetida, u"regla-repetida",
+         u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
+    Fila{Codigo::NombreIncorrecto, u"nombre-incorrecto",
+         u"El nombre '{nombre}' tiene {hallado}. Los nombres se escriben con letras de la A a la Z, Ñ, "
+         u"cifras y '_', y no empiezan por cifra."},
+    Fila{Codigo::CabezaMinuscula, u"cabeza-minuscula",
+         u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
+         u"no se usan. Escríbala con mayúscula."},
+    Fila{Codigo::CabezaDispersa, u"cabeza-dispersa",
+         u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
+         u"se usan. Júntelas."},
+    Fila{Codigo::DirectivaDesconocida, u"directiva-desconocida",
+         u"No hay ninguna directiva '{nombre}': la línea no pide nada.{propuesta}"},
+    Fila{Codigo::DirectivaIncorrecta, u"directiva-incorrecta",
+         u"La directiva '{nombre}' no sabe qué hacer con '{hallado}'. Se esperaba {esperados}."},
+    Fila{Codigo::DirectivaSinEfecto, u"directiva-sin-efecto",
+         u"La directiva '{nombre}' no tiene efecto con el método clásico. Elija otro con una línea "
+         u"'% metodo: lalr"},
+    Fila{Codigo::DirectivaTardia, u"directiva-tardia",
+         u"La directiva '{nombre}' no pide nada aquí: va delante de la primera definición."},
+    Fila{Codigo::ConflictoCallado, u"conflicto-callado",
+         u"La tabla clásica calla un conflicto: ante {nombre} cabe también reducir por {hallado}. Con la "
+         u"línea '% metodo: lalr al principio se cuentan todos."},
+    Fila{Codigo::PrimerosDistintos, u"primeros-distintos",
+         u"El método clásico da por primeros de {nombre} {hallado}, y son {esperados}. Con la línea '% "
+         u"metodo: lalr al principio son los exactos."},
+    Fila{Codigo::SiguientesDistintos, u"siguientes-distintos",
+         u"El método clásico da por siguientes de {nombre} {hallado}, y son {esperados}. Con la línea '% "
+         u"metodo: lalr al principio son los exactos."},
+    Fila{Codigo::FraseRechazada, u"frase-rechazada",
+         u"La tabla clásica rechaza un texto que es de la gramática: {hallado}.{remedio}"},
+    Fila{Codigo::FraseDeMas, u"frase-de-mas",
+         u"La tabla clásica acepta un texto que no es de la gramática: {hallado}.{remedio}"},
+};
 
 const Fila& filaDe(Codigo codigo) {
-    static constexpr std::array todas = {
-        Fila{Codigo::CaracterIncorrecto, u"caracter-incorrecto", {}},
-        Fila{Codigo::TokenInesperado, u"token-inesperado", {}},
-        Fila{Codigo::BusquedaDesbocada, u"busqueda-desbocada", {}},
-        Fila{Codigo::ReparacionAgotada, u"reparacion-agotada",
-             u"No se siguió más allá de este error: no se encontró a tiempo cómo arreglarlo."},
-        Fila{Codigo::Cancelado, u"cancelado", u"La operación se ha cancelado."},
-        Fila{Codigo::Utf8Incorrecto, u"utf8-incorrecto", u"Los bytes del texto no son UTF-8."},
-        Fila{Codigo::SinGramatica, u"sin-gramatica",
-             u"El lenguaje no tiene reglas con las que analizar un texto."},
-        Fila{Codigo::TablaIncorrecta, u"tabla-incorrecta",
-             u"La tabla SLR del lenguaje es incorrecta: {hallado}."},
-        Fila{Codigo::CodigoMalEscrito, u"codigo-mal-escrito", {}},
-        Fila{Codigo::ReferenciaDesconocida, u"referencia-desconocida", {}},
-        Fila{Codigo::PatronIncorrecto, u"patron-incorrecto", {}},
-        Fila{Codigo::VariableIndefinida, u"variable-indefinida", {}},
-        Fila{Codigo::TokenIndefinido, u"token-indefinido",
-             u"El token {hallado}, que usa una regla de {nombre}, no está definido.{propuesta}"},
-        Fila{Codigo::SinReglas, u"sin-reglas",
-             u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto."},
-        Fila{Codigo::Conflicto, u"conflicto", u"Conflicto {hallado} en {nombre}."},
-        Fila{Codigo::CapacidadSuperada, u"capacidad-superada", u"{hallado}"},
-        Fila{Codigo::ModuloIncorrecto, u"modulo-incorrecto", u"{hallado}"},
-        Fila{Codigo::ConflictosDistintos, u"conflictos-distintos",
-             u"La tabla tiene {hallado} conflictos, y aquí se esperaban {esperados}. Mire los que sobran, o "
-             u"ponga el número que hay."},
-        Fila{Codigo::TokenSinUsar, u"token-sin-usar",
-             u"Ninguna regla usa el token {nombre}: no se acepta ningún texto que lo tenga. Úselo o "
-             u"quítelo."},
-        Fila{Codigo::AuxiliarSinUsar, u"auxiliar-sin-usar",
-             u"Nadie se refiere a la expresión regular {nombre} con <{nombre}>. Úsela o quítela."},
-        Fila{Codigo::TokenTapado, u"token-tapado",
-             u"El token {nombre} no gana nunca: sus textos, como '{hallado}', son de {esperados}, que "
-             u"está antes. Pase {nombre} delante."},
-        Fila{Codigo::TokenRepetido, u"token-repetido",
-             u"El token {nombre} ya tiene esta definición. Quite una de las dos."},
-        Fila{Codigo::PatronVacio, u"patron-vacio",
-             u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
-             u"al menos uno (con + en lugar de *, por ejemplo)."},
-        Fila{Codigo::VariableSinUsar, u"variable-sin-usar",
-             u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
-             u"reglas."},
-        Fila{Codigo::VariableInalcanzable, u"variable-inalcanzable",
-             u"De la variable inicial, {hallado}, no se llega a {nombre}: solo la usan "
-             u"variables a las que tampoco se llega."},
-        Fila{Codigo::VariableImproductiva, u"variable-improductiva",
-             u"De la variable {nombre} no sale ningún texto: todas sus reglas piden otra "
-             u"vez una variable de la que no sale ninguno. Dele una que acabe."},
-        Fila{Codigo::Ciclo, u"ciclo",
-             u"La variable {nombre} deriva en sí misma sin leer nada ({hallado}): cada texto suyo tiene "
-             u"infinitos árboles. Quite una de esas reglas."},
-        Fila{Codigo::ReglaRepetida, u"regla-repetida",
-             u"La regla {nombre} -> {hallado} ya está escrita. Quite una de las dos."},
-        Fila{Codigo::NombreIncorrecto, u"nombre-incorrecto",
-             u"El nombre '{nombre}' tiene {hallado}. Los nombres se escriben con letras de la A a la Z, Ñ, "
-             u"cifras y '_', y no empiezan por cifra."},
-        Fila{Codigo::CabezaMinuscula, u"cabeza-minuscula",
-             u"La cabeza {nombre} empieza por minúscula: en los cuerpos es un token y sus reglas "
-             u"no se usan. Escríbala con mayúscula."},
-        Fila{Codigo::CabezaDispersa, u"cabeza-dispersa",
-             u"Las reglas de {nombre} no están seguidas, y las que se apartan de las primeras no "
-             u"se usan. Júntelas."},
-        Fila{Codigo::DirectivaDesconocida, u"directiva-desconocida",
-             u"No hay ninguna directiva '{nombre}': la línea no pide nada.{propuesta}"},
-        Fila{Codigo::DirectivaIncorrecta, u"directiva-incorrecta",
-             u"La directiva '{nombre}' no sabe qué hacer con '{hallado}'. Se esperaba {esperados}."},
-        Fila{Codigo::DirectivaSinEfecto, u"directiva-sin-efecto",
-             u"La directiva '{nombre}' no tiene efecto con el método clásico. Elija otro con una línea "
-             u"'% metodo: lalr"},
-        Fila{Codigo::DirectivaTardia, u"directiva-tardia",
-             u"La directiva '{nombre}' no pide nada aquí: va delante de la primera definición."},
-    };
-    const auto* const sitio = std::ranges::find(todas, codigo, &Fila::codigo);
-    return sitio != todas.end() ? *sitio : filaDelContraste(codigo);
+    return *std::ranges::find(filas, codigo, &Fila::codigo);
 }
 
 std::u16string rellena(std::u16string_view palabras, const Partes& partes) {

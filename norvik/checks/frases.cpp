@@ -121,26 +121,27 @@ private:
         anota(derivaciones_.conRegla(regla, 0, nuevas));
     }
 
-    // Files a text of the sentence, and what its tree uses; false when there is no new one.
+    // Files a text of the sentence; false when there is no new one.
     bool anota(const Derivaciones::Frase& frase) {
         const auto texto = escribe(frase);
         if (!texto) return false;
-        const Analisis analisis = analiza(lenguaje_, *texto);
-        for (std::size_t i = 0; i < analisis.arbol.numNodos(); ++i)
-            if (const std::int16_t regla = analisis.arbol[i].regla(); regla > 0)
-                usadas_[static_cast<std::size_t>(regla) - 1] = true;
         auto suyo = mal_ ? estropea(frase) : texto;
         if (!suyo || !vistos_.insert(*suyo).second) return false;
         textos_.push_back(std::move(*suyo));
         return true;
     }
 
-    // An accepted text of a sentence, with the blanks that it takes.
+    // An accepted text of a sentence, with the blanks that it takes; its tree's rules are used.
     std::optional<std::u16string> escribe(const Derivaciones::Frase& frase) {
         const std::vector<std::u16string_view> tokens = elige(frase);
         for (const std::u16string_view entre : separadores) {
             std::u16string texto = une(tokens, entre);
-            if (analiza(lenguaje_, texto, unError)) return texto;
+            const Analisis analisis = analiza(lenguaje_, texto, unError);
+            if (!analisis) continue;
+            for (std::size_t i = 0; i < analisis.arbol.numNodos(); ++i)
+                if (const std::int16_t regla = analisis.arbol[i].regla(); regla > 0)
+                    usadas_[static_cast<std::size_t>(regla) - 1] = true;
+            return texto;
         }
         return std::nullopt;
     }

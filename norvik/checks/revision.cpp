@@ -65,7 +65,7 @@ bool esDeNombre(char16_t c) {
 }
 
 // A wrong character among letters is one of a name, which is then told whole.
-void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacion) {
+void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacion, const Lugares& lugares) {
     if (diagnostico.codigo != Codigo::CaracterIncorrecto) return;
     const auto sitio = static_cast<std::size_t>(diagnostico.rango.inicio.desplazamiento);
     const auto fin = static_cast<std::size_t>(
@@ -80,7 +80,17 @@ void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacio
     diagnostico.codigo = Codigo::NombreIncorrecto;
     diagnostico.partes.nombre = nombre;
     diagnostico.partes.esperados.clear();
-    diagnostico.rango = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
+    diagnostico.rango = lugares.rango(inicio, fin);
+}
+
+// One that has several wrong characters is told once.
+void situaNombres(std::vector<Diagnostico>& hallazgos, std::u16string_view especificacion) {
+    const Lugares lugares(especificacion, Lugares::Unidad::Utf16);
+    for (Diagnostico& hallazgo : hallazgos) ensanchaANombre(hallazgo, especificacion, lugares);
+    const auto sobran = std::ranges::unique(hallazgos, [](const Diagnostico& uno, const Diagnostico& otro) {
+        return uno.codigo == Codigo::NombreIncorrecto && otro.codigo == uno.codigo && uno.rango == otro.rango;
+    });
+    hallazgos.erase(sobran.begin(), sobran.end());
 }
 
 // What a review works on.
@@ -130,8 +140,8 @@ Revisada reune(std::u16string_view especificacion, const OpcionesCompilacion& op
     const Directivas& directivas = revisada.directivas;
     Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
     if (!analisis) {
-        for (Diagnostico& diagnostico : analisis.diagnosticos) ensanchaANombre(diagnostico, especificacion);
         revisada.hallazgos = std::move(analisis.diagnosticos);
+        situaNombres(revisada.hallazgos, especificacion);
         return revisada;
     }
     Compilacion compilacion = compilaEspecificacion(analisis, directivas);

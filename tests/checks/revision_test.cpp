@@ -72,6 +72,7 @@ TEST(Revision, CadaFaltaEnSuLugarYSolaElla) {
         {u"Token a = \"a\";\nS -> a b;\nb -> a;", "2:8 token-indefinido S b ~a\n3:1 cabeza-minuscula b\n"},
         {u"Token a = \"a\";\nS -> B;\nB -> a;\nS -> a;\n", "4:1 cabeza-dispersa S [2:1]\n"},
         {u"Token ni-o = \"a\";\nS -> a;", "1:7 nombre-incorrecto ni-o '-'\n"},
+        {u"Token n-i-o = \"a\";\nS -> a;", "1:7 nombre-incorrecto n-i-o '-'\n"},
         {u"Token a = \"a\";\nS -> a | # ;",
          "2:10 caracter-incorrecto '#' ~identificador ~simbolo de cadena vacía (Ø:Alt 0216)\n"},
         {u"'% metdo: lalr\nToken a = \"a\";\nS -> a;", "1:1 directiva-desconocida metdo ~metodo\n"},
