@@ -58,6 +58,7 @@ std::vector<Textos> escriturasDe(const Lenguaje& lenguaje) {
 
 std::vector<bool> queTienen(const std::vector<Textos>& escrituras) {
     std::vector<bool> tienen;
+    tienen.reserve(escrituras.size());
     for (const Textos& suyas : escrituras) tienen.push_back(!suyas.empty());
     return tienen;
 }

@@ -87,10 +87,10 @@ void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacio
 void situaNombres(std::vector<Diagnostico>& hallazgos, std::u16string_view especificacion) {
     const Lugares lugares(especificacion, Lugares::Unidad::Utf16);
     for (Diagnostico& hallazgo : hallazgos) ensanchaANombre(hallazgo, especificacion, lugares);
-    const auto sobran = std::ranges::unique(hallazgos, [](const Diagnostico& uno, const Diagnostico& otro) {
+    const auto esElMismo = [](const Diagnostico& uno, const Diagnostico& otro) {
         return uno.codigo == Codigo::NombreIncorrecto && otro.codigo == uno.codigo && uno.rango == otro.rango;
-    });
-    hallazgos.erase(sobran.begin(), sobran.end());
+    };
+    hallazgos.erase(std::unique(hallazgos.begin(), hallazgos.end(), esElMismo), hallazgos.end());
 }
 
 // What a review works on.
