@@ -236,7 +236,7 @@ private:
     std::u16string celda(std::int16_t fila, std::int16_t columna) const {
         const std::int16_t valor =
             g_.tabla.entrada(static_cast<std::int16_t>(fila - 1), static_cast<std::int16_t>(columna - 1));
-        const std::u16string texto = escapaHtml(celdaTabla(g_.tabla, fila, columna));
+        std::u16string texto = escapaHtml(celdaTabla(g_.tabla, fila, columna));
         if (valor == 0 || valor == TablaLR::aceptar) return texto;
         const std::u16string lugar = valor > 0 ? u"e" + aTexto(valor) : u"r" + aTexto(-valor);
         return u"<a href=\"#" + lugar + u"\">" + texto + u"</a>";
@@ -290,7 +290,8 @@ std::u16string grafoDeAutomata(const GramaticaLR& g) {
     };
     for (const estadoAutomata& e : g.automata.estados) {
         const std::u16string numero = aTexto(e.getNumEstado());
-        grafo += numero + u" [URL=\"#e" + numero + u"\"];\n";
+        grafo += numero;
+        grafo += u" [URL=\"#e" + numero + u"\"];\n";
         if (e.getNumEstado() == 0) flecha(0, 1, g.partidas.texto(g.partidas.cabeza(1)));
         std::set<Simbolo> vistos;
         for (std::size_t i = 0; i < e.items().size(); ++i) {

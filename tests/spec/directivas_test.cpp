@@ -69,7 +69,7 @@ TEST(Directivas, LaPrecedenciaLeeLasExpresionesComoSeEscriben) {
         std::vector<int> asociacion;
         for (std::size_t i = 0; i < operadores.size(); ++i) niveles.push_back(hasta(3));
         std::u16string directivas = u"'% metodo: ";
-        directivas += metodos[static_cast<std::size_t>(1 + hasta(3))].first;
+        directivas += metodos.begin()[1 + hasta(3)].first;
         for (int n = 0; n < 3; ++n) {
             asociacion.push_back(hasta(3));
             directivas += u"\n'% " + palabras[asociacion.back()] + u":  otro";
