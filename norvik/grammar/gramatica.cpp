@@ -18,15 +18,15 @@ namespace norvik {
 
 namespace {
 
-AutomataLR automataDe(const ReglasPartidas& reglas, Metodo metodo) {
-    switch (metodo) {
+AutomataLR automataDe(const ReglasPartidas& reglas, const OpcionesTabla& opciones) {
+    switch (opciones.metodo) {
     case Metodo::Clasico:
         return clasico::creaAutomata(reglas);
     case Metodo::Slr:
     case Metodo::Lalr:
         return exacto::creaAutomata(exacto::Producciones(reglas));
     case Metodo::Lr1:
-        return exacto::creaAutomataLr1(exacto::Producciones(reglas));
+        return exacto::creaAutomataLr1(exacto::Producciones(reglas), opciones.precedencias);
     }
     return {};
 }
@@ -120,7 +120,7 @@ void gramatica::creaAutomata() {
     valores_.automata = AutomataLR();
     numEstados_ = 0;
     try {
-        valores_.automata = automataDe(partidas(), metodo());
+        valores_.automata = automataDe(partidas(), opciones_);
         numEstados_ = a16(valores_.automata.estados.size());
     } catch (...) {
         olvidaGenerado();

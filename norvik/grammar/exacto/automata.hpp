@@ -4,6 +4,7 @@
 
 #include "norvik/grammar/automataLR.hpp"
 #include "norvik/grammar/exacto/producciones.hpp"
+#include "norvik/grammar/precedencia.hpp"
 
 namespace norvik::exacto {
 
@@ -12,7 +13,9 @@ namespace norvik::exacto {
 /// a state's item 1001.
 AutomataLR creaAutomata(const Producciones& producciones);
 
-/// An LR(1) automaton whose states are merged wherever that keeps it free of new conflicts; raises the same.
-AutomataLR creaAutomataLr1(const Producciones& producciones);
+/// An LR(1) automaton whose states are merged wherever that changes nothing of what is done before a token,
+/// conflicts settled as the table settles them. Raises the same, and `Desbordamiento` when there are too many
+/// conflicts.
+AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias);
 
 } // namespace norvik::exacto

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 
-// The LR(1) automaton with merged states (Pager 1977). A state is a kernel whose items carry their
-// look-aheads. Two states of one kernel are merged when no token of one item's look-aheads in the first is
-// among those of another item in the second: then each token finds in the merged state the items that it
-// finds in one of the two, and no conflict is new. (Pager merges also where a conflict stands already; that
-// could decide it otherwise, so it is not done here.) Look-aheads of a state that grow are handed on to its
-// successors, which may then have to be others; states that nothing leads to any more are dropped at the end.
+// The LR(1) automaton with merged states. A state is a kernel whose items carry their look-aheads, and goes
+// into one of the same kernel that does the same with every token, there and further on (Pager 1977, who asks
+// less of it; what must be the same is told by Denny and Malloy 2010: inadecuaciones.cpp). Look-aheads of a
+// state that grow are handed on to its successors, which may then have to be others; states that nothing
+// leads to any more are dropped at the end. A first round, where any two of a kernel are merged, gives the
+// LALR(1) automaton; the questions are put to that, and where there are none it is the answer.
 #include "norvik/grammar/exacto/automata.hpp"
 
 #include "norvik/base/errores.hpp"
 #include "norvik/grammar/exacto/estados.hpp"
+#include "norvik/grammar/exacto/inadecuaciones.hpp"
+#include "norvik/grammar/exacto/nucleoLr1.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -21,32 +23,26 @@ namespace norvik::exacto {
 
 namespace {
 
-// An item with its look-aheads.
-struct ItemLr1 {
-    Item item;
-    Bits adelantos;
-};
+using Clave = std::vector<std::pair<std::int16_t, std::int16_t>>;
 
-using Nucleo1 = std::vector<ItemLr1>;
-
-bool estaContenido(const Nucleo1& uno, const Nucleo1& otro) {
-    for (std::size_t i = 0; i < uno.size(); ++i)
-        if (Bits(otro[i].adelantos).une(uno[i].adelantos)) return false;
-    return true;
+Clave claveDe(const NucleoLr1& nucleo) {
+    Clave clave;
+    clave.reserve(nucleo.size());
+    for (const ItemLr1& i : nucleo) clave.emplace_back(i.item.regla, i.item.punto);
+    return clave;
 }
 
-bool sePuedenUnir(const Nucleo1& uno, const Nucleo1& otro) {
-    for (std::size_t i = 0; i < uno.size(); ++i)
-        for (std::size_t j = 0; j < uno.size(); ++j)
-            if (i != j && uno[i].adelantos.tieneAlgunoDe(otro[j].adelantos)) return false;
-    return true;
-}
+// What states of one kernel must have in common.
+using Condiciones = std::map<Clave, Inadecuaciones>;
 
 class ConstructorLr1 {
 public:
-    explicit ConstructorLr1(const Producciones& producciones) : producciones_(producciones) {}
+    /// Without a condition any two states of a kernel are merged.
+    ConstructorLr1(const Producciones& producciones, const Prioridades& prioridades,
+                   const Condiciones& condiciones)
+        : producciones_(producciones), prioridades_(prioridades), condiciones_(condiciones) {}
 
-    std::vector<EstadoLR> estados() {
+    void construye() {
         Bits final(producciones_.numSimbolos());
         final.inserta(ReglasPartidas::finTexto);
         nuevo({{{0, 0}, std::move(final)}});
@@ -56,11 +52,12 @@ public:
             enCola_[estado] = false;
             avanza(estado);
         }
-        return std::move(estados_);
     }
+    const std::vector<EstadoLR>& estados() const { return estados_; }
+    const std::vector<NucleoLr1>& nucleos() const { return nucleos_; }
 
 private:
-    std::size_t nuevo(Nucleo1 nucleo) {
+    std::size_t nuevo(NucleoLr1 nucleo) {
         constexpr std::size_t maximo = 20'000; // those that are dropped included
         if (estados_.size() == maximo)
             throw Desbordamiento(
@@ -79,35 +76,8 @@ private:
         pendientes_.push_back(estado);
     }
 
-    // The look-aheads of the rules that a kernel brings in, by variable: what follows it where it stands.
-    std::map<Simbolo, Bits> adelantosDelCierre(const Nucleo1& nucleo) const {
-        std::map<Simbolo, Bits> adelantos;
-        std::deque<Simbolo> pendientes;
-        const auto reparte = [&](Item item, const Bits& suyos) {
-            const Simbolo simbolo = simboloTras(producciones_, item);
-            const bool abre = simbolo != ReglasPartidas::sinSimbolo &&
-                              (item.regla == 0 || producciones_.esVariable(simbolo));
-            if (!abre) return;
-            const Cuerpo cuerpo = item.regla == 0 ? Cuerpo() : producciones_.cuerpo(item.regla);
-            Bits detras(producciones_.numSimbolos());
-            const Cuerpo resto =
-                item.regla == 0 ? cuerpo : cuerpo.subspan(static_cast<std::size_t>(item.punto) + 1);
-            if (producciones_.uneComienzo(resto, detras)) detras.une(suyos);
-            const auto [sitio, primera] = adelantos.try_emplace(simbolo, producciones_.numSimbolos());
-            if (sitio->second.une(detras) || primera) pendientes.push_back(simbolo);
-        };
-        for (const auto& [item, suyos] : nucleo) reparte(item, suyos);
-        while (!pendientes.empty()) {
-            const Simbolo variable = pendientes.front();
-            pendientes.pop_front();
-            const Bits suyos = adelantos.at(variable);
-            for (const std::int16_t regla : producciones_.de(variable)) reparte({regla, 0}, suyos);
-        }
-        return adelantos;
-    }
-
     void avanza(std::size_t estado) {
-        std::map<Simbolo, Nucleo1> destinos;
+        std::map<Simbolo, NucleoLr1> destinos;
         const auto reune = [&](Item item, const Bits& adelantos) {
             const Simbolo simbolo = simboloTras(producciones_, item);
             if (simbolo != ReglasPartidas::sinSimbolo)
@@ -115,7 +85,7 @@ private:
                     {{item.regla, static_cast<std::int16_t>(item.punto + 1)}, adelantos});
         };
         for (const auto& [item, suyos] : nucleos_[estado]) reune(item, suyos);
-        for (const auto& [variable, suyos] : adelantosDelCierre(nucleos_[estado]))
+        for (const auto& [variable, suyos] : adelantosDelCierre(producciones_, nucleos_[estado]))
             for (const std::int16_t regla : producciones_.de(variable)) reune({regla, 0}, suyos);
         std::vector<std::pair<Simbolo, std::size_t>> enlaces;
         for (auto& [simbolo, nucleo] : destinos) {
@@ -125,18 +95,18 @@ private:
         estados_[estado].destinos = std::move(enlaces);
     }
 
-    // One that has all these look-aheads, else one that can take them, else a new one.
-    std::size_t estadoPara(Nucleo1 nucleo) {
-        std::vector<std::pair<std::int16_t, std::int16_t>> clave;
-        for (const ItemLr1& i : nucleo) clave.emplace_back(i.item.regla, i.item.punto);
-        std::vector<std::size_t>& iguales = porNucleo_[clave];
-        for (const std::size_t estado : iguales)
-            if (estaContenido(nucleo, nucleos_[estado])) return estado;
+    std::size_t estadoPara(NucleoLr1 nucleo) {
+        Clave clave = claveDe(nucleo);
+        const auto condicion = condiciones_.find(clave);
+        std::vector<std::size_t>& iguales = porNucleo_[std::move(clave)];
         for (const std::size_t estado : iguales) {
-            if (!sePuedenUnir(nucleo, nucleos_[estado])) continue;
+            if (condicion != condiciones_.end() &&
+                !coinciden(condicion->second, prioridades_, nucleo, nucleos_[estado]))
+                continue;
+            bool crece = false;
             for (std::size_t i = 0; i < nucleo.size(); ++i)
-                nucleos_[estado][i].adelantos.une(nucleo[i].adelantos);
-            encola(estado);
+                crece = nucleos_[estado][i].adelantos.une(nucleo[i].adelantos) || crece;
+            if (crece) encola(estado);
             return estado;
         }
         const std::size_t estado = nuevo(std::move(nucleo));
@@ -145,18 +115,31 @@ private:
     }
 
     const Producciones& producciones_;
+    const Prioridades& prioridades_;
+    const Condiciones& condiciones_;
     std::vector<EstadoLR> estados_;
-    std::vector<Nucleo1> nucleos_; // of each state
-    std::vector<bool> enCola_;     // of each state
+    std::vector<NucleoLr1> nucleos_; // of each state
+    std::vector<bool> enCola_;       // of each state
     std::deque<std::size_t> pendientes_;
-    std::map<std::vector<std::pair<std::int16_t, std::int16_t>>, std::vector<std::size_t>> porNucleo_;
+    std::map<Clave, std::vector<std::size_t>> porNucleo_;
 };
 
 } // namespace
 
-AutomataLR creaAutomataLr1(const Producciones& producciones) {
+AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias) {
     if (producciones.cabezas().empty()) return {};
-    return acaba(producciones, ConstructorLr1(producciones).estados());
+    const Prioridades prioridades(producciones.reglas(), precedencias);
+    Condiciones condiciones;
+    ConstructorLr1 lalr(producciones, prioridades, condiciones);
+    lalr.construye();
+    auto inadecuaciones = buscaInadecuaciones(producciones, prioridades, lalr.estados(), lalr.nucleos());
+    for (std::size_t i = 0; i < inadecuaciones.size(); ++i)
+        if (!inadecuaciones[i].empty())
+            condiciones.emplace(claveDe(lalr.nucleos()[i]), std::move(inadecuaciones[i]));
+    if (condiciones.empty()) return acaba(producciones, lalr.estados());
+    ConstructorLr1 lr1(producciones, prioridades, condiciones);
+    lr1.construye();
+    return acaba(producciones, lr1.estados());
 }
 
 } // namespace norvik::exacto

@@ -15,6 +15,11 @@ public:
     Bits() = default;
     explicit Bits(std::size_t cuantos) : palabras_((cuantos + 63) / 64) {}
 
+    /// One as large, with nothing in it.
+    Bits vacioIgual() const { return Bits(palabras_.size() * 64); }
+    bool operator==(const Bits&) const = default;
+    bool operator<(const Bits& otro) const { return palabras_ < otro.palabras_; }
+
     bool contiene(std::size_t i) const { return (palabras_[i / 64] >> i % 64 & 1) != 0; }
     /// Says whether it is new.
     bool inserta(std::size_t i) {
@@ -22,10 +27,10 @@ public:
         palabras_[i / 64] |= std::uint64_t{1} << i % 64;
         return nuevo;
     }
-    /// Adds another set of the same size; says whether something was new.
+    /// Adds another set, no larger than this one; says whether something was new.
     bool une(const Bits& otro) {
         std::uint64_t nuevos = 0;
-        for (std::size_t i = 0; i < palabras_.size(); ++i) {
+        for (std::size_t i = 0; i < otro.palabras_.size(); ++i) {
             nuevos |= otro.palabras_[i] & ~palabras_[i];
             palabras_[i] |= otro.palabras_[i];
         }

@@ -16,7 +16,8 @@ GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones) {
     g.partidas = ReglasPartidas(g.reglas);
     const Producciones producciones(g.partidas);
     g.conjuntos = creaConjuntos(producciones);
-    g.automata = opciones.metodo == Metodo::Lr1 ? creaAutomataLr1(producciones) : creaAutomata(producciones);
+    g.automata = opciones.metodo == Metodo::Lr1 ? creaAutomataLr1(producciones, opciones.precedencias)
+                                                : creaAutomata(producciones);
     g.tabla = creaTabla(producciones, g.automata, opciones, {});
     return g;
 }

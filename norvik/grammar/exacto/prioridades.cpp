@@ -33,4 +33,17 @@ Decision Prioridades::decide(std::int16_t regla, Simbolo token) const {
     return Decision::Conflicto;
 }
 
+std::optional<std::int16_t> Prioridades::accion(Simbolo token, bool desplaza,
+                                                std::span<const std::int16_t> reglas) const {
+    std::optional<std::int16_t> reduce;
+    for (const std::int16_t regla : reglas) {
+        const Decision decision = desplaza ? decide(regla, token) : Decision::Conflicto;
+        if (decision == Decision::Ninguna) return std::int16_t{0};
+        if (decision == Decision::Desplaza) continue;
+        if (decision == Decision::Reduce) desplaza = false;
+        if (!reduce) reduce = static_cast<std::int16_t>(-regla);
+    }
+    return desplaza ? std::int16_t{1} : reduce;
+}
+
 } // namespace norvik::exacto

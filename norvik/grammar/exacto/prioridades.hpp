@@ -7,6 +7,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace norvik::exacto {
@@ -22,6 +24,10 @@ public:
 
     /// The tighter of both wins; within a level, as it associates. A conflict when one of them has none.
     Decision decide(std::int16_t regla, Simbolo token) const;
+    /// What is done before a token with these rules to reduce, in ascending order: 0, nothing; positive, the
+    /// shift; negative, the reduction of that rule; without a value when there is nothing to choose from.
+    std::optional<std::int16_t> accion(Simbolo token, bool desplaza,
+                                       std::span<const std::int16_t> reglas) const;
 
 private:
     std::size_t nivel(Simbolo token) const { return niveles_[static_cast<std::size_t>(token)]; }
