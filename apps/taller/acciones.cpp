@@ -77,6 +77,7 @@ void Acciones::describe() {
         {abrirLenguaje, s("&Abrir lenguaje…"), s("Ctrl+L")},
         {guardarEspecificacion, s("&Guardar la especificación como…")},
         {analizar, s("Anali&zar"), s("F8"), Dibujo::Analizar},
+        {revisar, s("&Revisar"), s("F7")},
         {informe, s("Ver &informe"), s("F9"), Dibujo::Informe},
         {acerca, s("&Acerca de Norvik")},
     });
@@ -100,7 +101,7 @@ void Acciones::ordena() {
           {&nuevoFormulario, &abrirFormulario, formulariosRecientes.menuAction(), &guardarFormulario,
            &guardarFormularioComo, raya, &anadir, &quitar, raya, &disenio, &propiedades});
     llena(lenguaje, {&nuevoLenguaje, &abrirLenguaje, ejemplos.menuAction(), &guardarEspecificacion, raya,
-                     &analizar, &informe});
+                     &analizar, &revisar, &informe});
     llena(ayuda, {&acerca});
 }
 

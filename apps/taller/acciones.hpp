@@ -18,7 +18,7 @@ public:
     QAction deshacer, rehacer, cortar, copiar, pegar, seleccionarTodo, buscar, reemplazar;
     QAction nuevoFormulario, abrirFormulario, guardarFormulario, guardarFormularioComo;
     QAction anadir, quitar, disenio, propiedades;
-    QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, analizar, informe;
+    QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, analizar, revisar, informe;
     QAction acerca;
 
     QMenu textosRecientes, formulariosRecientes, ejemplos;

@@ -8,9 +8,12 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/formatoTexto.hpp"
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <QFileInfo>
+
+#include <chrono>
 
 namespace norvik::taller {
 
@@ -129,6 +132,34 @@ void OrdenesLenguaje::vaAlError() {
 
 void OrdenesLenguaje::muestraInforme() {
     if (hayLenguaje()) formulario_.activo().norvik().control().MuestraInforme();
+}
+
+void OrdenesLenguaje::revisa() {
+    using namespace std::chrono_literals;
+    ElementoFormulario& elemento = formulario_.activo();
+    if (!hayEspecificacion(elemento.norvik())) {
+        sistema_.muestraMensaje({u"No hay ninguna especificación que revisar: el lenguaje de " +
+                                     elemento.nombre().toStdU16String() + u" no la lleva.",
+                                 {},
+                                 Icono::Informacion,
+                                 Botones::Aceptar});
+        return;
+    }
+    LimitesHistorias limites;
+    limites.porConflicto = 500ms;
+    limites.enTotal = 1'500ms; // the window waits for it
+    const std::u16string& especificacion = especificacionDe(elemento.norvik());
+    revision_.muestra(elemento.nombre(), especificacion, revisaConHistorias(especificacion, {}, limites));
+}
+
+void OrdenesLenguaje::pasaALalr() {
+    ElementoFormulario& elemento = formulario_.activo();
+    if (!hayEspecificacion(elemento.norvik())) return;
+    const std::u16string especificacion = conMetodo(especificacionDe(elemento.norvik()), Metodo::Lalr);
+    ponEspecificacion(elemento.norvik(), especificacion);
+    elemento.ponModulo({});
+    formulario_.ponModificado(true);
+    if (prepara(elemento)) revisa();
 }
 
 } // namespace norvik::taller

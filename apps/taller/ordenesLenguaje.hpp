@@ -7,6 +7,7 @@
 #include "formulario.hpp"
 #include "panelArbol.hpp"
 #include "panelMensaje.hpp"
+#include "ventanaRevision.hpp"
 
 namespace norvik::taller {
 
@@ -14,8 +15,9 @@ namespace norvik::taller {
 class OrdenesLenguaje {
 public:
     OrdenesLenguaje(Formulario& formulario, SistemaQt& sistema, Dialogos& dialogos, PanelArbol& arbol,
-                    PanelMensaje& mensaje)
-        : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje) {}
+                    PanelMensaje& mensaje, VentanaRevision& revision)
+        : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), arbol_(arbol), mensaje_(mensaje),
+          revision_(revision) {}
 
     /// Makes room for one that is to be written; false when the user gives up.
     bool nuevo();
@@ -32,6 +34,10 @@ public:
     void olvidaAnalisis();
     void vaAlError();
     void muestraInforme();
+    /// Shows what there is to say of the specification, and where the classic method leaves the grammar.
+    void revisa();
+    /// Makes the language that was reviewed one of the `lalr` method, and reviews it again.
+    void pasaALalr();
 
 private:
     bool prepara(ElementoFormulario& elemento);
@@ -43,6 +49,7 @@ private:
     Dialogos& dialogos_;
     PanelArbol& arbol_;
     PanelMensaje& mensaje_;
+    VentanaRevision& revision_;
     ModeloArbol::Hoja error_;
 };
 

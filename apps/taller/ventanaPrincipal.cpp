@@ -38,7 +38,7 @@ VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
                             QStringLiteral("recientes/formularios")),
       textos_(formulario_, sistema_, dialogos_, textosRecientes_),
       formularios_(formulario_, textos_, sistema_, dialogos_, formulariosRecientes_),
-      lenguajes_(formulario_, sistema_, dialogos_, arbol_, mensaje_) {
+      lenguajes_(formulario_, sistema_, dialogos_, arbol_, mensaje_, revision_) {
     setAcceptDrops(true);
     compone();
     conectaArchivo();
@@ -153,6 +153,9 @@ void VentanaPrincipal::conectaLenguaje() {
     conecta(a.guardarEspecificacion, [this] { lenguajes_.guardaEspecificacion(); });
     conecta(a.analizar, [this] { analiza(); });
     conecta(a.informe, [this] { lenguajes_.muestraInforme(); });
+    conecta(a.revisar, [this] { lenguajes_.revisa(); });
+    connect(&revision_, &VentanaRevision::pideLalr, this,
+            [this] { ejecuta(sistema_, [&] { lenguajes_.pasaALalr(); }); });
     connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { lenguajes_.vaAlError(); });
     connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
         formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema);

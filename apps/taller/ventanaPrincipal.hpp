@@ -36,6 +36,7 @@ public:
     Acciones& acciones() { return acciones_; }
     PanelArbol& arbol() { return arbol_; }
     PanelMensaje& mensaje() { return mensaje_; }
+    VentanaRevision& revision() { return revision_; }
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -72,6 +73,7 @@ private:
     Formulario formulario_{sistema_, &centro_};
     PanelMensaje mensaje_{&centro_};
     PanelArbol arbol_{this};
+    VentanaRevision revision_{this};
     QLabel lenguaje_, formato_, lugar_;
     OrdenesTexto textos_;
     OrdenesFormulario formularios_;

@@ -63,6 +63,22 @@ std::vector<LineaDirectiva> lineasDeDirectivas(std::u16string_view texto) {
     return lineas;
 }
 
+std::u16string conMetodo(std::u16string_view especificacion, Metodo metodo) {
+    constexpr std::u16string_view palabra = u"metodo";
+    const auto nombre = std::ranges::find(metodos, metodo, [](const auto& par) { return par.second; })->first;
+    const std::u16string linea = std::u16string(marca).append(palabra).append(u": ").append(nombre);
+    std::u16string otra(especificacion);
+    bool dicho = false;
+    for (const LineaDirectiva& suya : lineasDeDirectivas(cabecera(especificacion))) {
+        if (suya.palabra != palabra) continue;
+        otra.replace(suya.inicio + (otra.size() - especificacion.size()), suya.fin - suya.inicio, linea);
+        dicho = true;
+    }
+    if (dicho) return otra;
+    const bool soloLf = otra.find(u'\n') != std::u16string::npos && otra.find(u'\r') == std::u16string::npos;
+    return linea + (soloLf ? u"\n" : u"\r\n") + otra;
+}
+
 std::optional<Asociatividad> asociatividadDe(std::u16string_view palabra) {
     if (palabra == u"izquierda") return Asociatividad::Izquierda;
     if (palabra == u"derecha") return Asociatividad::Derecha;

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,6 +48,9 @@ std::u16string_view cabecera(std::u16string_view especificacion);
 
 inline constexpr std::array<std::u16string_view, 6> palabrasDeDirectivas{
     u"metodo", u"mayusculas", u"izquierda", u"derecha", u"sinasociar", u"conflictos"};
+
+/// A specification that asks for a method and is else as it was, line ends included.
+std::u16string conMetodo(std::u16string_view especificacion, Metodo metodo);
 
 /// Whether the word is known and has a use for the value.
 bool vale(const LineaDirectiva& linea);

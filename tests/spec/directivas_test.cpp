@@ -2,6 +2,7 @@
 
 #include "apoyo/anfitrion.hpp"
 #include "norvik/report/modulo.hpp"
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/spec/lenguaje.hpp"
@@ -12,6 +13,7 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using namespace norvik;
@@ -58,6 +60,21 @@ std::string forma(const Nodo& nodo) {
     std::string texto;
     for (const Nodo hijo : nodo.hijos()) texto += forma(hijo);
     return nodo.numHijos() == 1 ? texto : "(" + texto + ")";
+}
+
+TEST(Directivas, PonerUnMetodoNoCambiaNadaMas) {
+    const std::tuple<std::u16string, std::u16string> casos[] = {
+        {u"", u"'% metodo: lr1\r\n"},
+        {u"Token a = \"a\";\nS -> a;\n", u"'% metodo: lr1\nToken a = \"a\";\nS -> a;\n"},
+        {u"' nota\r\nS -> a;", u"'% metodo: lr1\r\n' nota\r\nS -> a;"},
+        {u"' nota\n'% metodo: clasico\n\nS -> a;", u"' nota\n'% metodo: lr1\n\nS -> a;"},
+        {u"'% metodo: x\n'% izquierda: a\n'% metodo: lalr\nS -> a;\n'% metodo: slr\n",
+         u"'% metodo: lr1\n'% izquierda: a\n'% metodo: lr1\nS -> a;\n'% metodo: slr\n"},
+    };
+    for (const auto& [antes, despues] : casos) {
+        EXPECT_EQ(aUtf8(conMetodo(antes, Metodo::Lr1)), aUtf8(despues));
+        EXPECT_EQ(aUtf8(conMetodo(despues, Metodo::Lr1)), aUtf8(despues));
+    }
 }
 
 TEST(Directivas, LaPrecedenciaLeeLasExpresionesComoSeEscriben) {

@@ -130,6 +130,28 @@ TEST_F(TallerTest, DeshechoTodoNadaEstaModificado) {
     EXPECT_TRUE(cierra());
 }
 
+TEST_F(TallerTest, RevisarDiceLaVerdadYUnPasoLaArregla) {
+    ordena(a.revisar); // without a specification there is nothing to review
+    EXPECT_EQ(dialogos.toma().size(), 1);
+    EXPECT_TRUE(ventana.revision().isHidden());
+    ventana.abre(pon("s.nvk", "Token a = \"a\"; Token b = \"b\"; Token c = \"c\"; Token d = \"d\";\n"
+                              "S -> A a | b; A -> A c | S d | Ø;\n"));
+    norvik().control().Text(u"bda");
+    ordena(a.analizar);
+    EXPECT_FALSE(ventana.mensaje().texto().isEmpty());
+    ordena(a.revisar);
+    EXPECT_TRUE(ventana.revision().isVisible());
+    EXPECT_TRUE(ventana.revision().texto().contains("a d a")) << ventana.revision().texto().toStdString();
+    EXPECT_TRUE(ventana.revision().texto().contains("línea 2, columna"));
+    ventana.revision().pasarALalr().click();
+    EXPECT_EQ(especificacionDe(norvik()).substr(0, 17), u"'% metodo: lalr\r\n");
+    EXPECT_TRUE(ventana.formulario().modificado());
+    EXPECT_FALSE(ventana.revision().texto().contains("a d a"));
+    EXPECT_TRUE(ventana.revision().pasarALalr().isHidden());
+    ordena(a.analizar);
+    EXPECT_EQ(ventana.mensaje().texto(), "");
+}
+
 TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     const QString otro = pon("otro.txt", "otro");
     escribe("mio");
