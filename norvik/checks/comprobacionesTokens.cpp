@@ -11,6 +11,7 @@
 #include "norvik/lexer/reconocedor.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -24,6 +25,8 @@ namespace norvik {
 namespace {
 
 using Definicion = FuenteEspecificacion::Definicion;
+
+constexpr auto plazoDePatrones = std::chrono::seconds(3); // for all tokens together
 
 Diagnostico aviso(Codigo codigo, const Rango& lugar, Partes partes) {
     return {codigo, Gravedad::Aviso, lugar, std::move(partes)};
@@ -66,10 +69,6 @@ void compruebaRepetidas(const FuenteEspecificacion& fuente, std::vector<Diagnost
     }
 }
 
-bool puedeNoTomarNada(const expresionRegular& definicion) {
-    return !definicion.expReg->esPalabra() && !definicion.expReg->ejecuta(u"", Presupuesto()).empty();
-}
-
 /// A text of a token that another one won.
 struct Perdida {
     std::u16string texto;
@@ -78,8 +77,14 @@ struct Perdida {
 
 class Concurso {
 public:
-    explicit Concurso(const DefinicionesTokens& definiciones)
-        : tokens_(definiciones.tokens()), reconocedor_(definiciones) {}
+    // The budget outlives it.
+    Concurso(const DefinicionesTokens& definiciones, const Presupuesto& presupuesto)
+        : tokens_(definiciones.tokens()), reconocedor_(definiciones), presupuesto_(presupuesto) {}
+
+    bool puedeNoTomarNada(std::size_t numero) const {
+        const Emparejador& patron = *tokens_[numero]->expReg;
+        return !patron.esPalabra() && !patron.ejecuta(u"", presupuesto_).empty();
+    }
 
     // Nothing when a token wins one of its texts, or none of them is known.
     std::optional<Perdida> pierdeSiempre(std::size_t numero) {
@@ -89,7 +94,7 @@ public:
         const std::vector<std::u16string> textos =
             token.expReg->esPalabra()
                 ? std::vector{token.expReg->texto()}
-                : muestrasDe(token.expReg->texto(), token.expReg->ignoraMayusculas(), muestras);
+                : muestrasDe(token.expReg->texto(), token.expReg->ignoraMayusculas(), muestras, presupuesto_);
         for (const std::u16string& texto : textos) {
             const std::size_t ganador = gana(texto);
             if (tokens_[ganador]->nomToken == token.nomToken) return std::nullopt;
@@ -100,12 +105,13 @@ public:
 
 private:
     std::size_t gana(std::u16string_view texto) {
-        reconocedor_.reconoce(texto, Presupuesto(), mapa_);
+        reconocedor_.reconoce(texto, presupuesto_, mapa_);
         return static_cast<std::size_t>(mapa_.en(0)->patron); // one that takes the text was found in it
     }
 
     const std::vector<const expresionRegular*>& tokens_;
     Reconocedor reconocedor_;
+    const Presupuesto& presupuesto_;
     MapaCoincidencias mapa_;
 };
 
@@ -121,6 +127,20 @@ void situaDefecto(const Definicion& d, const DefinicionesTokens& anteriores,
     suyo->partes.relacionados.push_back({suyo->rango, std::u16string(palabras::motivo(defecto->motivo))});
 }
 
+// A token whose pattern can take nothing, or that never wins.
+void compruebaPatron(std::size_t numero, const std::vector<const Definicion*>& deToken, Concurso& concurso,
+                     std::vector<Diagnostico>& hallazgos) {
+    const Definicion& d = *deToken[numero];
+    if (concurso.puedeNoTomarNada(numero))
+        hallazgos.push_back(aviso(Codigo::PatronVacio, d.lugarTexto, {d.nombre, {}, {}, {}}));
+    const auto perdida = concurso.pierdeSiempre(numero);
+    if (!perdida) return;
+    const Definicion& ganador = *deToken[perdida->ganador];
+    hallazgos.push_back(
+        aviso(Codigo::TokenTapado, d.lugarNombre,
+              {d.nombre, perdida->texto, {ganador.nombre}, {{ganador.lugarNombre, ganador.nombre}}}));
+}
+
 void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
                        std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
@@ -130,16 +150,17 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
         if (!registrada) situaDefecto(d, lexico.definiciones(), hallazgos);
         if (registrada && d.esToken) deToken.push_back(&d);
     }
-    Concurso concurso(lexico.definiciones());
+    const Presupuesto presupuesto(plazoDePatrones);
+    Concurso concurso(lexico.definiciones(), presupuesto);
     for (std::size_t i = 0; i < deToken.size(); ++i) {
-        const Definicion& d = *deToken[i];
-        if (puedeNoTomarNada(*lexico.tokensLenguaje()[i]))
-            hallazgos.push_back(aviso(Codigo::PatronVacio, d.lugarTexto, {d.nombre, {}, {}, {}}));
-        if (const auto perdida = concurso.pierdeSiempre(i)) {
-            const Definicion& ganador = *deToken[perdida->ganador];
-            hallazgos.push_back(
-                aviso(Codigo::TokenTapado, d.lugarNombre,
-                      {d.nombre, perdida->texto, {ganador.nombre}, {{ganador.lugarNombre, ganador.nombre}}}));
+        try {
+            presupuesto.exige();
+            compruebaPatron(i, deToken, concurso, hallazgos);
+        } catch (const BusquedaDesbocada&) {
+            if (!presupuesto.agotado()) throw;
+            const Definicion& d = *deToken[i];
+            return hallazgos.push_back(
+                aviso(Codigo::BusquedaDesbocada, d.lugarTexto, {d.nombre, {}, {}, {}}));
         }
     }
 }

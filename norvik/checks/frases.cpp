@@ -35,14 +35,16 @@ std::vector<Textos> escriturasDe(const Lenguaje& lenguaje) {
     const Vocabulario& vocabulario = lenguaje.vocabulario();
     std::vector<Textos> escrituras(vocabulario.tokens.size());
     const auto& definiciones = lenguaje.datos().lexico.tokensLenguaje();
-    for (std::size_t i = 0; i < definiciones.size(); ++i) {
+    const Presupuesto presupuesto; // of all tokens together
+    for (std::size_t i = 0; i < definiciones.size() && !presupuesto.agotado(); ++i) {
         const Emparejador& patron = *definiciones[i]->expReg;
         const std::int16_t token = vocabulario.definiciones[i].token;
         Textos& suyas = escrituras[static_cast<std::size_t>(token) - 1];
-        const Textos posibles = patron.esPalabra()
-                                    ? Textos{patron.texto()}
-                                    : muestrasDe(patron.texto(), patron.ignoraMayusculas(), muestras);
+        const Textos posibles =
+            patron.esPalabra() ? Textos{patron.texto()}
+                               : muestrasDe(patron.texto(), patron.ignoraMayusculas(), muestras, presupuesto);
         for (const std::u16string& texto : posibles) {
+            if (presupuesto.agotado()) break;
             const Lexemas leidos = lexemas(lenguaje, texto);
             const bool esEl = leidos.diagnosticos.empty() && leidos.size() == 1 && leidos[0].token == token &&
                               leidos[0].texto == texto && !leidos[0].esComentario;

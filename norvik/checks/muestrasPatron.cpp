@@ -6,7 +6,6 @@
 // dropped. The walk keeps its open groups in a list.
 #include "norvik/checks/muestrasPatron.hpp"
 
-#include "norvik/base/presupuesto.hpp"
 #include "norvik/pattern/emparejador.hpp"
 #include "norvik/pattern/patron.hpp"
 
@@ -131,8 +130,8 @@ bool loTomaEntero(const Emparejador& emparejador, const std::u16string& texto) t
 
 } // namespace
 
-std::vector<std::u16string> muestrasDe(std::u16string_view texto, bool ignoraMayusculas,
-                                       std::size_t cuantas) {
+std::vector<std::u16string> muestrasDe(std::u16string_view texto, bool ignoraMayusculas, std::size_t cuantas,
+                                       const Presupuesto& presupuesto) {
     const auto patron = leePatron(texto, ignoraMayusculas);
     const auto emparejador = Emparejador::compila(texto, ignoraMayusculas);
     std::vector<std::u16string> muestras;
@@ -141,6 +140,7 @@ std::vector<std::u16string> muestrasDe(std::u16string_view texto, bool ignoraMay
     for (const ClaseLeida& clase : patron->clases) clases.emplace_back(clase, ignoraMayusculas);
     Azar azar(1);
     for (std::size_t intentos = 4 * cuantas; intentos > 0 && muestras.size() < cuantas; --intentos) {
+        if (presupuesto.agotado()) break;
         const std::u16string muestra = Paseo(*patron, clases, azar).texto();
         const bool esNueva = !muestra.empty() && std::ranges::find(muestras, muestra) == muestras.end();
         if (esNueva && loTomaEntero(*emparejador, muestra)) muestras.push_back(muestra);

@@ -4,6 +4,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/palabras.hpp"
+#include "norvik/base/texto.hpp"
 
 #include <cstdint>
 #include <limits>
@@ -13,6 +14,7 @@ namespace norvik {
 
 namespace {
 
+constexpr std::size_t maximoPatrones = std::size_t{8} << 20; // in characters, of all together
 constexpr std::u16string_view finalDelFichero = u"final del fichero";
 
 bool esFinal(std::u16string_view token) {
@@ -27,6 +29,11 @@ const std::vector<const expresionRegular*>* DefinicionesTokens::llamadas(std::u1
 }
 
 void DefinicionesTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
+    const std::size_t largo = definicion->expresion.size();
+    if (largo > maximoPatrones - caracteres_)
+        throw Desbordamiento(u"Desbordamiento: con la definición '" + definicion->nomER +
+                             u"' los patrones del lenguaje, ya sustituidas sus referencias, pasan de " +
+                             aTexto(std::int64_t{maximoPatrones}) + u" caracteres");
     if (todas_.size() == std::numeric_limits<std::int16_t>::max())
         throw Desbordamiento(u"Desbordamiento: el lenguaje pasa de 32767 definiciones de tokens");
     todas_.push_back(std::move(definicion));
@@ -41,12 +48,14 @@ void DefinicionesTokens::archiva(std::unique_ptr<expresionRegular> definicion, b
         todas_.pop_back();
         throw;
     }
+    caracteres_ += largo;
 }
 
 void DefinicionesTokens::vacia() {
     porNombre_.clear();
     tokens_.clear();
     todas_.clear();
+    caracteres_ = 0;
 }
 
 std::u16string DefinicionesTokens::lexemasPorToken(std::u16string_view token) const {

@@ -23,7 +23,8 @@ public:
     /// The definitions of a name, null when none bears it.
     const std::vector<const expresionRegular*>* llamadas(std::u16string_view nombre) const;
 
-    /// Adds a definition whose pattern is well formed. Raises `Desbordamiento` beyond 32,767 definitions.
+    /// Adds a definition whose pattern is well formed. Raises `Desbordamiento` beyond 32,767 definitions,
+    /// and when all patterns together, which double as they refer to each other, become too long.
     void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
     void vacia();
 
@@ -36,6 +37,7 @@ private:
     std::vector<std::unique_ptr<expresionRegular>> todas_;
     std::vector<const expresionRegular*> tokens_;
     std::unordered_map<std::u16string_view, std::vector<const expresionRegular*>> porNombre_;
+    std::size_t caracteres_ = 0; ///< of all patterns
 };
 
 } // namespace norvik

@@ -46,7 +46,8 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
     const auto desde = std::min(Texto.size(), static_cast<std::size_t>(inicio) - 1);
     const auto rango = Texto.substr(desde, static_cast<std::size_t>(longitud));
     if (!reconocedor_) reconocedor_.emplace(definiciones_);
-    reconocedor_->reconoce(rango, Presupuesto(), mapaTokens_.reinicia(inicio, rango));
+    reconocedor_->reconoce(rango, Presupuesto(Presupuesto::plazoComun, cancelacion),
+                           mapaTokens_.reinicia(inicio, rango));
     return mapaTokens_;
 }
 

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,6 +59,8 @@ public:
     /// El lenguaje pidió distinguir mayúsculas, y sus módulos lo dicen; cada definición sigue lo que se le
     /// diga al registrarla. `Inicializa` lo quita.
     bool distingueMayusculas = false;
+    /// Con él otro hilo acaba pronto un reconocimiento, que lanza entonces `OperacionCancelada`.
+    std::stop_token cancelacion;
 
     /// Olvida las definiciones y el mapa de tokens; los colores se quedan.
     void Inicializa();
@@ -75,7 +78,8 @@ public:
     const DefinicionesTokens& definiciones() const { return definiciones_; }
 
     /// Registra una definición, con el color de su clase. Da su primer error, sin lugar, y entonces no
-    /// registra nada. Lanza `Desbordamiento` pasadas 32 767 definiciones.
+    /// registra nada. Lanza `Desbordamiento` pasadas 32 767 definiciones, y cuando los patrones de todas
+    /// pasan de 8 388 608 caracteres.
     std::optional<Diagnostico> registra(const DefinicionTexto& definicion);
     /// Lo mismo de una definición cuyo texto es ya un patrón.
     std::optional<Diagnostico> registraPatron(const DefinicionTexto& definicion);
@@ -93,8 +97,9 @@ public:
     /// Reconoce los tokens de las posiciones `TextStart` a `TextEnd` - 1, desde 1 (-1: desde la primera,
     /// hasta la última); lo que pasa del final del texto se corta. El mapa es del analizador, y la llamada
     /// siguiente lo vuelve a llenar. Lanza `Desbordamiento` si el texto o las posiciones no caben en 16 bits,
-    /// `BusquedaDesbocada` si la búsqueda de una definición pide demasiado, y `ArgumentoNoValido` con un
-    /// principio por debajo de 1 o un final delante del principio. Tras un fallo el mapa está vacío.
+    /// `BusquedaDesbocada` si la búsqueda de una definición pide demasiado, `OperacionCancelada`, y
+    /// `ArgumentoNoValido` con un principio por debajo de 1 o un final delante del principio. Tras un fallo
+    /// el mapa está vacío.
     MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
                                std::int16_t TextEnd = -1);
     /// El mapa del último reconocimiento.

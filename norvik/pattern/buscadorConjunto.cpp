@@ -81,7 +81,7 @@ private:
 
     // Returns those that are still to be tried alone.
     std::uint64_t pruebaJuntas(std::uint64_t cuales, std::size_t posicion) {
-        conjunto_.coinciden(enCurso_.texto, posicion, cuales, intentos_);
+        conjunto_.coinciden(enCurso_.texto, posicion, cuales, intentos_, enCurso_.gasto);
         const std::uint64_t decididas = cuales & ~intentos_.indecisos;
         paraCadaBit(intentos_.coinciden,
                     [&](std::size_t lugar) { halla(lugar, posicion, intentos_.fin[lugar]); });
@@ -145,7 +145,7 @@ void Grupo::reune() {
 void Grupo::busca(const EnCurso& enCurso) {
     constexpr std::size_t tramo = 1024;
     const std::u16string_view texto = enCurso.texto;
-    for (const PatronNumerado& patron : patrones_) patron.busqueda->empieza(texto);
+    for (const PatronNumerado& patron : patrones_) patron.busqueda->empieza(texto, enCurso.gasto);
     Pasada pasada(enCurso, *conjunto_, patrones_);
     for (std::size_t desde = 0; desde < texto.size(); desde += tramo) {
         enCurso.gasto.anota(tramo * maximo);
@@ -160,7 +160,7 @@ void Grupo::busca(const EnCurso& enCurso) {
 
 void buscaSola(const PatronNumerado& sola, const EnCurso& enCurso) {
     BusquedaPatron& busqueda = *sola.busqueda;
-    busqueda.empieza(enCurso.texto);
+    busqueda.empieza(enCurso.texto, enCurso.gasto);
     for (std::size_t i = busqueda.inicioPosible(0); i <= enCurso.texto.size();) {
         const Intento intento = busqueda.intenta(i, enCurso.gasto);
         if (intento.tipo == Intento::Tipo::Coincide) enCurso.mapa.guarda(i, sola.numero, intento.fin - i);
@@ -168,12 +168,16 @@ void buscaSola(const PatronNumerado& sola, const EnCurso& enCurso) {
     }
 }
 
+// To make a pattern ready, and to keep a word.
+constexpr std::size_t pasosPorUnidad = 64;
+constexpr std::size_t bytesPorUnidad = sizeof(char16_t) + sizeof(std::uint16_t);
+
 } // namespace
 
 // The patterns, each ready for its way of searching.
 class BuscadorConjunto::Preparados {
 public:
-    void aniade(const Emparejador& patron, std::int32_t numero);
+    void aniade(const Emparejador& patron, std::int32_t numero, Gasto& gasto);
     void reune() {
         palabras_.ordena();
         for (Grupo& grupo : grupos_) grupo.reune();
@@ -187,15 +191,17 @@ private:
     std::vector<PatronNumerado> solas_;
 };
 
-void BuscadorConjunto::Preparados::aniade(const Emparejador& patron, std::int32_t numero) {
+void BuscadorConjunto::Preparados::aniade(const Emparejador& patron, std::int32_t numero, Gasto& gasto) {
+    gasto.anota((patron.texto().size() + 1) * pasosPorUnidad);
     const bool ignora = patron.ignoraMayusculas();
     if (patron.esPalabra() && patron.texto().size() <= IndicePalabras::maximo)
         return palabras_.aniade(patron.texto(), ignora, numero);
     if (patron.esPalabra()) {
+        gasto.ocupa(patron.texto().size() * bytesPorUnidad);
         largas_.push_back({BusquedaPalabra(patron.texto(), ignora), numero});
         return;
     }
-    auto busqueda = std::make_unique<BusquedaPatron>(*leePatron(patron.texto(), ignora));
+    auto busqueda = std::make_unique<BusquedaPatron>(*leePatron(patron.texto(), ignora), gasto);
     if (busqueda->automata() == nullptr) {
         solas_.push_back({std::move(busqueda), numero});
         return;
@@ -228,16 +234,15 @@ BuscadorConjunto::~BuscadorConjunto() = default;
 
 void BuscadorConjunto::busca(std::u16string_view texto, const Presupuesto& presupuesto,
                              MapaCoincidencias& mapa) {
-    constexpr std::size_t pasosPorUnidad = 64; // to make a pattern ready
     a32(texto.size());
-    Gasto gasto(presupuesto);
+    Gasto gasto(presupuesto, cabida_);
     try {
         if (!preparados_) {
+            cabida_ = Cabida();
             auto preparados = std::make_unique<Preparados>();
             for (std::size_t i = 0; i < patrones_.size(); ++i) {
                 ultimoPatron_ = static_cast<std::int32_t>(i);
-                gasto.anota((patrones_[i]->texto().size() + 1) * pasosPorUnidad);
-                preparados->aniade(*patrones_[i], ultimoPatron_);
+                preparados->aniade(*patrones_[i], ultimoPatron_, gasto);
             }
             preparados->reune();
             preparados_ = std::move(preparados);

@@ -37,6 +37,7 @@ private:
     class Preparados;
 
     std::vector<const Emparejador*> patrones_;
+    Cabida cabida_;                          ///< of all that is kept below
     std::unique_ptr<Preparados> preparados_; ///< made by the first search
     std::int32_t ultimoPatron_ = 0;
 };

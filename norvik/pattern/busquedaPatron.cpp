@@ -8,13 +8,29 @@
 
 namespace norvik {
 
-BusquedaPatron::BusquedaPatron(const Patron& patron) : BusquedaPatron(PatronListo(patron)) {}
+namespace {
 
-BusquedaPatron::BusquedaPatron(const PatronListo& patron)
-    : primeras_(patron.primeras()), programa_(patron), automata_(Automata::de(programa_)) {}
+std::size_t bytesDe(const Programa& programa) {
+    std::size_t bytes = sizeof(BusquedaPatron) + programa.codigo.size() * 2 * sizeof(Instruccion) +
+                        programa.bucles.size() * sizeof(Bucle);
+    for (const ClaseUnidades& clase : programa.clases)
+        bytes += sizeof clase + clase.rangos().size() * sizeof(RangoUnidades);
+    return bytes;
+}
 
-void BusquedaPatron::empieza(std::u16string_view sujeto) {
+} // namespace
+
+BusquedaPatron::BusquedaPatron(const Patron& patron, Gasto& gasto)
+    : BusquedaPatron(PatronListo(patron), gasto) {}
+
+BusquedaPatron::BusquedaPatron(const PatronListo& patron, Gasto& gasto)
+    : primeras_(patron.primeras()), programa_(patron), automata_(Automata::de(programa_, gasto)) {
+    gasto.ocupa(bytesDe(programa_));
+}
+
+void BusquedaPatron::empieza(std::u16string_view sujeto, Gasto& gasto) {
     sujeto_ = sujeto;
+    gasto.cabida().devuelve(recuerdo_.size() * Automata::bytesPorRecuerdo);
     recuerdo_.clear();
 }
 

@@ -15,13 +15,14 @@ namespace norvik {
 /// so far. One search at a time; after a failure the next one is as good as the first.
 class BusquedaPatron {
 public:
-    explicit BusquedaPatron(const Patron& patron);
+    /// Raises what `Gasto` does.
+    BusquedaPatron(const Patron& patron, Gasto& gasto);
     BusquedaPatron(const BusquedaPatron&) = delete;
     BusquedaPatron& operator=(const BusquedaPatron&) = delete;
     ~BusquedaPatron() = default;
 
     /// Begins with a subject, which outlives the search.
-    void empieza(std::u16string_view sujeto);
+    void empieza(std::u16string_view sujeto, Gasto& gasto);
     /// The first position from `i` on where a match can begin; beyond the end when there is none.
     std::size_t inicioPosible(std::size_t i) const;
     /// The match that starts at a position; positions come in ascending order. Never undecided. Raises what
@@ -35,7 +36,7 @@ public:
     const ClaseUnidades* primeras() const { return primeras_ ? &*primeras_ : nullptr; }
 
 private:
-    explicit BusquedaPatron(const PatronListo& patron);
+    BusquedaPatron(const PatronListo& patron, Gasto& gasto);
 
     std::optional<ClaseUnidades> primeras_;
     Programa programa_;

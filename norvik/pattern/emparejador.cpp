@@ -27,8 +27,8 @@ Coincidencia coincidencia(std::size_t inicio, std::size_t longitud) {
 }
 
 std::vector<Coincidencia> buscaPatron(const Patron& patron, std::u16string_view sujeto, Gasto& gasto) {
-    BusquedaPatron busqueda(patron);
-    busqueda.empieza(sujeto);
+    BusquedaPatron busqueda(patron, gasto);
+    busqueda.empieza(sujeto, gasto);
     std::vector<Coincidencia> coincidencias;
     for (std::size_t i = busqueda.inicioPosible(0); i <= sujeto.size();) {
         const Intento intento = busqueda.intenta(i, gasto);
@@ -54,7 +54,8 @@ std::optional<Emparejador> Emparejador::compila(std::u16string_view patron, bool
 std::vector<Coincidencia> Emparejador::ejecuta(std::u16string_view sujeto,
                                                const Presupuesto& presupuesto) const {
     a32(sujeto.size());
-    Gasto gasto(presupuesto);
+    Cabida cabida;
+    Gasto gasto(presupuesto, cabida);
     if (!esPalabra_) return buscaPatron(*leePatron(texto_, ignoraMayusculas_), sujeto, gasto);
     std::vector<Coincidencia> coincidencias;
     const BusquedaPalabra busqueda(texto_, ignoraMayusculas_);

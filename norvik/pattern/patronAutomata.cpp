@@ -33,6 +33,15 @@ constexpr std::size_t gruposMaximos = 250;
 constexpr std::size_t caminoCorto = 256;
 constexpr std::size_t pasoRecuerdo = 64; // positions between two that long walks remember
 
+// What there is no room for is forgotten: later walks take longer.
+void recuerda(const std::vector<std::uint64_t>& lugares, Automata::Recuerdo& recuerdo, Gasto& gasto) {
+    for (const std::uint64_t lugar : lugares) {
+        if (recuerdo.contains(lugar)) continue;
+        if (!gasto.cabida().toma(Automata::bytesPorRecuerdo)) return;
+        recuerdo.insert(lugar);
+    }
+}
+
 constexpr bool esAsercion(Operacion operacion) {
     return operacion == Operacion::Inicio || operacion == Operacion::Final ||
            operacion == Operacion::Frontera || operacion == Operacion::NoFrontera;
@@ -45,7 +54,7 @@ Detras detrasDe(std::u16string_view sujeto, std::size_t posicion) {
     return esDePalabra(sujeto[posicion - 1]) ? Detras::Palabra : Detras::NoPalabra;
 }
 
-std::optional<Automata> Automata::de(const Programa& programa) {
+std::optional<Automata> Automata::de(const Programa& programa, Gasto& gasto) {
     using enum Operacion;
     const bool sirve = programa.codigo.size() <= instruccionesMaximas &&
                        !programa.usaAlguna({Referencia, Guarda, PreparaBucle, AbreDelante, AbreDelanteNo});
@@ -55,17 +64,18 @@ std::optional<Automata> Automata::de(const Programa& programa) {
     automata.miraAtras_ = automata.conFronteras_ || programa.usaAlguna({Inicio});
     if (!automata.reparteUnidades()) return std::nullopt;
     automata.visitadas_.resize(programa.codigo.size());
-    automata.numeroDe({});
+    automata.numeroDe({}, gasto);
     for (const Detras detras : {Detras::Principio, Detras::NoPalabra, Detras::Palabra})
-        automata.iniciales_[static_cast<std::size_t>(detras)] = automata.numeroInicial(detras);
+        automata.iniciales_[static_cast<std::size_t>(detras)] = automata.numeroInicial(detras, gasto);
+    if (std::ranges::find(automata.iniciales_, desconocido) != automata.iniciales_.end()) return std::nullopt;
     return automata;
 }
 
-Automata::Numero Automata::numeroInicial(Detras detras) {
+Automata::Numero Automata::numeroInicial(Detras detras, Gasto& gasto) {
     Estado estado;
     estado.detras = detras;
     sigueTodos({0}, {detras}, estado.hilos);
-    return numeroDe(std::move(estado));
+    return numeroDe(std::move(estado), gasto);
 }
 
 Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recuerdo& recuerdo, Gasto& gasto) {
@@ -77,11 +87,11 @@ Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recue
     for (std::size_t i = inicio;; ++i) {
         if (completa_[estado] != Completa::No) intento = {Intento::Tipo::Coincide, finEn(estado, i)};
         if (i == largo) return caminaLargo(sujeto, i, estado, intento, recuerdo, gasto);
-        const Numero destino = siguiente(estado, sujeto[i]);
+        const Numero destino = siguiente(estado, sujeto[i], gasto);
         if (destino == desconocido) return {Intento::Tipo::Indeciso, 0};
         if (destino == muerto) {
             if (intento.tipo == Intento::Tipo::Nada)
-                intento.fin = saltaEnVano(sujeto, inicio + 1, racha, i, estado);
+                intento.fin = saltaEnVano(sujeto, inicio + 1, racha, i, estado, gasto);
             return intento;
         }
         if (destino != estado) racha = i + 1;
@@ -93,9 +103,9 @@ Intento Automata::coincide(std::u16string_view sujeto, std::size_t inicio, Recue
 // to this state in between end like it: the first position from `inicio` on whose walk does not do so at
 // once.
 std::size_t Automata::saltaEnVano(std::u16string_view sujeto, std::size_t inicio, std::size_t desde,
-                                  std::size_t hasta, Numero estado) {
+                                  std::size_t hasta, Numero estado, Gasto& gasto) {
     std::size_t i = inicio;
-    while (i + 1 >= desde && i < hasta && siguiente(inicialEn(sujeto, i), sujeto[i]) == estado) ++i;
+    while (i + 1 >= desde && i < hasta && siguiente(inicialEn(sujeto, i), sujeto[i], gasto) == estado) ++i;
     return i;
 }
 
@@ -105,7 +115,7 @@ Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero 
                               Recuerdo& recuerdo, Gasto& gasto) {
     std::vector<std::uint64_t> enVano;
     for (; i < sujeto.size(); ++i) {
-        estado = siguiente(estado, sujeto[i]);
+        estado = siguiente(estado, sujeto[i], gasto);
         if (estado == desconocido) return {Intento::Tipo::Indeciso, 0};
         if (estado == muerto) break;
         if (completa_[estado] != Completa::No) {
@@ -119,7 +129,7 @@ Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero 
         }
     }
     if (i == sujeto.size() && aceptaAlFinal_[estado] != 0) return {Intento::Tipo::Coincide, i};
-    recuerdo.insert(enVano.begin(), enVano.end());
+    recuerda(enVano, recuerdo, gasto);
     return intento;
 }
 
@@ -221,7 +231,8 @@ bool Automata::estaCompleto(const Hilos& hilos) const {
     return !hilos.empty() && programa_->codigo[hilos.back()].operacion == Operacion::Acepta;
 }
 
-Automata::Numero Automata::calcula(Numero estado, std::size_t grupo) {
+Automata::Numero Automata::calcula(Numero estado, std::size_t grupo, Gasto& gasto) {
+    gasto.anota(2 * programa_->codigo.size());
     const char16_t unidad = muestras_[grupo];
     const Estado& actual = *estados_[estado];
     Hilos hilos = actual.hilos;
@@ -237,19 +248,25 @@ Automata::Numero Automata::calcula(Numero estado, std::size_t grupo) {
     std::erase_if(hilos, [&](std::uint32_t i) { return !toma(i, unidad); });
     for (std::uint32_t& i : hilos) ++i;
     sigueTodos(hilos, {nuevo.detras}, nuevo.hilos);
-    const Numero siguiente = numeroDe(std::move(nuevo));
+    const Numero siguiente = numeroDe(std::move(nuevo), gasto);
     if (siguiente != desconocido) transiciones_[celda(estado, grupo)] = siguiente;
     return siguiente;
 }
 
-Automata::Numero Automata::numeroDe(Estado estado) {
+std::size_t Automata::bytesDe(const Estado& estado) const {
+    constexpr std::size_t deNodo = 64;
+    return deNodo + sizeof(Estado) + estado.hilos.size() * sizeof(std::uint32_t) +
+           (sizeof(Numero) << anchura_);
+}
+
+Automata::Numero Automata::numeroDe(Estado estado, Gasto& gasto) {
     const bool esperan = espera(estado.hilos);
     const bool completo = estaCompleto(estado.hilos);
     if (!esperan) estado.detras = Detras::NoPalabra;
     if (completo) estado.completaAntes = false;
     if (const auto conocido = numeros_.find(estado); conocido != numeros_.end()) return conocido->second;
     const std::size_t numero = numeros_.size();
-    if (numero >= estadosMaximos) return desconocido;
+    if (numero >= estadosMaximos || !gasto.cabida().toma(bytesDe(estado))) return desconocido;
     // Until the number is filed, what stands in its place is nobody's, and is written anew.
     estados_.resize(numero + 1);
     completa_.resize(numero + 1);

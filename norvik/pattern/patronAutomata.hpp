@@ -27,22 +27,24 @@ struct Intento {
 enum class Detras : std::uint8_t { Principio, NoPalabra, Palabra };
 Detras detrasDe(std::u16string_view sujeto, std::size_t posicion);
 
-/// A deterministic automaton of a pattern, built while it runs: one step a character. A failed step (there is
-/// no memory for one more state) leaves it as it was.
+/// A deterministic automaton of a pattern, built while it runs: one step a character. A failed step leaves it
+/// as it was.
 class Automata {
 public:
     using Numero = std::uint16_t;                           ///< a state's
     static constexpr Numero muerto = 0;                     ///< no match from here on
-    static constexpr Numero desconocido = 0xFFFF;           ///< the automaton has grown too large to tell
+    static constexpr Numero desconocido = 0xFFFF;           ///< there is no room for the state
     enum class Completa : std::uint8_t { No, Aqui, Antes }; ///< … where the last character began
 
-    /// Nothing when the program looks ahead, counts or refers back, or is too large. The program outlives the
-    /// automaton.
-    static std::optional<Automata> de(const Programa& programa);
+    /// Nothing when the program looks ahead, counts or refers back, or is too large for it or for the room.
+    /// The program outlives the automaton. Raises what `Presupuesto::exige` does, as every step can that
+    /// makes a state.
+    static std::optional<Automata> de(const Programa& programa, Gasto& gasto);
 
     /// What walks over one subject leave for the next ones: at some positions, states from which no match is
     /// completed.
     using Recuerdo = std::unordered_set<std::uint64_t>;
+    static constexpr std::size_t bytesPorRecuerdo = 48; ///< about, of the room
 
     /// The match that starts at `inicio`; undecided once the automaton has grown too large. `recuerdo` is
     /// empty at the first attempt on a subject. Raises what `Presupuesto::exige` does.
@@ -51,10 +53,10 @@ public:
     /// The same step by step. Only a pattern that looks back has more than one initial state.
     bool miraAtras() const { return miraAtras_; }
     Numero inicial(Detras detras) const { return iniciales_[static_cast<std::size_t>(detras)]; }
-    Numero siguiente(Numero estado, char16_t unidad) {
+    Numero siguiente(Numero estado, char16_t unidad, Gasto& gasto) {
         const std::size_t columna = grupoDe(unidad);
         const Numero conocido = transiciones_[celda(estado, columna)];
-        return conocido != desconocido ? conocido : calcula(estado, columna);
+        return conocido != desconocido ? conocido : calcula(estado, columna, gasto);
     }
     /// Whether a match is complete in a state, and where it ends.
     Completa completa(Numero estado) const { return completa_[estado]; }
@@ -92,7 +94,7 @@ private:
     bool sigueTodos(const Hilos& desde, Entorno entorno, Hilos& hilos);
     bool espera(const Hilos& hilos) const;
     bool estaCompleto(const Hilos& hilos) const;
-    Numero numeroInicial(Detras detras);
+    Numero numeroInicial(Detras detras, Gasto& gasto);
     std::size_t celda(Numero estado, std::size_t grupo) const {
         return (std::size_t{estado} << anchura_) + grupo;
     }
@@ -103,11 +105,12 @@ private:
         return completa_[estado] == Completa::Antes ? i - 1 : i;
     }
     std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t inicio, std::size_t desde,
-                            std::size_t hasta, Numero estado);
+                            std::size_t hasta, Numero estado, Gasto& gasto);
     Intento caminaLargo(std::u16string_view sujeto, std::size_t i, Numero estado, Intento intento,
                         Recuerdo& recuerdo, Gasto& gasto);
-    Numero calcula(Numero estado, std::size_t grupo);
-    Numero numeroDe(Estado estado);
+    Numero calcula(Numero estado, std::size_t grupo, Gasto& gasto);
+    Numero numeroDe(Estado estado, Gasto& gasto);
+    std::size_t bytesDe(const Estado& estado) const;
 
     const Programa* programa_;
     bool miraAtras_ = false;    // it has ^ or a boundary …

@@ -42,10 +42,10 @@ void AutomataConjunto::afina(const Automata& automata) {
 }
 
 void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio, std::uint64_t cuales,
-                                 Intentos& intentos) {
+                                 Intentos& intentos, Gasto& gasto) {
     intentos.coinciden = 0;
     intentos.indecisos = cuales;
-    const Numero primero = inicial(cuales, sujeto, inicio);
+    const Numero primero = inicial(cuales, sujeto, inicio, gasto);
     Numero estado = primero;
     if (estado == desconocido) return;
     const std::size_t tope = std::min(sujeto.size(), inicio + camino);
@@ -54,7 +54,7 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
         Numero destino = estado;
         while (destino == estado) {
             i = finDeEstancia(estado, sujeto, i, tope);
-            destino = i < tope ? siguiente(estado, sujeto[i]) : desconocido;
+            destino = i < tope ? siguiente(estado, sujeto[i], gasto) : desconocido;
         }
         const Mascaras aqui = mascaras_[estado];
         intentos.coinciden |= aqui.todosCompletos();
@@ -65,7 +65,8 @@ void AutomataConjunto::coinciden(std::u16string_view sujeto, std::size_t inicio,
         const std::uint64_t siguen = mascaras_[destino].vivos;
         const std::uint64_t fallidos = aqui.vivos & ~siguen & ~intentos.coinciden;
         if (fallidos != 0) {
-            const std::size_t enVano = saltaEnVano(sujeto, inicio + 1, racha, i, cuales, primero, estado);
+            const std::size_t enVano =
+                saltaEnVano(sujeto, inicio + 1, racha, i, cuales, primero, estado, gasto);
             paraCadaBit(fallidos, [&](std::size_t lugar) { intentos.fin[lugar] = enVano; });
         }
         intentos.indecisos = siguen;
@@ -87,16 +88,16 @@ std::size_t AutomataConjunto::finDeEstancia(Numero estado, std::u16string_view s
 // in between end like them: the first position from `i` on whose walk does not do so at once.
 std::size_t AutomataConjunto::saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde,
                                           std::size_t hasta, std::uint64_t cuales, Numero primero,
-                                          Numero estado) {
+                                          Numero estado, Gasto& gasto) {
     for (; i + 1 >= desde && i < hasta; ++i) {
-        if (miraAtras_) primero = inicial(cuales, sujeto, i);
-        if (primero == desconocido || siguiente(primero, sujeto[i]) != estado) break;
+        if (miraAtras_) primero = inicial(cuales, sujeto, i, gasto);
+        if (primero == desconocido || siguiente(primero, sujeto[i], gasto) != estado) break;
     }
     return i;
 }
 
 AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, std::u16string_view sujeto,
-                                                   std::size_t posicion) {
+                                                   std::size_t posicion, Gasto& gasto) {
     const char16_t unidad = sujeto[posicion];
     if (unidad >= clases_.size()) return desconocido;
     const Detras detras = detrasEn(sujeto, posicion);
@@ -110,28 +111,29 @@ AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, std::u1
         paraCadaBit(cuales, [&](std::size_t lugar) {
             miembros.push_back({static_cast<std::uint8_t>(lugar), automatas_[lugar]->inicial(detras)});
         });
-        sitio = iniciales_.emplace(clave, numeroDe(std::move(miembros))).first;
+        sitio = iniciales_.emplace(clave, numeroDe(std::move(miembros), gasto)).first;
     }
     ultima = {cuales, sitio->second};
     return ultima.numero;
 }
 
-AutomataConjunto::Numero AutomataConjunto::calcula(Numero estado, char16_t unidad) {
+AutomataConjunto::Numero AutomataConjunto::calcula(Numero estado, char16_t unidad, Gasto& gasto) {
     Miembros miembros;
     for (const auto [lugar, suyo] : *miembros_[estado]) {
-        const Automata::Numero destino = automatas_[lugar]->siguiente(suyo, unidad);
+        const Automata::Numero destino = automatas_[lugar]->siguiente(suyo, unidad, gasto);
         if (destino == Automata::desconocido) return desconocido;
         if (destino != Automata::muerto) miembros.push_back({lugar, destino});
     }
-    const Numero destino = numeroDe(std::move(miembros));
+    const Numero destino = numeroDe(std::move(miembros), gasto);
     transiciones_[estado * numClases_ + clases_[unidad]] = destino;
     return destino;
 }
 
-AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros) {
+AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros, Gasto& gasto) {
     if (const auto conocido = numeros_.find(miembros); conocido != numeros_.end()) return conocido->second;
     const std::size_t numero = numeros_.size();
-    if (numero >= estadosMaximos) return desconocido;
+    const std::size_t bytes = 128 + miembros.size() * sizeof(Miembro) + numClases_ * sizeof(Numero);
+    if (numero >= estadosMaximos || !gasto.cabida().toma(bytes)) return desconocido;
     // Until the number is filed, what stands in its place is nobody's, and is written anew.
     miembros_.resize(numero + 1);
     mascaras_.resize(numero + 1);

@@ -39,8 +39,10 @@ public:
     /// At most `maximo` automata, which outlive it.
     explicit AutomataConjunto(std::vector<Automata*> miembros);
 
-    /// The matches of `cuales`, at least one, that start at `inicio`, a position of the subject.
-    void coinciden(std::u16string_view sujeto, std::size_t inicio, std::uint64_t cuales, Intentos& intentos);
+    /// The matches of `cuales`, at least one, that start at `inicio`, a position of the subject. Raises what
+    /// `Presupuesto::exige` does.
+    void coinciden(std::u16string_view sujeto, std::size_t inicio, std::uint64_t cuales, Intentos& intentos,
+                   Gasto& gasto);
 
 private:
     using Numero = std::uint16_t;
@@ -66,19 +68,19 @@ private:
     Detras detrasEn(std::u16string_view sujeto, std::size_t posicion) const {
         return miraAtras_ ? detrasDe(sujeto, posicion) : Detras::Principio;
     }
-    Numero inicial(std::uint64_t cuales, std::u16string_view sujeto, std::size_t posicion);
-    Numero siguiente(Numero estado, char16_t unidad) {
+    Numero inicial(std::uint64_t cuales, std::u16string_view sujeto, std::size_t posicion, Gasto& gasto);
+    Numero siguiente(Numero estado, char16_t unidad, Gasto& gasto) {
         if (unidad >= clases_.size()) return desconocido;
         const Numero conocido = transiciones_[estado * numClases_ + clases_[unidad]];
-        return conocido != desconocido ? conocido : calcula(estado, unidad);
+        return conocido != desconocido ? conocido : calcula(estado, unidad, gasto);
     }
-    Numero calcula(Numero estado, char16_t unidad);
-    Numero numeroDe(Miembros miembros);
+    Numero calcula(Numero estado, char16_t unidad, Gasto& gasto);
+    Numero numeroDe(Miembros miembros, Gasto& gasto);
     Mascaras mascarasDe(const Miembros& miembros) const;
     std::size_t finDeEstancia(Numero estado, std::u16string_view sujeto, std::size_t i,
                               std::size_t tope) const;
     std::size_t saltaEnVano(std::u16string_view sujeto, std::size_t i, std::size_t desde, std::size_t hasta,
-                            std::uint64_t cuales, Numero primero, Numero estado);
+                            std::uint64_t cuales, Numero primero, Numero estado, Gasto& gasto);
 
     std::vector<Automata*> automatas_;
     bool miraAtras_ = false;                 // one of them does

@@ -34,8 +34,9 @@ Lenguaje acaba(std::shared_ptr<DatosDeLenguaje> datos) {
 
 class CompiladorLenguaje {
 public:
-    CompiladorLenguaje(NodoEspecificacion raiz, const Directivas& directivas)
-        : raiz_(raiz), directivas_(directivas) {
+    CompiladorLenguaje(NodoEspecificacion raiz, const Directivas& directivas,
+                       const std::stop_token& cancelacion)
+        : raiz_(raiz), directivas_(directivas), cancelacion_(cancelacion) {
         datos_->reglas.ponMetodo(directivas.tabla.metodo);
         datos_->reglas.ponPrecedencias(directivas.tabla.precedencias);
         datos_->lexico.distingueMayusculas = directivas.distingueMayusculas;
@@ -64,20 +65,29 @@ private:
         diagnosticos_.push_back({codigo, gravedad, rango, std::move(partes)});
     }
 
-    // False when a capacity was passed.
+    void sigue() const {
+        if (cancelacion_.stop_requested()) throw OperacionCancelada();
+    }
+
+    // False when a capacity was passed, or the compilation cancelled.
     bool registra() {
         Rango aqui;
         try {
             especificacion::recorre(
                 raiz_,
                 [&](const especificacion::Definicion<NodoEspecificacion>& d) {
+                    sigue();
                     aqui = d.patron.rango();
                     registra(d);
                 },
                 [&](const NodoEspecificacion& cabeza, const NodoEspecificacion& cuerpo) {
+                    sigue();
                     aqui = cabeza.rango();
                     registra(cabeza, cuerpo);
                 });
+        } catch (const OperacionCancelada&) {
+            anota(Codigo::Cancelado, Gravedad::Error, {}, {});
+            return false;
         } catch (const ErrorNorvik& error) {
             anota(Codigo::CapacidadSuperada, Gravedad::Error, aqui, {{}, error.texto(), {}, {}});
             return false;
@@ -130,9 +140,15 @@ private:
     bool genera() {
         gramatica& g = datos_->reglas;
         try {
+            sigue();
             g.creaConjuntos();
+            sigue();
             g.creaAutomata();
+            sigue();
             g.creaTablaSLR();
+        } catch (const OperacionCancelada&) {
+            anota(Codigo::Cancelado, Gravedad::Error, {}, {});
+            return false;
         } catch (const ErrorNorvik& error) {
             anota(Codigo::CapacidadSuperada, Gravedad::Error, raiz_.rango(), {{}, error.texto(), {}, {}});
             return false;
@@ -171,6 +187,7 @@ private:
 
     NodoEspecificacion raiz_;
     const Directivas& directivas_;
+    const std::stop_token& cancelacion_;
     std::shared_ptr<DatosDeLenguaje> datos_ = std::make_shared<DatosDeLenguaje>();
     std::vector<Diagnostico> diagnosticos_;
     std::set<std::u16string_view> tokens_;
@@ -283,9 +300,11 @@ Directivas directivasDe(std::u16string_view especificacion, const OpcionesCompil
     return directivas;
 }
 
-Compilacion compilaEspecificacion(const Analisis& especificacion, const Directivas& directivas) {
+Compilacion compilaEspecificacion(const Analisis& especificacion, const Directivas& directivas,
+                                  const std::stop_token& cancelacion) {
     if (!especificacion) return {std::nullopt, especificacion.diagnosticos};
-    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), directivas).compila();
+    return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), directivas, cancelacion)
+        .compila();
 }
 
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {

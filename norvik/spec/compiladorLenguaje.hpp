@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <stop_token>
 
 namespace norvik {
 
@@ -21,7 +22,8 @@ Directivas directivasDe(std::u16string_view especificacion, const OpcionesCompil
                         Lugares::Unidad unidad);
 
 /// Makes the language that a specification describes, of the analysis of its text.
-Compilacion compilaEspecificacion(const Analisis& especificacion, const Directivas& directivas);
+Compilacion compilaEspecificacion(const Analisis& especificacion, const Directivas& directivas,
+                                  const std::stop_token& cancelacion = {});
 
 /// Makes a language of the calls of a loading module.
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica);

@@ -63,14 +63,16 @@ bool Lenguaje::tieneGramatica() const {
 }
 
 Compilacion Lenguaje::compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacion),
-                                 directivasDe(especificacion, opciones, Lugares::Unidad::Utf16));
+    return compilaEspecificacion(
+        analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion}),
+        directivasDe(especificacion, opciones, Lugares::Unidad::Utf16), opciones.cancelacion);
 }
 
 Compilacion Lenguaje::compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones) {
     const std::u16string especificacion = desdeUtf8(especificacionUtf8).value_or(std::u16string());
-    return compilaEspecificacion(analiza(lenguajeDeEspecificaciones(), especificacionUtf8),
-                                 directivasDe(especificacion, opciones, Lugares::Unidad::Utf8));
+    return compilaEspecificacion(
+        analiza(lenguajeDeEspecificaciones(), especificacionUtf8, {opciones.cancelacion}),
+        directivasDe(especificacion, opciones, Lugares::Unidad::Utf8), opciones.cancelacion);
 }
 
 Compilacion Lenguaje::cargaModulo(std::u16string_view modulo) {

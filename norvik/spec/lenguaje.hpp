@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +25,8 @@ struct OpcionesCompilacion {
     /// Cómo se hace la tabla; lo que diga la especificación en una línea «'% metodo: lalr», si no dice nada
     /// aquí.
     std::optional<Metodo> metodo;
+    /// Acaba pronto la compilación, con el diagnóstico `Cancelado` y sin lenguaje.
+    std::stop_token cancelacion{};
 };
 
 /// Un lenguaje listo para usar: sus tokens, sus reglas y su tabla. No cambia nunca y copiarlo cuesta poco

@@ -173,13 +173,13 @@ TEST(Revision, GramaticasHostilesAcabanYElMensajeNoTieneHuecos) {
 TEST(MuestrasDePatron, SonDelPatronYSiempreLasMismas) {
     for (const std::u16string_view patron :
          {u"a|bc", u"[^a]x{2,4}", u"(a|b)\\1", u"(\\d+\\.)*\\d", u"\\bfin\\b"}) {
-        const auto muestras = muestrasDe(patron, true, 10);
+        const auto muestras = muestrasDe(patron, true, 10, Presupuesto());
         EXPECT_FALSE(muestras.empty()) << aUtf8(patron);
-        EXPECT_EQ(muestras, muestrasDe(patron, true, 10));
+        EXPECT_EQ(muestras, muestrasDe(patron, true, 10, Presupuesto()));
     }
-    EXPECT_EQ(muestrasDe(u"a|bc", true, 10).size(), 2U);
-    EXPECT_TRUE(muestrasDe(u"a(?=b)", true, 10).empty());
-    EXPECT_TRUE(muestrasDe(u"[]", true, 10).empty());
+    EXPECT_EQ(muestrasDe(u"a|bc", true, 10, Presupuesto()).size(), 2U);
+    EXPECT_TRUE(muestrasDe(u"a(?=b)", true, 10, Presupuesto()).empty());
+    EXPECT_TRUE(muestrasDe(u"[]", true, 10, Presupuesto()).empty());
 }
 
 } // namespace

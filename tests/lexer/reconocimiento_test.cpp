@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
@@ -107,6 +108,37 @@ TEST(Reconocimiento, UnaBusquedaDesbocadaNombraSuDefinicion) {
     }
     EXPECT_TRUE(lexico.mapaTokens().esVacio());
     EXPECT_EQ(lexico.ReconoceTokens(u"xxy").toString(), u"1 3 mala\n2 1 buena\n");
+}
+
+// Each pattern is a modest one; what they need together is not.
+TEST(Reconocimiento, LaMemoriaDeTodasLasDefinicionesTieneUnLimite) {
+    pilaTokens lexico;
+    const std::u16string clases = apoyo::repite(u"[ab]", 8000);
+    for (int i = 0; i < 250; ++i) registra(lexico, {{u"t" + aTexto(i), clases + aTexto(i)}});
+    for (int vez = 0; vez < 2; ++vez) {
+        try {
+            lexico.ReconoceTokens(u"ab");
+            FAIL();
+        } catch (const BusquedaDesbocada& error) {
+            EXPECT_FALSE(error.definicion().empty());
+        }
+    }
+    lexico.Inicializa();
+    registra(lexico, {{u"a", u"[ab]+"}});
+    EXPECT_EQ(lexico.ReconoceTokens(u"ab").toString(), u"1 2 a\n");
+}
+
+TEST(Reconocimiento, SePuedeCancelar) {
+    pilaTokens lexico;
+    registra(lexico, {{u"mala", u"(x*x*)*y"}});
+    std::stop_source fuente;
+    lexico.cancelacion = fuente.get_token();
+    EXPECT_EQ(lexico.ReconoceTokens(u"xy").toString(), u"1 2 mala\n");
+    fuente.request_stop();
+    EXPECT_THROW(lexico.ReconoceTokens(std::u16string(30000, u'x')), OperacionCancelada);
+    EXPECT_TRUE(lexico.mapaTokens().esVacio());
+    lexico.cancelacion = {};
+    EXPECT_EQ(lexico.ReconoceTokens(u"xy").toString(), u"1 2 mala\n");
 }
 
 // What fails for one definition says nothing of the positions within its walk.

@@ -127,6 +127,26 @@ TEST(Registro, LasDefinicionesQueSeDoblanSeParanEnElLimite) {
     EXPECT_EQ(registra(lexico, texto, u"n"), errorB(u"n", texto));
 }
 
+// Each of them fits; a hundred that are no shorter do not fit together.
+TEST(Registro, LosPatronesDeUnLenguajeTienenUnLimiteEntreTodos) {
+    pilaTokens lexico;
+    registra(lexico, std::u16string(32000, u'a'), u"x", false);
+    const auto llena = [&] {
+        for (int i = 1; i < 400; ++i) registra(lexico, u"<x>b", u"t" + aTexto(i));
+    };
+    try {
+        llena();
+        FAIL();
+    } catch (const Desbordamiento& error) {
+        EXPECT_EQ(error.texto(), u"Desbordamiento: con la definición 't262' los patrones del lenguaje, ya "
+                                 u"sustituidas sus referencias, pasan de 8388608 caracteres");
+    }
+    EXPECT_EQ(lexico.getNumTokensLenguaje(), 261);
+    EXPECT_THROW(llena(), Desbordamiento);
+    lexico.Inicializa();
+    EXPECT_EQ(registra(lexico, std::u16string(32000, u'a'), u"x"), u"");
+}
+
 TEST(Registro, CadaTipoTomaSuColorAlRegistrarse) {
     pilaTokens lexico;
     lexico.colorPalabrasReservadas = 1;

@@ -242,11 +242,12 @@ struct Cuenta {
 void compara(const Nodo& nodo, const std::u16string& sujeto, bool ignora, Cuenta& cuenta) {
     const PatronListo listo(*leePatron(nodo.texto, ignora));
     const Programa programa(listo);
-    auto automata = Automata::de(programa);
+    const Presupuesto presupuesto;
+    Cabida cabida;
+    Gasto gasto(presupuesto, cabida);
+    auto automata = Automata::de(programa, gasto);
     MemoriaMaquina memoria;
     Automata::Recuerdo recuerdo;
-    const Presupuesto presupuesto;
-    Gasto gasto(presupuesto);
     std::vector<Coincidencia> esperadas;
     int libre = 0; // where the search would go on
     for (int i = 0; i <= static_cast<int>(sujeto.size()); ++i) {
@@ -297,7 +298,10 @@ TEST(PatronAzar, ElAutomataRecuerdaBien) {
     for (int caso = 0; caso < 400 && !testing::Test::HasFailure(); ++caso) {
         const std::u16string patron = Generador(azar, false).alternativas(3).texto;
         const Programa programa{PatronListo(*leePatron(patron, false))};
-        auto automata = Automata::de(programa);
+        const Presupuesto holgado;
+        Cabida cabida;
+        Gasto delAutomata(holgado, cabida);
+        auto automata = Automata::de(programa, delAutomata);
         if (!automata) continue;
         std::u16string sujeto;
         while (sujeto.size() < 900) sujeto.append(1 + azar() % 400, u"aaabbc\n"[azar() % 7]);
@@ -307,7 +311,7 @@ TEST(PatronAzar, ElAutomataRecuerdaBien) {
         try {
             for (std::size_t i = 0; i <= sujeto.size(); i += 1 + azar() % 40) {
                 const Presupuesto presupuesto(std::chrono::milliseconds(5));
-                Gasto gasto(presupuesto);
+                Gasto gasto(presupuesto, cabida);
                 const auto maquina = coincideMaquina(programa, sujeto, i, memoria, gasto);
                 EXPECT_EQ(fin(automata->coincide(sujeto, i, recuerdo, gasto), -2),
                           maquina ? static_cast<int>(*maquina) : -1);

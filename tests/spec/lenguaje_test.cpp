@@ -203,6 +203,15 @@ TEST(Lenguaje, UnAnalisisSePuedeCancelar) {
     EXPECT_TRUE(analiza(lenguaje, entrada));
 }
 
+TEST(Lenguaje, UnaCompilacionSePuedeCancelar) {
+    std::stop_source fuente;
+    EXPECT_TRUE(Lenguaje::compila(sumas, {{}, fuente.get_token()}));
+    fuente.request_stop();
+    const Compilacion cancelada = Lenguaje::compila(sumas, {{}, fuente.get_token()});
+    EXPECT_FALSE(cancelada.lenguaje);
+    EXPECT_EQ(texto(cancelada.diagnosticos), "error cancelado 1:1@0-1:1@0 La operación se ha cancelado.\n");
+}
+
 std::u16string moduloDe(std::u16string_view especificacion) {
     SistemaMemoria sistema(nullptr);
     CajaTextoMemoria caja;
