@@ -112,15 +112,21 @@ std::size_t bloquesAscii(std::basic_string_view<Unidad> texto) {
 std::string aUtf8(std::u16string_view texto) {
     std::string salida;
     salida.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        const char16_t c = texto[i];
-        if (esSustitutoAlto(c) && i + 1 < texto.size() && esSustitutoBajo(texto[i + 1])) {
-            const char32_t alto = c - 0xD800U;
-            const char32_t bajo = texto[++i] - 0xDC00U;
-            aniadeUtf8(salida, 0x10000 + (alto << 10) + bajo);
-        } else {
+    while (!texto.empty()) {
+        const auto otro = std::ranges::find_if(texto, [](char16_t c) { return c >= 0x80; });
+        const auto ascii = static_cast<std::size_t>(otro - texto.begin());
+        salida.resize(salida.size() + ascii);
+        std::transform(texto.begin(), otro, salida.end() - static_cast<std::ptrdiff_t>(ascii),
+                       [](char16_t c) { return static_cast<char>(c); });
+        texto.remove_prefix(ascii);
+        if (texto.empty()) break;
+        const char16_t c = texto.front();
+        const bool par = esSustitutoAlto(c) && texto.size() > 1 && esSustitutoBajo(texto[1]);
+        if (par)
+            aniadeUtf8(salida, 0x10000 + ((c - 0xD800U) << 10) + (texto[1] - 0xDC00U));
+        else
             aniadeUtf8(salida, esSustitutoAlto(c) || esSustitutoBajo(c) ? 0xFFFD : c);
-        }
+        texto.remove_prefix(par ? 2 : 1);
     }
     return salida;
 }

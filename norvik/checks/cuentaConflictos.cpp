@@ -40,7 +40,8 @@ public:
         historia.estado = caso.estado;
         historia.simbolo = gramatica_.partidas.texto(caso.token);
         historia.acciones = accionesDe(caso);
-        if (Reloj::now() > fin_ + std::chrono::seconds(1)) { // the rest of it needs little
+        if (contados_++ >= limites_.contados ||
+            Reloj::now() > fin_ + std::chrono::seconds(1)) { // the rest of it needs little
             historia.agotado = true;
             return historia;
         }
@@ -270,6 +271,7 @@ private:
     const GramaticaLR& gramatica_;
     const TablaLR& enUso_;
     const LimitesHistorias& limites_;
+    std::size_t contados_ = 0;
     exacto::Producciones producciones_;
     DerivacionesMinimas minimas_;
     GrafoAutomata grafo_;

@@ -66,7 +66,10 @@ std::u16string explicacion(const HistoriaConflicto& historia) {
         return u"Estas dos frases no empiezan igual, pero la tabla las lleva al mismo sitio y no las "
                u"distingue: el conflicto es de la tabla, no de la gramática.";
     case Clase::SinEjemplo:
-        if (historia.agotado) return u"Se acabó el tiempo para esta gramática sin buscarle un ejemplo.";
+        if (historia.agotado)
+            return u"No se le ha buscado un ejemplo: ya se han contado muchos conflictos de esta gramática, "
+                   u"o se "
+                   u"acabó el tiempo.";
         return u"No hay ejemplo: de alguna de las variables que intervienen no sale ningún texto.";
     }
     return {};
@@ -93,6 +96,8 @@ std::u16string prueba(const HistoriaConflicto& historia) {
 }
 
 std::u16string remedio(const HistoriaConflicto& historia) {
+    if (historia.clase == Clase::SinEjemplo && historia.agotado)
+        return u"Mire antes los conflictos de los que hay ejemplo: arreglarlos suele quitar otros.";
     const std::u16string simbolo = entreComillas(historia.simbolo);
     const std::u16string perdida = cabeza(historia, 1);
     switch (historia.cura) {

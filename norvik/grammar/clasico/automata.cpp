@@ -71,7 +71,8 @@ ConstructorAutomata::ConstructorAutomata(const ReglasPartidas& reglas, std::vect
       turnoCabeza_(reglas.numSimbolos()), siguienteRegla_(reglas.numSimbolos()),
       grupoDeSimbolo_(reglas.numSimbolos(), -1) {
     for (int regla = 1; regla <= reglas.numReglas(); ++regla)
-        primerItem_[indice(regla) + 1] = primerItem_[indice(regla)] + longitud(regla) + 1;
+        primerItem_[indice(regla) + 1] =
+            primerItem_[indice(regla)] + (reglas.esVacia(regla) ? 0 : a16(reglas.cuerpo(regla).size())) + 1;
     poseedores_.resize(indice(primerItem_.back()));
     presentes_.resize(indice(primerItem_.back()));
     for (estadoAutomata& estado : estados) {
@@ -82,7 +83,7 @@ ConstructorAutomata::ConstructorAutomata(const ReglasPartidas& reglas, std::vect
 
 /// Symbols of a body over which a dot can move.
 int ConstructorAutomata::longitud(int regla) const {
-    return reglas_.esVacia(regla) ? 0 : a16(reglas_.cuerpo(regla).size());
+    return primerItem_[indice(regla) + 1] - primerItem_[indice(regla)] - 1;
 }
 
 void ConstructorAutomata::compruebaItem(Item item) const {
