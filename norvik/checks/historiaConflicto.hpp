@@ -77,11 +77,11 @@ struct HistoriaConflicto {
 /// Lo que se puede gastar en contar los conflictos de una gramática. Los pasos dan lo mismo en toda máquina;
 /// el tiempo es solo un seguro.
 struct LimitesHistorias {
-    std::size_t contados = 200; ///< de los demás se dicen solo las acciones
     std::size_t pasosPorConflicto = 250'000;
     std::size_t pasosEnTotal = 4'000'000;
     std::chrono::milliseconds porConflicto{1'500};
     std::chrono::milliseconds enTotal{8'000};
+    std::size_t contados = 200; ///< de los demás se dicen solo las acciones
 };
 
 } // namespace norvik

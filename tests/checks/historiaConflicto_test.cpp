@@ -156,6 +156,11 @@ TEST(Historia, SinPlazoSeDice) {
         historias(u"E -> E mas E | num", Metodo::Lalr, {.enTotal = std::chrono::milliseconds(-2000)});
     EXPECT_TRUE(sinTiempo[0].agotado);
     EXPECT_EQ(sinTiempo[0].clase, Clase::SinEjemplo);
+    const auto soloUna = historias(u"E -> E mas E | E por E | num", Metodo::Lalr, {.contados = 1});
+    ASSERT_EQ(soloUna.size(), 4U);
+    EXPECT_EQ(soloUna[0].clase, Clase::Ambigua);
+    EXPECT_EQ(soloUna[1].clase, Clase::SinEjemplo);
+    EXPECT_EQ(soloUna[1].acciones[1].textoRegla, u"E -> E mas E");
 }
 
 TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
