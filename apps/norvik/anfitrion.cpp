@@ -79,7 +79,7 @@ void Anfitrion::cuentaErrores(std::u16string_view mensaje, const std::vector<Dia
     if (!salida_.erroresEnTerminal()) return;
     const Estilo estilo = salida_.erroresConColor() ? Estilo::EnColor : Estilo::Liso;
     for (const Diagnostico& error : errores)
-        salida_.avisa(muestraError(error, nombreDeFichero(fichero), texto, estilo));
+        salida_.avisaPintado(muestraError(error, nombreDeFichero(fichero), texto, estilo));
 }
 
 std::vector<Diagnostico> Anfitrion::erroresDe(std::u16string_view texto) {

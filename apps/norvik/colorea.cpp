@@ -39,7 +39,11 @@ int ejecuta(const Colorea& orden, Salida& salida) {
     anfitrion.control.Text(texto);
     anfitrion.control.Colorear(true);
     anfitrion.control.ColoreaTodo();
-    salida.escribe(escribeTexto(anfitrion.caja, orden, salida));
+    const std::string coloreado = escribeTexto(anfitrion.caja, orden, salida);
+    if (orden.formato == FormatoColor::Ansi || (orden.formato == FormatoColor::Terminal && salida.conColor()))
+        salida.escribePintado(coloreado);
+    else
+        salida.escribe(coloreado);
     return anfitrion.estado();
 }
 

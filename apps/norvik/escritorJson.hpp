@@ -4,6 +4,7 @@
 
 #include "salida.hpp"
 
+#include "norvik/base/memoriaJson.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <concepts>
@@ -62,7 +63,7 @@ public:
 
 private:
     Flujo flujo_;
-    rapidjson::Writer<Flujo> escritor_{flujo_};
+    rapidjson::Writer<Flujo, rapidjson::UTF8<>, rapidjson::UTF8<>, MemoriaJson> escritor_{flujo_};
 };
 
 } // namespace norvik::orden

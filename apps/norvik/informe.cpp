@@ -81,7 +81,8 @@ int ejecuta(const Informe& orden, Salida& salida) {
     } else {
         salida.escribe(aUtf8(problemas));
         if (problemas.back() != u'\n') salida.escribe("\n");
-        salida.vuelca();
+        salida.vuelca(u". El informe está escrito en la carpeta «" + decodifica(orden.carpeta.native()) +
+                      u"»");
     }
     for (const Diagnostico& aviso : avisos) salida.avisa(u"aviso: " + visible(mensaje(aviso)));
     return anfitrion.estado();

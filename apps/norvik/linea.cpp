@@ -15,6 +15,7 @@
 #include <array>
 #include <charconv>
 #include <optional>
+#include <span>
 
 namespace norvik::orden {
 
@@ -157,13 +158,19 @@ CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
 }
 
 Peticion Linea::lee(int argc, const char* const* argv) {
+    // An option takes the next word whatever it is, so that only the last one can lack its value, or one
+    // that says with "=" that it has it.
+    constexpr std::array<std::string_view, 8> conValor = {"-o",      "--formato", "--lenguaje", "--metodo",
+                                                          "--junit", "--cuantas", "--semilla",  "--color"};
+    for (const std::string_view palabra : std::span(argv, static_cast<std::size_t>(argc)))
+        if (palabra.ends_with('=') &&
+            std::ranges::find(conValor, palabra.substr(0, palabra.size() - 1)) != conValor.end())
+            throw LineaIncorrecta(u"falta el valor de la opción " +
+                                  entreComillas(palabra.substr(0, palabra.size() - 1)));
     try {
         app_.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
         const std::string_view ultima = argv[argc - 1];
-        // An option takes the next word whatever it is, so that only the last one can lack its value.
-        constexpr std::array conValor = {"-o",      "--formato", "--lenguaje", "--metodo",
-                                         "--junit", "--cuantas", "--semilla",  "--color"};
         if (std::ranges::find(conValor, ultima) != conValor.end())
             throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
         throw LineaIncorrecta(u"--help y --version no llevan valor");

@@ -41,16 +41,31 @@ fs::path guarda(Norvik& control, const Modulo& orden) {
     return (orden.carpeta / nombre).lexically_normal();
 }
 
+void avisaDeControles(const pilaTokens& lexico, Salida& salida) {
+    for (const expresionRegular* const token : lexico.tokensLenguaje())
+        if (token->llevaControles())
+            salida.avisa(
+                u"aviso: " +
+                mensaje({Codigo::CaracterDeControl, Gravedad::Aviso, {}, {token->nomToken, {}, {}, {}}}));
+}
+
+void escribeYDice(Norvik& control, const Modulo& orden, Salida& salida) {
+    const std::string ruta = guarda(control, orden).native();
+    salida.escribe(ruta + "\n");
+    salida.vuelca(u". El módulo está escrito: «" + decodifica(ruta) + u"»");
+}
+
 } // namespace
 
 int ejecuta(const Modulo& orden, Salida& salida) {
     compruebaCarpeta(orden.carpeta);
     Anfitrion anfitrion(salida);
     if (!anfitrion.compila(orden.especificacion, orden.metodo)) return anfitrion.estado();
+    avisaDeControles(anfitrion.control.Lexico(), salida);
     if (orden.carpeta == flujo)
         escribe(anfitrion.control, orden, salida);
     else
-        salida.escribe(guarda(anfitrion.control, orden).native() + "\n");
+        escribeYDice(anfitrion.control, orden, salida);
     return anfitrion.estado();
 }
 

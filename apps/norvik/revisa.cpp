@@ -28,7 +28,7 @@ public:
         : salida_(salida), estilo_(salida.conColor() ? Estilo::EnColor : Estilo::Liso) {}
 
     void cuenta(const Hallazgo& hallazgo, std::u16string_view fichero, std::u16string_view texto) {
-        salida_.escribe(aUtf8(muestraError(hallazgo.diagnostico, fichero, texto, estilo_)) + "\n");
+        salida_.escribePintado(aUtf8(muestraError(hallazgo.diagnostico, fichero, texto, estilo_)) + "\n");
         for (const HistoriaConflicto& historia : hallazgo.historias) {
             if (contada_ != nullptr && seCuentanIgual(*contada_, historia))
                 salida_.escribe("  Se cuenta como el anterior.\n");

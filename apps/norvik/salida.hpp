@@ -15,17 +15,23 @@ enum class Color { Auto, Siempre, Nunca };
 /// more, so that one that fails writes nothing there.
 class Salida {
 public:
-    /// Writes UTF-8, in large pieces; raises `ErrorDeFichero`.
+    Salida();
+
+    /// Writes UTF-8, in large pieces; raises `ErrorDeFichero`. A terminal is given nothing that it could take
+    /// for an order: there, control characters are shown.
     void escribe(std::string_view bytes) {
         constexpr std::size_t trozo = 65536;
         pendiente_ += bytes;
-        if (pendiente_.size() >= trozo) vuelca();
+        if (pendiente_.size() >= trozo && (!enTerminal_ || pendiente_.back() == '\n')) vuelca();
     }
-    /// Writes what is left; raises the same.
-    void vuelca();
+    /// The same of text with colours, in which nothing else is left to show.
+    void escribePintado(std::string_view bytes);
+    /// Writes what is left; raises the same, and then says also what has been done already.
+    void vuelca(std::u16string_view yaHecho = {});
 
-    /// One message on standard error, at once.
+    /// One message on standard error, at once; a terminal is given as little.
     void avisa(std::u16string_view mensaje);
+    void avisaPintado(std::u16string_view mensaje);
 
     void ponColor(Color color) { color_ = color; }
     /// Whether standard output, and standard error, may have colours: those that are a terminal, unless the
@@ -36,12 +42,19 @@ public:
 
 private:
     bool coloreable(int descriptor) const;
+    void muestraControles();
 
     Color color_ = Color::Auto;
+    bool enTerminal_;
     std::string pendiente_;
+    std::size_t vistos_ = 0; // bytes at its beginning that a terminal may have
 };
 
-/// The text with pictures in place of control characters other than tabs, for a person to look at.
+/// The text with pictures in place of control characters other than tabs, those of the direction of writing
+/// too, for a person to look at.
 std::u16string visible(std::u16string_view texto);
+/// The same of text in UTF-8 of several lines, whose ends stay. A line that is no UTF-8 is read as
+/// Windows-1252.
+std::string lineasVisibles(std::string_view bytes);
 
 } // namespace norvik::orden

@@ -35,7 +35,8 @@ enum class Codigo : std::uint8_t {
     VariableIndefinida, ///< de una especificación: `hallado` está en un cuerpo de `nombre` y ninguna regla la
                         ///< define; la revisión da en `esperados` un nombre parecido
     TokenIndefinido, ///< de una especificación: lo mismo de un token
-    SinReglas,       ///< de una especificación: no se puede analizar nada
+    SinReglas, ///< de una especificación: no se puede analizar nada; `hallado` no es vacío si ni tiene
+               ///< definiciones
     Conflicto, ///< de una especificación: `hallado` son las dos acciones de una celda; `nombre`, estado y
                ///< símbolo
     CapacidadSuperada,   ///< de una especificación: `hallado` es el límite que se pasó
@@ -44,12 +45,13 @@ enum class Codigo : std::uint8_t {
                          ///< `esperados`
 
     // De la revisión de una especificación --------------------------------------------------------------
-    TokenSinUsar,    ///< ninguna regla usa el token `nombre`
-    AuxiliarSinUsar, ///< nadie se refiere a la expresión regular `nombre`
-    TokenTapado,     ///< los textos del token `nombre`, como `hallado`, son de otro anterior, `esperados`
-    TokenRepetido,   ///< el token `nombre` tiene dos veces la misma definición; `relacionados`, la otra
-    PatronVacio,     ///< el patrón de `nombre` puede no tomar ningún carácter
-    VariableSinUsar, ///< ningún cuerpo usa la variable `nombre`, que no es la inicial
+    TokenSinUsar,      ///< ninguna regla usa el token `nombre`
+    AuxiliarSinUsar,   ///< nadie se refiere a la expresión regular `nombre`
+    TokenTapado,       ///< los textos del token `nombre`, como `hallado`, son de otro anterior, `esperados`
+    TokenRepetido,     ///< el token `nombre` tiene dos veces la misma definición; `relacionados`, la otra
+    PatronVacio,       ///< el patrón de `nombre` puede no tomar ningún carácter
+    CaracterDeControl, ///< el patrón de `nombre`, o su nombre para personas, tiene un carácter de control
+    VariableSinUsar,   ///< ningún cuerpo usa la variable `nombre`, que no es la inicial
     VariableInalcanzable, ///< de la variable inicial, `hallado`, no se llega a `nombre`
     VariableImproductiva, ///< de la variable `nombre` no sale ningún texto
     Ciclo,                ///< `nombre` deriva en sí misma sin más: `hallado` son los pasos

@@ -15,6 +15,8 @@ std::u16string escapaHtml(std::u16string_view texto) {
             html += u"&amp;";
         else if (c == u'"')
             html += u"&quot;";
+        else if (esDeDireccion(c))
+            html += u'\uFFFD';
         else
             html += c;
     }

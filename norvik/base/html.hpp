@@ -7,6 +7,12 @@
 
 namespace norvik {
 
+/// Whether a character only says in which direction those after it are written: with it a text can show
+/// something else than it is.
+constexpr bool esDeDireccion(char16_t c) {
+    return (c >= u'\u202A' && c <= u'\u202E') || (c >= u'\u2066' && c <= u'\u2069');
+}
+
 /// A text as it stands in HTML or XML, between tags or quotes.
 std::u16string escapaHtml(std::u16string_view texto);
 

@@ -72,8 +72,7 @@ constexpr std::array filas = {
     Fila{Codigo::VariableIndefinida, u"variable-indefinida", {}},
     Fila{Codigo::TokenIndefinido, u"token-indefinido",
          u"El token {hallado}, que usa una regla de {nombre}, no está definido.{propuesta}"},
-    Fila{Codigo::SinReglas, u"sin-reglas",
-         u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto."},
+    Fila{Codigo::SinReglas, u"sin-reglas", {}},
     Fila{Codigo::Conflicto, u"conflicto", u"Conflicto {hallado} en {nombre}."},
     Fila{Codigo::CapacidadSuperada, u"capacidad-superada", u"{hallado}"},
     Fila{Codigo::ModuloIncorrecto, u"modulo-incorrecto", u"{hallado}"},
@@ -93,6 +92,10 @@ constexpr std::array filas = {
     Fila{Codigo::PatronVacio, u"patron-vacio",
          u"El patrón de {nombre} puede no tomar ningún carácter, y un token así no existe: exija "
          u"al menos uno (con + en lugar de *, por ejemplo)."},
+    Fila{Codigo::CaracterDeControl, u"caracter-de-control",
+         u"La definición de {nombre} tiene un carácter de control, que pasa tal cual a sus módulos: un salto "
+         u"de "
+         u"línea pone en ellos líneas que alguien compilará. Escríbalo con un escape (\\n, \\r, \\x1B)."},
     Fila{Codigo::VariableSinUsar, u"variable-sin-usar",
          u"Ningún cuerpo usa la variable {nombre}, que no es la inicial. Úsela o quite sus "
          u"reglas."},
@@ -288,6 +291,10 @@ std::u16string mensaje(const Diagnostico& diagnostico) {
     if (codigo == Codigo::CaracterIncorrecto)
         return sonVarios(hallado) ? une({u"Caracteres ", hallado, u" incorrectos."})
                                   : une({u"Carácter ", hallado, u" incorrecto."});
+    if (codigo == Codigo::SinReglas)
+        return hallado.empty()
+                   ? u"La especificación no tiene reglas: con su lenguaje no se puede analizar ningún texto."
+                   : u"La especificación está vacía: no define ningún token ni tiene ninguna regla.";
     if (codigo == Codigo::BusquedaDesbocada) return palabras::busquedaDesbocada(nombre);
     if (codigo == Codigo::CodigoMalEscrito) return palabras::codigoMalEscrito(nombre);
     if (codigo == Codigo::PatronIncorrecto && relacionados.empty())

@@ -146,8 +146,11 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
     for (const Definicion& d : fuente.definiciones) {
-        const bool registrada = !lexico.registra({d.texto, d.nombre, d.esToken, sensible, {}, d.tipo});
+        const bool registrada =
+            !lexico.registra({d.texto, d.nombre, d.esToken, sensible, d.pseudoToken, d.tipo});
         if (!registrada) situaDefecto(d, lexico.definiciones(), hallazgos);
+        if (registrada && d.esToken && lexico.expresionesRegulares().back()->llevaControles())
+            hallazgos.push_back(aviso(Codigo::CaracterDeControl, d.lugarTexto, {d.nombre, {}, {}, {}}));
         if (registrada && d.esToken) deToken.push_back(&d);
     }
     const Presupuesto presupuesto(plazoDePatrones);

@@ -46,7 +46,7 @@ FuenteEspecificacion fuenteDe(const Analisis& especificacion) {
         [&](const especificacion::Definicion<NodoEspecificacion>& d) {
             fuente.definiciones.push_back({std::u16string(d.nombre.lexema()), d.nombre.rango(),
                                            std::u16string(d.patron.lexema()), d.patron.rango(), d.esToken,
-                                           d.perfil.tipo});
+                                           d.perfil.tipo, std::u16string(d.pseudoToken)});
         },
         [&](const NodoEspecificacion& cabeza, const NodoEspecificacion& alternativas) {
             anota(fuente, cabeza, alternativas);

@@ -20,7 +20,8 @@ struct FuenteEspecificacion {
         std::u16string texto; ///< between its quotes
         Rango lugarTexto;     ///< quotes included
         bool esToken = false;
-        std::int16_t tipo = 0; ///< a `TipoExpReg`
+        std::int16_t tipo = 0;      ///< a `TipoExpReg`
+        std::u16string pseudoToken; ///< its name for people
 
         /// Where a part of `texto` stands.
         Rango lugarDe(std::size_t desde, std::size_t largo) const;

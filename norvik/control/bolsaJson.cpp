@@ -3,6 +3,7 @@
 // A property bag as JSON. Reading does not recurse, whatever noise the file holds.
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/memoriaJson.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
 
@@ -120,8 +121,11 @@ private:
         return diezmilesimas < 0 ? "-" + cifras : cifras;
     }
 
-    rapidjson::StringBuffer bufer_;
-    rapidjson::PrettyWriter<rapidjson::StringBuffer> escritor_{bufer_};
+    using Utf8 = rapidjson::UTF8<>;
+    using Bufer = rapidjson::GenericStringBuffer<Utf8, MemoriaJson>;
+
+    Bufer bufer_;
+    rapidjson::PrettyWriter<Bufer, Utf8, Utf8, MemoriaJson> escritor_{bufer_};
 };
 
 } // namespace
@@ -132,7 +136,7 @@ BolsaPropiedades BolsaPropiedades::deJson(std::string_view bytes) {
     constexpr unsigned opciones = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag |
                                   rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::MemoryStream flujo(bytes.data(), bytes.size());
-    rapidjson::Reader lector;
+    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, MemoriaJson> lector;
     Lector leido;
     const rapidjson::ParseResult resultado = lector.Parse<opciones>(flujo, leido);
     if (resultado && flujo.Tell() == bytes.size()) return std::move(leido.bolsa);

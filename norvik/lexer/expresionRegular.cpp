@@ -4,6 +4,8 @@
 
 #include "norvik/base/numeros.hpp"
 
+#include <algorithm>
+
 namespace norvik {
 
 bool expresionRegular::SetExpReg(std::u16string_view expRegular, std::u16string_view nomExpRegular,
@@ -18,6 +20,13 @@ bool expresionRegular::SetExpReg(std::u16string_view expRegular, std::u16string_
     tipo = tipoER;
     pseudoTmp = pseudoCadTmp;
     return expReg.has_value();
+}
+
+bool expresionRegular::llevaControles() const {
+    constexpr auto esDeControl = [](char16_t c) {
+        return (c < u' ' && c != u'\t') || (c >= u'\x7F' && c < u'\xA0');
+    };
+    return std::ranges::any_of(expresion, esDeControl) || std::ranges::any_of(pseudoToken, esDeControl);
 }
 
 std::int16_t expresionRegular::Longitud() const {

@@ -38,6 +38,9 @@ public:
     std::int16_t GetTipo() const { return tipo; }
     const std::u16string& GetPseudoToken() const { return pseudoToken; }
     const std::u16string& GetPseudoTmp() const { return pseudoTmp; }
+    /// Whether pattern or display name have a control character, which a loading module holds as it is.
+    /// Tabulators harm nobody.
+    bool llevaControles() const;
     /// Length of the pattern in characters; raises `Desbordamiento`.
     std::int16_t Longitud() const;
 };

@@ -46,7 +46,8 @@ public:
         const bool completo = registra();
         bool generable = completo;
         if (usos_.empty() && rangos_.empty())
-            anota(Codigo::SinReglas, Gravedad::Aviso, {raiz_.rango().fin, raiz_.rango().fin}, {});
+            anota(Codigo::SinReglas, Gravedad::Aviso, {raiz_.rango().fin, raiz_.rango().fin},
+                  {{}, hayDefiniciones_ ? u"" : u"nada", {}, {}, {}});
         else
             generable = compruebaSimbolos() && completo;
         if (generable && genera()) return {acaba(std::move(datos_)), std::move(diagnosticos_)};
@@ -96,6 +97,7 @@ private:
     }
 
     void registra(const especificacion::Definicion<NodoEspecificacion>& d) {
+        hayDefiniciones_ = true;
         auto error = datos_->lexico.registra({d.patron.lexema(), d.nombre.lexema(), d.esToken,
                                               directivas_.distingueMayusculas, d.pseudoToken, d.perfil.tipo,
                                               d.perfil.base});
@@ -192,6 +194,7 @@ private:
     std::vector<Diagnostico> diagnosticos_;
     std::set<std::u16string_view> tokens_;
     std::set<std::u16string_view> cabezas_;
+    bool hayDefiniciones_ = false;
     std::vector<Uso> usos_;
     std::vector<Rango> rangos_; ///< of the body of each rule
 };

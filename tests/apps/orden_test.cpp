@@ -121,6 +121,48 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
         << html.salida;
 }
 
+// Whatever language, text and path hold, a terminal is given line ends, tabulators and visible characters.
+TEST_F(Orden, UnTerminalNoRecibeControles) {
+    const std::string direccion = {'\xE2', '\x80', '\xAE'}; // the text after it goes from right to left
+    const std::string malo = "a\x1B]0;t\x07\xC2\x9B\x32J" + direccion + "\x7F";
+    const std::string modulo = pon(malo + ".nvk", R"(Token a = "\c(27)x\c(7)y" (")" + malo + R"(");
+Token b = "b|)" + malo + R"(";
+S -> a b;
+)");
+    const std::string texto = pon(malo + ".txt", "\x1Bx\x07y b " + malo + "\n");
+    const std::string bien = pon("bien.txt", "\x1Bx\x07yb");
+    const Palabras ordenes[] = {{"analiza", modulo, texto},
+                                {"analiza", modulo, bien},
+                                {"analiza", modulo, texto, "--formato", "json"},
+                                {"lexemas", modulo, texto},
+                                {"lexemas", modulo, bien},
+                                {"colorea", modulo, texto, "--color", "nunca"},
+                                {"colorea", modulo, texto, "--formato", "html"},
+                                {"informe", modulo, "-o", "-"},
+                                {"modulo", modulo, "M", "-o", "-"},
+                                {"modulo", modulo, malo},
+                                {"revisa", modulo},
+                                {"revisa", texto},
+                                {"frases", modulo},
+                                {"analiza", ruta(malo + "no hay"), texto},
+                                {malo}};
+    for (const Palabras& orden : ordenes) {
+        const Entorno terminal{
+            .salida = Destino::Terminal, .errores = Destino::Terminal, .variables = {"TERM=dumb"}};
+        const Resultado resultado = ejecuta(orden, terminal);
+        const std::string todo = resultado.salida + resultado.errores;
+        EXPECT_FALSE(todo.empty());
+        for (std::size_t i = 0; i < todo.size(); ++i) {
+            const auto c = static_cast<unsigned char>(todo[i]);
+            const bool esRetorno = c == '\r' && todo[i + 1] == '\n';
+            const bool esC1 = c == 0xC2 && static_cast<unsigned char>(todo[i + 1]) < 0xA0;
+            EXPECT_FALSE((c < ' ' && c != '\n' && c != '\t' && !esRetorno) || c == 0x7F || esC1)
+                << orden.front() << " at " << i << ": " << testing::PrintToString(todo);
+        }
+        EXPECT_EQ(todo.find(direccion), std::string::npos) << orden.front();
+    }
+}
+
 TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
     comprueba(
         ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta()}), 0,

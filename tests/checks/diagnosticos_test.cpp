@@ -119,6 +119,7 @@ std::vector<Ejemplo> ejemplos() {
         deEspecificacion(Codigo::TokenTapado, u"Token id = \"[a-z]+\";\nToken si = \"si\";\nS -> si id;"),
         deEspecificacion(Codigo::TokenRepetido, a + a + u"S -> a;"),
         deEspecificacion(Codigo::PatronVacio, u"Token a = \"a*\";\nS -> a;"),
+        deEspecificacion(Codigo::CaracterDeControl, u"Token a = \"x\\c(10)y\";\nS -> a;"),
         deEspecificacion(Codigo::VariableSinUsar, a + u"S -> a;\nB -> a;"),
         deEspecificacion(Codigo::VariableInalcanzable, a + u"S -> a;\nB -> a C;\nC -> a B | a;"),
         deEspecificacion(Codigo::VariableImproductiva, a + u"S -> a | B;\nB -> a B;"),

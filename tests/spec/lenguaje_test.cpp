@@ -203,6 +203,12 @@ TEST(Lenguaje, UnAnalisisSePuedeCancelar) {
     EXPECT_TRUE(analiza(lenguaje, entrada));
 }
 
+TEST(Lenguaje, UnaEspecificacionVaciaLoDice) {
+    for (const std::u16string_view vacia : {u"", u"\r\n", u"' nada\r\n"})
+        EXPECT_EQ(mensaje(Lenguaje::compila(vacia).diagnosticos.at(0)),
+                  u"La especificación está vacía: no define ningún token ni tiene ninguna regla.");
+}
+
 TEST(Lenguaje, UnaCompilacionSePuedeCancelar) {
     std::stop_source fuente;
     EXPECT_TRUE(Lenguaje::compila(sumas, {{}, fuente.get_token()}));
