@@ -4,21 +4,27 @@
 //
 // A file is written under a name of its own in the same folder and renamed over its place: the rename is the
 // only step that others see, and it either happens or does not. The bytes reach the disk before the rename
-// and the folder's entry after it when that is asked for.
+// and the folder's entry after it when that is asked for. Where that is not possible, or would part a file
+// from its other names, it is written over (escrituraEnSitio).
 
 #include "norvik/base/ficheros.hpp"
 
 #include "norvik/base/causas.hpp"
 #include "norvik/base/errores.hpp"
+#include "norvik/base/escrituraEnSitio.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -51,7 +57,8 @@ bool tieneNombreImposible(const fs::path& fichero) {
 
 Descriptor abre(const fs::path& fichero) {
     if (tieneNombreImposible(fichero)) falla(u"leer", entreComillas(fichero), causaDelSistema(EINVAL));
-    const int numero = open(fichero.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    const int numero =
+        sinInterrupcion([&] { return open(fichero.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); });
     if (numero < 0) falla(u"leer", entreComillas(fichero), causaDelSistema(errno));
     return Descriptor(numero);
 }
@@ -78,20 +85,65 @@ std::string leeTodo(int descriptor, std::u16string_view nombre) {
     return bytes;
 }
 
-// Writes a file's content to a descriptor; false, with the cause in errno, when that fails.
-using Llenado = std::function<bool(int descriptor)>;
-
-// The file that a chain of links leads to, which need not exist.
+// The file that a chain of links leads to, which need not exist; nothing, with the cause in errno, when that
+// cannot be known.
 std::optional<fs::path> sigueEnlaces(fs::path fichero) {
     constexpr int maximo = 40;
     std::error_code error;
     for (int i = 0; i < maximo; ++i) {
-        if (!fs::is_symlink(fs::symlink_status(fichero, error))) return fichero;
-        const fs::path destino = fs::read_symlink(fichero, error);
-        if (error) return std::nullopt;
+        const auto estado = fs::symlink_status(fichero, error);
+        const bool esEnlace = fs::is_symlink(estado);
+        if (!esEnlace && fs::status_known(estado)) return fichero;
+        const fs::path destino = esEnlace ? fs::read_symlink(fichero, error) : fs::path();
+        if (error) {
+            errno = error.value();
+            return std::nullopt;
+        }
         fichero = fichero.parent_path() / destino;
     }
+    errno = ELOOP;
     return std::nullopt;
+}
+
+// The attributes of a file, lists of access among them. What the system alone gives, or does not know here,
+// is no loss.
+bool copiaAtributos(const fs::path& origen, int destino) {
+    std::string nombres(65536, '\0');
+    const ssize_t largo = listxattr(origen.c_str(), nombres.data(), nombres.size());
+    if (largo < 0) return errno == ENOTSUP || errno == ENOSYS;
+    nombres.resize(static_cast<std::size_t>(largo));
+    for (std::size_t i = 0; i < nombres.size(); i = nombres.find('\0', i) + 1) {
+        const char* const nombre = &nombres[i];
+        std::string valor(65536, '\0');
+        const ssize_t leidos = getxattr(origen.c_str(), nombre, valor.data(), valor.size());
+        if (leidos >= 0 && fsetxattr(destino, nombre, valor.data(), static_cast<std::size_t>(leidos), 0) == 0)
+            continue;
+        const std::string_view clase(nombre);
+        if (!clase.starts_with("security.") && !clase.starts_with("trusted.")) return false;
+    }
+    return true;
+}
+
+// How the name of a file's provisional ones begins, however long its own is.
+std::string principioProvisional(const fs::path& fichero) {
+    return ".norvik-" + std::to_string(std::hash<std::string>()(fichero.filename().native())) + "-";
+}
+
+fs::path carpetaDe(const fs::path& fichero) {
+    return fichero.has_parent_path() ? fichero.parent_path() : fs::path(".");
+}
+
+// What processes that are no more have left of their attempts to write a file.
+void quitaAbandonados(const fs::path& destino) {
+    const std::string principio = principioProvisional(destino);
+    std::error_code error;
+    for (fs::directory_iterator i(carpetaDe(destino), error), fin; !error && i != fin; i.increment(error)) {
+        const std::string nombre = i->path().filename().native();
+        if (!nombre.starts_with(principio) || !nombre.ends_with(".tmp")) continue;
+        const long proceso = std::strtol(nombre.c_str() + principio.size(), nullptr, 10);
+        if (proceso > 0 && kill(static_cast<pid_t>(proceso), 0) != 0 && errno == ESRCH)
+            unlink(i->path().c_str());
+    }
 }
 
 // A new file in the folder of another one; it disappears unless it takes that one's place.
@@ -108,10 +160,24 @@ public:
 
     bool creado() const { return descriptor_.abierto(); }
 
-    bool llena(const Llenado& llenado, const struct stat* antiguo, Durabilidad durabilidad) {
-        if (antiguo != nullptr && !copiaPermisos(*antiguo)) return false;
+    // Makes it look like the old one; false when it may not. Only the superuser gives files away, so that
+    // whoever writes another's file as one of its group becomes its owner, and the group stays.
+    bool pareceA(const struct stat& antiguo) const {
+        const int numero = descriptor_.numero();
+        struct stat nuevo {};
+        if (fchown(numero, antiguo.st_uid, antiguo.st_gid) != 0 &&
+            (errno != EPERM || fstat(numero, &nuevo) != 0 ||
+             (nuevo.st_gid != antiguo.st_gid &&
+              fchown(numero, std::numeric_limits<uid_t>::max(), antiguo.st_gid) != 0)))
+            return false;
+        return fchmod(numero, antiguo.st_mode & 07777U) == 0 && copiaAtributos(destino_, numero);
+    }
+
+    bool llena(const Llenado& llenado, Durabilidad durabilidad) {
         if (!llenado(descriptor_.numero())) return false;
-        if (durabilidad == Durabilidad::EnDisco && fsync(descriptor_.numero()) != 0) return false;
+        if (durabilidad == Durabilidad::EnDisco &&
+            sinInterrupcion([&] { return fsync(descriptor_.numero()); }) != 0)
+            return false;
         pendiente_ = true;
         return descriptor_.cierra();
     }
@@ -126,18 +192,13 @@ private:
     int crea() {
         constexpr int maximo = 1000;
         for (int i = 0; i < maximo; ++i) {
-            nombre_ = destino_.parent_path() /
-                      (".norvik-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp");
-            const int numero = open(nombre_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            nombre_ = destino_.parent_path() / (principioProvisional(destino_) + std::to_string(getpid()) +
+                                                "-" + std::to_string(i) + ".tmp");
+            const int numero = sinInterrupcion(
+                [&] { return open(nombre_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
             if (numero >= 0 || errno != EEXIST) return numero;
         }
         return -1;
-    }
-
-    // Only the superuser gives files away: for others the owner is the same already, or stays theirs.
-    bool copiaPermisos(const struct stat& antiguo) const {
-        if (fchown(descriptor_.numero(), antiguo.st_uid, antiguo.st_gid) != 0 && errno != EPERM) return false;
-        return fchmod(descriptor_.numero(), antiguo.st_mode & 07777U) == 0;
     }
 
     fs::path destino_;
@@ -148,29 +209,47 @@ private:
 
 // Some file systems have no way to flush a folder, and say so.
 bool vuelcaCarpeta(const Descriptor& carpeta) {
-    return fsync(carpeta.numero()) == 0 || errno == EINVAL;
+    return sinInterrupcion([&] { return fsync(carpeta.numero()); }) == 0 || errno == EINVAL;
+}
+
+// No new file may take the place: the old one can still be written over.
+bool noHaySitio() {
+    return errno == EACCES || errno == EPERM || errno == EROFS || errno == EBUSY;
 }
 
 bool reemplaza(const fs::path& destino, const Llenado& llenado, const struct stat* antiguo,
                Durabilidad durabilidad) {
+    const auto enSuSitio = [&] {
+        return antiguo != nullptr && noHaySitio() && escribeEnSuSitio(destino, llenado, durabilidad);
+    };
+    quitaAbandonados(destino);
     FicheroProvisional provisional(destino);
-    if (!provisional.creado() || !provisional.llena(llenado, antiguo, durabilidad)) return false;
-    if (durabilidad == Durabilidad::Normal) return provisional.ocupaSuPuesto();
-    const fs::path carpeta = destino.has_parent_path() ? destino.parent_path() : fs::path(".");
-    const Descriptor abierta(open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return abierta.abierto() && provisional.ocupaSuPuesto() && vuelcaCarpeta(abierta);
+    if (!provisional.creado() || (antiguo != nullptr && !provisional.pareceA(*antiguo))) return enSuSitio();
+    if (!provisional.llena(llenado, durabilidad)) return false;
+    if (durabilidad == Durabilidad::Normal) return provisional.ocupaSuPuesto() || enSuSitio();
+    const Descriptor carpeta(sinInterrupcion(
+        [&] { return open(carpetaDe(destino).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (!carpeta.abierto()) return false;
+    if (!provisional.ocupaSuPuesto()) return enSuSitio();
+    if (!vuelcaCarpeta(carpeta))
+        falla(u"asegurar en el disco", entreComillas(destino),
+              causaDelSistema(errno) + u". El contenido nuevo ya está en su sitio");
+    return true;
 }
 
 bool escribeDirecto(const fs::path& destino, const Llenado& llenado) {
-    Descriptor descriptor(open(destino.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC));
+    Descriptor descriptor(
+        sinInterrupcion([&] { return open(destino.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC); }));
     return descriptor.abierto() && llenado(descriptor.numero()) && descriptor.cierra();
 }
 
 bool escribeRegular(const fs::path& fichero, const Llenado& llenado, const struct stat* antiguo,
                     Durabilidad durabilidad) {
     const auto destino = sigueEnlaces(fichero);
-    if (!destino) errno = ELOOP;
-    return destino && reemplaza(*destino, llenado, antiguo, durabilidad);
+    if (!destino) return false;
+    const bool tieneMasNombres = antiguo != nullptr && antiguo->st_nlink > 1;
+    return tieneMasNombres ? escribeEnSuSitio(*destino, llenado, durabilidad)
+                           : reemplaza(*destino, llenado, antiguo, durabilidad);
 }
 
 bool escribe(const fs::path& fichero, const Llenado& llenado, Durabilidad durabilidad) {

@@ -49,12 +49,14 @@ private:
     std::u16string entero_; ///< lo que solo se pudo leer una vez
 };
 
-enum class Durabilidad { Normal, EnDisco };
+enum class Durabilidad : int { Normal, EnDisco };
 /// Escribe un fichero entero al lado de su sitio y le da después su nombre: un fallo en cualquier paso
-/// (`ErrorDeFichero`) deja el antiguo. Se conservan los permisos y se sigue un enlace; `EnDisco` vuelca
-/// fichero y carpeta al disco. Lo que no es un fichero corriente (un dispositivo, una tubería) no tiene sitio
-/// al lado y se escribe directamente. Un texto se escribe en Windows-1252 cuando así se vuelve a leer el
-/// mismo texto, y si no en UTF-8 con marca.
+/// (`ErrorDeFichero`) deja el antiguo. Se conservan los permisos, el grupo,
+/// las listas de acceso y los atributos, y se sigue un enlace; si el fichero tiene otros nombres o su carpeta
+/// no admite uno nuevo, se escribe donde está, con una copia de lo que tenía hasta que acaba; `EnDisco`
+/// vuelca fichero y carpeta al disco. Lo que no es un fichero corriente (un dispositivo, una tubería) no
+/// tiene sitio al lado y se escribe directamente. Un texto se escribe en Windows-1252 cuando así se vuelve a
+/// leer el mismo texto, y si no en UTF-8 con marca.
 void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes, Durabilidad durabilidad);
 void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto, Durabilidad durabilidad);
 

@@ -10,9 +10,13 @@
 
 #include <csignal>
 #include <functional>
+#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace norvik;
 
@@ -161,6 +165,95 @@ TEST(Ficheros, ConservaPermisosYSigueEnlaces) {
     EXPECT_TRUE(fs::is_symlink(carpeta / "otra/enlace"));
     EXPECT_EQ(bytesDe(carpeta / "nuevo"), "x");
     EXPECT_EQ(carpeta.entradas(), 4U);
+}
+
+TEST(Ficheros, UnFicheroConOtroNombreSigueSiendoElMismo) {
+    const CarpetaTemporal carpeta;
+    const fs::path fichero = carpeta.pon("fichero", "lo de antes, más largo");
+    fs::create_hard_link(fichero, carpeta / "otro");
+    for (const auto durabilidad : {Durabilidad::EnDisco, Durabilidad::Normal})
+        escribeBytes(fichero, durabilidad == Durabilidad::Normal ? "corto" : "después", durabilidad);
+    EXPECT_EQ(bytesDe(carpeta / "otro"), "corto");
+    EXPECT_EQ(fs::hard_link_count(fichero), 2U);
+    EXPECT_EQ(carpeta.entradas(), 2U);
+}
+
+TEST(Ficheros, LoQueDejoUnProcesoMuertoSeQuita) {
+    const CarpetaTemporal carpeta;
+    const fs::path fichero = carpeta.pon("fichero", "antes");
+    const pid_t muerto = fork();
+    if (muerto == 0) {
+        try { // ends in the middle of writing
+            escribeTexto(
+                fichero, [](const SumideroDeTexto& /*sumidero*/) { _exit(0); }, Durabilidad::EnDisco);
+        } catch (...) {
+            _exit(1);
+        }
+    }
+    int estado = 0;
+    ASSERT_EQ(waitpid(muerto, &estado, 0), muerto);
+    EXPECT_EQ(carpeta.entradas(), 2U);
+    EXPECT_EQ(bytesDe(fichero), "antes");
+    escribeBytes(carpeta.pon("vecino", ""), "x", Durabilidad::Normal);
+    EXPECT_EQ(carpeta.entradas(), 3U);
+    escribeBytes(fichero, "después", Durabilidad::Normal);
+    EXPECT_EQ(carpeta.entradas(), 2U);
+}
+
+struct Guardado {
+    const char* nombre;
+    mode_t modo;
+    uid_t duenio;
+    mode_t carpeta;
+    bool puede;
+    uid_t duenioDespues;
+};
+
+// One of the group, who is nobody else: what they save stays the group's.
+TEST(Ficheros, UnMiembroDelGrupoNoSeLoQuitaALosDemas) {
+    if (geteuid() != 0) GTEST_SKIP() << "only the superuser can be somebody else";
+    constexpr uid_t ana = 54321;
+    constexpr gid_t equipo = 54322;
+    constexpr Guardado filas[] = {
+        {"carpeta del equipo", 0660, 0, 0770, true, ana},  {"el suyo", 0660, ana, 0770, true, ana},
+        {"carpeta con sello", 0660, 0, 01770, true, 0},    {"carpeta de solo leer", 0660, 0, 0750, true, 0},
+        {"fichero de solo leer", 0640, 0, 0770, false, 0},
+    };
+    for (const auto& [nombre, modo, duenio, deCarpeta, puede, despues] : filas) {
+        const CarpetaTemporal carpeta;
+        const fs::path fichero = carpeta.pon("fichero", "antes");
+        ASSERT_EQ(chown(fichero.c_str(), duenio, equipo) | chmod(fichero.c_str(), modo), 0);
+        const std::string enQue = fichero.parent_path().native();
+        ASSERT_EQ(chown(enQue.c_str(), 0, equipo) | chmod(enQue.c_str(), deCarpeta), 0);
+        const pid_t hijo = fork();
+        if (hijo == 0) {
+            const gid_t grupos[] = {equipo};
+            if (setgroups(1, grupos) != 0 || setgid(ana) != 0 || setuid(ana) != 0) _exit(9);
+            _exit(mensajeDe([&] { escribeBytes(fichero, "x", Durabilidad::EnDisco); }) == u"(ningún error)"
+                      ? 0
+                      : 1);
+        }
+        int estado = 0;
+        ASSERT_EQ(waitpid(hijo, &estado, 0), hijo);
+        EXPECT_EQ(WEXITSTATUS(estado), puede ? 0 : 1) << nombre;
+        struct stat ahora {};
+        ASSERT_EQ(stat(fichero.c_str(), &ahora), 0);
+        EXPECT_EQ(ahora.st_uid, despues) << nombre;
+        EXPECT_EQ(ahora.st_gid, equipo) << nombre;
+        EXPECT_EQ(ahora.st_mode & 07777U, modo) << nombre;
+        EXPECT_EQ(bytesDe(fichero), puede ? "x" : "antes") << nombre;
+        EXPECT_EQ(carpeta.entradas(), 1U) << nombre;
+    }
+}
+
+TEST(Ficheros, LosAtributosSeConservan) {
+    const CarpetaTemporal carpeta;
+    const fs::path fichero = carpeta.pon("fichero", "antes");
+    if (setxattr(fichero.c_str(), "user.autor", "ana", 3, 0) != 0) GTEST_SKIP() << "no attributes here";
+    escribeBytes(fichero, "después", Durabilidad::EnDisco);
+    std::string autor(3, '?');
+    EXPECT_EQ(getxattr(fichero.c_str(), "user.autor", autor.data(), autor.size()), 3);
+    EXPECT_EQ(autor, "ana");
 }
 
 TEST(Ficheros, UnaTuberiaSeEscribeDirectamente) {

@@ -27,14 +27,13 @@ std::size_t laQueFalla = 0; // counted from 1; 0: none
 
 void* asigna(std::size_t bytes) {
     if (++asignaciones == laQueFalla) throw std::bad_alloc();
-    void* const memoria =
-        std::malloc(bytes); // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+    void* const memoria = std::malloc(bytes); // NOLINT
     if (memoria == nullptr) throw std::bad_alloc();
     return memoria;
 }
 
 void libera(void* memoria) {
-    std::free(memoria); // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+    std::free(memoria); // NOLINT
 }
 
 } // namespace

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+
+// A file that has other names, whose owner could not be kept, or whose folder takes no new file is written
+// where it is. The new content is made in memory first, so that it is whole; the old one is copied beside
+// the file, or where temporary files are, and stays there until the new one is in its place: a failure puts
+// it back, and after a sudden end it can be found.
+#include "norvik/base/escrituraEnSitio.hpp"
+
+#include "norvik/base/causas.hpp"
+#include "norvik/base/errores.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <string>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The old content, kept on the disk for as long as it may be needed.
+class Copia {
+public:
+    static std::optional<Copia> de(const fs::path& fichero, const std::string& bytes) {
+        std::error_code error;
+        for (const fs::path& carpeta : {fichero.parent_path(), fs::temp_directory_path(error)}) {
+            std::string nombre = (carpeta / ("." + fichero.filename().native() + ".norvik-XXXXXX")).native();
+            const Descriptor descriptor(mkostemp(nombre.data(), O_CLOEXEC));
+            if (!descriptor.abierto()) continue;
+            Copia copia(nombre);
+            if (escribeTodo(descriptor.numero(), bytes) &&
+                sinInterrupcion([&] { return fsync(descriptor.numero()); }) == 0)
+                return copia;
+        }
+        return std::nullopt;
+    }
+    Copia(Copia&& otra) noexcept : nombre_(std::exchange(otra.nombre_, {})) {}
+    Copia& operator=(Copia&&) = delete;
+    Copia(const Copia&) = delete;
+    Copia& operator=(const Copia&) = delete;
+    ~Copia() {
+        const int codigo = errno; // the caller still reads why it failed
+        if (!nombre_.empty()) unlink(nombre_.c_str());
+        errno = codigo;
+    }
+
+    // It stays for good, under this name.
+    std::string queda() { return std::exchange(nombre_, {}); }
+
+private:
+    explicit Copia(std::string nombre) : nombre_(std::move(nombre)) {}
+
+    std::string nombre_;
+};
+
+std::optional<std::string> enMemoria(const Llenado& llenado) {
+    const Descriptor memoria(memfd_create("norvik", MFD_CLOEXEC));
+    if (!memoria.abierto() || !llenado(memoria.numero()) || lseek(memoria.numero(), 0, SEEK_SET) != 0)
+        return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(lseek(memoria.numero(), 0, SEEK_END)), '\0');
+    const auto leidos =
+        sinInterrupcion([&] { return pread(memoria.numero(), bytes.data(), bytes.size(), 0); });
+    if (leidos != static_cast<ssize_t>(bytes.size())) return std::nullopt;
+    return bytes;
+}
+
+bool pon(int descriptor, std::string_view bytes, Durabilidad durabilidad) {
+    return lseek(descriptor, 0, SEEK_SET) == 0 && escribeTodo(descriptor, bytes) &&
+           sinInterrupcion([&] { return ftruncate(descriptor, static_cast<off_t>(bytes.size())); }) == 0 &&
+           (durabilidad == Durabilidad::Normal || sinInterrupcion([&] { return fsync(descriptor); }) == 0);
+}
+
+} // namespace
+
+bool escribeEnSuSitio(const fs::path& fichero, const Llenado& llenado, Durabilidad durabilidad) {
+    const auto nuevo = enMemoria(llenado);
+    if (!nuevo) return false;
+    const std::string antiguo = leeBytes(fichero);
+    Descriptor descriptor(
+        sinInterrupcion([&] { return open(fichero.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC); }));
+    if (!descriptor.abierto()) return false;
+    auto copia = Copia::de(fichero, antiguo);
+    if (!copia) return false;
+    if (pon(descriptor.numero(), *nuevo, durabilidad) && descriptor.cierra()) return true;
+    const int codigo = errno;
+    if (descriptor.abierto() && pon(descriptor.numero(), antiguo, durabilidad)) {
+        errno = codigo;
+        return false;
+    }
+    throw ErrorDeFichero(u"No se puede escribir «" + decodifica(fichero.native()) + u"»: " +
+                         causaDelSistema(codigo) + u". Lo que tenía está en «" + decodifica(copia->queda()) +
+                         u"»");
+}
+
+} // namespace norvik
