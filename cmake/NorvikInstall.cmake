@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What a host program needs: the libraries, their headers, a CMake package and pkg-config files. All find their
-# places relative to their own, so that an installation can be moved.
+# What a host program needs: the libraries, their public headers, a CMake package and pkg-config files. All find their
+# places relative to their own, so that an installation can be moved. The package serves this build tree, too.
 include(CMakePackageConfigHelpers)
 
 set(NORVIK_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/norvik")
@@ -10,26 +10,52 @@ string(REGEX REPLACE "/$" "" NORVIK_PC_PREFIX "${NORVIK_PC_PREFIX}")
 configure_package_config_file(cmake/norvikConfig.cmake.in norvikConfig.cmake
   INSTALL_DESTINATION "${NORVIK_CMAKE_DIR}")
 write_basic_package_version_file(norvikConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+configure_file(cmake/NorvikLenguaje.cmake NorvikLenguaje.cmake COPYONLY)
+install(FILES "${PROJECT_BINARY_DIR}/norvikConfig.cmake" "${PROJECT_BINARY_DIR}/norvikConfigVersion.cmake"
+  cmake/NorvikLenguaje.cmake DESTINATION "${NORVIK_CMAKE_DIR}")
 
-# A library with the export set and the pkg-config file that name it.
-function(norvik_install_library target export pc)
-  configure_file(cmake/${pc}.in ${pc} @ONLY)
-  install(TARGETS ${target} EXPORT ${export} ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT desarrollo)
-  install(EXPORT ${export} NAMESPACE norvik:: DESTINATION "${NORVIK_CMAKE_DIR}" COMPONENT desarrollo)
-  install(FILES "${PROJECT_BINARY_DIR}/${pc}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT desarrollo)
+# Targets that a file of the CMake package declares, here and where they are installed.
+function(norvik_install_targets fichero)
+  install(TARGETS ${ARGN} EXPORT ${fichero})
+  install(EXPORT ${fichero} NAMESPACE norvik:: DESTINATION "${NORVIK_CMAKE_DIR}")
+  export(EXPORT ${fichero} NAMESPACE norvik:: FILE ${fichero}.cmake)
 endfunction()
 
-install(FILES "${PROJECT_BINARY_DIR}/norvikConfig.cmake" "${PROJECT_BINARY_DIR}/norvikConfigVersion.cmake"
-  DESTINATION "${NORVIK_CMAKE_DIR}" COMPONENT desarrollo)
-norvik_install_library(norvik-core norvikTargets norvik.pc)
-install(DIRECTORY norvik DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT desarrollo
-  FILES_MATCHING PATTERN "*.hpp" PATTERN qt EXCLUDE PATTERN tools EXCLUDE)
-if(TARGET norvik-qt)
-  norvik_install_library(norvik-qt norvikQtTargets norvik-qt.pc)
-  install(DIRECTORY norvik/tools DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/norvik" COMPONENT desarrollo
-    FILES_MATCHING PATTERN "*.hpp")
-  install(DIRECTORY norvik/platform/qt DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/norvik/platform"
-    COMPONENT desarrollo FILES_MATCHING PATTERN "*.hpp")
-endif()
+# A library, shared and static, with its pkg-config file.
+function(norvik_install_library nombre pc)
+  norvik_install_targets(norvik-${nombre}-shared norvik-${nombre}-compartida)
+  norvik_install_targets(norvik-${nombre}-static norvik-${nombre})
+  configure_file(cmake/${pc}.in ${pc} @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/${pc}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+endfunction()
 
-install(TARGETS norvik RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT orden)
+# The public headers, and those that they include in turn.
+function(norvik_install_headers)
+  file(STRINGS docs/referencia/cabeceras quedan REGEX "^norvik/")
+  if(NOT TARGET norvik-qt)
+    list(FILTER quedan EXCLUDE REGEX "^norvik/tools/")
+  endif()
+  set(vistas "")
+  while(quedan)
+    list(POP_FRONT quedan cabecera)
+    list(APPEND vistas ${cabecera})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${cabecera})
+    file(STRINGS ${cabecera} incluye REGEX "^#include \"norvik/")
+    list(TRANSFORM incluye REPLACE "^#include \"(.*)\".*" "\\1")
+    list(APPEND quedan ${incluye})
+    list(REMOVE_DUPLICATES quedan)
+    list(REMOVE_ITEM quedan ${vistas})
+  endwhile()
+  foreach(cabecera ${vistas})
+    cmake_path(GET cabecera PARENT_PATH carpeta)
+    install(FILES ${cabecera} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${carpeta}")
+  endforeach()
+  install(FILES "${PROJECT_BINARY_DIR}/include/norvik/version.hpp" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/norvik")
+endfunction()
+
+norvik_install_headers()
+norvik_install_targets(norvik-orden norvik)
+norvik_install_library(core norvik.pc)
+if(TARGET norvik-qt)
+  norvik_install_library(qt norvik-qt.pc)
+endif()

@@ -9,6 +9,8 @@
 #include "ayuda.hpp"
 #include "norvik/base/ficheros.hpp"
 
+#include <norvik/version.hpp>
+
 #include <CLI/CLI.hpp>
 
 #include <algorithm>

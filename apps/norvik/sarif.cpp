@@ -6,6 +6,8 @@
 #include "escritorJson.hpp"
 #include "norvik/base/codificacion.hpp"
 
+#include <norvik/version.hpp>
+
 namespace norvik::orden {
 
 namespace {

@@ -4,6 +4,8 @@
 
 #include "linea.hpp"
 
+#include <norvik/version.hpp>
+
 #include <CLI/CLI.hpp>
 
 namespace norvik::taller {

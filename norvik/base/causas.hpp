@@ -2,11 +2,13 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <string>
 
 namespace norvik {
 
 /// Spanish words for an error number of the system (`errno`), to follow a colon.
-std::u16string causaDelSistema(int codigo);
+NORVIK_API std::u16string causaDelSistema(int codigo);
 
 } // namespace norvik

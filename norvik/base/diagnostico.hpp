@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/rango.hpp"
 
 #include <cstdint>
@@ -123,13 +124,13 @@ struct Diagnostico {
 };
 
 /// «token-inesperado»: minúsculas y guiones; no cambia nunca una vez publicado.
-std::u16string_view nombreDe(Codigo codigo);
+NORVIK_API std::u16string_view nombreDe(Codigo codigo);
 /// «error», «aviso» o «nota».
-std::u16string_view nombreDe(Gravedad gravedad);
+NORVIK_API std::u16string_view nombreDe(Gravedad gravedad);
 /// Las palabras para una persona, sin lugar ni código.
-std::u16string mensaje(const Diagnostico& diagnostico);
+NORVIK_API std::u16string mensaje(const Diagnostico& diagnostico);
 
 /// Si alguno de ellos es un error.
-bool hayErrores(const std::vector<Diagnostico>& diagnosticos);
+NORVIK_API bool hayErrores(const std::vector<Diagnostico>& diagnosticos);
 
 } // namespace norvik

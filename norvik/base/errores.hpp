@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -10,7 +12,7 @@
 namespace norvik {
 
 /// Raíz de los fallos que lanzan las operaciones. Su texto está en español y es para el usuario.
-class ErrorNorvik : public std::runtime_error {
+class NORVIK_API ErrorNorvik : public std::runtime_error {
 public:
     explicit ErrorNorvik(std::u16string_view texto);
 
@@ -22,7 +24,7 @@ private:
 };
 
 /// Un número que no cabe en el tipo prescrito, o una capacidad agotada.
-class Desbordamiento : public ErrorNorvik {
+class NORVIK_API Desbordamiento : public ErrorNorvik {
 public:
     explicit Desbordamiento(std::u16string_view texto = u"Desbordamiento");
     /// `que` con su número («la línea», 32768) y los límites que tiene.
@@ -30,14 +32,14 @@ public:
 };
 
 /// Un texto más largo que `maximoTexto`: lo lanzan las operaciones del control que reconocen su texto.
-class TextoDemasiadoLargo : public Desbordamiento {
+class NORVIK_API TextoDemasiadoLargo : public Desbordamiento {
 public:
     TextoDemasiadoLargo();
 };
 
 /// Una búsqueda que pide más tiempo o memoria de los que puede tener. El texto nombra la definición, si se
 /// conoce.
-class BusquedaDesbocada : public Desbordamiento {
+class NORVIK_API BusquedaDesbocada : public Desbordamiento {
 public:
     BusquedaDesbocada();
     explicit BusquedaDesbocada(std::u16string_view definicion);
@@ -50,13 +52,13 @@ private:
 };
 
 /// Una operación que alguien ha cancelado.
-class OperacionCancelada : public ErrorNorvik {
+class NORVIK_API OperacionCancelada : public ErrorNorvik {
 public:
     OperacionCancelada();
 };
 
 /// Un índice fuera de una tabla fija (reglas, ítems de un estado, celdas de la tabla SLR).
-class SubindiceFueraDeIntervalo : public ErrorNorvik {
+class NORVIK_API SubindiceFueraDeIntervalo : public ErrorNorvik {
 public:
     explicit SubindiceFueraDeIntervalo(std::u16string_view texto = u"Subíndice fuera de intervalo");
     /// `que` con su número («la regla», 1001) y los límites que tiene.
@@ -65,25 +67,25 @@ public:
 };
 
 /// Una posición que no tiene la lista.
-class IndiceNoValido : public ErrorNorvik {
+class NORVIK_API IndiceNoValido : public ErrorNorvik {
 public:
     explicit IndiceNoValido(std::u16string_view texto = u"Índice no válido");
 };
 
 /// Un valor que no se puede convertir al tipo esperado, o un texto sin la forma esperada.
-class NoCoincidenLosTipos : public ErrorNorvik {
+class NORVIK_API NoCoincidenLosTipos : public ErrorNorvik {
 public:
     explicit NoCoincidenLosTipos(std::u16string_view texto = u"No coinciden los tipos");
 };
 
 /// Un argumento con el que la operación no puede trabajar.
-class ArgumentoNoValido : public ErrorNorvik {
+class NORVIK_API ArgumentoNoValido : public ErrorNorvik {
 public:
     explicit ArgumentoNoValido(std::u16string_view texto = u"Argumento o llamada a procedimiento no válidos");
 };
 
 /// Un fichero que no se puede leer o escribir; el texto nombra el fichero y la causa.
-class ErrorDeFichero : public ErrorNorvik {
+class NORVIK_API ErrorDeFichero : public ErrorNorvik {
 public:
     explicit ErrorDeFichero(std::u16string_view texto);
 };

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/descriptor.hpp"
 
@@ -19,12 +20,12 @@ inline constexpr std::size_t maximoDeFichero = std::size_t{64} << 20;
 
 /// Los bytes de un fichero entero; lanza `ErrorDeFichero` (no existe, es una carpeta, no se puede leer, es
 /// demasiado grande…).
-std::string leeBytes(const std::filesystem::path& fichero);
+NORVIK_API std::string leeBytes(const std::filesystem::path& fichero);
 /// Lo mismo de la entrada estándar, desde donde está hasta su final.
-std::string leeEntradaEstandar();
+NORVIK_API std::string leeEntradaEstandar();
 /// Un texto como lo carga el editor: descodificado y con todas sus líneas acabadas en CR LF, menos la última,
 /// que pierde su final. Lanza `ErrorDeFichero`.
-std::u16string leeTexto(const std::filesystem::path& fichero);
+NORVIK_API std::u16string leeTexto(const std::filesystem::path& fichero);
 
 /// Da un texto trozo a trozo, sin partir ningún carácter; nada cuando se ha acabado.
 using OrigenDeTexto = std::function<std::u16string()>;
@@ -32,7 +33,7 @@ using OrigenDeTexto = std::function<std::u16string()>;
 /// El texto de un fichero por trozos, descodificado como hace `leeTexto` pero con sus finales de línea, para
 /// el que sea demasiado largo para tenerlo entero. El fichero se lee antes para saber su codificación, hasta
 /// el primer byte que impide que sea UTF-8. Ambas operaciones lanzan `ErrorDeFichero`.
-class TextoPorTrozos {
+class NORVIK_API TextoPorTrozos {
 public:
     explicit TextoPorTrozos(const std::filesystem::path& fichero);
     std::u16string siguiente();
@@ -57,17 +58,19 @@ enum class Durabilidad : int { Normal, EnDisco };
 /// vuelca fichero y carpeta al disco. Lo que no es un fichero corriente (un dispositivo, una tubería) no
 /// tiene sitio al lado y se escribe directamente. Un texto se escribe en Windows-1252 cuando así se vuelve a
 /// leer el mismo texto, y si no en UTF-8 con marca.
-void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes, Durabilidad durabilidad);
-void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto, Durabilidad durabilidad);
+NORVIK_API void escribeBytes(const std::filesystem::path& fichero, std::string_view bytes,
+                             Durabilidad durabilidad);
+NORVIK_API void escribeTexto(const std::filesystem::path& fichero, std::u16string_view texto,
+                             Durabilidad durabilidad);
 
 /// Recibe un texto trozo a trozo.
 using SumideroDeTexto = std::function<void(std::u16string_view pieza)>;
 /// Da un texto en trozos de líneas enteras, el mismo cada vez que se le pide.
 using TextoPorPiezas = std::function<void(const SumideroDeTexto& sumidero)>;
 /// El texto de una pieza.
-std::u16string deUnaPieza(const TextoPorPiezas& piezas);
+NORVIK_API std::u16string deUnaPieza(const TextoPorPiezas& piezas);
 /// Escribe un texto demasiado largo para tenerlo entero.
-void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
-                  Durabilidad durabilidad);
+NORVIK_API void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
+                             Durabilidad durabilidad);
 
 } // namespace norvik

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -26,8 +28,8 @@ struct ArbolEjemplo {
 };
 
 /// Las hojas de un árbol de izquierda a derecha; una variable vacía no tiene ninguna.
-std::vector<std::u16string> hojas(const ArbolEjemplo& arbol);
+NORVIK_API std::vector<std::u16string> hojas(const ArbolEjemplo& arbol);
 /// «S1[a S2[Ø]]», con el número de cada regla: dos árboles son el mismo cuando lo es este texto.
-std::u16string enTexto(const ArbolEjemplo& arbol);
+NORVIK_API std::u16string enTexto(const ArbolEjemplo& arbol);
 
 } // namespace norvik

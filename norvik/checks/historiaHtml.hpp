@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/checks/historiaConflicto.hpp"
 
 #include <string>
@@ -11,6 +12,6 @@ namespace norvik {
 /// La historia de un conflicto como un fragmento de HTML (`<section class="historia">`) que cabe en cualquier
 /// página: sin estilos ni guiones de otros, los árboles dibujados en SVG con el color del texto que los rodea
 /// y escritos para quien no los ve.
-std::u16string enHtml(const HistoriaConflicto& historia);
+NORVIK_API std::u16string enHtml(const HistoriaConflicto& historia);
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/checks/historiaConflicto.hpp"
 
 #include <string>
@@ -10,8 +11,8 @@ namespace norvik {
 
 /// La historia de un conflicto para una terminal: líneas de no más de 80 caracteres, acabadas en un salto de
 /// línea, con los dos árboles dibujados.
-std::u16string enTexto(const HistoriaConflicto& historia);
+NORVIK_API std::u16string enTexto(const HistoriaConflicto& historia);
 /// Si de dos conflictos se dice lo mismo, salvo el token: uno basta a una persona.
-bool seCuentanIgual(const HistoriaConflicto& una, const HistoriaConflicto& otra);
+NORVIK_API bool seCuentanIgual(const HistoriaConflicto& una, const HistoriaConflicto& otra);
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/checks/historiaConflicto.hpp"
 #include "norvik/spec/lenguaje.hpp"
@@ -15,7 +16,8 @@ namespace norvik {
 /// compilarla, con el nombre que quizá se quiso escribir donde nadie conoce el escrito, y lo que no impide
 /// compilarla pero no hace lo que parece. Los rangos cuentan unidades UTF-16. Lanza `Desbordamiento` con un
 /// texto de 2^31 - 1 unidades o más.
-std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
+NORVIK_API std::vector<Diagnostico> revisa(std::u16string_view especificacion,
+                                           const OpcionesCompilacion& opciones = {});
 
 /// Un diagnóstico de una revisión y, si es de un conflicto, la historia de cada acción que se pierde en su
 /// celda.
@@ -25,8 +27,8 @@ struct Hallazgo {
 };
 
 /// Lo mismo, y cada conflicto contado con un ejemplo, que se busca dentro de unos límites.
-std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
-                                         const OpcionesCompilacion& opciones = {},
-                                         const LimitesHistorias& limites = {});
+NORVIK_API std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
+                                                    const OpcionesCompilacion& opciones = {},
+                                                    const LimitesHistorias& limites = {});
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
@@ -17,7 +18,7 @@ namespace norvik {
 /// Una bolsa de propiedades: valores con nombre y tipo, en el orden en que se escribieron. Se guarda en un
 /// fichero JSON que una persona puede leer y comparar: `true` y `false`, números, textos, y una fuente como
 /// objeto.
-class BolsaPropiedades {
+class NORVIK_API BolsaPropiedades {
 public:
     /// @name Leer un valor
     /// Cuando falta la clave dan el valor por omisión. Un valor de otro tipo lanza `NoCoincidenLosTipos` y un

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/pattern/emparejador.hpp"
 
@@ -27,7 +28,7 @@ struct Peticion {
 
 /// What the find and the replace dialog do; the windows only fill in a request and call. They share the
 /// process's one search state. A pattern that is malformed or runs away is told and changes nothing.
-class Buscador {
+class NORVIK_API Buscador {
 public:
     /// Searches the find dialog's text, or another one, which must outlive the searcher. Messages are told by
     /// the services that belong to the text.

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/control/disposicion.hpp"
 
 #include <cstdint>
@@ -13,7 +14,7 @@ struct signoDebuger;
 
 /// Lo que el control necesita de quien lo contiene y lo muestra, además de su caja de texto. Un anfitrión sin
 /// ventanas no tiene nada que hacer en ninguna de estas operaciones.
-class Contenedor {
+class NORVIK_API Contenedor {
 public:
     Contenedor() = default;
     Contenedor(const Contenedor&) = delete;

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/sistema.hpp"
 
@@ -15,7 +16,7 @@
 namespace norvik {
 
 /// The text that a dialog searches.
-struct DestinoBusqueda {
+struct NORVIK_API DestinoBusqueda {
     CajaTexto* textoDestino = nullptr; ///< null when its control is gone, as are its services
     Sistema* sistema = nullptr;
     /// Replaces a range (0-based) of the box's text as one step of Undo.

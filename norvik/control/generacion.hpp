@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/sistema.hpp"
@@ -21,13 +22,13 @@ class Norvik;
 void generaTabla(gramatica& g, const std::function<void()>& pausa);
 
 /// What is told of a grammar that did not pass its check.
-Mensaje mensajeDeComprobacion(std::u16string_view error);
+NORVIK_API Mensaje mensajeDeComprobacion(std::u16string_view error);
 /// What is told of a specification that did not compile.
-Mensaje mensajeDeCompilacion(std::u16string_view error);
+NORVIK_API Mensaje mensajeDeCompilacion(std::u16string_view error);
 
 /// Grammar and lexer that a specification is compiled into apart from the control that it is written in: for
 /// its report and its module.
-class LenguajeAparte {
+class NORVIK_API LenguajeAparte {
 public:
     explicit LenguajeAparte(Sistema& sistema) : sistema_(sistema) {}
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/estadoBusqueda.hpp"
@@ -43,7 +44,7 @@ namespace norvik {
 /// mientras él carga o compila otro. Un texto que se lea entre tanto se lee con el lenguaje anterior o con el
 /// nuevo entero. La operación en que se destruye el control acaba sin él: no da más eventos ni toca la caja,
 /// los servicios o el contenedor; la que registra una definición lanza `ErrorNorvik`.
-class Norvik final : public CargadorLenguaje {
+class NORVIK_API Norvik final : public CargadorLenguaje {
     const std::shared_ptr<PartesControl> partes_; // before what refers to it
 
 public:

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/numeros.hpp"
 
 #include <cstdint>
@@ -14,7 +15,7 @@ namespace norvik {
 
 /// An ordered set of symbols or rule indexes; members keep the order of their first insertion.
 /// Look-ups take constant time; removals rebuild the index.
-class conjunto {
+class NORVIK_API conjunto {
 public:
     using Valor = std::variant<std::u16string, std::int16_t>;
 

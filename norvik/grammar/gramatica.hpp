@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
 #include "norvik/grammar/clasico/conjuntos.hpp"
@@ -34,7 +35,7 @@ class Sistema;
 /// Un anfitrión toma la de su control (`Norvik::Gramatica`), carga y genera con las llamadas del control, y
 /// con ella mira, informa y escribe módulos. Varios hilos pueden llamar a la vez a lo que es `const`, si
 /// ninguno llama a lo demás.
-class gramatica {
+class NORVIK_API gramatica {
 public:
     static constexpr std::int16_t aceptar = TablaLR::aceptar;    ///< la entrada de la tabla que acepta
     static constexpr std::int16_t maximoReglas = Reglas::maximo; ///< mil

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/grammar/reglas.hpp"
 
 #include <cstddef>
@@ -21,7 +22,7 @@ using Cuerpo = std::span<const Simbolo>;
 
 /// The rules with their symbols as numbers: what the analyses work on. An empty body reads as Ø.
 /// Rule indexes are 1-based. Never changed once it is made; texts are views into it, which moving keeps.
-class ReglasPartidas {
+class NORVIK_API ReglasPartidas {
 public:
     static constexpr Simbolo sinSimbolo = -1;
     static constexpr Simbolo vacio = 0;    ///< Ø

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
 #include "norvik/lexer/parLT.hpp"
 
@@ -15,7 +16,7 @@ namespace norvik {
 
 /// The definitions of a language in registration order: a value that moves as a whole. The definitions stay
 /// where they are for as long as they are kept, and never change.
-class DefinicionesTokens {
+class NORVIK_API DefinicionesTokens {
 public:
     /// Every definition, auxiliary ones too, and the token definitions alone.
     const std::vector<std::unique_ptr<expresionRegular>>& todas() const { return todas_; }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/lexer/definicionesTokens.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
@@ -33,7 +34,7 @@ struct DefinicionTexto {
 /// El analizador léxico: las definiciones de un lenguaje en el orden en que se registraron, los colores de
 /// sus clases y el reconocimiento de un texto. Un anfitrión toma el de su control (`Norvik::Lexico`), para
 /// escribir módulos y para mirar.
-class pilaTokens {
+class NORVIK_API pilaTokens {
 public:
     pilaTokens() = default;
     pilaTokens(const pilaTokens&) = delete;

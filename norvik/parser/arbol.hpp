@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <span>
 #include <string>
@@ -31,7 +33,7 @@ struct FichaRegla {
 /// padre. En su sitio puede aparecer más tarde un nodo de otro árbol, antes cuanto mayores sean; es un nodo
 /// mientras viva el control. La raíz es siempre el mismo nodo. Quien necesite más copia lo que quiera, o usa
 /// `analiza`, cuyo árbol es un valor.
-class Arbol {
+class NORVIK_API Arbol {
 public:
     /// Solo un árbol hace nodos.
     class Clave {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/rango.hpp"
 #include "norvik/parser/textoAnalizado.hpp"
 
@@ -24,7 +25,7 @@ class Hijos;
 /// Un nodo de un `ArbolAnalisis`: un token del texto (una hoja) o una aplicación de una regla. Es un valor
 /// pequeño que se refiere a su árbol y vale mientras exista, aunque el árbol se mueva. Nada cambia un nodo:
 /// varios hilos pueden leer un mismo árbol.
-class Nodo {
+class NORVIK_API Nodo {
 public:
     /// Verdadero con un token del texto. La aplicación de una regla vacía no tiene hijos y no es un token.
     bool esToken() const { return regla() == 0; }
@@ -78,7 +79,7 @@ private:
 /// Un árbol sintáctico como valor. Es dueño de sus nodos y de una copia del texto, se mueve pero no se copia,
 /// y sobrevive al lenguaje y al texto de que se hizo. Puede ser tan hondo como largo es su texto: nada de
 /// aquí es recursivo, ni siquiera la destrucción.
-class ArbolAnalisis {
+class NORVIK_API ArbolAnalisis {
 public:
     /// Sin nodos, como tras un texto que no se aceptó.
     ArbolAnalisis();
@@ -118,7 +119,7 @@ private:
 };
 
 /// Los hijos de un nodo, para recorrerlos de izquierda a derecha.
-class Hijos {
+class NORVIK_API Hijos {
 public:
     /// Va de un hijo al siguiente.
     class Iterador {

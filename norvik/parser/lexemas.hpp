@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/base/rango.hpp"
 #include "norvik/parser/textoAnalizado.hpp"
@@ -26,7 +27,7 @@ struct Lexema {
 
 /// Los tokens de un texto que se leyó sin analizarlo, con sus comentarios. Es dueño de una copia del texto, y
 /// se mueve pero no se copia.
-class Lexemas {
+class NORVIK_API Lexemas {
 public:
     explicit Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores)
         : diagnosticos(std::move(errores)), texto_(std::move(texto)) {}

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -11,7 +13,7 @@ namespace norvik {
 
 /// Un texto con servicios de líneas. Posiciones y líneas cuentan desde 0; un salto de línea (CR LF, o un CR o
 /// un LF solo) pertenece a la línea que acaba.
-class FuenteTexto {
+class NORVIK_API FuenteTexto {
 public:
     FuenteTexto() = default;
     FuenteTexto(const FuenteTexto&) = delete;
@@ -83,7 +85,7 @@ struct CambioDeTexto {
 ///
 /// Un salto de línea que llega como CR o LF solo se convierte en CR LF, a no ser que complete medio salto que
 /// ya está a su lado. Solo quedan mitades cuando se selecciona y se reemplaza parte de un CR LF.
-class CajaTexto : public FuenteTexto {
+class NORVIK_API CajaTexto : public FuenteTexto {
 public:
     /// Recibe los eventos de la caja. El receptor puede cambiar los argumentos.
     struct Eventos {

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,7 +32,7 @@ struct Mensaje {
 };
 
 /// Los servicios que el sistema pide a su entorno.
-class Sistema {
+class NORVIK_API Sistema {
 public:
     Sistema() = default;
     Sistema(const Sistema&) = delete;

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <string_view>
 
@@ -14,6 +16,6 @@ enum class LenguajeModulo : std::uint8_t { Vb, Cpp };
 /// underscores, not starting with a digit) that is no reserved word of the language.
 bool esNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
 /// Raises `ArgumentoNoValido` when it cannot.
-void compruebaNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
+NORVIK_API void compruebaNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
@@ -30,7 +31,7 @@ inline std::pair<std::u16string_view, std::u16string_view> parteRegla(std::u16st
 
 /// Algo en que se puede cargar un lenguaje llamada a llamada: el control, como lo ven los módulos de carga y
 /// quien instala el lenguaje de especificación.
-class CargadorLenguaje {
+class NORVIK_API CargadorLenguaje {
 public:
     CargadorLenguaje() = default;
     CargadorLenguaje(const CargadorLenguaje&) = delete;

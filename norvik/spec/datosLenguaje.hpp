@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
 
 #include <cstdint>
@@ -36,6 +37,6 @@ struct DatosLenguaje {
 
 /// Carga un lenguaje en un control, con las llamadas de su módulo. Se añade a lo que el control ya tuviera.
 /// Lanza lo que lanzan esas llamadas.
-void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control);
+NORVIK_API void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control);
 
 } // namespace norvik

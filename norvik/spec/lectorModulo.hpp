@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/ficheros.hpp"
 
 #include <concepts>
@@ -16,7 +17,7 @@ namespace norvik {
 class CargadorLenguaje;
 
 /// Por qué no se pudo cargar un módulo.
-struct ErrorModulo {
+struct NORVIK_API ErrorModulo {
     std::int32_t linea = 0; ///< del módulo, desde 1
     std::u16string texto;   ///< qué está mal en ella, en una línea
 
@@ -25,7 +26,7 @@ struct ErrorModulo {
 };
 
 /// Si un fichero se toma por un módulo de carga: su nombre acaba en «.bas», con mayúsculas o sin ellas.
-bool esModulo(const std::filesystem::path& fichero);
+NORVIK_API bool esModulo(const std::filesystem::path& fichero);
 
 /// Carga un módulo en un control, con sus llamadas y en su orden: se añade a lo que el control tenga, y antes
 /// de un segundo lenguaje se llama a `Norvik::OlvidaLenguaje`. Da nada si fue bien. No llama a nada si el
@@ -33,9 +34,9 @@ bool esModulo(const std::filesystem::path& fichero);
 /// clase de sus finales de línea): da entonces la primera línea que no lo es. También da un `ErrorModulo`,
 /// con su línea, si una llamada lanza, con las anteriores hechas. El texto es el del fichero con sus finales
 /// de línea, que puede haber en un patrón y que `leeTexto` cambiaría.
-std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control);
+NORVIK_API std::optional<ErrorModulo> CargaModulo(std::u16string_view texto, CargadorLenguaje& control);
 /// Lo mismo de un texto que llega a trozos. Lo que lance su origen (`ErrorDeFichero`) sale de aquí.
-std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control);
+NORVIK_API std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLenguaje& control);
 /// Lo mismo de un fichero, que se da como `std::filesystem::path`: una cadena sería el texto de un módulo.
 /// Lanza `ErrorDeFichero`.
 std::optional<ErrorModulo> CargaModulo(const std::same_as<std::filesystem::path> auto& fichero,

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/grammar/metodo.hpp"
 #include "norvik/parser/analisis.hpp"
@@ -33,7 +34,7 @@ struct OpcionesCompilacion {
 /// (las copias lo comparten); con uno pueden analizar a la vez cuantos hilos se quiera. Lo hacen las
 /// funciones de aquí, que no tocan ningún otro lenguaje: lo que esté mal en el texto que reciben lo dicen los
 /// diagnósticos.
-class Lenguaje {
+class NORVIK_API Lenguaje {
 public:
     /// Compila una especificación. Los rangos de los diagnósticos cuentan unidades UTF-16; los de una en
     /// UTF-8, bytes.
@@ -76,11 +77,15 @@ struct Compilacion {
 
 /// Analiza un texto. Los rangos cuentan unidades del texto que se da: UTF-16, o bytes de UTF-8. Tiempo y
 /// memoria van en proporción al texto. Lanza `Desbordamiento` con un texto de 2^31 - 1 unidades o más.
-Analisis analiza(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones = {});
-Analisis analiza(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesAnalisis& opciones = {});
+NORVIK_API Analisis analiza(const Lenguaje& lenguaje, std::u16string_view texto,
+                            const OpcionesAnalisis& opciones = {});
+NORVIK_API Analisis analiza(const Lenguaje& lenguaje, std::string_view utf8,
+                            const OpcionesAnalisis& opciones = {});
 
 /// Los tokens de un texto, con sus comentarios, sin analizarlo. Rangos, coste y fallos como arriba.
-Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones = {});
-Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesAnalisis& opciones = {});
+NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto,
+                           const OpcionesAnalisis& opciones = {});
+NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8,
+                           const OpcionesAnalisis& opciones = {});
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 
 namespace norvik {
@@ -15,6 +16,6 @@ void InstalaLenguajeEspecificacion(gramatica& g, pilaTokens& lexico, bool lengua
 
 /// Adds the same language to a control through its loading interface and generates its table: words follow
 /// the control's `LenguajeSensible`, "TTFecha" is one more kind, and signs go without display names.
-void CargaMetaLenguaje(CargadorLenguaje& control);
+NORVIK_API void CargaMetaLenguaje(CargadorLenguaje& control);
 
 } // namespace norvik

@@ -4,6 +4,8 @@
 
 #include "norvik/tools/ventanas.hpp"
 
+#include <norvik/version.hpp>
+
 #include <QLabel>
 #include <QPushButton>
 #include <QSysInfo>

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/norvik.hpp"
@@ -81,7 +82,7 @@ namespace norvik {
 /// mientras el usuario escribe o pulsa, en una ranura del control o al poner una propiedad de Qt no llega a
 /// Qt: se cuenta después (`fallo`), una vez por fallo mientras el texto sea demasiado largo, y el texto
 /// queda. Lo que lance una llamada del anfitrión le llega a él.
-class ControlNorvik : public QWidget, private Contenedor {
+class NORVIK_API ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
     Q_PROPERTY(bool Borde3D READ Borde3D WRITE ponBorde3D)
     Q_PROPERTY(bool LeftBorderVisible READ LeftBorderVisible WRITE ponLeftBorderVisible)

@@ -7,6 +7,8 @@
 #include "apoyo/repite.hpp"
 #include "norvik/base/ficheros.hpp"
 
+#include <norvik/version.hpp>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>

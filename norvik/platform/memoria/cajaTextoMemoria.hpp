@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/lineas.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
@@ -23,7 +24,7 @@ struct TramoDeColor {
 /// La caja de texto en memoria, para anfitriones sin ventanas, y el modelo de las que la muestran en una
 /// ventana. Cada carácter tiene a su lado su color y su fuente, de modo que pintar un trozo cuesta lo que
 /// mide el trozo.
-class CajaTextoMemoria : public CajaTexto {
+class NORVIK_API CajaTextoMemoria : public CajaTexto {
 public:
     std::u16string_view texto() const override { return texto_; }
     std::int32_t lineaDeCaracter(std::int32_t posicion) const override;

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/platform/sistema.hpp"
 
 #include <functional>
@@ -10,7 +11,7 @@ namespace norvik {
 
 /// Los servicios de un anfitrión sin ventanas: los mensajes van a donde él dice y cuentan como aceptados, no
 /// hay nada pendiente y no hay impresora.
-class SistemaMemoria : public Sistema {
+class NORVIK_API SistemaMemoria : public Sistema {
 public:
     using Salida = std::function<void(const Mensaje&)>;
 
