@@ -8,6 +8,7 @@ paquetes_base=(g++ cmake ninja-build pkg-config rapidjson-dev libcli11-dev libgt
 paquetes_qt=(qt6-base-dev libqt6opengl6-dev)
 paquetes_disenador=(qt6-tools-dev)
 paquetes_referencia=(doxygen)
+paquetes_debian=(debhelper dpkg-dev fakeroot librsvg2-bin lintian)
 
 # Installs what is missing, and asks the network for nothing when nothing is.
 instala() {
