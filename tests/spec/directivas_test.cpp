@@ -2,8 +2,8 @@
 
 #include "apoyo/anfitrion.hpp"
 #include "norvik/report/modulo.hpp"
-#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
