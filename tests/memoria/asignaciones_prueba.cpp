@@ -44,6 +44,12 @@ void* operator new(std::size_t bytes) {
 void* operator new[](std::size_t bytes) {
     return asigna(bytes);
 }
+void* operator new(std::size_t bytes, const std::nothrow_t& /*sinLanzar*/) noexcept {
+    return ++asignaciones == laQueFalla ? nullptr : std::malloc(bytes); // NOLINT
+}
+void* operator new[](std::size_t bytes, const std::nothrow_t& sinLanzar) noexcept {
+    return operator new(bytes, sinLanzar);
+}
 void operator delete(void* memoria) noexcept {
     libera(memoria);
 }
