@@ -3,6 +3,7 @@
 #include "ventanaRevision.hpp"
 
 #include "norvik/checks/historiaTexto.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/spec/directivas.hpp"
 #include "norvik/tools/ventanas.hpp"
 
@@ -11,7 +12,7 @@ namespace norvik::taller {
 namespace {
 
 QString escapado(std::u16string_view texto) {
-    return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size())).toHtmlEscaped();
+    return aQString(texto).toHtmlEscaped();
 }
 
 QString enHtml(const Hallazgo& hallazgo, std::u16string_view especificacion) {
