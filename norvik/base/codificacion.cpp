@@ -20,7 +20,24 @@ bool esAscii(std::string_view bytes) {
 
 } // namespace
 
+std::optional<std::u16string> desdeUtf16(std::string_view bytes) {
+    using namespace std::string_view_literals;
+    const bool primeroElMayor = bytes.starts_with("\xFE\xFF");
+    const bool marcado = primeroElMayor || bytes.starts_with("\xFF\xFE");
+    const bool esUtf32 = bytes.starts_with("\xFF\xFE\0\0"sv);
+    if (!marcado || esUtf32 || bytes.size() % 2 != 0) return std::nullopt;
+    std::u16string texto;
+    texto.reserve(bytes.size() / 2 - 1);
+    for (std::size_t i = 2; i < bytes.size(); i += 2) {
+        const auto mayor = static_cast<unsigned char>(bytes[primeroElMayor ? i : i + 1]);
+        const auto menor = static_cast<unsigned char>(bytes[primeroElMayor ? i + 1 : i]);
+        texto.push_back(static_cast<char16_t>(mayor << 8 | menor));
+    }
+    return texto;
+}
+
 std::u16string decodifica(std::string_view bytes) {
+    if (auto texto = desdeUtf16(bytes)) return *std::move(texto);
     const bool marcado = bytes.substr(0, marcaUtf8.size()) == marcaUtf8;
     if (auto texto = desdeUtf8(marcado ? bytes.substr(marcaUtf8.size()) : bytes)) return *std::move(texto);
     return desdeWindows1252(bytes);

@@ -9,7 +9,10 @@
 // The texts of files: their bytes and their line ends.
 namespace norvik {
 
-/// Text of a file's bytes: UTF-8 (with or without a mark) when they are valid, else Windows-1252.
+/// UTF-16 begins with a mark, whose order its units have; nothing for bytes that are no such text.
+std::optional<std::u16string> desdeUtf16(std::string_view bytes);
+/// Text of a file's bytes: UTF-16 with its mark, UTF-8 (with or without one) when they are valid, else
+/// Windows-1252.
 std::u16string decodifica(std::string_view bytes);
 /// Bytes of a text: Windows-1252 when reading them back gives the same text, else UTF-8 with a mark.
 /// Raises `ErrorDeFichero` for a text that no file can hold (a lone surrogate).

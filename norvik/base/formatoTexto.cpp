@@ -16,7 +16,8 @@ namespace {
 
 constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
 
-SaltoDeFichero saltoMasFrecuente(std::string_view bytes) {
+template <typename Caracter>
+SaltoDeFichero saltoMasFrecuente(std::basic_string_view<Caracter> bytes) {
     std::size_t lf = 0;
     std::size_t crLf = 0;
     std::size_t cr = 0;
@@ -65,13 +66,37 @@ std::optional<std::string> enWindows1252(std::u16string_view texto) {
     return bytes && codificador.seLeeIgual() ? std::move(bytes) : std::nullopt;
 }
 
+std::string enUtf16(std::u16string_view texto, bool primeroElMayor) {
+    std::string bytes;
+    bytes.reserve(2 * texto.size() + 2);
+    const auto pon = [&](char16_t unidad) {
+        const auto mayor = static_cast<char>(unidad >> 8);
+        const auto menor = static_cast<char>(unidad & 0xFF);
+        bytes += primeroElMayor ? mayor : menor;
+        bytes += primeroElMayor ? menor : mayor;
+    };
+    pon(u'\uFEFF');
+    for (const char16_t unidad : texto) pon(unidad);
+    return bytes;
+}
+
+FormatoTexto formatoDeUtf16(std::string_view bytes, std::u16string_view texto) {
+    FormatoTexto formato;
+    formato.codificacion = bytes.starts_with('\xFE') ? Codificacion::Utf16Be : Codificacion::Utf16Le;
+    formato.salto = saltoMasFrecuente(texto);
+    formato.acabaEnSalto = texto.ends_with(u'\n') || texto.ends_with(u'\r');
+    return formato;
+}
+
 } // namespace
 
 bool esBinario(std::string_view bytes) {
+    if (const auto texto = desdeUtf16(bytes)) return texto->find(u'\0') != std::u16string::npos;
     return bytes.find('\0') != std::string_view::npos;
 }
 
 FormatoTexto formatoDe(std::string_view bytes) {
+    if (const auto texto = desdeUtf16(bytes)) return formatoDeUtf16(bytes, *texto);
     FormatoTexto formato;
     if (bytes.starts_with(marcaUtf8)) formato.codificacion = Codificacion::Utf8ConMarca;
     if (!esUtf8(bytes)) formato.codificacion = Codificacion::Windows1252;
@@ -83,6 +108,11 @@ FormatoTexto formatoDe(std::string_view bytes) {
 TextoCodificado codifica(std::u16string_view texto, const FormatoTexto& formato) {
     const std::u16string entero = conSaltos(texto, formato);
     TextoCodificado codificado{{}, formato};
+    const bool primeroElMayor = formato.codificacion == Codificacion::Utf16Be;
+    if (primeroElMayor || formato.codificacion == Codificacion::Utf16Le) {
+        codificado.bytes = enUtf16(entero, primeroElMayor);
+        return codificado;
+    }
     if (formato.codificacion == Codificacion::Windows1252) {
         if (auto bytes = enWindows1252(entero)) {
             codificado.bytes = *std::move(bytes);
@@ -107,6 +137,10 @@ std::u16string_view nombreDe(Codificacion codificacion) {
         return u"UTF-8 con marca";
     case Codificacion::Windows1252:
         return u"Windows-1252";
+    case Codificacion::Utf16Le:
+        return u"UTF-16 LE";
+    case Codificacion::Utf16Be:
+        return u"UTF-16 BE";
     }
     return {};
 }

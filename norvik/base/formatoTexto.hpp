@@ -9,7 +9,7 @@
 // How a file has its text, so that a person's document is written back as it was read.
 namespace norvik {
 
-enum class Codificacion : std::uint8_t { Utf8, Utf8ConMarca, Windows1252 };
+enum class Codificacion : std::uint8_t { Utf8, Utf8ConMarca, Windows1252, Utf16Le, Utf16Be };
 enum class SaltoDeFichero : std::uint8_t { Lf, CrLf, Cr };
 
 /// That of a new document.
