@@ -6,14 +6,16 @@
 #include "norvik/checks/fuente.hpp"
 #include "norvik/spec/directivas.hpp"
 
+#include <stop_token>
 #include <vector>
 
 // The checks of a specification, each group by itself: what is odd in it although it may compile.
 namespace norvik {
 
 /// Of definitions: those that nobody uses, stand twice or never win, and patterns that can take nothing.
+/// A cancellation is the last thing found.
 void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& directivas,
-                     std::vector<Diagnostico>& hallazgos);
+                     const std::stop_token& cancelacion, std::vector<Diagnostico>& hallazgos);
 /// Of rules: variables that nobody uses or reaches, or from which no text comes; heads, cycles, rules that
 /// stand twice.
 void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos);

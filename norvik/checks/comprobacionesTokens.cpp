@@ -141,7 +141,7 @@ void compruebaPatron(std::size_t numero, const std::vector<const Definicion*>& d
               {d.nombre, perdida->texto, {ganador.nombre}, {{ganador.lugarNombre, ganador.nombre}}}));
 }
 
-void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
+void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible, const std::stop_token& cancelacion,
                        std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
@@ -153,7 +153,7 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
             hallazgos.push_back(aviso(Codigo::CaracterDeControl, d.lugarTexto, {d.nombre, {}, {}, {}}));
         if (registrada && d.esToken) deToken.push_back(&d);
     }
-    const Presupuesto presupuesto(plazoDePatrones);
+    const Presupuesto presupuesto(plazoDePatrones, cancelacion);
     Concurso concurso(lexico.definiciones(), presupuesto);
     for (std::size_t i = 0; i < deToken.size(); ++i) {
         try {
@@ -171,11 +171,13 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible,
 } // namespace
 
 void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& directivas,
-                     std::vector<Diagnostico>& hallazgos) {
+                     const std::stop_token& cancelacion, std::vector<Diagnostico>& hallazgos) {
     compruebaUsos(fuente, hallazgos);
     compruebaRepetidas(fuente, hallazgos);
     try {
-        compruebaPatrones(fuente, directivas.distingueMayusculas, hallazgos);
+        compruebaPatrones(fuente, directivas.distingueMayusculas, cancelacion, hallazgos);
+    } catch (const OperacionCancelada&) {
+        hallazgos.push_back({Codigo::Cancelado, Gravedad::Error, {}, {}});
     } catch (const Desbordamiento&) {
         return; // compiling tells which capacity was passed, and a text that runs away proves nothing
     }

@@ -40,7 +40,7 @@ public:
         historia.estado = caso.estado;
         historia.simbolo = gramatica_.partidas.texto(caso.token);
         historia.acciones = accionesDe(caso);
-        if (contados_++ >= limites_.contados ||
+        if (contados_++ >= limites_.contados || limites_.cancelacion.stop_requested() ||
             Reloj::now() > fin_ + std::chrono::seconds(1)) { // the rest of it needs little
             historia.agotado = true;
             return historia;

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -82,6 +83,8 @@ struct LimitesHistorias {
     std::chrono::milliseconds porConflicto{1'500};
     std::chrono::milliseconds enTotal{8'000};
     std::size_t contados = 200; ///< de los demás se dicen solo las acciones
+    /// Desde que se pide, tampoco se cuentan los que falten.
+    std::stop_token cancelacion{};
 };
 
 } // namespace norvik

@@ -138,20 +138,23 @@ Revisada reune(std::u16string_view especificacion, const OpcionesCompilacion& op
     Revisada revisada;
     revisada.directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
     const Directivas& directivas = revisada.directivas;
-    Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion);
+    Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion});
     if (!analisis) {
         revisada.hallazgos = std::move(analisis.diagnosticos);
         situaNombres(revisada.hallazgos, especificacion);
         return revisada;
     }
-    Compilacion compilacion = compilaEspecificacion(analisis, directivas);
+    Compilacion compilacion = compilaEspecificacion(analisis, directivas, opciones.cancelacion);
     std::vector<Diagnostico>& hallazgos = revisada.hallazgos;
     hallazgos = std::move(compilacion.diagnosticos);
     revisada.lenguaje = std::move(compilacion.lenguaje);
+    const auto cancelada = [&] { return !hallazgos.empty() && hallazgos.back().codigo == Codigo::Cancelado; };
+    if (cancelada()) return revisada;
     const FuenteEspecificacion fuente = fuenteDe(analisis);
     for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
     compruebaDirectivas(especificacion, fuente, directivas, hallazgos);
-    compruebaTokens(fuente, directivas, hallazgos);
+    compruebaTokens(fuente, directivas, opciones.cancelacion, hallazgos);
+    if (cancelada()) return revisada;
     compruebaReglas(fuente, directivas.tabla.metodo, hallazgos);
     if (const gramatica* g = gramaticaDe(revisada);
         g != nullptr && directivas.tabla.metodo == Metodo::Clasico) {

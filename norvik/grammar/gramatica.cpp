@@ -18,7 +18,8 @@ namespace norvik {
 
 namespace {
 
-AutomataLR automataDe(const ReglasPartidas& reglas, const OpcionesTabla& opciones) {
+AutomataLR automataDe(const ReglasPartidas& reglas, const OpcionesTabla& opciones,
+                      const std::stop_token& cancelacion) {
     switch (opciones.metodo) {
     case Metodo::Clasico:
         return clasico::creaAutomata(reglas);
@@ -26,7 +27,7 @@ AutomataLR automataDe(const ReglasPartidas& reglas, const OpcionesTabla& opcione
     case Metodo::Lalr:
         return exacto::creaAutomata(exacto::Producciones(reglas));
     case Metodo::Lr1:
-        return exacto::creaAutomataLr1(exacto::Producciones(reglas), opciones.precedencias);
+        return exacto::creaAutomataLr1(exacto::Producciones(reglas), opciones.precedencias, cancelacion);
     }
     return {};
 }
@@ -120,7 +121,7 @@ void gramatica::creaAutomata() {
     valores_.automata = AutomataLR();
     numEstados_ = 0;
     try {
-        valores_.automata = automataDe(partidas(), opciones_);
+        valores_.automata = automataDe(partidas(), opciones_, cancelacion);
         numEstados_ = a16(valores_.automata.estados.size());
     } catch (...) {
         olvidaGenerado();

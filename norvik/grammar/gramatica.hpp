@@ -17,6 +17,7 @@
 #include <mutex>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -57,6 +58,9 @@ public:
 
     /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
     const GramaticaLR& valores() const { return valores_; }
+
+    /// Con lo que se deja a medias `creaAutomata`, que lanza entonces `OperacionCancelada`.
+    std::stop_token cancelacion;
 
     /// Recibe un texto, no hace nada y da uno vacío.
     std::u16string compila(std::u16string_view texto) const;
@@ -155,8 +159,9 @@ public:
     /// @name Autómata
     /// @{
 
-    /// Hace el autómata. Lanza `Desbordamiento` en el estado mil y `SubindiceFueraDeIntervalo` en el elemento
-    /// 1001 de un estado; no quedan entonces ni autómata ni tabla.
+    /// Hace el autómata. Lanza `Desbordamiento` en el estado mil, o cuando el método es LR(1) y pasan tres
+    /// segundos, y `SubindiceFueraDeIntervalo` en el elemento 1001 de un estado; no quedan entonces ni
+    /// autómata ni tabla.
     void creaAutomata();
     /// Añade a un estado los elementos de las reglas de una variable, con el punto al principio.
     void aniadeReglaAEstado(std::u16string_view variable, estadoAutomata& estado) const;

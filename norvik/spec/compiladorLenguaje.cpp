@@ -141,6 +141,7 @@ private:
 
     bool genera() {
         gramatica& g = datos_->reglas;
+        g.cancelacion = cancelacion_;
         try {
             sigue();
             g.creaConjuntos();

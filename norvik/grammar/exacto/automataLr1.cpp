@@ -9,6 +9,7 @@
 #include "norvik/grammar/exacto/automata.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/grammar/exacto/estados.hpp"
 #include "norvik/grammar/exacto/inadecuaciones.hpp"
 #include "norvik/grammar/exacto/nucleoLr1.hpp"
@@ -39,8 +40,9 @@ class ConstructorLr1 {
 public:
     /// Without a condition any two states of a kernel are merged.
     ConstructorLr1(const Producciones& producciones, const Prioridades& prioridades,
-                   const Condiciones& condiciones)
-        : producciones_(producciones), prioridades_(prioridades), condiciones_(condiciones) {}
+                   const Condiciones& condiciones, const Presupuesto& presupuesto)
+        : producciones_(producciones), prioridades_(prioridades), condiciones_(condiciones),
+          presupuesto_(presupuesto) {}
 
     void construye() {
         Bits final(producciones_.numSimbolos());
@@ -100,6 +102,7 @@ private:
         const auto condicion = condiciones_.find(clave);
         std::vector<std::size_t>& iguales = porNucleo_[std::move(clave)];
         for (const std::size_t estado : iguales) {
+            presupuesto_.exige();
             if (condicion != condiciones_.end() &&
                 !coinciden(condicion->second, prioridades_, nucleo, nucleos_[estado]))
                 continue;
@@ -117,6 +120,7 @@ private:
     const Producciones& producciones_;
     const Prioridades& prioridades_;
     const Condiciones& condiciones_;
+    const Presupuesto& presupuesto_;
     std::vector<EstadoLR> estados_;
     std::vector<NucleoLr1> nucleos_; // of each state
     std::vector<bool> enCola_;       // of each state
@@ -124,22 +128,34 @@ private:
     std::map<Clave, std::vector<std::size_t>> porNucleo_;
 };
 
-} // namespace
-
-AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias) {
-    if (producciones.cabezas().empty()) return {};
-    const Prioridades prioridades(producciones.reglas(), precedencias);
+AutomataLR creaDentroDe(const Presupuesto& presupuesto, const Producciones& producciones,
+                        const Prioridades& prioridades) {
     Condiciones condiciones;
-    ConstructorLr1 lalr(producciones, prioridades, condiciones);
+    ConstructorLr1 lalr(producciones, prioridades, condiciones, presupuesto);
     lalr.construye();
-    auto inadecuaciones = buscaInadecuaciones(producciones, prioridades, lalr.estados(), lalr.nucleos());
+    auto inadecuaciones =
+        buscaInadecuaciones(producciones, prioridades, lalr.estados(), lalr.nucleos(), presupuesto);
     for (std::size_t i = 0; i < inadecuaciones.size(); ++i)
         if (!inadecuaciones[i].empty())
             condiciones.emplace(claveDe(lalr.nucleos()[i]), std::move(inadecuaciones[i]));
     if (condiciones.empty()) return acaba(producciones, lalr.estados());
-    ConstructorLr1 lr1(producciones, prioridades, condiciones);
+    ConstructorLr1 lr1(producciones, prioridades, condiciones, presupuesto);
     lr1.construye();
     return acaba(producciones, lr1.estados());
+}
+
+} // namespace
+
+AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias,
+                           const std::stop_token& cancelacion) {
+    if (producciones.cabezas().empty()) return {};
+    try {
+        return creaDentroDe(Presupuesto(Presupuesto::plazoComun, cancelacion), producciones,
+                            Prioridades(producciones.reglas(), precedencias));
+    } catch (const BusquedaDesbocada&) {
+        throw Desbordamiento(
+            u"Desbordamiento: el autómata LR(1) de la gramática no se acaba en tres segundos");
+    }
 }
 
 } // namespace norvik::exacto

@@ -50,20 +50,28 @@ bool daIgual(const Inadecuacion& inadecuacion, const Prioridades& prioridades) {
 class Buscador {
 public:
     Buscador(const Producciones& producciones, const Prioridades& prioridades,
-             const std::vector<EstadoLR>& estados, const std::vector<NucleoLr1>& nucleos)
+             const std::vector<EstadoLR>& estados, const std::vector<NucleoLr1>& nucleos,
+             const Presupuesto& presupuesto)
         : producciones_(producciones), prioridades_(prioridades), estados_(estados), nucleos_(nucleos),
-          anteriores_(estados.size()), cierres_(estados.size()), halladas_(estados.size()) {
+          presupuesto_(presupuesto), anteriores_(estados.size()), cierres_(estados.size()),
+          halladas_(estados.size()) {
         for (std::size_t estado = 0; estado < estados.size(); ++estado)
             for (const auto& [simbolo, destino] : estados[estado].destinos)
                 anteriores_[destino].push_back(estado);
     }
 
     std::vector<Inadecuaciones> busca() {
-        for (std::size_t estado = 0; estado < estados_.size(); ++estado) empieza(estado);
+        for (std::size_t estado = 0; estado < estados_.size(); ++estado) {
+            presupuesto_.exige();
+            empieza(estado);
+        }
         while (!pendientes_.empty()) {
             const auto [estado, inadecuacion] = pendientes_.front();
             pendientes_.pop_front();
-            for (const std::size_t anterior : anteriores_[estado]) lleva(*inadecuacion, estado, anterior);
+            for (const std::size_t anterior : anteriores_[estado]) {
+                presupuesto_.exige();
+                lleva(*inadecuacion, estado, anterior);
+            }
         }
         return std::move(halladas_);
     }
@@ -176,6 +184,7 @@ private:
     const Prioridades& prioridades_;
     const std::vector<EstadoLR>& estados_;
     const std::vector<NucleoLr1>& nucleos_;
+    const Presupuesto& presupuesto_;
     std::vector<std::vector<std::size_t>> anteriores_; // of each state
     std::vector<std::map<Simbolo, Bits>> cierres_;     // of each state, once asked for
     std::vector<Inadecuaciones> halladas_;
@@ -200,8 +209,9 @@ std::optional<std::int16_t> hecho(const Inadecuacion& inadecuacion, const Priori
 std::vector<Inadecuaciones> buscaInadecuaciones(const Producciones& producciones,
                                                 const Prioridades& prioridades,
                                                 const std::vector<EstadoLR>& estados,
-                                                const std::vector<NucleoLr1>& nucleos) {
-    return Buscador(producciones, prioridades, estados, nucleos).busca();
+                                                const std::vector<NucleoLr1>& nucleos,
+                                                const Presupuesto& presupuesto) {
+    return Buscador(producciones, prioridades, estados, nucleos, presupuesto).busca();
 }
 
 bool coinciden(const Inadecuaciones& inadecuaciones, const Prioridades& prioridades, const NucleoLr1& uno,

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/grammar/exacto/estados.hpp"
 #include "norvik/grammar/exacto/nucleoLr1.hpp"
 #include "norvik/grammar/exacto/prioridades.hpp"
@@ -42,11 +43,12 @@ struct Inadecuacion {
 using Inadecuaciones = std::set<Inadecuacion>;
 
 /// Those of each state of the LALR(1) automaton, given by its states and their kernels. Raises
-/// `Desbordamiento` when they are too many.
+/// `Desbordamiento` when they are too many, and what `Presupuesto::exige` does.
 std::vector<Inadecuaciones> buscaInadecuaciones(const Producciones& producciones,
                                                 const Prioridades& prioridades,
                                                 const std::vector<EstadoLR>& estados,
-                                                const std::vector<NucleoLr1>& nucleos);
+                                                const std::vector<NucleoLr1>& nucleos,
+                                                const Presupuesto& presupuesto);
 
 /// Two states of one kernel do the same wherever both do something.
 bool coinciden(const Inadecuaciones& inadecuaciones, const Prioridades& prioridades, const NucleoLr1& uno,
