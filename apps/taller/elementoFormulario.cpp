@@ -2,8 +2,10 @@
 
 #include "elementoFormulario.hpp"
 
+#include "documentos.hpp"
 #include "lenguaje.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 
 #include <QAbstractScrollArea>
@@ -17,7 +19,7 @@
 namespace norvik::taller {
 
 ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema, QWidget* padre)
-    : QWidget(padre), nombre_(nombre), titulo_(this), velo_(this), norvik_(sistema, this) {
+    : QWidget(padre), sistema_(sistema), nombre_(nombre), titulo_(this), velo_(this), norvik_(sistema, this) {
     norvik_.setObjectName(nombre);
     norvik_.setAccessibleName(nombre);
     velo_.setAccessibleName(nombre);
@@ -29,6 +31,7 @@ ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema
     setLayout(&columna_);
     norvik_.setMinimumHeight(60);
     setFocusProxy(&norvik_);
+    titulo_.setTextFormat(Qt::PlainText);
     titulo_.setContentsMargins(4, 2, 4, 0);
     velo_.hide();
     conecta();
@@ -90,9 +93,17 @@ std::string ElementoFormulario::bolsa() {
     }
 }
 
-void ElementoFormulario::restaura(const BolsaPropiedades& bolsa) {
+ElementoGuardado ElementoFormulario::guardado() {
+    ElementoGuardado guardado{nombre_, fichero_, modulo_, {}, otros_, otrosDeBolsa_};
+    norvik_.control().guardaPropiedades(guardado.bolsa);
+    return guardado;
+}
+
+void ElementoFormulario::restaura(const ElementoGuardado& guardado) {
+    otros_ = guardado.otros;
+    otrosDeBolsa_ = guardado.otrosDeBolsa;
     lenguajeAlDia_ = false;
-    norvik_.control().restauraPropiedades(bolsa);
+    norvik_.control().restauraPropiedades(guardado.bolsa);
     especificacion_ = especificacionDe(norvik_);
     anotaGuardado();
 }
@@ -121,11 +132,16 @@ void ElementoFormulario::nuevoTexto() {
     formato_ = {};
     esBinario_ = false;
     fichero_.clear();
-    norvik_.control().BorraTodo();
-    anotaTextoGuardado();
+    try {
+        norvik_.control().BorraTodo();
+    } catch (const Desbordamiento&) { // there were more changes than it counts, and none is left
+        norvik_.TextoModificado(false);
+    }
+    anotaTextoGuardado({});
 }
 
 void ElementoFormulario::abreTexto(const QString& fichero) {
+    exigeFicheroCorriente(fichero, u"leer");
     nuevoTexto();
     const std::string bytes = leeBytes(aRuta(fichero));
     try {
@@ -135,31 +151,28 @@ void ElementoFormulario::abreTexto(const QString& fichero) {
     }
     formato_ = formatoDe(bytes);
     esBinario_ = norvik::esBinario(bytes);
-    ponFichero(fichero);
+    ponFichero(fichero, normalizaLineas(decodifica(bytes)));
 }
 
-void ElementoFormulario::ponFichero(const QString& fichero) {
+void ElementoFormulario::ponFichero(const QString& fichero, std::u16string_view texto) {
     fichero_ = QFileInfo(fichero).absoluteFilePath();
-    anotaTextoGuardado();
+    anotaTextoGuardado(texto);
 }
 
-void ElementoFormulario::anotaTextoGuardado() {
-    textoGuardado_ = norvik_.caja().texto();
-    norvik_.TextoModificado(false);
+/// What colouring corrected in a text that was read is not yet in its file.
+void ElementoFormulario::anotaTextoGuardado(std::u16string_view texto) {
+    textoGuardado_ = texto;
+    if (norvik_.caja().texto() == textoGuardado_) norvik_.TextoModificado(false);
     cambiaTexto();
 }
 
-bool ElementoFormulario::guardaTexto(const QString& fichero) {
-    try {
-        const TextoCodificado codificado = codifica(norvik_.caja().texto(), formato_);
-        escribeBytes(aRuta(fichero), codificado.bytes, Durabilidad::EnDisco);
-        if (std::exchange(formato_, codificado.formato) != codificado.formato)
-            emit aviso(QStringLiteral("Hay caracteres que no caben en Windows-1252: guardado en UTF-8"));
-    } catch (const ErrorDeFichero&) {
-        return false;
-    }
-    ponFichero(fichero);
-    return true;
+void ElementoFormulario::guardaTexto(const QString& fichero) {
+    const std::u16string_view texto = norvik_.caja().texto();
+    const TextoCodificado codificado = codifica(texto, formato_);
+    escribeDocumento(fichero, codificado.bytes);
+    if (std::exchange(formato_, codificado.formato) != codificado.formato)
+        emit aviso(QStringLiteral("Hay caracteres que no caben en Windows-1252: guardado en UTF-8"));
+    ponFichero(fichero, texto);
 }
 
 void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {
@@ -184,11 +197,23 @@ void ElementoFormulario::ponModulo(const QString& fichero) {
 
 std::u16string ElementoFormulario::preparaLenguaje() {
     if (lenguajeAlDia_) return {};
+    if (modulo_.isEmpty()) ensayaLenguaje(sistema_, norvik_);
     lenguajeAlDia_ = true;
     if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
     if (hayEspecificacion(norvik_)) return compilaLenguaje(norvik_);
     descargaLenguaje(norvik_);
     return {};
+}
+
+ElementoFormulario::Origen ElementoFormulario::origen() {
+    return {norvik_.NomLenguaje(), especificacionDe(norvik_), modulo_, lenguajeAlDia_};
+}
+
+void ElementoFormulario::vuelveA(const Origen& origen) {
+    ponEspecificacion(norvik_, origen.especificacion);
+    ponModulo(origen.modulo);
+    norvik_.NomLenguaje(origen.nombre);
+    lenguajeAlDia_ = origen.alDia;
 }
 
 // ---- on the form

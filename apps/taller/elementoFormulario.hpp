@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "ficheroFormulario.hpp"
 #include "veloDisenio.hpp"
 
 #include "norvik/base/formatoTexto.hpp"
@@ -13,6 +14,7 @@
 #include <QWidget>
 
 #include <string>
+#include <string_view>
 
 namespace norvik::taller {
 
@@ -29,8 +31,10 @@ public:
     ControlNorvik& norvik() { return norvik_; }
     const QString& nombre() const { return nombre_; }
 
-    /// Raises what the control raises for a bag with wrong values.
-    void restaura(const BolsaPropiedades& bolsa);
+    /// Takes properties, and what nobody knows. Raises what the control raises for a bag with wrong values.
+    void restaura(const ElementoGuardado& guardado);
+    /// What a form keeps of it.
+    ElementoGuardado guardado();
 
     /// What is saved is what the control has now.
     void anotaGuardado() { guardada_ = bolsa(); }
@@ -50,8 +54,8 @@ public:
     /// Raises `ErrorDeFichero`, the text is then empty and without a file. One that is too long to be
     /// coloured is loaded, and that is told.
     void abreTexto(const QString& fichero);
-    /// As it was read. False when the file could not be written.
-    bool guardaTexto(const QString& fichero);
+    /// As it was read. Raises `ErrorDeFichero`.
+    void guardaTexto(const QString& fichero);
 
     /// Puts the caret at a place (1-based), with the lexeme selected that stands there.
     void vaA(int linea, int columna, const QString& lexema);
@@ -60,8 +64,18 @@ public:
     // Another specification takes a module's place.
     const QString& modulo() const { return modulo_; }
     void ponModulo(const QString& fichero);
-    /// Loads it unless it is loaded. What is wrong with it, empty when nothing is.
+    /// Loads it unless it is loaded. What is wrong with it, empty when nothing is. Raises
+    /// `OperacionCancelada` with the one before in its place.
     std::u16string preparaLenguaje();
+    /// What the language is made of, to be put back when nothing comes of another one.
+    struct Origen {
+        QString nombre;
+        std::u16string especificacion;
+        QString modulo;
+        bool alDia = true;
+    };
+    Origen origen();
+    void vuelveA(const Origen& origen);
 
     void ponModo(Modo modo);
     void ponSeleccionado(bool seleccionado);
@@ -86,19 +100,22 @@ protected:
 
 private:
     void conecta();
-    void ponFichero(const QString& fichero);
-    void anotaTextoGuardado();
+    void ponFichero(const QString& fichero, std::u16string_view texto);
+    void anotaTextoGuardado(std::u16string_view texto);
     void actualizaTitulo();
     void anota(const QString& propiedad);
     void anotaEspecificacion();
     std::string bolsa();
 
+    SistemaQt& sistema_;
     QString nombre_;
     QString fichero_;
     FormatoTexto formato_;
     bool esBinario_ = false;
     std::u16string textoGuardado_;
     QString modulo_;
+    QJsonObject otros_; ///< of what was restored, for who knows them
+    QJsonObject otrosDeBolsa_;
     std::string guardada_;          ///< the property bag as it was last saved
     std::u16string especificacion_; ///< as it was last seen
     bool lenguajeAlDia_ = true;     ///< nothing to load, or loaded as the properties say

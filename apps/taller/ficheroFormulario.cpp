@@ -5,19 +5,27 @@
 
 #include "ficheroFormulario.hpp"
 
+#include "documentos.hpp"
+
 #include "norvik/base/errores.hpp"
-#include "norvik/base/ficheros.hpp"
+#include "norvik/control/propiedades.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace norvik::taller {
 
 namespace {
+
+constexpr QLatin1String claveControles("Controles");
+constexpr QLatin1String claveNombre("Nombre");
+constexpr QLatin1String claveTexto("Texto");
+constexpr QLatin1String claveModulo("Modulo");
+constexpr QLatin1String claveBolsa("Bolsa");
+constexpr qsizetype maximoControles = 100;
 
 /// A path in the file's folder and below it is kept relative.
 QString relativa(const QDir& carpeta, const QString& fichero) {
@@ -25,58 +33,150 @@ QString relativa(const QDir& carpeta, const QString& fichero) {
     return relativa.startsWith(QLatin1String("..")) ? fichero : relativa;
 }
 
-QByteArray entreComillas(const QString& texto) {
-    const QByteArray lista = QJsonDocument(QJsonArray{texto}).toJson(QJsonDocument::Compact);
+// ---- writing
+
+QByteArray enJson(const QJsonValue& valor) {
+    const QByteArray lista = QJsonDocument(QJsonArray{valor}).toJson(QJsonDocument::Compact);
     return lista.sliced(1, lista.size() - 2);
 }
 
-QByteArray sangrado(std::string_view json, const char* sangria) {
-    QByteArray texto = QByteArray(json.data(), static_cast<qsizetype>(json.size())).trimmed();
-    return texto.replace("\n", QByteArray("\n") + sangria);
+QByteArray miembro(const QString& nombre, const QJsonValue& valor) {
+    return enJson(nombre) + ": " + enJson(valor);
 }
 
-QByteArray miembro(const char* nombre, const QString& valor) {
-    return QByteArray("      \"") + nombre + "\": " + entreComillas(valor) + ",\n";
+/// Members more at the end of an object.
+QByteArray conOtros(QByteArray objeto, const QJsonObject& otros, const QByteArray& sangria) {
+    QByteArrayList miembros;
+    for (auto i = otros.begin(); i != otros.end(); ++i) miembros += sangria + miembro(i.key(), i.value());
+    if (miembros.isEmpty()) return objeto;
+    objeto.chop(1); // the brace
+    const bool vacio = objeto.trimmed().endsWith('{');
+    return objeto.trimmed() + (vacio ? "\n" : ",\n") + miembros.join(",\n") + "\n" + sangria.sliced(2) + "}";
+}
+
+QByteArray bolsaEnJson(const ElementoGuardado& elemento) {
+    const std::string json = elemento.bolsa.aJson();
+    const QByteArray texto = QByteArray(json.data(), static_cast<qsizetype>(json.size())).trimmed();
+    return conOtros(texto, elemento.otrosDeBolsa, "  ").replace("\n", "\n      ");
 }
 
 QByteArray aJson(const QDir& carpeta, const ElementoGuardado& elemento) {
-    QByteArray json = "    {\n" + miembro("Nombre", elemento.nombre);
-    if (!elemento.texto.isEmpty()) json += miembro("Texto", relativa(carpeta, elemento.texto));
-    if (!elemento.modulo.isEmpty()) json += miembro("Modulo", relativa(carpeta, elemento.modulo));
-    return json + "      \"Bolsa\": " + sangrado(elemento.bolsa.aJson(), "      ") + "\n    }";
+    QByteArray json = "    {\n      " + miembro(claveNombre, elemento.nombre) + ",\n";
+    const auto pon = [&](const QString& nombre, const QString& fichero) {
+        if (!fichero.isEmpty()) json += "      " + miembro(nombre, relativa(carpeta, fichero)) + ",\n";
+    };
+    pon(claveTexto, elemento.texto);
+    pon(claveModulo, elemento.modulo);
+    json += "      \"Bolsa\": " + bolsaEnJson(elemento) + "\n    }";
+    return "    " + conOtros(json, elemento.otros, "      ").trimmed();
 }
 
-ElementoGuardado deJson(const QDir& carpeta, const QJsonObject& json) {
-    const auto fichero = [&](const char* nombre) {
-        const QString escrito = json[QLatin1String(nombre)].toString();
+// ---- reading
+
+/// The members of an object, each of which is asked for by its name; what is of another shape is told by its
+/// place, «Controles[1].Bolsa».
+class Miembros {
+public:
+    Miembros(const QJsonValue& valor, const QString& lugar) : lugar_(lugar), quedan_(valor.toObject()) {
+        if (!valor.isObject()) falla(lugar, QStringLiteral("un objeto"));
+    }
+
+    QJsonValue toma(QLatin1String nombre) { return quedan_.take(nombre); }
+    QString tomaTexto(QLatin1String nombre) {
+        const QJsonValue valor = toma(nombre);
+        if (!valor.isUndefined() && !valor.isString()) falla(lugarDe(nombre), QStringLiteral("un texto"));
+        return valor.toString();
+    }
+    QString lugarDe(QLatin1String nombre) const { return lugar_.isEmpty() ? nombre : lugar_ + u'.' + nombre; }
+    const QJsonObject& quedan() const { return quedan_; }
+
+    [[noreturn]] static void falla(const QString& lugar, const QString& esperado) {
+        const QString donde =
+            lugar.isEmpty() ? QStringLiteral("no es %1") : lugar + QStringLiteral(" no es %1");
+        throw NoCoincidenLosTipos(donde.arg(esperado).toStdU16String());
+    }
+
+private:
+    QString lugar_;
+    QJsonObject quedan_;
+};
+
+void tomaBolsa(const QJsonValue& valor, const QString& lugar, ElementoGuardado& elemento) {
+    if (valor.isUndefined()) return;
+    QJsonObject bolsa = valor.toObject();
+    if (!valor.isObject()) Miembros::falla(lugar, QStringLiteral("un objeto"));
+    for (auto i = bolsa.begin(); i != bolsa.end();) {
+        if (Propiedades::esClave(vistaDe(i.key()))) {
+            ++i;
+        } else {
+            elemento.otrosDeBolsa[i.key()] = i.value();
+            i = bolsa.erase(i);
+        }
+    }
+    const QByteArray json = QJsonDocument(bolsa).toJson();
+    elemento.bolsa = BolsaPropiedades::deJson({json.data(), static_cast<std::size_t>(json.size())});
+}
+
+ElementoGuardado elementoDe(const QDir& carpeta, const QJsonValue& json, const QString& lugar) {
+    Miembros miembros(json, lugar);
+    const auto fichero = [&](QLatin1String nombre) {
+        const QString escrito = miembros.tomaTexto(nombre);
         return escrito.isEmpty() ? escrito : carpeta.absoluteFilePath(escrito);
     };
-    const QByteArray bolsa = QJsonDocument(json[QLatin1String("Bolsa")].toObject()).toJson();
-    return {json[QLatin1String("Nombre")].toString(), fichero("Texto"), fichero("Modulo"),
-            BolsaPropiedades::deJson({bolsa.data(), static_cast<std::size_t>(bolsa.size())})};
+    ElementoGuardado elemento;
+    elemento.nombre = miembros.tomaTexto(claveNombre);
+    elemento.texto = fichero(claveTexto);
+    elemento.modulo = fichero(claveModulo);
+    tomaBolsa(miembros.toma(claveBolsa), miembros.lugarDe(claveBolsa), elemento);
+    elemento.otros = miembros.quedan();
+    return elemento;
+}
+
+FormularioGuardado formularioDe(const QDir& carpeta, const QJsonValue& json) {
+    Miembros miembros(json, {});
+    const QJsonValue lista = miembros.toma(claveControles);
+    const QJsonArray controles = lista.toArray();
+    if (controles.isEmpty() || controles.size() > maximoControles)
+        Miembros::falla(claveControles, QStringLiteral("una lista de 1 a %1 controles").arg(maximoControles));
+    FormularioGuardado formulario;
+    for (qsizetype i = 0; i < controles.size(); ++i)
+        formulario.elementos.push_back(
+            elementoDe(carpeta, controles[i], QStringLiteral("%1[%2]").arg(claveControles).arg(i)));
+    formulario.otros = miembros.quedan();
+    return formulario;
+}
+
+QJsonValue jsonDe(const QByteArray& bytes) {
+    QJsonParseError error;
+    const QJsonDocument documento = QJsonDocument::fromJson(bytes, &error);
+    if (error.error == QJsonParseError::NoError)
+        return documento.isObject() ? QJsonValue(documento.object()) : QJsonValue(documento.array());
+    const auto linea = bytes.first(std::min<qsizetype>(error.offset, bytes.size())).count('\n') + 1;
+    throw NoCoincidenLosTipos(
+        QStringLiteral("la línea %1 no es de un fichero JSON").arg(linea).toStdU16String());
 }
 
 } // namespace
 
-std::vector<ElementoGuardado> leeFormulario(const QString& fichero) {
-    const std::string bytes = leeBytes(aRuta(fichero));
-    const QJsonObject json =
-        QJsonDocument::fromJson({bytes.data(), static_cast<qsizetype>(bytes.size())}).object();
-    const QDir carpeta = QFileInfo(fichero).absoluteDir();
-    std::vector<ElementoGuardado> elementos;
-    const QJsonArray controles = json[QLatin1String("Controles")].toArray();
-    for (const auto& control : controles) elementos.push_back(deJson(carpeta, control.toObject()));
-    if (elementos.empty())
-        throw NoCoincidenLosTipos(u"«" + fichero.toStdU16String() + u"» no es un formulario de Norvik");
-    return elementos;
+FormularioGuardado leeFormulario(const QString& fichero) {
+    const std::string bytes = leeDocumento(fichero);
+    try {
+        return formularioDe(QFileInfo(fichero).absoluteDir(),
+                            jsonDe({bytes.data(), static_cast<qsizetype>(bytes.size())}));
+    } catch (const NoCoincidenLosTipos& error) {
+        throw NoCoincidenLosTipos(u"«" + fichero.toStdU16String() + u"» no es un formulario de Norvik: " +
+                                  error.texto());
+    }
 }
 
-void escribeFormulario(const QString& fichero, const std::vector<ElementoGuardado>& elementos) {
+void escribeFormulario(const QString& fichero, const FormularioGuardado& formulario) {
     const QDir carpeta = QFileInfo(fichero).absoluteDir();
     QByteArrayList controles;
-    for (const ElementoGuardado& elemento : elementos) controles += aJson(carpeta, elemento);
-    const QByteArray json = "{\n  \"Controles\": [\n" + controles.join(",\n") + "\n  ]\n}\n";
-    escribeBytes(aRuta(fichero), {json.data(), static_cast<std::size_t>(json.size())}, Durabilidad::EnDisco);
+    for (const ElementoGuardado& elemento : formulario.elementos) controles += aJson(carpeta, elemento);
+    const QByteArray json =
+        conOtros("{\n  \"Controles\": [\n" + controles.join(",\n") + "\n  ]\n}", formulario.otros, "  ") +
+        "\n";
+    escribeDocumento(fichero, {json.data(), static_cast<std::size_t>(json.size())});
 }
 
 } // namespace norvik::taller

@@ -4,6 +4,7 @@
 
 #include "norvik/control/bolsaPropiedades.hpp"
 
+#include <QJsonObject>
 #include <QString>
 
 #include <vector>
@@ -11,17 +12,25 @@
 namespace norvik::taller {
 
 /// What a form keeps of a control. Paths are absolute, empty ones are absent; the file has them relative to
-/// itself, so that a folder can be moved.
+/// itself, so that a folder can be moved. What nobody here knows is kept as it was read: it is of another
+/// version.
 struct ElementoGuardado {
     QString nombre;
     QString texto;
     QString modulo;
     BolsaPropiedades bolsa;
+    QJsonObject otros;
+    QJsonObject otrosDeBolsa;
 };
 
-/// At least one. Raises `ErrorDeFichero`, and `NoCoincidenLosTipos` for a file that is no form.
-std::vector<ElementoGuardado> leeFormulario(const QString& fichero);
+struct FormularioGuardado {
+    std::vector<ElementoGuardado> elementos; ///< one at least
+    QJsonObject otros;
+};
+
+/// Raises `ErrorDeFichero`, and `NoCoincidenLosTipos`, with the place, for a file that is no form.
+FormularioGuardado leeFormulario(const QString& fichero);
 /// Writes the file whole and on the disk, or raises `ErrorDeFichero`.
-void escribeFormulario(const QString& fichero, const std::vector<ElementoGuardado>& elementos);
+void escribeFormulario(const QString& fichero, const FormularioGuardado& formulario);
 
 } // namespace norvik::taller

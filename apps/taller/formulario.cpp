@@ -2,6 +2,7 @@
 
 #include "formulario.hpp"
 
+#include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 
 #include <QFileInfo>
@@ -81,6 +82,7 @@ void Formulario::retira(std::size_t cuantos) {
     muestraTitulos();
     activa(*elementos_.front());
     fichero_.clear();
+    otros_ = {};
 }
 
 void Formulario::quitaActivo() {
@@ -115,13 +117,15 @@ void Formulario::ponModificado(bool modificado) {
 }
 
 QStringList Formulario::abre(const QString& fichero) {
-    const auto guardados = leeFormulario(fichero);
+    const FormularioGuardado formulario = leeFormulario(fichero);
+    const auto& guardados = formulario.elementos;
     const std::size_t antes = elementos_.size();
     anade(guardados);
     retira(antes);
     QStringList avisos;
     for (std::size_t i = 0; i < guardados.size(); ++i) avisos += llena(*elementos_[i], guardados[i]);
     fichero_ = QFileInfo(fichero).absoluteFilePath();
+    otros_ = formulario.otros;
     ponModificado(false);
     return avisos;
 }
@@ -131,13 +135,25 @@ void Formulario::anade(const std::vector<ElementoGuardado>& guardados) {
     const std::size_t antes = elementos_.size();
     const bool modificado = modificado_;
     try {
-        for (const ElementoGuardado& g : guardados) anade(g.nombre).restaura(g.bolsa);
+        for (std::size_t i = 0; i < guardados.size(); ++i)
+            restaura(anade(guardados[i].nombre), guardados[i], i);
     } catch (...) {
         activa(*elementos_.front());
         elementos_.resize(antes);
         muestraTitulos();
         ponModificado(modificado);
         throw;
+    }
+}
+
+void Formulario::restaura(ElementoFormulario& elemento, const ElementoGuardado& guardado, std::size_t lugar) {
+    try {
+        elemento.restaura(guardado);
+    } catch (const ErrorNorvik& error) {
+        throw NoCoincidenLosTipos(QStringLiteral("Controles[%1].Bolsa: %2")
+                                      .arg(lugar)
+                                      .arg(aQString(error.texto()))
+                                      .toStdU16String());
     }
 }
 
@@ -160,12 +176,9 @@ QStringList Formulario::llena(ElementoFormulario& elemento, const ElementoGuarda
 }
 
 void Formulario::guarda(const QString& fichero) {
-    std::vector<ElementoGuardado> guardados;
-    for (const auto& e : elementos_) {
-        guardados.push_back({e->nombre(), e->fichero(), e->modulo(), {}});
-        e->norvik().control().guardaPropiedades(guardados.back().bolsa);
-    }
-    escribeFormulario(fichero, guardados);
+    FormularioGuardado formulario{{}, otros_};
+    for (const auto& e : elementos_) formulario.elementos.push_back(e->guardado());
+    escribeFormulario(fichero, formulario);
     fichero_ = QFileInfo(fichero).absoluteFilePath();
     ponModificado(false);
 }

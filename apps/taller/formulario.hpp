@@ -59,6 +59,7 @@ private:
     QString nombreLibre() const;
     void retira(std::size_t cuantos);
     void anade(const std::vector<ElementoGuardado>& guardados);
+    void restaura(ElementoFormulario& elemento, const ElementoGuardado& guardado, std::size_t lugar);
     static QStringList llena(ElementoFormulario& elemento, const ElementoGuardado& guardado);
     void muestraTitulos();
     void conecta(ElementoFormulario& elemento);
@@ -68,6 +69,7 @@ private:
     std::size_t activo_ = 0;
     Modo modo_ = Modo::Ejecucion;
     QString fichero_;
+    QJsonObject otros_; ///< of its file, for who knows them
     bool modificado_ = false;
 };
 

@@ -2,8 +2,13 @@
 
 #include "lenguaje.hpp"
 
+#include "documentos.hpp"
+
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
+#include "norvik/spec/lenguaje.hpp"
+#include "norvik/tools/procesando.hpp"
+#include "norvik/tools/ventanas.hpp"
 
 namespace norvik::taller {
 
@@ -35,6 +40,13 @@ void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion
     norvik.control().ContenidoG(especificacion);
 }
 
+void ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik) {
+    const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
+    sistema.trabaja([especificacion = especificacionDe(norvik)](const std::stop_token& parada) {
+        static_cast<void>(Lenguaje::compila(especificacion, {{}, parada}));
+    });
+}
+
 std::u16string compilaLenguaje(ControlNorvik& norvik) {
     Norvik& control = norvik.control();
     if (!control.CargaGramatica(especificacionDe(norvik))) return acaba(control, control.GetmensajeError());
@@ -48,6 +60,7 @@ void descargaLenguaje(ControlNorvik& norvik) {
 }
 
 std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero) {
+    exigeFicheroCorriente(fichero, u"leer");
     norvik.control().OlvidaLenguaje();
     const auto error = CargaModulo(aRuta(fichero), norvik.control());
     return acaba(norvik.control(), error ? error->mensaje() : std::u16string());

@@ -19,6 +19,10 @@ bool hayEspecificacion(ControlNorvik& norvik);
 /// Gives the control a specification to keep; its language stays as it is.
 void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion);
 
+/// Compiles the specification apart, where a person can cancel it, which raises `OperacionCancelada`: a
+/// control that compiles has lost its language before.
+void ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik);
+
 // Loading a language colours the text with it. What is wrong with it comes back as a text, empty when nothing
 // is; the control is then without a language. Failures of files are raised.
 

@@ -2,14 +2,17 @@
 
 #include "ordenesLenguaje.hpp"
 
+#include "documentos.hpp"
 #include "lenguaje.hpp"
 #include "rutas.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
-#include "norvik/base/ficheros.hpp"
 #include "norvik/base/formatoTexto.hpp"
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
+#include "norvik/tools/procesando.hpp"
+#include "norvik/tools/ventanas.hpp"
 
 #include <QFileInfo>
 
@@ -25,7 +28,7 @@ constexpr std::u16string_view plantilla = u"'% metodo: lalr\r\n";
 /// A file that stands there keeps its encoding and its line ends.
 FormatoTexto formatoDelQueHay(const QString& fichero) {
     try {
-        return formatoDe(leeBytes(aRuta(fichero)));
+        return formatoDe(leeDocumento(fichero));
     } catch (const ErrorDeFichero&) {
         return {};
     }
@@ -52,11 +55,14 @@ void OrdenesLenguaje::abre(const QString& fichero) {
     ElementoFormulario& elemento = formulario_.activo();
     if (!puedePerder(elemento)) return;
     const bool nuevo = formulario_.fichero().isEmpty() && !formulario_.modificado();
+    exigeFicheroCorriente(fichero, u"leer");
     const bool modulo = esModulo(aRuta(fichero));
-    if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(aRuta(fichero)));
-    elemento.ponModulo(modulo ? fichero : QString());
-    elemento.norvik().NomLenguaje(QFileInfo(fichero).completeBaseName());
-    prepara(elemento);
+    cambia(elemento, [&] {
+        if (!modulo) ponEspecificacion(elemento.norvik(), normalizaLineas(decodifica(leeDocumento(fichero))));
+        elemento.ponModulo(modulo ? fichero : QString());
+        elemento.norvik().NomLenguaje(QFileInfo(fichero).completeBaseName());
+        prepara(elemento);
+    });
     if (nuevo) formulario_.ponModificado(false);
 }
 
@@ -68,7 +74,7 @@ bool OrdenesLenguaje::guardaEspecificacion() {
                                    nombre + u'.' + extensionEspecificacion, extensionEspecificacion);
     if (!fichero) return false;
     const TextoCodificado codificado = codifica(especificacionDe(norvik), formatoDelQueHay(*fichero));
-    escribeBytes(aRuta(*fichero), codificado.bytes, Durabilidad::EnDisco);
+    escribeDocumento(*fichero, codificado.bytes);
     return true;
 }
 
@@ -92,6 +98,19 @@ bool OrdenesLenguaje::prepara(ElementoFormulario& elemento) {
          Icono::Exclamacion,
          Botones::Aceptar});
     return false;
+}
+
+/// To another language, or back to the one before when the person cancels it.
+void OrdenesLenguaje::cambia(ElementoFormulario& elemento, const std::function<void()>& cambio) {
+    const ElementoFormulario::Origen origen = elemento.origen();
+    const bool modificado = formulario_.modificado();
+    try {
+        cambio();
+    } catch (const OperacionCancelada&) {
+        elemento.vuelveA(origen);
+        if (!modificado) formulario_.ponModificado(false);
+        throw;
+    }
 }
 
 void OrdenesLenguaje::preparaTodos() {
@@ -147,19 +166,31 @@ void OrdenesLenguaje::revisa() {
     }
     LimitesHistorias limites;
     limites.porConflicto = 500ms;
-    limites.enTotal = 1'500ms; // the window waits for it
-    const std::u16string& especificacion = especificacionDe(elemento.norvik());
-    revision_.muestra(elemento.nombre(), especificacion, revisaConHistorias(especificacion, {}, limites));
+    limites.enTotal = 1'500ms; // a person waits for it
+    const std::u16string especificacion = especificacionDe(elemento.norvik());
+    std::vector<Hallazgo> hallazgos;
+    {
+        const VentanaDeAmbito<Procesando> aviso(sistema_, elemento.window(), Procesando::Aparece::SiTarda);
+        sistema_.trabaja([&](const std::stop_token& parada) {
+            limites.cancelacion = parada;
+            hallazgos = revisaConHistorias(especificacion, {{}, parada}, limites);
+        });
+    }
+    revision_.muestra(elemento.nombre(), especificacion, hallazgos);
 }
 
 void OrdenesLenguaje::pasaALalr() {
     ElementoFormulario& elemento = formulario_.activo();
     if (!hayEspecificacion(elemento.norvik())) return;
     const std::u16string especificacion = conMetodo(especificacionDe(elemento.norvik()), Metodo::Lalr);
-    ponEspecificacion(elemento.norvik(), especificacion);
-    elemento.ponModulo({});
-    formulario_.ponModificado(true);
-    if (prepara(elemento)) revisa();
+    bool preparado = false;
+    cambia(elemento, [&] {
+        ponEspecificacion(elemento.norvik(), especificacion);
+        elemento.ponModulo({});
+        formulario_.ponModificado(true);
+        preparado = prepara(elemento);
+    });
+    if (preparado) revisa();
 }
 
 } // namespace norvik::taller

@@ -41,6 +41,7 @@ public:
 
 private:
     bool prepara(ElementoFormulario& elemento);
+    void cambia(ElementoFormulario& elemento, const std::function<void()>& cambio);
     bool puedePerder(ElementoFormulario& elemento);
     bool hayLenguaje();
 

@@ -4,6 +4,9 @@
 
 #include "rutas.hpp"
 
+#include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+
 namespace norvik::taller {
 
 void OrdenesTexto::nuevo() {
@@ -25,8 +28,11 @@ bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero)
     if (elemento.esBinario())
         return rehusa(QStringLiteral("«%1» no se leyó como texto, y guardado como texto sería otro fichero.")
                           .arg(elemento.tituloTexto()));
-    if (!elemento.guardaTexto(fichero))
-        return rehusa(QStringLiteral("No se ha podido escribir el fichero «%1».").arg(fichero));
+    try {
+        elemento.guardaTexto(fichero);
+    } catch (const ErrorDeFichero& error) {
+        return rehusa(aQString(error.texto()));
+    }
     recientes_.anota(fichero);
     return true;
 }

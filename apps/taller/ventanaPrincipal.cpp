@@ -13,6 +13,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 
 namespace norvik::taller {
@@ -63,18 +64,24 @@ void VentanaPrincipal::compone() {
     resizeDocks({&arbol_}, {340}, Qt::Horizontal);
     acciones_.ver.addAction(arbol_.toggleViewAction());
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
-    lenguaje_.setContentsMargins(8, 0, 8, 0);
-    formato_.setContentsMargins(8, 0, 8, 0);
-    lugar_.setContentsMargins(8, 0, 8, 0);
     statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
-    statusBar()->addPermanentWidget(&lenguaje_);
-    statusBar()->addPermanentWidget(&formato_);
-    statusBar()->addPermanentWidget(&lugar_);
+    for (QLabel* const etiqueta : {&lenguaje_, &formato_, &lugar_}) {
+        etiqueta->setTextFormat(Qt::PlainText);
+        etiqueta->setContentsMargins(8, 0, 8, 0);
+        statusBar()->addPermanentWidget(etiqueta);
+    }
+}
+
+/// One at a time: while one works events run, of a program that drives the window also.
+void VentanaPrincipal::ejecuta(const std::function<void()>& orden) {
+    if (ocupada_) return;
+    const QScopedValueRollback<bool> ocupada(ocupada_, true);
+    norvik::ejecuta(sistema_, orden);
 }
 
 template <typename Orden>
 void VentanaPrincipal::conecta(QAction& accion, Orden orden) {
-    connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(sistema_, orden); });
+    connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(orden); });
 }
 
 // ---- the commands
@@ -87,9 +94,9 @@ void VentanaPrincipal::conectaArchivo() {
     conecta(a.guardarTextoComo, [this] { textos_.guardaComo(); });
     conecta(a.guardarTodo, [this] { formularios_.guardaTodo(); });
     conecta(a.imprimir, [this] { formulario_.activo().norvik().control().Imprimir(); });
-    conecta(a.salir, [this] { close(); });
+    connect(&a.salir, &QAction::triggered, this, &QWidget::close);
     connect(&textosRecientes_, &Recientes::elegido, this,
-            [this](const QString& fichero) { ejecuta(sistema_, [&] { textos_.abre(fichero); }); });
+            [this](const QString& fichero) { ejecuta([&] { textos_.abre(fichero); }); });
 }
 
 void VentanaPrincipal::conectaEdicion() {
@@ -125,9 +132,9 @@ void VentanaPrincipal::conectaFormulario() {
     conecta(a.propiedades, [this] { muestraPropiedades(VentanaPropiedades::Pagina::General); });
     connect(&formulario_, &Formulario::pidePropiedades, &a.propiedades, &QAction::trigger);
     connect(&a.disenio, &QAction::toggled, this,
-            [this](bool disenio) { ejecuta(sistema_, [&] { ponModo(disenio); }); });
+            [this](bool disenio) { norvik::ejecuta(sistema_, [&] { ponModo(disenio); }); });
     connect(&formulariosRecientes_, &Recientes::elegido, this,
-            [this](const QString& fichero) { ejecuta(sistema_, [&] { formularios_.abre(fichero); }); });
+            [this](const QString& fichero) { ejecuta([&] { formularios_.abre(fichero); }); });
     connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
     connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
     connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
@@ -155,7 +162,7 @@ void VentanaPrincipal::conectaLenguaje() {
     conecta(a.informe, [this] { lenguajes_.muestraInforme(); });
     conecta(a.revisar, [this] { lenguajes_.revisa(); });
     connect(&revision_, &VentanaRevision::pideLalr, this,
-            [this] { ejecuta(sistema_, [&] { lenguajes_.pasaALalr(); }); });
+            [this] { ejecuta([&] { lenguajes_.pasaALalr(); }); });
     connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { lenguajes_.vaAlError(); });
     connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
         formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema);
@@ -174,7 +181,7 @@ void VentanaPrincipal::llenaEjemplos(const QList<Ejemplo>& ejemplos) {
 }
 
 void VentanaPrincipal::abre(const QString& fichero) {
-    ejecuta(sistema_, [&] {
+    ejecuta([&] {
         const QString extension = QFileInfo(fichero).suffix().toLower();
         if (extension == extensionFormulario) return formularios_.abre(fichero);
         if (extension == extensionEspecificacion || esModulo(aRuta(fichero))) return lenguajes_.abre(fichero);
@@ -271,12 +278,13 @@ void VentanaPrincipal::actualizaHistorial() {
 // ---- the window
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
-    bool seCierra = false;
-    ejecuta(sistema_, [&] { seCierra = formularios_.puedePerder(); });
-    if (!seCierra) return evento->ignore();
-    ajustes_.setValue(claveGeometria, saveGeometry());
-    ajustes_.setValue(claveEstado, saveState());
-    evento->accept();
+    evento->ignore();
+    ejecuta([&] {
+        if (!formularios_.puedePerder()) return;
+        evento->accept();
+        ajustes_.setValue(claveGeometria, saveGeometry());
+        ajustes_.setValue(claveEstado, saveState());
+    });
 }
 
 void VentanaPrincipal::dragEnterEvent(QDragEnterEvent* evento) {

@@ -44,6 +44,7 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
+    void ejecuta(const std::function<void()>& orden);
     template <typename Orden>
     void conecta(QAction& accion, Orden orden);
     void conectaArchivo();
@@ -79,6 +80,7 @@ private:
     OrdenesFormulario formularios_;
     OrdenesLenguaje lenguajes_;
     ElementoFormulario* analizado_ = nullptr; ///< whose tree or error is shown
+    bool ocupada_ = false;                    ///< a command runs
 };
 
 } // namespace norvik::taller

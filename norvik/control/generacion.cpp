@@ -2,6 +2,7 @@
 
 #include "norvik/control/generacion.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
 #include "norvik/control/pasosFirmes.hpp"
@@ -13,19 +14,33 @@
 
 namespace norvik {
 
-void generaTabla(gramatica& g, const std::function<void()>& pausa) {
+namespace {
+
+void deja(const std::function<Sistema&()>& sistema) {
+    sistema().ponPuntero(Puntero::Ocupado);
+    sistema().procesaEventos();
+}
+
+} // namespace
+
+void generaTabla(gramatica& g, const std::function<Sistema&()>& sistema) {
     gramatica nueva;
     const auto paso = [&](void (gramatica::*hazlo)()) {
-        pausa();
+        deja(sistema);
         try {
-            (nueva.*hazlo)();
+            sistema().trabaja([&](const std::stop_token& parada) {
+                nueva.cancelacion = parada;
+                (nueva.*hazlo)();
+            });
+        } catch (const OperacionCancelada&) {
+            throw;
         } catch (...) {
             nueva.inicializaConjuntos(); // half the sets would be worse than none
             g.intercambia(nueva);
             throw;
         }
     };
-    pausa();
+    deja(sistema);
     nueva.copiaReglas(g);
     paso(&gramatica::creaConjuntos);
     paso(&gramatica::creaAutomata);
@@ -63,10 +78,7 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
     paso.acaba();
     std::u16string error = gramatica_.chequeaGramatica();
     if (!error.empty()) return Fallo{Fallo::Paso::Comprobacion, std::move(error)};
-    generaTabla(gramatica_, [this] {
-        sistema_.ponPuntero(Puntero::Ocupado);
-        sistema_.procesaEventos();
-    });
+    generaTabla(gramatica_, [this]() -> Sistema& { return sistema_; });
     return std::nullopt;
 }
 

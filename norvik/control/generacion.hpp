@@ -16,10 +16,11 @@ namespace norvik {
 
 class Norvik;
 
-/// Computes a grammar's sets, automaton and table, with a pause before each step and one before all. They are
-/// made apart: whoever looks at the grammar in a pause sees it as it was. What is raised by a step,
-/// `gramatica` says; nothing of the three is left then. What a pause raises leaves the grammar as it was.
-void generaTabla(gramatica& g, const std::function<void()>& pausa);
+/// Computes a grammar's sets, automaton and table by steps that the surroundings carry out, perhaps in
+/// another thread, and lets events run before each step and before all. They are made apart: whoever looks at
+/// the grammar meanwhile sees it as it was. What is raised by a step, `gramatica` says; nothing of the three
+/// is left then. A cancellation, and what an event raises, leave the grammar as it was.
+void generaTabla(gramatica& g, const std::function<Sistema&()>& sistema);
 
 /// What is told of a grammar that did not pass its check.
 NORVIK_API Mensaje mensajeDeComprobacion(std::u16string_view error);

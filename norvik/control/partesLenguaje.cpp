@@ -153,10 +153,7 @@ bool PartesControl::GeneraCompilador() {
     }
     {
         const Ocupado ocupado(sistema);
-        generaTabla(laGramatica, [this] {
-            sistema->ponPuntero(Puntero::Ocupado);
-            sistema->procesaEventos();
-        });
+        generaTabla(laGramatica, [this]() -> Sistema& { return *sistema; });
     }
     sistema->procesaEventos();
     return true;

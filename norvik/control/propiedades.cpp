@@ -4,6 +4,8 @@
 
 #include "norvik/control/ranurasDisenio.hpp"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace norvik {
@@ -105,6 +107,29 @@ void Propiedades::tomaDeRanuras() {
 }
 
 // --- Restoring, in the order of the keys ---
+
+bool Propiedades::esClave(std::u16string_view clave) {
+    static constexpr std::array<std::u16string_view, 35> claves = {
+        u"AutoCorreccion",   u"AutoNumero",
+        u"AutoTAB",          u"Borde3D",
+        u"ColorCadena",      u"ColorCaracter",
+        u"ColorComentarios", u"Colorear",
+        u"ColorEtiquetas",   u"ColorError",
+        u"ColorFechas",      u"ColorNumeros",
+        u"ColorOperadores",  u"ColorPR",
+        u"EspaciosXTAB",     u"Font",
+        u"FontBold",         u"FontCharset",
+        u"FontItalic",       u"FontName",
+        u"FontSize",         u"FontStrikethrough",
+        u"FontUnderline",    u"FontWeight",
+        u"HideSelection",    u"LeftBorderVisible",
+        u"LenguajeSensible", u"MarcarErrores",
+        u"MargenIzquierdo",  u"MuestraMensajesDeError",
+        u"NombreLenguaje",   u"Text",
+        u"ContenidoG",       u"CodigoPrueba",
+        u"pendienteGuardarG"};
+    return std::ranges::find(claves, clave) != claves.end();
+}
 
 void Propiedades::restaura(const BolsaPropiedades& bolsa) {
     pon(opciones_.autoCorreccion, bolsa.leeBooleano(u"AutoCorreccion", false), u"AutoCorreccion");

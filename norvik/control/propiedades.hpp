@@ -25,6 +25,9 @@ public:
         : opciones_(opciones), lexico_(lexico), caja_(caja), colocacion_(colocacion),
           contenedor_(contenedor) {}
 
+    /// A key of a bag that some version of the control reads; others are somebody else's.
+    static bool esClave(std::u16string_view clave);
+
     /// Gives box, lexer and options the values of a new control.
     void construye();
     /// Stores another value and notifies the container.

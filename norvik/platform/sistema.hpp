@@ -5,6 +5,8 @@
 #include "norvik/base/api.hpp"
 
 #include <cstdint>
+#include <functional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
@@ -44,6 +46,10 @@ public:
     virtual Puntero puntero() const = 0;
     /// Deja que corran los eventos de ventana pendientes.
     virtual void procesaEventos() = 0;
+    /// Hace un trabajo que puede ser largo y no toca nada de las ventanas, y vuelve cuando acaba; lanza lo
+    /// que lance él. Quien lo hace en otro hilo deja mientras que corran los eventos, y con la parada que le
+    /// da pide que se deje.
+    virtual void trabaja(const std::function<void(std::stop_token)>& trabajo) { trabajo({}); }
     /// Imprime un texto en la impresora por omisión; lanza `ErrorNorvik` con la descripción de la plataforma.
     virtual void imprime(std::u16string_view texto) = 0;
 };

@@ -60,7 +60,7 @@ void CodigoGramatica::probarElLenguaje() {
     {
         const PunteroOcupado ocupado(sistema());
         cierra();
-        const Procesando aviso(parentWidget());
+        const VentanaDeAmbito<Procesando> aviso(sistema(), parentWidget());
         if (!control.GeneraCompilador()) {
             sistema().muestraMensaje(mensajeDeCompilacion(control.GetmensajeError()));
             return;
@@ -76,6 +76,7 @@ void CodigoGramatica::verInforme() {
     std::optional<LenguajeAparte::Fallo> fallo;
     {
         const PunteroOcupado ocupado(sistema());
+        const VentanaDeAmbito<Procesando> aviso(sistema(), this, Procesando::Aparece::SiTarda);
         fallo = lenguaje_.construye(Norvik1().control());
         if (!fallo) sistema().procesaEventos();
     }

@@ -121,7 +121,7 @@ void PPControl::editarGramatica() {
     std::u16string fallo;
     {
         const PunteroOcupado ocupado(sistema());
-        const Procesando aviso(window());
+        const VentanaDeAmbito<Procesando> aviso(sistema(), window());
         sistema().procesaEventos();
         editor.emplace(sistema(), window());
         fallo = falloDe([&] { editor->carga(); });
@@ -155,7 +155,7 @@ bool PPControl::construyeConAviso() {
     {
         const PunteroOcupado ocupado(sistema());
         {
-            const Procesando aviso(window());
+            const VentanaDeAmbito<Procesando> aviso(sistema(), window());
             sistema().procesaEventos();
             fallo = construye();
         }

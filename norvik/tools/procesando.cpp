@@ -4,17 +4,33 @@
 
 #include "norvik/tools/ventanas.hpp"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace norvik {
 
-Procesando::Procesando(QWidget* sobre)
-    : QFrame(sobre, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
+Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
+    : QFrame(sobre, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), sistema_(sistema),
+      anterior_(sistema.ponAviso(this)), cancelar_(QStringLiteral("&Cancelar"), this) {
     nombra(*this, "Procesando", QStringLiteral("Procesando ..."));
     setWindowTitle(QStringLiteral("Procesando ..."));
     setFrameStyle(QFrame::Panel | QFrame::Raised);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowModality(Qt::ApplicationModal);
+    nombra(cancelar_, "cancelar", QStringLiteral("Cancelar"));
+    connect(&cancelar_, &QPushButton::clicked, this, &Procesando::cancela);
+    dispone();
+    if (sobre != nullptr) centra(*this, *sobre);
+    if (cuando == Aparece::Ya) show();
+}
+
+Procesando::~Procesando() {
+    sistema_.ponAviso(anterior_);
+}
+
+void Procesando::dispone() {
     auto& textos = nuevo<QVBoxLayout>(this);
     const int margen = fontMetrics().height() * 2;
     textos.setContentsMargins(margen, margen / 2, margen, margen / 2);
@@ -24,9 +40,32 @@ Procesando::Procesando(QWidget* sobre)
     titulo.setFont(letra);
     textos.addWidget(&titulo, 0, Qt::AlignCenter);
     textos.addWidget(&nuevo<QLabel>(QStringLiteral("Espere, por favor."), this), 0, Qt::AlignCenter);
+    textos.addWidget(&cancelar_, 0, Qt::AlignCenter);
     adjustSize();
-    if (sobre != nullptr) centra(*this, *sobre);
+}
+
+/// The pointer is for who can do something.
+void Procesando::tarda() {
+    setCursor(Qt::ArrowCursor);
     show();
+    raise();
+    activateWindow();
+    cancelar_.setFocus();
+}
+
+void Procesando::cancela() {
+    cancelar_.setEnabled(false);
+    parada().request_stop();
+}
+
+void Procesando::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_Escape) return cancela();
+    QFrame::keyPressEvent(evento);
+}
+
+void Procesando::closeEvent(QCloseEvent* evento) {
+    evento->ignore();
+    cancela();
 }
 
 } // namespace norvik

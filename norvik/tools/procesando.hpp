@@ -2,18 +2,41 @@
 
 #pragma once
 
+#include "norvik/platform/qt/sistemaQt.hpp"
+
 #include <QFrame>
+#include <QPushButton>
 
 namespace norvik {
 
 /// The progress notice. It comes up without blocking or taking the focus, and stays above all other windows
-/// until it is closed or goes. Who shows it refuses what must not be done meanwhile.
-class Procesando final : public QFrame {
+/// until it is closed or goes. While it lives the work of its system can be cancelled by its button, and long
+/// work lets nobody use another window. Who shows it refuses what must not be done meanwhile.
+class Procesando final : public QFrame, public AvisoDeTrabajo {
     Q_OBJECT
 
 public:
-    /// Shows itself in the middle of a window.
-    explicit Procesando(QWidget* sobre);
+    enum class Aparece : std::uint8_t { Ya, SiTarda };
+
+    /// In the middle of a window. The system outlives it.
+    Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando = Aparece::Ya);
+    Procesando(const Procesando&) = delete;
+    Procesando& operator=(const Procesando&) = delete;
+    ~Procesando() override;
+
+    void tarda() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    void dispone();
+    void cancela();
+
+    SistemaQt& sistema_;
+    AvisoDeTrabajo* const anterior_;
+    QPushButton cancelar_;
 };
 
 } // namespace norvik

@@ -22,6 +22,11 @@ inline void nombra(QWidget& elemento, const char* nombre, const QString& accesib
     elemento.setAccessibleName(accesible);
 }
 
+/// A tooltip that is shown as it is written: Qt would take some of them for marks of a page.
+inline QString ayudaLlana(const QString& texto) {
+    return texto.isEmpty() ? texto : QStringLiteral("<qt>%1</qt>").arg(texto.toHtmlEscaped());
+}
+
 /// Gives a window a size, or as much of it as its screen has for it and its frame.
 inline void mide(QWidget& ventana, const QSize& deseada) {
     ventana.resize(deseada.boundedTo(ventana.screen()->availableSize() * 0.9));
@@ -43,11 +48,17 @@ void muestraModal(SistemaQt& sistema, Argumentos&&... argumentos) {
     sistema.muestraModal(*ventana);
 }
 
-/// Carries out a command of a window; a failure is told in a plain message box.
+/// Carries out a command of a window; a failure is told in a plain message box, a cancellation is known.
 template <typename Orden>
 void ejecuta(Sistema& sistema, Orden orden) {
-    const std::u16string fallo = falloDe(orden);
-    if (!fallo.empty()) sistema.muestraMensaje({fallo, {}});
+    const std::u16string fallo = falloDe([&] {
+        try {
+            orden();
+        } catch (const OperacionCancelada&) {
+            return;
+        }
+    });
+    if (!fallo.empty()) sinFallos([&] { sistema.muestraMensaje({fallo, {}}); });
 }
 
 } // namespace norvik

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <new>
 #include <string>
 
 namespace norvik {
@@ -15,18 +16,30 @@ namespace norvik {
 /// when there was none.
 template <typename Orden>
 std::u16string falloDe(Orden orden) {
-    std::u16string texto;
     try {
-        orden();
-        return {};
-    } catch (const ErrorNorvik& e) {
-        texto = e.texto();
-    } catch (const std::exception& e) {
-        texto = QString::fromUtf8(e.what()).toStdU16String();
-    } catch (...) { // a host's, of whatever type
-        texto.clear();
+        std::u16string texto;
+        try {
+            orden();
+            return {};
+        } catch (const ErrorNorvik& e) {
+            texto = e.texto();
+        } catch (const std::bad_alloc&) {
+            texto = u"No hay memoria suficiente";
+        } catch (const std::exception& e) {
+            texto = QString::fromUtf8(e.what()).toStdU16String();
+        } catch (...) { // a host's, of whatever type
+            texto.clear();
+        }
+        return texto.empty() ? u"Fallo desconocido" : texto;
+    } catch (...) {
+        return u"Memoria"; // short enough to need none
     }
-    return texto.empty() ? u"Fallo desconocido" : texto;
+}
+
+/// The same where there is nobody to tell: what was to be shown is shown the next time.
+template <typename Orden>
+void sinFallos(Orden orden) {
+    static_cast<void>(falloDe(orden));
 }
 
 } // namespace norvik

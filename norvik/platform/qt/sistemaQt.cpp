@@ -15,6 +15,10 @@
 #include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPushButton>
+#include <QTimer>
+
+#include <chrono>
+#include <system_error>
 
 namespace norvik {
 
@@ -89,6 +93,10 @@ void daSitioAlTitulo(QMessageBox& caja) {
     rejilla.addItem(&nuevo<QSpacerItem>(ancho, 0), rejilla.rowCount(), 0, 1, rejilla.columnCount());
 }
 
+bool acabado(const std::future<void>& trabajo) {
+    return trabajo.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
 } // namespace
 
 Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
@@ -128,6 +136,32 @@ void SistemaQt::ponPuntero(Puntero puntero) {
 /// The user's events too: a command given while one runs is dropped by who serves it, not kept for later.
 void SistemaQt::procesaEventos() {
     QApplication::processEvents();
+}
+
+/// The thread is joined by the future, also when something is raised on the way.
+void SistemaQt::trabaja(const std::function<void(std::stop_token)>& trabajo) {
+    if (aviso_ == nullptr) return trabajo({});
+    const std::stop_source parada = aviso_->parada();
+    if (parada.stop_requested()) throw OperacionCancelada();
+    auto hecho = std::async(std::launch::async, [&] { trabajo(parada.get_token()); });
+    espera(hecho);
+    if (!acabado(hecho)) parada.request_stop(); // the program ends
+    hecho.get();
+    if (parada.stop_requested()) throw OperacionCancelada();
+}
+
+/// Work that is over at once lets no event in.
+void SistemaQt::espera(const std::future<void>& trabajo) {
+    using namespace std::chrono_literals;
+    if (trabajo.wait_for(100ms) == std::future_status::ready) return;
+    QEventLoop hastaQueAcabe;
+    QTimer reloj;
+    QObject::connect(&reloj, &QTimer::timeout, &hastaQueAcabe, [&] {
+        if (acabado(trabajo)) hastaQueAcabe.quit();
+    });
+    reloj.start(20ms);
+    aviso_->tarda();
+    hastaQueAcabe.exec();
 }
 
 void SistemaQt::muestraModal(QWidget& ventana) {

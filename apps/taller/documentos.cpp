@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+
+#include "documentos.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/base/ficheros.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+
+namespace norvik::taller {
+
+void exigeFicheroCorriente(const QString& fichero, std::u16string_view accion) {
+    std::error_code desconocido; // reading or writing tells
+    const auto estado = std::filesystem::status(aRuta(fichero), desconocido);
+    if (!std::filesystem::is_other(estado)) return;
+    throw ErrorDeFichero(u"No se puede " + std::u16string(accion) + u" «" + fichero.toStdU16String() +
+                         u"»: no es un fichero corriente");
+}
+
+std::string leeDocumento(const QString& fichero) {
+    exigeFicheroCorriente(fichero, u"leer");
+    return leeBytes(aRuta(fichero));
+}
+
+void escribeDocumento(const QString& fichero, std::string_view bytes) {
+    exigeFicheroCorriente(fichero, u"escribir");
+    escribeBytes(aRuta(fichero), bytes, Durabilidad::EnDisco);
+}
+
+} // namespace norvik::taller
