@@ -2,6 +2,8 @@
 
 #include "recientes.hpp"
 
+#include "norvik/tools/ventanas.hpp"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -36,7 +38,7 @@ void Recientes::llenaMenu() {
         nombre.replace(u'&', QLatin1String("&&"));
         QAction* const accion = menu_.addAction(QStringLiteral("&%1 %2").arg(numero++).arg(nombre), this,
                                                 [this, fichero] { emit elegido(fichero); });
-        accion->setToolTip(fichero);
+        accion->setToolTip(ayudaLlana(fichero));
         accion->setEnabled(QFileInfo::exists(fichero));
     }
     if (menu_.isEmpty()) menu_.addAction(QStringLiteral("(ninguno)"))->setEnabled(false);

@@ -63,7 +63,6 @@ void directorio::dispone() {
     for (int columna = 1; columna < carpetas_.columnCount(); ++columna) dir1_.hideColumn(columna);
     dir1_.setHeaderHidden(true);
     dir1_.setTabKeyNavigation(false);
-    dirDestino_.setTextFormat(Qt::PlainText);
     command1_.setDefault(true);
     auto& botones = nuevo<QDialogButtonBox>(this);
     botones.addButton(&command1_, QDialogButtonBox::AcceptRole);
@@ -143,7 +142,7 @@ void directorio::eligeUnidad(int indice) {
 
 void directorio::muestraCarpeta(const QString& carpeta) {
     dirDestino_.setText(carpeta);
-    dirDestino_.setToolTip(carpeta);
+    dirDestino_.setToolTip(ayudaLlana(carpeta));
 }
 
 void directorio::acepta() {

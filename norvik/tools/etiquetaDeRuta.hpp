@@ -9,7 +9,7 @@ namespace norvik {
 /// A label that shows as much of a path as it has room for, the ends first.
 class EtiquetaDeRuta final : public QLabel {
 public:
-    using QLabel::QLabel;
+    explicit EtiquetaDeRuta(QWidget* padre) : QLabel(padre) { setTextFormat(Qt::PlainText); }
     QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
 
 protected:

@@ -3,6 +3,7 @@
 #include "norvik/tools/modeloTabla.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/tools/ventanas.hpp"
 
 #include <QBrush>
 #include <QFont>
@@ -24,11 +25,6 @@ QVariant realce(int papel) {
     QFont negrita;
     negrita.setBold(true);
     return negrita;
-}
-
-/// A help text, in which tokens may look like marks of HTML.
-QString deAyuda(const QString& texto) {
-    return texto.isEmpty() ? texto : QStringLiteral("<qt>%1</qt>").arg(texto.toHtmlEscaped());
 }
 
 } // namespace
@@ -70,16 +66,16 @@ QString ModeloTabla::ayudaDeCelda(int fila, int columna) const {
     const QString contenido = texto(fila, columna);
     if (contenido.isEmpty()) return {};
     const bool enConflicto = gramatica_.enConflicto(numero(fila), numero(columna));
-    return deAyuda(QStringLiteral("%1 en el estado %2, símbolo %3")
-                       .arg(enConflicto ? QStringLiteral("Conflicto ") + contenido : contenido)
-                       .arg(fila)
-                       .arg(aQString(gramatica_.encabezadoColumna(numero(columna)))));
+    return ayudaLlana(QStringLiteral("%1 en el estado %2, símbolo %3")
+                          .arg(enConflicto ? QStringLiteral("Conflicto ") + contenido : contenido)
+                          .arg(fila)
+                          .arg(aQString(gramatica_.encabezadoColumna(numero(columna)))));
 }
 
 /// How the token of a column may be written.
 QString ModeloTabla::ayudaDeColumna(int columna) const {
     const std::u16string_view simbolo = gramatica_.encabezadoColumna(numero(columna));
-    return deAyuda(aQString(lexico_.toStringLexemasPorToken(simbolo)));
+    return ayudaLlana(aQString(lexico_.toStringLexemasPorToken(simbolo)));
 }
 
 QString ModeloTabla::masLargo(int columna) const {

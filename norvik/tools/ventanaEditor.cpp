@@ -28,6 +28,7 @@ VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QStri
     addToolBar(&barra_);
     nombra(*statusBar(), "StatusBar1", QStringLiteral("Barra de estado"));
     nombra(lugar_, "Panel1", QStringLiteral("Lugar del cursor"));
+    lugar_.setTextFormat(Qt::PlainText);
     statusBar()->addWidget(&lugar_);
     norvik1_.Colorear(true);
     norvik1_.MuestraMensajesDeError(true);
