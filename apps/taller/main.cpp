@@ -5,6 +5,7 @@
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
+#include "norvik/platform/qt/fallos.hpp"
 #include "norvik/tools/iconos.hpp"
 
 #include <QApplication>
@@ -18,6 +19,17 @@ namespace {
 
 using namespace norvik;
 using namespace norvik::taller;
+
+/// What a window lets out all the same ends no work of a person's: there is none here that knows what failed.
+class Aplicacion final : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* objeto, QEvent* evento) override {
+        bool atendido = false;
+        sinFallos([&] { atendido = QApplication::notify(objeto, evento); });
+        return atendido;
+    }
+};
 
 int responde(const Contesta& respuesta) {
     (respuesta.estado == 0 ? std::cout : std::cerr) << respuesta.texto;
@@ -55,7 +67,7 @@ int main(int argc, char** argv) {
     if (const auto* const respuesta = std::get_if<Contesta>(&linea)) return responde(*respuesta);
     if (!hayPantalla()) return responde({"norvik-taller: no hay ninguna pantalla (DISPLAY)\n", 2});
     int soloElNombre = 1; // the other words are ours
-    const QApplication aplicacion(soloElNombre, argv);
+    const Aplicacion aplicacion(soloElNombre, argv);
     QApplication::setApplicationName(QStringLiteral("Norvik")); // no display name: it would end every title
     QApplication::setDesktopFileName(QStringLiteral("norvik-taller"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("norvik-taller"), icono(Dibujo::Analizar)));

@@ -4,6 +4,8 @@
 #include "taller/dialogosGuion.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"
+#include "apoyo/gramaticaLarga.hpp"
+#include "apoyo/repite.hpp"
 #include "lenguaje.hpp"
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
@@ -15,6 +17,8 @@
 #include <QtWidgets>
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 using namespace norvik;
 using namespace norvik::taller;
@@ -88,6 +92,9 @@ TEST_F(TallerTest, CadaFicheroSigueComoEra) {
         {"a\rb", "n", "na\rb", "UTF-8  CR"},
         {"\xEF\xBB\xBF\xC3\xB1\n", "n", "\xEF\xBB\xBFn\xC3\xB1\n", "UTF-8 con marca  LF"},
         {"\xF1\r\na", "n", "n\xF1\r\na", "Windows-1252  CR LF"},
+        {std::string("\xFF\xFE\xF1\0\r\0\n\0", 8), "\xCE\xB1",
+         std::string("\xFF\xFE\xB1\x03\xF1\0\r\0\n\0", 10), "UTF-16 LE  CR LF"},
+        {std::string("\xFE\xFF\0\xF1", 4), "n", std::string("\xFE\xFF\0n\0\xF1", 6), "UTF-16 BE  LF"},
         {"\xF1\n", "\xCE\xB1", "\xCE\xB1\xC3\xB1\n", "UTF-8  LF"}, // a letter that it cannot hold
     };
     const QStatusBar& barra = *ventana.findChild<QStatusBar*>();
@@ -169,7 +176,7 @@ TEST_F(TallerTest, NadaSePierdeSinPreguntar) {
     dialogos.ficheros = {"", "/no/hay"};
     EXPECT_FALSE(cierra());
     EXPECT_FALSE(cierra());
-    EXPECT_EQ(dialogos.toma().last(), "aviso No se ha podido escribir el fichero «/no/hay».");
+    EXPECT_EQ(dialogos.toma().last(), "aviso No se puede escribir «/no/hay»: la carpeta no existe");
     dialogos.destinos = {Destino::Guardar};
     dialogos.ficheros = {ruta("mio.txt")};
     EXPECT_TRUE(cierra());
@@ -238,16 +245,158 @@ TEST_F(TallerTest, ElFormularioGuardaSusControles) {
     EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().EspaciosXTAB(), 7);
     EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().Text(), "sin fichero");
     EXPECT_FALSE(ventana.formulario().modificado());
-    // What is no form leaves the present one.
-    dialogos.toma();
-    for (const auto& [nombre, bytes] : {std::pair("a.nvf", "{"),
-                                        {"b.nvf", R"({"Controles":[]})"},
-                                        {"c.nvf", R"({"Controles":[{"Bolsa":{"Borde3D":"no"}}]})"}}) {
-        ventana.abre(pon(nombre, bytes));
-        EXPECT_EQ(dialogos.toma().size(), 1) << nombre;
-        EXPECT_EQ(ventana.formulario().elementos().size(), 2U) << nombre;
-        EXPECT_EQ(ventana.formulario().titulo(), "f") << nombre;
+}
+
+// What is no form leaves the present one, and says where it is none.
+TEST_F(TallerTest, LoQueNoEsUnFormularioDiceDonde) {
+    ordena(a.anadir);
+    ventana.formulario().ponModificado(false);
+    const QString lista = "Controles no es una lista de 1 a 100 controles";
+    const std::string muchos = R"({"Controles":[{})" + apoyo::repite(",{}", 100) + "]}";
+    const std::pair<std::string, QString> casos[] = {
+        {"", "la línea 1 no es de un fichero JSON"},
+        {"{\n\"Controles\": [\n{,", "la línea 3 no es de un fichero JSON"},
+        {"[]", "no es un objeto"},
+        {"{}", lista},
+        {R"({"Controles":{}})", lista},
+        {R"({"Controles":[]})", lista},
+        {muchos, lista},
+        {R"({"Controles":[{},7]})", "Controles[1] no es un objeto"},
+        {R"({"Controles":[{"Nombre":7}]})", "Controles[0].Nombre no es un texto"},
+        {R"({"Controles":[{"Texto":[]}]})", "Controles[0].Texto no es un texto"},
+        {R"({"Controles":[{"Bolsa":"x"}]})", "Controles[0].Bolsa no es un objeto"},
+    };
+    for (const auto& [bytes, donde] : casos) {
+        ventana.abre(pon("a.nvf", bytes));
+        EXPECT_EQ(dialogos.toma(),
+                  QStringList{"aviso «" + ruta("a.nvf") + "» no es un formulario de Norvik: " + donde});
+        EXPECT_EQ(ventana.formulario().elementos().size(), 2U) << bytes;
     }
+    ventana.abre(pon("a.nvf", R"({"Controles":[{},{"Bolsa":{"Borde3D":"no"}}]})"));
+    EXPECT_EQ(dialogos.toma(),
+              QStringList{"aviso Controles[1].Bolsa: No coinciden los tipos: el valor de «Borde3D» no "
+                          "es de la clase de su propiedad"});
+    EXPECT_EQ(ventana.formulario().elementos().size(), 2U);
+}
+
+TEST_F(TallerTest, LoQueUnFormularioTieneDeOtraVersionSeGuarda) {
+    const std::string bytes = "{\n  \"Controles\": [\n    {\n      \"Nombre\": \"N\",\n      \"Bolsa\": {\n"
+                              "        \"Borde3D\": false,\n        \"Borde4D\": [1,null]\n      },\n"
+                              "      \"Otro\": {\"a\":\"b\"}\n    }\n  ],\n  \"Tema\": 2\n}\n";
+    const QString fichero = pon("a.nvf", bytes);
+    for (int vez = 0; vez < 2; ++vez) {
+        ventana.abre(fichero);
+        ordena(a.guardarFormulario);
+        EXPECT_EQ(dialogos.toma(), QStringList());
+        EXPECT_EQ(apoyo::bytesDe(carpeta / "a.nvf"), bytes);
+    }
+    norvik().Borde3D(true); // its default: the bag has nothing of ours
+    ordena(a.guardarFormulario);
+    EXPECT_NE(apoyo::bytesDe(carpeta / "a.nvf").find("{\n        \"Borde4D\": [1,null]\n      }"),
+              std::string::npos);
+    ordena(a.nuevoFormulario);
+    dialogos.ficheros = {ruta("b.nvf")};
+    ordena(a.guardarFormularioComo);
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "b.nvf").find("Tema"), std::string::npos);
+}
+
+// A pipe that nobody writes to, a device that never ends: neither is waited for, and what was there stays.
+TEST_F(TallerTest, LoQueNoEsUnFicheroCorrienteSeRehusa) {
+    escribe("mio");
+    for (const char* nombre : {"f", "f.nvf", "f.nvk", "f.bas"}) {
+        ASSERT_EQ(mkfifo((carpeta / nombre).c_str(), 0600), 0);
+        dialogos.destinos = {Destino::Descartar, Destino::Descartar};
+        ventana.abre(ruta(nombre));
+        const QString accion = "aviso No se puede leer «" + ruta(nombre) + "»: no es un fichero corriente";
+        EXPECT_EQ(dialogos.toma().last(), accion);
+        EXPECT_EQ(norvik().Text(), "mio");
+    }
+    dialogos.ficheros = {ruta("f"), ruta("f.nvf"), ruta("f.nvk")};
+    for (QAction* const orden : {&a.guardarTextoComo, &a.guardarFormularioComo, &a.guardarEspecificacion}) {
+        ordena(*orden);
+        EXPECT_TRUE(dialogos.toma().last().endsWith("no es un fichero corriente"));
+    }
+    ventana.abre("/dev/zero");
+    EXPECT_EQ(dialogos.toma().last(), "aviso No se puede leer «/dev/zero»: no es un fichero corriente");
+}
+
+TEST_F(TallerTest, LoQueSeCorrigeAlAbrirEstaModificado) {
+    ventana.abre(pon("s.nvk", "Token si = \"Si\", TipoToken = TTPalabraReservada; S -> si;"));
+    norvik().control().AutoCorreccion(true);
+    for (int vez = 0; vez < 2; ++vez) {
+        ventana.abre(pon("a.txt", "SI\n"));
+        EXPECT_EQ(norvik().Text(), "Si");
+        EXPECT_TRUE(ventana.isWindowModified());
+        dialogos.destinos = {Destino::Descartar};
+    }
+    ordena(a.guardarTexto);
+    EXPECT_FALSE(ventana.isWindowModified());
+    EXPECT_EQ(apoyo::bytesDe(carpeta / "a.txt"), "Si\n");
+}
+
+TEST_F(TallerTest, TrasMasCambiosDeLosQueSeCuentanHayUnTextoNuevo) {
+    for (int vez = 0; vez < 2; ++vez) {
+        for (int i = 0; i <= 33'000; ++i) {
+            norvik().control().SelText(i % 2 == 0 ? u"a" : u"");
+            norvik().control().SelStart(0);
+            norvik().control().SelLength(1);
+        }
+        dialogos.toma();
+        dialogos.destinos = {Destino::Descartar};
+        ordena(a.nuevoTexto);
+        EXPECT_EQ(dialogos.toma().size(), 1) << "the question alone";
+        EXPECT_EQ(norvik().Text(), "");
+        EXPECT_FALSE(ventana.isWindowModified());
+        EXPECT_FALSE(a.deshacer.isEnabled());
+    }
+}
+
+TEST_F(TallerTest, NingunNombreSeTomaPorUnaPagina) {
+    const QString imagen = "<img src=/dev/zero>";
+    norvik().NomLenguaje(imagen);
+    const auto etiquetas = ventana.findChildren<QLabel*>();
+    for (const QLabel* const etiqueta : etiquetas) {
+        const bool llana = etiqueta->textFormat() == Qt::PlainText || !etiqueta->pixmap().isNull();
+        EXPECT_TRUE(llana) << etiqueta->text().toStdString();
+    }
+    EXPECT_EQ(ventana.findChild<QStatusBar*>()->findChildren<QLabel*>().first()->text(), imagen);
+}
+
+// The language and the specification that were there stay, whatever was opened or asked for.
+TEST_F(TallerTest, UnLenguajeInterminableSeCancela) {
+    ventana.abre(pon("suma.nvk", calculadora));
+    const QString larga = pon("larga.nvk", apoyo::gramaticaLarga());
+    QTimer persona;
+    QElapsedTimer cronometro;
+    QObject::connect(&persona, &QTimer::timeout, [&] {
+        QWidget* const aviso = QApplication::activeModalWidget();
+        if (aviso == nullptr) return;
+        cronometro.start();
+        aviso->findChild<QPushButton*>("cancelar")->click();
+    });
+    persona.start(10);
+    for (int vez = 0; vez < 2; ++vez) {
+        cronometro.invalidate();
+        ventana.abre(larga);
+        ASSERT_TRUE(cronometro.isValid());
+        EXPECT_LT(cronometro.elapsed(), 2000);
+        EXPECT_EQ(dialogos.toma(), QStringList());
+        EXPECT_EQ(norvik().NomLenguaje(), "suma");
+        EXPECT_FALSE(ventana.formulario().modificado());
+        norvik().control().Text(u"1+2");
+        ordena(a.analizar);
+        EXPECT_EQ(ventana.arbol().modelo().nodos(), 5);
+    }
+    norvik().control().ContenidoG(decodifica(apoyo::gramaticaLarga())); // written on its page, say
+    for (QAction* const orden : {&a.analizar, &a.revisar, &a.informe, &a.analizar}) {
+        cronometro.invalidate();
+        ordena(*orden);
+        ASSERT_TRUE(cronometro.isValid());
+        EXPECT_LT(cronometro.elapsed(), 2000);
+        EXPECT_EQ(dialogos.toma(), QStringList());
+        EXPECT_TRUE(tieneLenguaje(norvik()));
+    }
+    EXPECT_TRUE(ventana.revision().isHidden());
 }
 
 TEST_F(TallerTest, ModoDeDisenio) {
