@@ -34,10 +34,13 @@ ElementoFormulario& Formulario::anade(const QString& nombre) {
 }
 
 void Formulario::conecta(ElementoFormulario& elemento) {
-    connect(&elemento, &ElementoFormulario::activado, this, [this, &elemento] { activa(elemento); });
+    connect(&elemento, &ElementoFormulario::activado, this,
+            [this, &elemento] { sinFallos([&] { activa(elemento); }); });
     connect(&elemento, &ElementoFormulario::pidePropiedades, this, [this, &elemento] {
-        activa(elemento);
-        emit pidePropiedades();
+        sinFallos([&] {
+            activa(elemento);
+            emit pidePropiedades();
+        });
     });
     connect(&elemento, &ElementoFormulario::otroTexto, this, &Formulario::otroTexto);
     connect(&elemento, &ElementoFormulario::otroLugar, this, &Formulario::otroLugar);

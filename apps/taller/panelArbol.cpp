@@ -2,6 +2,8 @@
 
 #include "panelArbol.hpp"
 
+#include "norvik/platform/qt/fallos.hpp"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -25,7 +27,9 @@ PanelArbol::PanelArbol(QWidget* padre) : QDockWidget(QStringLiteral("Árbol sint
     vista_.header()->setResizeContentsPrecision(0);
     setWidget(&vista_);
     const auto elige = [this](const QModelIndex& indice) {
-        if (const auto hoja = modelo_.hojaDe(indice); hoja.linea > 0) emit elegida(hoja);
+        sinFallos([&] {
+            if (const auto hoja = modelo_.hojaDe(indice); hoja.linea > 0) emit elegida(hoja);
+        });
     };
     connect(&vista_, &QTreeView::clicked, this, elige);
     connect(&vista_, &QTreeView::activated, this, elige);

@@ -14,7 +14,7 @@ namespace norvik::taller {
 Recientes::Recientes(QMenu& menu, QSettings& ajustes, QString clave)
     : menu_(menu), ajustes_(ajustes), clave_(std::move(clave)) {
     menu_.setToolTipsVisible(true);
-    connect(&menu_, &QMenu::aboutToShow, this, &Recientes::llenaMenu);
+    connect(&menu_, &QMenu::aboutToShow, this, [this] { sinFallos([this] { llenaMenu(); }); });
 }
 
 QStringList Recientes::ficheros() const {

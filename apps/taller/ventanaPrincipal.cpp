@@ -32,6 +32,14 @@ QStringList ficherosDe(const QMimeData& datos) {
 
 } // namespace
 
+/// One at a time: while one works events run, of a program that drives the window also.
+template <typename Orden>
+void VentanaPrincipal::ejecuta(const Orden& orden) {
+    if (ocupada_) return;
+    const QScopedValueRollback<bool> ocupada(ocupada_, true);
+    norvik::ejecuta(sistema_, orden);
+}
+
 VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
     : sistema_(entorno.sistema), dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
       textosRecientes_(acciones_.textosRecientes, ajustes_, QStringLiteral("recientes/textos")),
@@ -72,13 +80,6 @@ void VentanaPrincipal::compone() {
     }
 }
 
-/// One at a time: while one works events run, of a program that drives the window also.
-void VentanaPrincipal::ejecuta(const std::function<void()>& orden) {
-    if (ocupada_) return;
-    const QScopedValueRollback<bool> ocupada(ocupada_, true);
-    norvik::ejecuta(sistema_, orden);
-}
-
 template <typename Orden>
 void VentanaPrincipal::conecta(QAction& accion, Orden orden) {
     connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(orden); });
@@ -108,7 +109,7 @@ void VentanaPrincipal::conectaEdicion() {
         conControl(accion, [orden](ControlNorvik& n) {
             n.caja().atiende([&] { orden(n); }); // what a key came to is told as it is at other keys
         });
-        connect(&accion, &QAction::triggered, this, [this] { formulario_.activo().cambiaTexto(); });
+        conecta(accion, [this] { formulario_.activo().cambiaTexto(); });
     };
     enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
     enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
@@ -163,9 +164,9 @@ void VentanaPrincipal::conectaLenguaje() {
     conecta(a.revisar, [this] { lenguajes_.revisa(); });
     connect(&revision_, &VentanaRevision::pideLalr, this,
             [this] { ejecuta([&] { lenguajes_.pasaALalr(); }); });
-    connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { lenguajes_.vaAlError(); });
+    connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { ejecuta([this] { lenguajes_.vaAlError(); }); });
     connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
-        formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema);
+        ejecuta([&] { formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema); });
     });
 }
 

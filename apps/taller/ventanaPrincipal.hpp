@@ -44,7 +44,8 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
-    void ejecuta(const std::function<void()>& orden);
+    template <typename Orden>
+    void ejecuta(const Orden& orden);
     template <typename Orden>
     void conecta(QAction& accion, Orden orden);
     void conectaArchivo();

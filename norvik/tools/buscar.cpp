@@ -61,7 +61,7 @@ void buscar::nombraElementos() {
 void buscar::conecta() {
     buscador_.ponEncima = &buscar::ponEncima;
     connect(&campos_, &CamposBusqueda::textoCambiado, &command1_, &QPushButton::setEnabled);
-    connect(&command1_, &QPushButton::clicked, this, &buscar::buscaSiguiente);
+    connect(&command1_, &QPushButton::clicked, this, [this] { sinFallos([this] { buscaSiguiente(); }); });
     connect(&command2_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -79,7 +79,7 @@ void buscar::apunta(ControlNorvik& control) {
 }
 
 void buscar::done(int resultado) {
-    buscador_.cierra();
+    sinFallos([this] { buscador_.cierra(); });
     abierto().clear();
     QDialog::done(resultado);
     deleteLater();

@@ -77,16 +77,19 @@ void directorio::dispone() {
 }
 
 void directorio::conecta() {
-    connect(&drive1_, &QComboBox::activated, this, &directorio::eligeUnidad);
+    connect(&drive1_, &QComboBox::activated, this,
+            [this](int indice) { ejecuta(sistema_, [&] { eligeUnidad(indice); }); });
     connect(dir1_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& elegida) {
                 if (elegida.isValid()) muestraCarpeta(carpetas_.filePath(elegida));
             });
     // Folders are read in the background: the chosen one is there when those round it are, in order.
     connect(&carpetas_, &QFileSystemModel::directoryLoaded, this, [this](const QString& leida) {
-        if (contiene(leida, dirDestino_.text())) QTimer::singleShot(0, this, &directorio::senalaCarpeta);
+        sinFallos([&] {
+            if (contiene(leida, dirDestino_.text())) QTimer::singleShot(0, this, &directorio::senalaCarpeta);
+        });
     });
-    connect(&command1_, &QPushButton::clicked, this, &directorio::acepta);
+    connect(&command1_, &QPushButton::clicked, this, [this] { ejecuta(sistema_, [this] { acepta(); }); });
     connect(&command2_, &QPushButton::clicked, this, &QDialog::reject);
 }
 

@@ -47,13 +47,25 @@ QString ModeloTabla::texto(int fila, int columna) const {
 }
 
 QVariant ModeloTabla::data(const QModelIndex& celda, int papel) const {
+    QVariant dato;
+    sinFallos([&] { dato = datoDe(celda, papel); });
+    return dato;
+}
+
+QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
+    QVariant dato;
+    sinFallos([&] { dato = encabezado(seccion, orientacion, papel); });
+    return dato;
+}
+
+QVariant ModeloTabla::datoDe(const QModelIndex& celda, int papel) const {
     if (papel == Qt::DisplayRole) return texto(celda.row(), celda.column());
     if (papel == Qt::TextAlignmentRole) return Qt::AlignCenter;
     if (papel == Qt::ToolTipRole) return ayudaDeCelda(celda.row(), celda.column());
     return gramatica_.enConflicto(numero(celda.row()), numero(celda.column())) ? realce(papel) : QVariant();
 }
 
-QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
+QVariant ModeloTabla::encabezado(int seccion, Qt::Orientation orientacion, int papel) const {
     const bool deColumna = orientacion == Qt::Horizontal;
     if (papel == Qt::DisplayRole)
         return deColumna ? aQString(gramatica_.encabezadoColumna(numero(seccion))) : QString::number(seccion);

@@ -29,6 +29,8 @@ public:
 
 private:
     QString texto(int fila, int columna) const;
+    QVariant datoDe(const QModelIndex& celda, int papel) const;
+    QVariant encabezado(int seccion, Qt::Orientation orientacion, int papel) const;
     QString ayudaDeCelda(int fila, int columna) const;
     QString ayudaDeColumna(int columna) const;
 

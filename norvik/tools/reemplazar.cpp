@@ -52,7 +52,7 @@ void Reemplazar::conecta() {
 /// A command needs a text to search.
 void Reemplazar::conecta(QPushButton& boton, const Orden& orden) {
     connect(&campos_, &CamposBusqueda::textoCambiado, &boton, &QPushButton::setEnabled);
-    connect(&boton, &QPushButton::clicked, this, [this, orden] { ejecuta(orden); });
+    connect(&boton, &QPushButton::clicked, this, [this, orden] { sinFallos([&] { ejecuta(orden); }); });
 }
 
 void Reemplazar::ejecuta(const Orden& orden) {

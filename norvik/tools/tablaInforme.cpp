@@ -2,6 +2,8 @@
 
 #include "norvik/tools/tablaInforme.hpp"
 
+#include "norvik/platform/qt/fallos.hpp"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -22,8 +24,9 @@ TablaInforme::TablaInforme(ModeloTabla& modelo, QWidget* padre) : QTableView(pad
     for (QAction* accion : {&copiar_, &copiarConEncabezados_}) accion->setShortcutContext(Qt::WidgetShortcut);
     addActions({&copiar_, &copiarConEncabezados_});
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(&copiar_, &QAction::triggered, this, [this] { copia(false); });
-    connect(&copiarConEncabezados_, &QAction::triggered, this, [this] { copia(true); });
+    connect(&copiar_, &QAction::triggered, this, [this] { sinFallos([this] { copia(false); }); });
+    connect(&copiarConEncabezados_, &QAction::triggered, this,
+            [this] { sinFallos([this] { copia(true); }); });
 }
 
 /// Sizes that need no look at the cells of a large table one by one, as Qt's own fitting does.

@@ -174,7 +174,7 @@ void VentanaEditor::showEvent(QShowEvent* evento) {
     QMainWindow::showEvent(evento);
     if (evento->spontaneous()) return;
     norvik1_.setFocus();
-    muestraLugar();
+    sinFallos([this] { muestraLugar(); });
     sistema_.ponPuntero(Puntero::Normal);
 }
 
@@ -186,7 +186,7 @@ void VentanaEditor::changeEvent(QEvent* evento) {
 /// Not in the middle of a command, which then works on a window that is there.
 void VentanaEditor::closeEvent(QCloseEvent* evento) {
     evento->setAccepted(!ocupada_);
-    if (!ocupada_) acaba();
+    if (!ocupada_) norvik::ejecuta(sistema_, [this] { acaba(); });
 }
 
 void VentanaEditor::cierra() {

@@ -2,6 +2,7 @@
 
 #include "norvik/tools/ventanaPropiedades.hpp"
 
+#include "norvik/platform/qt/fallos.hpp"
 #include "norvik/tools/paginasDeNorvik.hpp"
 
 #include <algorithm>
@@ -30,10 +31,15 @@ VentanaPropiedades::VentanaPropiedades(ControlNorvik& control, QString nombre, S
     setLayout(&columna_);
     aplicar_.setDefault(true);
     cerrar_.setAutoDefault(false);
-    connect(&aplicar_, &QPushButton::clicked, this, &VentanaPropiedades::aplica);
+    connect(&aplicar_, &QPushButton::clicked, this, [this] { sinFallos([this] { aplica(); }); });
     connect(&cerrar_, &QPushButton::clicked, this, &QDialog::reject);
     actualiza();
     fichas_.currentWidget()->setFocus();
+}
+
+/// Pages that go with their changes still tell of them.
+VentanaPropiedades::~VentanaPropiedades() {
+    for (const auto& pagina : paginas_) pagina->disconnect(this);
 }
 
 void VentanaPropiedades::actualiza() {
@@ -65,7 +71,9 @@ bool VentanaPropiedades::puedeCerrarse() {
 }
 
 void VentanaPropiedades::done(int resultado) {
-    if (!puedeCerrarse()) return;
+    bool puede = false; // what fails keeps it open
+    sinFallos([&] { puede = puedeCerrarse(); });
+    if (!puede) return;
     for (const auto& pagina : paginas_) pagina->cierra();
     QDialog::done(resultado);
 }

@@ -28,6 +28,9 @@ public:
     /// `sistema` must outlive it; `pregunta` is asked what is to become of changes that were not applied.
     VentanaPropiedades(ControlNorvik& control, QString nombre, SistemaQt& sistema, PreguntaDestino pregunta,
                        Pagina primera, QWidget* padre);
+    VentanaPropiedades(const VentanaPropiedades&) = delete;
+    VentanaPropiedades& operator=(const VentanaPropiedades&) = delete;
+    ~VentanaPropiedades() override;
 
     /// Asks when there is something to ask; does not close while a page is at work.
     void done(int resultado) override;

@@ -50,7 +50,7 @@ void muestraModal(SistemaQt& sistema, Argumentos&&... argumentos) {
 
 /// Carries out a command of a window; a failure is told in a plain message box, a cancellation is known.
 template <typename Orden>
-void ejecuta(Sistema& sistema, Orden orden) {
+void ejecuta(Sistema& sistema, const Orden& orden) {
     const std::u16string fallo = falloDe([&] {
         try {
             orden();

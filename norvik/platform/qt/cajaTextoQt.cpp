@@ -58,7 +58,7 @@ void CajaTextoQt::ponOcultaSeleccion(bool oculta) {
 
 void CajaTextoQt::cambiaFoco(bool enfocada) {
     seleccionALaVista_ = enfocada;
-    ponAlDia();
+    protege([this] { ponAlDia(); });
 }
 
 std::int32_t CajaTextoQt::primeraLineaVisible() const {
@@ -90,15 +90,19 @@ void CajaTextoQt::desbloqueaDibujo() {
 /// The editor is brought up to date before it is next drawn: at the end of the event being served, or of the
 /// call that changed the box.
 void CajaTextoQt::pideAlDia() {
-    if (std::exchange(alDiaPedido_, true)) return;
-    QMetaObject::invokeMethod(
-        &contexto_, [this] { ponAlDia(); }, Qt::QueuedConnection);
+    if (alDiaPedido_) return;
+    sinFallos([this] { // else at the next event
+        QMetaObject::invokeMethod(
+            &contexto_, [this] { protege([this] { ponAlDia(); }); }, Qt::QueuedConnection);
+        alDiaPedido_ = true;
+    });
 }
 
 void CajaTextoQt::ponAlDia() {
     alDiaPedido_ = false;
     if (bloqueos_ > 0) return;
     const QScopedValueRollback<bool> copiando(copiando_, true);
+    if (vistaPorRehacer_) rehaceVista();
     ponEstilosEnVista();
     ponSeleccionEnVista();
 }
@@ -106,9 +110,11 @@ void CajaTextoQt::ponAlDia() {
 void CajaTextoQt::alSustituir(const CambioDeTexto& s) {
     if (sucio_ && sucio_->fin > s.inicio)
         sucio_->fin = std::max(sucio_->fin + s.puestos - s.quitados, s.inicio);
-    if (!std::exchange(deLaVista_, false)) {
+    if (std::exchange(deLaVista_, false)) {
+        vistaPorRehacer_ = false;
+    } else if (!vistaPorRehacer_) {
         const QScopedValueRollback<bool> copiando(copiando_, true);
-        espejo_.copia(s.inicio, s.inicio + s.puestos);
+        vistaPorRehacer_ = !falloDe([&] { espejo_.copia(s.inicio, s.inicio + s.puestos); }).empty();
         vistaAtrasada_ = true;
     }
     ensucia({s.inicio, s.inicio + s.puestos});
@@ -161,7 +167,7 @@ void CajaTextoQt::ponSeleccionEnVista() {
 void CajaTextoQt::ponEstilosEnVista() {
     if (!sucio_) return;
     QTextDocument& documento = *vista_->document();
-    const Tramo sucio = *std::exchange(sucio_, std::nullopt);
+    const Tramo sucio = *sucio_;
     const std::int32_t primera = lineaDeCaracter(sucio.inicio);
     const std::int32_t ultima = lineaDeCaracter(sucio.fin);
     QTextBlock bloque = documento.findBlockByNumber(primera);
@@ -176,6 +182,7 @@ void CajaTextoQt::ponEstilosEnVista() {
         hasta = bloque.position() + bloque.length();
     }
     if (hasta > desde) documento.markContentsDirty(desde, hasta - desde);
+    sucio_.reset();
 }
 
 QList<QTextLayout::FormatRange> CajaTextoQt::formatos(std::int32_t inicio, std::int32_t longitud) const {
@@ -209,19 +216,35 @@ QTextCharFormat CajaTextoQt::formato(const Estilo& estilo) const {
 void CajaTextoQt::recogeEdicion() {
     const VistaTexto::Servicio servicio(*vista_);
     if (copiando_ || !espejo_.hayEdicion()) return;
+    const auto viva = testigo();
+    vistaPorRehacer_ = true;
+    protege([this] { tomaEdicion(); });
+    if (viva.expired() || !vistaPorRehacer_) return;
+    deLaVista_ = false;
+    pideAlDia();
+}
+
+/// Until the model has it there is no going on with what the editor shows.
+void CajaTextoQt::tomaEdicion() {
     const EspejoDocumento::Edicion e = espejo_.dameEdicion();
     const QTextCursor cursor = vista_->textCursor();
     const Tramo seleccion{espejo_.trasEdicion(e, cursor.selectionStart()),
                           espejo_.trasEdicion(e, cursor.selectionEnd())};
+    const EspejoDocumento::Edicion r = espejo_.recortada(e);
     puesta_ = sincronizada_ = seleccion;
-    protege([&] {
-        const EspejoDocumento::Edicion r = espejo_.recortada(e);
-        const bool mismoTexto = r.inicio == r.fin && r.nuevo.empty();
-        if (mismoTexto && seleccion == seleccionModelo()) return; // Return gives an empty line a format first
-        ensucia({e.inicio, e.fin}); // also where the editor put the same text again, without its colours
-        deLaVista_ = true;
-        edita(r.inicio, r.fin - r.inicio, r.nuevo, seleccion.inicio, seleccion.fin - seleccion.inicio);
-    });
+    const bool mismoTexto = r.inicio == r.fin && r.nuevo.empty();
+    if (mismoTexto) vistaPorRehacer_ = false;
+    if (mismoTexto && seleccion == seleccionModelo()) return; // Return gives an empty line a format first
+    ensucia({e.inicio, e.fin}); // also where the editor put the same text again, without its colours
+    deLaVista_ = true;
+    edita(r.inicio, r.fin - r.inicio, r.nuevo, seleccion.inicio, seleccion.fin - seleccion.inicio);
+}
+
+void CajaTextoQt::rehaceVista() {
+    espejo_.copiaTodo();
+    vistaPorRehacer_ = false;
+    sucio_ = Tramo{0, static_cast<std::int32_t>(texto().size())};
+    vistaAtrasada_ = true;
 }
 
 void CajaTextoQt::recogeSeleccion() {
@@ -265,12 +288,13 @@ QString CajaTextoQt::textoParaCopiar() const {
 }
 
 void CajaTextoQt::avisaFallo(const std::u16string& texto) {
-    if (std::exchange(falloPendiente_, true)) return;
+    if (falloPendiente_) return;
     const auto avisa = [this, texto] {
         falloPendiente_ = false;
-        if (alFallar) alFallar(texto);
+        if (alFallar) sinFallos([&] { alFallar(texto); });
     };
     QMetaObject::invokeMethod(&contexto_, avisa, Qt::QueuedConnection);
+    falloPendiente_ = true;
 }
 
 } // namespace norvik

@@ -51,17 +51,17 @@ public:
     /// Serves an event of the user: the editor is up to date before it and after it. What is raised on the
     /// way goes no further and is told afterwards, if the box is still there.
     template <typename Accion>
-    void atiende(Accion accion) {
+    void atiende(const Accion& accion) {
         const auto viva = testigo();
-        ponAlDia();
+        protege([this] { ponAlDia(); });
         protege(accion);
-        if (!viva.expired()) ponAlDia();
+        if (!viva.expired()) protege([this] { ponAlDia(); });
     }
     template <typename Accion>
-    void protege(Accion accion) {
+    void protege(const Accion& accion) {
         const auto viva = testigo();
         const std::u16string fallo = falloDe(accion);
-        if (!fallo.empty() && !viva.expired()) avisaFallo(fallo);
+        if (!fallo.empty() && !viva.expired()) sinFallos([&] { avisaFallo(fallo); });
     }
     /// Inserts text that the user brings from elsewhere.
     void pega(const QString& texto);
@@ -96,6 +96,8 @@ private:
     void conecta();
     void pideAlDia();
     void recogeEdicion();
+    void tomaEdicion();
+    void rehaceVista();
     void avisaFallo(const std::u16string& texto);
     Tramo seleccionModelo() const;
     Tramo seleccionVista() const;
@@ -118,6 +120,7 @@ private:
     bool deLaVista_ = false;         ///< the model's next change is what the editor has already
     bool vistaAtrasada_ = false;     ///< the editor's selection is not the model's
     bool seleccionALaVista_ = false; ///< the editor has the focus
+    bool vistaPorRehacer_ = false;   ///< the editor has an edit that could not be done to the model
     bool alDiaPedido_ = false;
     bool falloPendiente_ = false;
 };

@@ -85,6 +85,13 @@ void EspejoDocumento::copia(std::int32_t inicio, std::int32_t fin) {
         comoSeVe(texto.substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(fin - inicio))));
 }
 
+void EspejoDocumento::copiaTodo() {
+    QTextCursor cursor(&documento_);
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(comoSeVe(fuente_.texto()));
+    cambio_.reset();
+}
+
 void EspejoDocumento::anota(int desde, int /*quitados*/, int puestos) {
     const int detras = std::max(ultimaPosicion() - desde - puestos, 0);
     if (!cambio_) cambio_ = Cambio{desde, detras};
@@ -106,9 +113,10 @@ std::u16string EspejoDocumento::lee(int desde, int hasta) const {
 EspejoDocumento::Edicion EspejoDocumento::dameEdicion() {
     const int desde = cambio_->delante;
     const int hasta = std::max(ultimaPosicion() - cambio_->detras, desde);
-    cambio_.reset();
     const std::int32_t inicio = enTexto(desde);
-    return {inicio, std::max(enTextoDesdeElFinal(hasta), inicio), lee(desde, hasta), desde, hasta};
+    Edicion edicion{inicio, std::max(enTextoDesdeElFinal(hasta), inicio), lee(desde, hasta), desde, hasta};
+    cambio_.reset();
+    return edicion;
 }
 
 EspejoDocumento::Edicion EspejoDocumento::recortada(Edicion e) const {

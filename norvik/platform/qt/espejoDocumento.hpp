@@ -41,6 +41,9 @@ public:
         int desde = 0;
         int hasta = 0;
     };
+    /// Shows all of the text anew, whatever the document has now; an edit that the text does not have is
+    /// lost.
+    void copiaTodo();
     /// Takes note of a change as the document reports it, and what those since the last question come to.
     void anota(int desde, int quitados, int puestos);
     bool hayEdicion() const { return cambio_.has_value(); }

@@ -8,6 +8,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 namespace norvik {
 
@@ -15,7 +16,7 @@ namespace norvik {
 /// calls a slot, an event handler or an event filter can do nothing with it. The text of the failure, empty
 /// when there was none.
 template <typename Orden>
-std::u16string falloDe(Orden orden) {
+std::u16string falloDe(Orden&& orden) { // NOLINT: it is called here, not kept
     try {
         std::u16string texto;
         try {
@@ -38,8 +39,8 @@ std::u16string falloDe(Orden orden) {
 
 /// The same where there is nobody to tell: what was to be shown is shown the next time.
 template <typename Orden>
-void sinFallos(Orden orden) {
-    static_cast<void>(falloDe(orden));
+void sinFallos(Orden&& orden) {
+    static_cast<void>(falloDe(std::forward<Orden>(orden)));
 }
 
 } // namespace norvik

@@ -78,8 +78,10 @@ bool esTabulador(const QKeyEvent& tecla) {
 } // namespace
 
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
-    bajadas_.insert(identidad(*evento));
-    atiende([&] { pulsa(*evento); });
+    atiende([&] {
+        bajadas_.insert(identidad(*evento));
+        pulsa(*evento);
+    });
 }
 
 void VistaTexto::pulsa(QKeyEvent& evento) {
@@ -198,7 +200,10 @@ void VistaTexto::mouseReleaseEvent(QMouseEvent* evento) {
 
 /// The menu edits through the keys that do the same, so that the host sees the same events.
 void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
-    if (!hayCaja()) return;
+    if (hayCaja()) sinFallos([&] { muestraMenu(evento->globalPos()); });
+}
+
+void VistaTexto::muestraMenu(const QPoint& lugar) {
     const bool hay = caja_->longitudSeleccion() > 0;
     QMenu menu(this);
     const auto pon = [&](const QString& nombre, bool activa, auto accion) {
@@ -210,7 +215,7 @@ void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
     pon(QStringLiteral("&Eliminar"), hay, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
     menu.addSeparator();
     pon(QStringLiteral("&Seleccionar todo"), !document()->isEmpty(), [this] { selectAll(); });
-    menu.exec(evento->globalPos());
+    menu.exec(lugar);
 }
 
 void VistaTexto::teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas) {
@@ -255,9 +260,11 @@ void VistaTexto::dropEvent(QDropEvent* evento) {
     QDragLeaveEvent fin;
     QPlainTextEdit::dragLeaveEvent(&fin);
     if (!canInsertFromMimeData(evento->mimeData())) return evento->ignore();
-    const int posicion = cursorForPosition(evento->position().toPoint()).position();
     const bool mueve = evento->dropAction() == Qt::MoveAction && evento->source() == viewport();
-    atiende([&] { caja_->suelta(evento->mimeData()->text(), posicion, mueve); });
+    atiende([&] {
+        const int posicion = cursorForPosition(evento->position().toPoint()).position();
+        caja_->suelta(evento->mimeData()->text(), posicion, mueve);
+    });
     evento->acceptProposedAction();
     if (hayCaja()) setFocus();
 }
@@ -265,7 +272,7 @@ void VistaTexto::dropEvent(QDropEvent* evento) {
 // The clipboard takes the object over.
 QMimeData* VistaTexto::createMimeDataFromSelection() const {
     auto& datos = nuevo<QMimeData>();
-    if (hayCaja()) datos.setText(caja_->textoParaCopiar());
+    if (hayCaja()) sinFallos([&] { datos.setText(caja_->textoParaCopiar()); });
     return &datos;
 }
 

@@ -57,6 +57,7 @@ private:
     void escribe(QKeyEvent& evento);
     QString filtra(const QString& texto);
     bool avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
+    void muestraMenu(const QPoint& lugar);
     void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
 
     CajaTextoQt* caja_;               ///< null once it has gone
