@@ -197,7 +197,7 @@ void ElementoFormulario::ponModulo(const QString& fichero) {
 
 std::u16string ElementoFormulario::preparaLenguaje() {
     if (lenguajeAlDia_) return {};
-    if (modulo_.isEmpty()) ensayaLenguaje(sistema_, norvik_);
+    if (modulo_.isEmpty() && hayEspecificacion(norvik_)) ensayaLenguaje(sistema_, norvik_);
     lenguajeAlDia_ = true;
     if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
     if (hayEspecificacion(norvik_)) return compilaLenguaje(norvik_);

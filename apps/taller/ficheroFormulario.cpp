@@ -25,7 +25,6 @@ constexpr QLatin1String claveNombre("Nombre");
 constexpr QLatin1String claveTexto("Texto");
 constexpr QLatin1String claveModulo("Modulo");
 constexpr QLatin1String claveBolsa("Bolsa");
-constexpr qsizetype maximoControles = 100;
 
 /// A path in the file's folder and below it is kept relative.
 QString relativa(const QDir& carpeta, const QString& fichero) {

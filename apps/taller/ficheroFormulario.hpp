@@ -11,6 +11,8 @@
 
 namespace norvik::taller {
 
+inline constexpr qsizetype maximoControles = 100;
+
 /// What a form keeps of a control. Paths are absolute, empty ones are absent; the file has them relative to
 /// itself, so that a folder can be moved. What nobody here knows is kept as it was read: it is of another
 /// version.

@@ -130,6 +130,7 @@ bool OrdenesLenguaje::hayLenguaje() {
 
 bool OrdenesLenguaje::analiza() {
     if (!hayLenguaje()) return false;
+    reconoceConAviso(sistema_, formulario_.activo().norvik());
     Norvik& control = formulario_.activo().norvik().control();
     if (control.ConstruyeArbolSintactico()) {
         arbol_.muestra(control.GetArbolSintactico());

@@ -264,7 +264,9 @@ void VentanaPrincipal::actualizaOrdenes() {
     for (QAction* const accion :
          {&a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo, &a.buscar, &a.reemplazar})
         accion->setEnabled(!disenio);
-    a.quitar.setEnabled(formulario_.elementos().size() > 1);
+    const auto cuantos = static_cast<qsizetype>(formulario_.elementos().size());
+    a.anadir.setEnabled(cuantos < maximoControles);
+    a.quitar.setEnabled(cuantos > 1);
     actualizaHistorial();
 }
 

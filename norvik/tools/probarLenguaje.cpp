@@ -3,6 +3,7 @@
 #include "norvik/tools/probarLenguaje.hpp"
 
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/tools/procesando.hpp"
 
 namespace norvik {
 
@@ -25,6 +26,7 @@ void ProbarLenguaje::alCerrar() {
 }
 
 void ProbarLenguaje::test() {
+    reconoceConAviso(sistema(), Norvik1());
     if (!Norvik1().control().ConstruyeArbolSintactico()) return;
     sistema().muestraMensaje(
         {u"Análisis sintáctico correcto", u"Prueba de la gramática", Icono::Informacion});

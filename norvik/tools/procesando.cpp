@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 namespace norvik {
@@ -66,6 +67,16 @@ void Procesando::keyPressEvent(QKeyEvent* evento) {
 void Procesando::closeEvent(QCloseEvent* evento) {
     evento->ignore();
     cancela();
+}
+
+void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
+    const std::u16string texto(norvik.caja().texto());
+    pilaTokens& lexico = norvik.control().Lexico();
+    const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
+    sistema.trabaja([&](const std::stop_token& parada) {
+        const QScopedValueRollback<std::stop_token> cancelable(lexico.cancelacion, parada);
+        lexico.ReconoceTokens(texto);
+    });
 }
 
 } // namespace norvik

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "norvik/platform/qt/sistemaQt.hpp"
+#include "norvik/tools/controlNorvik.hpp"
 
 #include <QFrame>
 #include <QPushButton>
@@ -38,5 +38,9 @@ private:
     AvisoDeTrabajo* const anterior_;
     QPushButton cancelar_;
 };
+
+/// Recognises the text of a control where it can be cancelled, and raises what that raises; the parse that
+/// comes next finds nothing there that it has to wait for. Nobody may use the control's lexer meanwhile.
+void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik);
 
 } // namespace norvik

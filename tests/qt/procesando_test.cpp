@@ -6,6 +6,7 @@
 #include "norvik/control/ranurasDisenio.hpp"
 #include "norvik/tools/codigoGramatica.hpp"
 #include "norvik/tools/ppControl.hpp"
+#include "norvik/tools/probarLenguaje.hpp"
 #include "norvik/tools/procesando.hpp"
 #include "norvik/tools/ventanas.hpp"
 #include "qt/sistemaDePrueba.hpp"
@@ -135,4 +136,25 @@ TEST(Procesando, UnaGramaticaInterminableSeCancelaEnLasVentanas) {
         }
     }
     EXPECT_EQ(sistema.ventanas, "");
+}
+
+TEST(Procesando, UnTextoDesbocadoSeDejaDeReconocer) {
+    SistemaDePrueba sistema;
+    ProbarLenguaje prueba(sistema);
+    Norvik& control = prueba.Norvik1().control();
+    control.Colorear(false);
+    control.CargaGramatica(uR"(Token t = "(a*)*\1c"; S -> t;)");
+    control.GeneraCompilador();
+    prueba.show();
+    control.Text(std::u16string(30'000, u'a'));
+    for (int vez = 0; vez < 2; ++vez) {
+        const Impaciente persona(pulsaCancelar);
+        prueba.findChild<QAction*>("Test")->trigger();
+        ASSERT_TRUE(persona.cronometro.isValid());
+        EXPECT_LT(persona.cronometro.elapsed(), 2000);
+        EXPECT_TRUE(sistema.dameMensajes().empty());
+    }
+    control.Text(u"aac");
+    prueba.findChild<QAction*>("Test")->trigger();
+    EXPECT_EQ(sistema.dameMensajes().at(0).texto, u"Análisis sintáctico correcto");
 }

@@ -143,7 +143,12 @@ void SistemaQt::trabaja(const std::function<void(std::stop_token)>& trabajo) {
     if (aviso_ == nullptr) return trabajo({});
     const std::stop_source parada = aviso_->parada();
     if (parada.stop_requested()) throw OperacionCancelada();
-    auto hecho = std::async(std::launch::async, [&] { trabajo(parada.get_token()); });
+    std::future<void> hecho;
+    try {
+        hecho = std::async(std::launch::async, [&] { trabajo(parada.get_token()); });
+    } catch (const std::system_error&) { // there is no thread to be had
+        return trabajo({});
+    }
     espera(hecho);
     if (!acabado(hecho)) parada.request_stop(); // the program ends
     hecho.get();
