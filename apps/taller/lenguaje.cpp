@@ -49,9 +49,17 @@ void ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik) {
 
 std::u16string compilaLenguaje(ControlNorvik& norvik) {
     Norvik& control = norvik.control();
-    if (!control.CargaGramatica(especificacionDe(norvik))) return acaba(control, control.GetmensajeError());
-    if (!control.GeneraCompilador()) return acaba(control, u"La gramática no está completa");
-    return acaba(control, {});
+    std::u16string error;
+    try {
+        if (!control.CargaGramatica(especificacionDe(norvik))) {
+            error = control.GetmensajeError();
+        } else if (!control.GeneraCompilador()) {
+            error = u"La gramática no está completa";
+        }
+    } catch (const ErrorNorvik& capacidad) { // half a language is none
+        error = capacidad.texto();
+    }
+    return acaba(control, error);
 }
 
 void descargaLenguaje(ControlNorvik& norvik) {

@@ -362,6 +362,17 @@ TEST_F(TallerTest, NingunNombreSeTomaPorUnaPagina) {
     EXPECT_EQ(ventana.findChild<QStatusBar*>()->findChildren<QLabel*>().first()->text(), imagen);
 }
 
+// More than a grammar can have: half a language is none, and what is too much is said with whose it is.
+TEST_F(TallerTest, UnLenguajeQueNoCabeNoSeQuedaAMedias) {
+    ventana.abre(pon("suma.nvk", calculadora));
+    for (int vez = 0; vez < 2; ++vez) {
+        ventana.abre(pon("s.nvk", "Token a = \"a\"; S -> " + apoyo::repite("a ", 1000) + ";"));
+        EXPECT_EQ(dialogos.toma(), QStringList{"aviso El lenguaje de Norvik1 no se ha podido cargar:\n\n"
+                                               "Desbordamiento: el autómata llega a 1000 estados"});
+        EXPECT_FALSE(tieneLenguaje(norvik()));
+    }
+}
+
 // The language and the specification that were there stay, whatever was opened or asked for.
 TEST_F(TallerTest, UnLenguajeInterminableSeCancela) {
     ventana.abre(pon("suma.nvk", calculadora));
