@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 
 // Whatever fails in a slot, an event handler or an event filter of a window goes no further than that: the
-// event loop can do nothing with it. Everything that can be done to each window is done while one allocation
-// of our own code fails, the next one the next time; a sample of them, NORVIK_ASIGNACIONES=1 tries each one.
-// Qt's own are left alone: it does not always survive them. Alone, since it replaces the operators of the
-// whole program.
+// event loop can do nothing with it, and editors show the text that there is. Everything that can be done to
+// each window is done while one allocation of our own code fails, the next one the next time; a sample of
+// them, NORVIK_ASIGNACIONES=1 tries each one. Qt's own are left alone: it does not always survive them.
+// Alone, since it replaces the operators of the whole program.
 
 #include "apoyo/carpetaTemporal.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
@@ -197,6 +197,12 @@ void prueba(const Hacer& hacer, const std::string& nombre, const Operacion& oper
     contando = false;
     if (cual != 0 && asignaciones >= cual) ++inyectados;
     EXPECT_EQ(std::exchange(escapadas(), 0), 0) << nombre << ", allocation " << cual;
+    const auto controles = escena->ventana().findChildren<ControlNorvik*>();
+    for (ControlNorvik* const control : controles) {
+        const auto& editor = static_cast<QPlainTextEdit&>(control->caja().ventana());
+        EXPECT_EQ(editor.toPlainText(), conSaltosDeQt(aQString(control->caja().texto())))
+            << nombre << ", allocation " << cual << ": the editor shows another text";
+    }
 }
 
 void enTodas(const Hacer& hacer) {
