@@ -381,7 +381,7 @@ TEST_F(TallerTest, UnLenguajeInterminableSeCancela) {
     QElapsedTimer cronometro;
     QObject::connect(&persona, &QTimer::timeout, [&] {
         QWidget* const aviso = QApplication::activeModalWidget();
-        if (aviso == nullptr) return;
+        if (aviso == nullptr || cronometro.isValid()) return;
         cronometro.start();
         aviso->findChild<QPushButton*>("cancelar")->click();
     });
