@@ -197,8 +197,13 @@ void ElementoFormulario::ponModulo(const QString& fichero) {
 
 std::u16string ElementoFormulario::preparaLenguaje() {
     if (lenguajeAlDia_) return {};
-    if (modulo_.isEmpty() && hayEspecificacion(norvik_)) ensayaLenguaje(sistema_, norvik_);
+    std::u16string fallo;
+    if (modulo_.isEmpty() && hayEspecificacion(norvik_)) fallo = ensayaLenguaje(sistema_, norvik_);
     lenguajeAlDia_ = true;
+    if (!fallo.empty()) {
+        descargaLenguaje(norvik_);
+        return fallo;
+    }
     if (!modulo_.isEmpty()) return cargaModulo(norvik_, modulo_);
     if (hayEspecificacion(norvik_)) return compilaLenguaje(norvik_);
     descargaLenguaje(norvik_);

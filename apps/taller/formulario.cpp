@@ -125,8 +125,7 @@ QStringList Formulario::abre(const QString& fichero) {
     const std::size_t antes = elementos_.size();
     anade(guardados);
     retira(antes);
-    QStringList avisos;
-    for (std::size_t i = 0; i < guardados.size(); ++i) avisos += llena(*elementos_[i], guardados[i]);
+    const QStringList avisos = llena(guardados);
     fichero_ = QFileInfo(fichero).absoluteFilePath();
     otros_ = formulario.otros;
     ponModificado(false);
@@ -160,21 +159,29 @@ void Formulario::restaura(ElementoFormulario& elemento, const ElementoGuardado& 
     }
 }
 
-/// Opens text and language of a control.
-QStringList Formulario::llena(ElementoFormulario& elemento, const ElementoGuardado& guardado) {
+/// Opens texts and languages of the controls. Who cancels one language gives up those that are left.
+QStringList Formulario::llena(const std::vector<ElementoGuardado>& guardados) {
     QStringList avisos;
     const auto intenta = [&](const auto& accion) {
         const std::u16string fallo = falloDe(accion);
         if (!fallo.empty()) avisos += aQString(fallo);
     };
-    intenta([&] {
-        if (!guardado.modulo.isEmpty()) elemento.ponModulo(guardado.modulo);
-        const std::u16string error = elemento.preparaLenguaje();
-        if (!error.empty()) avisos += elemento.nombre() + QStringLiteral(": ") + aQString(error);
-    });
-    intenta([&] {
-        if (!guardado.texto.isEmpty()) elemento.abreTexto(guardado.texto);
-    });
+    bool cancelada = false;
+    const auto prepara = [&](ElementoFormulario& elemento) {
+        try {
+            const std::u16string error = elemento.preparaLenguaje();
+            if (!error.empty()) avisos += elemento.nombre() + QStringLiteral(": ") + aQString(error);
+        } catch (const OperacionCancelada&) {
+            cancelada = true;
+            throw;
+        }
+    };
+    for (std::size_t i = 0; i < guardados.size(); ++i) {
+        ElementoFormulario& elemento = *elementos_[i];
+        if (!guardados[i].modulo.isEmpty()) intenta([&] { elemento.ponModulo(guardados[i].modulo); });
+        if (!cancelada) intenta([&] { prepara(elemento); });
+        if (!guardados[i].texto.isEmpty()) intenta([&] { elemento.abreTexto(guardados[i].texto); });
+    }
     return avisos;
 }
 

@@ -60,7 +60,7 @@ private:
     void retira(std::size_t cuantos);
     void anade(const std::vector<ElementoGuardado>& guardados);
     void restaura(ElementoFormulario& elemento, const ElementoGuardado& guardado, std::size_t lugar);
-    static QStringList llena(ElementoFormulario& elemento, const ElementoGuardado& guardado);
+    QStringList llena(const std::vector<ElementoGuardado>& guardados);
     void muestraTitulos();
     void conecta(ElementoFormulario& elemento);
 

@@ -40,11 +40,15 @@ void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion
     norvik.control().ContenidoG(especificacion);
 }
 
-void ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik) {
+std::u16string ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik) {
+    std::u16string fallo;
     const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
-    sistema.trabaja([especificacion = especificacionDe(norvik)](const std::stop_token& parada) {
-        static_cast<void>(Lenguaje::compila(especificacion, {{}, parada}));
+    sistema.trabaja([&, especificacion = especificacionDe(norvik)](const std::stop_token& parada) {
+        const Compilacion compilacion = Lenguaje::compila(especificacion, {{}, parada});
+        for (const Diagnostico& d : compilacion.diagnosticos)
+            if (d.codigo == Codigo::CapacidadSuperada) fallo = d.partes.hallado;
     });
+    return fallo;
 }
 
 std::u16string compilaLenguaje(ControlNorvik& norvik) {

@@ -20,8 +20,8 @@ bool hayEspecificacion(ControlNorvik& norvik);
 void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion);
 
 /// Compiles the specification apart, where a person can cancel it, which raises `OperacionCancelada`: a
-/// control that compiles has lost its language before.
-void ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik);
+/// control that compiles has lost its language before. What is too much for any table, empty when nothing is.
+std::u16string ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik);
 
 // Loading a language colours the text with it. What is wrong with it comes back as a text, empty when nothing
 // is; the control is then without a language. Failures of files are raised.

@@ -408,6 +408,17 @@ TEST_F(TallerTest, UnLenguajeInterminableSeCancela) {
         EXPECT_TRUE(tieneLenguaje(norvik()));
     }
     EXPECT_TRUE(ventana.revision().isHidden());
+    QJsonArray controles; // one press is for all the languages of a form
+    const QJsonObject bolsa{{"ContenidoG", QString::fromStdString(apoyo::gramaticaLarga())}};
+    for (int i = 0; i < 9; ++i) controles.append(QJsonObject{{"Bolsa", bolsa}});
+    const QByteArray formulario = QJsonDocument(QJsonObject{{"Controles", controles}}).toJson();
+    ventana.formulario().ponModificado(false);
+    dialogos.destinos = {Destino::Descartar};
+    cronometro.invalidate();
+    ventana.abre(pon("f.nvf", {formulario.data(), static_cast<std::size_t>(formulario.size())}));
+    EXPECT_LT(cronometro.elapsed(), 2000);
+    EXPECT_EQ(dialogos.toma().last(), "aviso La operación se ha cancelado");
+    EXPECT_EQ(ventana.formulario().elementos().size(), 9U);
 }
 
 TEST_F(TallerTest, ModoDeDisenio) {
