@@ -11,7 +11,8 @@
 #include <type_traits>
 
 // Members stand in a vector in order of insertion; an open-addressing table of their positions, a power of
-// two at most half full, finds them.
+// two at most half full, finds them. Its room is made before the member, so that whoever has no memory for
+// either is left with the set as it was.
 namespace norvik {
 
 namespace {
@@ -26,7 +27,23 @@ bool esIgual(const conjunto::Valor& valor, std::int16_t numero) {
     return otro != nullptr && *otro == numero;
 }
 
+// The string is made before the variant: that of libstdc++ 12 is undone wrongly when it is the one to find
+// that there is no memory.
+conjunto::Valor copiaDe(const conjunto::Valor& valor) {
+    if (const auto* const texto = std::get_if<std::u16string>(&valor)) return std::u16string(*texto);
+    return std::get<std::int16_t>(valor);
+}
+
 } // namespace
+
+conjunto::conjunto(const conjunto& otro) : nombre(otro.nombre), ranuras_(otro.ranuras_) {
+    elementos_.reserve(otro.elementos_.size());
+    for (const Valor& valor : otro.elementos_) elementos_.push_back(copiaDe(valor));
+}
+
+conjunto& conjunto::operator=(const conjunto& otro) {
+    return *this = conjunto(otro);
+}
 
 /// The slot that holds the key, or the free one where it belongs.
 template <typename Clave>
@@ -43,32 +60,27 @@ std::size_t conjunto::busca(const Clave& clave) const {
 }
 
 std::size_t conjunto::buscaValor(const Valor& valor) const {
+    return ranuras_.empty() ? 0 : ranuras_[ranuraDe(valor)];
+}
+
+std::size_t conjunto::ranuraDe(const Valor& valor) const {
     if (const auto* const texto = std::get_if<std::u16string>(&valor))
-        return busca(std::u16string_view(*texto));
-    return busca(std::get<std::int16_t>(valor));
+        return ranura(std::u16string_view(*texto));
+    return ranura(std::get<std::int16_t>(valor));
 }
 
 void conjunto::indexa(std::size_t ranuras) {
     ranuras_.assign(ranuras, 0);
-    for (std::size_t i = 0; i < elementos_.size(); ++i) {
-        const auto posicion = static_cast<std::uint32_t>(i + 1);
-        if (const auto* const texto = std::get_if<std::u16string>(&elementos_[i]))
-            ranuras_[ranura(std::u16string_view(*texto))] = posicion;
-        else
-            ranuras_[ranura(std::get<std::int16_t>(elementos_[i]))] = posicion;
-    }
+    for (std::size_t i = 0; i < elementos_.size(); ++i)
+        ranuras_[ranuraDe(elementos_[i])] = static_cast<std::uint32_t>(i + 1);
 }
 
 void conjunto::insertar(const Valor& valor) {
     if (buscaValor(valor) != 0) return;
-    elementos_.push_back(valor);
     constexpr std::size_t minimo = 16;
-    if (elementos_.size() * 2 > ranuras_.size()) return indexa(std::max(minimo, ranuras_.size() * 2));
-    const auto posicion = static_cast<std::uint32_t>(elementos_.size());
-    if (const auto* const texto = std::get_if<std::u16string>(&valor))
-        ranuras_[ranura(std::u16string_view(*texto))] = posicion;
-    else
-        ranuras_[ranura(std::get<std::int16_t>(valor))] = posicion;
+    if ((elementos_.size() + 1) * 2 > ranuras_.size()) indexa(std::max(minimo, ranuras_.size() * 2));
+    elementos_.push_back(copiaDe(valor));
+    ranuras_[ranuraDe(elementos_.back())] = static_cast<std::uint32_t>(elementos_.size());
 }
 
 void conjunto::aniadeElementosConjunto(const conjunto& otro) {

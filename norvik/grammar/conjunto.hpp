@@ -19,6 +19,13 @@ class NORVIK_API conjunto {
 public:
     using Valor = std::variant<std::u16string, std::int16_t>;
 
+    conjunto() = default;
+    conjunto(const conjunto& otro);
+    conjunto(conjunto&&) noexcept = default;
+    conjunto& operator=(const conjunto& otro);
+    conjunto& operator=(conjunto&&) noexcept = default;
+    ~conjunto() = default;
+
     std::u16string nombre;
 
     void aniadeElementosConjunto(const conjunto& otro);
@@ -47,6 +54,7 @@ private:
     template <typename Clave>
     std::size_t busca(const Clave& clave) const;
     std::size_t buscaValor(const Valor& valor) const;
+    std::size_t ranuraDe(const Valor& valor) const;
     void indexa(std::size_t ranuras);
 
     std::vector<Valor> elementos_;

@@ -31,13 +31,12 @@ void ArbolSintactico::reinicia() {
 
 void ArbolSintactico::cambiaDeGeneracion() {
     constexpr std::size_t bastantes = std::size_t{256} << 10;
-    bytesRetirados_ += activa_->bytes();
-    if (generaciones_.size() > 1 && bytesRetirados_ > bastantes) {
+    const std::size_t retirados = bytesRetirados_ + activa_->bytes();
+    if (generaciones_.size() > 1 && retirados > bastantes)
         generaciones_.splice(generaciones_.end(), generaciones_, generaciones_.begin());
-        bytesRetirados_ -= generaciones_.back().bytes();
-    } else {
+    else
         generaciones_.emplace_back(*this);
-    }
+    bytesRetirados_ = retirados - generaciones_.back().bytes();
     activa_ = &generaciones_.back();
 }
 

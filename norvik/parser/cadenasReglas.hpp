@@ -58,11 +58,11 @@ public:
         if (estado == 0) return;
         if (reglas_.size() >= maximoReglas) olvida();
         if (ocupados_ >= cadenas_.size() / 4 && cadenas_.size() < maximoLugares) crece();
+        const auto inicio = static_cast<std::uint32_t>(reglas_.size());
+        reglas_.insert(reglas_.end(), reglas.begin(), reglas.end()); // the run is known once they are there
         Cadena& sitio = cadenas_[ranura(lugar)];
         if (sitio.estado == 0) ++ocupados_;
-        sitio = {lugar, estado, static_cast<std::uint32_t>(reglas_.size()),
-                 static_cast<std::uint16_t>(reglas.size()), accion};
-        reglas_.insert(reglas_.end(), reglas.begin(), reglas.end());
+        sitio = {lugar, estado, inicio, static_cast<std::uint16_t>(reglas.size()), accion};
     }
 
 private:

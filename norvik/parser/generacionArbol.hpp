@@ -21,6 +21,7 @@ namespace norvik {
 class GeneracionArbol {
 public:
     explicit GeneracionArbol(ArbolSintactico& arbol) : arbol_(arbol), deNadie_{&arbol, {}, {}, -1, true} {
+        for (auto& fichas : fichas_) fichas.emplace_back(); // so that no beginning asks for memory
         empieza();
     }
     GeneracionArbol(const GeneracionArbol&) = delete;
@@ -101,16 +102,17 @@ private:
     }
     void pasaDeBloque(std::size_t n) {
         apuntaUsados();
-        if (!bloques_.empty()) ++actual_;
-        for (; actual_ < bloques_.size() && bloques_[actual_].cabida < n; ++actual_)
-            bloques_[actual_].usados = 0;
-        if (actual_ == bloques_.size()) {
-            const std::size_t cabida =
-                std::max(n, std::clamp(bytes_ / sizeof(Arbol), minimoNodos, maximoNodos));
-            bloques_.push_back({std::make_unique_for_overwrite<Memoria>(cabida * sizeof(Arbol)), cabida});
-            bytes_ += cabida * sizeof(Arbol);
-        }
+        std::size_t siguiente = bloques_.empty() ? 0 : actual_ + 1;
+        for (; siguiente < bloques_.size() && bloques_[siguiente].cabida < n; ++siguiente)
+            bloques_[siguiente].usados = 0;
+        if (siguiente == bloques_.size()) aniadeBloque(n);
+        actual_ = siguiente;
         libres_ = bloques_[actual_].memoria();
+    }
+    void aniadeBloque(std::size_t n) {
+        const std::size_t cabida = std::max(n, std::clamp(bytes_ / sizeof(Arbol), minimoNodos, maximoNodos));
+        bloques_.push_back({std::make_unique_for_overwrite<Memoria>(cabida * sizeof(Arbol)), cabida});
+        bytes_ += cabida * sizeof(Arbol);
     }
 
     ArbolSintactico& arbol_;
