@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string_view>
 #include <unistd.h>
+#include <utility>
 
 namespace norvik {
 
@@ -24,6 +25,8 @@ inline bool escribeTodo(int descriptor, std::string_view bytes) {
 class Descriptor {
 public:
     explicit Descriptor(int numero) : numero_(numero) {}
+    Descriptor(Descriptor&& otro) noexcept : numero_(std::exchange(otro.numero_, -1)) {}
+    Descriptor& operator=(Descriptor&&) = delete;
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor() { cierra(); }

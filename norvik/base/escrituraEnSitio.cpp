@@ -3,22 +3,24 @@
 // A file that has other names, whose owner could not be kept, or whose folder takes no new file is written
 // where it is. The new content is made in memory first, so that it is whole; the old one is copied beside
 // the file, or where temporary files are, and stays there until the new one is in its place: a failure puts
-// it back, and after a sudden end it can be found.
+// it back, and after a sudden end it can be found, until the file has been saved again.
 #include "norvik/base/escrituraEnSitio.hpp"
 
 #include "norvik/base/causas.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/base/provisional.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
+#include <functional>
 #include <optional>
 #include <string>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace norvik {
 
@@ -26,39 +28,51 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Where copies of a file's old content may be: beside it, or where temporary files are. People find them by
+// the file's name, and one file's are not another's.
+std::vector<NombresProvisionales> copiasDe(const fs::path& fichero) {
+    constexpr std::size_t largoMaximo = 200;
+    std::error_code error;
+    const std::string ruta = fs::absolute(fichero, error).native();
+    const std::string principio = "." + fichero.filename().native().substr(0, largoMaximo) + ".norvik-" +
+                                  std::to_string(std::hash<std::string>()(ruta)) + "-";
+    return {{fichero.parent_path(), principio, ""}, {fs::temp_directory_path(error), principio, ""}};
+}
+
 // The old content, kept on the disk for as long as it may be needed.
 class Copia {
 public:
     static std::optional<Copia> de(const fs::path& fichero, const std::string& bytes) {
-        std::error_code error;
-        for (const fs::path& carpeta : {fichero.parent_path(), fs::temp_directory_path(error)}) {
-            std::string nombre = (carpeta / ("." + fichero.filename().native() + ".norvik-XXXXXX")).native();
-            const Descriptor descriptor(mkostemp(nombre.data(), O_CLOEXEC));
-            if (!descriptor.abierto()) continue;
-            Copia copia(nombre);
-            if (escribeTodo(descriptor.numero(), bytes) &&
+        for (const NombresProvisionales& nombres : copiasDe(fichero)) {
+            Copia copia(nombres.crea(0600));
+            const Descriptor& descriptor = copia.fichero_.descriptor;
+            if (descriptor.abierto() && escribeTodo(descriptor.numero(), bytes) &&
                 sinInterrupcion([&] { return fsync(descriptor.numero()); }) == 0)
                 return copia;
         }
         return std::nullopt;
     }
-    Copia(Copia&& otra) noexcept : nombre_(std::exchange(otra.nombre_, {})) {}
+    Copia(Copia&&) noexcept = default;
     Copia& operator=(Copia&&) = delete;
     Copia(const Copia&) = delete;
     Copia& operator=(const Copia&) = delete;
     ~Copia() {
         const int codigo = errno; // the caller still reads why it failed
-        if (!nombre_.empty()) unlink(nombre_.c_str());
+        if (fichero_.descriptor.abierto() && !queda_) unlink(fichero_.nombre.c_str());
         errno = codigo;
     }
 
-    // It stays for good, under this name.
-    std::string queda() { return std::exchange(nombre_, {}); }
+    // It stays, under this name, until the file has been saved again.
+    const fs::path& queda() {
+        queda_ = true;
+        return fichero_.nombre;
+    }
 
 private:
-    explicit Copia(std::string nombre) : nombre_(std::move(nombre)) {}
+    explicit Copia(NombresProvisionales::Fichero fichero) : fichero_(std::move(fichero)) {}
 
-    std::string nombre_;
+    NombresProvisionales::Fichero fichero_;
+    bool queda_ = false;
 };
 
 std::optional<std::string> enMemoria(const Llenado& llenado) {
@@ -89,15 +103,18 @@ bool escribeEnSuSitio(const fs::path& fichero, const Llenado& llenado, Durabilid
     if (!descriptor.abierto()) return false;
     auto copia = Copia::de(fichero, antiguo);
     if (!copia) return false;
-    if (pon(descriptor.numero(), *nuevo, durabilidad) && descriptor.cierra()) return true;
+    if (pon(descriptor.numero(), *nuevo, durabilidad) && descriptor.cierra()) {
+        for (const NombresProvisionales& nombres : copiasDe(fichero)) nombres.quitaAbandonados();
+        return true;
+    }
     const int codigo = errno;
     if (descriptor.abierto() && pon(descriptor.numero(), antiguo, durabilidad)) {
         errno = codigo;
         return false;
     }
     throw ErrorDeFichero(u"No se puede escribir «" + decodifica(fichero.native()) + u"»: " +
-                         causaDelSistema(codigo) + u". Lo que tenía está en «" + decodifica(copia->queda()) +
-                         u"»");
+                         causaDelSistema(codigo) + u". Lo que tenía está en «" +
+                         decodifica(copia->queda().native()) + u"»");
 }
 
 } // namespace norvik

@@ -12,13 +12,12 @@
 #include "norvik/base/causas.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/escrituraEnSitio.hpp"
+#include "norvik/base/provisional.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <functional>
 #include <limits>
@@ -124,46 +123,35 @@ bool copiaAtributos(const fs::path& origen, int destino) {
     return true;
 }
 
-// How the name of a file's provisional ones begins, however long its own is.
-std::string principioProvisional(const fs::path& fichero) {
-    return ".norvik-" + std::to_string(std::hash<std::string>()(fichero.filename().native())) + "-";
-}
-
 fs::path carpetaDe(const fs::path& fichero) {
     return fichero.has_parent_path() ? fichero.parent_path() : fs::path(".");
 }
 
-// What processes that are no more have left of their attempts to write a file.
-void quitaAbandonados(const fs::path& destino) {
-    const std::string principio = principioProvisional(destino);
-    std::error_code error;
-    for (fs::directory_iterator i(carpetaDe(destino), error), fin; !error && i != fin; i.increment(error)) {
-        const std::string nombre = i->path().filename().native();
-        if (!nombre.starts_with(principio) || !nombre.ends_with(".tmp")) continue;
-        const long proceso = std::strtol(nombre.c_str() + principio.size(), nullptr, 10);
-        if (proceso > 0 && kill(static_cast<pid_t>(proceso), 0) != 0 && errno == ESRCH)
-            unlink(i->path().c_str());
-    }
+// However long the file's own name is.
+NombresProvisionales provisionalesDe(const fs::path& destino) {
+    return {destino.parent_path(),
+            ".norvik-" + std::to_string(std::hash<std::string>()(destino.filename().native())) + "-", ".tmp"};
 }
 
 // A new file in the folder of another one; it disappears unless it takes that one's place.
 class FicheroProvisional {
 public:
-    explicit FicheroProvisional(fs::path destino) : destino_(std::move(destino)), descriptor_(crea()) {}
+    explicit FicheroProvisional(fs::path destino)
+        : destino_(std::move(destino)), fichero_(provisionalesDe(destino_).crea(0666)) {}
     FicheroProvisional(const FicheroProvisional&) = delete;
     FicheroProvisional& operator=(const FicheroProvisional&) = delete;
     ~FicheroProvisional() {
         const int codigo = errno; // the caller still reads why it failed
-        if (descriptor_.abierto() || pendiente_) unlink(nombre_.c_str());
+        if (creado() && !enSuPuesto_) unlink(fichero_.nombre.c_str());
         errno = codigo;
     }
 
-    bool creado() const { return descriptor_.abierto(); }
+    bool creado() const { return fichero_.descriptor.abierto(); }
 
     // Makes it look like the old one; false when it may not. Only the superuser gives files away, so that
     // whoever writes another's file as one of its group becomes its owner, and the group stays.
     bool pareceA(const struct stat& antiguo) const {
-        const int numero = descriptor_.numero();
+        const int numero = fichero_.descriptor.numero();
         struct stat nuevo {};
         if (fchown(numero, antiguo.st_uid, antiguo.st_gid) != 0 &&
             (errno != EPERM || fstat(numero, &nuevo) != 0 ||
@@ -173,38 +161,26 @@ public:
         return fchmod(numero, antiguo.st_mode & 07777U) == 0 && copiaAtributos(destino_, numero);
     }
 
-    bool llena(const Llenado& llenado, Durabilidad durabilidad) {
-        if (!llenado(descriptor_.numero())) return false;
-        if (durabilidad == Durabilidad::EnDisco &&
-            sinInterrupcion([&] { return fsync(descriptor_.numero()); }) != 0)
+    // Some file systems tell only who closes it that a file could not be written; it stays open, and locked,
+    // until it has its place.
+    bool llena(const Llenado& llenado, Durabilidad durabilidad) const {
+        const int numero = fichero_.descriptor.numero();
+        if (!llenado(numero)) return false;
+        if (durabilidad == Durabilidad::EnDisco && sinInterrupcion([&] { return fsync(numero); }) != 0)
             return false;
-        pendiente_ = true;
-        return descriptor_.cierra();
+        Descriptor otro(fcntl(numero, F_DUPFD_CLOEXEC, 0));
+        return otro.abierto() && otro.cierra();
     }
 
     bool ocupaSuPuesto() {
-        if (rename(nombre_.c_str(), destino_.c_str()) != 0) return false;
-        pendiente_ = false;
-        return true;
+        enSuPuesto_ = rename(fichero_.nombre.c_str(), destino_.c_str()) == 0;
+        return enSuPuesto_;
     }
 
 private:
-    int crea() {
-        constexpr int maximo = 1000;
-        for (int i = 0; i < maximo; ++i) {
-            nombre_ = destino_.parent_path() / (principioProvisional(destino_) + std::to_string(getpid()) +
-                                                "-" + std::to_string(i) + ".tmp");
-            const int numero = sinInterrupcion(
-                [&] { return open(nombre_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
-            if (numero >= 0 || errno != EEXIST) return numero;
-        }
-        return -1;
-    }
-
     fs::path destino_;
-    fs::path nombre_;
-    Descriptor descriptor_;
-    bool pendiente_ = false;
+    NombresProvisionales::Fichero fichero_;
+    bool enSuPuesto_ = false;
 };
 
 // Some file systems have no way to flush a folder, and say so.
@@ -222,7 +198,7 @@ bool reemplaza(const fs::path& destino, const Llenado& llenado, const struct sta
     const auto enSuSitio = [&] {
         return antiguo != nullptr && noHaySitio() && escribeEnSuSitio(destino, llenado, durabilidad);
     };
-    quitaAbandonados(destino);
+    provisionalesDe(destino).quitaAbandonados();
     FicheroProvisional provisional(destino);
     if (!provisional.creado() || (antiguo != nullptr && !provisional.pareceA(*antiguo))) return enSuSitio();
     if (!provisional.llena(llenado, durabilidad)) return false;

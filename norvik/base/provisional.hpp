@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/base/descriptor.hpp"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+
+namespace norvik {
+
+/// Files that stand beside another one while it is being written, and what is left of them when their process
+/// was killed.
+class NombresProvisionales {
+public:
+    /// Their names are the beginning, a number and the end.
+    NombresProvisionales(std::filesystem::path carpeta, std::string_view principio, std::string_view final);
+
+    /// One of them, open for writing alone.
+    struct Fichero {
+        std::filesystem::path nombre;
+        Descriptor descriptor; ///< not open, with the cause in errno, when there is none
+    };
+    Fichero crea(mode_t modo) const;
+    /// Removes those whose process is no more.
+    void quitaAbandonados() const;
+
+private:
+    std::filesystem::path nombre(int numero) const;
+
+    std::filesystem::path carpeta_;
+    std::string principio_;
+    std::string final_;
+};
+
+} // namespace norvik
