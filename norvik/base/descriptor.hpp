@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <fcntl.h>
 #include <string_view>
 #include <unistd.h>
 #include <utility>
@@ -39,6 +40,11 @@ public:
         const bool bien = close(numero_) == 0;
         numero_ = -1;
         return bien;
+    }
+    /// The same, and it stays open: some file systems tell of a write only when its file is closed.
+    bool pruebaCierre() const {
+        Descriptor otro(fcntl(numero_, F_DUPFD_CLOEXEC, 0));
+        return otro.abierto() && otro.cierra();
     }
 
 private:

@@ -77,9 +77,10 @@ private:
 
 std::optional<std::string> enMemoria(const Llenado& llenado) {
     const Descriptor memoria(memfd_create("norvik", MFD_CLOEXEC));
-    if (!memoria.abierto() || !llenado(memoria.numero()) || lseek(memoria.numero(), 0, SEEK_SET) != 0)
-        return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(lseek(memoria.numero(), 0, SEEK_END)), '\0');
+    if (!memoria.abierto() || !llenado(memoria.numero())) return std::nullopt;
+    const off_t largo = lseek(memoria.numero(), 0, SEEK_END);
+    if (largo < 0) return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(largo), '\0');
     const auto leidos =
         sinInterrupcion([&] { return pread(memoria.numero(), bytes.data(), bytes.size(), 0); });
     if (leidos != static_cast<ssize_t>(bytes.size())) return std::nullopt;
@@ -98,17 +99,17 @@ bool escribeEnSuSitio(const fs::path& fichero, const Llenado& llenado, Durabilid
     const auto nuevo = enMemoria(llenado);
     if (!nuevo) return false;
     const std::string antiguo = leeBytes(fichero);
-    Descriptor descriptor(
+    const Descriptor descriptor(
         sinInterrupcion([&] { return open(fichero.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC); }));
     if (!descriptor.abierto()) return false;
     auto copia = Copia::de(fichero, antiguo);
     if (!copia) return false;
-    if (pon(descriptor.numero(), *nuevo, durabilidad) && descriptor.cierra()) {
+    if (pon(descriptor.numero(), *nuevo, durabilidad) && descriptor.pruebaCierre()) {
         for (const NombresProvisionales& nombres : copiasDe(fichero)) nombres.quitaAbandonados();
         return true;
     }
     const int codigo = errno;
-    if (descriptor.abierto() && pon(descriptor.numero(), antiguo, durabilidad)) {
+    if (pon(descriptor.numero(), antiguo, durabilidad)) {
         errno = codigo;
         return false;
     }

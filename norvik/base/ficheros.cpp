@@ -161,15 +161,13 @@ public:
         return fchmod(numero, antiguo.st_mode & 07777U) == 0 && copiaAtributos(destino_, numero);
     }
 
-    // Some file systems tell only who closes it that a file could not be written; it stays open, and locked,
-    // until it has its place.
+    // It stays open, and so locked, until it has its place.
     bool llena(const Llenado& llenado, Durabilidad durabilidad) const {
         const int numero = fichero_.descriptor.numero();
         if (!llenado(numero)) return false;
         if (durabilidad == Durabilidad::EnDisco && sinInterrupcion([&] { return fsync(numero); }) != 0)
             return false;
-        Descriptor otro(fcntl(numero, F_DUPFD_CLOEXEC, 0));
-        return otro.abierto() && otro.cierra();
+        return fichero_.descriptor.pruebaCierre();
     }
 
     bool ocupaSuPuesto() {

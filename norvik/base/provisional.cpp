@@ -42,6 +42,11 @@ bool sigueSiendo(const std::filesystem::path& nombre, const Descriptor& descript
            abierto.st_dev == nombrado.st_dev && abierto.st_ino == nombrado.st_ino;
 }
 
+bool haPerdidoSuNombre(const Descriptor& descriptor) {
+    struct stat abierto {};
+    return fstat(descriptor.numero(), &abierto) == 0 && abierto.st_nlink == 0;
+}
+
 void quitaSiEsDeNadie(const std::filesystem::path& nombre) {
     const Descriptor descriptor(sinInterrupcion(
         [&] { return open(nombre.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
@@ -66,7 +71,7 @@ NombresProvisionales::Fichero NombresProvisionales::crea(mode_t modo) const {
             [&] { return open(candidato.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modo); }));
         if (!descriptor.abierto() && errno != EEXIST) break;
         if (descriptor.abierto() && echaCerrojo(descriptor) != Cerrojo::Ajeno &&
-            sigueSiendo(candidato, descriptor))
+            !haPerdidoSuNombre(descriptor))
             return {candidato, std::move(descriptor)};
     }
     return {{}, Descriptor(-1)};

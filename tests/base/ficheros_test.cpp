@@ -246,14 +246,24 @@ TEST(Ficheros, UnMiembroDelGrupoNoSeLoQuitaALosDemas) {
     }
 }
 
-TEST(Ficheros, LosAtributosSeConservan) {
+TEST(Ficheros, ListasDeAccesoYAtributosSeConservan) {
     const CarpetaTemporal carpeta;
     const fs::path fichero = carpeta.pon("fichero", "antes");
-    if (setxattr(fichero.c_str(), "user.autor", "ana", 3, 0) != 0) GTEST_SKIP() << "no attributes here";
+    // As the system keeps it: owner rw, user 54321 rw, group r, at most rw, others nothing.
+    const std::string lista("\2\0\0\0\1\0\6\0\377\377\377\377\2\0\6\0\x31\xD4\0\0\4\0\4\0\377\377\377\377"
+                            "\x10\0\6\0\377\377\377\377\x20\0\0\0\377\377\377\377",
+                            44);
+    const std::pair<const char*, std::string> filas[] = {{"user.autor", "ana"},
+                                                         {"system.posix_acl_access", lista}};
+    for (const auto& [nombre, valor] : filas)
+        if (setxattr(fichero.c_str(), nombre, valor.data(), valor.size(), 0) != 0)
+            GTEST_SKIP() << "no such attributes here";
     escribeBytes(fichero, "después", Durabilidad::EnDisco);
-    std::string autor(3, '?');
-    EXPECT_EQ(getxattr(fichero.c_str(), "user.autor", autor.data(), autor.size()), 3);
-    EXPECT_EQ(autor, "ana");
+    for (const auto& [nombre, valor] : filas) {
+        std::string ahora(100, '?');
+        const ssize_t largo = getxattr(fichero.c_str(), nombre, ahora.data(), ahora.size());
+        EXPECT_EQ(ahora.substr(0, static_cast<std::size_t>(std::max<ssize_t>(0, largo))), valor) << nombre;
+    }
 }
 
 TEST(Ficheros, UnaTuberiaSeEscribeDirectamente) {
