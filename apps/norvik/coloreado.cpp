@@ -4,6 +4,7 @@
 
 #include "salida.hpp"
 
+#include "norvik/base/html.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <string>
@@ -40,19 +41,23 @@ std::string hexadecimal(std::int32_t color) {
     return resultado;
 }
 
-std::string escapa(std::string_view bytes) {
-    std::string resultado;
-    for (const char c : bytes) {
-        if (c == '&')
-            resultado += "&amp;";
-        else if (c == '<')
-            resultado += "&lt;";
-        else if (c == '>')
-            resultado += "&gt;";
+// Characters that only say in which direction the others are written stay, since the text is to be copied
+// from the page, but act on nothing else there.
+std::string escapa(std::u16string_view texto) {
+    std::u16string resultado;
+    for (const char16_t c : texto) {
+        if (c == u'&')
+            resultado += u"&amp;";
+        else if (c == u'<')
+            resultado += u"&lt;";
+        else if (c == u'>')
+            resultado += u"&gt;";
+        else if (esDeDireccion(c))
+            resultado.append(u"<bdi>").append(1, c).append(u"</bdi>");
         else
-            resultado += c;
+            resultado += visible({&c, 1});
     }
-    return resultado;
+    return aUtf8(resultado);
 }
 
 /// Calls `trozo(texto, color)` for each part of a line in one colour, and `salto()` between lines.
@@ -63,7 +68,7 @@ void recorre(const CajaTextoMemoria& caja, Trozo trozo, Salto salto) {
             caja.texto().substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(longitud));
         while (!tramo.empty()) {
             const std::size_t fin = tramo.find_first_of(saltoDeLinea);
-            if (fin != 0) trozo(visible(tramo.substr(0, fin)), color);
+            if (fin != 0) trozo(tramo.substr(0, fin), color);
             if (fin == std::u16string_view::npos) break;
             if (tramo[fin] == u'\n') salto();
             tramo.remove_prefix(fin + 1);
@@ -77,10 +82,10 @@ std::string ansiDe(const CajaTextoMemoria& caja) {
     std::string salida;
     const auto trozo = [&](std::u16string_view texto, std::int32_t color) {
         if (color == 0) {
-            salida += aUtf8(texto);
+            salida += aUtf8(visible(texto));
             return;
         }
-        salida += "\x1B[38;2;" + decimal(color) + "m" + aUtf8(texto) + "\x1B[39m";
+        salida += "\x1B[38;2;" + decimal(color) + "m" + aUtf8(visible(texto)) + "\x1B[39m";
     };
     recorre(caja, trozo, [&] { salida += '\n'; });
     if (!caja.texto().empty()) salida += '\n';
@@ -89,14 +94,13 @@ std::string ansiDe(const CajaTextoMemoria& caja) {
 
 std::string htmlDe(const CajaTextoMemoria& caja, std::u16string_view titulo) {
     std::string salida =
-        "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
-        escapa(aUtf8(visible(titulo))) +
+        "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escapa(titulo) +
         "</title>\n<style>\n:root { color-scheme: light; }\n"
         "body { background: #fff; color: #000; }\n"
         "pre { font-family: \"Courier New\", monospace; tab-size: 4; }\n"
         "</style>\n</head>\n<body>\n<pre>\n"; // the first line end after <pre> does not count
     const auto trozo = [&](std::u16string_view texto, std::int32_t color) {
-        const std::string contenido = escapa(aUtf8(texto));
+        const std::string contenido = escapa(texto);
         salida += color == 0 ? contenido
                              : "<span style=\"color:#" + hexadecimal(color) + "\">" + contenido + "</span>";
     };

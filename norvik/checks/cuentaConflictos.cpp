@@ -287,7 +287,8 @@ private:
 std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, const OpcionesTabla& opciones,
                                                 const TablaLR& enUso, const LimitesHistorias& limites) {
     std::vector<HistoriaConflicto> historias;
-    if (gramatica.tabla.conflictos().empty()) return historias;
+    // The table of a grammar without rules is still that of the language before it.
+    if (gramatica.automata.estados.empty() || gramatica.tabla.conflictos().empty()) return historias;
     Narrador narrador(gramatica, opciones, enUso, limites);
     for (const Conflicto& conflicto : gramatica.tabla.conflictos())
         historias.push_back(narrador.cuenta(conflicto));

@@ -185,8 +185,18 @@ private:
         }
     }
 
+    // Of states too many and too long to be looked at, items are shown by their numbers.
+    bool sonLegibles() const {
+        constexpr std::size_t muchos = 100'000;
+        std::size_t simbolos = 0;
+        for (const estadoAutomata& e : g_.automata.estados)
+            for (const Item item : e.items()) simbolos += g_.partidas.cuerpo(item.regla).size();
+        return simbolos < muchos;
+    }
+
     void automata() {
         titulo(3);
+        const bool legibles = sonLegibles();
         if (!notas_.dibujo.empty()) pon(u"<div class=\"ancha\">", notas_.dibujo, u"</div>\n");
         for (const estadoAutomata& e : g_.automata.estados) {
             const std::u16string numero = aTexto(e.getNumEstado());
@@ -195,7 +205,7 @@ private:
             if (e.getNumEstado() < 2) itemInicial(e.getNumEstado());
             for (std::size_t i = 0; i < e.items().size(); ++i) {
                 const auto [r, punto] = e.items()[i];
-                pon(u"<li>", regla(r), u". ", cuerpo(r, punto));
+                pon(u"<li>", regla(r), u". ", legibles ? cuerpo(r, punto) : u"• tras " + aTexto(punto));
                 if (e.adyacentes()[i] >= 0)
                     pon(u" ⇒ ", estado(e.adyacentes()[i], u"estado " + aTexto(e.adyacentes()[i])));
                 pon(u"</li>\n");

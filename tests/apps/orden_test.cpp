@@ -121,6 +121,8 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
                                "<span style=\"color:#008000\"># dos</span>\nfin</pre>"),
               std::string::npos)
         << html.salida;
+    EXPECT_NE(sobre("a\u202Eb", {"colorea", "--formato", "html"}).salida.find("a<bdi>\u202E</bdi>b"),
+              std::string::npos);
 }
 
 // Whatever language, text and path hold, a terminal is given line ends, tabulators and visible characters.
@@ -181,6 +183,9 @@ TEST_F(Orden, InformeEscribeElFicheroYDiceLosConflictos) {
     EXPECT_EQ(conflictos.errores.substr(0, 35), "Problemas detectados:\r\n\r\nConflicto ");
     const Resultado enFichero = ejecuta({"informe", ruta("a.nvk"), "-o", carpeta_.ruta()});
     EXPECT_EQ(conflictos.errores, enFichero.salida + enFichero.errores);
+    EXPECT_EQ(
+        ejecuta({"informe", pon("vacia.nvk", ""), "-o", "-", "--formato", "html", "--metodo", "lalr"}).estado,
+        0);
 }
 
 TEST_F(Orden, ElModuloDaLoMismoQueLaEspecificacion) {
