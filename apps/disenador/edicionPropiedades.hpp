@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/ventanaPropiedades.hpp"
 
 #include <QDesignerFormWindowInterface>

@@ -4,8 +4,10 @@
 
 #include "linea.hpp"
 #include "muestraError.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/parser/analizador.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lectorModulo.hpp"

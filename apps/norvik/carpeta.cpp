@@ -5,6 +5,7 @@
 #include "linea.hpp"
 
 #include "norvik/base/causas.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 
 #include <cerrno>

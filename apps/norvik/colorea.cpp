@@ -5,6 +5,7 @@
 #include "anfitrion.hpp"
 #include "coloreado.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 

@@ -6,6 +6,7 @@
 #include "carpeta.hpp"
 #include "graphviz.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/contrasteClasico.hpp"

@@ -7,6 +7,7 @@
 #include "linea.hpp"
 
 #include "ayuda.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 
 #include <norvik/version.hpp>

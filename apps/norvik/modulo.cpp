@@ -5,6 +5,7 @@
 #include "anfitrion.hpp"
 #include "carpeta.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/texto.hpp"
 
 namespace norvik::orden {

@@ -9,6 +9,7 @@
 #include "muestraError.hpp"
 
 #include "norvik/base/causas.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 

@@ -7,6 +7,7 @@
 
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QAbstractScrollArea>
 #include <QDropEvent>

@@ -5,6 +5,7 @@
 #include "rutas.hpp"
 
 #include "norvik/platform/qt/fallos.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 
 #include <algorithm>
 

@@ -9,6 +9,7 @@
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/formatoTexto.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/procesando.hpp"

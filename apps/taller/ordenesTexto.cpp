@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 
+#include "norvik/platform/qt/sistemaQt.hpp"
+
 #include "ordenesTexto.hpp"
 
 #include "rutas.hpp"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+
 #include "portapapeles.hpp"
 
 #include <QCoreApplication>

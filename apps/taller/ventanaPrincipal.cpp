@@ -7,6 +7,8 @@
 #include "rutas.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/control/historial.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/ventanas.hpp"
 

@@ -7,6 +7,8 @@
 #include "norvik/base/escrituraEnSitio.hpp"
 
 #include "norvik/base/causas.hpp"
+#include "norvik/base/codificacion.hpp"
+#include "norvik/base/descriptor.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/provisional.hpp"

@@ -10,6 +10,8 @@
 #include "norvik/base/ficheros.hpp"
 
 #include "norvik/base/causas.hpp"
+#include "norvik/base/codificacion.hpp"
+#include "norvik/base/descriptor.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/escrituraEnSitio.hpp"
 #include "norvik/base/provisional.hpp"
@@ -282,25 +284,27 @@ std::u16string leeTexto(const fs::path& fichero) {
 }
 
 TextoPorTrozos::TextoPorTrozos(const fs::path& fichero)
-    : nombre_(entreComillas(fichero)), descriptor_(abre(fichero)) {
-    if (lseek(descriptor_.numero(), 0, SEEK_SET) != 0) { // a pipe gives its bytes but once
-        entero_ = decodifica(leeTodo(descriptor_.numero(), nombre_));
+    : nombre_(entreComillas(fichero)), descriptor_(new Descriptor(abre(fichero))) {
+    if (lseek(descriptor_->numero(), 0, SEEK_SET) != 0) { // a pipe gives its bytes but once
+        entero_ = decodifica(leeTodo(descriptor_->numero(), nombre_));
         return;
     }
     struct stat estado {};
-    if (fstat(descriptor_.numero(), &estado) == 0 && S_ISREG(estado.st_mode))
+    if (fstat(descriptor_->numero(), &estado) == 0 && S_ISREG(estado.st_mode))
         compruebaTamanio(static_cast<std::size_t>(estado.st_size), nombre_);
     for (std::string trozo = bytes(); esUtf8_ && !trozo.empty(); trozo = bytes()) esUtf8_ = esUtf8(trozo);
-    lseek(descriptor_.numero(), 0, SEEK_SET);
+    lseek(descriptor_->numero(), 0, SEEK_SET);
     resto_.clear();
     leidos_ = 0;
 }
+
+TextoPorTrozos::~TextoPorTrozos() = default;
 
 // Up to the last byte that is a character by itself in every encoding, so that none is cut.
 std::string TextoPorTrozos::bytes() {
     const auto esAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     std::string trozo = std::exchange(resto_, {});
-    while (leeMas(descriptor_.numero(), nombre_, trozo)) {
+    while (leeMas(descriptor_->numero(), nombre_, trozo)) {
         const auto fin = std::find_if(trozo.rbegin(), trozo.rend(), esAscii).base();
         compruebaTamanio(leidos_ + trozo.size(), nombre_);
         if (fin == trozo.begin()) continue;

@@ -3,16 +3,17 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
-#include "norvik/base/codificacion.hpp"
-#include "norvik/base/descriptor.hpp"
 
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace norvik {
+
+class Descriptor;
 
 /// Un fichero mayor se rechaza: ningún texto de ese tamaño se puede editar, y uno sin fin no debe llenar la
 /// memoria.
@@ -36,13 +37,16 @@ using OrigenDeTexto = std::function<std::u16string()>;
 class NORVIK_API TextoPorTrozos {
 public:
     explicit TextoPorTrozos(const std::filesystem::path& fichero);
+    TextoPorTrozos(const TextoPorTrozos&) = delete;
+    TextoPorTrozos& operator=(const TextoPorTrozos&) = delete;
+    ~TextoPorTrozos();
     std::u16string siguiente();
 
 private:
     std::string bytes();
 
     std::u16string nombre_; ///< para los mensajes
-    Descriptor descriptor_;
+    const std::unique_ptr<Descriptor> descriptor_;
     std::string resto_;      ///< bytes leídos y no dados aún
     std::size_t leidos_ = 0; ///< bytes dados
     bool esUtf8_ = true;

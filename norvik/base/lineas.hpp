@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
-
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -12,7 +10,7 @@ namespace norvik {
 
 /// Where the lines of a text start. Positions and lines are 0-based; a line break is CR LF, CR or LF and
 /// belongs to the line that it ends. A text has one line at least.
-class NORVIK_API IndiceLineas {
+class IndiceLineas {
 public:
     void reconstruye(std::u16string_view texto);
     /// Line of the character at a position; a position beyond the text is on the last line, one before it

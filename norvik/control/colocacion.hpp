@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/prestado.hpp"
@@ -11,7 +10,7 @@
 namespace norvik {
 
 /// Lays the control out by its options, and moves the text box out of view while it is worked on.
-class NORVIK_API Colocacion {
+class Colocacion {
 public:
     Colocacion(const Prestado<CajaTexto>& caja, const Opciones& opciones,
                const Prestado<Contenedor>& contenedor)

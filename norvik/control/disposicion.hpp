@@ -2,12 +2,14 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <optional>
 
 namespace norvik {
 
-// Where the child elements of the control stand inside its rectangle. All lengths in twips.
+/// Dónde están los elementos de un control dentro de su rectángulo. Todas las longitudes, en twips.
 
 struct Rectangulo {
     std::int32_t x = 0;
@@ -18,7 +20,7 @@ struct Rectangulo {
     bool operator==(const Rectangulo&) const = default;
 };
 
-/// A horizontal or vertical line of one pixel, its last point not included.
+/// Una línea horizontal o vertical de un píxel, sin su último punto.
 struct Linea {
     std::int32_t x1 = 0;
     std::int32_t y1 = 0;
@@ -28,24 +30,24 @@ struct Linea {
     bool operator==(const Linea&) const = default;
 };
 
-/// What the layout depends on.
+/// De qué depende la disposición.
 struct Superficie {
     std::int32_t ancho = 0;
     std::int32_t alto = 0;
-    std::int32_t pixelX = 15; ///< width and height of a pixel
+    std::int32_t pixelX = 15; ///< ancho y alto de un píxel
     std::int32_t pixelY = 15;
     bool borde3D = true;
     bool leftBorderVisible = true;
     std::int16_t margenIzquierdo = 150;
 };
 
-/// The places of the elements, by their names.
+/// Los sitios de los elementos, por sus nombres.
 struct Disposicion {
     Linea separador;
     Rectangulo bordeNegro;
     Rectangulo debugBox;
     Rectangulo texto;
-    std::optional<Rectangulo> controlSpace; ///< from the top of the gap down; nothing when it is hidden
+    std::optional<Rectangulo> controlSpace; ///< desde lo alto del hueco; nada cuando no se ve
     Linea bordeClaro1;
     Linea bordeClaro2;
     Linea bordeOscuro1;
@@ -53,17 +55,19 @@ struct Disposicion {
     Rectangulo bordeClaroBase;
 };
 
-/// Nothing for a control that is too small to be laid out: it keeps the layout that it has.
-std::optional<Disposicion> disponeElementos(const Superficie& superficie);
-/// The text box's left edge.
-std::int32_t izquierdaDelTexto(const Superficie& superficie);
-/// The left edge that moves the text box out of view.
-std::int32_t izquierdaFueraDeLaVista(const Superficie& superficie);
-/// Place of a sign beside a line (1-based) on the left border.
+/// Nada con un control demasiado pequeño, que se queda con la disposición que tenga.
+NORVIK_API std::optional<Disposicion> disponeElementos(const Superficie& superficie);
+/// El borde izquierdo de la caja de texto.
+NORVIK_API std::int32_t izquierdaDelTexto(const Superficie& superficie);
+/// El borde izquierdo que saca la caja de texto de la vista.
+NORVIK_API std::int32_t izquierdaFueraDeLaVista(const Superficie& superficie);
+/// El sitio de una señal en el borde izquierdo.
 struct LugarDeSigno {
     std::int32_t x = 0;
     std::int32_t y = 0;
 };
-LugarDeSigno lugarDeSigno(std::int32_t linea, std::int32_t primeraLineaVisible, std::int32_t altoDeLinea);
+/// El de una señal junto a una línea, que cuenta desde 1.
+NORVIK_API LugarDeSigno lugarDeSigno(std::int32_t linea, std::int32_t primeraLineaVisible,
+                                     std::int32_t altoDeLinea);
 
 } // namespace norvik

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/lineasEditadas.hpp"
@@ -18,7 +17,7 @@ namespace norvik {
 
 /// What happens in the text box, and what of it reaches the host: its lines are told, each change is
 /// recorded, new lines are indented.
-class NORVIK_API Edicion {
+class Edicion {
 public:
     Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, LineasEditadas& lineas,
             Historial& historial, EventosControl& eventos)

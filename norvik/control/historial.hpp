@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/control/instantaneas.hpp"
 #include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/pasosFirmes.hpp"
@@ -17,7 +16,7 @@ namespace norvik {
 
 /// Undo and redo of the text box's changes. What a failure interrupts on the way is finished before the
 /// failure is raised, so that the lists agree with the text.
-class NORVIK_API Historial {
+class Historial {
 public:
     Historial(const Prestado<CajaTexto>& caja, LineasEditadas& lineas) : caja_(caja), lineas_(lineas) {}
 

@@ -6,7 +6,10 @@
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/control/lineasTexto.hpp"
+#include "norvik/control/partesControl.hpp"
+#include "norvik/parser/lectorTokens.hpp"
 
 namespace norvik {
 

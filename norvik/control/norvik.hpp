@@ -5,10 +5,9 @@
 #include "norvik/base/api.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
 #include "norvik/control/contenedor.hpp"
-#include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/opciones.hpp"
-#include "norvik/control/partesControl.hpp"
+#include "norvik/control/signosDelBorde.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/lexer/parLT.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
@@ -28,6 +27,10 @@
 #include <string_view>
 
 namespace norvik {
+
+class Historial;
+class PartesControl;
+struct DestinoBusqueda;
 
 /// El control: un editor que conoce el lenguaje que se le ha cargado. La caja de texto, los servicios de su
 /// entorno y, si tiene ventanas, lo que lo contiene los pone el anfitrión, y le sobreviven. Es de un solo
@@ -152,8 +155,8 @@ public:
     bool ConstruyeArbolSintacticoTextoInvisible();
     /// El texto invisible, que se lee y analiza sin enseñarlo; al principio y tras `CargaGramatica` está
     /// vacío. La vista vale hasta que cambie.
-    std::u16string_view GetTextoInvisible() const { return partes_->lector.textoInvisible().texto(); }
-    void SetTextoInvisible(std::u16string_view texto) { partes_->lector.textoInvisible().ponTexto(texto); }
+    std::u16string_view GetTextoInvisible() const;
+    void SetTextoInvisible(std::u16string_view texto);
     /// La raíz del árbol del último análisis, sin hijos cuando no se aceptó. Es el mismo nodo mientras viva
     /// el control; el análisis siguiente sustituye lo que cuelga de ella. Un nodo que se conservara pasa a
     /// leerse como recién inicializado (véase `Arbol`): quien quiera conservar un árbol use `analiza`.
@@ -164,7 +167,7 @@ public:
     const std::u16string& GetmensajeError() const;
     /// El error del último análisis como valor: su rango exacto en el texto, en unidades UTF-16, y los tokens
     /// que caben ahí de verdad. Nada si el texto se aceptó. Vale hasta el análisis siguiente.
-    const std::optional<Diagnostico>& GetDiagnostico() const { return partes_->conductor.diagnostico(); }
+    const std::optional<Diagnostico>& GetDiagnostico() const;
     /// Recibe un texto, no hace nada y da uno vacío.
     std::u16string EjecutaCodigo(std::u16string_view codigoAEjecutar);
 
@@ -223,11 +226,11 @@ public:
     /// @{
 
     /// La línea del cursor; lanza `Desbordamiento` desde la 32 768.
-    std::int16_t LineaActual() const { return partes_->edicion.lineaActual(); }
+    std::int16_t LineaActual() const;
     /// La columna del cursor, desde 1, en caracteres.
-    std::int32_t ColumnaActual() const { return partes_->edicion.columnaActual(); }
+    std::int32_t ColumnaActual() const;
     /// Cuántas había en el último cambio del texto.
-    std::int32_t TotalLineas() const { return partes_->lineas.numLineas(); }
+    std::int32_t TotalLineas() const;
     /// Una línea sin su salto; de un texto vacío, un texto vacío. Lanza `ArgumentoNoValido` si no hay tal
     /// línea.
     std::u16string ContenidoLinea(std::int16_t numLinea) const;
@@ -242,12 +245,12 @@ public:
 
     /// Olvida todos los cambios; el siguiente es el punto de partida, que no se deshace. Lanza
     /// `Desbordamiento`, después de hacerlo, si eran más de 32 767.
-    void InicializaUndosYRedos() { vivo()->historial.InicializaUndosYRedos(); }
+    void InicializaUndosYRedos();
     /// Deshace lo último que se escribió o borró. De un cambio que quitó y puso a la vez, o de un `Text(…)`,
     /// solo la diferencia de longitud; los del diálogo de reemplazar, enteros.
-    void Undo() { vivo()->historial.Undo(); }
+    void Undo();
     /// Rehace el último cambio deshecho.
-    void Redo() { vivo()->historial.Redo(); }
+    void Redo();
 
     /// @}
 
@@ -289,10 +292,10 @@ public:
     /// Pone las propiedades de una bolsa; las que le faltan, a su valor por omisión, y el texto de la caja al
     /// suyo, vacío si no lo tiene. Lanza `NoCoincidenLosTipos` o `Desbordamiento` con el primer valor que no
     /// es de su propiedad; las anteriores quedan puestas.
-    void restauraPropiedades(const BolsaPropiedades& bolsa) { vivo()->propiedades.restaura(bolsa); }
+    void restauraPropiedades(const BolsaPropiedades& bolsa);
     /// Escribe en una bolsa las que no tienen su valor por omisión, menos el texto de la caja y
     /// `LeftBorderVisible`.
-    void guardaPropiedades(BolsaPropiedades& bolsa) const { partes_->propiedades.guarda(bolsa); }
+    void guardaPropiedades(BolsaPropiedades& bolsa) const;
     /// Leerla copia `ContenidoG` y `CodigoPrueba` en las ranuras comunes del proceso, ponerla los toma de
     /// ellas.
     std::any editCode() const;
@@ -302,9 +305,9 @@ public:
                        std::u16string_view traduccion, std::u16string_view condicion = {},
                        std::u16string_view atributosDerivados = {});
     /// Pide al contenedor su ventana «Acerca de».
-    void Acerca() { partes_->contenedor->muestraAcerca(); }
+    void Acerca();
     /// Pide al contenedor la ventana con el informe de la gramática y del analizador léxico.
-    void MuestraInforme() { partes_->contenedor->muestraInforme(); }
+    void MuestraInforme();
 
     /// @}
 
@@ -312,13 +315,13 @@ public:
     /// @{
 
     /// El control tiene otro tamaño.
-    void redimensiona() { partes_->colocacion.colocaControles(); }
+    void redimensiona();
     /// La tecla de tabulación sacó el foco de la caja: escribe los espacios y lo devuelve.
-    void tabuladorEnfocado() { vivo()->edicion.tabula(); }
+    void tabuladorEnfocado();
     /// Se pulsó en la superficie del control, fuera de la caja.
     void clickEnSuperficie();
     /// Las opciones, juntas.
-    const Opciones& opciones() const { return partes_->opciones; }
+    const Opciones& opciones() const;
 
     /// @}
 
@@ -331,7 +334,7 @@ public:
     /// Otro texto, sin colorear y con el cursor al principio; un CR o LF solo se convierte en CR LF. Es un
     /// cambio del historial. Uno igual no hace nada. Con `Colorear`, uno largo puede lanzar como
     /// `ColoreaTodo`, ya puesto.
-    void Text(std::u16string_view texto) { vivo()->propiedades.ponText(texto); }
+    void Text(std::u16string_view texto);
     /// El texto seleccionado; ponerlo reemplaza la selección, y el cursor queda detrás.
     std::u16string SelText() const;
     void SelText(std::u16string_view texto);
@@ -342,14 +345,14 @@ public:
     std::int16_t SelLength() const;
     void SelLength(std::int16_t longitud);
     /// Fuente de la selección.
-    std::u16string SelFontName() const { return partes_->caja->nombreFuenteSeleccion(); }
+    std::u16string SelFontName() const;
     void SelFontName(std::u16string_view nombre);
     /// Tamaño de la fuente de la selección, en puntos.
     std::int16_t SelFontSize() const;
     void SelFontSize(std::int16_t puntos);
     /// La fuente de todo el texto que no tiene una propia.
-    const Fuente& Font() const { return partes_->caja->fuente(); }
-    void Font(const Fuente& fuente) { vivo()->propiedades.ponFont(fuente); }
+    const Fuente& Font() const;
+    void Font(const Fuente& fuente);
     /// Si el texto se ha editado desde que se puso o se quitó la marca.
     bool TextoModificado() const;
     /// Falso quita la marca, verdadero no hace nada.
@@ -360,37 +363,33 @@ public:
     /// @name Opciones
     /// Las explica `Opciones`.
     /// @{
-    bool Borde3D() const { return partes_->opciones.borde3D; }
-    void Borde3D(bool valor) { vivo()->propiedades.ponBorde3D(valor); }
-    bool LeftBorderVisible() const { return partes_->opciones.leftBorderVisible; }
-    void LeftBorderVisible(bool valor) { vivo()->propiedades.ponLeftBorderVisible(valor); }
-    std::int16_t MargenIzquierdo() const { return partes_->opciones.margenIzquierdo; }
-    void MargenIzquierdo(std::int16_t twips) { vivo()->propiedades.ponMargenIzquierdo(twips); }
-    bool HideSelection() const { return partes_->opciones.hideSelection; }
-    void HideSelection(bool valor) { vivo()->propiedades.ponHideSelection(valor); }
-    bool LenguajeSensible() const { return partes_->opciones.lenguajeSensible; }
-    void LenguajeSensible(bool valor) { pon(partes_->opciones.lenguajeSensible, valor, u"LenguajeSensible"); }
-    bool AutoCorreccion() const { return partes_->opciones.autoCorreccion; }
-    void AutoCorreccion(bool valor) { pon(partes_->opciones.autoCorreccion, valor, u"AutoCorreccion"); }
-    std::int16_t EspaciosXTAB() const { return partes_->opciones.espaciosXTAB; }
-    void EspaciosXTAB(std::int16_t cuantos) { pon(partes_->opciones.espaciosXTAB, cuantos, u"EspaciosXTAB"); }
-    bool AutoTAB() const { return partes_->opciones.autoTAB; }
-    void AutoTAB(bool valor) { pon(partes_->opciones.autoTAB, valor, u"AutoTAB"); }
-    bool MarcarErrores() const { return partes_->opciones.marcarErrores; }
-    void MarcarErrores(bool valor) { pon(partes_->opciones.marcarErrores, valor, u"MarcarErrores"); }
-    bool MuestraMensajesDeError() const { return partes_->opciones.muestraMensajesDeError; }
-    void MuestraMensajesDeError(bool valor) {
-        pon(partes_->opciones.muestraMensajesDeError, valor, u"MuestraMensajesDeError");
-    }
-    bool Colorear() const { return partes_->opciones.colorear; }
-    void Colorear(bool valor) { pon(partes_->opciones.colorear, valor, u"Colorear"); }
-    const std::u16string& NomLenguaje() const { return partes_->opciones.nombreLenguaje; }
-    void NomLenguaje(std::u16string_view nombre) {
-        pon(partes_->opciones.nombreLenguaje, nombre, u"NombreLenguaje");
-    }
+    bool Borde3D() const;
+    void Borde3D(bool valor);
+    bool LeftBorderVisible() const;
+    void LeftBorderVisible(bool valor);
+    std::int16_t MargenIzquierdo() const;
+    void MargenIzquierdo(std::int16_t twips);
+    bool HideSelection() const;
+    void HideSelection(bool valor);
+    bool LenguajeSensible() const;
+    void LenguajeSensible(bool valor);
+    bool AutoCorreccion() const;
+    void AutoCorreccion(bool valor);
+    std::int16_t EspaciosXTAB() const;
+    void EspaciosXTAB(std::int16_t cuantos);
+    bool AutoTAB() const;
+    void AutoTAB(bool valor);
+    bool MarcarErrores() const;
+    void MarcarErrores(bool valor);
+    bool MuestraMensajesDeError() const;
+    void MuestraMensajesDeError(bool valor);
+    bool Colorear() const;
+    void Colorear(bool valor);
+    const std::u16string& NomLenguaje() const;
+    void NomLenguaje(std::u16string_view nombre);
     /// Se guarda y no tiene otro efecto.
-    bool AutoNumero() const { return partes_->lexico.autoNumber; }
-    void AutoNumero(bool valor) { pon(partes_->lexico.autoNumber, valor, u"AutoNumero"); }
+    bool AutoNumero() const;
+    void AutoNumero(bool valor);
 
     /// @}
 
@@ -398,44 +397,36 @@ public:
     /// @{
 
     /// La especificación del lenguaje en que se trabaja.
-    const std::u16string& ContenidoG() const { return partes_->opciones.contenidoG; }
-    void ContenidoG(std::u16string_view especificacion) {
-        pon(partes_->opciones.contenidoG, especificacion, u"ContenidoG");
-    }
+    const std::u16string& ContenidoG() const;
+    void ContenidoG(std::u16string_view especificacion);
     /// El texto para probarla.
-    const std::u16string& CodigoPrueba() const { return partes_->opciones.codigoPrueba; }
-    void CodigoPrueba(std::u16string_view texto) {
-        pon(partes_->opciones.codigoPrueba, texto, u"CodigoPrueba");
-    }
+    const std::u16string& CodigoPrueba() const;
+    void CodigoPrueba(std::u16string_view texto);
 
     /// @}
 
     /// @name Colores de las clases de tokens, 0x00BBGGRR
     /// Una definición toma el de su clase al registrarse: se ponen antes de cargar el lenguaje.
     /// @{
-    std::int32_t ColorPR() const { return partes_->lexico.colorPalabrasReservadas; }
-    void ColorPR(std::int32_t color) { pon(partes_->lexico.colorPalabrasReservadas, color, u"ColorPR"); }
-    std::int32_t ColorOperadores() const { return partes_->lexico.ColorOperadores; }
-    void ColorOperadores(std::int32_t color) {
-        pon(partes_->lexico.ColorOperadores, color, u"ColorOperadores");
-    }
-    std::int32_t ColorComentarios() const { return partes_->lexico.ColorComentarios; }
-    void ColorComentarios(std::int32_t color) {
-        pon(partes_->lexico.ColorComentarios, color, u"ColorComentarios");
-    }
-    std::int32_t ColorEtiquetas() const { return partes_->lexico.ColorEtiquetas; }
-    void ColorEtiquetas(std::int32_t color) { pon(partes_->lexico.ColorEtiquetas, color, u"ColorEtiquetas"); }
-    std::int32_t ColorNumeros() const { return partes_->lexico.ColorNumeros; }
-    void ColorNumeros(std::int32_t color) { pon(partes_->lexico.ColorNumeros, color, u"ColorNumeros"); }
+    std::int32_t ColorPR() const;
+    void ColorPR(std::int32_t color);
+    std::int32_t ColorOperadores() const;
+    void ColorOperadores(std::int32_t color);
+    std::int32_t ColorComentarios() const;
+    void ColorComentarios(std::int32_t color);
+    std::int32_t ColorEtiquetas() const;
+    void ColorEtiquetas(std::int32_t color);
+    std::int32_t ColorNumeros() const;
+    void ColorNumeros(std::int32_t color);
     /// Se lee en cada marca.
-    std::int32_t ColorError() const { return partes_->lexico.ColorError; }
-    void ColorError(std::int32_t color) { pon(partes_->lexico.ColorError, color, u"ColorError"); }
-    std::int32_t ColorCadena() const { return partes_->lexico.ColorCadena; }
-    void ColorCadena(std::int32_t color) { pon(partes_->lexico.ColorCadena, color, u"ColorCadena"); }
-    std::int32_t ColorCaracter() const { return partes_->lexico.ColorCaracter; }
-    void ColorCaracter(std::int32_t color) { pon(partes_->lexico.ColorCaracter, color, u"ColorCaracter"); }
-    std::int32_t ColorFechas() const { return partes_->lexico.ColorFechas; }
-    void ColorFechas(std::int32_t color) { pon(partes_->lexico.ColorFechas, color, u"ColorFechas"); }
+    std::int32_t ColorError() const;
+    void ColorError(std::int32_t color);
+    std::int32_t ColorCadena() const;
+    void ColorCadena(std::int32_t color);
+    std::int32_t ColorCaracter() const;
+    void ColorCaracter(std::int32_t color);
+    std::int32_t ColorFechas() const;
+    void ColorFechas(std::int32_t color);
 
     /// @}
 
@@ -444,12 +435,12 @@ public:
     /// @{
 
     /// Las reglas, los conjuntos, el autómata y la tabla, con los que se escriben informes y módulos.
-    gramatica& Gramatica() { return partes_->laGramatica; }
+    gramatica& Gramatica();
     /// Las definiciones de tokens.
-    pilaTokens& Lexico() { return partes_->lexico; }
+    pilaTokens& Lexico();
     /// Las señales del borde izquierdo, por su número.
-    const SignosDelBorde::PorIndice& signos() const { return partes_->signos.signos(); }
-    const Historial& historial() const { return partes_->historial; }
+    const SignosDelBorde::PorIndice& signos() const;
+    const Historial& historial() const;
 
     /// @}
 
@@ -457,9 +448,7 @@ private:
     /// What is called on it goes on whole, whoever deletes the control meanwhile.
     std::shared_ptr<PartesControl> vivo() const { return partes_; }
     template <typename Tipo, typename Valor>
-    void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
-        vivo()->propiedades.pon(campo, valor, nombre);
-    }
+    void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre);
 };
 
 } // namespace norvik

@@ -7,6 +7,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/partesControl.hpp"
 
 namespace norvik {
 

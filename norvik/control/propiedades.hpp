@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/contenedor.hpp"
@@ -18,7 +17,7 @@ namespace norvik {
 
 /// The option properties: what setting one does besides, their values in a new control, and how they are
 /// saved.
-class NORVIK_API Propiedades {
+class Propiedades {
 public:
     Propiedades(Opciones& opciones, pilaTokens& lexico, const Prestado<CajaTexto>& caja,
                 Colocacion& colocacion, const Prestado<Contenedor>& contenedor)

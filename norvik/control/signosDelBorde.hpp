@@ -2,28 +2,31 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstdint>
 #include <map>
 
 namespace norvik {
 
-/// A sign of the left border.
+/// Una señal del borde izquierdo.
 struct signoDebuger {
     static constexpr std::int16_t error = 1;
 
-    std::int16_t indice = 0; ///< number of the image that shows it
+    std::int16_t indice = 0; ///< número de la imagen que la enseña
     std::int16_t tipoSigno = error;
-    std::int16_t lineaAfectada = 0; ///< 1-based
+    std::int16_t lineaAfectada = 0; ///< desde 1
 
     bool operator==(const signoDebuger&) const = default;
 };
 
-/// The signs of the left border, which are only ever added.
-class SignosDelBorde {
+/// Las señales del borde izquierdo: se ponen y no se quitan.
+class NORVIK_API SignosDelBorde {
 public:
     using PorIndice = std::map<std::int16_t, signoDebuger>;
 
-    /// Adds an error sign under the first free number from 2 on. Raises `Desbordamiento` when none is left.
+    /// Añade una señal de error con el primer número libre desde el 2. Lanza `Desbordamiento` cuando no queda
+    /// ninguno.
     const signoDebuger& ponSigno(std::int16_t linea);
     const PorIndice& signos() const { return signos_; }
 

@@ -6,7 +6,7 @@
 
 namespace norvik {
 
-/// An entry of an SLR table, with its 1-based row and column.
+/// Una entrada de una tabla SLR, con su fila y su columna desde 1.
 struct CeldaSLR {
     std::int16_t fila = 0;
     std::int16_t columna = 0;

@@ -75,6 +75,10 @@ void conjunto::indexa(std::size_t ranuras) {
         ranuras_[ranuraDe(elementos_[i])] = static_cast<std::uint32_t>(i + 1);
 }
 
+std::int16_t conjunto::totalElementos() const {
+    return a16(elementos_.size());
+}
+
 void conjunto::insertar(const Valor& valor) {
     if (buscaValor(valor) != 0) return;
     constexpr std::size_t minimo = 16;

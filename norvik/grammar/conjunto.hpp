@@ -3,7 +3,6 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
-#include "norvik/base/numeros.hpp"
 
 #include <cstdint>
 #include <string>
@@ -13,8 +12,8 @@
 
 namespace norvik {
 
-/// An ordered set of symbols or rule indexes; members keep the order of their first insertion.
-/// Look-ups take constant time; removals rebuild the index.
+/// Un conjunto de símbolos o de números de regla, en el orden en que se insertaron por primera vez. Buscar
+/// cuesta lo mismo con cualquier tamaño; quitar cuesta lo que el conjunto mide.
 class NORVIK_API conjunto {
 public:
     using Valor = std::variant<std::u16string, std::int16_t>;
@@ -30,23 +29,23 @@ public:
 
     void aniadeElementosConjunto(const conjunto& otro);
     void borrar(const Valor& valor);
-    /// Forgets the members and the name.
+    /// Olvida los elementos y el nombre.
     void borrarTodo();
     bool contieneCadenaVacia() const;
-    /// Member at a 1-based position; raises `IndiceNoValido`.
+    /// El elemento de un lugar, desde 1; lanza `IndiceNoValido`.
     const Valor& elementoAt(std::int16_t posicion) const;
-    /// The same member as a symbol; raises `NoCoincidenLosTipos` for a number.
+    /// Lo mismo como símbolo; lanza `NoCoincidenLosTipos` con un número.
     std::u16string_view simboloAt(std::int16_t posicion) const;
     void eliminaCadenaVacia();
     bool esVacio() const;
     void insertar(const Valor& valor);
     bool perteneceA(const Valor& valor) const;
-    /// 1-based position of a symbol, 0 when it is no member.
+    /// Lugar de un símbolo, desde 1; 0 si no está.
     std::int16_t posicion(std::u16string_view simbolo) const;
-    /// The members joined by ", ", without braces.
+    /// Los elementos con «, » entre ellos, sin llaves.
     std::u16string toStringConjunto() const;
-    /// Raises `Desbordamiento` beyond 32 767 members.
-    std::int16_t totalElementos() const { return a16(elementos_.size()); }
+    /// Lanza `Desbordamiento` con más de 32 767.
+    std::int16_t totalElementos() const;
 
 private:
     template <typename Clave>

@@ -5,15 +5,14 @@
 #include "norvik/base/api.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
-#include "norvik/grammar/clasico/conjuntos.hpp"
 #include "norvik/grammar/conjunto.hpp"
 #include "norvik/grammar/estadoAutomata.hpp"
-#include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/grammar/opcionesTabla.hpp"
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <span>
@@ -23,8 +22,14 @@
 #include <utility>
 #include <vector>
 
+namespace norvik::clasico {
+struct Pendientes;
+}
+
 namespace norvik {
 
+struct GramaticaLR;
+class ReglasPartidas;
 class pilaTokens;
 class Sistema;
 
@@ -38,15 +43,15 @@ class Sistema;
 /// ninguno llama a lo demás.
 class NORVIK_API gramatica {
 public:
-    static constexpr std::int16_t aceptar = TablaLR::aceptar;    ///< la entrada de la tabla que acepta
-    static constexpr std::int16_t maximoReglas = Reglas::maximo; ///< mil
+    static constexpr std::int16_t aceptar = 1000;      ///< la entrada de la tabla que acepta
+    static constexpr std::int16_t maximoReglas = 1000; ///< mil
 
     /// Sin reglas ni tabla.
-    gramatica() { inicializaGramatica(); }
+    gramatica();
     // Views into the rules, and references to the sets, are handed out and kept.
     gramatica(const gramatica&) = delete;
     gramatica& operator=(const gramatica&) = delete;
-    ~gramatica() = default;
+    ~gramatica();
 
     /// Con qué método se hacen conjuntos, autómata y tabla; no cambia los que ya estén hechos. El clásico,
     /// mientras no se ponga otro; `inicializaGramatica` vuelve a él.
@@ -57,7 +62,7 @@ public:
     void ponPrecedencias(Precedencias precedencias) { opciones_.precedencias = std::move(precedencias); }
 
     /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
-    const GramaticaLR& valores() const { return valores_; }
+    const GramaticaLR& valores() const { return *valores_; }
 
     /// Con lo que se deja a medias `creaAutomata`, que lanza entonces `OperacionCancelada`.
     std::stop_token cancelacion;
@@ -86,9 +91,7 @@ public:
     /// Cuántas hay.
     std::int16_t getNumReglas() const;
     /// Cuántos símbolos tiene el cuerpo; una Ø al final no cuenta.
-    std::int16_t GetNumElementosRegla(std::int16_t regla) const {
-        return valores_.reglas.en(regla).elementos;
-    }
+    std::int16_t GetNumElementosRegla(std::int16_t regla) const;
     /// El símbolo de un lugar del cuerpo, desde 0; delante del primero da el primero y detrás del último, el
     /// último.
     std::u16string GetElementoRegla(std::int16_t regla, std::int16_t posicion) const;
@@ -97,27 +100,21 @@ public:
     /// Columna de un token, desde 0 («EOF» es «$»); -1 si no la tiene.
     std::int16_t GetCodigoToken(std::u16string_view token) const;
     /// Columna de la cabeza de una regla, desde 0; -1 si no la tiene.
-    std::int16_t GetCodigoVariable(std::int16_t regla) const {
-        return valores_.tabla.codigo(valores_.reglas.en(regla).cabeza);
-    }
+    std::int16_t GetCodigoVariable(std::int16_t regla) const;
     /// Un texto vacío si toda variable de un cuerpo tiene una regla; si no, el mensaje que lo dice.
     std::u16string chequeaGramatica() const;
     /// Posición de un símbolo en el texto de un cuerpo, desde 1; 0 si no está. El último de un cuerpo no se
     /// encuentra cuando otro anterior, que no sea el primero, empieza igual.
-    static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo) {
-        return norvik::estaEnRegla(cuerpo, simbolo);
-    }
+    static std::int16_t estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo);
     /// Un cuerpo con un punto delante del símbolo de un lugar, desde 0.
-    static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto) {
-        return norvik::dameReglaString(cuerpo, punto);
-    }
+    static std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto);
 
     /// Es otro número cada vez que pueden haber cambiado las reglas, los símbolos o la tabla.
     std::uint64_t edicion() const { return edicion_; }
     /// Los tokens, las variables y todos los símbolos de la tabla, en el orden de sus columnas.
-    const conjunto& terminales() const { return valores_.tabla.simbolos().terminales; }
-    const conjunto& variables() const { return valores_.tabla.simbolos().variables; }
-    const conjunto& simbolos() const { return valores_.tabla.simbolos().todos; }
+    const conjunto& terminales() const;
+    const conjunto& variables() const;
+    const conjunto& simbolos() const;
 
     /// @}
 
@@ -174,7 +171,7 @@ public:
     /// El símbolo que sigue al punto de un elemento, que cuenta desde 1.
     std::u16string dameSimboloSiguiente(const estadoAutomata& estado, std::int16_t item) const;
     /// Los estados, en su orden; la referencia vale hasta que el autómata cambie.
-    const std::vector<estadoAutomata>& estadosAutomata() const { return valores_.automata.estados; }
+    const std::vector<estadoAutomata>& estadosAutomata() const;
 
     /// @}
 
@@ -186,14 +183,10 @@ public:
     void creaTablaSLR();
     /// Una entrada: 0 es error, 1000 aceptar, n > 0 desplazar al estado n y n < 0 reducir por la regla -n.
     /// Estado y columna desde 0; lanza `SubindiceFueraDeIntervalo`.
-    std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const {
-        return valores_.tabla.entrada(estado, columna);
-    }
+    std::int16_t GetElementoTablaSLR(std::int16_t estado, std::int16_t columna) const;
     /// Las entradas guardadas de un estado, desde 0, por columna; las que falten las da
     /// `GetElementoTablaSLR`.
-    std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const {
-        return valores_.tabla.fila(estado);
-    }
+    std::span<const std::int16_t> GetFilaTablaSLR(std::int16_t estado) const;
     /// Una tabla nueva, toda de ceros y sin conflictos. Lanza `SubindiceFueraDeIntervalo` con números
     /// negativos.
     void SetDimensionTablaSLR(std::int16_t filas, std::int16_t columnas);
@@ -203,13 +196,11 @@ public:
     /// Pone muchas, hasta la primera que lanzaría; da cuántas ha puesto.
     std::size_t SetElementosTablaSLR(std::span<const CeldaSLR> celdas);
     /// Filas y columnas que tiene.
-    std::int16_t GetDimensionFilasSLR() const { return valores_.tabla.celdas().filas(); }
-    std::int16_t GetDimensionColumnasSLR() const { return valores_.tabla.celdas().columnas(); }
+    std::int16_t GetDimensionFilasSLR() const;
+    std::int16_t GetDimensionColumnasSLR() const;
     /// La regla que perdió el conflicto de una celda (fila y columna desde 1); 0 si no lo hubo o la tabla se
     /// cargó.
-    std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const {
-        return valores_.tabla.conflicto(fila, columna);
-    }
+    std::int16_t conflicto(std::int16_t fila, std::int16_t columna) const;
     /// Los tokens que caben en un estado, desde 0, como los nombra el analizador léxico.
     std::u16string toStringEsperados(std::int16_t estado, const pilaTokens& lexico) const;
 
@@ -230,17 +221,13 @@ public:
     /// la tabla (desde 1).
     std::u16string textoInformeGeneral() const;
     std::u16string textoAutomata() const;
-    std::u16string_view encabezadoColumna(std::int16_t columna) const {
-        return valores_.tabla.simbolo(columna);
-    }
+    std::u16string_view encabezadoColumna(std::int16_t columna) const;
     std::u16string celdaTabla(std::int16_t fila, std::int16_t columna) const;
     /// Filas y columnas de la tabla a que los símbolos dan uso.
-    std::int16_t filasVigentes() const { return valores_.tabla.filasVigentes(); }
-    std::int16_t columnasVigentes() const { return valores_.tabla.columnasVigentes(); }
+    std::int16_t filasVigentes() const;
+    std::int16_t columnasVigentes() const;
     /// Si una celda, desde 1, enseña un conflicto.
-    bool enConflicto(std::int16_t fila, std::int16_t columna) const {
-        return valores_.tabla.enConflicto(fila, columna);
-    }
+    bool enConflicto(std::int16_t fila, std::int16_t columna) const;
 
     /// @}
 
@@ -282,8 +269,8 @@ private:
     void olvidaGenerado();
     const ConjuntosConTextos& conTextos() const;
 
-    GramaticaLR valores_; // `partidas` may lack the last rules
-    clasico::Pendientes pendientes_;
+    std::unique_ptr<GramaticaLR> valores_; // `partidas` may lack the last rules
+    std::unique_ptr<clasico::Pendientes> pendientes_;
     OpcionesTabla opciones_;
     std::int16_t numEstados_ = 0;
     std::uint64_t edicion_ = 0;

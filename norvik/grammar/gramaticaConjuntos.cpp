@@ -6,6 +6,7 @@
 #include "norvik/grammar/clasico/siguientes.hpp"
 #include "norvik/grammar/exacto/conjuntos.hpp"
 #include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 
 #include <algorithm>
 
@@ -42,28 +43,28 @@ std::vector<conjunto> enTextos(const ReglasPartidas& reglas, const std::vector<C
 } // namespace
 
 void gramatica::inicializaConjuntos() {
-    valores_.conjuntos = Conjuntos();
+    valores_->conjuntos = Conjuntos();
     conTextos_.reset();
-    pendientes_ = clasico::Pendientes(partidas());
-    valores_.tabla.olvidaSimbolos();
+    *pendientes_ = clasico::Pendientes(partidas());
+    valores_->tabla.olvidaSimbolos();
     cambia();
-    valores_.automata = AutomataLR();
+    valores_->automata = AutomataLR();
     numEstados_ = 0;
 }
 
 void gramatica::olvidaGenerado() {
     inicializaConjuntos();
-    valores_.tabla.dimensiona(0, 0);
+    valores_->tabla.dimensiona(0, 0);
 }
 
 void gramatica::creaConjuntos() {
     inicializaConjuntos();
     try {
         if (metodo() == Metodo::Clasico) {
-            clasico::calculaConjuntos(valores_.partidas, valores_.conjuntos, pendientes_);
+            clasico::calculaConjuntos(valores_->partidas, valores_->conjuntos, *pendientes_);
         } else {
-            valores_.conjuntos = exacto::creaConjuntos(exacto::Producciones(valores_.partidas));
-            pendientes_ = clasico::Pendientes();
+            valores_->conjuntos = exacto::creaConjuntos(exacto::Producciones(valores_->partidas));
+            *pendientes_ = clasico::Pendientes();
         }
     } catch (...) {
         olvidaGenerado();
@@ -72,13 +73,13 @@ void gramatica::creaConjuntos() {
 }
 
 void gramatica::creaPrimeros(std::u16string_view cadena, conjunto& conj, bool recursivo, std::int16_t regla) {
-    const ReglasPartidas reglas(valores_.reglas, cadena);
+    const ReglasPartidas reglas(valores_->reglas, cadena);
     if (regla < 0 || regla > reglas.numReglas())
         throw SubindiceFueraDeIntervalo(u"la regla", regla, 0, reglas.numReglas());
     std::vector<Simbolo> cuerpo;
     paraCadaSimbolo(cadena, [&](std::u16string_view simbolo) { cuerpo.push_back(reglas.simbolo(simbolo)); });
     if (cuerpo.empty()) cuerpo.push_back(ReglasPartidas::vacio);
-    clasico::CalculoPrimeros primeros(reglas, valores_.conjuntos, pendientes_);
+    clasico::CalculoPrimeros primeros(reglas, valores_->conjuntos, *pendientes_);
     if (conj.contieneCadenaVacia()) primeros.trabajo().inserta(ReglasPartidas::vacio);
     if (!primeros.recorre(cuerpo, recursivo, regla))
         throw Desbordamiento(u"La recursión de los primeros no termina en la cadena " +
@@ -87,21 +88,21 @@ void gramatica::creaPrimeros(std::u16string_view cadena, conjunto& conj, bool re
 }
 
 void gramatica::creaSiguientes(std::u16string_view variable, conjunto& conj, bool recursivo) {
-    const ReglasPartidas reglas(valores_.reglas, variable);
+    const ReglasPartidas reglas(valores_->reglas, variable);
     const Simbolo simbolo = reglas.simbolo(variable);
-    clasico::CalculoPrimeros primeros(reglas, valores_.conjuntos, pendientes_);
-    clasico::CalculoSiguientes siguientes(reglas, valores_.conjuntos, pendientes_, primeros);
+    clasico::CalculoPrimeros primeros(reglas, valores_->conjuntos, *pendientes_);
+    clasico::CalculoSiguientes siguientes(reglas, valores_->conjuntos, *pendientes_, primeros);
     const bool conocida = simbolo != ReglasPartidas::sinSimbolo;
     if (conocida && recursivo && siguientes.terminados().terminado(simbolo))
         return insertaTextos(reglas, siguientes.terminados().elementos(simbolo), conj);
     if (conocida) siguientes.recorre(simbolo);
     insertaTextos(reglas, siguientes.trabajo().elementos(), conj);
-    if (!recursivo) pendientes_.siguientes[static_cast<std::size_t>(pendientes_.actual)] = false;
+    if (!recursivo) pendientes_->siguientes[static_cast<std::size_t>(pendientes_->actual)] = false;
     conj.eliminaCadenaVacia();
 }
 
 bool gramatica::contieneCadenaVacia(std::u16string_view variable) const {
-    return std::ranges::any_of(valores_.reglas, [&](const Regla& regla) {
+    return std::ranges::any_of(valores_->reglas, [&](const Regla& regla) {
         if (regla.cabeza != variable || variable.empty()) return false;
         const std::u16string_view cuerpo = regla.cuerpo;
         return cuerpo.empty() || cuerpo.substr(0, cuerpo.find(u' ')) == cadenaVacia;
@@ -117,26 +118,26 @@ bool gramatica::estaPendienteSiguientes(std::u16string_view nombre) const {
 }
 
 std::int16_t gramatica::numItemPrimeros(std::u16string_view nombre) const {
-    return posicionDe(nombre, valores_.conjuntos.primeros, valores_.partidas);
+    return posicionDe(nombre, valores_->conjuntos.primeros, valores_->partidas);
 }
 
 std::int16_t gramatica::numItemSiguientes(std::u16string_view nombre) const {
-    return posicionDe(nombre, valores_.conjuntos.siguientes, valores_.partidas);
+    return posicionDe(nombre, valores_->conjuntos.siguientes, valores_->partidas);
 }
 
 bool gramatica::quedanPrimerosPendientes() const {
-    return quedan(pendientes_.primeros);
+    return quedan(pendientes_->primeros);
 }
 
 bool gramatica::quedanSiguientesPendientes() const {
-    return quedan(pendientes_.siguientes);
+    return quedan(pendientes_->siguientes);
 }
 
 const gramatica::ConjuntosConTextos& gramatica::conTextos() const {
     const std::lock_guard uno(haciendoTextos_);
     if (!conTextos_) {
-        const auto& [primeros, siguientes, predict] = valores_.conjuntos;
-        const ReglasPartidas& reglas = valores_.partidas;
+        const auto& [primeros, siguientes, predict] = valores_->conjuntos;
+        const ReglasPartidas& reglas = valores_->partidas;
         conTextos_ = {enTextos(reglas, primeros), enTextos(reglas, siguientes), enTextos(reglas, predict)};
     }
     return *conTextos_;

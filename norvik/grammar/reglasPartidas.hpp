@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/grammar/reglas.hpp"
 
 #include <cstddef>
@@ -22,7 +21,7 @@ using Cuerpo = std::span<const Simbolo>;
 
 /// The rules with their symbols as numbers: what the analyses work on. An empty body reads as Ø.
 /// Rule indexes are 1-based. Never changed once it is made; texts are views into it, which moving keeps.
-class NORVIK_API ReglasPartidas {
+class ReglasPartidas {
 public:
     static constexpr Simbolo sinSimbolo = -1;
     static constexpr Simbolo vacio = 0;    ///< Ø

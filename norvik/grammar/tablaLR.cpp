@@ -2,6 +2,7 @@
 
 #include "norvik/grammar/tablaLR.hpp"
 
+#include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>

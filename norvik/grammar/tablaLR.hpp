@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/grammar/celdas.hpp"
 #include "norvik/grammar/conjunto.hpp"
 
@@ -32,7 +31,7 @@ struct Conflicto {
 /// 1) from 0. An entry is the state that a shift or the start symbol leads to, a rule by which to reduce as
 /// −rule, or 0. Two entries need no storing: in state 0 the start symbol leads to state 1, in state 1 "$"
 /// accepts. It is made by its constructor or by the calls of a module, and only read after that.
-class NORVIK_API TablaLR {
+class TablaLR {
 public:
     static constexpr std::int16_t aceptar = 1000;
 
@@ -102,7 +101,7 @@ private:
 
 /// «0: a=2 S=1; 1: $=1000; 2: $=-1/2»: entries other than 0 as they are read, and the last loser of a
 /// conflict.
-NORVIK_API std::u16string enTexto(const TablaLR& tabla);
+std::u16string enTexto(const TablaLR& tabla);
 
 inline std::int16_t TablaLR::entrada(std::int16_t estado, std::int16_t codigo) const {
     const std::int16_t guardada = celdas_.en(estado + 1, codigo + 1);

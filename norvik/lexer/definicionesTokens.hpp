@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
 #include "norvik/lexer/parLT.hpp"
 
@@ -16,7 +15,7 @@ namespace norvik {
 
 /// The definitions of a language in registration order: a value that moves as a whole. The definitions stay
 /// where they are for as long as they are kept, and never change.
-class NORVIK_API DefinicionesTokens {
+class DefinicionesTokens {
 public:
     /// Every definition, auxiliary ones too, and the token definitions alone.
     const std::vector<std::unique_ptr<expresionRegular>>& todas() const { return todas_; }

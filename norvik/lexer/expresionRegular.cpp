@@ -3,23 +3,30 @@
 #include "norvik/lexer/expresionRegular.hpp"
 
 #include "norvik/base/numeros.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace norvik {
+
+expresionRegular::expresionRegular() = default;
+expresionRegular::~expresionRegular() = default;
 
 bool expresionRegular::SetExpReg(std::u16string_view expRegular, std::u16string_view nomExpRegular,
                                  bool esToken, bool sensibleTamanio, std::u16string_view psToken,
                                  std::int16_t tipoER, std::int32_t baseER, std::u16string_view pseudoCadTmp) {
     base = a16(baseER);
-    expReg = Emparejador::compila(expRegular, !sensibleTamanio);
+    std::optional<Emparejador> compilado = Emparejador::compila(expRegular, !sensibleTamanio);
+    expReg = compilado ? std::make_unique<const Emparejador>(*std::move(compilado)) : nullptr;
     expresion = expRegular;
     nomER = nomExpRegular;
     nomToken = esToken ? nomExpRegular : u"";
     pseudoToken = psToken;
     tipo = tipoER;
     pseudoTmp = pseudoCadTmp;
-    return expReg.has_value();
+    return expReg != nullptr;
 }
 
 bool expresionRegular::llevaControles() const {

@@ -2,31 +2,39 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/lexer/tipos.hpp"
-#include "norvik/pattern/emparejador.hpp"
 
 #include <cstdint>
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace norvik {
 
-/// A token definition: a named pattern with its profile. Filled once at registration, then only read.
-class expresionRegular {
+class Emparejador;
+
+/// Una definición de token: un patrón con nombre y lo que se sabe de él. Se llena una vez, al registrarla, y
+/// después solo se lee.
+class NORVIK_API expresionRegular {
 public:
-    std::optional<Emparejador> expReg;
+    expresionRegular();
+    expresionRegular(const expresionRegular&) = delete;
+    expresionRegular& operator=(const expresionRegular&) = delete;
+    ~expresionRegular();
+
+    std::unique_ptr<const Emparejador> expReg; ///< el patrón, listo para buscar; nulo si está mal escrito
     std::u16string nomER;
-    std::u16string nomToken; ///< `nomER` for a token, empty for an auxiliary definition
+    std::u16string nomToken; ///< `nomER` de un token, vacío de una definición auxiliar
     std::int16_t tipo = Norvik_ExpReg;
     std::int16_t base = Norvik_SinBase;
-    std::u16string expresion; ///< the expanded pattern (`getExpReg`)
+    std::u16string expresion; ///< el patrón, ya expandido (`getExpReg`)
     std::u16string pseudoToken;
     std::u16string pseudoTmp;
     std::int32_t colorTexto = sinColor;
 
-    /// Fills the record. False when the pattern is malformed; raises `Desbordamiento` when the base does
-    /// not fit 16 bits.
+    /// Llena la definición. Falso si el patrón está mal escrito; lanza `Desbordamiento` si la base no cabe en
+    /// 16 bits.
     bool SetExpReg(std::u16string_view expRegular, std::u16string_view nomExpRegular, bool esToken,
                    bool sensibleTamanio, std::u16string_view psToken, std::int16_t tipoER,
                    std::int32_t baseER, std::u16string_view pseudoCadTmp);
@@ -38,10 +46,10 @@ public:
     std::int16_t GetTipo() const { return tipo; }
     const std::u16string& GetPseudoToken() const { return pseudoToken; }
     const std::u16string& GetPseudoTmp() const { return pseudoTmp; }
-    /// Whether pattern or display name have a control character, which a loading module holds as it is.
-    /// Tabulators harm nobody.
+    /// Si el patrón o el nombre para personas llevan un carácter de control que no sea un tabulador: los
+    /// módulos de carga los tienen tal cual.
     bool llevaControles() const;
-    /// Length of the pattern in characters; raises `Desbordamiento`.
+    /// Longitud del patrón en caracteres; lanza `Desbordamiento`.
     std::int16_t Longitud() const;
 };
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/pattern/mapaCoincidencias.hpp"
 
 #include <cstddef>
@@ -15,19 +16,20 @@ namespace norvik {
 
 class expresionRegular;
 
-/// The tokens of a text by their 1-based start position: at most one a position. Look-ups take constant time.
-/// The map keeps the text that it was made of.
-class MapaTokens {
+/// Los tokens de un texto por la posición en que empiezan, desde 1: como mucho uno en cada una. Buscar cuesta
+/// lo mismo en cualquier texto. El mapa guarda el texto de que se hizo.
+class NORVIK_API MapaTokens {
 public:
     struct Entrada {
         const expresionRegular* definicion = nullptr;
         std::int32_t longitud = 0;
-        std::u16string_view texto; ///< what was matched; holds until the next recognition
+        std::u16string_view texto; ///< lo que casó; vale hasta el reconocimiento siguiente
     };
-    /// The same in short: the definition by its 0-based place in registration order, and the length.
+    /// Lo mismo en breve: la definición por su lugar, desde 0, en el orden en que se registraron, y la
+    /// longitud.
     using Ganadora = MapaCoincidencias::Ganadora;
 
-    /// The definitions outlive the map.
+    /// Las definiciones sobreviven al mapa.
     explicit MapaTokens(const std::vector<const expresionRegular*>& definiciones)
         : definiciones_(&definiciones) {}
     MapaTokens(const MapaTokens&) = delete;
@@ -35,24 +37,24 @@ public:
     ~MapaTokens() = default;
 
     void vacia();
-    /// Empties the map for a text that starts at a position, and gives what is to be filled.
+    /// Vacía el mapa para un texto que empieza en una posición, y da lo que hay que llenar.
     MapaCoincidencias& reinicia(std::int32_t inicio, std::u16string_view texto);
-    /// The entry at a position, or nothing. Positions outside the recognised range have none. A token of
-    /// length 0 may stand at the very end.
+    /// La entrada de una posición, o nada, también fuera de lo reconocido. Al final puede haber un token de
+    /// longitud 0.
     std::optional<Entrada> en(std::int32_t posicion) const;
     std::optional<Ganadora> ganadoraEn(std::int32_t posicion) const {
         return coincidencias_.en(indice(posicion));
     }
-    /// The text that was recognised; it stays until the next recognition.
+    /// El texto reconocido; vale hasta el reconocimiento siguiente.
     std::u16string_view texto() const { return texto_; }
-    /// Matched text of an entry, which must be the map's.
+    /// Lo que casó en una entrada, que ha de ser del mapa.
     std::u16string_view texto(std::int32_t posicion, const Ganadora& ganadora) const {
         return std::u16string_view(texto_).substr(indice(posicion),
                                                   static_cast<std::size_t>(ganadora.longitud));
     }
     void borra(std::int32_t posicion) { coincidencias_.borra(indice(posicion)); }
     bool esVacio() const;
-    /// One line an entry, "position length token", in order of position.
+    /// Una línea por entrada, «posición longitud token», en el orden de las posiciones.
     std::u16string toString() const;
 
 private:

@@ -7,17 +7,40 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/lexer/definicionesTokens.hpp"
+#include "norvik/lexer/reconocedor.hpp"
 
 #include <algorithm>
 
 namespace norvik {
 
+pilaTokens::pilaTokens()
+    : definiciones_(std::make_unique<DefinicionesTokens>()), mapaTokens_(definiciones_->tokens()) {}
+
+pilaTokens::~pilaTokens() = default;
+
 void pilaTokens::Inicializa() {
     mapaTokens_.vacia();
     reconocedor_.reset();
-    definiciones_.vacia();
+    definiciones_->vacia();
     distingueMayusculas = false;
     ++edicion_;
+}
+
+const std::vector<std::unique_ptr<expresionRegular>>& pilaTokens::expresionesRegulares() const {
+    return definiciones_->todas();
+}
+
+const std::vector<const expresionRegular*>& pilaTokens::tokensLenguaje() const {
+    return definiciones_->tokens();
+}
+
+std::u16string pilaTokens::toStringLexemasPorToken(std::u16string_view token) const {
+    return definiciones_->lexemasPorToken(token);
+}
+
+std::u16string pilaTokens::toStringPseudoTokenPorToken(const parLT& tokenLexema) const {
+    return definiciones_->pseudoTokenPorToken(tokenLexema);
 }
 
 std::int16_t pilaTokens::getNumTokensLenguaje() const {
@@ -45,7 +68,7 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
                                 aTexto(inicio) + u" a " + aTexto(fin));
     const auto desde = std::min(Texto.size(), static_cast<std::size_t>(inicio) - 1);
     const auto rango = Texto.substr(desde, static_cast<std::size_t>(longitud));
-    if (!reconocedor_) reconocedor_.emplace(definiciones_);
+    if (!reconocedor_) reconocedor_ = std::make_unique<Reconocedor>(*definiciones_);
     reconocedor_->reconoce(rango, Presupuesto(Presupuesto::plazoComun, cancelacion),
                            mapaTokens_.reinicia(inicio, rango));
     return mapaTokens_;

@@ -4,10 +4,9 @@
 
 #include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
-#include "norvik/lexer/definicionesTokens.hpp"
+#include "norvik/lexer/expresionRegular.hpp"
 #include "norvik/lexer/mapaTokens.hpp"
 #include "norvik/lexer/parLT.hpp"
-#include "norvik/lexer/reconocedor.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -19,6 +18,9 @@
 #include <vector>
 
 namespace norvik {
+
+class DefinicionesTokens;
+class Reconocedor;
 
 /// Una definición como se escribe.
 struct DefinicionTexto {
@@ -36,10 +38,10 @@ struct DefinicionTexto {
 /// escribir módulos y para mirar.
 class NORVIK_API pilaTokens {
 public:
-    pilaTokens() = default;
+    pilaTokens();
     pilaTokens(const pilaTokens&) = delete;
     pilaTokens& operator=(const pilaTokens&) = delete;
-    ~pilaTokens() = default;
+    ~pilaTokens();
 
     /// @name Colores, 0x00BBGGRR
     /// Los de las definiciones que se registren desde ahora.
@@ -72,11 +74,9 @@ public:
     const expresionRegular& getTokenLenguaje(std::int16_t numToken) const;
     /// Todas las definiciones, también las auxiliares, y solo las de tokens, en el orden en que se
     /// registraron.
-    const std::vector<std::unique_ptr<expresionRegular>>& expresionesRegulares() const {
-        return definiciones_.todas();
-    }
-    const std::vector<const expresionRegular*>& tokensLenguaje() const { return definiciones_.tokens(); }
-    const DefinicionesTokens& definiciones() const { return definiciones_; }
+    const std::vector<std::unique_ptr<expresionRegular>>& expresionesRegulares() const;
+    const std::vector<const expresionRegular*>& tokensLenguaje() const;
+    const DefinicionesTokens& definiciones() const { return *definiciones_; }
 
     /// Registra una definición, con el color de su clase. Da su primer error, sin lugar, y entonces no
     /// registra nada. Lanza `Desbordamiento` pasadas 32 767 definiciones, y cuando los patrones de todas
@@ -108,22 +108,18 @@ public:
     const MapaTokens& mapaTokens() const { return mapaTokens_; }
 
     /// Cómo se puede escribir un token, para las listas de lo que se esperaba.
-    std::u16string toStringLexemasPorToken(std::u16string_view token) const {
-        return definiciones_.lexemasPorToken(token);
-    }
+    std::u16string toStringLexemasPorToken(std::u16string_view token) const;
     /// Cómo se nombra en los mensajes un token leído.
-    std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const {
-        return definiciones_.pseudoTokenPorToken(tokenLexema);
-    }
+    std::u16string toStringPseudoTokenPorToken(const parLT& tokenLexema) const;
 
 private:
     std::int32_t colorDeTipo(std::int16_t tipo) const;
     bool registra(const DefinicionTexto& definicion, std::u16string_view patron, std::u16string_view lectura);
     void archiva(std::unique_ptr<expresionRegular> definicion, bool esToken);
 
-    DefinicionesTokens definiciones_;
-    std::optional<Reconocedor> reconocedor_; ///< se hace en el primer reconocimiento de un lenguaje
-    MapaTokens mapaTokens_{definiciones_.tokens()};
+    const std::unique_ptr<DefinicionesTokens> definiciones_;
+    std::unique_ptr<Reconocedor> reconocedor_; ///< se hace en el primer reconocimiento de un lenguaje
+    MapaTokens mapaTokens_;
     std::uint64_t edicion_ = 0;
 };
 

@@ -3,8 +3,10 @@
 // Registration of token definitions: expansion, check of the pattern, colour of the kind.
 #include "norvik/base/errores.hpp"
 #include "norvik/lexer/definicionDePatron.hpp"
+#include "norvik/lexer/definicionesTokens.hpp"
 #include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/lexer/reconocedor.hpp"
 
 #include <cstdint>
 #include <utility>
@@ -42,7 +44,7 @@ Diagnostico diagnosticoDe(const ErrorExpansion& error, const DefinicionTexto& de
 } // namespace
 
 std::optional<Diagnostico> pilaTokens::registra(const DefinicionTexto& definicion) {
-    const auto expansion = expande(definicion.texto, definiciones_);
+    const auto expansion = expande(definicion.texto, *definiciones_);
     if (const auto* const error = std::get_if<ErrorExpansion>(&expansion))
         return diagnosticoDe(*error, definicion);
     const auto& [patron, lectura, tramos] = std::get<Expansion>(expansion);
@@ -94,7 +96,7 @@ std::u16string pilaTokens::SetOperador(std::u16string_view lexema, std::u16strin
 }
 
 void pilaTokens::archiva(std::unique_ptr<expresionRegular> definicion, bool esToken) {
-    definiciones_.archiva(std::move(definicion), esToken);
+    definiciones_->archiva(std::move(definicion), esToken);
     ++edicion_;
     if (esToken) reconocedor_.reset();
 }

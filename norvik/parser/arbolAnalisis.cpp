@@ -9,6 +9,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/parser/lectura.hpp"
+#include "norvik/parser/textoAnalizado.hpp"
 
 #include <algorithm>
 #include <utility>

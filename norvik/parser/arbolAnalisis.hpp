@@ -4,7 +4,6 @@
 
 #include "norvik/base/api.hpp"
 #include "norvik/base/rango.hpp"
-#include "norvik/parser/textoAnalizado.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +20,7 @@ namespace norvik {
 
 class ArbolAnalisis;
 class Hijos;
+struct TextoAnalizado;
 
 /// Un nodo de un `ArbolAnalisis`: un token del texto (una hoja) o una aplicación de una regla. Es un valor
 /// pequeño que se refiere a su árbol y vale mientras exista, aunque el árbol se mueva. Nada cambia un nodo:

@@ -8,6 +8,7 @@
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/lectorTokens.hpp"
 #include "norvik/parser/lectura.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <string_view>
 

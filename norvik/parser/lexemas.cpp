@@ -5,8 +5,22 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/parser/lectura.hpp"
+#include "norvik/parser/textoAnalizado.hpp"
+
+#include <utility>
 
 namespace norvik {
+
+Lexemas::Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores)
+    : diagnosticos(std::move(errores)), texto_(std::move(texto)) {}
+
+Lexemas::Lexemas(Lexemas&&) noexcept = default;
+Lexemas& Lexemas::operator=(Lexemas&&) noexcept = default;
+Lexemas::~Lexemas() = default;
+
+std::size_t Lexemas::size() const {
+    return texto_ ? texto_->tokens.size() : 0;
+}
 
 Lexema Lexemas::operator[](std::size_t indice) const {
     if (indice >= size())

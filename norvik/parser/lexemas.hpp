@@ -5,16 +5,16 @@
 #include "norvik/base/api.hpp"
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/base/rango.hpp"
-#include "norvik/parser/textoAnalizado.hpp"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace norvik {
+
+struct TextoAnalizado;
 
 /// Un token de un texto que solo se leyó; sus textos valen mientras exista la lista de que viene.
 struct Lexema {
@@ -29,13 +29,17 @@ struct Lexema {
 /// se mueve pero no se copia.
 class NORVIK_API Lexemas {
 public:
-    explicit Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores)
-        : diagnosticos(std::move(errores)), texto_(std::move(texto)) {}
+    Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores);
+    Lexemas(Lexemas&&) noexcept;
+    Lexemas& operator=(Lexemas&&) noexcept;
+    Lexemas(const Lexemas&) = delete;
+    Lexemas& operator=(const Lexemas&) = delete;
+    ~Lexemas();
 
     /// Uno por cada carácter incorrecto (se sigue leyendo detrás de él), o por qué no se pudo leer nada.
     std::vector<Diagnostico> diagnosticos;
 
-    std::size_t size() const { return texto_ ? texto_->tokens.size() : 0; }
+    std::size_t size() const;
     /// Desde 0; lanza `IndiceNoValido`.
     Lexema operator[](std::size_t indice) const;
 

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "norvik/base/api.hpp"
 #include "norvik/base/presupuesto.hpp"
 #include "norvik/pattern/emparejador.hpp"
 #include "norvik/pattern/mapaCoincidencias.hpp"
@@ -16,7 +15,7 @@ namespace norvik {
 
 /// The search of many patterns at once. It serves one search at a time, and any number of them: what texts
 /// have asked of its automata stays for the next one. After a failure it is as good as new.
-class NORVIK_API BuscadorConjunto {
+class BuscadorConjunto {
 public:
     /// The patterns, fewer than `MapaCoincidencias::maximoPatrones` and known by their places, outlive the
     /// search. Nothing is made of them before the first search.

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -10,22 +12,22 @@
 
 namespace norvik {
 
-/// What a joint search found in a text: at each position the match that wins there, the longest, of equal
-/// ones that of the earlier pattern. Positions are 0-based, in characters; the end of the text is one, too.
-/// Four bytes a position; look-ups take constant time.
-class MapaCoincidencias {
+/// Lo que la búsqueda conjunta encontró en un texto: en cada posición, la coincidencia que gana, que es la
+/// más larga, y de las iguales la del primer patrón. Posiciones desde 0, en caracteres; el final del texto es
+/// una más. Cuatro bytes por posición; buscar cuesta lo mismo en cualquier texto.
+class NORVIK_API MapaCoincidencias {
 public:
     static constexpr std::int32_t maximoPatrones = 0xFFFF;
 
     struct Ganadora {
-        std::int32_t patron = 0; ///< by its 0-based place
+        std::int32_t patron = 0; ///< por su lugar, desde 0
         std::int32_t longitud = 0;
     };
 
-    /// For a text of so many characters, without any match.
+    /// Para un texto de tantos caracteres, sin ninguna coincidencia.
     void reinicia(std::size_t tamanio);
     void vacia();
-    /// The match that starts at a position. There is none beyond the text.
+    /// La que empieza en una posición; ninguna pasado el texto.
     std::optional<Ganadora> en(std::size_t posicion) const {
         const std::uint32_t celda = posicion < celdas_.size() ? celdas_[posicion] : ninguna;
         if (celda == ninguna) return std::nullopt;
@@ -34,15 +36,15 @@ public:
         return Ganadora{patron, longitud < ultimo ? static_cast<std::int32_t>(longitud)
                                                   : largas_.find(posicion)->second};
     }
-    /// Stores a match of a pattern below `maximoPatrones`, unless one that wins over it is there. The
-    /// position is one of the text's.
+    /// Guarda una coincidencia de un patrón por debajo de `maximoPatrones`, si ninguna de las que hay le
+    /// gana. La posición es del texto.
     void guarda(std::size_t posicion, std::int32_t patron, std::size_t longitud) {
         if (longitud >= ultimo) return guardaLarga(posicion, patron, static_cast<std::int32_t>(longitud));
         const std::uint32_t nueva = celda(patron, static_cast<std::uint32_t>(longitud));
         if (nueva > celdas_[posicion]) celdas_[posicion] = nueva;
     }
     void borra(std::size_t posicion);
-    /// Number of positions: those of the text's characters and its end.
+    /// Cuántas posiciones hay: las de los caracteres del texto y su final.
     std::size_t tamanio() const { return celdas_.size(); }
 
 private:

@@ -10,7 +10,7 @@
 namespace norvik {
 
 std::u16string gramatica::textoProblemas() const {
-    return norvik::textoProblemas(valores_);
+    return norvik::textoProblemas(*valores_);
 }
 
 void gramatica::MuestraProblemas(Sistema& sistema) const {
@@ -18,55 +18,55 @@ void gramatica::MuestraProblemas(Sistema& sistema) const {
 }
 
 void gramatica::escribeInforme(const SumideroDeTexto& sumidero) const {
-    norvik::escribeInforme(valores_, sumidero);
+    norvik::escribeInforme(*valores_, sumidero);
 }
 
 std::u16string gramatica::textoInforme() const {
-    return norvik::textoInforme(valores_);
+    return norvik::textoInforme(*valores_);
 }
 
 void gramatica::GuardaInforme(const std::filesystem::path& carpeta) const {
-    guardaInforme(valores_, carpeta);
+    guardaInforme(*valores_, carpeta);
 }
 
 std::u16string gramatica::textoInformeGeneral() const {
-    return norvik::textoInformeGeneral(valores_);
+    return norvik::textoInformeGeneral(*valores_);
 }
 
 std::u16string gramatica::textoAutomata() const {
-    return norvik::textoAutomata(valores_);
+    return norvik::textoAutomata(*valores_);
 }
 
 std::u16string gramatica::celdaTabla(std::int16_t fila, std::int16_t columna) const {
-    return norvik::celdaTabla(valores_.tabla, fila, columna);
+    return norvik::celdaTabla(valores_->tabla, fila, columna);
 }
 
 void gramatica::escribeModulo(std::u16string_view nombre, const pilaTokens& lexico,
                               const SumideroDeTexto& sumidero) const {
-    norvik::escribeModulo(valores_, nombre, lexico, sumidero);
+    norvik::escribeModulo(*valores_, nombre, lexico, sumidero);
 }
 
 std::u16string gramatica::textoModulo(std::u16string_view nombre, const pilaTokens& lexico) const {
-    return norvik::textoModulo(valores_, nombre, lexico);
+    return norvik::textoModulo(*valores_, nombre, lexico);
 }
 
 void gramatica::GuardaModuloGramatica(std::u16string_view nombre, const pilaTokens& lexico,
                                       const std::filesystem::path& carpeta) const {
-    guardaModulo(valores_, nombre, lexico, carpeta);
+    guardaModulo(*valores_, nombre, lexico, carpeta);
 }
 
 void gramatica::escribeModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                                  const SumideroDeTexto& sumidero) const {
-    norvik::escribeModuloCpp(valores_, nombre, lexico, sumidero);
+    norvik::escribeModuloCpp(*valores_, nombre, lexico, sumidero);
 }
 
 std::u16string gramatica::textoModuloCpp(std::u16string_view nombre, const pilaTokens& lexico) const {
-    return norvik::textoModuloCpp(valores_, nombre, lexico);
+    return norvik::textoModuloCpp(*valores_, nombre, lexico);
 }
 
 void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& lexico,
                                 const std::filesystem::path& carpeta) const {
-    guardaModuloCpp(valores_, nombre, lexico, carpeta);
+    guardaModuloCpp(*valores_, nombre, lexico, carpeta);
 }
 
 } // namespace norvik

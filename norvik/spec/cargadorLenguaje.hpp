@@ -6,7 +6,6 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/celdaSLR.hpp"
-#include "norvik/lexer/definicionDePatron.hpp"
 #include "norvik/lexer/tipos.hpp"
 
 #include <cstddef>
@@ -45,9 +44,7 @@ public:
                        std::int32_t baseToken = Norvik_SinBase, std::int32_t colorTexto = sinColor) = 0;
     /// Registra un token cuya definición está ya expandida: su patrón.
     virtual void SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int32_t tipoToken,
-                           std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto) {
-        SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
-    }
+                           std::u16string_view pseudoToken, std::int32_t baseToken, std::int32_t colorTexto);
     /// Las definiciones que siguen distinguen mayúsculas: lo que hace `LenguajeSensible = True` en un módulo.
     virtual void DistingueMayusculas() = 0;
     /// Registra una palabra reservada. Un nombre de token vacío se convierte en la palabra en minúsculas, y

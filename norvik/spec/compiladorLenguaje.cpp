@@ -8,6 +8,8 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/tablaLR.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"

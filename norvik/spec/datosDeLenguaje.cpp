@@ -3,6 +3,7 @@
 #include "norvik/spec/datosDeLenguaje.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 
 #include <string_view>
 #include <unordered_map>

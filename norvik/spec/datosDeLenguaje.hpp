@@ -3,6 +3,7 @@
 #pragma once
 
 #include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/reglas.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/analizador.hpp"
 #include "norvik/parser/vocabulario.hpp"

@@ -8,6 +8,7 @@
 
 #include "norvik/spec/lectorModulo.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"

@@ -4,6 +4,7 @@
 
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 #include "norvik/tools/informe.hpp"
 #include "norvik/tools/probarLenguaje.hpp"

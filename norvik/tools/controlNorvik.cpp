@@ -2,10 +2,14 @@
 
 #include "norvik/tools/controlNorvik.hpp"
 
+#include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/accesibleControl.hpp"
 #include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
+#include "norvik/tools/elementosControl.hpp"
 #include "norvik/tools/informe.hpp"
 #include "norvik/tools/reemplazar.hpp"
 #include "norvik/tools/ventanas.hpp"
@@ -15,13 +19,29 @@
 
 namespace norvik {
 
+/// What surrounds the control, in the order in which it is made.
+struct ControlNorvik::Piezas {
+    Piezas(ControlNorvik& control, SistemaQt* compartido)
+        : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
+          caja(&control) {}
+
+    ElementosControl elementos;
+    SistemaQt propio;
+    SistemaQt& sistema; ///< `propio` or a shared one
+    CajaTextoQt caja;
+};
+
+ControlNorvik::ControlNorvik(QWidget* padre) : ControlNorvik(nullptr, padre) {}
+
+ControlNorvik::ControlNorvik(SistemaQt& sistema, QWidget* padre) : ControlNorvik(&sistema, padre) {}
+
 ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
-    : QWidget(padre), elementos_(*this), propio_(this),
-      sistema_(compartido != nullptr ? *compartido : propio_), caja_(this), control_(caja_, sistema_, *this) {
+    : QWidget(padre), piezas_(std::make_unique<Piezas>(*this, compartido)),
+      control_(piezas_->caja, piezas_->sistema, *this) {
     simplificaParaLectores();
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
-    QWidget& texto = caja_.ventana();
+    QWidget& texto = piezas_->caja.ventana();
     texto.setObjectName(QStringLiteral("Texto"));
     texto.setAccessibleName(QStringLiteral("Texto"));
     texto.setAccessibleDescription(QStringLiteral("Control+Tabulador pasa al elemento siguiente"));
@@ -32,19 +52,47 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     conectaEventos();
 }
 
+CajaTextoQt& ControlNorvik::caja() {
+    return piezas_->caja;
+}
+
+const CajaTextoQt& ControlNorvik::caja() const {
+    return piezas_->caja;
+}
+
+SistemaQt& ControlNorvik::sistema() {
+    return piezas_->sistema;
+}
+
+void ControlNorvik::protege(const std::function<void()>& orden) {
+    piezas_->caja.protege(orden);
+}
+
+std::int16_t ControlNorvik::de16Bits(int valor, std::u16string_view nombre) {
+    return a16(valor, nombre);
+}
+
+int ControlNorvik::inicioSeleccion() const {
+    return piezas_->caja.inicioSeleccion();
+}
+
+int ControlNorvik::longitudSeleccion() const {
+    return piezas_->caja.longitudSeleccion();
+}
+
 /// Qt moves nothing while the text is the first of its window that takes the focus, as it is in a control
 /// without a parent; by way of a third element the order holds wherever the control goes.
 void ControlNorvik::ordenaTabulador() {
-    QWidget* const texto = &caja_.ventana();
-    setTabOrder(texto, &elementos_.captaEnfoque);
-    setTabOrder(texto, elementos_.tabulador.get());
+    QWidget* const texto = &piezas_->caja.ventana();
+    setTabOrder(texto, &piezas_->elementos.captaEnfoque);
+    setTabOrder(texto, piezas_->elementos.tabulador.get());
 }
 
 void ControlNorvik::conectaEventos() {
     EventosControl& e = control_.eventos;
     e.CambioDeLinea = [this](auto& linea) { emit CambioDeLinea(linea); };
     e.change = [this] {
-        if (caja_.texto().size() <= maximoTexto) fallosContados_.clear();
+        if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
         emit change();
     };
     e.Click = [this] { emit Click(); };
@@ -64,23 +112,24 @@ ControlNorvik::~ControlNorvik() {
 }
 
 std::array<QWidget*, 3> ControlNorvik::observados() {
-    return {&caja_.ventana(), &elementos_.debugBox, elementos_.tabulador.get()};
+    return {&piezas_->caja.ventana(), &piezas_->elementos.debugBox, piezas_->elementos.tabulador.get()};
 }
 
 void ControlNorvik::conectaElementos() {
     for (QWidget* e : observados()) e->installEventFilter(this);
-    connect(&elementos_.controlSpace, &QPushButton::clicked, this, [this] { caja_.enfoca(); });
-    caja_.alFallar = [this](const std::u16string& texto) { cuentaFallo(texto); };
+    connect(&piezas_->elementos.controlSpace, &QPushButton::clicked, this,
+            [this] { piezas_->caja.enfoca(); });
+    piezas_->caja.alFallar = [this](const std::u16string& texto) { cuentaFallo(texto); };
 }
 
 /// A text that is too long cannot be coloured at any line that is left: that is said once, until it fits.
 void ControlNorvik::cuentaFallo(const std::u16string& texto) {
-    const bool cabe = caja_.texto().size() <= maximoTexto;
+    const bool cabe = piezas_->caja.texto().size() <= maximoTexto;
     if (!cabe && !fallosContados_.insert(texto).second) return;
     const QPointer<ControlNorvik> vivo(this);
     bool contado = false;
     static_cast<void>(falloDe([&] { emit fallo(aQString(texto), contado); })); // no failure about a failure
-    if (!vivo.isNull() && !contado) sistema_.muestraMensaje({texto, u"Norvik", Icono::Critico});
+    if (!vivo.isNull() && !contado) piezas_->sistema.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
 /// A file that keeps properties may have line breaks of its own.
@@ -93,15 +142,15 @@ QString ControlNorvik::conSaltos(const QString& texto) {
 /// What is left of the control is for nobody to see.
 bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
     const QPointer<ControlNorvik> vivo(this);
-    if (objeto == &elementos_.debugBox && evento->type() == QEvent::MouseButtonPress) {
-        caja_.enfoca();
+    if (objeto == &piezas_->elementos.debugBox && evento->type() == QEvent::MouseButtonPress) {
+        piezas_->caja.enfoca();
         return true; // a click there is none of the control's surface
     }
-    if (objeto == elementos_.tabulador.get() && evento->type() == QEvent::FocusIn) {
+    if (objeto == piezas_->elementos.tabulador.get() && evento->type() == QEvent::FocusIn) {
         entraEnTabulador(static_cast<QFocusEvent*>(evento)->reason());
         if (vivo.isNull()) return true;
     }
-    if (objeto == &caja_.ventana() && evento->type() == QEvent::KeyPress) {
+    if (objeto == &piezas_->caja.ventana() && evento->type() == QEvent::KeyPress) {
         const auto& tecla = *static_cast<QKeyEvent*>(evento);
         if (tecla.key() == Qt::Key_Tab && tecla.modifiers() == Qt::ControlModifier) {
             saleHaciaDelante();
@@ -112,18 +161,18 @@ bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
 }
 
 void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
-    const Servido<QPushButton>::Servicio servicio(*elementos_.tabulador);
+    const Servido<QPushButton>::Servicio servicio(*piezas_->elementos.tabulador);
     const bool retrocede = razon == Qt::BacktabFocusReason;
-    caja_.atiende([&] { retrocede ? caja_.enfoca() : control_.tabuladorEnfocado(); });
+    piezas_->caja.atiende([&] { retrocede ? piezas_->caja.enfoca() : control_.tabuladorEnfocado(); });
 }
 
 /// The tab key writes; with the control key it does what it does elsewhere.
 void ControlNorvik::saleHaciaDelante() {
     const QPointer<ControlNorvik> vivo(this);
-    elementos_.tabulador->removeEventFilter(this); // the focus passes over it
-    elementos_.tabulador->setFocus();
+    piezas_->elementos.tabulador->removeEventFilter(this); // the focus passes over it
+    piezas_->elementos.tabulador->setFocus();
     if (vivo.isNull()) return;
-    elementos_.tabulador->installEventFilter(this);
+    piezas_->elementos.tabulador->installEventFilter(this);
     focusNextChild();
 }
 
@@ -139,7 +188,7 @@ void ControlNorvik::mouseReleaseEvent(QMouseEvent* evento) {
     evento->setAccepted(evento->button() == Qt::LeftButton);
     const bool suya = evento->isAccepted() && std::exchange(pulsada_, false);
     const bool esClick = suya && rect().contains(evento->position().toPoint());
-    if (esClick) caja_.atiende([this] { control_.clickEnSuperficie(); });
+    if (esClick) piezas_->caja.atiende([this] { control_.clickEnSuperficie(); });
 }
 
 // ---- what the control asks of its container
@@ -149,19 +198,27 @@ Contenedor::Medidas ControlNorvik::medidas() const {
     return {aTwips(width(), pixel.x), aTwips(height(), pixel.y), aTwips(1, pixel.x), aTwips(1, pixel.y)};
 }
 
+void ControlNorvik::muestraMarco(bool visible) {
+    piezas_->elementos.muestraMarco(visible);
+}
+
+void ControlNorvik::muestraBordeIzquierdo(bool visible) {
+    piezas_->elementos.debugBox.setVisible(visible);
+}
+
 void ControlNorvik::coloca(const Disposicion& disposicion) {
     const TwipsPorPixel pixel = twipsPorPixel(*this);
-    elementos_.coloca(disposicion, pixel);
-    caja_.ponIzquierda(disposicion.texto.x);
-    caja_.ventana().setGeometry(enPixeles(disposicion.texto, pixel));
+    piezas_->elementos.coloca(disposicion, pixel);
+    piezas_->caja.ponIzquierda(disposicion.texto.x);
+    piezas_->caja.ventana().setGeometry(enPixeles(disposicion.texto, pixel));
 }
 
 void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) {
-    elementos_.ponSignoError(signo.indice, signo.lineaAfectada, lugar, twipsPorPixel(*this));
+    piezas_->elementos.ponSignoError(signo.indice, signo.lineaAfectada, lugar, twipsPorPixel(*this));
 }
 
 void ControlNorvik::muestraInforme() {
-    MuestraInforme(control_.Gramatica(), control_.Lexico(), sistema_, this);
+    MuestraInforme(control_.Gramatica(), control_.Lexico(), piezas_->sistema, this);
 }
 
 void ControlNorvik::muestraBuscar() {
@@ -173,19 +230,19 @@ void ControlNorvik::muestraReemplazar() {
 }
 
 void ControlNorvik::muestraAcerca() {
-    muestraModal<Acerca>(sistema_, this);
+    muestraModal<Acerca>(piezas_->sistema, this);
 }
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
-    caja_.protege([this] { control_.redimensiona(); });
+    protege([this] { control_.redimensiona(); });
 }
 
 void ControlNorvik::changeEvent(QEvent* evento) {
     QWidget::changeEvent(evento);
     const bool otraEscala =
         evento->type() == QEvent::StyleChange || evento->type() == QEvent::ApplicationFontChange;
-    if (otraEscala) caja_.protege([this] { control_.redimensiona(); });
+    if (otraEscala) protege([this] { control_.redimensiona(); });
 }
 
 } // namespace norvik

@@ -3,19 +3,17 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
-#include "norvik/base/numeros.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
-#include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/tools/elementosControl.hpp"
 
 #include <QString>
 #include <QWidget>
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
@@ -34,7 +32,7 @@ public:                                                                         
 #define NORVIK_PROPIEDAD_DE_QT(Tipo, Nombre, aceptable)                                                      \
 private:                                                                                                     \
     void pon##Nombre(const Tipo& valor) {                                                                    \
-        if (aceptable) caja_.protege([&] { Nombre(valor); });                                                \
+        if (aceptable) protege([&] { Nombre(valor); });                                                      \
     }                                                                                                        \
                                                                                                              \
 public:
@@ -43,7 +41,7 @@ public:
         return control_.Nombre();                                                                            \
     }                                                                                                        \
     void Nombre(int valor) {                                                                                 \
-        control_.Nombre(a16(valor, u"" #Nombre));                                                            \
+        control_.Nombre(de16Bits(valor, u"" #Nombre));                                                       \
     }                                                                                                        \
     NORVIK_PROPIEDAD_DE_QT(int, Nombre, std::in_range<std::int16_t>(valor))
 /// Un color 0x00BBGGRR, y lo mismo como propiedad de Qt.
@@ -66,6 +64,9 @@ public:
     NORVIK_PROPIEDAD_DE_QT(QString, Nombre, true)
 
 namespace norvik {
+
+class CajaTextoQt;
+class SistemaQt;
 
 /// El control como widget de Qt: su caja de texto y lo que la rodea. Sus opciones y sus eventos son
 /// propiedades y señales con los mismos nombres; lo demás (cargar un lenguaje, analizar, marcar…) lo hace el
@@ -120,20 +121,19 @@ class NORVIK_API ControlNorvik : public QWidget, private Contenedor {
 
 public:
     /// Con unos servicios propios.
-    explicit ControlNorvik(QWidget* padre = nullptr) : ControlNorvik(nullptr, padre) {}
+    explicit ControlNorvik(QWidget* padre = nullptr);
     /// Con los servicios que comparten las ventanas de alrededor, que le sobreviven.
-    ControlNorvik(SistemaQt& sistema, QWidget* padre) : ControlNorvik(&sistema, padre) {}
+    ControlNorvik(SistemaQt& sistema, QWidget* padre);
     ControlNorvik(const ControlNorvik&) = delete;
     ControlNorvik& operator=(const ControlNorvik&) = delete;
     ~ControlNorvik() override;
 
     /// El control; vive lo que el widget, como los dos que siguen.
     Norvik& control() { return control_; }
-    /// Su caja de texto.
-    CajaTextoQt& caja() { return caja_; }
-    const CajaTextoQt& caja() const { return caja_; }
-    /// Sus servicios: cajas de mensaje, puntero, impresora.
-    SistemaQt& sistema() { return sistema_; }
+    /// Su caja de texto y sus servicios (cajas de mensaje, puntero, impresora), para las ventanas de Norvik.
+    CajaTextoQt& caja();
+    const CajaTextoQt& caja() const;
+    SistemaQt& sistema();
 
     /// @name Propiedades
     /// Como las de `Norvik`.
@@ -191,7 +191,7 @@ public:
 public slots: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
     /// Olvida el lenguaje entero (`Norvik::OlvidaLenguaje`).
     void OlvidaLenguaje() {
-        caja_.protege([this] { control_.OlvidaLenguaje(); });
+        protege([this] { control_.OlvidaLenguaje(); });
     }
     /// Otro texto invisible.
     void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
@@ -226,15 +226,20 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
+    struct Piezas;
+
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
-    int inicioSeleccion() const { return caja_.inicioSeleccion(); } // of any length of text
-    int longitudSeleccion() const { return caja_.longitudSeleccion(); }
+    /// Does something whose failure is told and goes no further.
+    void protege(const std::function<void()>& orden);
+    static std::int16_t de16Bits(int valor, std::u16string_view nombre);
+    int inicioSeleccion() const; // of any length of text
+    int longitudSeleccion() const;
     static QColor colorQt(std::int32_t color) { return color == sinColor ? QColor() : aQColor(color); }
     static QString conSaltos(const QString& texto);
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
     Medidas medidas() const override;
-    void muestraMarco(bool visible) override { elementos_.muestraMarco(visible); }
-    void muestraBordeIzquierdo(bool visible) override { elementos_.debugBox.setVisible(visible); }
+    void muestraMarco(bool visible) override;
+    void muestraBordeIzquierdo(bool visible) override;
     void coloca(const Disposicion& disposicion) override;
     void ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) override;
     void muestraInforme() override;
@@ -250,10 +255,7 @@ private:
     void entraEnTabulador(Qt::FocusReason razon);
     void saleHaciaDelante();
 
-    ElementosControl elementos_;
-    SistemaQt propio_;
-    SistemaQt& sistema_; ///< `propio_` o uno compartido
-    CajaTextoQt caja_;
+    const std::unique_ptr<Piezas> piezas_;
     Norvik control_;
     bool pulsada_ = false;                    ///< la superficie, con el botón izquierdo
     std::set<std::u16string> fallosContados_; ///< de un texto demasiado largo

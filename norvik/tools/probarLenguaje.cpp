@@ -3,6 +3,7 @@
 #include "norvik/tools/probarLenguaje.hpp"
 
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/procesando.hpp"
 
 namespace norvik {

@@ -4,6 +4,8 @@
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/historial.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QCloseEvent>

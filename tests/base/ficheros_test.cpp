@@ -4,6 +4,7 @@
 
 #include "apoyo/carpetaTemporal.hpp"
 #include "apoyo/repite.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 // Searching and replacing, as the find and the replace dialog do it.
 #include "apoyo/anfitrion.hpp"
 #include "norvik/control/buscador.hpp"
+#include "norvik/control/historial.hpp"
 
 #include <gtest/gtest.h>
 

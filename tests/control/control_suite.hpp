@@ -7,6 +7,7 @@
 #include "apoyo/carpetaTemporal.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/historial.hpp"
 #include "norvik/control/norvik.hpp"
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"

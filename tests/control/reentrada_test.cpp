@@ -4,6 +4,7 @@
 // with, at each event of each operation. What must not be touched then is for the sanitizers to say.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/carpetaTemporal.hpp"
+#include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "apoyoGramatica.hpp"
 #include "lecturaLiteral.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <gtest/gtest.h>

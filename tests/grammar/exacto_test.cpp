@@ -5,7 +5,11 @@
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/earley.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/conjuntos.hpp"
 #include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
+#include "norvik/grammar/reglasPartidas.hpp"
+#include "norvik/grammar/tablaLR.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramatica.hpp"
 

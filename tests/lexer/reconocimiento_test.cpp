@@ -2,8 +2,10 @@
 
 #include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/pattern/emparejador.hpp"
 
 #include <gtest/gtest.h>
 

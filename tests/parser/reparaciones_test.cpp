@@ -4,6 +4,7 @@
 #include "apoyo/repite.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lenguaje.hpp"
 

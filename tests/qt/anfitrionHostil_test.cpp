@@ -4,7 +4,9 @@
 // program, what a host may do: delete it, now or later, throw, or load, compile and parse. What must not be
 // touched then is for the sanitizers to say.
 #include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 
 #include <QApplication>

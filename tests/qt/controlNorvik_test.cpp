@@ -2,6 +2,8 @@
 
 // The control on a form: what is typed, clicked and shown.
 #include "norvik/base/errores.hpp"
+#include "norvik/control/historial.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 

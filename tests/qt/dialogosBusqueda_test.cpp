@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // The find and the replace dialog, as a person uses them.
+#include "norvik/control/estadoBusqueda.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"

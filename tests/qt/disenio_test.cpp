@@ -3,9 +3,11 @@
 // The windows of design time: one round trip from the language page to a loaded module, and every way in
 // which it can fail. Boxes and modal windows are answered by the system.
 #include "apoyo/carpetaTemporal.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/codigoGramatica.hpp"
 #include "norvik/tools/directorio.hpp"

@@ -2,6 +2,7 @@
 
 // The tab key in the forms that hosts make, none of which arranges anything: Tab writes, Shift+Tab goes to
 // whom stands before, Ctrl+Tab to whom stands behind.
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 

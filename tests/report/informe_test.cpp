@@ -2,7 +2,7 @@
 
 #include "grammar/apoyoGramatica.hpp"
 
-#include "norvik/base/ficheros.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/report/identificadorCpp.hpp"
 

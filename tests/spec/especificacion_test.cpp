@@ -3,6 +3,7 @@
 // The language of specifications and its compilation, through the control.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/repite.hpp"
+#include "norvik/pattern/emparejador.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 

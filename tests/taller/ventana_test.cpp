@@ -10,8 +10,10 @@
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QTest>
 #include <QtWidgets>

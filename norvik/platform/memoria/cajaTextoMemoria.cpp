@@ -2,6 +2,7 @@
 
 #include "norvik/platform/memoria/cajaTextoMemoria.hpp"
 
+#include "norvik/base/lineas.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
@@ -9,10 +10,14 @@
 
 namespace norvik {
 
+CajaTextoMemoria::CajaTextoMemoria() : lineas_(std::make_unique<IndiceLineas>()) {}
+
+CajaTextoMemoria::~CajaTextoMemoria() = default;
+
 const IndiceLineas& CajaTextoMemoria::lineas() const {
-    if (!lineasAlDia_) lineas_.reconstruye(texto_);
+    if (!lineasAlDia_) lineas_->reconstruye(texto_);
     lineasAlDia_ = true;
-    return lineas_;
+    return *lineas_;
 }
 
 std::int32_t CajaTextoMemoria::lineaDeCaracter(std::int32_t posicion) const {

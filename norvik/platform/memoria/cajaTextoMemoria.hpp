@@ -3,7 +3,6 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
-#include "norvik/base/lineas.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <memory>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace norvik {
+
+class IndiceLineas;
 
 /// Caracteres seguidos del mismo color. Posiciones desde 0.
 struct TramoDeColor {
@@ -26,6 +27,11 @@ struct TramoDeColor {
 /// mide el trozo.
 class NORVIK_API CajaTextoMemoria : public CajaTexto {
 public:
+    CajaTextoMemoria();
+    CajaTextoMemoria(const CajaTextoMemoria&) = delete;
+    CajaTextoMemoria& operator=(const CajaTextoMemoria&) = delete;
+    ~CajaTextoMemoria() override;
+
     std::u16string_view texto() const override { return texto_; }
     std::int32_t lineaDeCaracter(std::int32_t posicion) const override;
     std::int32_t inicioDeLinea(std::int32_t linea) const override;
@@ -125,7 +131,7 @@ private:
     std::int32_t margenDerecho_ = 0;
     std::int32_t izquierda_ = 0;
     std::shared_ptr<const char> testigo_ = std::make_shared<char>();
-    mutable IndiceLineas lineas_;
+    const std::unique_ptr<IndiceLineas> lineas_;
     mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio
 };
 
