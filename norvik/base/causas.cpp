@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -52,4 +52,4 @@ std::u16string causaDelSistema(int codigo) {
     return u"error " + aTexto(codigo) + u" del sistema";
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

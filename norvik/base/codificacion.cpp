@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -75,4 +75,4 @@ std::u16string normalizaLineas(std::u16string_view texto) {
     return resultado;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

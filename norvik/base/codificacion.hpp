@@ -7,7 +7,7 @@
 #include <string_view>
 
 // The texts of files: their bytes and their line ends.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// UTF-16 begins with a mark, whose order its units have; nothing for bytes that are no such text.
 std::optional<std::u16string> desdeUtf16(std::string_view bytes);
@@ -34,4 +34,4 @@ private:
 /// The lines of a text (ended by CR LF, CR or LF) joined by CR LF, without the last line end.
 std::u16string normalizaLineas(std::u16string_view texto);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

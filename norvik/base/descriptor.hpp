@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Writes all bytes to an open file of the system; false, with the cause in errno, when that fails.
 inline bool escribeTodo(int descriptor, std::string_view bytes) {
@@ -51,4 +51,4 @@ private:
     int numero_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Gravedad : std::uint8_t { Error, Aviso, Nota };
 
@@ -133,4 +133,4 @@ NORVIK_API std::u16string mensaje(const Diagnostico& diagnostico);
 /// Si alguno de ellos es un error.
 NORVIK_API bool hayErrores(const std::vector<Diagnostico>& diagnosticos);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include "norvik/base/palabras.hpp"
 #include "norvik/base/texto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -41,4 +41,4 @@ NoCoincidenLosTipos::NoCoincidenLosTipos(std::u16string_view texto) : ErrorNorvi
 ArgumentoNoValido::ArgumentoNoValido(std::u16string_view texto) : ErrorNorvik(texto) {}
 ErrorDeFichero::ErrorDeFichero(std::u16string_view texto) : ErrorNorvik(texto) {}
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Raíz de los fallos que lanzan las operaciones. Su texto está en español y es para el usuario.
 class NORVIK_API ErrorNorvik : public std::runtime_error {
@@ -90,4 +90,4 @@ public:
     explicit ErrorDeFichero(std::u16string_view texto);
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

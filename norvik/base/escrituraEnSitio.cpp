@@ -24,7 +24,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -120,4 +120,4 @@ bool escribeEnSuSitio(const fs::path& fichero, const Llenado& llenado, Durabilid
                          decodifica(copia->queda().native()) + u"»");
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <functional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Durabilidad;
 
@@ -26,4 +26,4 @@ auto sinInterrupcion(Llamada llamada) {
     return resultado;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

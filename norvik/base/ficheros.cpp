@@ -29,7 +29,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -350,4 +350,4 @@ void escribeTexto(const fs::path& fichero, const TextoPorPiezas& piezas, Durabil
     escribeTexto(fichero, deUnaPieza(piezas), durabilidad);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class Descriptor;
 
@@ -77,4 +77,4 @@ NORVIK_API std::u16string deUnaPieza(const TextoPorPiezas& piezas);
 NORVIK_API void escribeTexto(const std::filesystem::path& fichero, const TextoPorPiezas& piezas,
                              Durabilidad durabilidad);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -157,4 +157,4 @@ std::u16string_view nombreDe(SaltoDeFichero salto) {
     return {};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <string_view>
 
 // How a file has its text, so that a person's document is written back as it was read.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Codificacion : std::uint8_t { Utf8, Utf8ConMarca, Windows1252, Utf16Le, Utf16Be };
 enum class SaltoDeFichero : std::uint8_t { Lf, CrLf, Cr };
@@ -37,4 +37,4 @@ TextoCodificado codifica(std::u16string_view texto, const FormatoTexto& formato)
 std::u16string_view nombreDe(Codificacion codificacion);
 std::u16string_view nombreDe(SaltoDeFichero salto);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -2,7 +2,7 @@
 
 #include "norvik/base/html.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::u16string escapaHtml(std::u16string_view texto) {
     std::u16string html;
@@ -23,4 +23,4 @@ std::u16string escapaHtml(std::u16string_view texto) {
     return html;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Whether a character only says in which direction those after it are written: with it a text can show
 /// something else than it is.
@@ -16,4 +16,4 @@ constexpr bool esDeDireccion(char16_t c) {
 /// A text as it stands in HTML or XML, between tags or quotes.
 std::u16string escapaHtml(std::u16string_view texto);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

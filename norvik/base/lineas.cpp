@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void IndiceLineas::reconstruye(std::u16string_view texto) {
     inicios_.assign(1, 0);
@@ -34,4 +34,4 @@ std::int32_t IndiceLineas::inicioDe(std::int32_t linea) const {
     return linea < 0 || linea >= numLineas() ? -1 : inicios_[static_cast<std::size_t>(linea)];
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Where the lines of a text start. Positions and lines are 0-based; a line break is CR LF, CR or LF and
 /// belongs to the line that it ends. A text has one line at least.
@@ -27,4 +27,4 @@ private:
     mutable std::size_t ultima_ = 0; ///< line of the last question: readers ask for ascending positions
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

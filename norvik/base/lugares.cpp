@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -58,4 +58,4 @@ Punto Lugares::punto(std::size_t indice) const {
     return {aqui, static_cast<std::int32_t>(linea - lineas_.begin()) + 1, aqui - desplazamiento(*linea) + 1};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Where the characters of a text stand, told in the units of whoever gave it. The text itself, in UTF-16,
 /// is kept by its owner, and must stay as long as this. Asking changes nothing: several threads may.
@@ -32,4 +32,4 @@ private:
     std::vector<std::int32_t> tramos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <new>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Memory for RapidJSON, whose own allocator writes through null when there is none: this one raises.
 struct MemoriaJson {
@@ -23,4 +23,4 @@ struct MemoriaJson {
     static void Free(void* memoria) { ::operator delete(memoria); }
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

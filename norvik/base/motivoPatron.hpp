@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Why a definition has no pattern, or one that is malformed.
 enum class MotivoPatron : std::uint8_t {
@@ -25,4 +25,4 @@ enum class MotivoPatron : std::uint8_t {
     DemasiadoLargo,   ///< once it is expanded
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

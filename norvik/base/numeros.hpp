@@ -9,7 +9,7 @@
 #include <string_view>
 #include <type_traits>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Narrows an integer to `Destino`. Raises `Desbordamiento`, which says what the number is, when it does not
 /// fit.
@@ -36,4 +36,4 @@ constexpr std::int32_t a32(Origen valor, std::u16string_view que = u"el número"
     return estrecha<std::int32_t>(valor, que);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <array>
 #include <initializer_list>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -317,4 +317,4 @@ bool hayErrores(const std::vector<Diagnostico>& diagnosticos) {
                                [](const Diagnostico& d) { return d.gravedad == Gravedad::Error; });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

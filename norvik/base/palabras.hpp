@@ -10,7 +10,7 @@
 
 // The fixed messages of a parse, of definitions and of the grammar check: programs compare and show them, so
 // that they stay to the letter. Lines and columns count from 1.
-namespace norvik::palabras {
+namespace norvik::inline v0_2::palabras {
 
 /// "(Línea 3, Columna 6)"
 std::u16string lineaColumna(std::int32_t linea, std::int32_t columna);
@@ -38,4 +38,4 @@ std::u16string yTambien(std::u16string_view uno, std::u16string_view otro);
 /// A text between apostrophes.
 std::u16string entreApostrofos(std::u16string_view texto);
 
-} // namespace norvik::palabras
+} // namespace norvik::inline v0_2::palabras

@@ -9,7 +9,7 @@
 #include <stop_token>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// How long a whole operation (a recognition, a search, a parse) may take, and as long as nobody cancels it.
 class Presupuesto {
@@ -78,4 +78,4 @@ private:
     std::size_t pasos_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -19,7 +19,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -81,4 +81,4 @@ void NombresProvisionales::quitaAbandonados() const {
     for (int numero = 0; numero < habituales; ++numero) quitaSiEsDeNadie(nombre(numero));
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

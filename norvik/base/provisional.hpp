@@ -9,7 +9,7 @@
 #include <string_view>
 #include <sys/types.h>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Files that stand beside another one while it is being written, and what is left of them when their process
 /// was killed.
@@ -35,4 +35,4 @@ private:
     std::string final_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Un lugar de un texto. Las unidades son las de quien dio el texto: bytes de UTF-8 o unidades UTF-16.
 struct Punto {
@@ -23,4 +23,4 @@ struct Rango {
     bool operator==(const Rango&) const = default;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <memory>
 #include <type_traits>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -226,4 +226,4 @@ bool esIdentificador(std::u16string_view texto) {
            std::ranges::all_of(texto, [&](char16_t c) { return esCifra(c) || esLetra(c); });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

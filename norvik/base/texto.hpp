@@ -11,7 +11,7 @@
 #include <string_view>
 
 // El texto es UTF-16 y un carácter es una unidad. Solo se convierte a bytes en la frontera.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// El salto de línea de los textos, dos caracteres.
 inline constexpr std::u16string_view saltoDeLinea = u"\r\n";
@@ -57,4 +57,4 @@ constexpr bool esMayusculaAZ(char16_t c) {
     return c >= u'A' && c <= u'Z';
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/recorridoEjemplo.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::vector<std::u16string> hojas(const ArbolEjemplo& arbol) {
     std::vector<std::u16string> lista;
@@ -35,4 +35,4 @@ std::u16string enTexto(const ArbolEjemplo& arbol) {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

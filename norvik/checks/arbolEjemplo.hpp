@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Un símbolo de un árbol de ejemplo.
 struct NodoEjemplo {
@@ -32,4 +32,4 @@ NORVIK_API std::vector<std::u16string> hojas(const ArbolEjemplo& arbol);
 /// «S1[a S2[Ø]]», con el número de cada regla: dos árboles son el mismo cuando lo es este texto.
 NORVIK_API std::u16string enTexto(const ArbolEjemplo& arbol);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 ColumnasEarley::ColumnasEarley(const exacto::Producciones& producciones, const DerivacionesMinimas& minimas)
     : producciones_(producciones), minimas_(minimas) {
@@ -143,4 +143,4 @@ std::vector<Simbolo> ColumnasEarley::completa(std::size_t columna) const {
     return frase;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

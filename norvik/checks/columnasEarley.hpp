@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Earley's recogniser over a tree of beginnings: each has a column, and those that begin alike share theirs.
 /// Rules from which no text comes do not count, so that a beginning with items has a text that goes on with
@@ -58,4 +58,4 @@ private:
     std::size_t trabajo_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

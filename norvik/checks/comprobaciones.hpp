@@ -10,7 +10,7 @@
 #include <vector>
 
 // The checks of a specification, each group by itself: what is odd in it although it may compile.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Of definitions: those that nobody uses, stand twice or never win, and patterns that can take nothing.
 /// A cancellation is the last thing found.
@@ -23,4 +23,4 @@ void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vec
 void compruebaDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
                          const Directivas& directivas, std::vector<Diagnostico>& hallazgos);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -95,4 +95,4 @@ void compruebaDirectivas(std::u16string_view especificacion, const FuenteEspecif
     RevisorDirectivas(especificacion, fuente, directivas, hallazgos).revisa();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

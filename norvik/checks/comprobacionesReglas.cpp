@@ -15,7 +15,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -217,4 +217,4 @@ void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vec
     if (!fuente.reglas.empty()) Revisor(fuente, metodo, hallazgos).revisa();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -20,7 +20,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -183,4 +183,4 @@ void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& direc
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

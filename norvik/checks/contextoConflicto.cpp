@@ -15,7 +15,7 @@
 #include <tuple>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -206,4 +206,4 @@ void ContextoConflicto::monta(ArbolEjemplo& arbol, std::int32_t nodo,
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

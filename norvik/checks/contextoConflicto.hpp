@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Where an example begins: a state, and for each of two parsers an item of it whose head a token has to
 /// follow, or none when anything may.
@@ -54,4 +54,4 @@ private:
     Simbolo token_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

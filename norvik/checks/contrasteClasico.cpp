@@ -20,7 +20,7 @@
 #include <tuple>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -188,4 +188,4 @@ ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const Li
     return todos;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

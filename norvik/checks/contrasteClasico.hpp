@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Dónde están las reglas de una gramática en su especificación, en su orden; vacío si no se sabe.
 struct LugaresReglas {
@@ -34,4 +34,4 @@ struct ConflictosClasicos {
 
 ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const LimitesHistorias& limites = {});
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

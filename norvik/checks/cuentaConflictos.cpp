@@ -18,7 +18,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -295,4 +295,4 @@ std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, co
     return historias;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 using Cura = HistoriaConflicto::Cura;
 using Contraria = CasoConflicto::Contraria;
@@ -92,4 +92,4 @@ bool CurasConflicto::tiene(Metodo metodo, const Firma& firma) {
     return suyas->contains(firma);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Finds what usually cures a conflict of a grammar: by the shape of its rules where it is ambiguous, by
 /// building the other tables where it is not known to be. The grammar outlives it.
@@ -49,4 +49,4 @@ private:
 /// «E -> E mas E»
 std::u16string textoDeRegla(const ReglasPartidas& reglas, std::int16_t regla);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

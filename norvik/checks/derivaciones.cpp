@@ -14,7 +14,7 @@
 #include <limits>
 #include <unordered_map>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -156,4 +156,4 @@ Derivaciones::Frase Derivaciones::conRegla(std::int16_t numero, std::size_t huec
     return frase;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

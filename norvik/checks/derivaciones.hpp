@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Sentences of a grammar as sequences of tokens. A symbol is the number of a token, or minus that of a
 /// variable; a name that nothing defines is 0, and no rule with it takes part.
@@ -60,4 +60,4 @@ private:
     std::vector<Paso> pasos_;                           // by variable
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -229,4 +229,4 @@ std::optional<ArbolEjemplo> DerivacionesMinimas::enTokens(const ArbolEjemplo& ar
     return crecido;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

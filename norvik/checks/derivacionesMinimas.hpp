@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The shortest texts of a grammar's variables, as trees. The rules outlive it.
 class DerivacionesMinimas {
@@ -80,4 +80,4 @@ private:
     std::map<Simbolo, Comienzos> comienzos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

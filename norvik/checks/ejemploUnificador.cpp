@@ -17,7 +17,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -262,4 +262,4 @@ HallazgoUnificador buscaUnificador(const CasoConflicto& caso, const GrafoAutomat
     return Buscador(caso, grafo, producciones, minimas, siguientes).busca(limite, cabe);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

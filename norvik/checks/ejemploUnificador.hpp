@@ -13,7 +13,7 @@
 #include <functional>
 #include <optional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What a conflict's cell asks to choose from: a reduction, and another one, a shift of the token or
 /// accepting.
@@ -55,4 +55,4 @@ HallazgoUnificador buscaUnificador(const CasoConflicto& caso, const GrafoAutomat
                                    const std::vector<exacto::Bits>& siguientes, const LimiteBusqueda& limite,
                                    const std::function<bool(std::int16_t, Simbolo)>& cabe);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -17,7 +17,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -211,4 +211,4 @@ Frases frasesDe(const Lenguaje& lenguaje, const OpcionesFrases& opciones) {
     return opciones.cuantas == 0 ? escritor.todasLasReglas() : escritor.alAzar(opciones.cuantas);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 struct OpcionesFrases {
     std::size_t cuantas = 0; ///< at random; 0 for few that use every rule
@@ -27,4 +27,4 @@ struct Frases {
 /// same texts; there are fewer where none was found.
 Frases frasesDe(const Lenguaje& lenguaje, const OpcionesFrases& opciones);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -15,7 +15,7 @@
 #include <set>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -185,4 +185,4 @@ FrasesDistintas buscaFrasesDistintas(const Reglas& reglas, const exacto::Producc
     return Buscador(reglas, producciones, tabla).busca(limite);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Texts of which a table says something else than the grammar, in tokens.
 struct FrasesDistintas {
@@ -29,4 +29,4 @@ struct LimiteFrases {
 FrasesDistintas buscaFrasesDistintas(const Reglas& reglas, const exacto::Producciones& producciones,
                                      const TablaLR& tabla, const LimiteFrases& limite = {});
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include "norvik/spec/nodoEspecificacion.hpp"
 #include "norvik/spec/recorridoEspecificacion.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -54,4 +54,4 @@ FuenteEspecificacion fuenteDe(const Analisis& especificacion) {
     return fuente;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

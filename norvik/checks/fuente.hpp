@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A specification as it is written, with the place of everything in it.
 struct FuenteEspecificacion {
@@ -43,4 +43,4 @@ struct FuenteEspecificacion {
 /// Of the analysis of a specification that was accepted.
 FuenteEspecificacion fuenteDe(const Analisis& especificacion);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 GrafoAutomata::GrafoAutomata(const exacto::Producciones& producciones, const AutomataLR& automata,
                              const DerivacionesMinimas& minimas)
@@ -68,4 +68,4 @@ std::vector<std::int16_t> GrafoAutomata::caminoHasta(std::int16_t estado) const 
     return camino;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// An exact automaton as a graph to be walked both ways. Symbols from which no text comes lead nowhere, since
 /// no example can have them. Rules and automaton outlive it.
@@ -66,4 +66,4 @@ private:
     std::vector<std::int16_t> anteriores_; // on the shortest way
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

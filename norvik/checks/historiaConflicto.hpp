@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Una de las dos acciones entre las que duda una celda.
 struct AccionConflicto {
@@ -87,4 +87,4 @@ struct LimitesHistorias {
     std::stop_token cancelacion{};
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -152,4 +152,4 @@ std::u16string enHtml(const HistoriaConflicto& historia) {
     return html + parrafo(u"Qué hacer: " + palabras::remedio(historia)) + u"</section>\n";
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -144,4 +144,4 @@ bool seCuentanIgual(const HistoriaConflicto& una, const HistoriaConflicto& otra)
            una.acciones[0].tipo == otra.acciones[0].tipo && una.acciones[1].regla == otra.acciones[1].regla;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// La historia de un conflicto para una terminal: líneas de no más de 80 caracteres, acabadas en un salto de
 /// línea, con los dos árboles dibujados.
@@ -15,4 +15,4 @@ NORVIK_API std::u16string enTexto(const HistoriaConflicto& historia);
 /// Si de dos conflictos se dice lo mismo, salvo el token: uno basta a una persona.
 NORVIK_API bool seCuentanIgual(const HistoriaConflicto& una, const HistoriaConflicto& otra);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

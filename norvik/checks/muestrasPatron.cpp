@@ -14,7 +14,7 @@
 #include <cstdint>
 #include <random>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -155,4 +155,4 @@ bool esMasLegible(std::u16string_view uno, std::u16string_view otro) {
     return std::pair(raros(uno), uno.size()) < std::pair(raros(otro), otro.size());
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Different texts that a well-formed pattern takes as a whole, at most so many, the same ones each time.
 /// None of a pattern that needs more text around it, or whose texts are not found by trying; fewer
@@ -19,4 +19,4 @@ std::vector<std::u16string> muestrasDe(std::u16string_view patron, bool ignoraMa
 /// Whether a person reads the one more easily: plain characters first, few of them.
 bool esMasLegible(std::u16string_view uno, std::u16string_view otro);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

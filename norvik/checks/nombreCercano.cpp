@@ -11,7 +11,7 @@
 #include <cstddef>
 #include <numeric>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -51,4 +51,4 @@ std::u16string nombreCercano(std::u16string_view nombre, const std::vector<std::
     return std::u16string(cercano);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/base/texto.hpp"
 
-namespace norvik::palabras {
+namespace norvik::inline v0_2::palabras {
 
 namespace {
 
@@ -191,4 +191,4 @@ std::u16string frase(const EjemploConflicto& ejemplo) {
     return texto;
 }
 
-} // namespace norvik::palabras
+} // namespace norvik::inline v0_2::palabras

@@ -9,7 +9,7 @@
 #include <string_view>
 
 // What is said of a conflict, sentence by sentence: text and page put it together each in its way.
-namespace norvik::palabras {
+namespace norvik::inline v0_2::palabras {
 
 /// Where it is, what the table does there and what else it could do.
 std::u16string planteamiento(const HistoriaConflicto& historia);
@@ -27,4 +27,4 @@ std::u16string_view nombreDe(HistoriaConflicto::Cura cura);
 /// "a b • c"
 std::u16string frase(const EjemploConflicto& ejemplo);
 
-} // namespace norvik::palabras
+} // namespace norvik::inline v0_2::palabras

@@ -9,7 +9,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -98,4 +98,4 @@ std::vector<std::u16string> porqueSigue(const Producciones& producciones, Deriva
     return Explicador(producciones, minimas, token).explica(cabeza);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

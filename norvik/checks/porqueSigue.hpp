@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Why a token can follow a head, as few rules as it takes, one line each: that in which something that
 /// begins with the token stands behind a variable, those by which the head ends that variable, those by which
@@ -16,4 +16,4 @@ namespace norvik {
 std::vector<std::u16string> porqueSigue(const exacto::Producciones& producciones,
                                         DerivacionesMinimas& minimas, Simbolo cabeza, Simbolo token);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::optional<ArbolEjemplo> arbolPorTabla(const TablaLR& tabla, const Reglas& reglas,
                                           const std::vector<std::u16string>& frase) {
@@ -45,4 +45,4 @@ std::optional<ArbolEjemplo> arbolPorTabla(const TablaLR& tabla, const Reglas& re
     return std::nullopt;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

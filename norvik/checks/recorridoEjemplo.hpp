@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Goes through a tree in order: `entra` with each node and its level (the root's is 0) before its children,
 /// `sale` with it after them.
@@ -32,4 +32,4 @@ void recorre(const ArbolEjemplo& arbol, const Entra& entra, const Sale& sale) {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -19,7 +19,7 @@
 #include <string>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -223,4 +223,4 @@ std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
     return hallazgos;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

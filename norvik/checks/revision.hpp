@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Todo lo que está mal o llama la atención en una especificación, en el orden del texto: lo que dice
 /// compilarla, con el nombre que quizá se quiso escribir donde nadie conoce el escrito, y lo que no impide
@@ -31,4 +31,4 @@ NORVIK_API std::vector<Hallazgo> revisaConHistorias(std::u16string_view especifi
                                                     const OpcionesCompilacion& opciones = {},
                                                     const LimitesHistorias& limites = {});
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -19,7 +19,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -156,4 +156,4 @@ std::string BolsaPropiedades::aJson() const {
     return escritor.texto();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -117,4 +117,4 @@ void BolsaPropiedades::aFichero(const std::filesystem::path& fichero) const {
     escribeBytes(fichero, aJson(), Durabilidad::EnDisco);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

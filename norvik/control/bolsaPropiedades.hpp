@@ -13,7 +13,7 @@
 #include <variant>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Una bolsa de propiedades: valores con nombre y tipo, en el orden en que se escribieron. Se guarda en un
 /// fichero JSON que una persona puede leer y comparar: `true` y `false`, números, textos, y una fuente como
@@ -73,4 +73,4 @@ private:
     std::vector<std::pair<std::u16string, Valor>> valores_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -162,4 +162,4 @@ void Buscador::avisa(std::u16string_view texto, std::u16string_view titulo, Icon
     if (cede) ponEncima(true);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

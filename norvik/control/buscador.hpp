@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The texts of the direction list, in its order.
 inline constexpr std::array<std::u16string_view, 3> direccionesBusqueda = {u"Todo", u"Arriba", u"Abajo"};
@@ -64,4 +64,4 @@ private:
     EstadoBusqueda& estado_ = estadoBusqueda();
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

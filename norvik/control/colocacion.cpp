@@ -2,7 +2,7 @@
 
 #include "norvik/control/colocacion.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 Superficie Colocacion::superficie() const {
     const Contenedor::Medidas m = contenedor_->medidas();
@@ -27,4 +27,4 @@ void Colocacion::ajustaIzquierdaTexto() {
     if (--oculto_ == 0) caja_->ponIzquierda(izquierdaDelTexto(superficie()));
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

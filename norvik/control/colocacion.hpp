@@ -7,7 +7,7 @@
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Lays the control out by its options, and moves the text box out of view while it is worked on.
 class Colocacion {
@@ -43,4 +43,4 @@ private:
     Colocacion& colocacion_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin) {
     const std::int32_t inicioSeleccion = caja_->inicioSeleccion();
@@ -46,4 +46,4 @@ void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const e
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Paints the tokens of a range of the text box, and nothing else.
 class Coloreado {
@@ -30,4 +30,4 @@ private:
     const Opciones& opciones_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 struct signoDebuger;
 
@@ -59,4 +59,4 @@ inline Contenedor& sinContenedor() {
     return ninguno;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include <array>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What a host developer reads about a member of the control, where its development tool shows such texts.
 struct Descripcion {
@@ -32,4 +32,4 @@ inline constexpr std::array<Descripcion, 9> descripciones = {{
      u"Colorea guiado por la sintaxis la línea en la que se encuentra el punto de inserción."},
 }};
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

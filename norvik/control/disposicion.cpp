@@ -2,7 +2,7 @@
 
 #include "norvik/control/disposicion.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -66,4 +66,4 @@ LugarDeSigno lugarDeSigno(std::int32_t linea, std::int32_t primeraLineaVisible, 
     return {izquierda, (linea - 1 - primeraLineaVisible) * altoDeLinea};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Dónde están los elementos de un control dentro de su rectángulo. Todas las longitudes, en twips.
 
@@ -70,4 +70,4 @@ struct LugarDeSigno {
 NORVIK_API LugarDeSigno lugarDeSigno(std::int32_t linea, std::int32_t primeraLineaVisible,
                                      std::int32_t altoDeLinea);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void Edicion::conecta(std::weak_ptr<const void> duenio) {
     CajaTexto::Eventos& e = caja_->eventos;
@@ -115,4 +115,4 @@ void Edicion::tabula() {
     paso.acaba();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <memory>
 #include <optional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What happens in the text box, and what of it reaches the host: its lines are told, each change is
 /// recorded, new lines are indented.
@@ -59,4 +59,4 @@ private:
     bool callada_ = false;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void DestinoBusqueda::descubreSeleccion() {
     if (textoDestino == nullptr) return;
@@ -23,4 +23,4 @@ void EstadoBusqueda::apunta(DestinoBusqueda destino) {
     if (dialogoAbierto) descubreSeleccion();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

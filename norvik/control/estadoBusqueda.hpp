@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The text that a dialog searches.
 struct NORVIK_API DestinoBusqueda {
@@ -48,4 +48,4 @@ inline EstadoBusqueda& estadoBusqueda() {
     return estado;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Los eventos del control hacia su anfitrión, con sus propios nombres. El receptor puede cambiar los
 /// argumentos. No se da ninguno mientras el propio control trabaja con su texto. Un cambio que también mueve
@@ -27,4 +27,4 @@ struct EventosControl {
     std::function<void()> SelChange; ///< no mientras Undo y Redo reescriben el texto
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -82,4 +82,4 @@ std::optional<LenguajeAparte::Fallo> LenguajeAparte::construye(Norvik& especific
     return std::nullopt;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class Norvik;
 
@@ -52,4 +52,4 @@ private:
     pilaTokens lexico_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

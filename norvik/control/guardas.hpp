@@ -5,7 +5,7 @@
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The control's busy mark: while it lives, the box's events are ignored.
 class MarcaOcupado {
@@ -50,4 +50,4 @@ private:
     bool antes_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

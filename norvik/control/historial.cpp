@@ -14,7 +14,7 @@
 
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -174,4 +174,4 @@ void Historial::cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso) {
     paso([&] { caja_->selecciona(desde, longitud(r)); });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Undo and redo of the text box's changes. What a failure interrupts on the way is finished before the
 /// failure is raised, so that the lists agree with the text.
@@ -54,4 +54,4 @@ private:
     bool esSustitucion_ = false;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -94,4 +94,4 @@ void Instantaneas::vacia() {
     a16(habia, u"el número de cambios");
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// One snapshot: the text right after a change. Positions 0-based.
 struct UndoElement {
@@ -56,4 +56,4 @@ std::size_t prefijoComun(std::u16string_view a, std::u16string_view b);
 /// And at their end.
 std::size_t sufijoComun(std::u16string_view a, std::u16string_view b);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -192,4 +192,4 @@ void LineasEditadas::alPerderElFoco() {
     coloreaLinea(numeroDeLinea(lineaDelCursor()));
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// All that the control knows of the lines of its text: which one is being edited and shown plain, which one
 /// has the error colour, what waits to be coloured. It paints them, and nobody else does. Line numbers are
@@ -93,4 +93,4 @@ private:
     std::int32_t posicionAnterior_ = 0;  ///< and its position then
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

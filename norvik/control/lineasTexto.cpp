@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -49,4 +49,4 @@ std::u16string espacios(std::int16_t veces, std::int16_t ancho) {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A line (1-based) of a text whose lines end with CR LF, without its end; of an empty text the empty string.
 /// Raises `ArgumentoNoValido` when there is no such line.
@@ -20,4 +20,4 @@ std::int16_t numeroDeLinea(std::int32_t linea);
 /// 0.
 std::u16string espacios(std::int16_t veces, std::int16_t ancho);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include "norvik/control/partesControl.hpp"
 #include "norvik/parser/lectorTokens.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 Norvik::Norvik(CajaTexto& caja, Sistema& sistema, Contenedor& contenedor)
     : partes_(std::make_shared<PartesControl>(caja, sistema, contenedor)), eventos(partes_->eventos) {
@@ -188,4 +188,4 @@ void Norvik::TextoModificado(bool modificado) {
     if (!modificado) partes_->caja->ponModificado(false);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -26,7 +26,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class Historial;
 class PartesControl;
@@ -451,4 +451,4 @@ private:
     void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre);
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/control/partesControl.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 // --- Loading ---
 
@@ -153,4 +153,4 @@ std::u16string Norvik::DameStringLineaColumnaToken() const {
     return partes_->lector.DameStringLineaColumnaToken();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

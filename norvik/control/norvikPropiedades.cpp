@@ -5,7 +5,7 @@
 
 #include "norvik/control/partesControl.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 template <typename Tipo, typename Valor>
 void Norvik::pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
@@ -300,4 +300,4 @@ const Historial& Norvik::historial() const {
     return partes_->historial;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

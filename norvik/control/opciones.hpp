@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Las opciones que guarda el control, con los valores de un control nuevo. Los colores y `AutoNumero` son
 /// del analizador léxico; la fuente, de la caja de texto.
@@ -29,4 +29,4 @@ struct Opciones {
     bool pendienteGuardarG = false; ///< la especificación ha cambiado desde que se restauró el control
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

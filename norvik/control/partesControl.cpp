@@ -7,7 +7,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& suContenedor)
     : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lector(lexico, suCaja),
@@ -86,4 +86,4 @@ void PartesControl::Imprimir() const {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

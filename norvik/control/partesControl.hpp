@@ -26,7 +26,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The parts of a control, and what it does in several steps. A receiver of its events may delete the
 /// control: whoever carries out such steps holds the parts, which then go on for nobody, on a box and
@@ -92,4 +92,4 @@ private:
     SistemaMemoria sistemaDeNadie_{{}};
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -17,7 +17,7 @@
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// While it lives, nothing else is loaded or compiled.
 class PartesControl::Carga {
@@ -159,4 +159,4 @@ bool PartesControl::GeneraCompilador() {
     return true;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

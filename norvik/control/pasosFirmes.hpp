@@ -4,7 +4,7 @@
 
 #include <exception>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Steps that are all taken, whatever the host's receivers raise on the way: a text that has changed must not
 /// be left without what belongs to the change. The first failure is raised at the end.
@@ -27,4 +27,4 @@ private:
     std::exception_ptr primero_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

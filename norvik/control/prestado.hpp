@@ -2,7 +2,7 @@
 
 #pragma once
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Something that the parts of a control use and do not own, in one place for all of them: it can be
 /// exchanged when its owner is about to go.
@@ -22,4 +22,4 @@ private:
     Tipo* objeto_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

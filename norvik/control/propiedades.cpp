@@ -8,7 +8,7 @@
 #include <array>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void Propiedades::construye() {
     constexpr std::int32_t margenEnPixeles = 8192; // lines are never wrapped
@@ -236,4 +236,4 @@ void Propiedades::guardaFuente(BolsaPropiedades& bolsa) const {
     bolsa.escribeFuente(u"Font", fuente, omision);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

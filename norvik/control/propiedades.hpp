@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The option properties: what setting one does besides, their values in a new control, and how they are
 /// saved.
@@ -72,4 +72,4 @@ private:
     const Prestado<Contenedor>& contenedor_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

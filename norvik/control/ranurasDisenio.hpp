@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What the design-time tools work on instead of a control: one set for the whole process.
 struct RanurasDisenio {
@@ -20,4 +20,4 @@ inline RanurasDisenio& ranurasDisenio() {
     return ranuras;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/base/numeros.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 const signoDebuger& SignosDelBorde::ponSigno(std::int16_t linea) {
     constexpr std::size_t primero = 2;
@@ -13,4 +13,4 @@ const signoDebuger& SignosDelBorde::ponSigno(std::int16_t linea) {
     return signos_.emplace(indice, signoDebuger{indice, signoDebuger::error, linea}).first->second;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

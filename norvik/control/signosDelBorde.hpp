@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <map>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Una señal del borde izquierdo.
 struct signoDebuger {
@@ -34,4 +34,4 @@ private:
     PorIndice signos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

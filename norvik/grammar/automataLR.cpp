@@ -6,7 +6,7 @@
 
 #include <cstddef>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::u16string enTexto(const AutomataLR& automata) {
     std::u16string texto;
@@ -21,4 +21,4 @@ std::u16string enTexto(const AutomataLR& automata) {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// An LR automaton: the state at a place has that number. State 0 begins, state 1 is where the start symbol
 /// leads.
@@ -18,4 +18,4 @@ struct AutomataLR {
 /// «0: 1.0>2 2.0>-1», a line for each state: rule, dot and target of its items.
 std::u16string enTexto(const AutomataLR& automata);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Una entrada de una tabla SLR, con su fila y su columna desde 1.
 struct CeldaSLR {
@@ -13,4 +13,4 @@ struct CeldaSLR {
     std::int16_t valor = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -55,4 +55,4 @@ void Celdas::reserva(std::size_t celdas) {
     reservadas_ += celdas;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A table of 16-bit numbers, all 0 at first. A row takes memory once something is written in it or behind
 /// it, so that absurd dimensions cost nothing until they are filled, and one that is written whole takes none
@@ -85,4 +85,4 @@ private:
     std::size_t reservadas_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void reuneSimbolos(const ReglasPartidas& reglas, SimbolosTabla& simbolos) {
     std::vector<bool> vistos(reglas.numSimbolos());
@@ -50,4 +50,4 @@ std::size_t Columnas::de(Item item) const {
     return de(simbolo);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

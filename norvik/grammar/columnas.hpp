@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Adds to the symbols of a table those of a grammar: terminals and heads in order of first occurrence, then
 /// all of them in column order.
@@ -30,4 +30,4 @@ private:
     std::vector<int> codigos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 // Members stand in a vector in order of insertion; an open-addressing table of their positions, a power of
 // two at most half full, finds them. Its room is made before the member, so that whoever has no memory for
 // either is left with the set as it was.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -153,4 +153,4 @@ std::u16string conjunto::toStringConjunto() const {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

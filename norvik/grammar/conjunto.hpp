@@ -10,7 +10,7 @@
 #include <variant>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Un conjunto de símbolos o de números de regla, en el orden en que se insertaron por primera vez. Buscar
 /// cuesta lo mismo con cualquier tamaño; quitar cuesta lo que el conjunto mide.
@@ -60,4 +60,4 @@ private:
     std::vector<std::uint32_t> ranuras_; // open addressing: position of the member, 0 when free
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -2,7 +2,7 @@
 
 #include "norvik/grammar/conjuntos.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::u16string enTexto(const ConjuntoNumerado& conjunto, const ReglasPartidas& reglas) {
     std::u16string texto;
@@ -30,4 +30,4 @@ std::u16string enTexto(const Conjuntos& conjuntos, const ReglasPartidas& reglas)
            enTexto(conjuntos.siguientes, reglas) + u"\nPREDICT " + enTexto(conjuntos.predict, reglas) + u"\n";
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A finished set of symbols in order of insertion.
 struct ConjuntoNumerado {
@@ -78,4 +78,4 @@ private:
     std::vector<int> sitios_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

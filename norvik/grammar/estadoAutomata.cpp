@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -74,4 +74,4 @@ void estadoAutomata::aniade(Item item, bool pendiente) {
     adyacentes_.push_back(pendiente ? sinCalcular : sinTransicion);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

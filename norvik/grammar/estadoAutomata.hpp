@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Una regla, desde 1, y cuántos símbolos de su cuerpo hay delante del punto.
 struct Item {
@@ -67,4 +67,4 @@ private:
     std::vector<std::int16_t> adyacentes_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -17,7 +17,7 @@
 #include <utility>
 
 // The prescribed operations on rules, automaton and table. gramaticaConjuntos.cpp has those on sets.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 static_assert(gramatica::aceptar == TablaLR::aceptar && gramatica::maximoReglas == Reglas::maximo);
 
@@ -289,4 +289,4 @@ std::u16string gramatica::toStringEsperados(std::int16_t estado, const pilaToken
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -22,11 +22,11 @@
 #include <utility>
 #include <vector>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 struct Pendientes;
 }
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 struct GramaticaLR;
 class ReglasPartidas;
@@ -279,4 +279,4 @@ private:
     mutable std::mutex haciendoTextos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

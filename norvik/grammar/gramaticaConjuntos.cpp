@@ -11,7 +11,7 @@
 #include <algorithm>
 
 // The sets of a grammar as its operations show them: by name, with texts. The computations work on numbers.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -143,4 +143,4 @@ const gramatica::ConjuntosConTextos& gramatica::conTextos() const {
     return *conTextos_;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

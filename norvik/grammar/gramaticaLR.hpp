@@ -8,7 +8,7 @@
 #include "norvik/grammar/reglasPartidas.hpp"
 #include "norvik/grammar/tablaLR.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The grammar of a language and all that is derived from it, each part from those before it: `partidas` is
 /// made from the rules, sets, automaton and table by a method. A language that was loaded has rules and table
@@ -21,4 +21,4 @@ struct GramaticaLR {
     TablaLR tabla;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Cómo se hacen los conjuntos, el autómata y la tabla de una gramática.
 enum class Metodo : std::uint8_t {
@@ -28,4 +28,4 @@ constexpr std::optional<Metodo> metodoLlamado(std::u16string_view nombre) {
     return std::nullopt;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

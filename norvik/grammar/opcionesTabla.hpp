@@ -5,7 +5,7 @@
 #include "norvik/grammar/metodo.hpp"
 #include "norvik/grammar/precedencia.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Cómo se hace la tabla de una gramática.
 struct OpcionesTabla {
@@ -13,4 +13,4 @@ struct OpcionesTabla {
     Precedencias precedencias; ///< con los métodos exactos: lo que resuelven deja de ser un conflicto
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Qué se hace con «a op a op a» cuando todos los operadores son de un mismo nivel.
 enum class Asociatividad : std::uint8_t { Izquierda, Derecha, Ninguna };
@@ -20,4 +20,4 @@ struct NivelPrecedencia {
 /// De los que menos atan a los que más.
 using Precedencias = std::vector<NivelPrecedencia>;
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

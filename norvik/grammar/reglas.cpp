@@ -8,7 +8,7 @@
 #include <unordered_set>
 
 // The rules of a grammar, and the operations on the text of a body.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::u16string dameReglaString(std::u16string_view cuerpo, std::int16_t punto) {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A rule as it was stored.
 struct Regla {
@@ -68,4 +68,4 @@ void paraCadaSimbolo(std::u16string_view texto, const Accion& accion) {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 ReglasPartidas::ReglasPartidas(const Reglas& reglas, std::u16string_view otros) : reglas_(1) {
     numera(cadenaVacia);
@@ -57,4 +57,4 @@ void fallaVaciaSuelta(const ReglasPartidas& reglas, int regla) {
                                     u", Ø está junto a otros símbolos y no tiene columna en la tabla");
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Number of a symbol of the grammar.
 using Simbolo = std::int32_t;
@@ -98,4 +98,4 @@ private:
 /// column.
 [[noreturn]] void fallaVaciaSuelta(const ReglasPartidas& reglas, int regla);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

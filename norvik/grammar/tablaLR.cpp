@@ -10,7 +10,7 @@
 #include <tuple>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -112,4 +112,4 @@ std::u16string enTexto(const TablaLR& tabla) {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

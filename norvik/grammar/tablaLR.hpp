@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The symbols of a table: terminals and non-terminals, and all of them in column order.
 struct SimbolosTabla {
@@ -113,4 +113,4 @@ inline std::int16_t TablaLR::entrada(std::int16_t estado, std::int16_t codigo) c
     return guardada;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

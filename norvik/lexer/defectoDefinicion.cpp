@@ -6,7 +6,7 @@
 
 #include <variant>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -36,4 +36,4 @@ std::optional<DefectoPatron> defectoDeDefinicion(std::u16string_view texto,
     return defecto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class DefinicionesTokens;
 
@@ -17,4 +17,4 @@ class DefinicionesTokens;
 std::optional<DefectoPatron> defectoDeDefinicion(std::u16string_view texto,
                                                  const DefinicionesTokens& definiciones);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::u16string lecturaDePatron(std::u16string_view patron) {
     return lectura;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

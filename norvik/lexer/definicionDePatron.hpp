@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Loading modules hold patterns, that is, definitions expanded already.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The definition text whose expansion is a given pattern: expanding that as it stands would lose a backslash
 /// before another one.
@@ -16,4 +16,4 @@ std::u16string definicionDePatron(std::u16string_view patron);
 /// specification's patterns come from character codes, which leave none.
 std::u16string lecturaDePatron(std::u16string_view patron);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

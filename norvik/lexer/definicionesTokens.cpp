@@ -10,7 +10,7 @@
 #include <limits>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -82,4 +82,4 @@ std::u16string DefinicionesTokens::pseudoTokenPorToken(const parLT& tokenLexema)
     return {};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The definitions of a language in registration order: a value that moves as a whole. The definitions stay
 /// where they are for as long as they are kept, and never change.
@@ -40,4 +40,4 @@ private:
     std::size_t caracteres_ = 0; ///< of all patterns
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -15,7 +15,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -143,4 +143,4 @@ std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
     return Expansor(texto, definiciones).expande();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class DefinicionesTokens;
 
@@ -46,4 +46,4 @@ inline constexpr std::size_t maximoPatron = 32767;
 std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
                                                 const DefinicionesTokens& definiciones);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

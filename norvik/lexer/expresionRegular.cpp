@@ -9,7 +9,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 expresionRegular::expresionRegular() = default;
 expresionRegular::~expresionRegular() = default;
@@ -40,4 +40,4 @@ std::int16_t expresionRegular::Longitud() const {
     return a16(expresion.size());
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

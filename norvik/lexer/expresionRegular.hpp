@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class Emparejador;
 
@@ -53,4 +53,4 @@ public:
     std::int16_t Longitud() const;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

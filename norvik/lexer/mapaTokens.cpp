@@ -5,7 +5,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/lexer/expresionRegular.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void MapaTokens::vacia() {
     coincidencias_.vacia();
@@ -44,4 +44,4 @@ std::u16string MapaTokens::toString() const {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class expresionRegular;
 
@@ -68,4 +68,4 @@ private:
     MapaCoincidencias coincidencias_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

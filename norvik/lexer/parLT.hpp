@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Un lexema y el nombre de su token, como los devuelven los lectores.
 class parLT {
@@ -25,4 +25,4 @@ private:
     std::u16string token_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 pilaTokens::pilaTokens()
     : definiciones_(std::make_unique<DefinicionesTokens>()), mapaTokens_(definiciones_->tokens()) {}
@@ -74,4 +74,4 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
     return mapaTokens_;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -17,7 +17,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class DefinicionesTokens;
 class Reconocedor;
@@ -123,4 +123,4 @@ private:
     std::uint64_t edicion_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 
 #include <cstddef>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -31,4 +31,4 @@ void Reconocedor::reconoce(std::u16string_view texto, const Presupuesto& presupu
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Recognition with the token definitions of a language. It serves one text at a time, and any number of
 /// them: what texts have asked of its automata stays for the next one. Threads that share the definitions
@@ -31,4 +31,4 @@ private:
     BuscadorConjunto buscador_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -125,4 +125,4 @@ std::int32_t pilaTokens::colorDeTipo(std::int16_t tipo) const {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

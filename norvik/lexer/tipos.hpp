@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Clases de tokens.
 enum TipoExpReg : std::int16_t {
@@ -33,4 +33,4 @@ enum baseNumerica : std::int16_t {
 /// El color que significa ninguno; los demás son 0x00BBGGRR.
 inline constexpr std::int32_t sinColor = -1;
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

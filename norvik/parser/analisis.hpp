@@ -9,7 +9,7 @@
 #include <stop_token>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Qué errores de un texto se buscan.
 enum class ErroresBuscados : std::uint8_t {
@@ -41,4 +41,4 @@ struct Analisis {
     explicit operator bool() const { return !arbol.esVacio(); }
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

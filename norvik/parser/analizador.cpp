@@ -16,7 +16,7 @@
 #include <span>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -165,4 +165,4 @@ Lexemas Analizador::lexemas(std::unique_ptr<TextoAnalizado> texto, const Opcione
     return Lexemas(std::move(texto), std::move(errores));
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -17,7 +17,7 @@
 #include <optional>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class LectorTexto;
 class gramatica;
@@ -55,4 +55,4 @@ private:
     std::vector<std::int16_t> pasos_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

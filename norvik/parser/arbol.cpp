@@ -12,7 +12,7 @@
 #include <iterator>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -185,4 +185,4 @@ std::u16string Arbol::toString() const {
     return texto;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

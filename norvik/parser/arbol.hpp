@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class ArbolSintactico;
 class GeneracionArbol;
@@ -147,4 +147,4 @@ private:
     std::int32_t columna_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 struct Nodo::Contenido {
     struct Ficha {
@@ -213,4 +213,4 @@ Hijos::Iterador& Hijos::Iterador::operator++() {
     return *this;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

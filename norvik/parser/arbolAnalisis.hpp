@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class ArbolAnalisis;
 class Hijos;
@@ -173,4 +173,4 @@ void ArbolAnalisis::recorre(Nodo raiz, const Entra& entra, const Sale& sale) {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

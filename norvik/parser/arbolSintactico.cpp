@@ -18,7 +18,7 @@
 #include <memory>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void ArbolSintactico::reinicia() {
     activa_->retira();
@@ -145,4 +145,4 @@ void Arbol::SetHijoIzquierda(Arbol& hijo) {
     ++numHijos_;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <span>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A syntax tree: its root, the same node for its whole life, and the memory of all its other nodes and
 /// texts.
@@ -66,4 +66,4 @@ private:
     Arbol raiz_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

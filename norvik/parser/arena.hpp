@@ -9,7 +9,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Memory that is handed out piece by piece and taken back all at once. The blocks stay for the next use, so
 /// what was handed out remains readable memory for the arena's whole life.
@@ -66,4 +66,4 @@ private:
     std::span<std::byte> libre_; ///< what is left of the block in use
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

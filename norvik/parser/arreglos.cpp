@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -122,4 +122,4 @@ std::u16string Redactor::lexema(const TokenSituado& token) const {
     return texto_.texto.substr(token.inicio, token.fin - token.inicio);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Puts repairs of one error into words and changes of the text.
 class Redactor {
@@ -53,4 +53,4 @@ private:
     Lugar lugar_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

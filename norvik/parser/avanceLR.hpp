@@ -12,7 +12,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Avance : std::uint8_t { Desplazado, Aceptado, Rechazado, SinFin };
 
@@ -86,4 +86,4 @@ private:
     std::vector<std::int16_t> encima_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -27,7 +27,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -333,4 +333,4 @@ std::vector<Reparacion> buscaReparaciones(const LugarDeError& lugar, const Lengu
     return reparaciones;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

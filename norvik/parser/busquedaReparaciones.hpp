@@ -12,7 +12,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// One step of a repair: a token is put in, taken out, or kept.
 struct PasoReparacion {
@@ -39,4 +39,4 @@ struct LugarDeError {
 std::vector<Reparacion> buscaReparaciones(const LugarDeError& lugar, const LenguajeAnalisis& lenguaje,
                                           const FichasTokens& fichas, GastoReparaciones& gasto);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Runs of reductions by rules of one symbol that the parses of a language have made. Such a run leaves what
 /// stands below the top of the stack as it is, so that the two states at the top and the token's column say
@@ -87,4 +87,4 @@ private:
     std::size_t ocupados_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -16,7 +16,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -162,4 +162,4 @@ Mensaje ConductorSLR::informaErrorSintactico(std::u16string_view texto, std::int
     return {mensajeError_, u"ERROR de Sintaxis", Icono::Exclamacion, Botones::Aceptar};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

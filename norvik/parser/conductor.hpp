@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class FuenteTexto;
 class gramatica;
@@ -84,4 +84,4 @@ private:
     std::optional<Diagnostico> diagnostico_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

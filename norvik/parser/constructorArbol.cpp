@@ -15,7 +15,7 @@
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -107,4 +107,4 @@ void construyeArbol(ArbolSintactico& arbol, Traza& traza, const gramatica& grama
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -2,7 +2,7 @@
 
 #pragma once
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class ArbolSintactico;
 class Traza;
@@ -12,4 +12,4 @@ class gramatica;
 /// `IndiceNoValido` when the trace holds less than the tree needs; the tree is then empty again.
 void construyeArbol(ArbolSintactico& arbol, Traza& traza, const gramatica& gramatica);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/parser/erroresTexto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 // A definition may also be there to name what is wrong: its whole token is then a wrong character.
 EntradaTokens::Incorrectos EntradaTokens::saltaIncorrectos() {
@@ -22,4 +22,4 @@ EntradaTokens::Incorrectos EntradaTokens::saltaIncorrectos() {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <deque>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The tokens of a text from a wrong place on, by number, read as far ahead as somebody looks. Behind the
 /// last one the end repeats itself. Wrong characters are passed over.
@@ -70,4 +70,4 @@ private:
     std::size_t primero_ = 0; ///< number of the first that is kept
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

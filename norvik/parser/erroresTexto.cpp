@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -70,4 +70,4 @@ Diagnostico tokenInesperado(const Lectura& lectura, std::vector<std::u16string> 
     return diagnostico;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class FichasTokens;
 class LenguajeAnalisis;
@@ -42,4 +42,4 @@ std::vector<std::u16string> esperadosEn(std::span<const std::int16_t> pila, cons
 Diagnostico tokenInesperado(const Lectura& lectura, std::vector<std::u16string> esperados,
                             const Lugares& lugares, const pilaTokens& lexico);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

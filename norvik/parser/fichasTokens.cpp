@@ -12,7 +12,7 @@
 
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -59,4 +59,4 @@ void FichasTokens::anotaDefiniciones(const pilaTokens& lexico, const gramatica& 
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class gramatica;
 class pilaTokens;
@@ -43,4 +43,4 @@ private:
     std::vector<std::int16_t> insertables_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

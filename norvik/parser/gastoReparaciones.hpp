@@ -10,7 +10,7 @@
 #include <stop_token>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What all repairs of a text may spend. Steps end a search at the same point on any machine; the time is
 /// there for one that is too slow for them.
@@ -62,4 +62,4 @@ private:
     std::size_t sinConsultar_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The nodes of one tree and what their rules have in common, which are retired together: a node shows what
 /// its `FichaRegla` lets it, so that blanking those few makes each node read as initialised. The places of
@@ -127,4 +127,4 @@ private:
     std::size_t bytes_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Reads the tokens of a recognised text one by one, the last of them the end.
 class LectorTexto {
@@ -43,4 +43,4 @@ private:
     bool finalLeido_ = false;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

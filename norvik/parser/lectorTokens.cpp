@@ -11,7 +11,7 @@
 
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 LectorTokens::LectorTokens(pilaTokens& lexico, const FuenteTexto& editor)
     : lexico_(lexico), editor_(editor) {}
@@ -89,4 +89,4 @@ std::u16string LectorTokens::DameStringTokenLeido() const {
     return palabras::tokenLeido(descripcion, LineaToken(), ColumnaToken());
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

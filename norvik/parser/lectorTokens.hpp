@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class FuenteTexto;
 class pilaTokens;
@@ -87,4 +87,4 @@ private:
     Posicion ultimaPosicion_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A token in the form that costs nothing: the definition by its place in registration order, and a view of
 /// the lexeme that holds until the next recognition or change of the text.
@@ -76,4 +76,4 @@ Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTok
     return {{TokenLeido::fin, {}}, posicion, posicion};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What parses ask of their language again and again, by number instead of by name, and in the form that
 /// costs least.
@@ -98,4 +98,4 @@ private:
     std::int16_t columnaFin_ = columnaDesconocida;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

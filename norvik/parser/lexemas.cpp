@@ -9,7 +9,7 @@
 
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 Lexemas::Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores)
     : diagnosticos(std::move(errores)), texto_(std::move(texto)) {}
@@ -33,4 +33,4 @@ Lexema Lexemas::operator[](std::size_t indice) const {
             texto_->lugares.rango(token.inicio, token.fin), esComentario(tipo)};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

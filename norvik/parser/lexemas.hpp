@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 struct TextoAnalizado;
 
@@ -47,4 +47,4 @@ private:
     std::unique_ptr<const TextoAnalizado> texto_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

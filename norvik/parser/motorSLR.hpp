@@ -16,7 +16,7 @@
 #include <cstdint>
 #include <span>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Desenlace : std::uint8_t { Aceptado, ErrorLexico, ErrorSintactico };
 
@@ -111,4 +111,4 @@ private:
     pilaSLR pila_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

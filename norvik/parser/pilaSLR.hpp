@@ -10,7 +10,7 @@
 #include <iterator>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The stack of automaton states of a parse, each with the line and column of the token then current.
 class pilaSLR {
@@ -56,4 +56,4 @@ private:
     std::vector<Entrada> entradas_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

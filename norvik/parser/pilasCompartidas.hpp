@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Many stacks that grow from one. A stack is the number of its top, so that a push or a pop copies nothing
 /// and two stacks with the same states are the same number. 0 is the empty stack, then come the states of the
@@ -66,4 +66,4 @@ private:
     std::unordered_map<std::uint64_t, Pila> numeros_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <span>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -187,4 +187,4 @@ Rango Reparador::rangoDelSiguiente() {
     return texto_.lugares.rango(sitio.inicio, sitio.fin);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

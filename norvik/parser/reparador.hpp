@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Goes on with a parse from its first error to the end of the text, with a repair for each error on the way.
 class Reparador {
@@ -67,4 +67,4 @@ private:
     std::vector<Diagnostico> errores_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

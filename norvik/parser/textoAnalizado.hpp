@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A token of a text: its definition by place in registration order (from 0), its first character and the
 /// one behind its last, both 0-based and in UTF-16.
@@ -44,4 +44,4 @@ struct TextoAnalizado {
     std::vector<std::uint32_t> insertados; ///< which of them a repair put in, in order
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A text that is read without being shown, with lines of its own.
 class TextoInvisible final : public FuenteTexto {
@@ -27,4 +27,4 @@ private:
     IndiceLineas lineas_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

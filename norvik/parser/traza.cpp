@@ -4,7 +4,7 @@
 
 #include "norvik/base/texto.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void Traza::vaciaTraza(std::u16string_view texto) {
     pasos_.clear();
@@ -36,4 +36,4 @@ std::u16string Traza::columnaCimaTraza() const {
     return aTexto(desplazamientoCima().columna);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What a parse did, in order: every shift with its token, every reduction with its rule. A reduction takes
 /// two bytes, the texts of the tokens stand in one buffer.
@@ -107,4 +107,4 @@ private:
     std::u16string_view texto_; ///< the text itself
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Los nombres de un lenguaje, por número. Los números cuentan desde 1: el nombre del token `n` está en
 /// `tokens[n - 1]`.
@@ -38,4 +38,4 @@ struct Vocabulario {
     std::vector<Regla> reglas;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -19,7 +19,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -255,4 +255,4 @@ void BuscadorConjunto::busca(std::u16string_view texto, const Presupuesto& presu
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The search of many patterns at once. It serves one search at a time, and any number of them: what texts
 /// have asked of its automata stays for the next one. After a failure it is as good as new.
@@ -42,4 +42,4 @@ private:
     std::int32_t ultimoPatron_ = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

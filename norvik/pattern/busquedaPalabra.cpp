@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 BusquedaPalabra::BusquedaPalabra(std::u16string_view palabra, bool ignoraMayusculas)
     : palabra_(palabra), ignoraMayusculas_(ignoraMayusculas), bordes_(palabra.size()) {
@@ -13,4 +13,4 @@ BusquedaPalabra::BusquedaPalabra(std::u16string_view palabra, bool ignoraMayuscu
         bordes_[i] = static_cast<std::uint16_t>(avanza(bordes_[i - 1], palabra_[i]));
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

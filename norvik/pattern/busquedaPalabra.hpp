@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The search of one word, by Knuth, Morris and Pratt (1977): no character of a text is gone back to, however
 /// the word repeats itself.
@@ -54,4 +54,4 @@ private:
         bordes_; // of each start of the word: the longest other start that ends it, too
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 // decides where the automaton has grown too large.
 #include "norvik/pattern/busquedaPatron.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -50,4 +50,4 @@ Intento BusquedaPatron::intenta(std::size_t posicion, Gasto& gasto) {
     return fin ? Intento{Intento::Tipo::Coincide, *fin} : Intento{Intento::Tipo::Nada, posicion + 1};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

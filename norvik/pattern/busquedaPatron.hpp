@@ -9,7 +9,7 @@
 #include <optional>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The search of one pattern that is no plain word: what it is made ready to, and what texts have asked of it
 /// so far. One search at a time; after a failure the next one is as good as the first.
@@ -46,4 +46,4 @@ private:
     std::u16string_view sujeto_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -64,4 +64,4 @@ std::vector<Coincidencia> Emparejador::ejecuta(std::u16string_view sujeto,
     return coincidencias;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// One match: 0-based first index in the subject and length, in characters.
 struct Coincidencia {
@@ -47,4 +47,4 @@ private:
     bool ignoraMayusculas_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

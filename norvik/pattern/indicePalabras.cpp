@@ -19,7 +19,7 @@
 #include <iterator>
 #include <tuple>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -177,4 +177,4 @@ void IndicePalabras::prueba(const Cubo& cubo, std::u16string_view texto, std::si
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

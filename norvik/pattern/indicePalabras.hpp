@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Short plain words that are searched together in one pass over a text.
 class IndicePalabras {
@@ -63,4 +63,4 @@ private:
     std::array<Cubo, 256> cubos_{}; ///< by the low byte of the first character
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -2,7 +2,7 @@
 
 #include "norvik/pattern/mapaCoincidencias.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void MapaCoincidencias::reinicia(std::size_t tamanio) {
     vacia();
@@ -27,4 +27,4 @@ void MapaCoincidencias::borra(std::size_t posicion) {
     if (posicion < celdas_.size()) celdas_[posicion] = ninguna;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

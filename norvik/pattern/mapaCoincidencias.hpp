@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Lo que la búsqueda conjunta encontró en un texto: en cada posición, la coincidencia que gana, que es la
 /// más larga, y de las iguales la del primer patrón. Posiciones desde 0, en caracteres; el final del texto es
@@ -62,4 +62,4 @@ private:
     std::unordered_map<std::size_t, std::int32_t> largas_; ///< lengths by position
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

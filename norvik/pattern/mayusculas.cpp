@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::u16string_view unidadesConPareja() {
     return {enOrden.data(), enOrden.size()};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Letter case by Unicode's pairs, unit by unit, the way the matcher ignores it.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Of each unit, the first of those that differ from it in case alone (itself when there is none).
 extern const std::array<char16_t, 65536> pliegues;
@@ -22,4 +22,4 @@ std::u16string_view equivalentes(char16_t unidad);
 /// The units that are not alone, in order.
 std::u16string_view unidadesConPareja();
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

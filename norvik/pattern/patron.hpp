@@ -15,7 +15,7 @@
 // The form of a pattern inside the matcher: the list of its pieces in the order in which they are written.
 // Groups are brackets that know each other, so that passes go along the list and none recurses, however deep
 // groups nest.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class TipoPieza : std::uint8_t {
     Unidad,      ///< one given unit
@@ -82,4 +82,4 @@ std::optional<DefectoPatron> defectoDePatron(std::u16string_view texto);
 /// Fills `pareja`, `siguiente` and `anulable` of a list whose groups are balanced.
 void enlaza(std::vector<Pieza>& piezas);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -22,7 +22,7 @@
 #include <bit>
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -280,4 +280,4 @@ Automata::Numero Automata::numeroDe(Estado estado, Gasto& gasto) {
     return static_cast<Numero>(numero);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <unordered_set>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What an attempt at one position came to. `Indeciso`: this way of matching cannot tell.
 struct Intento {
@@ -131,4 +131,4 @@ private:
     std::array<Numero, 3> iniciales_{};
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -86,4 +86,4 @@ bool ClaseUnidades::contieneAlta(char16_t unidad) const {
     return siguiente != rangos_.end() && siguiente->desde <= unidad;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

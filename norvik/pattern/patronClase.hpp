@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The sets of units that escapes name.
 enum class Propiedad : std::uint8_t { Digito, Palabra, Espacio, Letra };
@@ -52,4 +52,4 @@ private:
     std::array<bool, 256> bajas_{};
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

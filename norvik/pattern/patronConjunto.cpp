@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -162,4 +162,4 @@ AutomataConjunto::Mascaras AutomataConjunto::mascarasDe(const Miembros& miembros
     return mascaras;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Calls an action with the number of each bit of a mask.
 template <typename Accion>
@@ -98,4 +98,4 @@ private:
     std::array<std::array<Inicial, 256>, 3> ultimaInicial_{}; // by what stands behind, and the first unit
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -459,4 +459,4 @@ void enlaza(std::vector<Pieza>& piezas) {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

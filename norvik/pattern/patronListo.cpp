@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -216,4 +216,4 @@ std::optional<ClaseUnidades> PatronListo::primeras() const {
     return std::nullopt;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

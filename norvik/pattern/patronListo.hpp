@@ -4,7 +4,7 @@
 
 #include "norvik/pattern/patron.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A pattern made ready for matching: its classes are sets of units and letter case is spelled out in them
 /// (except for references); groups that only wrap are gone, alternatives of one unit are classes, small
@@ -22,4 +22,4 @@ struct PatronListo {
     std::optional<ClaseUnidades> primeras() const;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

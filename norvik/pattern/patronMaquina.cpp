@@ -14,7 +14,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -239,4 +239,4 @@ std::optional<std::size_t> coincideMaquina(const Programa& programa, std::u16str
     return Ejecucion(programa, sujeto, inicio, memoria, gasto).corre();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What the machine keeps from one attempt to the next.
 struct MemoriaMaquina {
@@ -28,4 +28,4 @@ struct MemoriaMaquina {
 std::optional<std::size_t> coincideMaquina(const Programa& programa, std::u16string_view sujeto,
                                            std::size_t inicio, MemoriaMaquina& memoria, Gasto& gasto);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -205,4 +205,4 @@ bool Programa::usaAlguna(std::initializer_list<Operacion> operaciones) const {
     });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

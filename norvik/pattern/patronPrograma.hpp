@@ -8,7 +8,7 @@
 #include <initializer_list>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Operacion : std::uint8_t {
     Unidad,        // takes the unit `a`
@@ -62,4 +62,4 @@ struct Programa {
     bool usaAlguna(std::initializer_list<Operacion> operaciones) const;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -62,4 +62,4 @@ bool esDePalabra(char16_t unidad) {
     return palabra.contiene(unidad);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Units from `desde` to `hasta`, both included.
 struct RangoUnidades {
@@ -23,4 +23,4 @@ struct TramoDeCaja {
     std::uint16_t imagen = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

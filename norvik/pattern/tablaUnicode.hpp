@@ -8,7 +8,7 @@
 
 // Written by scripts/tabla-unicode.
 // clang-format off
-namespace norvik::unicode {
+namespace norvik::inline v0_2::unicode {
 
 /// Letters (L).
 inline constexpr auto letras = std::to_array<RangoUnidades>({
@@ -190,4 +190,4 @@ inline constexpr auto tramosDeCaja = std::to_array<TramoDeCaja>({
     {0xAB70, 0xABBF, 1, 0x13A0}, {0xFF41, 0xFF5A, 1, 0xFF21},
 });
 
-} // namespace norvik::unicode
+} // namespace norvik::inline v0_2::unicode

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::int32_t CajaTexto::busca(std::u16string_view cadena, std::int32_t desde, st
     return encontrada;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Un texto con servicios de líneas. Posiciones y líneas cuentan desde 0; un salto de línea (CR LF, o un CR o
 /// un LF solo) pertenece a la línea que acaba.
@@ -167,4 +167,4 @@ public:
     virtual void desbloqueaDibujo() = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 enum class Icono : std::int16_t {
     Ninguno = 0,
@@ -66,4 +66,4 @@ private:
     Sistema& sistema_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

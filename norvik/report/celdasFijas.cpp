@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::vector<CeldaSLR> celdasFijas(const TablaLR& tabla) {
     std::vector<CeldaSLR> fijas;
@@ -17,4 +17,4 @@ std::vector<CeldaSLR> celdasFijas(const TablaLR& tabla) {
     return fijas;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

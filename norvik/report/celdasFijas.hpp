@@ -7,9 +7,9 @@
 
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The entries that reading a table makes up, which modules write all the same; in column order.
 std::vector<CeldaSLR> celdasFijas(const TablaLR& tabla);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

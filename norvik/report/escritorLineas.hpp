@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Gathers lines and hands them over many at a time. What is left at the end is handed over by `acaba`.
 class EscritorLineas {
@@ -77,4 +77,4 @@ std::u16string textoDeLineas(const Escritura& escritura) {
     });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

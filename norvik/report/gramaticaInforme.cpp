@@ -7,7 +7,7 @@
 #include "norvik/report/moduloCpp.hpp"
 
 // The operations of a grammar that write: they stand here, so that a grammar knows nothing of its readers.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 std::u16string gramatica::textoProblemas() const {
     return norvik::textoProblemas(*valores_);
@@ -69,4 +69,4 @@ void gramatica::GuardaModuloCpp(std::u16string_view nombre, const pilaTokens& le
     guardaModuloCpp(*valores_, nombre, lexico, carpeta);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <array>
 #include <cstddef>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -124,4 +124,4 @@ std::u16string identificadorCpp(std::u16string_view cabeza, int ordinal) {
     return codifica(cabeza) + u'_' + aTexto(ordinal);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

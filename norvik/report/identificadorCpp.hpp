@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// One that no name of a C++ program may be.
 bool esPalabraDeCpp(std::u16string_view nombre);
@@ -23,4 +23,4 @@ std::u16string identificadorCpp(std::u16string_view cabeza, int ordinal);
 /// A character by its number, in four digits.
 std::u16string enHexadecimal(char16_t c);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

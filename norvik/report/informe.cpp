@@ -11,7 +11,7 @@
 
 // The report on a grammar, as a file and as the parts that a window shows, and the list of conflicts. All of
 // them are made of the same pieces.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -244,4 +244,4 @@ std::u16string textoProblemas(const GramaticaLR& g) {
     return std::u16string(u"Problemas detectados:").append(saltoDeLinea).append(saltoDeLinea) + problemas;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

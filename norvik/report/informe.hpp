@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The report on a grammar, in pieces of whole lines, as one text, and written to "informeGramatica.txt" in a
 /// folder (raises `ErrorDeFichero`).
@@ -26,4 +26,4 @@ std::u16string celdaTabla(const TablaLR& tabla, std::int16_t fila, std::int16_t 
 /// The conflict message.
 std::u16string textoProblemas(const GramaticaLR& g);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

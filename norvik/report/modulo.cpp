@@ -13,7 +13,7 @@
 // The loading module as Visual Basic source: the definitions, the rules, the table and its symbols as calls
 // on a control. A procedure takes 2000 entries of the table; the next entry opens another, which the first
 // calls as its last statement.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -159,4 +159,4 @@ void guardaModulo(const GramaticaLR& g, std::u16string_view nombre, const pilaTo
     escribeTexto(carpeta / (aUtf8(nombre) + ".bas"), piezas, Durabilidad::Normal);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class pilaTokens;
 
@@ -22,4 +22,4 @@ std::u16string textoModulo(const GramaticaLR& g, std::u16string_view nombre, con
 void guardaModulo(const GramaticaLR& g, std::u16string_view nombre, const pilaTokens& lexico,
                   const std::filesystem::path& carpeta);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

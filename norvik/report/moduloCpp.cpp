@@ -17,7 +17,7 @@
 // The loading module as a C++ header: what the calls of the Visual Basic module pass, in the same order, as
 // constants; the numbers of the nodes of trees as enumerations; and a function for the control and one for
 // the language as a value. The source is plain ASCII, whatever the language's texts are.
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -196,4 +196,4 @@ void guardaModuloCpp(const GramaticaLR& g, std::u16string_view nombre, const pil
     escribeTexto(carpeta / (aUtf8(nombre) + ".hpp"), piezas, Durabilidad::Normal);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

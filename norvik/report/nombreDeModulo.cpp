@@ -10,7 +10,7 @@
 #include <array>
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -61,4 +61,4 @@ void compruebaNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje
                             u"»: ha de ser un identificador que no sea palabra reservada");
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

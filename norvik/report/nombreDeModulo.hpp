@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The languages that modules are written in.
 enum class LenguajeModulo : std::uint8_t { Vb, Cpp };
@@ -18,4 +18,4 @@ bool esNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
 /// Raises `ArgumentoNoValido` when it cannot.
 NORVIK_API void compruebaNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -316,4 +316,4 @@ std::u16string grafoDeAutomata(const GramaticaLR& g) {
     return grafo + u"}\n";
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

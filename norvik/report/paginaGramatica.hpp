@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What a page on a grammar tells besides the grammar itself.
 struct NotasDePagina {
@@ -30,4 +30,4 @@ std::u16string paginaDeGramatica(const GramaticaLR& g, const NotasDePagina& nota
 /// The automaton in Graphviz's language; its states lead to those of the page.
 std::u16string grafoDeAutomata(const GramaticaLR& g);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/lexer/definicionDePatron.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void CargadorLenguaje::SetPatron(std::u16string_view patron, std::u16string_view nomER,
                                  std::int32_t tipoToken, std::u16string_view pseudoToken,
@@ -12,4 +12,4 @@ void CargadorLenguaje::SetPatron(std::u16string_view patron, std::u16string_view
     SetER(definicionDePatron(patron), nomER, true, tipoToken, pseudoToken, baseToken, colorTexto);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -15,7 +15,7 @@
 #include <string_view>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Cabeza y cuerpo de una regla en la forma «cabeza -> cuerpo», sin los blancos de alrededor. Lanza
 /// `NoCoincidenLosTipos` con un texto sin flecha.
@@ -74,4 +74,4 @@ public:
     virtual bool GeneraCompilador() = 0;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -77,4 +77,4 @@ std::u16string CompilaArbolEspecificacion(const Arbol& nodo, gramatica& g, pilaT
     return {};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

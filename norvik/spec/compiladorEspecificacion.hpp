@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class Arbol;
 class Sistema;
@@ -21,4 +21,4 @@ class pilaTokens;
 std::u16string CompilaArbolEspecificacion(const Arbol& nodo, gramatica& g, pilaTokens& lexico,
                                           Sistema& sistema, const Directivas& directivas = {});
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

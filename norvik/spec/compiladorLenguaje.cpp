@@ -25,7 +25,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -323,4 +323,4 @@ Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(Carg
     return {acaba(std::move(datos)), {}};
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

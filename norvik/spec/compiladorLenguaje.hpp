@@ -10,7 +10,7 @@
 #include <optional>
 #include <stop_token>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class CargadorLenguaje;
 
@@ -28,4 +28,4 @@ Compilacion compilaEspecificacion(const Analisis& especificacion, const Directiv
 /// Makes a language of the calls of a loading module.
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -87,4 +87,4 @@ DatosDeLenguaje::Prestamo::~Prestamo() {
     }
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

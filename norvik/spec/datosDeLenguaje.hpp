@@ -12,7 +12,7 @@
 #include <mutex>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The names of a complete lexer and of complete rules, numbered.
 Vocabulario vocabularioDe(const pilaTokens& lexico, const Reglas& reglas);
@@ -48,4 +48,4 @@ private:
     mutable std::vector<std::unique_ptr<Analizador>> libres_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/spec/cargadorLenguaje.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control) {
     if (datos.distingueMayusculas) control.DistingueMayusculas();
@@ -18,4 +18,4 @@ void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control) {
     for (const auto& simbolo : datos.simbolos) control.InsertarSimboloGramatica(simbolo);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

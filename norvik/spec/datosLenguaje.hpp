@@ -9,7 +9,7 @@
 #include <span>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class CargadorLenguaje;
 
@@ -39,4 +39,4 @@ struct DatosLenguaje {
 /// Lanza lo que lanzan esas llamadas.
 NORVIK_API void CargaLenguaje(const DatosLenguaje& datos, CargadorLenguaje& control);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

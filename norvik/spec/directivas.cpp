@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -122,4 +122,4 @@ Directivas leeDirectivas(std::u16string_view especificacion, Lugares::Unidad uni
     return directivas;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What a specification asks for in lines of exactly the form «'% palabra: valor», before its first
 /// definition; to whoever does not know them they are comments. Unknown words and values ask for nothing.
@@ -59,4 +59,4 @@ std::optional<Asociatividad> asociatividadDe(std::u16string_view palabra);
 /// The names of a value, which blanks separate.
 std::vector<std::u16string> nombresDe(std::u16string_view valor);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

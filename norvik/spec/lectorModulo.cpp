@@ -21,7 +21,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -295,4 +295,4 @@ std::optional<ErrorModulo> CargaModulo(const OrigenDeTexto& origen, CargadorLeng
     return carga(origen, control);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

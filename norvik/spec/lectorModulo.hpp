@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class CargadorLenguaje;
 
@@ -45,4 +45,4 @@ std::optional<ErrorModulo> CargaModulo(const std::same_as<std::filesystem::path>
     return CargaModulo(OrigenDeTexto([&] { return texto.siguiente(); }), control);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

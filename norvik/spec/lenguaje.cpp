@@ -16,7 +16,7 @@
 #include <string>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -128,4 +128,4 @@ Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesA
     return analizador->lexemas(prepara(lenguaje, std::move(*texto), Lugares::Unidad::Utf8), opciones);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class DatosDeLenguaje;
 struct Compilacion;
@@ -88,4 +88,4 @@ NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto,
 NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8,
                            const OpcionesAnalisis& opciones = {});
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 
 #include <array>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -196,4 +196,4 @@ void CargaMetaLenguaje(CargadorLenguaje& control) {
     control.GeneraCompilador();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -5,7 +5,7 @@
 #include "norvik/base/api.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class gramatica;
 class pilaTokens;
@@ -18,4 +18,4 @@ void InstalaLenguajeEspecificacion(gramatica& g, pilaTokens& lexico, bool lengua
 /// the control's `LenguajeSensible`, "TTFecha" is one more kind, and signs go without display names.
 NORVIK_API void CargaMetaLenguaje(CargadorLenguaje& control);
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 void LineasModulo::falla(std::u16string texto) const {
     throw ErrorModulo{linea_, std::move(texto)};
@@ -70,4 +70,4 @@ std::u16string LineasModulo::cadenaConComillas() {
     return entera;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

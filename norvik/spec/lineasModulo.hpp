@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// The lines of a loading module, taken one by one: each is asked for in pieces, literal ones and values.
 /// What is not as asked is raised as an `ErrorModulo` with its line. Of a text that comes in pieces no more
@@ -133,4 +133,4 @@ Numero LineasModulo::numero() {
     return static_cast<Numero>(valor);
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// A node of a specification's tree.
 class NodoEspecificacion {
@@ -28,4 +28,4 @@ private:
     Nodo nodo_;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -19,7 +19,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvik::especificacion {
+namespace norvik::inline v0_2::especificacion {
 
 struct Palabra {
     std::u16string_view texto;
@@ -142,4 +142,4 @@ void recorre(const Nodo& raiz, const AlDefinir& alDefinir, const AlReglar& alReg
     }
 }
 
-} // namespace norvik::especificacion
+} // namespace norvik::inline v0_2::especificacion

@@ -63,7 +63,7 @@ public:
     }                                                                                                        \
     NORVIK_PROPIEDAD_DE_QT(QString, Nombre, true)
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class CajaTextoQt;
 class SistemaQt;
@@ -261,7 +261,7 @@ private:
     std::set<std::u16string> fallosContados_; ///< de un texto demasiado largo
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2
 
 #undef NORVIK_PROPIEDAD
 #undef NORVIK_PROPIEDAD_DE_QT

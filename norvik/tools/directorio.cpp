@@ -14,7 +14,7 @@
 
 #include <system_error>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -153,4 +153,4 @@ void directorio::acepta() {
     accept();
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -10,7 +10,7 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
     : QFrame(sobre, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), sistema_(sistema),
@@ -79,4 +79,4 @@ void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
     });
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

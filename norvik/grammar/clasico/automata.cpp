@@ -21,7 +21,7 @@
 // kernel does; the candidates are the states that have the kernel's rarest item. The recursion over states
 // runs on a stack of its own, and so does the closure, which takes up each head once a state: a head met
 // again inside its own rules goes on where the outer visit stands.
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 namespace {
 
@@ -292,4 +292,4 @@ std::vector<estadoAutomata> ConstructorAutomata::estados() && {
     return lista;
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

@@ -10,7 +10,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// The LR(0) automaton of a grammar, empty when there is no start symbol.
 /// Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at a state's item 1001.
@@ -106,4 +106,4 @@ private:
     std::vector<Marco> pila_;
 };
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

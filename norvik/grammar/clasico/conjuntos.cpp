@@ -5,7 +5,7 @@
 #include "norvik/grammar/clasico/primeros.hpp"
 #include "norvik/grammar/clasico/siguientes.hpp"
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 Pendientes::Pendientes(const ReglasPartidas& reglas) {
     for (int regla = 1; regla <= reglas.numReglas(); ++regla)
@@ -28,4 +28,4 @@ Conjuntos creaConjuntos(const ReglasPartidas& reglas) {
     return conjuntos;
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

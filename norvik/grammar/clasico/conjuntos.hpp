@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// Where the computation of the sets stands.
 struct Pendientes {
@@ -26,4 +26,4 @@ Conjuntos creaConjuntos(const ReglasPartidas& reglas);
 /// The same, into sets that are empty yet; nothing is pending afterwards.
 void calculaConjuntos(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes);
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

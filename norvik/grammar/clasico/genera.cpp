@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 GramaticaLR genera(Reglas reglas) {
     GramaticaLR g;
@@ -20,4 +20,4 @@ GramaticaLR genera(Reglas reglas) {
     return g;
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

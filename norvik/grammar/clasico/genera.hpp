@@ -4,10 +4,10 @@
 
 #include "norvik/grammar/gramaticaLR.hpp"
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// Derives all from rules that `chequea` has nothing to say of. Raises what the steps raise (conjuntos.hpp,
 /// automata.hpp, tabla.hpp).
 GramaticaLR genera(Reglas reglas);
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

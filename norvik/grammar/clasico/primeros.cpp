@@ -22,7 +22,7 @@
 // A ladder of n levels finishes one set a pass. A head whose last body begins with a pending symbol that
 // stops the scan ends with its flag set, whatever its set holds: it is passed over, which is unobservable as
 // long as no endless recursion can hide there.
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 CalculoPrimeros::CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes)
     : reglas_(reglas), conjuntos_(conjuntos), pendientes_(pendientes),
@@ -217,4 +217,4 @@ void CalculoPrimeros::sumaPrimeros(Simbolo simbolo) {
     trabajo_.inserta(terminados_.elementos(simbolo));
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// FIRST sets: of every head (`calcula`), and of a string of symbols (`recorre`).
 class CalculoPrimeros {
@@ -82,4 +82,4 @@ std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas);
 /// others. It errs on the side of true.
 bool hayRecursionIndirectaAlPrincipio(const ReglasPartidas& reglas);
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

@@ -6,7 +6,7 @@
 
 // What takes the place of the step-by-step computation of FIRST when that never ends: the least fixpoint by
 // rounds over the rules; and the test that tells whether it may not end.
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 namespace {
 
@@ -123,4 +123,4 @@ bool hayRecursionIndirectaAlPrincipio(const ReglasPartidas& reglas) {
     return libres.size() < alcanzados.size();
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

@@ -14,7 +14,7 @@
 // terms of symbols: every occurrence before the last symbol; and the last symbol, unless a symbol strictly
 // between it and the one that begins the rest of the text has the name looked for as a proper prefix (the
 // text is compared at the first place only where a blank and the name stand).
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 CalculoSiguientes::CalculoSiguientes(const ReglasPartidas& reglas, Conjuntos& conjuntos,
                                      Pendientes& pendientes, CalculoPrimeros& primeros)
@@ -129,4 +129,4 @@ void calculaPredict(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendient
     }
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

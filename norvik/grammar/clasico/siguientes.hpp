@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// FOLLOW sets: of every head (`calcula`), and of one (`recorre`). FIRST must be finished.
 class CalculoSiguientes {
@@ -63,4 +63,4 @@ private:
 void calculaPredict(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
                     CalculoPrimeros& primeros, const IndiceDeConjuntos& siguientes);
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

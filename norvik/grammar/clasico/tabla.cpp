@@ -11,7 +11,7 @@
 
 // The SLR table, read off the automaton (DeRemer 1971) with two departures: a shift overwrites whatever its
 // cell holds and says nothing; a reduction that finds its cell taken leaves it and is noted as a conflict.
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 namespace {
 
@@ -71,4 +71,4 @@ TablaLR creaTabla(const ReglasPartidas& reglas, const Conjuntos& conjuntos, cons
     return tabla;
 }
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

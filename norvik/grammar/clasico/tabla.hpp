@@ -6,11 +6,11 @@
 #include "norvik/grammar/conjuntos.hpp"
 #include "norvik/grammar/tablaLR.hpp"
 
-namespace norvik::clasico {
+namespace norvik::inline v0_2::clasico {
 
 /// The table of an automaton, empty when there is no start symbol; columns of other symbols may precede those
 /// of the grammar. Raises `SubindiceFueraDeIntervalo` for a Ø beside other symbols, which has no column.
 TablaLR creaTabla(const ReglasPartidas& reglas, const Conjuntos& conjuntos, const AutomataLR& automata,
                   SimbolosTabla otros = {});
 
-} // namespace norvik::clasico
+} // namespace norvik::inline v0_2::clasico

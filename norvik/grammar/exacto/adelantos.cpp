@@ -15,7 +15,7 @@
 #include <map>
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -192,4 +192,4 @@ std::vector<std::vector<Bits>> adelantos(const Producciones& producciones, const
     return CalculoAdelantos(producciones, automata).calcula();
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

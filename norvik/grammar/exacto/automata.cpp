@@ -12,7 +12,7 @@
 #include <map>
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -77,4 +77,4 @@ AutomataLR creaAutomata(const Producciones& producciones) {
     return acaba(producciones, ConstructorLR0(producciones).estados());
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

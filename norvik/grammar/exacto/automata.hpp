@@ -8,7 +8,7 @@
 
 #include <stop_token>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// The canonical LR(0) automaton, empty without rules. State 1 is where the start symbol leads from state 0,
 /// and no other state is it. Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at
@@ -21,4 +21,4 @@ AutomataLR creaAutomata(const Producciones& producciones);
 AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias,
                            const std::stop_token& cancelacion = {});
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

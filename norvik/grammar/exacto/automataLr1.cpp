@@ -20,7 +20,7 @@
 #include <map>
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -158,4 +158,4 @@ AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias&
     }
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

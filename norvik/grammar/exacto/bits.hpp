@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// A set of small numbers.
 class Bits {
@@ -53,4 +53,4 @@ private:
     std::vector<std::uint64_t> palabras_;
 };
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -66,4 +66,4 @@ Conjuntos creaConjuntos(const Producciones& producciones) {
     return conjuntos;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// What can follow each head in a text of the grammar, by symbol.
 std::vector<Bits> siguientes(const Producciones& producciones);
@@ -16,4 +16,4 @@ std::vector<Bits> siguientes(const Producciones& producciones);
 /// first.
 Conjuntos creaConjuntos(const Producciones& producciones);
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

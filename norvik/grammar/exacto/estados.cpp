@@ -9,7 +9,7 @@
 #include <optional>
 #include <tuple>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 bool vaDelante(const Item& uno, const Item& otro) {
     return std::tie(uno.regla, uno.punto) < std::tie(otro.regla, otro.punto);
@@ -96,4 +96,4 @@ AutomataLR acaba(const Producciones& producciones, const std::vector<EstadoLR>& 
     return automata;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -12,7 +12,7 @@
 
 // What both automata are built of. A kernel may have the item of the rule that no grammar has, 0: start
 // symbol, end of text; it is dropped in the finished states.
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// A kernel with its items in order, and where its transitions lead, in order of appearance.
 struct EstadoLR {
@@ -30,4 +30,4 @@ std::vector<std::int16_t> cierre(const Producciones& producciones, const std::ve
 /// target first. Raises `Desbordamiento` at the thousandth state.
 AutomataLR acaba(const Producciones& producciones, const std::vector<EstadoLR>& estados);
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones) {
     GramaticaLR g;
@@ -22,4 +22,4 @@ GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones) {
     return g;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

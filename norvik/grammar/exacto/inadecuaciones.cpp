@@ -18,7 +18,7 @@
 #include <optional>
 #include <utility>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -223,4 +223,4 @@ bool coinciden(const Inadecuaciones& inadecuaciones, const Prioridades& priorida
     });
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -13,7 +13,7 @@
 #include <tuple>
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// A reduction before a token, and what of a state's kernel it hangs on.
 struct Contribucion {
@@ -54,4 +54,4 @@ std::vector<Inadecuaciones> buscaInadecuaciones(const Producciones& producciones
 bool coinciden(const Inadecuaciones& inadecuaciones, const Prioridades& prioridades, const NucleoLr1& uno,
                const NucleoLr1& otro);
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

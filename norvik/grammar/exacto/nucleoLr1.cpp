@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <deque>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 std::map<Simbolo, Bits> adelantosDelCierre(const Producciones& producciones, const NucleoLr1& nucleo) {
     std::map<Simbolo, Bits> adelantos;
@@ -36,4 +36,4 @@ std::map<Simbolo, Bits> adelantosDelCierre(const Producciones& producciones, con
     return adelantos;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -8,7 +8,7 @@
 #include <map>
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// An item with its look-aheads.
 struct ItemLr1 {
@@ -23,4 +23,4 @@ using NucleoLr1 = std::vector<ItemLr1>;
 /// sets may be larger than the grammar's symbols; all of a kernel are of one size.
 std::map<Simbolo, Bits> adelantosDelCierre(const Producciones& producciones, const NucleoLr1& nucleo);
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -5,7 +5,7 @@
 // as they are read, «E -> E mas E | E por E», and says nothing of two rules that could both be reduced.
 #include "norvik/grammar/exacto/prioridades.hpp"
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 Prioridades::Prioridades(const ReglasPartidas& reglas, const Precedencias& precedencias)
     : reglas_(reglas), precedencias_(precedencias), niveles_(reglas.numSimbolos()) {
@@ -46,4 +46,4 @@ std::optional<std::int16_t> Prioridades::accion(Simbolo token, bool desplaza,
     return desplaza ? std::int16_t{1} : reduce;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -11,7 +11,7 @@
 #include <span>
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// What becomes of a token that could be shifted where a rule could be reduced.
 enum class Decision : std::uint8_t { Conflicto, Desplaza, Reduce, Ninguna };
@@ -37,4 +37,4 @@ private:
     std::vector<std::size_t> niveles_; // by symbol, from 1; 0 without one
 };
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

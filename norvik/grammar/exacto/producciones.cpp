@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 Producciones::Producciones(const ReglasPartidas& reglas)
     : reglas_(reglas), deCabeza_(reglas.numSimbolos()), anulables_(reglas.numSimbolos()),
@@ -63,4 +63,4 @@ void Producciones::buscaPrimeros() {
     }
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

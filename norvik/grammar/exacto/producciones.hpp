@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// The rules as the textbook has them: a variable has all its rules, wherever they stand, an empty body has
 /// no symbols, and it is known what a variable can begin with and whether it can be empty. A head in lower
@@ -47,4 +47,4 @@ private:
     std::vector<Bits> primeros_;                      // by symbol; empty but of heads
 };
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

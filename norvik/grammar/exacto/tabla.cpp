@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 namespace {
 
@@ -130,4 +130,4 @@ TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, 
     return tabla;
 }
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

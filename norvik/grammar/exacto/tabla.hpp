@@ -6,7 +6,7 @@
 #include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/grammar/opcionesTabla.hpp"
 
-namespace norvik::exacto {
+namespace norvik::inline v0_2::exacto {
 
 /// The table of an automaton of this method, empty without rules; columns of other symbols may precede those
 /// of the grammar. Where precedence does not settle it a shift stays before a reduction, of two reductions
@@ -14,4 +14,4 @@ namespace norvik::exacto {
 TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, const OpcionesTabla& opciones,
                   SimbolosTabla otros = {});
 
-} // namespace norvik::exacto
+} // namespace norvik::inline v0_2::exacto

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 CajaTextoMemoria::CajaTextoMemoria() : lineas_(std::make_unique<IndiceLineas>()) {}
 
@@ -200,4 +200,4 @@ std::vector<TramoDeColor> CajaTextoMemoria::colores() const {
     return tramos;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

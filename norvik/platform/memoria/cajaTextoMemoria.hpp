@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 class IndiceLineas;
 
@@ -135,4 +135,4 @@ private:
     mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -4,7 +4,7 @@
 
 #include "norvik/base/errores.hpp"
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 Respuesta SistemaMemoria::muestraMensaje(const Mensaje& mensaje) {
     if (mensajes_) mensajes_(mensaje);
@@ -15,4 +15,4 @@ void SistemaMemoria::imprime(std::u16string_view /*texto*/) {
     throw ErrorNorvik(u"No hay ninguna impresora");
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// Los servicios de un anfitrión sin ventanas: los mensajes van a donde él dice y cuentan como aceptados, no
 /// hay nada pendiente y no hay impresora.
@@ -28,4 +28,4 @@ private:
     Puntero puntero_ = Puntero::Normal;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

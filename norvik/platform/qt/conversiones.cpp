@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -82,4 +82,4 @@ Fuente deQFont(const QFont& letra, const Fuente& antes) {
     return fuente;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

@@ -13,7 +13,7 @@
 #include <stop_token>
 #include <utility>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 /// What tells a person that something is being worked on, and asks for the end of it when they want that.
 class AvisoDeTrabajo {
@@ -69,4 +69,4 @@ private:
     Puntero puntero_ = Puntero::Normal;
 };
 
-} // namespace norvik
+} // namespace norvik::inline v0_2

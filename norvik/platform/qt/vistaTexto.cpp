@@ -13,7 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 
-namespace norvik {
+namespace norvik::inline v0_2 {
 
 namespace {
 
@@ -276,4 +276,4 @@ QMimeData* VistaTexto::createMimeDataFromSelection() const {
     return &datos;
 }
 
-} // namespace norvik
+} // namespace norvik::inline v0_2
