@@ -8,7 +8,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -50,4 +50,4 @@ void simplificaParaLectores() {
     static_cast<void>(hecho);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

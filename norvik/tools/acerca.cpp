@@ -11,7 +11,7 @@
 #include <QSysInfo>
 #include <QVBoxLayout>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -46,4 +46,4 @@ Acerca::Acerca(QWidget* padre) : QDialog(padre) {
     columna.setSizeConstraint(QLayout::SetFixedSize);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The about box of the control: what it is, and its version.
 class Acerca final : public QDialog {
@@ -14,4 +14,4 @@ public:
     explicit Acerca(QWidget* padre = nullptr);
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <QEvent>
 #include <QWindow>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 QPointer<buscar>& buscar::abierto() {
     static QPointer<buscar> dialogo;
@@ -103,4 +103,4 @@ void buscar::buscaSiguiente() {
     if (!hallada) activateWindow();
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -9,7 +9,7 @@
 #include <QPointer>
 #include <QPushButton>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 class ControlNorvik;
 
@@ -52,4 +52,4 @@ private:
     QPushButton command3_{QStringLiteral("&Reemplazar ..."), this};
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -14,7 +14,7 @@
 
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 CamposBusqueda::CamposBusqueda(QWidget* padre) : QWidget(padre) {
     hazEditable(combo1_, "Combo1", QStringLiteral("Buscar"));
@@ -114,4 +114,4 @@ void dispone(QDialog& dialogo, CamposBusqueda& campos, std::initializer_list<QPu
     fila.setSizeConstraint(QLayout::SetMinimumSize);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

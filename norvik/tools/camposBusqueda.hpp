@@ -13,7 +13,7 @@
 
 #include <initializer_list>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The fields that the find and the replace dialog share.
 class CamposBusqueda final : public QWidget {
@@ -56,4 +56,4 @@ void ponTextos(QComboBox& lista, const std::vector<std::u16string>& textos);
 /// Fields and a column of buttons beside them, the first of which is the default one.
 void dispone(QDialog& dialogo, CamposBusqueda& campos, std::initializer_list<QPushButton*> botones);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

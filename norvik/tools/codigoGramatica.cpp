@@ -11,7 +11,7 @@
 #include "norvik/tools/procesando.hpp"
 #include "norvik/tools/ventanas.hpp"
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 CodigoGramatica::CodigoGramatica(SistemaQt& sistema, QWidget* padre)
     : VentanaEditor(sistema, "CodigoGramatica", QStringLiteral("Definición de la Gramatica"), padre),
@@ -88,4 +88,4 @@ void CodigoGramatica::verInforme() {
     }
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

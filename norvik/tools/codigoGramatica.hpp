@@ -5,7 +5,7 @@
 #include "norvik/control/generacion.hpp"
 #include "norvik/tools/ventanaEditor.hpp"
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The grammar editor: the shared specification is written, coloured by the language that specifications are
 /// written in, tried out and inspected.
@@ -30,4 +30,4 @@ private:
     LenguajeAparte lenguaje_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -17,7 +17,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// What surrounds the control, in the order in which it is made.
 struct ControlNorvik::Piezas {
@@ -245,4 +245,4 @@ void ControlNorvik::changeEvent(QEvent* evento) {
     if (otraEscala) protege([this] { control_.redimensiona(); });
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -63,7 +63,7 @@ public:
     }                                                                                                        \
     NORVIK_PROPIEDAD_DE_QT(QString, Nombre, true)
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 class CajaTextoQt;
 class SistemaQt;
@@ -261,7 +261,7 @@ private:
     std::set<std::u16string> fallosContados_; ///< de un texto demasiado largo
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik
 
 #undef NORVIK_PROPIEDAD
 #undef NORVIK_PROPIEDAD_DE_QT

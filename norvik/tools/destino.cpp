@@ -6,7 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 Destino preguntaDestino(const QString& texto, const QString& guardar, const QString& descartar,
                         QWidget* ventana) {
@@ -23,4 +23,4 @@ Destino preguntaDestino(const QString& texto, const QString& guardar, const QStr
     return caja.clickedButton() == no ? Destino::Descartar : Destino::Cancelar;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// What is to become of work that is about to be lost.
 enum class Destino : std::uint8_t { Guardar, Descartar, Cancelar };
@@ -36,4 +36,4 @@ using PreguntaDestino =
 Destino preguntaDestino(const QString& texto, const QString& guardar, const QString& descartar,
                         QWidget* ventana);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -14,7 +14,7 @@
 
 #include <system_error>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -153,4 +153,4 @@ void directorio::acepta() {
     accept();
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

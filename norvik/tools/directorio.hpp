@@ -14,7 +14,7 @@
 
 #include <filesystem>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The folder into which reports and modules are written, one for the whole process: the outcome of the last
 /// folder chooser, empty when none was chosen.
@@ -54,4 +54,4 @@ private:
     int unidad_ = 0; ///< the last one that could be read
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

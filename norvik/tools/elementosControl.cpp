@@ -6,7 +6,7 @@
 
 #include <QPalette>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 QRect enPixeles(const Rectangulo& r, const TwipsPorPixel& pixel) {
     const QPoint esquina(aPixeles(r.x, pixel.x), aPixeles(r.y, pixel.y));
@@ -121,4 +121,4 @@ void ElementosControl::ponSignoError(std::int32_t numero, std::int32_t linea, co
     signos_.push_back(std::move(signo));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

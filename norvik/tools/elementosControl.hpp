@@ -15,7 +15,7 @@
 #include <memory>
 #include <vector>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A rectangle's edges on whole pixels, so that neighbours meet.
 QRect enPixeles(const Rectangulo& rectangulo, const TwipsPorPixel& pixel);
@@ -49,4 +49,4 @@ private:
     std::vector<std::unique_ptr<Signo>> signos_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

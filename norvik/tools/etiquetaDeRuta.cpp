@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QStyle>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 void EtiquetaDeRuta::paintEvent(QPaintEvent* /*evento*/) {
     QPainter pintor(this);
@@ -14,4 +14,4 @@ void EtiquetaDeRuta::paintEvent(QPaintEvent* /*evento*/) {
                           ruta, foregroundRole());
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -4,7 +4,7 @@
 
 #include <QLabel>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A label that shows as much of a path as it has room for, the ends first.
 class EtiquetaDeRuta final : public QLabel {
@@ -16,4 +16,4 @@ protected:
     void paintEvent(QPaintEvent* evento) override;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -11,7 +11,7 @@
 
 #include <array>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A field of the page and the property that it shows, under the property's own name.
 struct General::Opcion {
@@ -105,4 +105,4 @@ bool General::escribeNumero(ControlNorvik& control, const Opcion& opcion) {
     return false;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The page of the editor's options.
 class General final : public PaginaPropiedades {
@@ -27,4 +27,4 @@ private:
     bool escribeNumero(ControlNorvik& control, const Opcion& opcion);
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

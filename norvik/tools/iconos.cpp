@@ -10,7 +10,7 @@
 #include <QPainterPath>
 #include <QPalette>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -160,4 +160,4 @@ QIcon icono(Dibujo dibujo) {
     return QIcon(&nuevo<Motor>(dibujo)); // which owns it
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

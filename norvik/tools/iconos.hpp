@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 enum class Dibujo : std::uint8_t {
     Nuevo,
@@ -27,4 +27,4 @@ enum class Dibujo : std::uint8_t {
 /// background.
 QIcon icono(Dibujo dibujo);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

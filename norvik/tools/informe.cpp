@@ -14,7 +14,7 @@
 
 #include <algorithm>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -144,4 +144,4 @@ void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, Sistem
     muestraModal<Informe>(sistema, gramatica, lexico, sistema, padre);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -13,7 +13,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The report on a grammar as the last generation left it: rules and sets, automaton, table. Grammar and
 /// lexer must outlive the window unchanged.
@@ -49,4 +49,4 @@ private:
 void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema,
                     QWidget* padre = nullptr);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

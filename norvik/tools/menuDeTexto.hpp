@@ -6,7 +6,7 @@
 #include <QString>
 #include <QWidget>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Gives a text box of Qt its menu in Spanish, whatever translations of Qt are installed.
 template <typename Caja>
@@ -19,4 +19,4 @@ void ponMenuDeTexto(Caja& caja) {
     caja.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <QBrush>
 #include <QFont>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -99,4 +99,4 @@ QString ModeloTabla::masLargo(int columna) const {
     return aQString(mas);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

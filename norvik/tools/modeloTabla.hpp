@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A grammar's SLR table for a view: a row a state, a column a symbol. Cells are made when they are asked
 /// for; grammar and lexer must outlive it unchanged.
@@ -42,4 +42,4 @@ private:
     std::vector<bool> columnasEnConflicto_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

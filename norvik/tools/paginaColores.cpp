@@ -13,7 +13,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -163,4 +163,4 @@ bool PaginaColores::escribe(ControlNorvik& control) {
     return true;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

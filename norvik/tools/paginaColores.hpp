@@ -9,7 +9,7 @@
 
 #include <array>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The page of the colours: a list of them, and for the one that is current a palette and its three parts.
 class PaginaColores final : public PaginaPropiedades {
@@ -33,4 +33,4 @@ private:
     std::array<QSpinBox, 3> partes_; ///< red, green, blue
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

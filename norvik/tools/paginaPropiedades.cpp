@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 PaginaPropiedades::PaginaPropiedades(SistemaQt& sistema, const QString& titulo, QWidget* padre)
     : QWidget(padre), sistema_(sistema), titulo_(titulo) {
@@ -64,4 +64,4 @@ void PaginaPropiedades::ejecuta(const std::function<void()>& orden) {
     norvik::ejecuta(sistema_, orden);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

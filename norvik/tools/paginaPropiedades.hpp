@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A page on which the properties of a control are edited while its form is designed. A host of any kind
 /// shows it, tells it what is selected, when to apply and when it is closed, and lets people apply while it
@@ -76,4 +76,4 @@ private:
     bool ocupada_ = false;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -6,7 +6,7 @@
 #include "norvik/tools/paginaColores.hpp"
 #include "norvik/tools/ppControl.hpp"
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 std::vector<std::unique_ptr<PaginaPropiedades>> paginasDeNorvik(SistemaQt& sistema) {
     std::vector<std::unique_ptr<PaginaPropiedades>> paginas;
@@ -16,4 +16,4 @@ std::vector<std::unique_ptr<PaginaPropiedades>> paginasDeNorvik(SistemaQt& siste
     return paginas;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

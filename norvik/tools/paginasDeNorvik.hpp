@@ -7,10 +7,10 @@
 #include <memory>
 #include <vector>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The pages of the control in their order: general options, language, colours. Messages and windows of the
 /// pages go through `sistema`, which must outlive them.
 std::vector<std::unique_ptr<PaginaPropiedades>> paginasDeNorvik(SistemaQt& sistema);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -17,7 +17,7 @@
 
 #include <optional>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -187,4 +187,4 @@ void PPControl::generarModulo() {
     resultado_.setText(QStringLiteral("Módulo guardado en %1").arg(deRuta(fichero)));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

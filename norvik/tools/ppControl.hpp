@@ -11,7 +11,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The page of the control's language: its name, its specification, its report and its loading module. While
 /// it has a control, the shared slots of design time are that control's, and go back to it when the page
@@ -51,4 +51,4 @@ private:
     RanurasDisenio tomadas_; ///< the slots as they were when the control gave them
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -6,7 +6,7 @@
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/procesando.hpp"
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 ProbarLenguaje::ProbarLenguaje(SistemaQt& sistema, QWidget* padre)
     : VentanaEditor(sistema, "ProbarLenguaje", QStringLiteral("Ventana para código de pruebas"), padre) {
@@ -33,4 +33,4 @@ void ProbarLenguaje::test() {
         {u"Análisis sintáctico correcto", u"Prueba de la gramática", Icono::Informacion});
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The test editor: a text is written, coloured and parsed with the language that a specification describes.
 class ProbarLenguaje final : public VentanaEditor {
@@ -28,4 +28,4 @@ private:
     bool cargada_ = false;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

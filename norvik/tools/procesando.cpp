@@ -2,6 +2,7 @@
 
 #include "norvik/tools/procesando.hpp"
 
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QCloseEvent>
@@ -10,7 +11,7 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
     : QFrame(sobre, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), sistema_(sistema),
@@ -79,4 +80,4 @@ void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
     });
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -2,12 +2,13 @@
 
 #pragma once
 
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 
 #include <QFrame>
 #include <QPushButton>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The progress notice. It comes up without blocking or taking the focus, and stays above all other windows
 /// until it is closed or goes. While it lives the work of its system can be cancelled by its button, and long
@@ -43,4 +44,4 @@ private:
 /// comes next finds nothing there that it has to wait for. Nobody may use the control's lexer meanwhile.
 void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 void Reemplazar::muestra(ControlNorvik& control) {
     buscar::ponEncima(false);
@@ -79,4 +79,4 @@ void Reemplazar::recuerda() {
     ponTextos(combo3_, historial);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

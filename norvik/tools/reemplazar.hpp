@@ -12,7 +12,7 @@
 #include <functional>
 #include <memory>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 class ControlNorvik;
 
@@ -55,4 +55,4 @@ private:
     QPushButton command4_{QStringLiteral("&Cancelar"), this};
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -67,4 +67,4 @@ void Signo::paintEvent(QPaintEvent* /*evento*/) {
     }
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

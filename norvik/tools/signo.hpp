@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A sign of the left border. Drawn, not stored as a picture, so that it is sharp at any scale.
 class Signo final : public QWidget {
@@ -20,4 +20,4 @@ private:
     Dibujo dibujo_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

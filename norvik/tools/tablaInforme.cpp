@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <set>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 TablaInforme::TablaInforme(ModeloTabla& modelo, QWidget* padre) : QTableView(padre) {
     setModel(&modelo);
@@ -74,4 +74,4 @@ void TablaInforme::copia(bool conEncabezados) const {
     QGuiApplication::clipboard()->setText(lineas.join(u'\n'));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QTableView>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Shows an SLR table; the selected cells can be copied, alone or with their states and symbols.
 class TablaInforme final : public QTableView {
@@ -24,4 +24,4 @@ private:
     QAction copiarConEncabezados_{QStringLiteral("Copiar con &encabezados")};
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

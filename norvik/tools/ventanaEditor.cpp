@@ -15,7 +15,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 VentanaEditor::VentanaEditor(SistemaQt& sistema, const char* nombre, const QString& titulo, QWidget* padre)
     : QMainWindow(padre), sistema_(sistema), norvik1_(sistema, this), barra_(titulo, this), lugar_(this) {
@@ -203,4 +203,4 @@ void VentanaEditor::acaba() {
     alCerrar();
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

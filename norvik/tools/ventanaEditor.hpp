@@ -14,7 +14,7 @@
 
 #include <functional>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// What the windows of design time have in common: a control, the commands for its text, each an action under
 /// its tool identifier, and a status bar with the caret's place.
@@ -66,4 +66,4 @@ private:
     bool ocupada_ = false; ///< a command runs
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 VentanaPropiedades::VentanaPropiedades(ControlNorvik& control, QString nombre, SistemaQt& sistema,
                                        PreguntaDestino pregunta, Pagina primera, QWidget* padre)
@@ -78,4 +78,4 @@ void VentanaPropiedades::done(int resultado) {
     QDialog::done(resultado);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

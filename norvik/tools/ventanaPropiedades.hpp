@@ -15,7 +15,7 @@
 #include <memory>
 #include <vector>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// The property pages of a control, in a window of their own, with which its container edits it.
 class VentanaPropiedades final : public QDialog {
@@ -53,4 +53,4 @@ private:
     QPushButton cerrar_{QStringLiteral("&Cerrar")};
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -14,7 +14,7 @@
 #include <utility>
 
 // What the windows have in common.
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Names an element, and says to screen readers what it is.
 inline void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
@@ -61,4 +61,4 @@ void ejecuta(Sistema& sistema, const Orden& orden) {
     if (!fallo.empty()) sinFallos([&] { sistema.muestraMensaje({fallo, {}}); });
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

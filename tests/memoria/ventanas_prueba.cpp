@@ -7,7 +7,9 @@
 // Alone, since it replaces the operators of the whole program.
 
 #include "apoyo/carpetaTemporal.hpp"
+#include "norvik/base/codificacion.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/codigoGramatica.hpp"

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 CajaTextoQt::CajaTextoQt(QWidget* padre)
     : vista_(&nuevo<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
@@ -297,4 +297,4 @@ void CajaTextoQt::avisaFallo(const std::u16string& texto) {
     falloPendiente_ = true;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -14,7 +14,7 @@
 #include <memory>
 #include <optional>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 class VistaTexto;
 
@@ -125,4 +125,4 @@ private:
     bool falloPendiente_ = false;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -82,4 +82,4 @@ Fuente deQFont(const QFont& letra, const Fuente& antes) {
     return fuente;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// @name Textos, rutas, colores y fuentes del control y de Qt
 /// @{
@@ -65,4 +65,4 @@ NORVIK_API double aPuntos(std::int32_t tamano);
 
 /// @}
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

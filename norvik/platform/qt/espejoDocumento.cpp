@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -147,4 +147,4 @@ std::int32_t EspejoDocumento::trasEdicion(const Edicion& edicion, int posicion) 
     return enTextoDesdeElFinal(posicion) + crece;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

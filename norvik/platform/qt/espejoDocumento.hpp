@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 // A Qt document that shows a text. A line break is one position of the document and one or two characters of
 // the text; all else is one position for one character. Positions are mapped by line: by its number from the
@@ -71,4 +71,4 @@ private:
     std::optional<Cambio> cambio_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Carries something out, and lets nothing that is raised on the way get any further: the event loop that
 /// calls a slot, an event handler or an event filter can do nothing with it. The text of the failure, empty
@@ -43,4 +43,4 @@ void sinFallos(Orden&& orden) {
     static_cast<void>(falloDe(std::forward<Orden>(orden)));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

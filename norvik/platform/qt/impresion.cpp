@@ -7,7 +7,7 @@
 
 #include <QTextLayout>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 Impresion::Impresion(QPrinter& impresora) : impresora_(impresora) {
     if (!pintor_.begin(&impresora_))
@@ -37,4 +37,4 @@ void Impresion::pasaPagina() {
     y_ = 0;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

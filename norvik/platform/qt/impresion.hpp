@@ -7,7 +7,7 @@
 #include <QString>
 #include <QTextOption>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Writes lines down the pages of a printer; a line wider than the page goes on in the next one, so that no
 /// character passes the edge.
@@ -27,4 +27,4 @@ private:
     double y_ = 0;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

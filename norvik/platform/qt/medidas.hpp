@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Width and height of a pixel in twips (1/1440 inch), by the resolution that the system's font scaling sets.
 struct TwipsPorPixel {
@@ -28,4 +28,4 @@ inline std::int32_t aTwips(double pixeles, double twipsPorPixel) {
     return static_cast<std::int32_t>(std::lround(pixeles * twipsPorPixel));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// A new object that Qt owns: a parent that is among the arguments, or whoever takes it over next.
 template <typename Tipo, typename... Argumentos>
@@ -34,4 +34,4 @@ private:
     QPointer<Ventana> ventana_;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

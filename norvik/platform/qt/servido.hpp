@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 // Whoever receives an event of a control may delete it then and there. Qt, which delivers the event, and the
 // widget's own handlers then go on with a widget that is no more. So the widgets that hear of events take
@@ -53,4 +53,4 @@ private:
 template <typename Widget>
 using DuenioDeServido = std::unique_ptr<Servido<Widget>, typename Servido<Widget>::Despide>;
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

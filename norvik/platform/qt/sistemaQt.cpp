@@ -20,7 +20,7 @@
 #include <chrono>
 #include <system_error>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -185,4 +185,4 @@ void SistemaQt::imprime(std::u16string_view texto) {
     for (const QString& linea : conSaltosDeQt(aQString(texto)).split(u'\n')) impresion.imprimeLinea(linea);
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

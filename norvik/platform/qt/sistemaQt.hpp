@@ -13,7 +13,7 @@
 #include <stop_token>
 #include <utility>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// What tells a person that something is being worked on, and asks for the end of it when they want that.
 class AvisoDeTrabajo {
@@ -69,4 +69,4 @@ private:
     Puntero puntero_ = Puntero::Normal;
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -8,7 +8,7 @@
 #include <array>
 #include <iterator>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -133,4 +133,4 @@ std::int16_t botonDe(const QMouseEvent& evento) {
                                      (botones & Qt::MiddleButton ? 4 : 0));
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

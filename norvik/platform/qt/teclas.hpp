@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 /// Virtual-key code of a key event, by the key's meaning. Characters whose key depends on the keyboard's
 /// layout share one code; keys that neither are known nor write anything have 0.
@@ -22,4 +22,4 @@ std::int16_t mascaraDe(const QKeyEvent& evento);
 /// 1 left, 2 right, 4 middle; of a move, the sum of those held.
 std::int16_t botonDe(const QMouseEvent& evento);
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

@@ -13,7 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 namespace {
 
@@ -276,4 +276,4 @@ QMimeData* VistaTexto::createMimeDataFromSelection() const {
     return &datos;
 }
 
-} // namespace norvik::inline v0_2
+} // namespace norvik

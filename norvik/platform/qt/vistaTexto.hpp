@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <set>
 
-namespace norvik::inline v0_2 {
+namespace norvik {
 
 class CajaTextoQt;
 
@@ -64,4 +64,4 @@ private:
     std::set<std::uint64_t> bajadas_; ///< keys that went down here and have not come up
 };
 
-} // namespace norvik::inline v0_2
+} // namespace norvik
