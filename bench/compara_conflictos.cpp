@@ -8,6 +8,7 @@
 //   compara-conflictos NORVIK SOURCES FOLDER      (FOLDER is for files that it writes)
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/lenguaje.hpp"
 

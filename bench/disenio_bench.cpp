@@ -6,6 +6,8 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/tools/codigoGramatica.hpp"
 
 #include <QAction>

@@ -6,6 +6,7 @@
 #include "lenguaje.hpp"
 
 #include "norvik/base/ficheros.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/controlNorvik.hpp"
 
 #include <QApplication>

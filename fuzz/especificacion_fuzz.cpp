@@ -5,6 +5,7 @@
 
 #include "anfitrion.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 namespace {

@@ -4,6 +4,7 @@
 
 #include "anfitrion.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t n) {

@@ -5,6 +5,8 @@
 
 #include "anfitrion.hpp"
 
+#include "norvik/base/codificacion.hpp"
+
 #include <algorithm>
 #include <filesystem>
 #include <memory>

@@ -125,7 +125,7 @@ QStringList Formulario::abre(const QString& fichero) {
     const std::size_t antes = elementos_.size();
     anade(guardados);
     retira(antes);
-    const QStringList avisos = llena(guardados);
+    QStringList avisos = llena(guardados);
     fichero_ = QFileInfo(fichero).absoluteFilePath();
     otros_ = formulario.otros;
     ponModificado(false);

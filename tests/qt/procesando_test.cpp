@@ -20,6 +20,7 @@
 
 #include <chrono>
 #include <thread>
+#include <vector>
 
 using namespace norvik;
 using namespace std::chrono_literals;
@@ -78,7 +79,7 @@ TEST(Procesando, SinAvisoNadaCambiaDeHilo) {
 
 TEST(Procesando, SeCancelaPorElBotonYPorTeclas) {
     SistemaQt sistema;
-    const std::pair<const char*, std::function<void(Procesando&)>> formas[] = {
+    const std::vector<std::pair<const char*, std::function<void(Procesando&)>>> formas = {
         {"boton", pulsaCancelar},
         {"escape", [](Procesando& a) { QTest::keyClick(&a, Qt::Key_Escape); }},
         {"espacio", [](Procesando& a) { QTest::keyClick(a.focusWidget(), Qt::Key_Space); }},
@@ -118,7 +119,7 @@ TEST(Procesando, UnaGramaticaInterminableSeCancelaEnLasVentanas) {
     ranurasDisenio() = ranuras;
     editor.carga();
     editor.show();
-    const std::function<void()> ordenes[] = {
+    const std::vector<std::function<void()>> ordenes = {
         [&] { pagina.findChild<QPushButton*>("Command5")->click(); },
         [&] { editor.findChild<QAction*>("VerInforme")->trigger(); },
         [&] { editor.findChild<QAction*>("ProbarLenguaje")->trigger(); },
