@@ -29,7 +29,7 @@ struct Lexema {
 /// se mueve pero no se copia.
 class NORVIK_API Lexemas {
 public:
-    Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores);
+    explicit Lexemas(std::unique_ptr<const TextoAnalizado> texto, std::vector<Diagnostico> errores);
     Lexemas(Lexemas&&) noexcept;
     Lexemas& operator=(Lexemas&&) noexcept;
     Lexemas(const Lexemas&) = delete;
