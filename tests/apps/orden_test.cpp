@@ -121,8 +121,9 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
                                "<span style=\"color:#008000\"># dos</span>\nfin</pre>"),
               std::string::npos)
         << html.salida;
-    EXPECT_NE(sobre("a\u202Eb", {"colorea", "--formato", "html"}).salida.find("a<bdi>\u202E</bdi>b"),
-              std::string::npos);
+    const std::string direccion = {'\xE2', '\x80', '\xAE'};
+    const Resultado aislado = sobre("a" + direccion + "b", {"colorea", "--formato", "html"});
+    EXPECT_NE(aislado.salida.find("a<bdi>" + direccion + "</bdi>b"), std::string::npos);
 }
 
 // Whatever language, text and path hold, a terminal is given line ends, tabulators and visible characters.

@@ -20,7 +20,6 @@
 
 #include <chrono>
 #include <thread>
-#include <vector>
 
 using namespace norvik;
 using namespace std::chrono_literals;
@@ -79,7 +78,7 @@ TEST(Procesando, SinAvisoNadaCambiaDeHilo) {
 
 TEST(Procesando, SeCancelaPorElBotonYPorTeclas) {
     SistemaQt sistema;
-    const std::vector<std::pair<const char*, std::function<void(Procesando&)>>> formas = {
+    const std::pair<const char*, std::function<void(Procesando&)>> formas[] = {
         {"boton", pulsaCancelar},
         {"escape", [](Procesando& a) { QTest::keyClick(&a, Qt::Key_Escape); }},
         {"espacio", [](Procesando& a) { QTest::keyClick(a.focusWidget(), Qt::Key_Space); }},
@@ -119,7 +118,7 @@ TEST(Procesando, UnaGramaticaInterminableSeCancelaEnLasVentanas) {
     ranurasDisenio() = ranuras;
     editor.carga();
     editor.show();
-    const std::vector<std::function<void()>> ordenes = {
+    const std::function<void()> ordenes[] = {
         [&] { pagina.findChild<QPushButton*>("Command5")->click(); },
         [&] { editor.findChild<QAction*>("VerInforme")->trigger(); },
         [&] { editor.findChild<QAction*>("ProbarLenguaje")->trigger(); },

@@ -21,7 +21,6 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <vector>
 
 using namespace norvik;
 using namespace norvik::taller;
@@ -88,7 +87,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
 }
 
 TEST_F(TallerTest, CadaFicheroSigueComoEra) {
-    const std::vector<std::tuple<std::string, const char*, std::string, QString>> casos = {
+    const std::tuple<std::string, const char*, std::string, QString> casos[] = {
         {"", "n", "n", "UTF-8  LF"},
         {"a\n", "n", "na\n", "UTF-8  LF"},
         {"a\r\n\r\n", "n", "na\r\n\r\n", "UTF-8  CR LF"},
@@ -256,7 +255,7 @@ TEST_F(TallerTest, LoQueNoEsUnFormularioDiceDonde) {
     ventana.formulario().ponModificado(false);
     const QString lista = "Controles no es una lista de 1 a 100 controles";
     const std::string muchos = R"({"Controles":[{})" + apoyo::repite(",{}", 100) + "]}";
-    const std::vector<std::pair<std::string, QString>> casos = {
+    const std::pair<std::string, QString> casos[] = {
         {"", "la línea 1 no es de un fichero JSON"},
         {"{\n\"Controles\": [\n{,", "la línea 3 no es de un fichero JSON"},
         {"[]", "no es un objeto"},
