@@ -94,7 +94,8 @@ std::string ansiDe(const CajaTextoMemoria& caja) {
 
 std::string htmlDe(const CajaTextoMemoria& caja, std::u16string_view titulo) {
     std::string salida =
-        "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escapa(titulo) +
+        "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
+        escapa(visible(titulo)) +
         "</title>\n<style>\n:root { color-scheme: light; }\n"
         "body { background: #fff; color: #000; }\n"
         "pre { font-family: \"Courier New\", monospace; tab-size: 4; }\n"

@@ -6,8 +6,8 @@
 #include "lenguaje.hpp"
 #include "rutas.hpp"
 
-#include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
+#include "norvik/base/ficheros.hpp"
 #include "norvik/base/formatoTexto.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/spec/directivas.hpp"
@@ -59,7 +59,7 @@ void OrdenesLenguaje::abre(const QString& fichero) {
     exigeFicheroCorriente(fichero, u"leer");
     const bool modulo = esModulo(aRuta(fichero));
     cambia(elemento, [&] {
-        if (!modulo) ponEspecificacion(elemento.norvik(), normalizaLineas(decodifica(leeDocumento(fichero))));
+        if (!modulo) ponEspecificacion(elemento.norvik(), leeTexto(aRuta(fichero)));
         elemento.ponModulo(modulo ? fichero : QString());
         elemento.norvik().NomLenguaje(QFileInfo(fichero).completeBaseName());
         prepara(elemento);

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/platform/qt/sistemaQt.hpp"
-
 #include "ordenesTexto.hpp"
 
 #include "rutas.hpp"
 
 #include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
 
 namespace norvik::taller {
 

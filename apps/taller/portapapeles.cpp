@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/platform/qt/cajaTextoQt.hpp"
-
 #include "portapapeles.hpp"
+
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -9,8 +9,7 @@
 
 namespace norvik::inline v0_2 {
 
-/// Dónde están los elementos de un control dentro de su rectángulo. Todas las longitudes, en twips.
-
+/// Dónde está un elemento dentro del rectángulo del control. Aquí todas las longitudes son twips.
 struct Rectangulo {
     std::int32_t x = 0;
     std::int32_t y = 0;

@@ -128,7 +128,7 @@ void ControlNorvik::cuentaFallo(const std::u16string& texto) {
     if (!cabe && !fallosContados_.insert(texto).second) return;
     const QPointer<ControlNorvik> vivo(this);
     bool contado = false;
-    static_cast<void>(falloDe([&] { emit fallo(aQString(texto), contado); })); // no failure about a failure
+    sinFallos([&] { emit fallo(aQString(texto), contado); }); // no failure about a failure
     if (!vivo.isNull() && !contado) piezas_->sistema.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
