@@ -12,6 +12,15 @@ void Norvik::pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
     vivo()->propiedades.pon(campo, valor, nombre);
 }
 
+// One that is only kept: what reads it, what sets it, its name, where it stands, its key in the bag.
+#define NORVIK_PROPIEDAD(Lee, Pone, Nombre, campo, clave)                                                    \
+    Lee Norvik::Nombre() const {                                                                             \
+        return partes_->campo;                                                                               \
+    }                                                                                                        \
+    void Norvik::Nombre(Pone valor) {                                                                        \
+        pon(partes_->campo, valor, u"" clave);                                                               \
+    }
+
 std::u16string_view Norvik::GetTextoInvisible() const {
     return partes_->lector.textoInvisible().texto();
 }
@@ -124,165 +133,29 @@ void Norvik::HideSelection(bool valor) {
     vivo()->propiedades.ponHideSelection(valor);
 }
 
-bool Norvik::LenguajeSensible() const {
-    return partes_->opciones.lenguajeSensible;
-}
-
-void Norvik::LenguajeSensible(bool valor) {
-    pon(partes_->opciones.lenguajeSensible, valor, u"LenguajeSensible");
-}
-
-bool Norvik::AutoCorreccion() const {
-    return partes_->opciones.autoCorreccion;
-}
-
-void Norvik::AutoCorreccion(bool valor) {
-    pon(partes_->opciones.autoCorreccion, valor, u"AutoCorreccion");
-}
-
-std::int16_t Norvik::EspaciosXTAB() const {
-    return partes_->opciones.espaciosXTAB;
-}
-
-void Norvik::EspaciosXTAB(std::int16_t cuantos) {
-    pon(partes_->opciones.espaciosXTAB, cuantos, u"EspaciosXTAB");
-}
-
-bool Norvik::AutoTAB() const {
-    return partes_->opciones.autoTAB;
-}
-
-void Norvik::AutoTAB(bool valor) {
-    pon(partes_->opciones.autoTAB, valor, u"AutoTAB");
-}
-
-bool Norvik::MarcarErrores() const {
-    return partes_->opciones.marcarErrores;
-}
-
-void Norvik::MarcarErrores(bool valor) {
-    pon(partes_->opciones.marcarErrores, valor, u"MarcarErrores");
-}
-
-bool Norvik::MuestraMensajesDeError() const {
-    return partes_->opciones.muestraMensajesDeError;
-}
-
-void Norvik::MuestraMensajesDeError(bool valor) {
-    pon(partes_->opciones.muestraMensajesDeError, valor, u"MuestraMensajesDeError");
-}
-
-bool Norvik::Colorear() const {
-    return partes_->opciones.colorear;
-}
-
-void Norvik::Colorear(bool valor) {
-    pon(partes_->opciones.colorear, valor, u"Colorear");
-}
-
-const std::u16string& Norvik::NomLenguaje() const {
-    return partes_->opciones.nombreLenguaje;
-}
-
-void Norvik::NomLenguaje(std::u16string_view nombre) {
-    pon(partes_->opciones.nombreLenguaje, nombre, u"NombreLenguaje");
-}
-
-bool Norvik::AutoNumero() const {
-    return partes_->lexico.autoNumber;
-}
-
-void Norvik::AutoNumero(bool valor) {
-    pon(partes_->lexico.autoNumber, valor, u"AutoNumero");
-}
-
-const std::u16string& Norvik::ContenidoG() const {
-    return partes_->opciones.contenidoG;
-}
-
-void Norvik::ContenidoG(std::u16string_view especificacion) {
-    pon(partes_->opciones.contenidoG, especificacion, u"ContenidoG");
-}
-
-const std::u16string& Norvik::CodigoPrueba() const {
-    return partes_->opciones.codigoPrueba;
-}
-
-void Norvik::CodigoPrueba(std::u16string_view texto) {
-    pon(partes_->opciones.codigoPrueba, texto, u"CodigoPrueba");
-}
-
-std::int32_t Norvik::ColorPR() const {
-    return partes_->lexico.colorPalabrasReservadas;
-}
-
-void Norvik::ColorPR(std::int32_t color) {
-    pon(partes_->lexico.colorPalabrasReservadas, color, u"ColorPR");
-}
-
-std::int32_t Norvik::ColorOperadores() const {
-    return partes_->lexico.ColorOperadores;
-}
-
-void Norvik::ColorOperadores(std::int32_t color) {
-    pon(partes_->lexico.ColorOperadores, color, u"ColorOperadores");
-}
-
-std::int32_t Norvik::ColorComentarios() const {
-    return partes_->lexico.ColorComentarios;
-}
-
-void Norvik::ColorComentarios(std::int32_t color) {
-    pon(partes_->lexico.ColorComentarios, color, u"ColorComentarios");
-}
-
-std::int32_t Norvik::ColorEtiquetas() const {
-    return partes_->lexico.ColorEtiquetas;
-}
-
-void Norvik::ColorEtiquetas(std::int32_t color) {
-    pon(partes_->lexico.ColorEtiquetas, color, u"ColorEtiquetas");
-}
-
-std::int32_t Norvik::ColorNumeros() const {
-    return partes_->lexico.ColorNumeros;
-}
-
-void Norvik::ColorNumeros(std::int32_t color) {
-    pon(partes_->lexico.ColorNumeros, color, u"ColorNumeros");
-}
-
-std::int32_t Norvik::ColorError() const {
-    return partes_->lexico.ColorError;
-}
-
-void Norvik::ColorError(std::int32_t color) {
-    pon(partes_->lexico.ColorError, color, u"ColorError");
-}
-
-std::int32_t Norvik::ColorCadena() const {
-    return partes_->lexico.ColorCadena;
-}
-
-void Norvik::ColorCadena(std::int32_t color) {
-    pon(partes_->lexico.ColorCadena, color, u"ColorCadena");
-}
-
-std::int32_t Norvik::ColorCaracter() const {
-    return partes_->lexico.ColorCaracter;
-}
-
-void Norvik::ColorCaracter(std::int32_t color) {
-    pon(partes_->lexico.ColorCaracter, color, u"ColorCaracter");
-}
-
-std::int32_t Norvik::ColorFechas() const {
-    return partes_->lexico.ColorFechas;
-}
-
-void Norvik::ColorFechas(std::int32_t color) {
-    pon(partes_->lexico.ColorFechas, color, u"ColorFechas");
-}
+NORVIK_PROPIEDAD(bool, bool, LenguajeSensible, opciones.lenguajeSensible, "LenguajeSensible")
+NORVIK_PROPIEDAD(bool, bool, AutoCorreccion, opciones.autoCorreccion, "AutoCorreccion")
+NORVIK_PROPIEDAD(std::int16_t, std::int16_t, EspaciosXTAB, opciones.espaciosXTAB, "EspaciosXTAB")
+NORVIK_PROPIEDAD(bool, bool, AutoTAB, opciones.autoTAB, "AutoTAB")
+NORVIK_PROPIEDAD(bool, bool, MarcarErrores, opciones.marcarErrores, "MarcarErrores")
+NORVIK_PROPIEDAD(bool, bool, MuestraMensajesDeError, opciones.muestraMensajesDeError,
+                 "MuestraMensajesDeError")
+NORVIK_PROPIEDAD(bool, bool, Colorear, opciones.colorear, "Colorear")
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, NomLenguaje, opciones.nombreLenguaje,
+                 "NombreLenguaje")
+NORVIK_PROPIEDAD(bool, bool, AutoNumero, lexico.autoNumber, "AutoNumero")
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, ContenidoG, opciones.contenidoG, "ContenidoG")
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, CodigoPrueba, opciones.codigoPrueba,
+                 "CodigoPrueba")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorPR, lexico.colorPalabrasReservadas, "ColorPR")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorOperadores, lexico.ColorOperadores, "ColorOperadores")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorComentarios, lexico.ColorComentarios, "ColorComentarios")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorEtiquetas, lexico.ColorEtiquetas, "ColorEtiquetas")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorNumeros, lexico.ColorNumeros, "ColorNumeros")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorError, lexico.ColorError, "ColorError")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCadena, lexico.ColorCadena, "ColorCadena")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCaracter, lexico.ColorCaracter, "ColorCaracter")
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorFechas, lexico.ColorFechas, "ColorFechas")
 
 gramatica& Norvik::Gramatica() {
     return partes_->laGramatica;
@@ -299,5 +172,7 @@ const SignosDelBorde::PorIndice& Norvik::signos() const {
 const Historial& Norvik::historial() const {
     return partes_->historial;
 }
+
+#undef NORVIK_PROPIEDAD
 
 } // namespace norvik::inline v0_2
