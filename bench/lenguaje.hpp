@@ -3,7 +3,7 @@
 #pragma once
 
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <filesystem>
@@ -22,7 +22,7 @@ public:
     /// Compiles a specification and builds its table; ends the program when that fails.
     void compila(std::u16string_view especificacion);
 
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     SistemaMemoria sistema;
     Norvik control;
 };

@@ -7,7 +7,7 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QApplication>
 #include <QKeyEvent>

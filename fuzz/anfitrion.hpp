@@ -4,7 +4,7 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <cstddef>
@@ -17,7 +17,7 @@ namespace norvik::fuzz {
 
 /// A control with a place to stand, whose messages nobody sees.
 class Anfitrion {
-    CajaTextoMemoria caja_;
+    CajaTexto caja_;
     SistemaMemoria sistema_{nullptr};
 
 public:

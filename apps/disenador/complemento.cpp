@@ -6,7 +6,7 @@
 #include "propiedadesPublicadas.hpp"
 
 #include "norvik/control/descripciones.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QDesignerFormEditorInterface>

@@ -23,7 +23,7 @@ public:
     QString toolTip() const override;
     /// The published descriptions of the control's operations.
     QString whatsThis() const override;
-    QString includeFile() const override { return QStringLiteral("<norvik/tools/controlNorvik.hpp>"); }
+    QString includeFile() const override { return QStringLiteral("<norvik/widget/controlNorvik.hpp>"); }
     QIcon icon() const override;
     bool isContainer() const override { return false; }
     QWidget* createWidget(QWidget* padre) override;

@@ -4,7 +4,7 @@
 
 #include "propiedadesPublicadas.hpp"
 
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QDesignerPropertySheetExtension>
 #include <QObject>

@@ -5,7 +5,7 @@
 #include "salida.hpp"
 
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <filesystem>
@@ -26,7 +26,7 @@ class Anfitrion {
 public:
     explicit Anfitrion(Salida& salida);
 
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     Norvik control;
 
     /// Compiles a language from a file's text, ready to parse. False when there is none to go on with; the

@@ -19,7 +19,7 @@ std::string textoSinColor(std::string texto) {
     return texto;
 }
 
-std::string escribeTexto(const CajaTextoMemoria& caja, const Colorea& orden, const Salida& salida) {
+std::string escribeTexto(const CajaTexto& caja, const Colorea& orden, const Salida& salida) {
     switch (orden.formato) {
     case FormatoColor::Terminal:
         return salida.conColor() ? ansiDe(caja) : textoSinColor(aUtf8(caja.texto()));

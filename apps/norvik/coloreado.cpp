@@ -62,7 +62,7 @@ std::string escapa(std::u16string_view texto) {
 
 /// Calls `trozo(texto, color)` for each part of a line in one colour, and `salto()` between lines.
 template <typename Trozo, typename Salto>
-void recorre(const CajaTextoMemoria& caja, Trozo trozo, Salto salto) {
+void recorre(const CajaTexto& caja, Trozo trozo, Salto salto) {
     for (const auto& [inicio, longitud, color] : caja.colores()) {
         auto tramo =
             caja.texto().substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(longitud));
@@ -78,7 +78,7 @@ void recorre(const CajaTextoMemoria& caja, Trozo trozo, Salto salto) {
 
 } // namespace
 
-std::string ansiDe(const CajaTextoMemoria& caja) {
+std::string ansiDe(const CajaTexto& caja) {
     std::string salida;
     const auto trozo = [&](std::u16string_view texto, std::int32_t color) {
         if (color == 0) {
@@ -92,7 +92,7 @@ std::string ansiDe(const CajaTextoMemoria& caja) {
     return salida;
 }
 
-std::string htmlDe(const CajaTextoMemoria& caja, std::u16string_view titulo) {
+std::string htmlDe(const CajaTexto& caja, std::u16string_view titulo) {
     std::string salida =
         "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
         escapa(visible(titulo)) +

@@ -6,7 +6,7 @@
 #include "veloDisenio.hpp"
 
 #include "norvik/base/formatoTexto.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QLabel>
 #include <QString>

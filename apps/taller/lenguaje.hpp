@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 // What the edit menu does to a control. Cutting and pasting go through the keys that do the same, so that the
 // control sees what a user does.

@@ -42,6 +42,9 @@ public:
     /// Pone una señal en el borde izquierdo.
     virtual void ponSigno(const signoDebuger& /*signo*/, const LugarDeSigno& /*lugar*/) {}
 
+    /// Hay otras ayudas de edición encendidas.
+    virtual void otrasAyudas() {}
+
     /// @name Ventanas
     /// Las modales vuelven cuando se cierran; la de buscar, enseguida.
     /// @{

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
+#include "norvik/control/ayudas.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/eventosControl.hpp"
@@ -322,6 +323,9 @@ public:
     void clickEnSuperficie();
     /// Las opciones, juntas.
     const Opciones& opciones() const;
+    /// Las ayudas de edición encendidas, y otras; no se guardan con las propiedades.
+    const Ayudas& ayudas() const;
+    void ponAyudas(const Ayudas& ayudas);
 
     /// @}
 

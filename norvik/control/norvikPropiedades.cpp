@@ -85,6 +85,14 @@ const Opciones& Norvik::opciones() const {
     return partes_->opciones;
 }
 
+const Ayudas& Norvik::ayudas() const {
+    return partes_->ayudas;
+}
+
+void Norvik::ponAyudas(const Ayudas& ayudas) {
+    vivo()->ponAyudas(ayudas);
+}
+
 void Norvik::Text(std::u16string_view texto) {
     vivo()->propiedades.ponText(texto);
 }

@@ -53,6 +53,12 @@ void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u
     paso.acaba();
 }
 
+void PartesControl::ponAyudas(const Ayudas& otras) {
+    if (otras == ayudas) return;
+    ayudas = otras;
+    contenedor->otrasAyudas();
+}
+
 void PartesControl::clickEnSuperficie() const {
     caja->enfoca();
     if (!lineas.ocupado()) edicion.avisaClick();

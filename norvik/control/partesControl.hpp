@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/control/ayudas.hpp"
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/coloreado.hpp"
 #include "norvik/control/contenedor.hpp"
@@ -17,7 +18,7 @@
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/conductor.hpp"
 #include "norvik/parser/lectorTokens.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <cstdint>
@@ -60,6 +61,7 @@ public:
     void CargarFichero(const std::filesystem::path& nomFichero);
     void Imprimir() const;
     void clickEnSuperficie() const;
+    void ponAyudas(const Ayudas& otras);
     /// Raises `ArgumentoNoValido` while a language is being loaded or compiled.
     void compruebaQueNadaCarga() const;
 
@@ -68,6 +70,7 @@ public:
     Prestado<Contenedor> contenedor;
     EventosControl eventos;
     Opciones opciones;
+    Ayudas ayudas;
     pilaTokens lexico;
     gramatica laGramatica;
     LectorTokens lector;
@@ -88,7 +91,7 @@ private:
     bool analizaEspecificacion(std::u16string_view codGramatica);
 
     bool cargando_ = false;
-    CajaTextoMemoria cajaDeNadie_;
+    CajaTexto cajaDeNadie_;
     SistemaMemoria sistemaDeNadie_{{}};
 };
 

@@ -2,12 +2,214 @@
 
 #include "norvik/platform/cajaTexto.hpp"
 
+#include "norvik/base/lineas.hpp"
+#include "norvik/base/numeros.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/pattern/mayusculas.hpp"
 #include "norvik/pattern/patronClase.hpp"
 
 #include <algorithm>
 
 namespace norvik::inline v0_2 {
+
+CajaTexto::CajaTexto() : lineas_(std::make_unique<IndiceLineas>()) {}
+
+CajaTexto::~CajaTexto() = default;
+
+const IndiceLineas& CajaTexto::lineas() const {
+    if (!lineasAlDia_) lineas_->reconstruye(texto_);
+    lineasAlDia_ = true;
+    return *lineas_;
+}
+
+std::int32_t CajaTexto::lineaDeCaracter(std::int32_t posicion) const {
+    return lineas().lineaDe(posicion);
+}
+
+std::int32_t CajaTexto::inicioDeLinea(std::int32_t linea) const {
+    return lineas().inicioDe(linea);
+}
+
+std::int32_t CajaTexto::numeroDeLineas() const {
+    return lineas().numLineas();
+}
+
+/// The text as it enters between two positions: a break of one character is doubled, unless its other half
+/// stands there.
+std::u16string CajaTexto::conSaltosDobles(std::u16string_view texto, std::int32_t inicio,
+                                          std::int32_t fin) const {
+    const bool trasCR = inicio > 0 && texto_[static_cast<std::size_t>(inicio - 1)] == u'\r';
+    const bool anteLF =
+        static_cast<std::size_t>(fin) < texto_.size() && texto_[static_cast<std::size_t>(fin)] == u'\n';
+    std::u16string doble;
+    doble.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const char16_t c = texto[i];
+        const bool acaba = i + 1 == texto.size();
+        const bool sigueLF = acaba ? anteLF : texto[i + 1] == u'\n';
+        const bool precedeCR = i == 0 ? trasCR : texto[i - 1] == u'\r';
+        if (c == u'\n' && !precedeCR) doble += u'\r';
+        doble += c;
+        if (c == u'\r' && !sigueLF) doble += u'\n';
+    }
+    return doble;
+}
+
+void CajaTexto::ponTexto(std::u16string_view texto) {
+    std::u16string nuevo = conSaltosDobles(texto, 0, static_cast<std::int32_t>(texto_.size()));
+    const CambioDeTexto cambio{0, static_cast<std::int32_t>(texto_.size()), a32(nuevo.size())};
+    std::vector<Estilo> estilos(nuevo.size());
+    texto_ = std::move(nuevo);
+    estilos_ = std::move(estilos);
+    const Seleccion antes{inicio_, longitud_};
+    inicio_ = longitud_ = 0;
+    modificado_ = false;
+    avisaDelCambio(cambio, antes);
+}
+
+void CajaTexto::selecciona(std::int32_t inicio, std::int32_t longitud) {
+    const auto total = static_cast<std::int32_t>(texto_.size());
+    const std::int32_t desde = std::clamp(inicio, 0, total);
+    const std::int32_t cuantos = std::clamp(longitud, 0, total - desde);
+    if (desde == inicio_ && cuantos == longitud_) return;
+    inicio_ = desde;
+    longitud_ = cuantos;
+    estiloDeEscritura_.reset();
+    alSeleccionar();
+    if (eventos.cambioDeSeleccion) eventos.cambioDeSeleccion();
+}
+
+std::u16string CajaTexto::textoSeleccionado() const {
+    return texto_.substr(static_cast<std::size_t>(inicio_), static_cast<std::size_t>(longitud_));
+}
+
+void CajaTexto::reemplazaSeleccion(std::u16string_view texto) {
+    if (texto.empty() && longitud_ == 0) return;
+    const std::u16string nuevo = conSaltosDobles(texto, inicio_, inicio_ + longitud_);
+    const Seleccion antes{inicio_, longitud_};
+    const CambioDeTexto cambio{inicio_, longitud_, a32(nuevo.size())};
+    sustituye(cambio, nuevo);
+    inicio_ += cambio.puestos;
+    longitud_ = 0;
+    avisaDelCambio(cambio, antes);
+}
+
+void CajaTexto::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
+                      std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
+    const Seleccion antes{inicio_, longitud_};
+    const CambioDeTexto cambio{inicio, quitados, a32(texto.size())};
+    sustituye(cambio, texto);
+    inicio_ = inicioSeleccion;
+    longitud_ = longitudSeleccion;
+    avisaDelCambio(cambio, antes);
+}
+
+void CajaTexto::sustituye(const CambioDeTexto& s, std::u16string_view nuevo) {
+    const Estilo estilo = estiloEn(s.inicio, s.quitados);
+    texto_.reserve(static_cast<std::size_t>(a32(texto_.size() + nuevo.size()))); // below, nothing fails
+    const auto comunes = std::min(s.puestos, s.quitados);
+    const auto desde = estilos_.begin() + s.inicio;
+    std::fill(desde, desde + comunes, estilo);
+    if (s.puestos > comunes) {
+        estilos_.insert(desde + comunes, static_cast<std::size_t>(s.puestos - comunes), estilo);
+    } else {
+        estilos_.erase(desde + comunes, desde + s.quitados);
+    }
+    texto_.replace(static_cast<std::size_t>(s.inicio), static_cast<std::size_t>(s.quitados), nuevo);
+    modificado_ = true;
+}
+
+void CajaTexto::avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes) {
+    lineasAlDia_ = false;
+    estiloDeEscritura_.reset();
+    cambio.otraSeleccion = antes != Seleccion{inicio_, longitud_};
+    alSustituir(cambio);
+    if (eventos.cambio) eventos.cambio(cambio);
+}
+
+/// Of a range its first character's; of none, that of what is written there.
+CajaTexto::Estilo CajaTexto::estiloEn(std::int32_t inicio, std::int32_t longitud) const {
+    if (longitud > 0) return estilos_[static_cast<std::size_t>(inicio)];
+    if (estiloDeEscritura_ && longitud_ == 0 && inicio == inicio_) return *estiloDeEscritura_;
+    if (estilos_.empty()) return {};
+    return estilos_[static_cast<std::size_t>(std::max(inicio - 1, 0))];
+}
+
+template <typename Cambio>
+void CajaTexto::cambiaEstilo(Cambio cambio) {
+    if (longitud_ == 0) {
+        Estilo estilo = estiloSeleccion();
+        cambio(estilo);
+        estiloDeEscritura_ = estilo;
+        return;
+    }
+    std::for_each(estilos_.begin() + inicio_, estilos_.begin() + inicio_ + longitud_, cambio);
+    alPintar(inicio_, longitud_);
+}
+
+void CajaTexto::ponColorSeleccion(std::int32_t color) {
+    cambiaEstilo([color](Estilo& e) { e.color = color; });
+}
+
+void CajaTexto::pinta(std::int32_t inicio, std::int32_t longitud, std::int32_t color) {
+    const auto desde = estilos_.begin() + inicio;
+    std::for_each(desde, desde + longitud, [color](Estilo& e) { e.color = color; });
+    estiloDeEscritura_.reset();
+    alPintar(inicio, longitud);
+}
+
+const std::u16string& CajaTexto::nombreFuenteSeleccion() const {
+    const std::int32_t numero = estiloSeleccion().letra;
+    return numero == 0 ? fuente_.nombre : letra(numero).nombre;
+}
+
+std::int32_t CajaTexto::tamanoFuenteSeleccion() const {
+    const std::int32_t numero = estiloSeleccion().letra;
+    return numero == 0 ? fuente_.tamano : letra(numero).tamano;
+}
+
+std::int32_t CajaTexto::numeroDeLetra(const Letra& letra) {
+    const auto igual = std::find(letras_.begin(), letras_.end(), letra);
+    const auto numero = static_cast<std::int32_t>(igual - letras_.begin()) + 1;
+    if (igual == letras_.end()) letras_.push_back(letra);
+    return numero;
+}
+
+std::int32_t CajaTexto::conNombre(std::int32_t numero, std::u16string_view nombre) {
+    return numeroDeLetra({std::u16string(nombre), numero == 0 ? fuente_.tamano : letra(numero).tamano});
+}
+
+std::int32_t CajaTexto::conTamano(std::int32_t numero, std::int32_t tamano) {
+    return numeroDeLetra({numero == 0 ? fuente_.nombre : letra(numero).nombre, tamano});
+}
+
+void CajaTexto::ponNombreFuenteSeleccion(std::u16string_view nombre) {
+    cambiaEstilo([&](Estilo& e) { e.letra = conNombre(e.letra, nombre); });
+}
+
+void CajaTexto::ponTamanoFuenteSeleccion(std::int32_t tamano) {
+    cambiaEstilo([&](Estilo& e) { e.letra = conTamano(e.letra, tamano); });
+}
+
+/// A font of s points is about 1.2 s points high.
+std::int32_t CajaTexto::altoDeLinea() const {
+    constexpr std::int64_t twipsPorPunto = 20;
+    return a32(std::int64_t{fuente_.tamano} * twipsPorPunto * 12 / 10 / 10000);
+}
+
+std::vector<TramoDeColor> CajaTexto::colores() const {
+    std::vector<TramoDeColor> tramos;
+    for (auto desde = estilos_.begin(); desde != estilos_.end();) {
+        const auto hasta =
+            std::find_if(desde, estilos_.end(), [&](const Estilo& e) { return e.color != desde->color; });
+        tramos.push_back({static_cast<std::int32_t>(desde - estilos_.begin()),
+                          static_cast<std::int32_t>(hasta - desde), desde->color});
+        desde = hasta;
+    }
+    return tramos;
+}
+
+// --- Search ---
 
 namespace {
 

@@ -3,31 +3,19 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
+#include "norvik/platform/fuenteTexto.hpp"
 
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::inline v0_2 {
 
-/// Un texto con servicios de líneas. Posiciones y líneas cuentan desde 0; un salto de línea (CR LF, o un CR o
-/// un LF solo) pertenece a la línea que acaba.
-class NORVIK_API FuenteTexto {
-public:
-    FuenteTexto() = default;
-    FuenteTexto(const FuenteTexto&) = delete;
-    FuenteTexto& operator=(const FuenteTexto&) = delete;
-    virtual ~FuenteTexto() = default;
-
-    /// El texto entero; la vista vale hasta el siguiente cambio.
-    virtual std::u16string_view texto() const = 0;
-    /// Línea del carácter de una posición; una posición más allá del texto está en la última línea.
-    virtual std::int32_t lineaDeCaracter(std::int32_t posicion) const = 0;
-    /// Posición del primer carácter de una línea, -1 cuando no existe.
-    virtual std::int32_t inicioDeLinea(std::int32_t linea) const = 0;
-    virtual std::int32_t numeroDeLineas() const = 0;
-};
+class IndiceLineas;
 
 /// Una fuente. Sus atributos son independientes entre sí, como los ponen y guardan los anfitriones, uno a
 /// uno.
@@ -79,9 +67,22 @@ struct CambioDeTexto {
     }
 };
 
-/// Lo que el control necesita de una caja de texto con formato. Posiciones desde 0, en caracteres, y un salto
-/// de línea cuenta como dos; colores 0x00BBGGRR; longitudes en la pantalla en twips (1/1440 de pulgada). Los
-/// cambios hechos por programa dan los eventos como los del usuario. Colores y fuentes no dan ninguno.
+/// Caracteres seguidos del mismo color. Posiciones desde 0.
+struct TramoDeColor {
+    std::int32_t inicio = 0;
+    std::int32_t longitud = 0;
+    std::int32_t color = 0;
+
+    bool operator==(const TramoDeColor&) const = default;
+};
+
+/// Un texto que se edita, con sus colores, su selección y sus líneas; con él le basta a un anfitrión sin
+/// ventanas, y una caja de una ventana (una clase que deriva de esta) lo enseña. Cada carácter tiene a su
+/// lado su color y su fuente, de modo que pintar un trozo cuesta lo que mide el trozo.
+///
+/// Posiciones desde 0, en caracteres, y un salto de línea cuenta como dos; colores 0x00BBGGRR; longitudes en
+/// la pantalla en twips (1/1440 de pulgada). Los cambios hechos por programa dan los eventos como los del
+/// usuario. Colores y fuentes no dan ninguno.
 ///
 /// Un salto de línea que llega como CR o LF solo se convierte en CR LF, a no ser que complete medio salto que
 /// ya está a su lado. Solo quedan mitades cuando se selecciona y se reemplaza parte de un CR LF.
@@ -107,33 +108,48 @@ public:
     };
     Eventos eventos;
 
+    CajaTexto();
+    CajaTexto(const CajaTexto&) = delete;
+    CajaTexto& operator=(const CajaTexto&) = delete;
+    ~CajaTexto() override;
+
+    std::u16string_view texto() const override { return texto_; }
+    std::int32_t lineaDeCaracter(std::int32_t posicion) const override;
+    std::int32_t inicioDeLinea(std::int32_t linea) const override;
+    std::int32_t numeroDeLineas() const override;
     /// Otro texto, todo él de color 0 y con la fuente de la caja, el cursor al principio y sin modificar.
-    virtual void ponTexto(std::u16string_view texto) = 0;
+    void ponTexto(std::u16string_view texto);
 
     /// Donde empieza la selección, o está el cursor.
-    virtual std::int32_t inicioSeleccion() const = 0;
-    virtual std::int32_t longitudSeleccion() const = 0;
+    std::int32_t inicioSeleccion() const { return inicio_; }
+    std::int32_t longitudSeleccion() const { return longitud_; }
     /// Selecciona; los dos extremos se llevan dentro del texto. El cursor queda al principio.
-    virtual void selecciona(std::int32_t inicio, std::int32_t longitud) = 0;
-    virtual std::u16string textoSeleccionado() const = 0;
+    void selecciona(std::int32_t inicio, std::int32_t longitud);
+    std::u16string textoSeleccionado() const;
     /// Reemplaza la selección; el cursor queda detrás del texto insertado, que tiene el color del primer
     /// carácter reemplazado o el de lo que se escriba a continuación.
-    virtual void reemplazaSeleccion(std::u16string_view texto) = 0;
+    void reemplazaSeleccion(std::u16string_view texto);
+
     /// Color de los caracteres de la selección; cuando está vacía, de lo que se escriba a continuación
     /// mientras no cambie la selección.
-    virtual void ponColorSeleccion(std::int32_t color) = 0;
+    void ponColorSeleccion(std::int32_t color);
     /// Color del primer carácter de la selección; cuando está vacía, de lo que se escriba a continuación: el
     /// del carácter anterior al cursor, si no se puso otro.
-    virtual std::int32_t colorSeleccion() const = 0;
+    std::int32_t colorSeleccion() const { return estiloSeleccion().color; }
+    /// Pinta unos caracteres, que están en el texto, sin tocar la selección. Lo que se escriba a continuación
+    /// vuelve a tener el color del carácter anterior.
+    void pinta(std::int32_t inicio, std::int32_t longitud, std::int32_t color);
+    /// Los colores de todo el texto: tramos de un color, en orden y sin huecos.
+    std::vector<TramoDeColor> colores() const;
 
     /// La fuente de todo el texto que no tiene una propia.
-    virtual const Fuente& fuente() const = 0;
-    virtual void ponFuente(const Fuente& fuente) = 0;
+    const Fuente& fuente() const { return fuente_; }
+    virtual void ponFuente(const Fuente& fuente) { fuente_ = fuente; }
     /// Nombre y tamaño (en diezmilésimas de punto) de la fuente de la selección, como su color.
-    virtual const std::u16string& nombreFuenteSeleccion() const = 0;
-    virtual void ponNombreFuenteSeleccion(std::u16string_view nombre) = 0;
-    virtual std::int32_t tamanoFuenteSeleccion() const = 0;
-    virtual void ponTamanoFuenteSeleccion(std::int32_t tamano) = 0;
+    const std::u16string& nombreFuenteSeleccion() const;
+    void ponNombreFuenteSeleccion(std::u16string_view nombre);
+    std::int32_t tamanoFuenteSeleccion() const;
+    void ponTamanoFuenteSeleccion(std::int32_t tamano);
 
     /// Busca la primera aparición de un texto que esté entera en [desde, hasta), y la selecciona si las
     /// opciones no dicen que no. Da su posición, -1 cuando no hay ninguna o el texto está vacío; los extremos
@@ -142,29 +158,97 @@ public:
                        std::int32_t opciones);
 
     /// Editada desde que se puso el texto o se quitó la marca.
-    virtual bool modificado() const = 0;
-    virtual void ponModificado(bool modificado) = 0;
+    bool modificado() const { return modificado_; }
+    void ponModificado(bool modificado) { modificado_ = modificado; }
     /// La selección no se ve mientras la caja no tiene el foco.
-    virtual bool ocultaSeleccion() const = 0;
-    virtual void ponOcultaSeleccion(bool oculta) = 0;
-
+    bool ocultaSeleccion() const { return ocultaSeleccion_; }
+    virtual void ponOcultaSeleccion(bool oculta) { ocultaSeleccion_ = oculta; }
     /// Anchura a partir de la que se partirían las líneas, en twips; 0 cuando nadie la ha puesto. Las cajas
     /// no parten líneas.
-    virtual std::int32_t margenDerecho() const = 0;
-    virtual void ponMargenDerecho(std::int32_t twips) = 0;
-    /// La primera línea que se ve entera o en parte.
-    virtual std::int32_t primeraLineaVisible() const = 0;
-    /// Alto de una línea con la fuente de la caja.
-    virtual std::int32_t altoDeLinea() const = 0;
-    /// El borde izquierdo de la caja dentro del control.
-    virtual std::int32_t izquierda() const = 0;
-    virtual void ponIzquierda(std::int32_t twips) = 0;
-    /// Toma el foco.
-    virtual void enfoca() = 0;
+    std::int32_t margenDerecho() const { return margenDerecho_; }
+    void ponMargenDerecho(std::int32_t twips) { margenDerecho_ = twips; }
 
+    /// @name Lo que depende de dónde se enseña
+    /// @{
+    /// La primera línea que se ve entera o en parte.
+    virtual std::int32_t primeraLineaVisible() const { return 0; }
+    /// Alto de una línea con la fuente de la caja.
+    virtual std::int32_t altoDeLinea() const;
+    /// El borde izquierdo de la caja dentro del control.
+    std::int32_t izquierda() const { return izquierda_; }
+    virtual void ponIzquierda(std::int32_t twips) { izquierda_ = twips; }
+    /// Toma el foco.
+    virtual void enfoca() {}
     /// Entre las dos llamadas (se anidan) la caja no se redibuja.
-    virtual void bloqueaDibujo() = 0;
-    virtual void desbloqueaDibujo() = 0;
+    virtual void bloqueaDibujo() {}
+    virtual void desbloqueaDibujo() {}
+    /// @}
+
+protected:
+    /// Nombre y tamaño de fuente dados a unos caracteres; el número 0 son los de la fuente de la caja.
+    struct Letra {
+        std::u16string nombre;
+        std::int32_t tamano = 0;
+
+        bool operator==(const Letra&) const = default;
+    };
+    struct Estilo {
+        std::int32_t color = 0;
+        std::int32_t letra = 0;
+
+        bool operator==(const Estilo&) const = default;
+    };
+
+    /// @name Para una caja que muestra esta
+    /// Lo que debe saber, antes de los eventos.
+    /// @{
+    virtual void alSustituir(const CambioDeTexto& /*cambio*/) {}
+    virtual void alSeleccionar() {}
+    virtual void alPintar(std::int32_t /*inicio*/, std::int32_t /*longitud*/) {}
+
+    /// @}
+
+    /// Una edición del usuario, tras la cual la selección es la que se da.
+    void edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
+               std::int32_t inicioSeleccion, std::int32_t longitudSeleccion);
+    /// Caduca con la caja, que un receptor de sus eventos puede destruir.
+    std::weak_ptr<const void> testigo() const { return testigo_; }
+    const std::vector<Estilo>& estilos() const { return estilos_; }
+    const Letra& letra(std::int32_t numero) const { return letras_[static_cast<std::size_t>(numero - 1)]; }
+
+private:
+    struct Seleccion {
+        std::int32_t inicio = 0;
+        std::int32_t longitud = 0;
+        bool operator==(const Seleccion&) const = default;
+    };
+
+    const IndiceLineas& lineas() const;
+    std::u16string conSaltosDobles(std::u16string_view texto, std::int32_t inicio, std::int32_t fin) const;
+    void sustituye(const CambioDeTexto& cambio, std::u16string_view nuevo);
+    void avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes);
+    Estilo estiloEn(std::int32_t inicio, std::int32_t longitud) const;
+    Estilo estiloSeleccion() const { return estiloEn(inicio_, longitud_); }
+    template <typename Cambio>
+    void cambiaEstilo(Cambio cambio);
+    std::int32_t numeroDeLetra(const Letra& letra);
+    std::int32_t conNombre(std::int32_t numero, std::u16string_view nombre);
+    std::int32_t conTamano(std::int32_t numero, std::int32_t tamano);
+
+    std::u16string texto_;
+    std::vector<Estilo> estilos_; ///< uno por carácter
+    std::vector<Letra> letras_;   ///< del número 1 en adelante
+    Fuente fuente_;
+    std::int32_t inicio_ = 0;
+    std::int32_t longitud_ = 0;
+    std::optional<Estilo> estiloDeEscritura_; ///< puesto con una selección vacía
+    bool modificado_ = false;
+    bool ocultaSeleccion_ = true;
+    std::int32_t margenDerecho_ = 0;
+    std::int32_t izquierda_ = 0;
+    std::shared_ptr<const char> testigo_ = std::make_shared<char>();
+    const std::unique_ptr<IndiceLineas> lineas_;
+    mutable bool lineasAlDia_ = true; ///< el índice se hace la primera vez que se pide tras un cambio
 };
 
 } // namespace norvik::inline v0_2

@@ -2,7 +2,7 @@
 
 #include "norvik/tools/buscar.hpp"
 
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QEvent>

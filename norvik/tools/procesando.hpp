@@ -3,7 +3,7 @@
 #pragma once
 
 #include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QFrame>
 #include <QPushButton>

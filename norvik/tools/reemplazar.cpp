@@ -3,7 +3,7 @@
 #include "norvik/tools/reemplazar.hpp"
 
 #include "norvik/tools/buscar.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <algorithm>

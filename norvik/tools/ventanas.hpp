@@ -3,6 +3,7 @@
 #pragma once
 
 #include "norvik/platform/qt/fallos.hpp"
+#include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 
@@ -15,12 +16,6 @@
 
 // What the windows have in common.
 namespace norvik {
-
-/// Names an element, and says to screen readers what it is.
-inline void nombra(QWidget& elemento, const char* nombre, const QString& accesible) {
-    elemento.setObjectName(QLatin1String(nombre));
-    elemento.setAccessibleName(accesible);
-}
 
 /// A tooltip that is shown as it is written: Qt would take some of them for marks of a page.
 inline QString ayudaLlana(const QString& texto) {

@@ -8,14 +8,14 @@
 
 #include <norvik/base/ficheros.hpp>
 #include <norvik/base/texto.hpp>
-#include <norvik/platform/memoria/cajaTextoMemoria.hpp>
+#include <norvik/platform/cajaTexto.hpp>
 #include <norvik/platform/memoria/sistemaMemoria.hpp>
 
 #include <iostream>
 
 int main(int argc, char** argv) {
     if (argc != 3) return 2;
-    norvik::CajaTextoMemoria caja;
+    norvik::CajaTexto caja;
     norvik::SistemaMemoria sistema(
         [](const norvik::Mensaje& mensaje) { std::cerr << norvik::aUtf8(mensaje.texto) << '\n'; });
     norvik::Norvik control(caja, sistema);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <norvik/spec/lenguaje.hpp>
-#include <norvik/tools/controlNorvik.hpp>
+#include <norvik/widget/controlNorvik.hpp>
 
 #include <QListWidget>
 #include <QMainWindow>

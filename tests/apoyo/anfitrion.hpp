@@ -5,7 +5,7 @@
 #include "grammar/apoyoGramatica.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
 #include <string>
@@ -33,7 +33,7 @@ public:
 };
 
 /// Counts the locks that are still on.
-class CajaVigilada : public CajaTextoMemoria {
+class CajaVigilada : public CajaTexto {
 public:
     void bloqueaDibujo() override { ++bloqueos; }
     void desbloqueaDibujo() override { --bloqueos; }

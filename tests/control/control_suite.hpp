@@ -9,7 +9,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "platform/cajas.hpp"
 
@@ -396,7 +396,7 @@ TEST_P(ControlTest, DeshacerYRehacer) {
 
 /// The control's text and lists, all of them whole, by the rules of Undo and Redo taken literally.
 struct ModeloDeHistorial {
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     std::vector<UndoElement> undos, redos;
 
     static std::int32_t largo(std::u16string_view t) { return static_cast<std::int32_t>(t.size()); }

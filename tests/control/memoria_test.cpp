@@ -6,7 +6,7 @@
 
 namespace norvik {
 
-INSTANTIATE_TEST_SUITE_P(Memoria, CajaTextoTest, testing::Values(crea<CajaTextoMemoria>));
-INSTANTIATE_TEST_SUITE_P(Memoria, ControlTest, testing::Values(crea<CajaTextoMemoria>));
+INSTANTIATE_TEST_SUITE_P(Memoria, CajaTextoTest, testing::Values(crea<CajaTexto>));
+INSTANTIATE_TEST_SUITE_P(Memoria, ControlTest, testing::Values(crea<CajaTexto>));
 
 } // namespace norvik

@@ -43,7 +43,7 @@ private:
 struct Contenido {
     ContenedorVigilado contenedor;
     SistemaVigilado sistema;
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     Norvik n{caja, sistema, contenedor};
 };
 

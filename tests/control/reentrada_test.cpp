@@ -66,7 +66,7 @@ struct Reentrante {
     Accion accion;
     SistemaConEventos sistema{*this};
     ContenedorConEventos contenedor{*this};
-    std::unique_ptr<CajaTextoMemoria> caja = std::make_unique<CajaTextoMemoria>();
+    std::unique_ptr<CajaTexto> caja = std::make_unique<CajaTexto>();
     std::unique_ptr<Norvik> norvik = std::make_unique<Norvik>(*caja, sistema, contenedor);
 };
 

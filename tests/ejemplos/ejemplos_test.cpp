@@ -3,7 +3,7 @@
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
@@ -31,7 +31,7 @@ std::vector<path> ficheros(const path& carpeta) {
 }
 
 struct Editor {
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     std::string mensajes;
     SistemaMemoria sistema{[this](const Mensaje& mensaje) { mensajes += aUtf8(mensaje.texto) + '\n'; }};
     Norvik control{caja, sistema};

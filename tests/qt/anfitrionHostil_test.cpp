@@ -7,7 +7,7 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QApplication>
 #include <QClipboard>

@@ -4,7 +4,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
 #include <QAccessible>

@@ -4,7 +4,7 @@
 #include "norvik/control/estadoBusqueda.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
 #include <QCheckBox>

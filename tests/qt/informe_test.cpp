@@ -2,7 +2,7 @@
 
 // The report window and the folder chooser.
 #include "apoyo/carpetaTemporal.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/directorio.hpp"
 #include "norvik/tools/informe.hpp"
 #include "qt/sistemaDePrueba.hpp"

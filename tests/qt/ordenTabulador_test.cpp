@@ -4,7 +4,7 @@
 // whom stands before, Ctrl+Tab to whom stands behind.
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QTest>
 #include <QtWidgets>

@@ -4,7 +4,7 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
 #include "norvik/lexer/tipos.hpp"
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 #include "norvik/spec/datosLenguaje.hpp"
 #include "norvik/spec/lenguaje.hpp"
@@ -220,7 +220,7 @@ TEST(Lenguaje, UnaCompilacionSePuedeCancelar) {
 
 std::u16string moduloDe(std::u16string_view especificacion) {
     SistemaMemoria sistema(nullptr);
-    CajaTextoMemoria caja;
+    CajaTexto caja;
     Norvik control(caja, sistema);
     EXPECT_TRUE(control.CargaGramatica(especificacion) && control.GeneraCompilador());
     return control.Gramatica().textoModulo(u"M", control.Lexico());

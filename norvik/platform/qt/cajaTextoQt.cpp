@@ -43,7 +43,7 @@ QWidget& CajaTextoQt::ventana() {
 }
 
 void CajaTextoQt::ponFuente(const Fuente& fuente) {
-    CajaTextoMemoria::ponFuente(fuente);
+    CajaTexto::ponFuente(fuente);
     const QFont letra = aQFont(fuente);
     vista_->setFont(letra);
     constexpr int espaciosPorTabulacion = 4;
@@ -52,7 +52,7 @@ void CajaTextoQt::ponFuente(const Fuente& fuente) {
 }
 
 void CajaTextoQt::ponOcultaSeleccion(bool oculta) {
-    CajaTextoMemoria::ponOcultaSeleccion(oculta);
+    CajaTexto::ponOcultaSeleccion(oculta);
     pideAlDia();
 }
 
@@ -70,7 +70,7 @@ std::int32_t CajaTextoQt::altoDeLinea() const {
 }
 
 void CajaTextoQt::ponIzquierda(std::int32_t twips) {
-    CajaTextoMemoria::ponIzquierda(twips);
+    CajaTexto::ponIzquierda(twips);
     vista_->move(aPixeles(twips, twipsPorPixel(*vista_).x), vista_->y());
 }
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "norvik/platform/memoria/cajaTextoMemoria.hpp"
+#include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/qt/espejoDocumento.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 
@@ -27,7 +27,7 @@ class VistaTexto;
 // ever seen. Colours are layout formats of the lines, not text formats: they are no edits and are cheap.
 
 /// The text box shown by Qt. Must be destroyed before its parent; any receiver of its events may do that.
-class CajaTextoQt final : public CajaTextoMemoria {
+class CajaTextoQt final : public CajaTexto {
 public:
     explicit CajaTextoQt(QWidget* padre = nullptr);
     CajaTextoQt(const CajaTextoQt&) = delete;

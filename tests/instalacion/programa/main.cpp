@@ -6,7 +6,7 @@
 #include <norvik/base/ficheros.hpp>
 #include <norvik/base/texto.hpp>
 #include <norvik/control/norvik.hpp>
-#include <norvik/platform/memoria/cajaTextoMemoria.hpp>
+#include <norvik/platform/cajaTexto.hpp>
 #include <norvik/platform/memoria/sistemaMemoria.hpp>
 #include <norvik/spec/lenguaje.hpp>
 
@@ -40,7 +40,7 @@ void muestraValor(const norvik::Lenguaje& lenguaje, std::u16string_view texto) {
 
 int main(int argc, char** argv) {
     if (argc != 3) return 2;
-    norvik::CajaTextoMemoria caja;
+    norvik::CajaTexto caja;
     norvik::SistemaMemoria sistema(
         [](const norvik::Mensaje& mensaje) { std::cerr << norvik::aUtf8(mensaje.texto) << '\n'; });
     norvik::Norvik control(caja, sistema);

@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/tools/accesibleControl.hpp"
-#include "norvik/tools/acerca.hpp"
-#include "norvik/tools/buscar.hpp"
-#include "norvik/tools/elementosControl.hpp"
-#include "norvik/tools/informe.hpp"
-#include "norvik/tools/reemplazar.hpp"
-#include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/accesibleControl.hpp"
+#include "norvik/widget/elementosControl.hpp"
+#include "norvik/widget/ventanasDelControl.hpp"
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -107,7 +103,7 @@ void ControlNorvik::conectaEventos() {
 
 /// The elements go one by one, and nobody is there to see the last events of one.
 ControlNorvik::~ControlNorvik() {
-    buscar::olvida(*this);
+    ventanasDelControl::olvida(*this);
     for (QWidget* e : observados()) e->removeEventFilter(this);
 }
 
@@ -191,6 +187,17 @@ void ControlNorvik::mouseReleaseEvent(QMouseEvent* evento) {
     if (esClick) piezas_->caja.atiende([this] { control_.clickEnSuperficie(); });
 }
 
+// ---- aids of editing
+
+void ControlNorvik::ponAyuda(bool Ayudas::*ayuda, bool encendida) {
+    Ayudas otras = control_.ayudas();
+    otras.*ayuda = encendida;
+    protege([&] { control_.ponAyudas(otras); });
+}
+
+/// Each aid that stands in the window takes note.
+void ControlNorvik::otrasAyudas() {}
+
 // ---- what the control asks of its container
 
 Contenedor::Medidas ControlNorvik::medidas() const {
@@ -218,19 +225,19 @@ void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& luga
 }
 
 void ControlNorvik::muestraInforme() {
-    MuestraInforme(control_.Gramatica(), control_.Lexico(), piezas_->sistema, this);
+    ventanasDelControl::muestraInforme(*this);
 }
 
 void ControlNorvik::muestraBuscar() {
-    buscar::muestra(*this);
+    ventanasDelControl::muestraBuscar(*this);
 }
 
 void ControlNorvik::muestraReemplazar() {
-    Reemplazar::muestra(*this);
+    ventanasDelControl::muestraReemplazar(*this);
 }
 
 void ControlNorvik::muestraAcerca() {
-    muestraModal<Acerca>(piezas_->sistema, this);
+    ventanasDelControl::muestraAcerca(*this);
 }
 
 void ControlNorvik::resizeEvent(QResizeEvent* evento) {

@@ -5,7 +5,7 @@
 #include "norvik/control/disposicion.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/platform/qt/servido.hpp"
-#include "norvik/tools/signo.hpp"
+#include "norvik/widget/signo.hpp"
 
 #include <QFrame>
 #include <QPushButton>

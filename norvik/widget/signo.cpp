@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/tools/signo.hpp"
+#include "norvik/widget/signo.hpp"
 
 #include <QPainter>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/tools/elementosControl.hpp"
+#include "norvik/widget/elementosControl.hpp"
 
-#include "norvik/tools/ventanas.hpp"
+#include "norvik/platform/qt/nombra.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 
 #include <QPalette>
 

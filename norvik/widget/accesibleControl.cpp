@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "norvik/tools/accesibleControl.hpp"
+#include "norvik/widget/accesibleControl.hpp"
 
 #include "norvik/platform/qt/nuevo.hpp"
-#include "norvik/tools/controlNorvik.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
