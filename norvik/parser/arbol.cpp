@@ -57,7 +57,8 @@ std::u16string Arbol::GetULexema() const {
 }
 
 std::int16_t Arbol::GetNumHijos() const {
-    return a16(hijos().size(), u"el número de hijos");
+    static constexpr std::u16string_view que = u"el número de hijos";
+    return a16(hijos().size(), que);
 }
 
 Arbol* Arbol::GetHijo(std::int16_t numHijo) const {

@@ -39,10 +39,15 @@ private:
     static constexpr std::size_t muchas = 8192;
     static constexpr std::size_t cifrasDeUnNumero = 20;
 
+    // A literal's length is known beforehand, and its copy a few moves.
+    template <std::size_t N>
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): what a literal is
+    static std::size_t maximoDe(const char16_t (&)[N]) {
+        return N - 1;
+    }
     static std::size_t maximoDe(std::u16string_view pieza) { return pieza.size(); }
     static std::size_t maximoDe(std::integral auto) { return cifrasDeUnNumero; }
 
-    // A literal's length is known beforehand, and its copy a few moves.
     template <std::size_t N>
     // NOLINTNEXTLINE(modernize-avoid-c-arrays): what a literal is
     static char16_t* copia(const char16_t (&literal)[N], char16_t* donde) {

@@ -73,6 +73,7 @@ Perfil perfilDe(const Nodo& nodo) {
 /// each symbol, `alAlternativa(nodo)` for each alternative, in the order of the text.
 template <typename Nodo, typename AlSimbolo, typename AlAlternativa>
 std::u16string cuerpoDe(const Nodo& raiz, const AlSimbolo& alSimbolo, const AlAlternativa& alAlternativa) {
+    using namespace std::string_view_literals; // else the lengths would be counted at each node
     std::u16string cuerpo;
     std::vector<Nodo> pendientes{raiz};
     while (!pendientes.empty()) {
@@ -80,21 +81,21 @@ std::u16string cuerpoDe(const Nodo& raiz, const AlSimbolo& alSimbolo, const AlAl
         pendientes.pop_back();
         if (nodo.esHoja()) continue;
         const Nodo primero = nodo.hijo(1);
-        if (nodo.esRegla(u"ReglaI")) {
+        if (nodo.esRegla(u"ReglaI"sv)) {
             alAlternativa(primero);
             pendientes.push_back(nodo.hijo(2));
-            if (primero.esRegla(u"ConjuntoSimbolos"))
+            if (primero.esRegla(u"ConjuntoSimbolos"sv))
                 pendientes.push_back(primero);
             else
                 cuerpo += cadenaVacia;
-        } else if (nodo.esRegla(u"ConjuntoSimbolos")) {
+        } else if (nodo.esRegla(u"ConjuntoSimbolos"sv)) {
             cuerpo += primero.lexema();
             alSimbolo(primero);
             pendientes.push_back(nodo.hijo(2));
-        } else if (nodo.esRegla(u"ConjuntoSimbolosI") && primero.esRegla(u"ConjuntoSimbolos")) {
+        } else if (nodo.esRegla(u"ConjuntoSimbolosI"sv) && primero.esRegla(u"ConjuntoSimbolos"sv)) {
             cuerpo += u' ';
             pendientes.push_back(primero);
-        } else if (nodo.esRegla(u"ColaRegla") && primero.lexema() != u";") {
+        } else if (nodo.esRegla(u"ColaRegla"sv) && primero.lexema() != u";"sv) {
             cuerpo += u" | ";
             pendientes.push_back(nodo.hijo(2));
         }
@@ -126,16 +127,17 @@ Definicion<Nodo> definicionDe(const Nodo& nodo, bool esToken) {
 /// cuerpo)` for each rule, with the leaf of its head and the node of its alternatives.
 template <typename Nodo, typename AlDefinir, typename AlReglar>
 void recorre(const Nodo& raiz, const AlDefinir& alDefinir, const AlReglar& alReglar) {
+    using namespace std::string_view_literals;
     std::vector<Nodo> pendientes{raiz};
     while (!pendientes.empty()) {
         const Nodo nodo = pendientes.back();
         pendientes.pop_back();
         if (nodo.esHoja()) continue;
-        if (nodo.esRegla(u"ER"))
+        if (nodo.esRegla(u"ER"sv))
             alDefinir(definicionDe(nodo, false));
-        else if (nodo.esRegla(u"Token"))
+        else if (nodo.esRegla(u"Token"sv))
             alDefinir(definicionDe(nodo, true));
-        else if (nodo.esRegla(u"Regla"))
+        else if (nodo.esRegla(u"Regla"sv))
             alReglar(nodo.hijo(1), nodo.hijo(3));
         else
             nodo.apilaHijos(pendientes);
