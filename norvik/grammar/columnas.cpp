@@ -35,19 +35,10 @@ Columnas::Columnas(const ReglasPartidas& reglas, const TablaLR& tabla)
         codigos_[i] = tabla.codigo(reglas.texto(static_cast<Simbolo>(i)));
 }
 
-std::size_t Columnas::de(Simbolo simbolo) const {
-    const int codigo = codigos_[static_cast<std::size_t>(simbolo)];
-    if (codigo < 0)
-        throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: el símbolo " +
-                                        std::u16string(reglas_.texto(simbolo)) +
-                                        u" no tiene columna en la tabla");
-    return static_cast<std::size_t>(codigo);
-}
-
-std::size_t Columnas::de(Item item) const {
-    const Simbolo simbolo = reglas_.cuerpo(item.regla)[static_cast<std::size_t>(item.punto)];
-    if (simbolo == ReglasPartidas::vacio) fallaVaciaSuelta(reglas_, item.regla);
-    return de(simbolo);
+void Columnas::fallaSinColumna(Simbolo simbolo) const {
+    throw SubindiceFueraDeIntervalo(u"Subíndice fuera de intervalo: el símbolo " +
+                                    std::u16string(reglas_.texto(simbolo)) +
+                                    u" no tiene columna en la tabla");
 }
 
 } // namespace norvik::inline v0_2
