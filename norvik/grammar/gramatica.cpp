@@ -63,6 +63,7 @@ void gramatica::inicializaGramatica() {
 void gramatica::copiaReglas(const gramatica& otra) {
     inicializaGramatica();
     valores_->reglas = otra.valores_->reglas;
+    valores_->partidas = otra.valores_->partidas;
     valores_->tabla.ponInicial(valores_->reglas.en(1).cabeza);
     opciones_ = otra.opciones_;
     inicializaConjuntos();
@@ -137,8 +138,12 @@ std::int16_t gramatica::GetCodigoVariable(std::int16_t regla) const {
     return valores_->tabla.codigo(valores_->reglas.en(regla).cabeza);
 }
 
+std::u16string gramatica::chequeaGramatica() {
+    return chequea(partidas());
+}
+
 std::u16string gramatica::chequeaGramatica() const {
-    return chequea(valores_->reglas);
+    return chequea(ReglasPartidas(valores_->reglas));
 }
 
 std::int16_t gramatica::estaEnRegla(std::u16string_view cuerpo, std::u16string_view simbolo) {

@@ -102,6 +102,7 @@ public:
     /// Columna de la cabeza de una regla, desde 0; -1 si no la tiene.
     std::int16_t GetCodigoVariable(std::int16_t regla) const;
     /// Un texto vacío si toda variable de un cuerpo tiene una regla; si no, el mensaje que lo dice.
+    std::u16string chequeaGramatica();
     std::u16string chequeaGramatica() const;
     /// Posición de un símbolo en el texto de un cuerpo, desde 1; 0 si no está. El último de un cuerpo no se
     /// encuentra cuando otro anterior, que no sea el primero, empieza igual.

@@ -5,8 +5,6 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
-#include <unordered_set>
-
 // The rules of a grammar, and the operations on the text of a body.
 namespace norvik::inline v0_2 {
 
@@ -34,22 +32,6 @@ void Reglas::guarda(std::u16string_view cabeza, std::u16string_view cuerpo) {
             {std::u16string(cabeza), std::u16string(alternativa), cuentaElementos(alternativa)});
         if (conCabeza_ + 1 == total() && !cabeza.empty()) ++conCabeza_;
     } while (!cuerpo.empty());
-}
-
-std::u16string chequea(const Reglas& reglas) {
-    std::unordered_set<std::u16string_view> cabezas;
-    for (const Regla& regla : reglas) cabezas.insert(regla.cabeza);
-    for (int i = reglas.total(); i >= 1; --i) {
-        const auto& [cabeza, cuerpo, elementos] = reglas.en(i);
-        std::u16string_view indefinido;
-        paraCadaSimbolo(cuerpo, [&](std::u16string_view simbolo) {
-            if (esMayusculaAZ(simbolo.front()) && !cabezas.contains(simbolo)) indefinido = simbolo;
-        });
-        if (!indefinido.empty())
-            return u"La variable " + std::u16string(indefinido) +
-                   u" definida en la parte derecha de la regla " + cabeza + u" no está definida.";
-    }
-    return {};
 }
 
 std::u16string enTexto(const Reglas& reglas) {

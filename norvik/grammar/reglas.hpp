@@ -47,8 +47,6 @@ private:
     std::int16_t conCabeza_ = 0;
 };
 
-/// Empty when every non-terminal used has a rule, else the message: it names the last that has none.
-std::u16string chequea(const Reglas& reglas);
 /// «S -> a B; B -> Ø»
 std::u16string enTexto(const Reglas& reglas);
 

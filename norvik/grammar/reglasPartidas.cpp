@@ -14,6 +14,15 @@ ReglasPartidas::ReglasPartidas(const Reglas& reglas, std::u16string_view otros) 
     paraCadaSimbolo(otros, [this](std::u16string_view simbolo) { numera(simbolo); });
 }
 
+ReglasPartidas::ReglasPartidas(const ReglasPartidas& otras)
+    : reglas_(otras.reglas_), simbolosDeCuerpos_(otras.simbolosDeCuerpos_), simbolos_(otras.simbolos_),
+      textos_(otras.textos_) {
+    for (std::size_t i = 0; i < simbolos_.size(); ++i) {
+        simbolos_[i].texto = textos_[i];
+        numeros_.emplace(textos_[i], static_cast<Simbolo>(i));
+    }
+}
+
 Simbolo ReglasPartidas::simbolo(std::u16string_view texto) const {
     const auto sitio = numeros_.find(texto);
     return sitio == numeros_.end() ? sinSimbolo : sitio->second;
@@ -46,6 +55,21 @@ void ReglasPartidas::anotaCabeza(Simbolo cabeza, int regla, bool conVacia) {
     if (conVacia) datos.conVacia = true;
     if (datos.primera == 0) datos.primera = datos.fin = regla;
     if (datos.fin == regla) ++datos.fin;
+}
+
+std::u16string chequea(const ReglasPartidas& reglas) {
+    for (int r = reglas.numReglas(); r >= 1; --r) {
+        Simbolo indefinido = ReglasPartidas::sinSimbolo;
+        for (const Simbolo simbolo : reglas.cuerpo(r))
+            if (reglas.esVariable(simbolo) && reglas.primera(simbolo) == 0) indefinido = simbolo;
+        if (indefinido == ReglasPartidas::sinSimbolo) continue;
+        const Simbolo cabeza = reglas.cabeza(r);
+        const bool conCabeza = cabeza != ReglasPartidas::sinSimbolo;
+        return u"La variable " + std::u16string(reglas.texto(indefinido)) +
+               u" definida en la parte derecha de la regla " +
+               (conCabeza ? std::u16string(reglas.texto(cabeza)) : std::u16string()) + u" no está definida.";
+    }
+    return {};
 }
 
 void fallaVaciaSuelta(const ReglasPartidas& reglas, int regla) {

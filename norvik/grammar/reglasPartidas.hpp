@@ -31,8 +31,8 @@ public:
     /// The symbols of another text are numbered too, after those of the rules. Rules that are added later
     /// change no number.
     explicit ReglasPartidas(const Reglas& reglas, std::u16string_view otros = {});
-    ReglasPartidas(const ReglasPartidas&) = delete;
-    ReglasPartidas& operator=(const ReglasPartidas&) = delete;
+    ReglasPartidas(const ReglasPartidas& otras);
+    ReglasPartidas& operator=(const ReglasPartidas& otras) { return *this = ReglasPartidas(otras); }
     ReglasPartidas(ReglasPartidas&&) = default;
     ReglasPartidas& operator=(ReglasPartidas&&) = default;
     ~ReglasPartidas() = default;
@@ -93,6 +93,9 @@ private:
     std::unordered_map<std::u16string_view, Simbolo> numeros_;
     std::deque<std::u16string> textos_;
 };
+
+/// Empty when every non-terminal used has a rule, else the message: it names the last that has none.
+std::u16string chequea(const ReglasPartidas& reglas);
 
 /// Raises the failure of a rule whose Ø stands beside other symbols: nothing can be read there, and it has no
 /// column.
