@@ -6,14 +6,19 @@
 
 namespace norvik::inline v0_2 {
 
-void IndiceLineas::reconstruye(std::u16string_view texto) {
-    inicios_.assign(1, 0);
-    ultima_ = 0;
+std::vector<std::int32_t> iniciosDeLineas(std::u16string_view texto) {
+    std::vector<std::int32_t> inicios{0};
     for (std::size_t i = 0; i < texto.size(); ++i) {
         if (texto[i] != u'\r' && texto[i] != u'\n') continue;
         if (texto[i] == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') ++i;
-        inicios_.push_back(static_cast<std::int32_t>(i + 1));
+        inicios.push_back(static_cast<std::int32_t>(i + 1));
     }
+    return inicios;
+}
+
+void IndiceLineas::reconstruye(std::u16string_view texto) {
+    inicios_ = iniciosDeLineas(texto);
+    ultima_ = 0;
 }
 
 bool IndiceLineas::contiene(std::size_t linea, std::int32_t pos) const {

@@ -8,8 +8,11 @@
 
 namespace norvik::inline v0_2 {
 
-/// Where the lines of a text start. Positions and lines are 0-based; a line break is CR LF, CR or LF and
-/// belongs to the line that it ends. A text has one line at least.
+/// Where each line of a text starts, from 0. A line break is CR LF, CR or LF and belongs to the line that it
+/// ends. A text has one line at least.
+std::vector<std::int32_t> iniciosDeLineas(std::u16string_view texto);
+
+/// Where the lines of a text start. Positions and lines are 0-based.
 class IndiceLineas {
 public:
     void reconstruye(std::u16string_view texto);

@@ -4,6 +4,8 @@
 // they are asked for, so that a text of ASCII alone, or one given in UTF-16, costs nothing.
 #include "norvik/base/lugares.hpp"
 
+#include "norvik/base/lineas.hpp"
+
 #include <algorithm>
 
 namespace norvik::inline v0_2 {
@@ -32,12 +34,7 @@ std::int32_t bytesDe(std::u16string_view texto) {
 
 } // namespace
 
-Lugares::Lugares(std::u16string_view texto, Unidad unidad) : texto_(texto) {
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        if (texto[i] != u'\r' && texto[i] != u'\n') continue;
-        if (texto[i] == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') ++i;
-        lineas_.push_back(i + 1);
-    }
+Lugares::Lugares(std::u16string_view texto, Unidad unidad) : texto_(texto), lineas_(iniciosDeLineas(texto)) {
     if (unidad == Unidad::Utf16 || std::ranges::all_of(texto, esAscii)) return;
     std::int32_t bytes = 0;
     for (std::size_t i = 0; i <= texto.size(); i += tramo) {
@@ -53,9 +50,10 @@ std::int32_t Lugares::desplazamiento(std::size_t indice) const {
 }
 
 Punto Lugares::punto(std::size_t indice) const {
-    const auto linea = std::ranges::upper_bound(lineas_, indice) - 1;
+    const auto linea = std::ranges::upper_bound(lineas_, static_cast<std::int32_t>(indice)) - 1;
     const std::int32_t aqui = desplazamiento(indice);
-    return {aqui, static_cast<std::int32_t>(linea - lineas_.begin()) + 1, aqui - desplazamiento(*linea) + 1};
+    return {aqui, static_cast<std::int32_t>(linea - lineas_.begin()) + 1,
+            aqui - desplazamiento(static_cast<std::size_t>(*linea)) + 1};
 }
 
 } // namespace norvik::inline v0_2

@@ -27,7 +27,7 @@ public:
 
 private:
     std::u16string_view texto_;
-    std::vector<std::size_t> lineas_ = {0}; ///< index of each line's first character
+    std::vector<std::int32_t> lineas_; ///< index of each line's first character
     /// Units before each stretch of characters; none when a unit is a character.
     std::vector<std::int32_t> tramos_;
 };
