@@ -35,12 +35,13 @@ Reglas1 lasQueSiempre(const Inadecuacion& inadecuacion) {
 // the first that changes the outcome with others changes it alone.
 bool daIgual(const Inadecuacion& inadecuacion, const Prioridades& prioridades) {
     const Reglas1 fijas = lasQueSiempre(inadecuacion);
-    std::optional<std::int16_t> hecho = prioridades.accion(inadecuacion.token, inadecuacion.desplaza, fijas);
+    std::optional<std::int16_t> hecho =
+        prioridades.elige(inadecuacion.token, inadecuacion.desplaza, fijas).accion;
     for (const Contribucion& c : inadecuacion.contribuciones) {
         if (c.siempre) continue;
         Reglas1 reglas = fijas;
         reglas.insert(std::ranges::upper_bound(reglas, c.regla), c.regla);
-        const auto suya = prioridades.accion(inadecuacion.token, inadecuacion.desplaza, reglas);
+        const auto suya = prioridades.elige(inadecuacion.token, inadecuacion.desplaza, reglas).accion;
         if (!hecho) hecho = suya;
         if (suya != hecho) return false;
     }
@@ -201,7 +202,7 @@ std::optional<std::int16_t> hecho(const Inadecuacion& inadecuacion, const Priori
         c.items.paraCada([&](std::size_t i) { esta = esta || nucleo[i].adelantos.contiene(token); });
         if (esta) reglas.push_back(c.regla);
     }
-    return prioridades.accion(inadecuacion.token, inadecuacion.desplaza, reglas);
+    return prioridades.elige(inadecuacion.token, inadecuacion.desplaza, reglas).accion;
 }
 
 } // namespace

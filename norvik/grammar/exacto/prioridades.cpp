@@ -5,6 +5,8 @@
 // as they are read, «E -> E mas E | E por E», and says nothing of two rules that could both be reduced.
 #include "norvik/grammar/exacto/prioridades.hpp"
 
+#include <utility>
+
 namespace norvik::inline v0_2::exacto {
 
 Prioridades::Prioridades(const ReglasPartidas& reglas, const Precedencias& precedencias)
@@ -33,17 +35,20 @@ Decision Prioridades::decide(std::int16_t regla, Simbolo token) const {
     return Decision::Conflicto;
 }
 
-std::optional<std::int16_t> Prioridades::accion(Simbolo token, bool desplaza,
-                                                std::span<const std::int16_t> reglas) const {
-    std::optional<std::int16_t> reduce;
+Eleccion Prioridades::elige(Simbolo token, bool desplaza, std::span<const std::int16_t> reglas) const {
+    std::vector<std::int16_t> quedan;
     for (const std::int16_t regla : reglas) {
         const Decision decision = desplaza ? decide(regla, token) : Decision::Conflicto;
-        if (decision == Decision::Ninguna) return std::int16_t{0};
+        if (decision == Decision::Ninguna) return {std::int16_t{0}, {}};
         if (decision == Decision::Desplaza) continue;
         if (decision == Decision::Reduce) desplaza = false;
-        if (!reduce) reduce = static_cast<std::int16_t>(-regla);
+        quedan.push_back(regla);
     }
-    return desplaza ? std::int16_t{1} : reduce;
+    if (desplaza) return {std::int16_t{1}, std::move(quedan)};
+    if (quedan.empty()) return {};
+    const auto reduce = static_cast<std::int16_t>(-quedan.front());
+    quedan.erase(quedan.begin());
+    return {reduce, std::move(quedan)};
 }
 
 } // namespace norvik::inline v0_2::exacto
