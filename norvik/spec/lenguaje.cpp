@@ -50,6 +50,20 @@ std::unique_ptr<TextoAnalizado> prepara(const Lenguaje& lenguaje, std::u16string
     return std::make_unique<TextoAnalizado>(lenguaje.datos().vocabulario(), std::move(texto), unidad);
 }
 
+Analisis analizaTexto(const Lenguaje& lenguaje, std::u16string texto, Lugares::Unidad unidad,
+                      const OpcionesAnalisis& opciones) {
+    const DatosDeLenguaje::Prestamo analizador(lenguaje.datos());
+    return analizador->analiza(prepara(lenguaje, std::move(texto), unidad), opciones);
+}
+
+Compilacion compilaTexto(std::u16string especificacion, Lugares::Unidad unidad,
+                         const OpcionesCompilacion& opciones) {
+    const Directivas directivas = directivasDe(especificacion, opciones, unidad);
+    return compilaEspecificacion(
+        analizaTexto(lenguajeDeEspecificaciones(), std::move(especificacion), unidad, {opciones.cancelacion}),
+        directivas, opciones.cancelacion);
+}
+
 } // namespace
 
 Lenguaje::Lenguaje(std::shared_ptr<const DatosDeLenguaje> datos) : datos_(std::move(datos)) {}
@@ -63,16 +77,15 @@ bool Lenguaje::tieneGramatica() const {
 }
 
 Compilacion Lenguaje::compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    return compilaEspecificacion(
-        analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion}),
-        directivasDe(especificacion, opciones, Lugares::Unidad::Utf16), opciones.cancelacion);
+    compruebaTamano(especificacion.size());
+    return compilaTexto(std::u16string(especificacion), Lugares::Unidad::Utf16, opciones);
 }
 
 Compilacion Lenguaje::compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones) {
-    const std::u16string especificacion = desdeUtf8(especificacionUtf8).value_or(std::u16string());
-    return compilaEspecificacion(
-        analiza(lenguajeDeEspecificaciones(), especificacionUtf8, {opciones.cancelacion}),
-        directivasDe(especificacion, opciones, Lugares::Unidad::Utf8), opciones.cancelacion);
+    compruebaTamano(especificacionUtf8.size());
+    auto especificacion = desdeUtf8(especificacionUtf8);
+    if (!especificacion) return {std::nullopt, {utf8Incorrecto(especificacionUtf8)}};
+    return compilaTexto(std::move(*especificacion), Lugares::Unidad::Utf8, opciones);
 }
 
 Compilacion Lenguaje::cargaModulo(std::u16string_view modulo) {
@@ -102,16 +115,14 @@ Lenguaje Lenguaje::de(const DatosLenguaje& datos) {
 
 Analisis analiza(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones) {
     compruebaTamano(texto.size());
-    const DatosDeLenguaje::Prestamo analizador(lenguaje.datos());
-    return analizador->analiza(prepara(lenguaje, std::u16string(texto), Lugares::Unidad::Utf16), opciones);
+    return analizaTexto(lenguaje, std::u16string(texto), Lugares::Unidad::Utf16, opciones);
 }
 
 Analisis analiza(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesAnalisis& opciones) {
     compruebaTamano(utf8.size());
     auto texto = desdeUtf8(utf8);
     if (!texto) return {{}, {utf8Incorrecto(utf8)}};
-    const DatosDeLenguaje::Prestamo analizador(lenguaje.datos());
-    return analizador->analiza(prepara(lenguaje, std::move(*texto), Lugares::Unidad::Utf8), opciones);
+    return analizaTexto(lenguaje, std::move(*texto), Lugares::Unidad::Utf8, opciones);
 }
 
 Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones) {
