@@ -31,6 +31,10 @@ std::u16string entreComillas(std::string_view palabra) {
     return u"«" + decodifica(palabra) + u"»";
 }
 
+[[noreturn]] void faltaElValor(std::string_view opcion) {
+    throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(opcion));
+}
+
 template <typename Valor>
 struct Opcion {
     std::string_view palabra;
@@ -168,14 +172,12 @@ Peticion Linea::lee(int argc, const char* const* argv) {
     for (const std::string_view palabra : std::span(argv, static_cast<std::size_t>(argc)))
         if (palabra.ends_with('=') &&
             std::ranges::find(conValor, palabra.substr(0, palabra.size() - 1)) != conValor.end())
-            throw LineaIncorrecta(u"falta el valor de la opción " +
-                                  entreComillas(palabra.substr(0, palabra.size() - 1)));
+            faltaElValor(palabra.substr(0, palabra.size() - 1));
     try {
         app_.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
         const std::string_view ultima = argv[argc - 1];
-        if (std::ranges::find(conValor, ultima) != conValor.end())
-            throw LineaIncorrecta(u"falta el valor de la opción " + entreComillas(ultima));
+        if (std::ranges::find(conValor, ultima) != conValor.end()) faltaElValor(ultima);
         throw LineaIncorrecta(u"--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
         throw LineaIncorrecta(u"opción mal escrita");
