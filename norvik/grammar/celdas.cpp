@@ -28,17 +28,13 @@ std::vector<std::int16_t>& Celdas::filaPara(int fila) {
     return filas_[numero - 1];
 }
 
-void Celdas::pon(int fila, int columna, std::int16_t valor) {
-    comprueba(fila, columna);
-    const auto sitio = static_cast<std::size_t>(columna) - 1;
-    if (valor == 0 && sitio >= filaGuardada(fila).size()) return;
+/// A row with room for all its columns.
+std::vector<std::int16_t>& Celdas::ensancha(int fila) {
     auto& valores = filaPara(fila);
-    if (sitio >= valores.size()) {
-        const auto ancho = static_cast<std::size_t>(columnas_);
-        reserva(ancho - valores.size());
-        valores.resize(ancho);
-    }
-    valores[sitio] = valor;
+    const auto ancho = static_cast<std::size_t>(columnas_);
+    reserva(ancho - valores.size());
+    valores.resize(ancho);
+    return valores;
 }
 
 void Celdas::ponFila(int fila, std::span<const std::int16_t> valores) {

@@ -49,7 +49,15 @@ public:
             accion(static_cast<std::int16_t>(c + 1), valores[c]);
     }
     /// Raises also `Desbordamiento` when more than 2^25 cells would be kept.
-    void pon(int fila, int columna, std::int16_t valor);
+    void pon(int fila, int columna, std::int16_t valor) {
+        comprueba(fila, columna);
+        const auto numero = static_cast<std::size_t>(fila) - 1;
+        const auto sitio = static_cast<std::size_t>(columna) - 1;
+        if (numero < filas_.size() && sitio < filas_[numero].size())
+            filas_[numero][sitio] = valor;
+        else if (valor != 0)
+            ensancha(fila)[sitio] = valor;
+    }
     /// Writes a whole row, which has a value for each column; raises the same.
     void ponFila(int fila, std::span<const std::int16_t> valores);
 
@@ -77,6 +85,7 @@ private:
         return desde;
     }
     std::vector<std::int16_t>& filaPara(int fila);
+    std::vector<std::int16_t>& ensancha(int fila);
     void reserva(std::size_t celdas);
 
     std::vector<std::vector<std::int16_t>> filas_; // up to the last that was written
