@@ -80,11 +80,12 @@ std::int16_t conjunto::totalElementos() const {
 }
 
 void conjunto::insertar(const Valor& valor) {
-    if (buscaValor(valor) != 0) return;
     constexpr std::size_t minimo = 16;
     if ((elementos_.size() + 1) * 2 > ranuras_.size()) indexa(std::max(minimo, ranuras_.size() * 2));
+    const std::size_t sitio = ranuraDe(valor);
+    if (ranuras_[sitio] != 0) return;
     elementos_.push_back(copiaDe(valor));
-    ranuras_[ranuraDe(elementos_.back())] = static_cast<std::uint32_t>(elementos_.size());
+    ranuras_[sitio] = static_cast<std::uint32_t>(elementos_.size());
 }
 
 void conjunto::aniadeElementosConjunto(const conjunto& otro) {

@@ -43,9 +43,9 @@ void TablaLR::ponInicial(std::u16string_view inicial) {
 
 void TablaLR::ponSimbolo(std::u16string_view simbolo) {
     if (simbolo.empty()) return;
-    const std::u16string texto(simbolo);
-    simbolos_.todos.insertar(texto);
-    (esMayusculaAZ(simbolo.front()) ? simbolos_.variables : simbolos_.terminales).insertar(texto);
+    const conjunto::Valor valor = std::u16string(simbolo);
+    simbolos_.todos.insertar(valor);
+    (esMayusculaAZ(simbolo.front()) ? simbolos_.variables : simbolos_.terminales).insertar(valor);
     if (simbolo == inicial_) codigoInicial_ = codigo(simbolo);
     if (simbolo == u"$") codigoFin_ = codigo(simbolo);
 }
