@@ -39,6 +39,7 @@ void nombraTokens(const pilaTokens& lexico, Vocabulario& vocabulario) {
 void nombraReglas(const Reglas& reglas, Vocabulario& vocabulario) {
     Numeros numeros;
     std::vector<std::int16_t> ordinales;
+    vocabulario.reglas.reserve(static_cast<std::size_t>(reglas.numReglas()));
     for (std::int16_t r = 1; r <= reglas.numReglas(); ++r) {
         const Regla& regla = reglas.en(r);
         const std::u16string_view cabeza = recorta(regla.cabeza);
