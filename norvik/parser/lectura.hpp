@@ -52,9 +52,10 @@ enum class Comentarios : std::uint8_t { SeSaltan, SeLeen };
 /// The token at a position of a recognised text or after it: blanks and comments are passed over, an empty
 /// match counts as absent, else reading would never leave it. A wrong character ends where it starts, so that
 /// reading stays there; at the end of the text stands `TokenLeido::fin`, whatever the map has there.
+// Inline, so that its body is put into the readers, which ask for it at each token.
 template <Comentarios comentarios = Comentarios::SeSaltan>
-Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
-                 const std::vector<const expresionRegular*>& definiciones) {
+inline Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
+                        const std::vector<const expresionRegular*>& definiciones) {
     constexpr auto esBlanco = [](char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; };
     while (posicion <= static_cast<std::int32_t>(texto.size())) {
         const auto token = mapa.ganadoraEn(posicion);
