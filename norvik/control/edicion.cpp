@@ -11,6 +11,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/control/lineasTexto.hpp"
 #include "norvik/control/pasosFirmes.hpp"
+#include "norvik/control/sangria.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -41,6 +42,8 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     e.click = libre([this] { avisa(eventos_.Click); });
     e.pierdeFoco = libre([this] { lineas_.alPerderElFoco(); });
     e.vaAPegar = libre([this] { lineas_.vaAPegar(); });
+    e.empiezaPaso = libre([this] { historial_.empiezaPaso(); });
+    e.acabaPaso = libre([this] { historial_.acabaPaso(); });
 }
 
 std::int16_t Edicion::lineaActual() const {
@@ -58,13 +61,14 @@ void Edicion::alCambiar(const CambioDeTexto& cambio) {
     PasosFirmes paso;
     const bool graba = historial_.grabaDeshacer();
     const auto linea = lineas_.alCambiar(cambio, paso);
-    if (graba) paso([this] { historial_.registra(); });
+    if (graba) paso([&] { historial_.registra(cambio); });
     if (cambio.otraSeleccion) avisaSeleccion(linea, paso);
     if (graba) paso([this] { avisa(eventos_.change); });
     paso.acaba();
 }
 
 void Edicion::alCambiarLaSeleccion() {
+    historial_.corta();
     PasosFirmes paso;
     avisaSeleccion(lineas_.alCambiarLaSeleccion(paso), paso);
     paso.acaba();
@@ -83,9 +87,18 @@ void Edicion::avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& pas
 
 // --- Keys ---
 
+namespace {
+
+bool esDePalabras(std::int16_t codigo) {
+    return codigo == tecla::izquierda || codigo == tecla::derecha || codigo == tecla::retroceso ||
+           codigo == tecla::suprimir;
+}
+
+} // namespace
+
 void Edicion::alBajarTecla(std::int16_t& codigo, std::int16_t& shift) {
     if (shift == mascara::control) {
-        codigo = 0;
+        if (!ayudas_.teclasDePalabra || !esDePalabras(codigo)) codigo = 0;
     } else if (codigo == tecla::insertar && shift == mascara::mayusculas) {
         lineas_.vaAPegar();
     }
@@ -110,9 +123,20 @@ void Edicion::sangra() {
 
 void Edicion::tabula() {
     PasosFirmes paso;
-    paso([this] { caja_->reemplazaSeleccion(espacios(1, opciones_.espaciosXTAB)); });
+    if (ayudas_.sangraSeleccion && hayVariasLineas(*caja_)) {
+        paso([this] {
+            historial_.exacto([this] { sangraLineas(caja_, std::max<int>(opciones_.espaciosXTAB, 0)); });
+        });
+    } else {
+        paso([this] { caja_->reemplazaSeleccion(espacios(1, opciones_.espaciosXTAB)); });
+    }
     paso([this] { caja_->enfoca(); });
     paso.acaba();
+}
+
+void Edicion::quitaSangria() {
+    const std::int32_t espacios = std::max<int>(opciones_.espaciosXTAB, 0);
+    historial_.exacto([&] { norvik::quitaSangria(caja_, espacios); });
 }
 
 } // namespace norvik::inline v0_2

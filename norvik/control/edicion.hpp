@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/control/ayudas.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/lineasEditadas.hpp"
@@ -19,9 +20,10 @@ namespace norvik::inline v0_2 {
 /// recorded, new lines are indented.
 class Edicion {
 public:
-    Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, LineasEditadas& lineas,
-            Historial& historial, EventosControl& eventos)
-        : caja_(caja), opciones_(opciones), lineas_(lineas), historial_(historial), eventos_(eventos) {}
+    Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, const Ayudas& ayudas,
+            LineasEditadas& lineas, Historial& historial, EventosControl& eventos)
+        : caja_(caja), opciones_(opciones), ayudas_(ayudas), lineas_(lineas), historial_(historial),
+          eventos_(eventos) {}
 
     /// Receives the box's events from now on, as long as its owner lives, which it holds meanwhile: a
     /// receiver may delete the control.
@@ -35,8 +37,11 @@ public:
     std::int16_t lineaActual() const;
     /// 1-based.
     std::int32_t columnaActual() const;
-    /// Replaces the selection with the spaces of a tab key and gives the focus back to the box.
+    /// Replaces the selection with the spaces of a tab key, or puts them before its lines, and gives the
+    /// focus back to the box.
     void tabula();
+    /// Takes them away from the lines of the selection or of the caret.
+    void quitaSangria();
 
 private:
     /// Raises an event of the host's, if it listens.
@@ -53,6 +58,7 @@ private:
 
     const Prestado<CajaTexto>& caja_;
     const Opciones& opciones_;
+    const Ayudas& ayudas_;
     LineasEditadas& lineas_;
     Historial& historial_;
     EventosControl& eventos_;

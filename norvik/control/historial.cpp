@@ -57,11 +57,28 @@ void Historial::InicializaUndosYRedos() {
     PasosFirmes paso;
     paso([this] { redos_.vacia(); });
     paso([this] { undos_.vacia(); });
+    palabras_.olvida();
     grabaDeshacer_ = true;
     paso.acaba();
 }
 
-void Historial::registra() {
+void Historial::ponPorPalabras(bool porPalabras) {
+    if (std::exchange(porPalabras_, porPalabras) == porPalabras) return;
+    undos_ = {};
+    redos_ = {};
+    palabras_.olvida();
+}
+
+bool Historial::puedeDeshacer() const {
+    return porPalabras_ ? palabras_.deshacibles() > 0 : undos_.cuantas() > 1;
+}
+
+bool Historial::puedeRehacer() const {
+    return porPalabras_ ? palabras_.rehacibles() > 0 : redos_.cuantas() > 0;
+}
+
+void Historial::registra(const CambioDeTexto& cambio) {
+    if (porPalabras_) return palabras_.anota(cambio);
     PasosFirmes paso;
     paso([this] { redos_.vacia(); });
     const std::u16string_view texto = caja_->texto();
@@ -70,18 +87,15 @@ void Historial::registra() {
 }
 
 void Historial::sustituye(std::int32_t inicio, std::int32_t cuantos, std::u16string_view nuevo) {
-    PasosFirmes paso;
     caja_->selecciona(inicio, cuantos);
     caja_->ponColorSeleccion(0);
-    esSustitucion_ = true;
-    paso([&] { caja_->reemplazaSeleccion(nuevo); });
-    esSustitucion_ = false;
-    paso.acaba();
+    exacto([&] { caja_->reemplazaSeleccion(nuevo); });
 }
 
 // --- Undo ---
 
 void Historial::Undo() {
+    if (porPalabras_) return porPalabras(&HistorialPorPalabras::deshace);
     PasosFirmes paso;
     if (undos_.cuantas() >= 2 && grabaDeshacer_) {
         const EdicionSilenciosa silenciosa(caja_);
@@ -123,6 +137,7 @@ void Historial::repone(std::int32_t inicio, std::u16string_view quitado, PasosFi
 // --- Redo ---
 
 void Historial::Redo() {
+    if (porPalabras_) return porPalabras(&HistorialPorPalabras::rehace);
     PasosFirmes paso;
     if (redos_.cuantas() >= 1 && grabaDeshacer_) {
         const EdicionSilenciosa silenciosa(caja_);
@@ -158,6 +173,18 @@ void Historial::inserta(std::int32_t inicio, std::u16string_view r, PasosFirmes&
 }
 
 // --- Both ---
+
+void Historial::porPalabras(Sentido sentido) {
+    if (!grabaDeshacer_) return;
+    PasosFirmes paso;
+    {
+        const SinGrabar sinGrabar(grabaDeshacer_);
+        Seleccion puesto;
+        paso([&] { puesto = (palabras_.*sentido)(paso); });
+        paso([&] { lineas_.coloreaPuesto(puesto.inicio, puesto.inicio + puesto.longitud); });
+    }
+    paso.acaba();
+}
 
 /// Gives the box another text, of which what it has in common with the present one is left alone.
 void Historial::cambiaTodo(std::u16string_view nuevo, PasosFirmes& paso) {

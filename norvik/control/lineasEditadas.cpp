@@ -10,6 +10,7 @@
 
 #include "norvik/control/lineasEditadas.hpp"
 
+#include "norvik/base/texto.hpp"
 #include "norvik/control/guardas.hpp"
 #include "norvik/control/lineasTexto.hpp"
 
@@ -52,6 +53,13 @@ void LineasEditadas::coloreaLinea(std::int32_t linea) {
     const std::int32_t siguiente = caja_->inicioDeLinea(linea);
     coloreaRango(inicio, siguiente < 0 ? longitudDelTexto() : siguiente, linea);
     lineaEnEdicion_ = false;
+}
+
+void LineasEditadas::coloreaPuesto(std::int32_t inicio, std::int32_t fin) {
+    const std::int32_t primera = caja_->lineaDeCaracter(inicio);
+    const std::int32_t ultima = caja_->lineaDeCaracter(fin);
+    if (primera == ultima || caja_->texto().size() > maximoTexto) return;
+    coloreaRango(caja_->inicioDeLinea(primera), finDeLinea(*caja_, ultima), ninguna);
 }
 
 void LineasEditadas::coloreaTodo() {

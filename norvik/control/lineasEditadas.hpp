@@ -28,6 +28,9 @@ public:
     /// @{
     void coloreaTodo();
     void coloreaLinea(std::int32_t linea);
+    /// The lines of characters [inicio, fin) that came in at once, if they are several; a text that is too
+    /// long is left as it is.
+    void coloreaPuesto(std::int32_t inicio, std::int32_t fin);
     /// Paints a line without its line break; one that the text does not have is only remembered.
     void marcaLinea(std::int32_t linea, std::int32_t color);
     /// Paints the characters [inicio, fin) of a token that stands on a line.

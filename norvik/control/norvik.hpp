@@ -242,6 +242,11 @@ public:
     /// El historial guarda el texto entero tras cada cambio, también los del programa: cada `Text(…)`
     /// distinto lo hace crecer, y no olvida ninguno por sí solo. Quien solo quiera analizar muchos textos use
     /// `analiza`.
+    ///
+    /// Con la ayuda `deshacePorPalabras` es otro: deshace exactamente, cada vez lo que se escribió o borró de
+    /// una palabra o lo que hizo una orden, con la selección que había, y olvida lo más antiguo cuando pasa
+    /// de 64 MB. El texto puesto entero en un historial vacío es su punto de partida. Encenderla o apagarla
+    /// olvida los cambios.
     /// @{
 
     /// Olvida todos los cambios; el siguiente es el punto de partida, que no se deshace. Lanza
@@ -252,6 +257,9 @@ public:
     void Undo();
     /// Rehace el último cambio deshecho.
     void Redo();
+    /// Si hay algo que deshacer o rehacer.
+    bool puedeDeshacer() const;
+    bool puedeRehacer() const;
 
     /// @}
 
@@ -319,6 +327,9 @@ public:
     void redimensiona();
     /// La tecla de tabulación sacó el foco de la caja: escribe los espacios y lo devuelve.
     void tabuladorEnfocado();
+    /// La de tabulación con la de mayúsculas, cuando `sangraSeleccion` es una de las ayudas: quita la sangría
+    /// a las líneas de la selección o a la del cursor.
+    void tabulaAtras();
     /// Se pulsó en la superficie del control, fuera de la caja.
     void clickEnSuperficie();
     /// Las opciones, juntas.

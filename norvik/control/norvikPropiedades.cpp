@@ -57,6 +57,14 @@ void Norvik::Redo() {
     vivo()->historial.Redo();
 }
 
+bool Norvik::puedeDeshacer() const {
+    return partes_->historial.puedeDeshacer();
+}
+
+bool Norvik::puedeRehacer() const {
+    return partes_->historial.puedeRehacer();
+}
+
 void Norvik::restauraPropiedades(const BolsaPropiedades& bolsa) {
     vivo()->propiedades.restaura(bolsa);
 }
@@ -75,6 +83,10 @@ void Norvik::MuestraInforme() {
 
 void Norvik::redimensiona() {
     partes_->colocacion.colocaControles();
+}
+
+void Norvik::tabulaAtras() {
+    vivo()->edicion.quitaSangria();
 }
 
 void Norvik::tabuladorEnfocado() {

@@ -14,7 +14,7 @@ PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& 
       conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
       propiedades(opciones, lexico, caja, colocacion, contenedor), coloreado(caja, lexico, opciones),
       lineas(caja, opciones, coloreado, colocacion), historial(caja, lineas),
-      edicion(caja, opciones, lineas, historial, eventos) {
+      edicion(caja, opciones, ayudas, lineas, historial, eventos) {
     propiedades.construye();
 }
 
@@ -56,6 +56,7 @@ void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u
 void PartesControl::ponAyudas(const Ayudas& otras) {
     if (otras == ayudas) return;
     ayudas = otras;
+    historial.ponPorPalabras(ayudas.deshacePorPalabras);
     contenedor->otrasAyudas();
 }
 

@@ -57,14 +57,13 @@ std::u16string CajaTexto::conSaltosDobles(std::u16string_view texto, std::int32_
 
 void CajaTexto::ponTexto(std::u16string_view texto) {
     std::u16string nuevo = conSaltosDobles(texto, 0, static_cast<std::int32_t>(texto_.size()));
-    const CambioDeTexto cambio{0, static_cast<std::int32_t>(texto_.size()), a32(nuevo.size())};
+    const CambioDeTexto cambio = cambioEn(0, static_cast<std::int32_t>(texto_.size()), nuevo);
     std::vector<Estilo> estilos(nuevo.size());
     texto_ = std::move(nuevo);
     estilos_ = std::move(estilos);
-    const Seleccion antes{inicio_, longitud_};
     inicio_ = longitud_ = 0;
     modificado_ = false;
-    avisaDelCambio(cambio, antes);
+    avisaDelCambio(cambio);
 }
 
 void CajaTexto::selecciona(std::int32_t inicio, std::int32_t longitud) {
@@ -86,26 +85,46 @@ std::u16string CajaTexto::textoSeleccionado() const {
 void CajaTexto::reemplazaSeleccion(std::u16string_view texto) {
     if (texto.empty() && longitud_ == 0) return;
     const std::u16string nuevo = conSaltosDobles(texto, inicio_, inicio_ + longitud_);
-    const Seleccion antes{inicio_, longitud_};
-    const CambioDeTexto cambio{inicio_, longitud_, a32(nuevo.size())};
-    sustituye(cambio, nuevo);
+    const CambioDeTexto cambio = cambioEn(inicio_, longitud_, nuevo);
+    cambia(cambio, nuevo, estiloSeleccion());
     inicio_ += cambio.puestos;
     longitud_ = 0;
-    avisaDelCambio(cambio, antes);
+    avisaDelCambio(cambio);
 }
 
 void CajaTexto::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                       std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
-    const Seleccion antes{inicio_, longitud_};
-    const CambioDeTexto cambio{inicio, quitados, a32(texto.size())};
-    sustituye(cambio, texto);
+    const CambioDeTexto cambio = cambioEn(inicio, quitados, texto);
+    cambia(cambio, texto, estiloEn(inicio, quitados));
     inicio_ = inicioSeleccion;
     longitud_ = longitudSeleccion;
-    avisaDelCambio(cambio, antes);
+    avisaDelCambio(cambio);
 }
 
-void CajaTexto::sustituye(const CambioDeTexto& s, std::u16string_view nuevo) {
-    const Estilo estilo = estiloEn(s.inicio, s.quitados);
+void CajaTexto::sustituye(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo,
+                          const Seleccion& despues, std::span<const TramoDeColor> colores) {
+    const CambioDeTexto cambio = cambioEn(inicio, quitados, nuevo);
+    cambia(cambio, nuevo, {});
+    for (const TramoDeColor& tramo : colores) {
+        const auto desde = estilos_.begin() + tramo.inicio;
+        std::for_each(desde, desde + tramo.longitud, [&](Estilo& e) { e.color = tramo.color; });
+    }
+    inicio_ = despues.inicio;
+    longitud_ = despues.longitud;
+    avisaDelCambio(cambio);
+}
+
+CambioDeTexto CajaTexto::cambioEn(std::int32_t inicio, std::int32_t quitados,
+                                  std::u16string_view nuevo) const {
+    return {inicio,
+            quitados,
+            a32(nuevo.size()),
+            false,
+            texto_.substr(static_cast<std::size_t>(inicio), static_cast<std::size_t>(quitados)),
+            {inicio_, longitud_}};
+}
+
+void CajaTexto::cambia(const CambioDeTexto& s, std::u16string_view nuevo, const Estilo& estilo) {
     texto_.reserve(static_cast<std::size_t>(a32(texto_.size() + nuevo.size()))); // below, nothing fails
     const auto comunes = std::min(s.puestos, s.quitados);
     const auto desde = estilos_.begin() + s.inicio;
@@ -119,10 +138,10 @@ void CajaTexto::sustituye(const CambioDeTexto& s, std::u16string_view nuevo) {
     modificado_ = true;
 }
 
-void CajaTexto::avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes) {
+void CajaTexto::avisaDelCambio(CambioDeTexto cambio) {
     lineasAlDia_ = false;
     estiloDeEscritura_.reset();
-    cambio.otraSeleccion = antes != Seleccion{inicio_, longitud_};
+    cambio.otraSeleccion = cambio.seleccionAntes != Seleccion{inicio_, longitud_};
     alSustituir(cambio);
     if (eventos.cambio) eventos.cambio(cambio);
 }

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,8 +35,12 @@ struct Fuente {
 
 /// Códigos de teclas que el control conoce por su nombre: los códigos virtuales de Windows.
 namespace tecla {
+inline constexpr std::int16_t retroceso = 8;
 inline constexpr std::int16_t retorno = 13;
+inline constexpr std::int16_t izquierda = 37;
+inline constexpr std::int16_t derecha = 39;
 inline constexpr std::int16_t insertar = 45;
+inline constexpr std::int16_t suprimir = 46;
 } // namespace tecla
 
 /// Bits del argumento `shift` de los eventos de teclas y de ratón.
@@ -52,6 +57,14 @@ inline constexpr std::int32_t distingueMayusculas = 4;
 inline constexpr std::int32_t sinResaltar = 8;
 } // namespace opcionBusqueda
 
+/// Unos caracteres seleccionados; sin ninguno, donde está el cursor.
+struct Seleccion {
+    std::int32_t inicio = 0;
+    std::int32_t longitud = 0;
+
+    bool operator==(const Seleccion&) const = default;
+};
+
 /// Un cambio del texto: los caracteres [inicio, inicio + quitados) del de antes son [inicio, inicio +
 /// puestos) del nuevo.
 struct CambioDeTexto {
@@ -59,6 +72,8 @@ struct CambioDeTexto {
     std::int32_t quitados = 0;
     std::int32_t puestos = 0;
     bool otraSeleccion = false; ///< también la selección, o el cursor, es otra
+    std::u16string textoQuitado;
+    Seleccion seleccionAntes;
 
     /// Adónde va a parar una posición; lo que se inserta en ella queda delante.
     std::int32_t lleva(std::int32_t posicion) const {
@@ -105,6 +120,8 @@ public:
         std::function<void()> click;
         std::function<void()> pierdeFoco;
         std::function<void()> vaAPegar; ///< el usuario va a pegar o soltar texto en la selección
+        std::function<void()> empiezaPaso; ///< los cambios hasta que acabe son para el usuario uno solo
+        std::function<void()> acabaPaso;
     };
     Eventos eventos;
 
@@ -129,6 +146,11 @@ public:
     /// Reemplaza la selección; el cursor queda detrás del texto insertado, que tiene el color del primer
     /// carácter reemplazado o el de lo que se escriba a continuación.
     void reemplazaSeleccion(std::u16string_view texto);
+
+    /// Pone otros caracteres en el lugar de unos que están en el texto, tal como son, y selecciona: todo ello
+    /// un solo cambio. Son de color 0, salvo en los tramos que se dan, que ya están en el texto nuevo.
+    void sustituye(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo,
+                   const Seleccion& despues, std::span<const TramoDeColor> colores = {});
 
     /// Color de los caracteres de la selección; cuando está vacía, de lo que se escriba a continuación
     /// mientras no cambie la selección.
@@ -217,16 +239,11 @@ protected:
     const Letra& letra(std::int32_t numero) const { return letras_[static_cast<std::size_t>(numero - 1)]; }
 
 private:
-    struct Seleccion {
-        std::int32_t inicio = 0;
-        std::int32_t longitud = 0;
-        bool operator==(const Seleccion&) const = default;
-    };
-
     const IndiceLineas& lineas() const;
     std::u16string conSaltosDobles(std::u16string_view texto, std::int32_t inicio, std::int32_t fin) const;
-    void sustituye(const CambioDeTexto& cambio, std::u16string_view nuevo);
-    void avisaDelCambio(CambioDeTexto cambio, const Seleccion& antes);
+    CambioDeTexto cambioEn(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo) const;
+    void cambia(const CambioDeTexto& cambio, std::u16string_view nuevo, const Estilo& estilo);
+    void avisaDelCambio(CambioDeTexto cambio);
     Estilo estiloEn(std::int32_t inicio, std::int32_t longitud) const;
     Estilo estiloSeleccion() const { return estiloEn(inicio_, longitud_); }
     template <typename Cambio>

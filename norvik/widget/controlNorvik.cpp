@@ -147,13 +147,24 @@ bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
         if (vivo.isNull()) return true;
     }
     if (objeto == &piezas_->caja.ventana() && evento->type() == QEvent::KeyPress) {
-        const auto& tecla = *static_cast<QKeyEvent*>(evento);
-        if (tecla.key() == Qt::Key_Tab && tecla.modifiers() == Qt::ControlModifier) {
-            saleHaciaDelante();
-            return true;
-        }
+        if (atiendeTabulador(*static_cast<QKeyEvent*>(evento))) return true;
     }
     return QWidget::eventFilter(objeto, evento);
+}
+
+/// The tab key writes, and the shift key may take back what it wrote; with the control key they do what they
+/// do elsewhere.
+bool ControlNorvik::atiendeTabulador(const QKeyEvent& tecla) {
+    const bool adelante = tecla.key() == Qt::Key_Tab;
+    const bool conControl = tecla.modifiers().testFlag(Qt::ControlModifier);
+    const bool sangra = control_.ayudas().sangraSeleccion && tecla.key() == Qt::Key_Backtab;
+    if (adelante && tecla.modifiers() == Qt::ControlModifier)
+        saleHaciaDelante();
+    else if (sangra && conControl)
+        focusPreviousChild();
+    else if (sangra)
+        piezas_->caja.atiende([this] { control_.tabulaAtras(); });
+    return sangra || (adelante && tecla.modifiers() == Qt::ControlModifier);
 }
 
 void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
@@ -162,7 +173,6 @@ void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
     piezas_->caja.atiende([&] { retrocede ? piezas_->caja.enfoca() : control_.tabuladorEnfocado(); });
 }
 
-/// The tab key writes; with the control key it does what it does elsewhere.
 void ControlNorvik::saleHaciaDelante() {
     const QPointer<ControlNorvik> vivo(this);
     piezas_->elementos.tabulador->removeEventFilter(this); // the focus passes over it

@@ -292,6 +292,7 @@ private:
     void cuentaFallo(const std::u16string& texto);
     std::array<QWidget*, 3> observados();
     void entraEnTabulador(Qt::FocusReason razon);
+    bool atiendeTabulador(const QKeyEvent& tecla);
     void saleHaciaDelante();
 
     const std::unique_ptr<Piezas> piezas_;

@@ -261,13 +261,36 @@ void CajaTextoQt::tomaSeleccion() {
     selecciona(vista.inicio, vista.fin - vista.inicio);
 }
 
+namespace {
+
+/// What is changed while it lives is one step, as long as there is a box.
+class UnPaso {
+public:
+    UnPaso(CajaTexto& caja, std::weak_ptr<const void> viva) : caja_(caja), viva_(std::move(viva)) {
+        if (caja_.eventos.empiezaPaso) caja_.eventos.empiezaPaso();
+    }
+    UnPaso(const UnPaso&) = delete;
+    UnPaso& operator=(const UnPaso&) = delete;
+    ~UnPaso() {
+        if (!viva_.expired() && caja_.eventos.acabaPaso) caja_.eventos.acabaPaso();
+    }
+
+private:
+    CajaTexto& caja_;
+    std::weak_ptr<const void> viva_;
+};
+
+} // namespace
+
 void CajaTextoQt::pega(const QString& texto) {
+    const UnPaso unPaso(*this, testigo());
     if (eventos.vaAPegar) eventos.vaAPegar();
     reemplazaSeleccion(vistaDe(texto));
 }
 
 void CajaTextoQt::suelta(const QString& texto, int posicion, bool mueve) {
     const auto viva = testigo();
+    const UnPaso unPaso(*this, viva);
     std::int32_t destino = espejo_.enTexto(posicion);
     const Tramo origen = seleccionModelo();
     if (mueve) {
