@@ -39,11 +39,13 @@ void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const e
     const bool esPalabra = definicion.tipo == Norvik_PalabraReservada || definicion.tipo == Norvik_AutoExpReg;
     const bool corrige = opciones_.autoCorreccion && !opciones_.lenguajeSensible && esPalabra;
     if (definicion.colorTexto == sinColor && definicion.tipo != Norvik_AutoExpReg) return;
+    if (definicion.colorTexto != sinColor) caja_->pinta(posicion, longitud, definicion.colorTexto);
+    if (!corrige) return;
+    const auto lexema =
+        caja_->texto().substr(static_cast<std::size_t>(posicion), static_cast<std::size_t>(longitud));
+    if (lexema == definicion.expresion) return;
     caja_->selecciona(posicion, longitud);
-    if (definicion.colorTexto != sinColor) caja_->ponColorSeleccion(definicion.colorTexto);
-    if (corrige && caja_->textoSeleccionado() != definicion.expresion) {
-        caja_->reemplazaSeleccion(definicion.expresion);
-    }
+    caja_->reemplazaSeleccion(definicion.expresion);
 }
 
 } // namespace norvik::inline v0_2

@@ -10,6 +10,7 @@
 
 namespace norvik::inline v0_2 {
 
+struct CambioDeTexto;
 struct signoDebuger;
 
 /// Lo que el control necesita de quien lo contiene y lo muestra, además de su caja de texto. Un anfitrión sin
@@ -44,6 +45,11 @@ public:
 
     /// Hay otras ayudas de edición encendidas.
     virtual void otrasAyudas() {}
+    /// El texto es otro, haya cambiado como haya cambiado; los eventos del control ya se han dado.
+    virtual void cambioElTexto(const CambioDeTexto& /*cambio*/) {}
+    /// Un texto largo espera sus colores. Verdadero cuando el contenedor se los dará (`Norvik::colorista`,
+    /// `Norvik::tomaColores`); si no, se hacen en el acto.
+    virtual bool coloreaDespues() { return false; }
 
     /// @name Ventanas
     /// Las modales vuelven cuando se cierran; la de buscar, enseguida.

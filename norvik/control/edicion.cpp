@@ -29,8 +29,14 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     const auto alCambiarLibre = libre([this](const auto& cambio) { alCambiar(cambio); });
     e.cambio = [this, duenio, alCambiarLibre](const CambioDeTexto& cambio) {
         const auto vivo = duenio.lock();
-        if (vivo != nullptr) lineas_.siguePosiciones(cambio);
-        alCambiarLibre(cambio);
+        if (vivo == nullptr) return;
+        const Edicion& edicion = *this; // this function may go with its box
+        const CambioDeTexto suCambio = cambio;
+        PasosFirmes paso;
+        lineas_.siguePosiciones(cambio);
+        paso([&] { alCambiarLibre(cambio); });
+        if (!edicion.callada_) paso([&] { edicion.contenedor_->cambioElTexto(suCambio); });
+        paso.acaba();
     };
     e.cambioDeSeleccion = libre([this] { alCambiarLaSeleccion(); });
     e.teclaAbajo = libre([this](auto& codigo, auto& shift) { alBajarTecla(codigo, shift); });

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "norvik/control/ayudas.hpp"
+#include "norvik/control/contenedor.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/lineasEditadas.hpp"
@@ -21,9 +22,10 @@ namespace norvik::inline v0_2 {
 class Edicion {
 public:
     Edicion(const Prestado<CajaTexto>& caja, const Opciones& opciones, const Ayudas& ayudas,
-            LineasEditadas& lineas, Historial& historial, EventosControl& eventos)
+            LineasEditadas& lineas, Historial& historial, EventosControl& eventos,
+            const Prestado<Contenedor>& contenedor)
         : caja_(caja), opciones_(opciones), ayudas_(ayudas), lineas_(lineas), historial_(historial),
-          eventos_(eventos) {}
+          eventos_(eventos), contenedor_(contenedor) {}
 
     /// Receives the box's events from now on, as long as its owner lives, which it holds meanwhile: a
     /// receiver may delete the control.
@@ -62,6 +64,7 @@ private:
     LineasEditadas& lineas_;
     Historial& historial_;
     EventosControl& eventos_;
+    const Prestado<Contenedor>& contenedor_;
     bool callada_ = false;
 };
 

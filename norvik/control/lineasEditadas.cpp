@@ -7,9 +7,13 @@
 // A change of the text that takes the caret to another line leaves the line where it began first, and then
 // edits the one where it ended: the one is coloured, the other plain until it is left. An error mark is a
 // range that moves with the text; the first change ends it and colours the lines that it then has.
+//
+// With the aid `coloreaAlEscribir` no line is plain and none waits: colours are brought up to date after each
+// change. A line that is left is then only looked at for words to be corrected.
 
 #include "norvik/control/lineasEditadas.hpp"
 
+#include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/guardas.hpp"
 #include "norvik/control/lineasTexto.hpp"
@@ -43,7 +47,21 @@ void LineasEditadas::coloreaRango(std::int32_t inicio, std::int32_t fin, std::in
 
     const MarcaOcupado ocupado(ocupado_);
     const TextoOculto oculto(colocacion_);
-    coloreado_.pintaTokens(inicio, fin);
+    if (!alDia() || (opciones_.autoCorreccion && longitudDelTexto() <= a32(maximoTexto)))
+        coloreado_.pintaTokens(inicio, fin);
+    ponAlDia();
+}
+
+void LineasEditadas::ponAlDia() {
+    if (!alDia()) return;
+    const DibujoBloqueado bloqueado(caja_);
+    coloresAlDia_.pon({marcado_.inicio, marcado_.fin});
+}
+
+void LineasEditadas::tomaColores(std::span<const TramoDeColor> tramos) {
+    if (!alDia()) return;
+    const DibujoBloqueado bloqueado(caja_);
+    coloresAlDia_.toma(tramos, {marcado_.inicio, marcado_.fin});
 }
 
 void LineasEditadas::coloreaLinea(std::int32_t linea) {
@@ -123,11 +141,24 @@ std::optional<std::int32_t> LineasEditadas::alCambiar(const CambioDeTexto& cambi
     numLineas_ = caja_->numeroDeLineas();
     const bool cortada = caja_->lineaDeCaracter(cambio.inicio) == lineaAnterior_;
     const auto nueva = cambio.otraSeleccion ? cambiaDeLinea(cortada, paso) : std::nullopt;
+    if (alDia()) {
+        paso([this] { ponAlDiaTrasCambio(); });
+        return nueva;
+    }
     if (numLineasAnterior_ > numLineas_) lineaEnEdicion_ = false;
     if (!lineaEnEdicion_) paso([this] { ponLineaLlana(); });
     quitaMarca(paso);
     numLineasAnterior_ = numLineas_;
     return nueva;
+}
+
+/// The change ends a mark.
+void LineasEditadas::ponAlDiaTrasCambio() {
+    lineaEnEdicion_ = opciones_.autoCorreccion;
+    lineaMarcada_ = ninguna;
+    marcado_ = {};
+    numLineasAnterior_ = numLineas_;
+    ponAlDia();
 }
 
 void LineasEditadas::ponLineaLlana() {
@@ -175,6 +206,7 @@ std::optional<std::int32_t> LineasEditadas::cambiaDeLinea(bool cortada, PasosFir
 
 void LineasEditadas::coloreaLoDejado(bool dejada, PasosFirmes& paso) {
     if (!recoloreaRango_ && !dejada) return;
+    if (alDia() && !opciones_.autoCorreccion) return;
     const TextoOculto oculto(colocacion_);
     const std::int32_t cursor = caja_->inicioSeleccion();
     if (recoloreaRango_) paso([&] { coloreaRango(posicionAnterior_, cursor, ninguna); });

@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include "norvik/control/ayudas.hpp"
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/coloreado.hpp"
+#include "norvik/control/coloresAlDia.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/prestado.hpp"
@@ -11,6 +13,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace norvik::inline v0_2 {
 
@@ -19,9 +22,10 @@ namespace norvik::inline v0_2 {
 /// 1-based where nothing else is said, character positions 0-based.
 class LineasEditadas {
 public:
-    LineasEditadas(const Prestado<CajaTexto>& caja, const Opciones& opciones, Coloreado& coloreado,
-                   Colocacion& colocacion)
-        : caja_(caja), opciones_(opciones), coloreado_(coloreado), colocacion_(colocacion) {}
+    LineasEditadas(const Prestado<CajaTexto>& caja, const Opciones& opciones, const Ayudas& ayudas,
+                   Coloreado& coloreado, ColoresAlDia& coloresAlDia, Colocacion& colocacion)
+        : caja_(caja), opciones_(opciones), ayudas_(ayudas), coloreado_(coloreado),
+          coloresAlDia_(coloresAlDia), colocacion_(colocacion) {}
 
     /// @name Painting
     /// Tokens are painted only while `colorear` is on. Raise `Desbordamiento` for a text that is too long.
@@ -31,6 +35,10 @@ public:
     /// The lines of characters [inicio, fin) that came in at once, if they are several; a text that is too
     /// long is left as it is.
     void coloreaPuesto(std::int32_t inicio, std::int32_t fin);
+    /// Where the colours are to be up to date at all times, they are now.
+    void ponAlDia();
+    /// The colours of the text as it is now, for one that waited for them.
+    void tomaColores(std::span<const TramoDeColor> tramos);
     /// Paints a line without its line break; one that the text does not have is only remembered.
     void marcaLinea(std::int32_t linea, std::int32_t color);
     /// Paints the characters [inicio, fin) of a token that stands on a line.
@@ -70,6 +78,8 @@ private:
     };
     static constexpr std::int32_t ninguna = -1;
 
+    bool alDia() const { return opciones_.colorear && ayudas_.coloreaAlEscribir; }
+    void ponAlDiaTrasCambio();
     std::int32_t lineaDelCursor() const { return caja_->lineaDeCaracter(caja_->inicioSeleccion()); }
     std::int32_t longitudDelTexto() const { return static_cast<std::int32_t>(caja_->texto().size()); }
     void coloreaRango(std::int32_t inicio, std::int32_t fin, std::int32_t linea);
@@ -83,7 +93,9 @@ private:
 
     const Prestado<CajaTexto>& caja_;
     const Opciones& opciones_;
+    const Ayudas& ayudas_;
     Coloreado& coloreado_;
+    ColoresAlDia& coloresAlDia_;
     Colocacion& colocacion_;
     bool ocupado_ = false;
     bool lineaEnEdicion_ = true;  ///< the caret's line was turned plain and waits to be coloured

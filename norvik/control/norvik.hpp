@@ -16,6 +16,7 @@
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/sistema.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
+#include "norvik/spec/lenguaje.hpp"
 
 #include <any>
 #include <cstddef>
@@ -29,6 +30,7 @@
 
 namespace norvik::inline v0_2 {
 
+class Colorista;
 class Historial;
 class PartesControl;
 struct DestinoBusqueda;
@@ -317,6 +319,12 @@ public:
     void Acerca();
     /// Pide al contenedor la ventana con el informe de la gramática y del analizador léxico.
     void MuestraInforme();
+    /// El lenguaje de ahora como valor, que no cambia cuando cambia el del control: para analizar en otro
+    /// hilo, o un texto más largo que los del control. Sin tabla, con los tokens solos.
+    Lenguaje lenguaje();
+    /// Las ayudas de edición encendidas, y otras; no se guardan con las propiedades.
+    const Ayudas& ayudas() const;
+    void ponAyudas(const Ayudas& ayudas);
 
     /// @}
 
@@ -334,9 +342,10 @@ public:
     void clickEnSuperficie();
     /// Las opciones, juntas.
     const Opciones& opciones() const;
-    /// Las ayudas de edición encendidas, y otras; no se guardan con las propiedades.
-    const Ayudas& ayudas() const;
-    void ponAyudas(const Ayudas& ayudas);
+    /// Lo que colorea textos del lenguaje de ahora en otro hilo, y los colores del texto de ahora que ha
+    /// dado: son los de un texto largo que los espera con `coloreaAlEscribir`.
+    std::unique_ptr<Colorista> colorista();
+    void tomaColores(std::span<const TramoDeColor> tramos);
 
     /// @}
 

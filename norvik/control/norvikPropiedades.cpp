@@ -3,6 +3,7 @@
 // What the control hands to a part as it stands, its properties above all.
 #include "norvik/control/norvik.hpp"
 
+#include "norvik/control/colorista.hpp"
 #include "norvik/control/partesControl.hpp"
 
 namespace norvik::inline v0_2 {
@@ -95,6 +96,18 @@ void Norvik::tabuladorEnfocado() {
 
 const Opciones& Norvik::opciones() const {
     return partes_->opciones;
+}
+
+Lenguaje Norvik::lenguaje() {
+    return partes_->lenguaje.dame();
+}
+
+std::unique_ptr<Colorista> Norvik::colorista() {
+    return partes_->lenguaje.colorista();
+}
+
+void Norvik::tomaColores(std::span<const TramoDeColor> tramos) {
+    vivo()->lineas.tomaColores(tramos);
 }
 
 const Ayudas& Norvik::ayudas() const {

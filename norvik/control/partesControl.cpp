@@ -10,11 +10,12 @@
 namespace norvik::inline v0_2 {
 
 PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& suContenedor)
-    : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lector(lexico, suCaja),
-      conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
+    : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lenguaje(lexico, laGramatica),
+      lector(lexico, suCaja), conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
       propiedades(opciones, lexico, caja, colocacion, contenedor), coloreado(caja, lexico, opciones),
-      lineas(caja, opciones, coloreado, colocacion), historial(caja, lineas),
-      edicion(caja, opciones, ayudas, lineas, historial, eventos) {
+      coloresAlDia(caja, contenedor, lenguaje),
+      lineas(caja, opciones, ayudas, coloreado, coloresAlDia, colocacion), historial(caja, lineas),
+      edicion(caja, opciones, ayudas, lineas, historial, eventos, contenedor) {
     propiedades.construye();
 }
 
@@ -55,9 +56,13 @@ void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u
 
 void PartesControl::ponAyudas(const Ayudas& otras) {
     if (otras == ayudas) return;
+    const bool enciende = otras.coloreaAlEscribir && !ayudas.coloreaAlEscribir;
     ayudas = otras;
     historial.ponPorPalabras(ayudas.deshacePorPalabras);
-    contenedor->otrasAyudas();
+    PasosFirmes paso;
+    if (enciende) paso([this] { lineas.ponAlDia(); });
+    paso([this] { contenedor->otrasAyudas(); });
+    paso.acaba();
 }
 
 void PartesControl::clickEnSuperficie() const {

@@ -5,10 +5,12 @@
 #include "norvik/control/ayudas.hpp"
 #include "norvik/control/colocacion.hpp"
 #include "norvik/control/coloreado.hpp"
+#include "norvik/control/coloresAlDia.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/edicion.hpp"
 #include "norvik/control/eventosControl.hpp"
 #include "norvik/control/historial.hpp"
+#include "norvik/control/lenguajeDeAhora.hpp"
 #include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/prestado.hpp"
@@ -73,11 +75,13 @@ public:
     Ayudas ayudas;
     pilaTokens lexico;
     gramatica laGramatica;
+    LenguajeDeAhora lenguaje;
     LectorTokens lector;
     ConductorSLR conductor;
     Colocacion colocacion;
     Propiedades propiedades;
     Coloreado coloreado;
+    ColoresAlDia coloresAlDia;
     LineasEditadas lineas;
     SignosDelBorde signos;
     Historial historial;

@@ -99,11 +99,15 @@ Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const Opcion
     return {std::move(*arbol), {}};
 }
 
+void Analizador::reconoceTexto(std::u16string_view texto, const OpcionesAnalisis& opciones) {
+    const Presupuesto presupuesto(plazoFijo + plazoPorCaracter * texto.size(), opciones.cancelacion);
+    reconocedor_.reconoce(texto, presupuesto, mapa_.reinicia(1, texto));
+}
+
 std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
                                                 const OpcionesAnalisis& opciones) {
-    const Presupuesto presupuesto(plazoFijo + plazoPorCaracter * texto.texto.size(), opciones.cancelacion);
     try {
-        reconocedor_.reconoce(texto.texto, presupuesto, mapa_.reinicia(1, texto.texto));
+        reconoceTexto(texto.texto, opciones);
     } catch (const BusquedaDesbocada& error) {
         Diagnostico diagnostico = sinLugar(Codigo::BusquedaDesbocada);
         diagnostico.partes.nombre = error.definicion();

@@ -7,14 +7,18 @@
 #include "norvik/lexer/reconocedor.hpp"
 #include "norvik/parser/analisis.hpp"
 #include "norvik/parser/cadenasReglas.hpp"
+#include "norvik/parser/continuaciones.hpp"
 #include "norvik/parser/fichasTokens.hpp"
+#include "norvik/parser/lectura.hpp"
 #include "norvik/parser/lenguajeAnalisis.hpp"
 #include "norvik/parser/lexemas.hpp"
 #include "norvik/parser/textoAnalizado.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace norvik::inline v0_2 {
@@ -33,6 +37,9 @@ public:
     /// What is wrong with the text, or with the table, is a diagnostic.
     Analisis analiza(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones);
     Lexemas lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones);
+    /// What can follow at a 0-based position; nothing when the text asks for too much.
+    Continuaciones continuaciones(std::u16string_view texto, std::size_t posicion,
+                                  const OpcionesAnalisis& opciones);
 
 private:
     enum class Final : std::uint8_t { Aceptado, Reparado, SinArbol };
@@ -42,8 +49,17 @@ private:
     };
 
     std::optional<Diagnostico> reconoce(const TextoAnalizado& texto, const OpcionesAnalisis& opciones);
+    /// Fills the map. Raises what recognition does.
+    void reconoceTexto(std::u16string_view texto, const OpcionesAnalisis& opciones);
     Recorrido recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones);
     Recorrido repara(TextoAnalizado& texto, LectorTexto& lector, const OpcionesAnalisis& opciones);
+
+    std::vector<bool> definicionesQueSiguen(std::u16string_view texto, const OpcionesAnalisis& opciones);
+    std::vector<std::int16_t> pilaTras(std::u16string_view texto, const OpcionesAnalisis& opciones);
+    void anotaDefiniciones(const std::vector<bool>& admitidas, std::vector<Continuacion>& propuestas) const;
+    void anotaDelTexto(std::u16string_view texto, std::size_t posicion, const std::vector<bool>& admitidas,
+                       const OpcionesAnalisis& opciones, std::vector<Continuacion>& propuestas);
+    bool estaDentro(const Lectura& lectura, std::size_t posicion) const;
 
     const pilaTokens& lexico_;
     const gramatica& gramatica_;

@@ -9,6 +9,7 @@
 #include "norvik/pattern/patronClase.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 namespace norvik::inline v0_2 {
 
@@ -171,10 +172,14 @@ void CajaTexto::ponColorSeleccion(std::int32_t color) {
 }
 
 void CajaTexto::pinta(std::int32_t inicio, std::int32_t longitud, std::int32_t color) {
-    const auto desde = estilos_.begin() + inicio;
-    std::for_each(desde, desde + longitud, [color](Estilo& e) { e.color = color; });
     estiloDeEscritura_.reset();
-    alPintar(inicio, longitud);
+    const auto esOtro = [color](const Estilo& e) { return e.color != color; };
+    const auto fin = estilos_.begin() + inicio + longitud;
+    const auto desde = std::find_if(fin - longitud, fin, esOtro);
+    if (desde == fin) return;
+    const auto hasta = std::find_if(std::make_reverse_iterator(fin), estilos_.rend(), esOtro).base();
+    std::for_each(desde, hasta, [color](Estilo& e) { e.color = color; });
+    alPintar(static_cast<std::int32_t>(desde - estilos_.begin()), static_cast<std::int32_t>(hasta - desde));
 }
 
 const std::u16string& CajaTexto::nombreFuenteSeleccion() const {

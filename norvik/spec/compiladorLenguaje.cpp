@@ -10,8 +10,10 @@
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/grammar/tablaLR.hpp"
+#include "norvik/pattern/emparejador.hpp"
 #include "norvik/spec/cargadorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/spec/lenguajeDelControl.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 #include "norvik/spec/nodoEspecificacion.hpp"
 #include "norvik/spec/recorridoEspecificacion.hpp"
@@ -311,6 +313,35 @@ Compilacion compilaEspecificacion(const Analisis& especificacion, const Directiv
     if (!especificacion) return {std::nullopt, especificacion.diagnosticos};
     return CompiladorLenguaje(NodoEspecificacion(especificacion.arbol.raiz()), directivas, cancelacion)
         .compila();
+}
+
+namespace {
+
+void copiaTabla(const gramatica& de, gramatica& a) {
+    a.SetDimensionTablaSLR(de.GetDimensionFilasSLR(), de.GetDimensionColumnasSLR());
+    for (std::int16_t fila = 0; fila < de.GetDimensionFilasSLR(); ++fila) {
+        std::int16_t columna = 0;
+        for (const std::int16_t valor : de.GetFilaTablaSLR(fila)) {
+            ++columna;
+            if (valor != 0) a.SetElementoTablaSLR(static_cast<std::int16_t>(fila + 1), columna, valor);
+        }
+    }
+}
+
+} // namespace
+
+Lenguaje lenguajeDe(const pilaTokens& lexico, const gramatica& reglas) {
+    auto datos = std::make_shared<DatosDeLenguaje>();
+    for (const expresionRegular* const d : lexico.tokensLenguaje())
+        datos->lexico.registraPatron(
+            {d->expresion, d->nomER, true, !d->expReg->ignoraMayusculas(), d->pseudoToken, d->tipo, d->base});
+    if (!defectoDeTabla(reglas.valores()).empty()) return acaba(std::move(datos));
+    datos->reglas.copiaReglas(reglas);
+    const conjunto& simbolos = reglas.simbolos();
+    for (std::int16_t s = 1; s <= simbolos.totalElementos(); ++s)
+        datos->reglas.SetSimbolo(simbolos.simboloAt(s));
+    copiaTabla(reglas, datos->reglas);
+    return acaba(std::move(datos));
 }
 
 Compilacion lenguajeDeModulo(const std::function<std::optional<ErrorModulo>(CargadorLenguaje&)>& replica) {

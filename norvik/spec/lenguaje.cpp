@@ -139,4 +139,11 @@ Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8, const OpcionesA
     return analizador->lexemas(prepara(lenguaje, std::move(*texto), Lugares::Unidad::Utf8), opciones);
 }
 
+Continuaciones continuaciones(const Lenguaje& lenguaje, std::u16string_view texto, std::size_t posicion,
+                              const OpcionesAnalisis& opciones) {
+    compruebaTamano(texto.size());
+    const DatosDeLenguaje::Prestamo analizador(lenguaje.datos());
+    return analizador->continuaciones(texto, posicion, opciones);
+}
+
 } // namespace norvik::inline v0_2

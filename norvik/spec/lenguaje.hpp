@@ -6,9 +6,11 @@
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/grammar/metodo.hpp"
 #include "norvik/parser/analisis.hpp"
+#include "norvik/parser/continuaciones.hpp"
 #include "norvik/parser/lexemas.hpp"
 #include "norvik/parser/vocabulario.hpp"
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -87,5 +89,12 @@ NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto,
                            const OpcionesAnalisis& opciones = {});
 NORVIK_API Lexemas lexemas(const Lenguaje& lenguaje, std::string_view utf8,
                            const OpcionesAnalisis& opciones = {});
+
+/// Lo que puede seguir en una posición de un texto, desde 0 y en unidades UTF-16. Un token que la tabla no
+/// admite no cuenta, como si no estuviera: detrás de un error también se propone algo. Coste y fallos como
+/// arriba; sin gramática, cancelado, dentro de un comentario o de un literal, o cuando el texto pide
+/// demasiado, no propone nada.
+NORVIK_API Continuaciones continuaciones(const Lenguaje& lenguaje, std::u16string_view texto,
+                                         std::size_t posicion, const OpcionesAnalisis& opciones = {});
 
 } // namespace norvik::inline v0_2

@@ -8,6 +8,7 @@
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/widget/accesibleControl.hpp"
 #include "norvik/widget/elementosControl.hpp"
+#include "norvik/widget/fondoDeEdicion.hpp"
 #include "norvik/widget/ventanasDelControl.hpp"
 
 #include <QKeyEvent>
@@ -19,12 +20,13 @@ namespace norvik {
 struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
-          caja(&control) {}
+          caja(&control), fondo(control.control_, caja) {}
 
     ElementosControl elementos;
     SistemaQt propio;
     SistemaQt& sistema; ///< `propio` or a shared one
     CajaTextoQt caja;
+    FondoDeEdicion fondo;
 };
 
 ControlNorvik::ControlNorvik(QWidget* padre) : ControlNorvik(nullptr, padre) {}
@@ -206,7 +208,18 @@ void ControlNorvik::ponAyuda(bool Ayudas::*ayuda, bool encendida) {
 }
 
 /// Each aid that stands in the window takes note.
-void ControlNorvik::otrasAyudas() {}
+void ControlNorvik::otrasAyudas() {
+    piezas_->fondo.otrasAyudas();
+}
+
+void ControlNorvik::cambioElTexto(const CambioDeTexto& cambio) {
+    piezas_->fondo.cambioElTexto(cambio);
+}
+
+bool ControlNorvik::coloreaDespues() {
+    piezas_->fondo.pideColores();
+    return true;
+}
 
 // ---- what the control asks of its container
 

@@ -276,6 +276,8 @@ private:
     void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
     void ponAyuda(bool Ayudas::*ayuda, bool encendida);
     void otrasAyudas() override;
+    void cambioElTexto(const CambioDeTexto& cambio) override;
+    bool coloreaDespues() override;
     Medidas medidas() const override;
     void muestraMarco(bool visible) override;
     void muestraBordeIzquierdo(bool visible) override;

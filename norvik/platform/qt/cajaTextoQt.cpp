@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QScopedValueRollback>
 #include <QTextCursor>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -164,12 +165,24 @@ void CajaTextoQt::ponSeleccionEnVista() {
     vistaAtrasada_ = false;
 }
 
+/// Of many lines those in view first; the rest in slices, when nothing else is to be done.
 void CajaTextoQt::ponEstilosEnVista() {
     if (!sucio_) return;
+    constexpr std::int32_t lineasDeUnaVez = 2000; // a few milliseconds
+    const std::int32_t primera = lineaDeCaracter(sucio_->inicio);
+    const std::int32_t ultima = lineaDeCaracter(sucio_->fin);
+    const std::int32_t hasta = std::min(ultima, primera + lineasDeUnaVez);
+    const std::int32_t visible = primeraLineaVisible();
+    const std::int32_t enVentana = vista_->height() / std::max(QFontMetrics(vista_->font()).height(), 1) + 1;
+    if (hasta < ultima) ponEstilosEnLineas(std::max(visible, primera), std::min(visible + enVentana, ultima));
+    ponEstilosEnLineas(primera, hasta);
+    if (hasta == ultima) return sucio_.reset();
+    sucio_->inicio = inicioDeLinea(hasta + 1);
+    QTimer::singleShot(0, &contexto_, [this] { protege([this] { ponAlDia(); }); });
+}
+
+void CajaTextoQt::ponEstilosEnLineas(std::int32_t primera, std::int32_t ultima) {
     QTextDocument& documento = *vista_->document();
-    const Tramo sucio = *sucio_;
-    const std::int32_t primera = lineaDeCaracter(sucio.inicio);
-    const std::int32_t ultima = lineaDeCaracter(sucio.fin);
     QTextBlock bloque = documento.findBlockByNumber(primera);
     const int desde = bloque.position();
     int hasta = desde;
@@ -182,7 +195,6 @@ void CajaTextoQt::ponEstilosEnVista() {
         hasta = bloque.position() + bloque.length();
     }
     if (hasta > desde) documento.markContentsDirty(desde, hasta - desde);
-    sucio_.reset();
 }
 
 QList<QTextLayout::FormatRange> CajaTextoQt::formatos(std::int32_t inicio, std::int32_t longitud) const {

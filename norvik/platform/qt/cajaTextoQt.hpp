@@ -103,6 +103,7 @@ private:
     Tramo seleccionVista() const;
     void ponSeleccionEnVista();
     void ponEstilosEnVista();
+    void ponEstilosEnLineas(std::int32_t primera, std::int32_t ultima);
     QList<QTextLayout::FormatRange> formatos(std::int32_t inicio, std::int32_t longitud) const;
     QTextCharFormat formato(const Estilo& estilo) const;
     void ensucia(Tramo tramo);

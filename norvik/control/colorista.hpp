@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/base/presupuesto.hpp"
+#include "norvik/lexer/reconocedor.hpp"
+#include "norvik/pattern/mapaCoincidencias.hpp"
+#include "norvik/platform/cajaTexto.hpp"
+#include "norvik/spec/lenguaje.hpp"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace norvik::inline v0_2 {
+
+class pilaTokens;
+
+/// Knows the colours of texts of one language, of any length. It serves one thread at a time, any thread.
+class Colorista {
+public:
+    /// The language is the lexer's, whose definitions tell the colours.
+    Colorista(Lenguaje lenguaje, const pilaTokens& lexico);
+
+    /// The colours that colouring all of a plain text gives it: runs of one colour, in order and without
+    /// gaps. Raises what recognition does (`Reconocedor::reconoce`).
+    std::vector<TramoDeColor> colores(std::u16string_view texto, const Presupuesto& presupuesto);
+
+private:
+    Lenguaje lenguaje_;
+    Reconocedor reconocedor_;
+    MapaCoincidencias mapa_;
+    std::vector<std::int32_t> colores_; ///< by definition
+};
+
+} // namespace norvik::inline v0_2

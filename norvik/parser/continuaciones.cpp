@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+
+// What can follow at a place of a text. The tokens before it are parsed without a tree, only with the stack
+// of states; one that the table does not take is passed over, so that there are proposals behind an error,
+// too. Then each token of the grammar is tried on the stack, reductions and all: what is proposed is exactly
+// what can be shifted there. What is written elsewhere in the text and is of one of these tokens comes last.
+#include "norvik/parser/continuaciones.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
+#include "norvik/parser/analizador.hpp"
+#include "norvik/parser/avanceLR.hpp"
+#include "norvik/parser/lectorTexto.hpp"
+#include "norvik/pattern/emparejador.hpp"
+#include "norvik/pattern/mayusculas.hpp"
+#include "norvik/pattern/patronClase.hpp"
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+
+namespace norvik::inline v0_2 {
+
+namespace {
+
+constexpr std::size_t maximoReducciones = 100'000;
+
+bool esPalabra(std::u16string_view texto) {
+    const bool cifra = !texto.empty() && texto.front() >= u'0' && texto.front() <= u'9';
+    return !texto.empty() && !cifra && std::ranges::all_of(texto, esDePalabra);
+}
+
+std::size_t inicioDePalabra(std::u16string_view texto, std::size_t posicion) {
+    while (posicion > 0 && esDePalabra(texto[posicion - 1])) --posicion;
+    return posicion;
+}
+
+/// Orders by kind, and then as a dictionary does.
+bool vaAntes(const Continuacion& a, const Continuacion& b) {
+    const auto plegado = [](std::u16string texto) {
+        std::ranges::transform(texto, texto.begin(), pliega);
+        return texto;
+    };
+    return std::tuple(a.clase, plegado(a.texto), a.texto) < std::tuple(b.clase, plegado(b.texto), b.texto);
+}
+
+} // namespace
+
+Continuaciones Analizador::continuaciones(std::u16string_view texto, std::size_t posicion,
+                                          const OpcionesAnalisis& opciones) {
+    const std::size_t fin = std::min(posicion, texto.size());
+    Continuaciones resultado{inicioDePalabra(texto, fin), {}};
+    if (gramatica_.simbolos().esVacio()) return resultado;
+    lenguaje_.actualiza();
+    try {
+        const auto admitidas = definicionesQueSiguen(texto.substr(0, resultado.inicio), opciones);
+        anotaDefiniciones(admitidas, resultado.propuestas);
+        anotaDelTexto(texto, fin, admitidas, opciones, resultado.propuestas);
+    } catch (const ErrorNorvik&) { // the text asks for too much, or somebody cancelled
+        return {resultado.inicio, {}};
+    }
+    std::ranges::sort(resultado.propuestas, vaAntes);
+    return resultado;
+}
+
+/// By their place: those that may come behind a text.
+std::vector<bool> Analizador::definicionesQueSiguen(std::u16string_view texto,
+                                                    const OpcionesAnalisis& opciones) {
+    const std::vector<std::int16_t> pila = pilaTras(texto, opciones);
+    PilaEnsayo ensayo(pila);
+    const auto cabe = [&](std::int16_t columna) {
+        ensayo.empieza(pila);
+        return avanza(ensayo, columna, lenguaje_, maximoReducciones, [](std::int16_t /*regla*/) {}) ==
+               Avance::Desplazado;
+    };
+    std::vector<bool> siguen;
+    for (std::int32_t lugar = 0; lugar < static_cast<std::int32_t>(lexico_.tokensLenguaje().size()); ++lugar)
+        siguen.push_back(cabe(lenguaje_.columna({lugar, {}})));
+    return siguen;
+}
+
+/// The stack once a text was parsed as far as it goes.
+std::vector<std::int16_t> Analizador::pilaTras(std::u16string_view texto, const OpcionesAnalisis& opciones) {
+    reconoceTexto(texto, opciones);
+    std::vector<std::int16_t> pila = {0};
+    PilaEnsayo ensayo(pila);
+    LectorTexto lector(texto, lexico_, mapa_);
+    for (lector.lee(); lector.lectura().leido.definicion != TokenLeido::fin;) {
+        const Lectura& lectura = lector.lectura();
+        if (lectura.leido.definicion == TokenLeido::desconocido) {
+            lector.leeEn(lectura.inicio + static_cast<std::int32_t>(lectura.leido.lexema.size()));
+            continue;
+        }
+        ensayo.empieza(pila);
+        const std::int16_t columna = lenguaje_.columna(lectura.leido);
+        const auto avance =
+            avanza(ensayo, columna, lenguaje_, maximoReducciones, [](std::int16_t /*regla*/) {});
+        if (avance == Avance::Desplazado) ensayo.consuma(pila);
+        lector.lee();
+    }
+    return pila;
+}
+
+void Analizador::anotaDefiniciones(const std::vector<bool>& admitidas,
+                                   std::vector<Continuacion>& propuestas) const {
+    std::set<std::u16string_view> vistas;
+    std::size_t lugar = 0;
+    for (const expresionRegular* const d : lexico_.tokensLenguaje()) {
+        if (!admitidas[lugar++]) continue;
+        const bool fija = d->expReg->esPalabra();
+        const std::u16string& nombre = d->pseudoToken.empty() ? d->nomToken : d->pseudoToken;
+        const std::u16string& texto = fija ? d->expReg->texto() : nombre;
+        if (!vistas.insert(texto).second) continue;
+        propuestas.push_back({fija ? Continuacion::Clase::Palabra : Continuacion::Clase::Nombre, texto});
+    }
+}
+
+/// Whether a person who writes at a position goes on with a comment or a literal.
+bool Analizador::estaDentro(const Lectura& lectura, std::size_t posicion) const {
+    const std::int16_t tipo =
+        lexico_.tokensLenguaje()[static_cast<std::size_t>(lectura.leido.definicion)]->tipo;
+    const std::size_t inicio = static_cast<std::size_t>(lectura.inicio) - 1;
+    const std::size_t fin = static_cast<std::size_t>(lectura.fin) - 1;
+    if (tipo == Norvik_ComentarioLinea) return inicio < posicion && posicion <= fin;
+    const bool cerrado = tipo == Norvik_ComentarioBloque || tipo == Norvik_Cadena || tipo == Norvik_Caracter;
+    return cerrado && inicio < posicion && posicion < fin;
+}
+
+/// But for what is being completed. Nothing at all inside a comment or a literal.
+void Analizador::anotaDelTexto(std::u16string_view texto, std::size_t posicion,
+                               const std::vector<bool>& admitidas, const OpcionesAnalisis& opciones,
+                               std::vector<Continuacion>& propuestas) {
+    constexpr std::size_t maximo = 1000; // for a person to look at
+    reconoceTexto(texto, opciones);
+    const auto& definiciones = lexico_.tokensLenguaje();
+    std::set<std::u16string_view> vistas;
+    for (std::int32_t desde = 1;;) {
+        const Lectura l = leeDesde<Comentarios::SeLeen>(desde, texto, mapa_, definiciones);
+        if (l.leido.definicion == TokenLeido::fin) break;
+        desde = l.fin;
+        if (l.leido.definicion == TokenLeido::desconocido) {
+            desde += static_cast<std::int32_t>(l.leido.lexema.size());
+            continue;
+        }
+        if (estaDentro(l, posicion)) return propuestas.clear();
+        const bool esEl =
+            static_cast<std::size_t>(l.inicio) <= posicion && posicion < static_cast<std::size_t>(l.fin);
+        const auto lugar = static_cast<std::size_t>(l.leido.definicion);
+        const bool vale =
+            admitidas[lugar] && !definiciones[lugar]->expReg->esPalabra() && esPalabra(l.leido.lexema);
+        if (vale && !esEl && vistas.size() < maximo) vistas.insert(l.leido.lexema);
+    }
+    for (const std::u16string_view palabra : vistas)
+        propuestas.push_back({Continuacion::Clase::DelTexto, std::u16string(palabra)});
+}
+
+} // namespace norvik::inline v0_2

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "norvik/control/colorista.hpp"
+#include "norvik/control/norvik.hpp"
+#include "norvik/control/pliegues.hpp"
+#include "norvik/widget/trabajoDeFondo.hpp"
+
+#include <QTimer>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace norvik {
+
+class CajaTextoQt;
+
+/// What is found out about the edited text in other threads, while it is typed on: the colours of a long
+/// text, and after a pause the constructions that can be folded. What comes back when the text is another
+/// already is done again.
+class FondoDeEdicion {
+public:
+    /// Both outlive it.
+    FondoDeEdicion(Norvik& control, CajaTextoQt& caja);
+    FondoDeEdicion(const FondoDeEdicion&) = delete;
+    FondoDeEdicion& operator=(const FondoDeEdicion&) = delete;
+    ~FondoDeEdicion() = default;
+
+    /// Any change of the text, and of the aids.
+    void cambioElTexto(const CambioDeTexto& cambio);
+    void otrasAyudas();
+    /// The text is too long to be coloured at once.
+    void pideColores();
+
+    const Pliegues& pliegues() const { return pliegues_; }
+    /// There may be others.
+    std::function<void()> otrosPliegues;
+
+private:
+    using Colores = std::vector<TramoDeColor>;
+    using Construcciones = std::vector<Construccion>;
+
+    void colorea();
+    void tomaColores(const Colores& colores, std::uint64_t version);
+    void analiza();
+    void tomaConstrucciones(std::optional<Construcciones> construcciones, std::uint64_t version);
+    const std::shared_ptr<Colorista>& colorista();
+
+    Norvik& control_;
+    CajaTextoQt& caja_;
+    std::uint64_t version_ = 0; ///< of the text
+    Pliegues pliegues_;
+    std::optional<Lenguaje> lenguaje_; ///< the colourist's
+    std::shared_ptr<Colorista> colorista_;
+    bool desistido_ = false; ///< texts of this language take too long
+    QTimer coloreaPronto_, analizaTrasPausa_;
+    TrabajoDeFondo<Colores> trabajoColores_;
+    TrabajoDeFondo<std::optional<Construcciones>> trabajoAnalisis_;
+};
+
+} // namespace norvik
