@@ -17,8 +17,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace norvik::orden {
 
@@ -102,8 +105,9 @@ private:
         bool mal = false;
     };
 
-    CLI::App* conAyuda(const char* nombre);
-    CLI::App* nueva(const char* nombre, const char* segunda);
+    // An order gets its options when it is the one that is read.
+    void nueva(const char* nombre, std::function<void(CLI::App&)> opciones);
+    void ponFicheros(CLI::App& orden, const char* primero, const char* segundo = nullptr);
     Orden interpreta(const CLI::App& orden) const;
     static void compruebaOpciones(const CLI::App& orden);
     void comprueba(const CLI::App& orden) const;
@@ -126,42 +130,52 @@ Linea::Linea() {
     app_.add_flag("--version", version_)->disable_flag_override();
     app_.add_option("--color", palabras_.color)->take_last();
     for (const char* const nombre : {"analiza", "lexemas", "colorea"})
-        nueva(nombre, "TEXTO")->add_option("--formato", palabras_.formato)->take_last();
-    CLI::App* const informe = nueva("informe", nullptr);
-    informe->add_option("-o", palabras_.carpeta)->take_last();
-    informe->add_option("--formato", palabras_.formato)->take_last();
-    CLI::App* const modulo = nueva("modulo", "NOMBRE");
-    modulo->add_option("-o", palabras_.carpeta)->take_last();
-    modulo->add_option("--lenguaje", palabras_.lenguaje)->take_last();
-    CLI::App* const prueba = nueva("prueba", "CARPETA");
-    prueba->add_flag("--actualiza", palabras_.actualiza)->disable_flag_override();
-    prueba->add_option("--junit", palabras_.junit)->take_last();
-    CLI::App* const frases = nueva("frases", nullptr);
-    frases->add_option("--cuantas", palabras_.cuantas)->take_last();
-    frases->add_option("--semilla", palabras_.semilla)->take_last();
-    frases->add_flag("--mal", palabras_.mal)->disable_flag_override();
-    CLI::App* const revisa = conAyuda("revisa");
-    revisa->add_option("ESPECIFICACION", palabras_.especificaciones);
-    revisa->add_option("--formato", palabras_.formato)->take_last();
-    revisa->add_flag("--estricto", palabras_.estricto)->disable_flag_override();
+        nueva(nombre, [this](CLI::App& orden) {
+            ponFicheros(orden, "LENGUAJE", "TEXTO");
+            orden.add_option("--formato", palabras_.formato)->take_last();
+        });
+    nueva("informe", [this](CLI::App& orden) {
+        ponFicheros(orden, "ESPECIFICACION");
+        orden.add_option("-o", palabras_.carpeta)->take_last();
+        orden.add_option("--formato", palabras_.formato)->take_last();
+    });
+    nueva("modulo", [this](CLI::App& orden) {
+        ponFicheros(orden, "ESPECIFICACION", "NOMBRE");
+        orden.add_option("-o", palabras_.carpeta)->take_last();
+        orden.add_option("--lenguaje", palabras_.lenguaje)->take_last();
+    });
+    nueva("prueba", [this](CLI::App& orden) {
+        ponFicheros(orden, "LENGUAJE", "CARPETA");
+        orden.add_flag("--actualiza", palabras_.actualiza)->disable_flag_override();
+        orden.add_option("--junit", palabras_.junit)->take_last();
+    });
+    nueva("frases", [this](CLI::App& orden) {
+        ponFicheros(orden, "ESPECIFICACION");
+        orden.add_option("--cuantas", palabras_.cuantas)->take_last();
+        orden.add_option("--semilla", palabras_.semilla)->take_last();
+        orden.add_flag("--mal", palabras_.mal)->disable_flag_override();
+    });
+    nueva("revisa", [this](CLI::App& orden) {
+        orden.add_option("ESPECIFICACION", palabras_.especificaciones);
+        orden.add_option("--formato", palabras_.formato)->take_last();
+        orden.add_flag("--estricto", palabras_.estricto)->disable_flag_override();
+    });
 }
 
-CLI::App* Linea::conAyuda(const char* nombre) {
+void Linea::nueva(const char* nombre, std::function<void(CLI::App&)> opciones) {
     CLI::App* const orden = app_.add_subcommand(nombre);
     orden->set_help_flag();
-    orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
-    orden->add_option("--metodo", palabras_.metodo)->take_last();
-    orden->add_option("--color", palabras_.color)->take_last();
-    return orden;
+    orden->preparse_callback([this, orden, opciones = std::move(opciones)](std::size_t /*palabras*/) {
+        orden->add_flag("-h,--help", ayuda_)->disable_flag_override();
+        orden->add_option("--metodo", palabras_.metodo)->take_last();
+        orden->add_option("--color", palabras_.color)->take_last();
+        opciones(*orden);
+    });
 }
 
-CLI::App* Linea::nueva(const char* nombre, const char* segunda) {
-    CLI::App* const orden = conAyuda(nombre);
-    const std::string_view otra = segunda == nullptr ? std::string_view() : segunda;
-    orden->add_option(otra == "TEXTO" || otra == "CARPETA" ? "LENGUAJE" : "ESPECIFICACION",
-                      palabras_.primera);
-    if (segunda != nullptr) orden->add_option(segunda, palabras_.segunda);
-    return orden;
+void Linea::ponFicheros(CLI::App& orden, const char* primero, const char* segundo) {
+    orden.add_option(primero, palabras_.primera);
+    if (segundo != nullptr) orden.add_option(segundo, palabras_.segunda);
 }
 
 Peticion Linea::lee(int argc, const char* const* argv) {
