@@ -12,7 +12,8 @@ Superficie Colocacion::superficie() const {
             m.pixelY,
             opciones_.borde3D,
             opciones_.leftBorderVisible,
-            opciones_.margenIzquierdo};
+            opciones_.margenIzquierdo,
+            m.bordeAdicional};
 }
 
 void Colocacion::colocaControles() {

@@ -25,12 +25,16 @@ public:
     /// Una propiedad tiene otro valor: hay que volver a guardar el control.
     virtual void cambioDePropiedad(std::u16string_view /*nombre*/) {}
 
+    /// Se han tomado de una bolsa todas las que se guardan.
+    virtual void opcionesRestauradas() {}
+
     /// Tamaño del control y de un píxel, en twips.
     struct Medidas {
         std::int32_t ancho = 0;
         std::int32_t alto = 0;
         std::int32_t pixelX = 15;
         std::int32_t pixelY = 15;
+        std::int32_t bordeAdicional = 0; ///< anchura del borde izquierdo además de la de sus señales
     };
     /// Las de ahora.
     virtual Medidas medidas() const { return {}; }

@@ -15,7 +15,7 @@ std::int32_t borde(const Superficie& s) {
 }
 
 std::int32_t xDelSeparador(const Superficie& s) {
-    return anchoDelMargenDeSenales + borde(s);
+    return anchoDelMargenDeSenales + s.bordeAdicional + borde(s);
 }
 
 /// Inside the sunken frame, or round the whole control when there is none.

@@ -38,6 +38,7 @@ struct Superficie {
     bool borde3D = true;
     bool leftBorderVisible = true;
     std::int16_t margenIzquierdo = 150;
+    std::int32_t bordeAdicional = 0; ///< anchura del borde izquierdo además de la de sus señales
 };
 
 /// Los sitios de los elementos, por sus nombres.

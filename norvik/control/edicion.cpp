@@ -34,6 +34,7 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
         const CambioDeTexto suCambio = cambio;
         PasosFirmes paso;
         lineas_.siguePosiciones(cambio);
+        textoPorAvisar_ = true;
         paso([&] { alCambiarLibre(cambio); });
         if (!edicion.callada_) paso([&] { edicion.contenedor_->cambioElTexto(suCambio); });
         paso.acaba();
@@ -46,7 +47,12 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     e.ratonMueve = libre([this](auto&... a) { avisa(eventos_.MouseMove, a...); });
     e.ratonArriba = libre([this](auto&... a) { avisa(eventos_.MouseUp, a...); });
     e.click = libre([this] { avisa(eventos_.Click); });
-    e.pierdeFoco = libre([this] { lineas_.alPerderElFoco(); });
+    e.pierdeFoco = libre([this] {
+        PasosFirmes paso;
+        paso([this] { lineas_.alPerderElFoco(); });
+        paso([this] { avisaTexto(); });
+        paso.acaba();
+    });
     e.vaAPegar = libre([this] { lineas_.vaAPegar(); });
     e.empiezaPaso = libre([this] { historial_.empiezaPaso(); });
     e.acabaPaso = libre([this] { historial_.acabaPaso(); });
@@ -70,13 +76,19 @@ void Edicion::alCambiar(const CambioDeTexto& cambio) {
     if (graba) paso([&] { historial_.registra(cambio); });
     if (cambio.otraSeleccion) avisaSeleccion(linea, paso);
     if (graba) paso([this] { avisa(eventos_.change); });
+    if (graba) paso([this] { avisaTexto(); });
     paso.acaba();
+}
+
+void Edicion::avisaTexto() {
+    if (std::exchange(textoPorAvisar_, false)) avisa(eventos_.textoCambiado);
 }
 
 void Edicion::alCambiarLaSeleccion() {
     historial_.corta();
     PasosFirmes paso;
     avisaSeleccion(lineas_.alCambiarLaSeleccion(paso), paso);
+    if (historial_.grabaDeshacer()) paso([this] { avisaTexto(); });
     paso.acaba();
 }
 
@@ -105,7 +117,7 @@ bool esDePalabras(std::int16_t codigo) {
 void Edicion::alBajarTecla(std::int16_t& codigo, std::int16_t& shift) {
     if (shift == mascara::control) {
         if (!ayudas_.teclasDePalabra || !esDePalabras(codigo)) codigo = 0;
-    } else if (codigo == tecla::insertar && shift == mascara::mayusculas) {
+    } else if (codigo == tecla::insertar && shift == mascara::mayusculas && !caja_->soloLectura()) {
         lineas_.vaAPegar();
     }
     avisa(eventos_.KeyDown, codigo, shift);
@@ -113,7 +125,8 @@ void Edicion::alBajarTecla(std::int16_t& codigo, std::int16_t& shift) {
 
 void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
     PasosFirmes paso;
-    if (codigo == tecla::retorno && opciones_.autoTAB) paso([this] { sangra(); });
+    const bool sangrada = codigo == tecla::retorno && opciones_.autoTAB && !caja_->soloLectura();
+    if (sangrada) paso([this] { sangra(); });
     paso([&] { avisa(eventos_.KeyUp, codigo, shift); });
     paso.acaba();
 }
@@ -129,7 +142,9 @@ void Edicion::sangra() {
 
 void Edicion::tabula() {
     PasosFirmes paso;
-    if (ayudas_.sangraSeleccion && hayVariasLineas(*caja_)) {
+    if (caja_->soloLectura()) {
+        // nothing is written
+    } else if (ayudas_.sangraSeleccion && hayVariasLineas(*caja_)) {
         paso([this] {
             historial_.exacto([this] { sangraLineas(caja_, std::max<int>(opciones_.espaciosXTAB, 0)); });
         });

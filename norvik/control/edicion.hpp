@@ -34,6 +34,9 @@ public:
     void calla() { callada_ = true; }
     bool callada() const { return callada_; }
     void avisaClick() const { avisa(eventos_.Click); }
+    /// Tells the host that the text is another, if it is and nobody has told yet. What changes the text while
+    /// the host hears of no change does this at its end.
+    void avisaTexto();
 
     /// 1-based; raises `Desbordamiento` beyond 32767.
     std::int16_t lineaActual() const;
@@ -66,6 +69,7 @@ private:
     EventosControl& eventos_;
     const Prestado<Contenedor>& contenedor_;
     bool callada_ = false;
+    bool textoPorAvisar_ = false;
 };
 
 } // namespace norvik::inline v0_2

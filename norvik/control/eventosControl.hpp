@@ -25,6 +25,10 @@ struct EventosControl {
     Raton MouseMove;
     Raton MouseUp;
     std::function<void()> SelChange; ///< no mientras Undo y Redo reescriben el texto
+
+    /// El texto es otro, por lo que sea: también por Undo, Redo, un reemplazo o una palabra corregida. Se da
+    /// al acabar lo que lo cambió, y detrás de los demás; varios cambios seguidos pueden ser uno.
+    std::function<void()> textoCambiado;
 };
 
 } // namespace norvik::inline v0_2

@@ -54,11 +54,13 @@ void Norvik::PonSignoError(std::int16_t numLinea) {
 }
 
 void Norvik::ColoreaTodo() {
-    partes_->lineas.coloreaTodo();
+    const auto partes = vivo();
+    partes->conAviso([&] { partes->lineas.coloreaTodo(); });
 }
 
 void Norvik::ColoreaLineaActual() {
-    partes_->lineas.coloreaLinea(LineaActual());
+    const auto partes = vivo();
+    partes->conAviso([&] { partes->lineas.coloreaLinea(partes->edicion.lineaActual()); });
 }
 
 std::u16string Norvik::ContenidoLinea(std::int16_t numLinea) const {

@@ -51,11 +51,13 @@ void Norvik::InicializaUndosYRedos() {
 }
 
 void Norvik::Undo() {
-    vivo()->historial.Undo();
+    const auto partes = vivo();
+    partes->conAviso([&] { partes->historial.Undo(); });
 }
 
 void Norvik::Redo() {
-    vivo()->historial.Redo();
+    const auto partes = vivo();
+    partes->conAviso([&] { partes->historial.Redo(); });
 }
 
 bool Norvik::puedeDeshacer() const {
@@ -67,7 +69,11 @@ bool Norvik::puedeRehacer() const {
 }
 
 void Norvik::restauraPropiedades(const BolsaPropiedades& bolsa) {
-    vivo()->propiedades.restaura(bolsa);
+    const auto partes = vivo();
+    PasosFirmes paso;
+    paso([&] { partes->propiedades.restaura(bolsa); });
+    paso([&] { partes->contenedor->opcionesRestauradas(); });
+    paso.acaba();
 }
 
 void Norvik::guardaPropiedades(BolsaPropiedades& bolsa) const {

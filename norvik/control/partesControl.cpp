@@ -46,11 +46,14 @@ void PartesControl::MarcaErrorLineaToken() {
     lineas.dejaDeEditar();
 }
 
+/// A person's wish, from the window that replaces.
 void PartesControl::sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+    if (caja->soloLectura()) throw ErrorNorvik(u"El texto es de solo lectura");
     PasosFirmes paso;
     paso([&] { historial.sustituye(inicio, longitud, nuevo); });
     // What is too long to be coloured is no reason not to go on with the next match.
     if (caja->texto().size() <= maximoTexto) paso([this] { lineas.coloreaTodo(); });
+    paso([this] { edicion.avisaTexto(); });
     paso.acaba();
 }
 
@@ -87,6 +90,7 @@ void PartesControl::CargarFichero(const std::filesystem::path& nomFichero) {
     PasosFirmes paso;
     paso([&] { caja->ponTexto(texto); });
     paso([this] { lineas.coloreaTodo(); });
+    paso([this] { edicion.avisaTexto(); });
     paso.acaba();
 }
 

@@ -161,7 +161,7 @@ void CajaTexto::cambiaEstilo(Cambio cambio) {
         Estilo estilo = estiloSeleccion();
         cambio(estilo);
         estiloDeEscritura_ = estilo;
-        return;
+        return alSeleccionar();
     }
     std::for_each(estilos_.begin() + inicio_, estilos_.begin() + inicio_ + longitud_, cambio);
     alPintar(inicio_, longitud_);

@@ -161,6 +161,10 @@ public:
     /// Pinta unos caracteres, que están en el texto, sin tocar la selección. Lo que se escriba a continuación
     /// vuelve a tener el color del carácter anterior.
     void pinta(std::int32_t inicio, std::int32_t longitud, std::int32_t color);
+    /// El de un carácter del texto.
+    std::int32_t colorDe(std::int32_t posicion) const {
+        return estilos_[static_cast<std::size_t>(posicion)].color;
+    }
     /// Los colores de todo el texto: tramos de un color, en orden y sin huecos.
     std::vector<TramoDeColor> colores() const;
 
@@ -181,7 +185,10 @@ public:
 
     /// Editada desde que se puso el texto o se quitó la marca.
     bool modificado() const { return modificado_; }
-    void ponModificado(bool modificado) { modificado_ = modificado; }
+    virtual void ponModificado(bool modificado) { modificado_ = modificado; }
+    /// El usuario no puede cambiar el texto; el programa, sí.
+    bool soloLectura() const { return soloLectura_; }
+    virtual void ponSoloLectura(bool soloLectura) { soloLectura_ = soloLectura; }
     /// La selección no se ve mientras la caja no tiene el foco.
     bool ocultaSeleccion() const { return ocultaSeleccion_; }
     virtual void ponOcultaSeleccion(bool oculta) { ocultaSeleccion_ = oculta; }
@@ -260,6 +267,7 @@ private:
     std::int32_t longitud_ = 0;
     std::optional<Estilo> estiloDeEscritura_; ///< puesto con una selección vacía
     bool modificado_ = false;
+    bool soloLectura_ = false;
     bool ocultaSeleccion_ = true;
     std::int32_t margenDerecho_ = 0;
     std::int32_t izquierda_ = 0;

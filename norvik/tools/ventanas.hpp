@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
@@ -16,11 +17,6 @@
 
 // What the windows have in common.
 namespace norvik {
-
-/// A tooltip that is shown as it is written: Qt would take some of them for marks of a page.
-inline QString ayudaLlana(const QString& texto) {
-    return texto.isEmpty() ? texto : QStringLiteral("<qt>%1</qt>").arg(texto.toHtmlEscaped());
-}
 
 /// Gives a window a size, or as much of it as its screen has for it and its frame.
 inline void mide(QWidget& ventana, const QSize& deseada) {

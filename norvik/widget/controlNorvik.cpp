@@ -4,17 +4,37 @@
 
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/cargaLenguaje.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/widget/accesibleControl.hpp"
+#include "norvik/widget/diagnosticosVistos.hpp"
 #include "norvik/widget/elementosControl.hpp"
 #include "norvik/widget/fondoDeEdicion.hpp"
+#include "norvik/widget/margenDeLineas.hpp"
+#include "norvik/widget/resaltes.hpp"
+#include "norvik/widget/resaltesDelCursor.hpp"
 #include "norvik/widget/ventanasDelControl.hpp"
+#include "norvik/widget/zoom.hpp"
 
+#include <QAbstractScrollArea>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScrollBar>
+
+#include <tuple>
 
 namespace norvik {
+
+/// What a host can be told of that no event tells.
+struct ControlNorvik::EstadoDelTexto {
+    std::int32_t inicio = 0;
+    std::int32_t longitud = 0;
+    std::u16string fuente;
+    std::int32_t tamano = 0;
+    bool modificado = false;
+    int aumento = Zoom::normal;
+};
 
 /// What surrounds the control, in the order in which it is made.
 struct ControlNorvik::Piezas {
@@ -27,6 +47,12 @@ struct ControlNorvik::Piezas {
     SistemaQt& sistema; ///< `propio` or a shared one
     CajaTextoQt caja;
     FondoDeEdicion fondo;
+    Resaltes resaltes{caja};
+    ResaltesDelCursor delCursor{caja, resaltes};
+    DiagnosticosVistos diagnosticos{caja, resaltes};
+    MargenDeLineas margen{elementos.debugBox, caja, diagnosticos};
+    Zoom zoom{caja};
+    EstadoDelTexto avisado; ///< what the host was last told of
 };
 
 ControlNorvik::ControlNorvik(QWidget* padre) : ControlNorvik(nullptr, padre) {}
@@ -48,6 +74,7 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     ordenaTabulador();
     conectaElementos();
     conectaEventos();
+    piezas_->avisado = estado();
 }
 
 CajaTextoQt& ControlNorvik::caja() {
@@ -88,19 +115,24 @@ void ControlNorvik::ordenaTabulador() {
 
 void ControlNorvik::conectaEventos() {
     EventosControl& e = control_.eventos;
-    e.CambioDeLinea = [this](auto& linea) { emit CambioDeLinea(linea); };
+    e.CambioDeLinea = [this](auto& linea) { Q_EMIT CambioDeLinea(linea); };
     e.change = [this] {
         if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
-        emit change();
+        Q_EMIT change();
     };
-    e.Click = [this] { emit Click(); };
-    e.KeyDown = [this](auto& codigo, auto& shift) { emit KeyDown(codigo, shift); };
-    e.KeyPress = [this](auto& caracter) { emit KeyPress(caracter); };
-    e.KeyUp = [this](auto& codigo, auto& shift) { emit KeyUp(codigo, shift); };
-    e.MouseDown = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseDown(boton, shift, x, y); };
-    e.MouseMove = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseMove(boton, shift, x, y); };
-    e.MouseUp = [this](auto& boton, auto& shift, auto& x, auto& y) { emit MouseUp(boton, shift, x, y); };
-    e.SelChange = [this] { emit SelChange(); };
+    e.Click = [this] { Q_EMIT Click(); };
+    e.KeyDown = [this](auto& codigo, auto& shift) { Q_EMIT KeyDown(codigo, shift); };
+    e.KeyPress = [this](auto& caracter) { Q_EMIT KeyPress(caracter); };
+    e.KeyUp = [this](auto& codigo, auto& shift) { Q_EMIT KeyUp(codigo, shift); };
+    e.MouseDown = [this](auto& boton, auto& shift, auto& x, auto& y) {
+        Q_EMIT MouseDown(boton, shift, x, y);
+    };
+    e.MouseMove = [this](auto& boton, auto& shift, auto& x, auto& y) {
+        Q_EMIT MouseMove(boton, shift, x, y);
+    };
+    e.MouseUp = [this](auto& boton, auto& shift, auto& x, auto& y) { Q_EMIT MouseUp(boton, shift, x, y); };
+    e.SelChange = [this] { Q_EMIT SelChange(); };
+    e.textoCambiado = [this] { Q_EMIT textoCambiado(); };
 }
 
 /// The elements go one by one, and nobody is there to see the last events of one.
@@ -117,6 +149,10 @@ void ControlNorvik::conectaElementos() {
     for (QWidget* e : observados()) e->installEventFilter(this);
     connect(&piezas_->elementos.controlSpace, &QPushButton::clicked, this,
             [this] { piezas_->caja.enfoca(); });
+    connect(&piezas_->caja.noticias(), &NoticiasDeCaja::alDia, this, [this] { alDia(); });
+    const auto& area = static_cast<const QAbstractScrollArea&>(piezas_->caja.ventana());
+    connect(area.verticalScrollBar(), &QAbstractSlider::valueChanged, this,
+            [this] { piezas_->resaltes.refresca(); });
     piezas_->caja.alFallar = [this](const std::u16string& texto) { cuentaFallo(texto); };
 }
 
@@ -126,7 +162,7 @@ void ControlNorvik::cuentaFallo(const std::u16string& texto) {
     if (!cabe && !fallosContados_.insert(texto).second) return;
     const QPointer<ControlNorvik> vivo(this);
     bool contado = false;
-    sinFallos([&] { emit fallo(aQString(texto), contado); }); // no failure about a failure
+    sinFallos([&] { Q_EMIT fallo(aQString(texto), contado); }); // no failure about a failure
     if (!vivo.isNull() && !contado) piezas_->sistema.muestraMensaje({texto, u"Norvik", Icono::Critico});
 }
 
@@ -172,6 +208,7 @@ bool ControlNorvik::atiendeTabulador(const QKeyEvent& tecla) {
 void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
     const Servido<QPushButton>::Servicio servicio(*piezas_->elementos.tabulador);
     const bool retrocede = razon == Qt::BacktabFocusReason;
+    if (!retrocede && soloLectura()) return static_cast<void>(focusNextChild());
     piezas_->caja.atiende([&] { retrocede ? piezas_->caja.enfoca() : control_.tabuladorEnfocado(); });
 }
 
@@ -210,6 +247,12 @@ void ControlNorvik::ponAyuda(bool Ayudas::*ayuda, bool encendida) {
 /// Each aid that stands in the window takes note.
 void ControlNorvik::otrasAyudas() {
     piezas_->fondo.otrasAyudas();
+    const Ayudas& ayudas = control_.ayudas();
+    piezas_->delCursor.pon(ayudas);
+    piezas_->zoom.permite(ayudas.permiteZoom);
+    piezas_->margen.ponNumeros(ayudas.numerosDeLinea);
+    control_.redimensiona();
+    Q_EMIT ayudasCambiadas();
 }
 
 void ControlNorvik::cambioElTexto(const CambioDeTexto& cambio) {
@@ -221,11 +264,105 @@ bool ControlNorvik::coloreaDespues() {
     return true;
 }
 
+// ---- what a program sets and hears
+
+bool ControlNorvik::soloLectura() const {
+    return piezas_->caja.soloLectura();
+}
+
+void ControlNorvik::soloLectura(bool valor) {
+    if (valor == soloLectura()) return;
+    piezas_->caja.ponSoloLectura(valor);
+    protege([this] { Q_EMIT soloLecturaCambiada(); });
+}
+
+int ControlNorvik::aumento() const {
+    return piezas_->zoom.aumento();
+}
+
+void ControlNorvik::aumento(int porcentaje) {
+    piezas_->zoom.pon(porcentaje);
+}
+
+void ControlNorvik::amplia() {
+    piezas_->zoom.amplia();
+}
+
+void ControlNorvik::reduce() {
+    piezas_->zoom.reduce();
+}
+
+void ControlNorvik::ponDiagnosticos(const std::vector<Diagnostico>& diagnosticos) {
+    piezas_->diagnosticos.pon(diagnosticos);
+}
+
+void ControlNorvik::irA(const Rango& rango) {
+    const QPointer<ControlNorvik> vivo(this);
+    const std::int32_t inicio = rango.inicio.desplazamiento;
+    setFocus(); // a selection that comes into view scrolls to its end
+    if (!vivo.isNull()) protege([&] { piezas_->caja.muestra(inicio, rango.fin.desplazamiento - inicio); });
+}
+
+Compilacion ControlNorvik::cargaLenguaje(const QString& especificacion) {
+    return carga([&] { return norvik::cargaLenguaje(control_, vistaDe(especificacion)); });
+}
+
+Compilacion ControlNorvik::cargaLenguajeDe(const QString& fichero) {
+    return carga([&] { return norvik::cargaLenguajeDe(control_, aRuta(fichero)); });
+}
+
+/// What runs while a language is generated may delete the control.
+Compilacion ControlNorvik::carga(const std::function<Compilacion()>& orden) {
+    const QPointer<ControlNorvik> vivo(this);
+    Compilacion compilacion;
+    protege([&] { compilacion = orden(); });
+    const bool colorea = compilacion && !vivo.isNull() && piezas_->caja.texto().size() <= maximoTexto;
+    if (colorea) protege([this] { control_.ColoreaTodo(); });
+    return compilacion;
+}
+
+void ControlNorvik::cambioDePropiedad(std::u16string_view nombre) {
+    const QPointer<ControlNorvik> vivo(this);
+    Q_EMIT propiedadCambiada(aQString(nombre));
+    if (!vivo.isNull()) Q_EMIT opcionesCambiadas();
+}
+
+/// What stands over the text and beside it follows it.
+void ControlNorvik::alDia() {
+    piezas_->resaltes.muestra();
+    if (piezas_->margen.sigue()) control_.redimensiona();
+    avisaEstado();
+}
+
+ControlNorvik::EstadoDelTexto ControlNorvik::estado() const {
+    const CajaTextoQt& caja = piezas_->caja;
+    return {caja.inicioSeleccion(),       caja.longitudSeleccion(), caja.nombreFuenteSeleccion(),
+            caja.tamanoFuenteSeleccion(), caja.modificado(),        piezas_->zoom.aumento()};
+}
+
+void ControlNorvik::avisaEstado() {
+    const EstadoDelTexto ahora = estado();
+    const EstadoDelTexto antes = std::exchange(piezas_->avisado, ahora);
+    const QPointer<ControlNorvik> vivo(this);
+    const auto seleccion = [](const EstadoDelTexto& e) {
+        return std::tie(e.inicio, e.longitud, e.fuente, e.tamano);
+    };
+    if (seleccion(ahora) != seleccion(antes)) Q_EMIT seleccionCambiada();
+    if (!vivo.isNull() && ahora.modificado != antes.modificado) Q_EMIT modificacionCambiada();
+    if (!vivo.isNull() && ahora.aumento != antes.aumento) Q_EMIT aumentoCambiado();
+}
+
+/// A font that the widget is given itself, not one that its surroundings have.
+void ControlNorvik::tomaFuente() {
+    if (testAttribute(Qt::WA_SetFont)) protege([this] { Font(font().resolve(Font())); });
+}
+
 // ---- what the control asks of its container
 
 Contenedor::Medidas ControlNorvik::medidas() const {
     const TwipsPorPixel pixel = twipsPorPixel(*this);
-    return {aTwips(width(), pixel.x), aTwips(height(), pixel.y), aTwips(1, pixel.x), aTwips(1, pixel.y)};
+    return {aTwips(width(), pixel.x), aTwips(height(), pixel.y), aTwips(1, pixel.x), aTwips(1, pixel.y),
+            aTwips(piezas_->margen.anchoAdicional(), pixel.x)};
 }
 
 void ControlNorvik::muestraMarco(bool visible) {
@@ -273,6 +410,7 @@ void ControlNorvik::changeEvent(QEvent* evento) {
     const bool otraEscala =
         evento->type() == QEvent::StyleChange || evento->type() == QEvent::ApplicationFontChange;
     if (otraEscala) protege([this] { control_.redimensiona(); });
+    if (evento->type() == QEvent::FontChange) tomaFuente();
 }
 
 } // namespace norvik

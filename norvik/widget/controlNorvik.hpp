@@ -3,9 +3,11 @@
 #pragma once
 
 #include "norvik/base/api.hpp"
+#include "norvik/base/diagnostico.hpp"
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/norvik.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/spec/lenguaje.hpp"
 
 #include <QString>
 #include <QWidget>
@@ -17,6 +19,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 // A property of the control and of its widget, as two members of its name, and what Qt sets it with, which
 // raises nothing. A failure names the property.
@@ -93,50 +96,62 @@ class SistemaQt;
 /// queda. Lo que lance una llamada del anfitrión le llega a él.
 class NORVIK_API ControlNorvik : public QWidget, private Contenedor {
     Q_OBJECT
-    Q_PROPERTY(bool Borde3D READ Borde3D WRITE ponBorde3D)
-    Q_PROPERTY(bool LeftBorderVisible READ LeftBorderVisible WRITE ponLeftBorderVisible)
-    Q_PROPERTY(int MargenIzquierdo READ MargenIzquierdo WRITE ponMargenIzquierdo)
-    Q_PROPERTY(bool HideSelection READ HideSelection WRITE ponHideSelection)
-    Q_PROPERTY(bool LenguajeSensible READ LenguajeSensible WRITE ponLenguajeSensible)
-    Q_PROPERTY(bool AutoCorreccion READ AutoCorreccion WRITE ponAutoCorreccion)
-    Q_PROPERTY(int EspaciosXTAB READ EspaciosXTAB WRITE ponEspaciosXTAB)
-    Q_PROPERTY(bool AutoTAB READ AutoTAB WRITE ponAutoTAB)
-    Q_PROPERTY(bool MarcarErrores READ MarcarErrores WRITE ponMarcarErrores)
-    Q_PROPERTY(bool MuestraMensajesDeError READ MuestraMensajesDeError WRITE ponMuestraMensajesDeError)
-    Q_PROPERTY(bool Colorear READ Colorear WRITE ponColorear)
-    Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE ponNomLenguaje)
-    Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE ponAutoNumero)
-    Q_PROPERTY(QColor ColorPR READ ColorPRQt WRITE ponColorPRQt)
-    Q_PROPERTY(QColor ColorOperadores READ ColorOperadoresQt WRITE ponColorOperadoresQt)
-    Q_PROPERTY(QColor ColorComentarios READ ColorComentariosQt WRITE ponColorComentariosQt)
-    Q_PROPERTY(QColor ColorEtiquetas READ ColorEtiquetasQt WRITE ponColorEtiquetasQt)
-    Q_PROPERTY(QColor ColorNumeros READ ColorNumerosQt WRITE ponColorNumerosQt)
-    Q_PROPERTY(QColor ColorError READ ColorErrorQt WRITE ponColorErrorQt)
-    Q_PROPERTY(QColor ColorCadena READ ColorCadenaQt WRITE ponColorCadenaQt)
-    Q_PROPERTY(QColor ColorCaracter READ ColorCaracterQt WRITE ponColorCaracterQt)
-    Q_PROPERTY(QColor ColorFechas READ ColorFechasQt WRITE ponColorFechasQt)
-    Q_PROPERTY(QFont Font READ Font WRITE ponFont)
-    Q_PROPERTY(QString ContenidoG READ ContenidoG WRITE ponContenidoG)
-    Q_PROPERTY(QString CodigoPrueba READ CodigoPrueba WRITE ponCodigoPrueba)
+    Q_PROPERTY(bool Borde3D READ Borde3D WRITE ponBorde3D NOTIFY opcionesCambiadas)
     Q_PROPERTY(
-        bool TextoModificado READ TextoModificado WRITE ponTextoModificado STORED false DESIGNABLE false)
-    Q_PROPERTY(QString Text READ Text WRITE ponText STORED false DESIGNABLE false)
-    Q_PROPERTY(QString SelText READ SelText WRITE ponSelText STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelStart READ inicioSeleccion WRITE ponSelStart STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelLength READ longitudSeleccion WRITE ponSelLength STORED false DESIGNABLE false)
-    Q_PROPERTY(QString SelFontName READ SelFontName WRITE ponSelFontName STORED false DESIGNABLE false)
-    Q_PROPERTY(int SelFontSize READ SelFontSize WRITE ponSelFontSize STORED false DESIGNABLE false)
-    Q_PROPERTY(bool coloreaAlEscribir READ coloreaAlEscribir WRITE coloreaAlEscribir)
-    Q_PROPERTY(bool numerosDeLinea READ numerosDeLinea WRITE numerosDeLinea)
-    Q_PROPERTY(bool resaltaLinea READ resaltaLinea WRITE resaltaLinea)
-    Q_PROPERTY(bool resaltaParejas READ resaltaParejas WRITE resaltaParejas)
-    Q_PROPERTY(bool permiteZoom READ permiteZoom WRITE permiteZoom)
-    Q_PROPERTY(bool deshacePorPalabras READ deshacePorPalabras WRITE deshacePorPalabras)
-    Q_PROPERTY(bool sangraSeleccion READ sangraSeleccion WRITE sangraSeleccion)
-    Q_PROPERTY(bool teclasDePalabra READ teclasDePalabra WRITE teclasDePalabra)
-    Q_PROPERTY(bool barraDeBusqueda READ barraDeBusqueda WRITE barraDeBusqueda)
-    Q_PROPERTY(bool completa READ completa WRITE completa)
-    Q_PROPERTY(bool pliega READ pliega WRITE pliega)
+        bool LeftBorderVisible READ LeftBorderVisible WRITE ponLeftBorderVisible NOTIFY opcionesCambiadas)
+    Q_PROPERTY(int MargenIzquierdo READ MargenIzquierdo WRITE ponMargenIzquierdo NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool HideSelection READ HideSelection WRITE ponHideSelection NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool LenguajeSensible READ LenguajeSensible WRITE ponLenguajeSensible NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool AutoCorreccion READ AutoCorreccion WRITE ponAutoCorreccion NOTIFY opcionesCambiadas)
+    Q_PROPERTY(int EspaciosXTAB READ EspaciosXTAB WRITE ponEspaciosXTAB NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool AutoTAB READ AutoTAB WRITE ponAutoTAB NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool MarcarErrores READ MarcarErrores WRITE ponMarcarErrores NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool MuestraMensajesDeError READ MuestraMensajesDeError WRITE ponMuestraMensajesDeError NOTIFY
+                   opcionesCambiadas)
+    Q_PROPERTY(bool Colorear READ Colorear WRITE ponColorear NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QString NomLenguaje READ NomLenguaje WRITE ponNomLenguaje NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool AutoNumero READ AutoNumero WRITE ponAutoNumero NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorPR READ ColorPRQt WRITE ponColorPRQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(
+        QColor ColorOperadores READ ColorOperadoresQt WRITE ponColorOperadoresQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(
+        QColor ColorComentarios READ ColorComentariosQt WRITE ponColorComentariosQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorEtiquetas READ ColorEtiquetasQt WRITE ponColorEtiquetasQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorNumeros READ ColorNumerosQt WRITE ponColorNumerosQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorError READ ColorErrorQt WRITE ponColorErrorQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorCadena READ ColorCadenaQt WRITE ponColorCadenaQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorCaracter READ ColorCaracterQt WRITE ponColorCaracterQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QColor ColorFechas READ ColorFechasQt WRITE ponColorFechasQt NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QFont Font READ Font WRITE ponFont NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QString ContenidoG READ ContenidoG WRITE ponContenidoG NOTIFY opcionesCambiadas)
+    Q_PROPERTY(QString CodigoPrueba READ CodigoPrueba WRITE ponCodigoPrueba NOTIFY opcionesCambiadas)
+    Q_PROPERTY(bool TextoModificado READ TextoModificado WRITE ponTextoModificado NOTIFY modificacionCambiada
+                   STORED false DESIGNABLE false)
+    Q_PROPERTY(QString Text READ Text WRITE ponText NOTIFY textoCambiado STORED false DESIGNABLE false)
+    Q_PROPERTY(
+        QString SelText READ SelText WRITE ponSelText NOTIFY seleccionCambiada STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelStart READ inicioSeleccion WRITE ponSelStart NOTIFY seleccionCambiada
+                   STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelLength READ longitudSeleccion WRITE ponSelLength NOTIFY seleccionCambiada
+                   STORED false DESIGNABLE false)
+    Q_PROPERTY(QString SelFontName READ SelFontName WRITE ponSelFontName NOTIFY seleccionCambiada
+                   STORED false DESIGNABLE false)
+    Q_PROPERTY(int SelFontSize READ SelFontSize WRITE ponSelFontSize NOTIFY seleccionCambiada
+                   STORED false DESIGNABLE false)
+    Q_PROPERTY(bool coloreaAlEscribir READ coloreaAlEscribir WRITE coloreaAlEscribir NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool numerosDeLinea READ numerosDeLinea WRITE numerosDeLinea NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool resaltaLinea READ resaltaLinea WRITE resaltaLinea NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool resaltaParejas READ resaltaParejas WRITE resaltaParejas NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool permiteZoom READ permiteZoom WRITE permiteZoom NOTIFY ayudasCambiadas)
+    Q_PROPERTY(
+        bool deshacePorPalabras READ deshacePorPalabras WRITE deshacePorPalabras NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool sangraSeleccion READ sangraSeleccion WRITE sangraSeleccion NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool teclasDePalabra READ teclasDePalabra WRITE teclasDePalabra NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool barraDeBusqueda READ barraDeBusqueda WRITE barraDeBusqueda NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool completa READ completa WRITE completa NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool pliega READ pliega WRITE pliega NOTIFY ayudasCambiadas)
+    Q_PROPERTY(bool soloLectura READ soloLectura WRITE soloLectura NOTIFY soloLecturaCambiada)
+    Q_PROPERTY(int aumento READ aumento WRITE aumento NOTIFY aumentoCambiado STORED false DESIGNABLE false)
 
 public:
     /// Con unos servicios propios.
@@ -220,20 +235,50 @@ public:
 
     /// @}
 
+    /// @name Para un programa
+    /// @{
+
+    /// El usuario puede moverse por el texto y copiarlo, y no cambiarlo; el programa, sí.
+    bool soloLectura() const;
+    void soloLectura(bool valor);
+    /// Tamaño a que se ve el texto, en tanto por ciento del de su fuente: de 30 a 500.
+    int aumento() const;
+    void aumento(int porcentaje);
+    /// Lo que está mal en el texto, en lugar de lo que se puso antes: un subrayado ondulado con sus palabras
+    /// en una ayuda, y una marca en el borde izquierdo. Los rangos cuentan las unidades del texto, como los
+    /// que da `analiza(lenguaje, control().Text())`. Se mueven con el texto, y se van con sus caracteres.
+    void ponDiagnosticos(const std::vector<norvik::Diagnostico>& diagnosticos);
+    /// Carga el lenguaje de una especificación, o el de un fichero con una especificación o con un módulo de
+    /// carga («.bas»), en lugar del que hay, y colorea el texto con él. Da lo que está mal en ella; con
+    /// errores el lenguaje anterior se queda. Un fichero que no se puede leer, o una especificación que no
+    /// cabe en el control, es un `fallo`, y lo que se da entonces no tiene lenguaje.
+    Q_INVOKABLE norvik::Compilacion cargaLenguaje(const QString& especificacion);
+    Q_INVOKABLE norvik::Compilacion cargaLenguajeDe(const QString& fichero);
+
+    /// @}
+
     /// El texto que se analiza sin enseñarlo.
     QString TextoInvisible() const { return aQString(control_.GetTextoInvisible()); }
 
     QSize sizeHint() const override { return {480, 320}; }
 
-public slots: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
     /// Olvida el lenguaje entero (`Norvik::OlvidaLenguaje`).
     void OlvidaLenguaje() {
         protege([this] { control_.OlvidaLenguaje(); });
     }
     /// Otro texto invisible.
-    void SetTextoInvisible(const QString& texto) { control_.SetTextoInvisible(vistaDe(texto)); }
+    void SetTextoInvisible(const QString& texto) {
+        protege([&] { control_.SetTextoInvisible(vistaDe(texto)); });
+    }
+    /// Selecciona un rango del texto, lo trae a la vista y toma el foco.
+    void irA(const norvik::Rango& rango);
+    /// El texto se ve un poco mayor, menor o como es su fuente.
+    void amplia();
+    void reduce();
+    void tamanoNormal() { aumento(100); }
 
-signals:
+Q_SIGNALS:
     /// @name Señales
     /// Las explica `EventosControl`.
     /// @{
@@ -247,6 +292,19 @@ signals:
     void MouseMove(qint16& Button, qint16& Shift, float& x, float& y);
     void MouseUp(qint16& Button, qint16& Shift, float& x, float& y);
     void SelChange();
+    void textoCambiado();
+    /// @}
+
+    /// @name Avisos de las propiedades
+    /// De una o varias de las que se guardan (`propiedadCambiada` dice cuál), de las ayudas, de la selección
+    /// y su fuente, y de las que nombran. Las que no son del programa se avisan al acabar lo que las cambió.
+    /// @{
+    void opcionesCambiadas();
+    void ayudasCambiadas();
+    void seleccionCambiada();
+    void modificacionCambiada();
+    void soloLecturaCambiada();
+    void aumentoCambiado();
     /// @}
 
     /// Una propiedad que se guarda tiene otro valor.
@@ -263,6 +321,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
+    struct EstadoDelTexto;
     struct Piezas;
 
     ControlNorvik(SistemaQt* compartido, QWidget* padre);
@@ -273,7 +332,8 @@ private:
     int longitudSeleccion() const;
     static QColor colorQt(std::int32_t color) { return color == sinColor ? QColor() : aQColor(color); }
     static QString conSaltos(const QString& texto);
-    void cambioDePropiedad(std::u16string_view nombre) override { emit propiedadCambiada(aQString(nombre)); }
+    void cambioDePropiedad(std::u16string_view nombre) override;
+    void opcionesRestauradas() override { Q_EMIT opcionesCambiadas(); }
     void ponAyuda(bool Ayudas::*ayuda, bool encendida);
     void otrasAyudas() override;
     void cambioElTexto(const CambioDeTexto& cambio) override;
@@ -292,6 +352,11 @@ private:
     void conectaEventos();
     void conectaElementos();
     void cuentaFallo(const std::u16string& texto);
+    void alDia();
+    EstadoDelTexto estado() const;
+    void avisaEstado();
+    void tomaFuente();
+    Compilacion carga(const std::function<Compilacion()>& orden);
     std::array<QWidget*, 3> observados();
     void entraEnTabulador(Qt::FocusReason razon);
     bool atiendeTabulador(const QKeyEvent& tecla);

@@ -17,6 +17,20 @@ const QColor rojo(200, 36, 36);
 const QColor granate(150, 20, 50);
 const QColor verde(30, 140, 60);
 const QColor ambar(240, 180, 20);
+const QColor naranja(190, 110, 0);
+const QColor azul(40, 100, 190);
+
+/// What is done to a painter while it lives is undone.
+class PintorGuardado {
+public:
+    explicit PintorGuardado(QPainter& pintor) : pintor_(pintor) { pintor_.save(); }
+    PintorGuardado(const PintorGuardado&) = delete;
+    PintorGuardado& operator=(const PintorGuardado&) = delete;
+    ~PintorGuardado() { pintor_.restore(); }
+
+private:
+    QPainter& pintor_;
+};
 
 void dibujaError(QPainter& pintor) {
     pintor.setBrush(rojo);
@@ -43,7 +57,48 @@ void dibujaFlujo(QPainter& pintor) {
     pintor.drawPolygon(QPolygonF({{1.5, 5.5}, {8, 5.5}, {8, 2}, {14.5, 8}, {8, 14}, {8, 10.5}, {1.5, 10.5}}));
 }
 
+void dibujaAviso(QPainter& pintor) {
+    pintor.setBrush(ambar);
+    pintor.setPen(QPen(naranja, 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    pintor.drawPolygon(QPolygonF({{8, 1.8}, {14.8, 14}, {1.2, 14}}));
+    pintor.setPen(QPen(Qt::black, 1.6, Qt::SolidLine, Qt::RoundCap));
+    pintor.drawLine(QPointF(8, 6.2), QPointF(8, 9.8));
+    pintor.drawPoint(QPointF(8, 12));
+}
+
+void dibujaNota(QPainter& pintor) {
+    pintor.setBrush(azul);
+    pintor.drawEllipse(QPointF(8, 8), 6.5, 6.5);
+    pintor.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap));
+    pintor.drawPoint(QPointF(8, 4.8));
+    pintor.drawLine(QPointF(8, 7.4), QPointF(8, 11.4));
+}
+
 } // namespace
+
+Signo::Dibujo Signo::dibujoDe(Gravedad gravedad) {
+    switch (gravedad) {
+    case Gravedad::Error:
+        return Dibujo::Error;
+    case Gravedad::Aviso:
+        return Dibujo::Aviso;
+    case Gravedad::Nota:
+        return Dibujo::Nota;
+    }
+    return Dibujo::Error;
+}
+
+QColor Signo::colorDe(Gravedad gravedad) {
+    switch (gravedad) {
+    case Gravedad::Error:
+        return rojo;
+    case Gravedad::Aviso:
+        return naranja;
+    case Gravedad::Nota:
+        return azul;
+    }
+    return rojo;
+}
 
 Signo::Signo(Dibujo dibujo, QWidget* padre) : QWidget(padre), dibujo_(dibujo) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -51,11 +106,17 @@ Signo::Signo(Dibujo dibujo, QWidget* padre) : QWidget(padre), dibujo_(dibujo) {
 
 void Signo::paintEvent(QPaintEvent* /*evento*/) {
     QPainter pintor(this);
+    pinta(pintor, dibujo_, rect());
+}
+
+void Signo::pinta(QPainter& pintor, Dibujo dibujo, const QRect& sitio) {
+    const PintorGuardado guardado(pintor);
     pintor.setRenderHint(QPainter::Antialiasing);
-    const double escala = static_cast<double>(std::min(width(), height())) / lado;
+    const double escala = static_cast<double>(std::min(sitio.width(), sitio.height())) / lado;
+    pintor.translate(sitio.topLeft());
     pintor.scale(escala, escala);
     pintor.setPen(Qt::NoPen);
-    switch (dibujo_) {
+    switch (dibujo) {
     case Dibujo::Error:
         return dibujaError(pintor);
     case Dibujo::Stop:
@@ -64,6 +125,10 @@ void Signo::paintEvent(QPaintEvent* /*evento*/) {
         return dibujaPlay(pintor);
     case Dibujo::FlujoActual:
         return dibujaFlujo(pintor);
+    case Dibujo::Aviso:
+        return dibujaAviso(pintor);
+    case Dibujo::Nota:
+        return dibujaNota(pintor);
     }
 }
 

@@ -360,7 +360,7 @@ TEST_F(ControlNorvikTest, ElClickDeLaSuperficieEsDelBotonIzquierdoAlSoltarlo) {
 
 TEST_F(ControlNorvikTest, TodasLasOpcionesSonPropiedades) {
     const QMetaObject& meta = ControlNorvik::staticMetaObject;
-    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 43);
+    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 45);
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty p = meta.property(i);
         const QVariant valor = p.read(&norvik);

@@ -45,7 +45,17 @@ QWidget& CajaTextoQt::ventana() {
 
 void CajaTextoQt::ponFuente(const Fuente& fuente) {
     CajaTexto::ponFuente(fuente);
-    const QFont letra = aQFont(fuente);
+    ponLetra();
+}
+
+void CajaTextoQt::ponAumento(double aumento) {
+    aumento_ = aumento;
+    ponLetra();
+}
+
+void CajaTextoQt::ponLetra() {
+    QFont letra = aQFont(fuente());
+    letra.setPointSizeF(letra.pointSizeF() * aumento_);
     vista_->setFont(letra);
     constexpr int espaciosPorTabulacion = 4;
     vista_->setTabStopDistance(QFontMetricsF(letra).horizontalAdvance(u' ') * espaciosPorTabulacion);
@@ -54,6 +64,16 @@ void CajaTextoQt::ponFuente(const Fuente& fuente) {
 
 void CajaTextoQt::ponOcultaSeleccion(bool oculta) {
     CajaTexto::ponOcultaSeleccion(oculta);
+    pideAlDia();
+}
+
+void CajaTextoQt::ponSoloLectura(bool soloLectura) {
+    CajaTexto::ponSoloLectura(soloLectura);
+    vista_->ponSoloLectura(soloLectura);
+}
+
+void CajaTextoQt::ponModificado(bool modificado) {
+    CajaTexto::ponModificado(modificado);
     pideAlDia();
 }
 
@@ -91,12 +111,20 @@ void CajaTextoQt::desbloqueaDibujo() {
 /// The editor is brought up to date before it is next drawn: at the end of the event being served, or of the
 /// call that changed the box.
 void CajaTextoQt::pideAlDia() {
+    hayNovedad_ = true;
     if (alDiaPedido_) return;
     sinFallos([this] { // else at the next event
         QMetaObject::invokeMethod(
-            &contexto_, [this] { protege([this] { ponAlDia(); }); }, Qt::QueuedConnection);
+            &contexto_, [this] { acaba(); }, Qt::QueuedConnection);
         alDiaPedido_ = true;
     });
+}
+
+/// Whoever hears that the editor is up to date may delete the box.
+void CajaTextoQt::acaba() {
+    protege([this] { ponAlDia(); });
+    if (bloqueos_ > 0 || vistaPorRehacer_ || !std::exchange(hayNovedad_, false)) return;
+    protege([this] { emit noticias_.alDia(); });
 }
 
 void CajaTextoQt::ponAlDia() {
@@ -119,6 +147,7 @@ void CajaTextoQt::alSustituir(const CambioDeTexto& s) {
         vistaAtrasada_ = true;
     }
     ensucia({s.inicio, s.inicio + s.puestos});
+    sinFallos([&] { emit noticias_.sustituido(s); });
 }
 
 void CajaTextoQt::alPintar(std::int32_t inicio, std::int32_t longitud) {
@@ -146,6 +175,34 @@ CajaTextoQt::Tramo CajaTextoQt::seleccionModelo() const {
 CajaTextoQt::Tramo CajaTextoQt::seleccionVista() const {
     const QTextCursor cursor = vista_->textCursor();
     return {espejo_.enTexto(cursor.selectionStart()), espejo_.enTexto(cursor.selectionEnd())};
+}
+
+CajaTextoQt::Tramo CajaTextoQt::tramoVisto() const {
+    const auto vistas = vista_->lineasVistas();
+    if (vistas.empty()) return {};
+    const std::int32_t siguiente = inicioDeLinea(vistas.back().numero + 1);
+    return {inicioDeLinea(vistas.front().numero),
+            siguiente < 0 ? static_cast<std::int32_t>(texto().size()) : siguiente - 1};
+}
+
+QTextCursor CajaTextoQt::cursorDe(const Tramo& tramo) const {
+    QTextCursor cursor(vista_->document());
+    cursor.setPosition(espejo_.enDocumento(tramo.inicio));
+    cursor.setPosition(espejo_.enDocumento(tramo.fin), QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+std::optional<std::int32_t> CajaTextoQt::caracterEn(const QPoint& punto) const {
+    const auto posicion = vista_->caracterEn(punto);
+    return posicion ? std::optional(espejo_.enTexto(*posicion)) : std::nullopt;
+}
+
+void CajaTextoQt::muestra(std::int32_t inicio, std::int32_t longitud) {
+    const auto viva = testigo();
+    selecciona(inicio, longitud);
+    if (viva.expired()) return;
+    ponAlDia();
+    vista_->acerca(espejo_.enDocumento(inicioSeleccion()));
 }
 
 void CajaTextoQt::ponSeleccionEnVista() {
@@ -218,7 +275,7 @@ QTextCharFormat CajaTextoQt::formato(const Estilo& estilo) const {
         f.setForeground(legible(aQColor(estilo.color), vista_->palette().color(QPalette::Base)));
     if (estilo.letra != 0) {
         f.setFontFamilies({aQString(letra(estilo.letra).nombre)});
-        f.setFontPointSize(aPuntos(letra(estilo.letra).tamano));
+        f.setFontPointSize(aPuntos(letra(estilo.letra).tamano) * aumento_);
     }
     return f;
 }
@@ -295,6 +352,7 @@ private:
 } // namespace
 
 void CajaTextoQt::pega(const QString& texto) {
+    if (soloLectura()) return;
     const UnPaso unPaso(*this, testigo());
     if (eventos.vaAPegar) eventos.vaAPegar();
     reemplazaSeleccion(vistaDe(texto));

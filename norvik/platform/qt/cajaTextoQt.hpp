@@ -5,8 +5,10 @@
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/qt/espejoDocumento.hpp"
 #include "norvik/platform/qt/fallos.hpp"
+#include "norvik/platform/qt/noticiasDeCaja.hpp"
 
 #include <QObject>
+#include <QTextCursor>
 #include <QTextLayout>
 #include <QWidget>
 
@@ -36,6 +38,8 @@ public:
 
     void ponFuente(const Fuente& fuente) override;
     void ponOcultaSeleccion(bool oculta) override;
+    void ponSoloLectura(bool soloLectura) override;
+    void ponModificado(bool modificado) override;
     std::int32_t primeraLineaVisible() const override;
     std::int32_t altoDeLinea() const override;
     void ponIzquierda(std::int32_t twips) override;
@@ -44,6 +48,29 @@ public:
     void desbloqueaDibujo() override;
 
     QWidget& ventana();
+
+    // For those who show something over the text or beside it.
+    /// Characters [inicio, fin).
+    struct Tramo {
+        std::int32_t inicio = 0;
+        std::int32_t fin = 0;
+        bool operator==(const Tramo&) const = default;
+    };
+    VistaTexto& vista() const { return *vista_; }
+    const NoticiasDeCaja& noticias() const { return noticias_; }
+    /// `noticias().alDia()` will be told once what is being done is over.
+    void pideAlDia();
+    /// The characters of the lines that are seen, wholly or in part.
+    Tramo tramoVisto() const;
+    /// A tramo as the editor has it, when it is up to date.
+    QTextCursor cursorDe(const Tramo& tramo) const;
+    /// The character at a point of the editor's view.
+    std::optional<std::int32_t> caracterEn(const QPoint& punto) const;
+    /// Selects characters and scrolls to where they begin.
+    void muestra(std::int32_t inicio, std::int32_t longitud);
+    /// Shows the text so many times as large as its font is.
+    void ponAumento(double aumento);
+
     /// Receives the text of a failure that was raised while an event of the user was served.
     std::function<void(const std::u16string& texto)> alFallar;
 
@@ -55,7 +82,7 @@ public:
         const auto viva = testigo();
         protege([this] { ponAlDia(); });
         protege(accion);
-        if (!viva.expired()) protege([this] { ponAlDia(); });
+        if (!viva.expired()) acaba();
     }
     template <typename Accion>
     void protege(const Accion& accion) {
@@ -83,18 +110,13 @@ protected:
     void alPintar(std::int32_t inicio, std::int32_t longitud) override;
 
 private:
-    struct Tramo {
-        std::int32_t inicio = 0;
-        std::int32_t fin = 0;
-        bool operator==(const Tramo&) const = default;
-    };
-
     struct DespideVista {
         void operator()(VistaTexto* vista) const;
     };
 
     void conecta();
-    void pideAlDia();
+    void acaba();
+    void ponLetra();
     void recogeEdicion();
     void tomaEdicion();
     void rehaceVista();
@@ -111,18 +133,21 @@ private:
     void tomaSeleccion();
 
     const std::unique_ptr<VistaTexto, DespideVista> vista_;
+    NoticiasDeCaja noticias_;
     QObject contexto_; ///< of what the editor is to call; it goes before the editor does
     EspejoDocumento espejo_;
     Tramo puesta_;               ///< selection that the editor was last given, or that was last taken from it
     Tramo sincronizada_;         ///< the model's selection then
     std::optional<Tramo> sucio_; ///< characters whose style the editor may not show
     int bloqueos_ = 0;
+    double aumento_ = 1;
     bool copiando_ = false;          ///< the editor changes because of the model
     bool deLaVista_ = false;         ///< the model's next change is what the editor has already
     bool vistaAtrasada_ = false;     ///< the editor's selection is not the model's
     bool seleccionALaVista_ = false; ///< the editor has the focus
     bool vistaPorRehacer_ = false;   ///< the editor has an edit that could not be done to the model
     bool alDiaPedido_ = false;
+    bool hayNovedad_ = false; ///< since it was last told that the editor is up to date
     bool falloPendiente_ = false;
 };
 

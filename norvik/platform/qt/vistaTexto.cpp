@@ -12,6 +12,9 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QMimeData>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace norvik {
 
@@ -30,6 +33,63 @@ void VistaTexto::configura() {
     document()->setDocumentMargin(0);   // the first line starts where the left border does
     setViewportMargins(margenIzquierdo, 0, 0, 0);
     setBackgroundRole(QPalette::Base);
+}
+
+// ---- what is seen
+
+/// Qt would take the keys away with the right to edit, and the caret with them.
+void VistaTexto::ponSoloLectura(bool soloLectura) {
+    setReadOnly(soloLectura);
+    if (soloLectura) setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+std::vector<VistaTexto::Linea> VistaTexto::lineasVistas() const {
+    std::vector<Linea> vistas;
+    QTextBlock bloque = firstVisibleBlock();
+    double arriba = blockBoundingGeometry(bloque).translated(contentOffset()).top();
+    for (; bloque.isValid() && (vistas.empty() || arriba < viewport()->height()); bloque = bloque.next()) {
+        if (!bloque.isVisible()) continue;
+        const double alto = blockBoundingRect(bloque).height();
+        vistas.push_back({bloque.blockNumber(), qRound(arriba), qRound(alto)});
+        arriba += alto;
+    }
+    return vistas;
+}
+
+std::optional<int> VistaTexto::lineaEn(int altura) const {
+    for (const Linea& l : lineasVistas())
+        if (altura >= l.arriba && altura < l.arriba + l.alto) return l.numero;
+    return std::nullopt;
+}
+
+std::optional<int> VistaTexto::caracterEn(const QPoint& punto) const {
+    const QTextCursor cursor = cursorForPosition(punto); // the nearest gap between two characters
+    const QRect hueco = cursorRect(cursor);
+    const QTextBlock bloque = cursor.block();
+    const int posicion = punto.x() < hueco.x() ? cursor.position() - 1 : cursor.position();
+    const bool enLinea = punto.y() >= hueco.top() && punto.y() <= hueco.bottom();
+    const bool enBloque = posicion >= bloque.position() && posicion < bloque.position() + bloque.length() - 1;
+    return enLinea && enBloque ? std::optional(posicion) : std::nullopt;
+}
+
+void VistaTexto::acerca(int posicion) {
+    QTextCursor cursor(document());
+    cursor.setPosition(posicion);
+    const QRect sitio = cursorRect(cursor);
+    const QRect vista = viewport()->rect();
+    if (sitio.top() < vista.top() || sitio.bottom() > vista.bottom()) {
+        const int lineas = vista.height() / std::max(fontMetrics().lineSpacing(), 1);
+        verticalScrollBar()->setValue(cursor.block().firstLineNumber() - lineas / 2);
+    }
+    QScrollBar& barra = *horizontalScrollBar();
+    if (sitio.left() < vista.left()) barra.setValue(barra.value() + sitio.left());
+    if (sitio.right() > vista.right()) barra.setValue(barra.value() + sitio.right() - vista.right());
+}
+
+/// Qt's editor changes its size by the wheel where nothing can be edited.
+void VistaTexto::wheelEvent(QWheelEvent* evento) {
+    QAbstractScrollArea::wheelEvent(evento);
+    updateMicroFocus();
 }
 
 /// Shortcuts with the control key belong to the host's menus first.
@@ -104,7 +164,7 @@ void VistaTexto::escribe(QKeyEvent& evento) {
     const bool escribeTexto = evento.key() != Qt::Key_Delete && !evento.text().isEmpty();
     const QString texto = escribeTexto ? filtra(evento.text()) : evento.text();
     if (!hayCaja()) return;
-    if (texto.isEmpty() && escribeTexto) return; // suppressed
+    if (escribeTexto && (texto.isEmpty() || isReadOnly())) return; // suppressed
     if (texto != evento.text()) return caja_->reemplazaSeleccion(vistaDe(texto));
     caja_->ponAlDia();
     const bool saltoBlando = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
@@ -143,6 +203,7 @@ void VistaTexto::keyReleaseEvent(QKeyEvent* evento) {
 
 /// Composed characters are typed characters.
 void VistaTexto::inputMethodEvent(QInputMethodEvent* evento) {
+    if (isReadOnly()) return evento->ignore();
     atiende([&] {
         QInputMethodEvent filtrado(evento->preeditString(), evento->attributes());
         filtrado.setCommitString(filtra(evento->commitString()), evento->replacementStart(),
@@ -205,14 +266,15 @@ void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
 
 void VistaTexto::muestraMenu(const QPoint& lugar) {
     const bool hay = caja_->longitudSeleccion() > 0;
+    const bool edita = !isReadOnly();
     QMenu menu(this);
     const auto pon = [&](const QString& nombre, bool activa, auto accion) {
         menu.addAction(nombre, this, accion)->setEnabled(activa);
     };
-    pon(QStringLiteral("Cor&tar"), hay, [this] { teclea(Qt::Key_Delete, Qt::ShiftModifier); });
+    pon(QStringLiteral("Cor&tar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::ShiftModifier); });
     pon(QStringLiteral("&Copiar"), hay, [this] { copy(); });
-    pon(QStringLiteral("&Pegar"), canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
-    pon(QStringLiteral("&Eliminar"), hay, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
+    pon(QStringLiteral("&Pegar"), edita && canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
+    pon(QStringLiteral("&Eliminar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
     menu.addSeparator();
     pon(QStringLiteral("&Seleccionar todo"), !document()->isEmpty(), [this] { selectAll(); });
     menu.exec(lugar);
@@ -246,7 +308,7 @@ void VistaTexto::focusOutEvent(QFocusEvent* evento) {
 // ---- paste and drop: plain text only
 
 bool VistaTexto::canInsertFromMimeData(const QMimeData* datos) const {
-    return datos->hasText();
+    return datos->hasText() && !isReadOnly();
 }
 
 void VistaTexto::insertFromMimeData(const QMimeData* datos) {

@@ -9,7 +9,9 @@
 #include <QTextBlock>
 
 #include <cstdint>
+#include <optional>
 #include <set>
+#include <vector>
 
 namespace norvik {
 
@@ -28,7 +30,24 @@ public:
     /// The box goes.
     void olvidaCaja() { caja_ = nullptr; }
 
+    /// The person may move about and copy, and nothing else.
+    void ponSoloLectura(bool soloLectura);
+
     int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
+    /// A line that is seen, wholly or in part: its number from 0, and where it is in the view.
+    struct Linea {
+        int numero = 0;
+        int arriba = 0;
+        int alto = 0;
+    };
+    /// From the first one down.
+    std::vector<Linea> lineasVistas() const;
+    /// The line at a height of the view.
+    std::optional<int> lineaEn(int altura) const;
+    /// Position in the document of the character at a point of the view.
+    std::optional<int> caracterEn(const QPoint& punto) const;
+    /// Scrolls to a position of the document that is not seen.
+    void acerca(int posicion);
 
 protected:
     bool event(QEvent* evento) override;
@@ -44,6 +63,7 @@ protected:
     void focusInEvent(QFocusEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     bool canInsertFromMimeData(const QMimeData* datos) const override;
     void insertFromMimeData(const QMimeData* datos) override;

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+
+#include "norvik/widget/margenDeLineas.hpp"
+
+#include "norvik/platform/qt/ayudaLlana.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/medidas.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
+#include "norvik/widget/diagnosticosVistos.hpp"
+#include "norvik/widget/signo.hpp"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace norvik {
+
+namespace {
+
+constexpr int margen = 4;        ///< beside the numbers
+constexpr int ladoDeSigno = 240; ///< twips, as those that the control itself puts there
+constexpr int izquierdaDeSigno = 30;
+constexpr int menosCifras = 2; ///< so that a short text does not make the border move
+
+int cifras(int numero) {
+    return static_cast<int>(QString::number(numero).size());
+}
+
+} // namespace
+
+MargenDeLineas::MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const DiagnosticosVistos& diagnosticos)
+    : QWidget(&borde), caja_(caja), diagnosticos_(diagnosticos) {
+    setObjectName(QStringLiteral("margenDeLineas"));
+    setAccessibleName(QStringLiteral("Líneas"));
+    setGeometry(borde.rect());
+    borde.installEventFilter(this);
+    connect(&caja_.vista(), &QPlainTextEdit::updateRequest, this, [this](const QRect& rect, int dy) {
+        dy == 0 ? update(0, rect.y(), width(), rect.height()) : update();
+    });
+    connect(&diagnosticos, &DiagnosticosVistos::otros, this, &MargenDeLineas::muestraDiagnosticos);
+}
+
+void MargenDeLineas::ponNumeros(bool visibles) {
+    numeros_ = visibles;
+    update();
+}
+
+int MargenDeLineas::anchoAdicional() const {
+    if (!numeros_) return 0;
+    const int cuantas = std::max(cifras(caja_.numeroDeLineas()), menosCifras);
+    return QFontMetrics(caja_.vista().font()).horizontalAdvance(u'9') * cuantas + 2 * margen;
+}
+
+bool MargenDeLineas::sigue() {
+    const int actual = caja_.lineaDeCaracter(caja_.inicioSeleccion());
+    if (std::exchange(actual_, actual) != actual) update();
+    const int ancho = anchoAdicional();
+    return std::exchange(ancho_, ancho) != ancho;
+}
+
+void MargenDeLineas::muestraDiagnosticos() {
+    update();
+    const QString resumen = diagnosticos_.resumen();
+    setAccessibleName(resumen.isEmpty() ? QStringLiteral("Líneas") : resumen);
+    if (resumen.isEmpty()) return;
+    QAccessibleEvent alerta(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alerta);
+}
+
+bool MargenDeLineas::eventFilter(QObject* borde, QEvent* evento) {
+    if (evento->type() == QEvent::Resize) resize(static_cast<QWidget*>(borde)->size());
+    return QWidget::eventFilter(borde, evento);
+}
+
+bool MargenDeLineas::event(QEvent* evento) {
+    if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
+    const auto& ayuda = static_cast<const QHelpEvent&>(*evento);
+    const auto linea = caja_.vista().lineaEn(ayuda.pos().y());
+    const QString palabras = linea ? diagnosticos_.palabrasDeLinea(*linea) : QString();
+    QToolTip::showText(ayuda.globalPos(), ayudaLlana(palabras), this);
+    return true;
+}
+
+void MargenDeLineas::paintEvent(QPaintEvent* /*evento*/) {
+    QPainter pintor(this);
+    pintor.setClipRect(0, 0, width(), caja_.vista().viewport()->height());
+    if (numeros_) pintaNumeros(pintor);
+    pintaDiagnosticos(pintor);
+}
+
+/// The caret's line stands out.
+void MargenDeLineas::pintaNumeros(QPainter& pintor) const {
+    const QColor destacado = palette().color(QPalette::WindowText);
+    QColor corriente = destacado;
+    constexpr int tenue = 165;
+    corriente.setAlpha(tenue);
+    pintor.setFont(caja_.vista().font());
+    for (const VistaTexto::Linea& l : caja_.vista().lineasVistas()) {
+        pintor.setPen(l.numero == actual_ ? destacado : corriente);
+        pintor.drawText(QRect(0, l.arriba, width() - margen, l.alto), Qt::AlignRight | Qt::AlignTop,
+                        QString::number(l.numero + 1));
+    }
+}
+
+void MargenDeLineas::pintaDiagnosticos(QPainter& pintor) const {
+    if (!diagnosticos_.hay()) return;
+    const auto vistas = caja_.vista().lineasVistas();
+    if (vistas.empty()) return;
+    const auto malas = diagnosticos_.enLineas(vistas.front().numero, vistas.back().numero);
+    const TwipsPorPixel pixel = twipsPorPixel(*this);
+    const int lado = aPixeles(ladoDeSigno, pixel.y);
+    for (const auto& mala : malas) {
+        const auto linea = std::ranges::find(vistas, mala.linea, &VistaTexto::Linea::numero);
+        if (linea == vistas.end()) continue; // folded
+        const int suyo = std::min(lado, linea->alto);
+        Signo::pinta(
+            pintor, Signo::dibujoDe(mala.gravedad),
+            {aPixeles(izquierdaDeSigno, pixel.x), linea->arriba + (linea->alto - suyo) / 2, suyo, suyo});
+    }
+}
+
+} // namespace norvik

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+namespace norvik {
+
+class CajaTextoQt;
+class DiagnosticosVistos;
+
+/// What the left border says of the lines beside it: their numbers, and what is wrong in them. It covers the
+/// border, and moves with the text.
+class MargenDeLineas final : public QWidget {
+public:
+    MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const DiagnosticosVistos& diagnosticos);
+
+    void ponNumeros(bool visibles);
+    /// Pixels that the border needs besides those for its signs.
+    int anchoAdicional() const;
+    /// The text may be another, or its caret. True when that needs a border of another width.
+    bool sigue();
+
+protected:
+    bool event(QEvent* evento) override;
+    bool eventFilter(QObject* borde, QEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    void muestraDiagnosticos();
+    void pintaNumeros(QPainter& pintor) const;
+    void pintaDiagnosticos(QPainter& pintor) const;
+
+    CajaTextoQt& caja_;
+    const DiagnosticosVistos& diagnosticos_;
+    bool numeros_ = false;
+    int ancho_ = 0;   ///< additional, when it was last told
+    int actual_ = -1; ///< the line shown as the caret's
+};
+
+} // namespace norvik

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+
+#include "norvik/widget/resaltesDelCursor.hpp"
+
+#include "norvik/control/parejas.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
+#include "norvik/widget/signo.hpp"
+
+namespace norvik {
+
+namespace {
+
+/// So much of a colour over another one.
+QColor mezcla(const QColor& color, const QColor& fondo, double parte) {
+    const auto componente = [&](int encima, int debajo) {
+        return qRound(encima * parte + debajo * (1 - parte));
+    };
+    return {componente(color.red(), fondo.red()), componente(color.green(), fondo.green()),
+            componente(color.blue(), fondo.blue())};
+}
+
+} // namespace
+
+void ResaltesDelCursor::pon(const Ayudas& ayudas) {
+    const auto fuente = [this](bool encendida, auto miembro) {
+        return encendida ? [this, miembro](std::int32_t, std::int32_t) { return (this->*miembro)(); }
+                         : Resaltes::Fuente();
+    };
+    resaltes_.pon(Resaltes::Capa::Linea, fuente(ayudas.resaltaLinea, &ResaltesDelCursor::linea));
+    resaltes_.pon(Resaltes::Capa::Parejas, fuente(ayudas.resaltaParejas, &ResaltesDelCursor::pareja));
+}
+
+std::vector<Resalte> ResaltesDelCursor::linea() const {
+    constexpr double tenue = 0.07;
+    const QPalette colores = caja_.vista().palette();
+    QTextCharFormat formato;
+    formato.setProperty(QTextFormat::FullWidthSelection, true);
+    formato.setBackground(mezcla(colores.color(QPalette::Text), colores.color(QPalette::Base), tenue));
+    return {{caja_.inicioSeleccion(), caja_.inicioSeleccion(), formato}};
+}
+
+/// One without its other half is shown as an error is.
+std::vector<Resalte> ResaltesDelCursor::pareja() const {
+    const auto juntos = [&](std::int32_t uno, std::int32_t otro) {
+        const std::int32_t color = caja_.colorDe(uno);
+        return color == 0 || caja_.colorDe(otro) == 0 || color == caja_.colorDe(otro);
+    };
+    const auto pareja = parejaEn(caja_.texto(), caja_.inicioSeleccion(), juntos);
+    if (!pareja) return {};
+    constexpr double parte = 0.35;
+    const QPalette colores = caja_.vista().palette();
+    const QColor encima = pareja->otra ? colores.color(QPalette::Highlight) : Signo::colorDe(Gravedad::Error);
+    QTextCharFormat formato;
+    formato.setBackground(mezcla(encima, colores.color(QPalette::Base), parte));
+    std::vector<Resalte> resaltes{{pareja->lugar, pareja->lugar + 1, formato}};
+    if (pareja->otra) resaltes.push_back({*pareja->otra, *pareja->otra + 1, formato});
+    return resaltes;
+}
+
+} // namespace norvik

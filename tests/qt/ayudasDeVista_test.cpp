@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+
+// The aids of editing that are seen: each off, on, and off again.
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/widget/controlNorvik.hpp"
+#include "qt/sistemaDePrueba.hpp"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+using namespace norvik;
+
+namespace {
+
+class AyudasDeVista : public testing::Test {
+protected:
+    AyudasDeVista() {
+        editor.resize(400, 200);
+        editor.show();
+        QApplication::setActiveWindow(&editor);
+        editor.setFocus();
+    }
+    void pulsa(Qt::Key tecla, Qt::KeyboardModifiers teclas = Qt::NoModifier) {
+        QTest::keyClick(&vista, tecla, teclas);
+    }
+    /// What stands over the text: of each its first and last character, or its line with "=".
+    QStringList resaltes() {
+        QCoreApplication::processEvents();
+        QStringList vistos;
+        for (const auto& s : vista.extraSelections()) {
+            vistos << (s.format.boolProperty(QTextFormat::FullWidthSelection)
+                           ? QString("=%1").arg(s.cursor.blockNumber())
+                           : QString("%1-%2").arg(s.cursor.selectionStart()).arg(s.cursor.selectionEnd()));
+        }
+        return vistos;
+    }
+    /// How many pixels of the border are not of its background, beside the signs.
+    int pixelesDeNumeros() {
+        QCoreApplication::processEvents();
+        const QImage imagen = borde.grab().toImage();
+        const QRgb fondo = imagen.pixel(imagen.width() - 1, imagen.height() - 1);
+        int otros = 0;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 20; x < imagen.width(); ++x) otros += imagen.pixel(x, y) != fondo ? 1 : 0;
+        return otros;
+    }
+    void gira(int cuanto, Qt::KeyboardModifiers teclas) {
+        QWheelEvent evento({50, 50}, vista.viewport()->mapToGlobal(QPointF(50, 50)), {}, {0, cuanto}, {},
+                           teclas, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(vista.viewport(), &evento);
+    }
+
+    SistemaDePrueba sistema;
+    ControlNorvik editor{sistema, nullptr};
+    QPlainTextEdit& vista = static_cast<QPlainTextEdit&>(editor.caja().ventana());
+    QWidget& borde = *editor.findChild<QWidget*>("debugBox");
+};
+
+} // namespace
+
+TEST_F(AyudasDeVista, LosNumerosEstanEnElBorde) {
+    const QRect antes = vista.geometry();
+    editor.Text("uno\ndos\ntres");
+    EXPECT_EQ(pixelesDeNumeros(), 0);
+    for (int vez = 0; vez < 2; ++vez) {
+        editor.numerosDeLinea(true);
+        const int dosCifras = vista.x();
+        EXPECT_GT(dosCifras, antes.x());
+        EXPECT_EQ(vista.geometry().right(), antes.right());
+        EXPECT_GT(pixelesDeNumeros(), 20);
+        editor.Text(QString(150, u'\n'));
+        QCoreApplication::processEvents();
+        EXPECT_GT(vista.x(), dosCifras); // three digits
+        editor.SelText("x");
+        editor.Text("");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vista.x(), dosCifras);
+        editor.LeftBorderVisible(false);
+        EXPECT_LT(vista.x(), antes.x());
+        editor.LeftBorderVisible(true);
+        editor.numerosDeLinea(false);
+        EXPECT_EQ(vista.geometry(), antes);
+        EXPECT_EQ(pixelesDeNumeros(), 0);
+    }
+}
+
+TEST_F(AyudasDeVista, LaLineaDelCursor) {
+    editor.Text("uno\ndos\ntres");
+    pulsa(Qt::Key_Down);
+    EXPECT_EQ(resaltes(), QStringList());
+    for (int vez = 0; vez < 2; ++vez) {
+        editor.resaltaLinea(true);
+        EXPECT_EQ(resaltes(), QStringList{"=1"});
+        pulsa(Qt::Key_Down);
+        EXPECT_EQ(resaltes(), QStringList{"=2"});
+        editor.SelStart(0);
+        EXPECT_EQ(resaltes(), QStringList{"=0"});
+        editor.SelStart(5);
+        editor.resaltaLinea(false);
+        EXPECT_EQ(resaltes(), QStringList());
+    }
+}
+
+TEST_F(AyudasDeVista, LaParejaDelCursor) {
+    editor.Text("f(a[1])");
+    editor.SelStart(7);
+    EXPECT_EQ(resaltes(), QStringList());
+    for (int vez = 0; vez < 2; ++vez) {
+        editor.SelStart(7);
+        editor.resaltaParejas(true);
+        EXPECT_EQ(resaltes(), QStringList({"6-7", "1-2"}));
+        pulsa(Qt::Key_Left);
+        EXPECT_EQ(resaltes(), QStringList({"5-6", "3-4"}));
+        pulsa(Qt::Key_Home);
+        EXPECT_EQ(resaltes(), QStringList());
+        editor.resaltaParejas(false);
+        EXPECT_EQ(resaltes(), QStringList());
+    }
+    editor.resaltaParejas(true);
+    editor.Text("(\n");
+    EXPECT_EQ(resaltes(), QStringList{"0-1"}); // alone
+}
+
+/// A bracket in a comment belongs to none outside.
+TEST_F(AyudasDeVista, UnaParejaEsDeUnColor) {
+    editor.resaltaParejas(true);
+    editor.control().SetComentarioLinea(u"'");
+    editor.control().SetOperador(u"\\(", u"abre");
+    editor.control().SetOperador(u"\\)", u"cierra");
+    editor.Colorear(true);
+    editor.Text("( ' )\n)");
+    editor.control().ColoreaTodo();
+    editor.SelStart(1);
+    EXPECT_EQ(resaltes(), QStringList({"0-1", "6-7"}));
+    editor.SelStart(5);
+    EXPECT_EQ(resaltes(), QStringList{"4-5"});
+}
+
+TEST_F(AyudasDeVista, ElZoomCambiaLoQueSeVeYNoLaFuente) {
+    editor.Text("uno");
+    const double normal = vista.font().pointSizeF();
+    QSignalSpy avisos(&editor, &ControlNorvik::aumentoCambiado);
+    gira(120, Qt::ControlModifier);
+    pulsa(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(editor.aumento(), 100);
+    for (int vez = 0; vez < 2; ++vez) {
+        editor.permiteZoom(true);
+        gira(120, Qt::ControlModifier);
+        EXPECT_EQ(editor.aumento(), 110);
+        EXPECT_NEAR(vista.font().pointSizeF(), 1.1 * normal, 0.01);
+        EXPECT_EQ(editor.Font().pointSizeF(), normal);
+        for (int i = 0; i < 8; ++i) gira(15, Qt::ControlModifier); // a finger
+        EXPECT_EQ(editor.aumento(), 120);
+        gira(-240, Qt::ControlModifier);
+        gira(120, Qt::NoModifier);
+        EXPECT_EQ(editor.aumento(), 100);
+        pulsa(Qt::Key_Plus, Qt::ControlModifier);
+        pulsa(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(editor.aumento(), 120);
+        pulsa(Qt::Key_Minus, Qt::ControlModifier);
+        EXPECT_EQ(editor.aumento(), 110);
+        pulsa(Qt::Key_0, Qt::ControlModifier);
+        EXPECT_EQ(editor.aumento(), 100);
+        EXPECT_EQ(editor.Text(), "uno");
+        editor.permiteZoom(false);
+        pulsa(Qt::Key_Plus, Qt::ControlModifier);
+        EXPECT_EQ(editor.aumento(), 100);
+    }
+    editor.aumento(200); // the host's own
+    QCoreApplication::processEvents();
+    EXPECT_GE(avisos.count(), 1);
+    editor.Font(QFont("Monospace", 20));
+    EXPECT_NEAR(vista.font().pointSizeF(), 40, 0.01);
+    for (const auto& [pedido, queda] : {std::pair{5, 30}, {9999, 500}}) {
+        editor.setProperty("aumento", pedido);
+        EXPECT_EQ(editor.aumento(), queda);
+    }
+    QMetaObject::invokeMethod(&editor, "tamanoNormal");
+    EXPECT_EQ(vista.font().pointSizeF(), 20);
+}
+
+/// Where nothing can be edited Qt's own editor would change its size, asked or not.
+TEST_F(AyudasDeVista, DeSoloLecturaNoHaceZoomSinPermiso) {
+    editor.soloLectura(true);
+    const double normal = vista.font().pointSizeF();
+    gira(120, Qt::ControlModifier);
+    EXPECT_EQ(vista.font().pointSizeF(), normal);
+}
+
+/// The window holds some lines, and the highlights that it is given are those of them.
+TEST_F(AyudasDeVista, SoloSeResaltaLoQueSeVe) {
+    editor.Text(QString(5000, u'\n').replace("\n", "abc\n"));
+    std::vector<Diagnostico> todos;
+    for (int i = 0; i < 5000; ++i)
+        todos.push_back({Codigo::TokenInesperado, Gravedad::Error, {{5 * i}, {5 * i + 3}}, {}});
+    editor.ponDiagnosticos(todos);
+    const auto seVen = [&] { return resaltes().size(); };
+    EXPECT_GT(seVen(), 3);
+    EXPECT_LT(seVen(), 40);
+    const QString primero = resaltes().front();
+    editor.irA({{5 * 3000}, {5 * 3000}});
+    EXPECT_NE(resaltes().front(), primero);
+    EXPECT_LT(seVen(), 40);
+    EXPECT_TRUE(resaltes().contains("12000-12003"));
+}
