@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+
+// What other threads find out about the edited text.
+#include "norvik/base/numeros.hpp"
+#include "norvik/control/coloresAlDia.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/widget/controlNorvik.hpp"
+#include "norvik/widget/fondoDeEdicion.hpp"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace norvik;
+
+namespace {
+
+constexpr std::u16string_view mini = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
+                                     u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
+                                     u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
+                                     u"Token fin = \"end\"; Token id = \"[a-z]+\";"
+                                     u"S -> S T | T; T -> num | id | ini S fin;";
+
+std::u16string largo() {
+    std::u16string texto;
+    while (texto.size() <= 2 * ColoresAlDia::maximoAlMomento) texto += u"begin x 12 end\r\n";
+    return texto;
+}
+
+struct Ventana {
+    Ventana() {
+        norvik->control().CargaGramatica(mini);
+        norvik->control().GeneraCompilador();
+        norvik->Colorear(true);
+        norvik->coloreaAlEscribir(true);
+        norvik->pliega(true);
+        norvik->show();
+    }
+    std::int32_t colorEn(std::int32_t posicion) const {
+        for (const TramoDeColor& t : norvik->caja().colores())
+            if (posicion < t.inicio + t.longitud) return t.color;
+        return -1;
+    }
+    void escribe(std::u16string_view texto) { norvik->caja().reemplazaSeleccion(texto); }
+
+    std::unique_ptr<ControlNorvik> norvik = std::make_unique<ControlNorvik>();
+};
+
+constexpr std::int32_t azul = 0x800000;
+constexpr std::int32_t verde = 0x008000;
+
+} // namespace
+
+TEST(FondoDeEdicion, UnTextoLargoSeColoreaAparte) {
+    Ventana v;
+    v.norvik->Text(QString::fromStdU16String(largo()));
+    const std::int32_t ultima = a32(largo().size()) - 16;
+    EXPECT_EQ(v.colorEn(ultima), 0);
+    QTRY_VERIFY(v.colorEn(ultima) == azul);
+    v.norvik->caja().selecciona(0, 0);
+    v.escribe(u"/*"); // never closed
+    QTest::qWait(200);
+    EXPECT_EQ(v.colorEn(ultima + 2), azul);
+    v.norvik->caja().selecciona(a32(largo().size()) + 2, 0);
+    v.escribe(u"*/");
+    QTRY_VERIFY(v.colorEn(ultima + 2) == verde);
+    v.norvik->caja().selecciona(0, 2);
+    v.escribe({});
+    QTRY_VERIFY(v.colorEn(ultima) == azul);
+}
+
+TEST(FondoDeEdicion, ElTextoCambiaMientrasSeLee) {
+    Ventana v;
+    v.norvik->Text(QString::fromStdU16String(largo()));
+    for (int i = 0; i < 20; ++i) {
+        v.escribe(u"y ");
+        QTest::qWait(5);
+    }
+    QTRY_VERIFY(v.colorEn(40) == azul);
+    EXPECT_EQ(v.colorEn(20), 0);
+}
+
+TEST(FondoDeEdicion, OtroLenguajeMientrasSeLee) {
+    Ventana v;
+    v.norvik->Text(QString::fromStdU16String(largo()));
+    QTest::qWait(25);
+    v.norvik->OlvidaLenguaje();
+    v.norvik->ColorComentarios(0x112233);
+    v.norvik->control().CargaGramatica(
+        u"Token c = \"begin[^\\n]*\", TipoToken = TTComentarioLinea; Token d = \"e\"; S -> d;");
+    v.norvik->control().GeneraCompilador();
+    v.escribe(u"begin");
+    QTRY_VERIFY(v.colorEn(8) == 0x112233);
+}
+
+TEST(FondoDeEdicion, ElControlSeVaMientrasSeLee) {
+    for (int espera = 0; espera < 60; espera += 6) {
+        Ventana v;
+        v.norvik->Text(QString::fromStdU16String(largo()));
+        QTest::qWait(espera);
+        v.norvik.reset();
+    }
+    QTest::qWait(50);
+}
+
+TEST(FondoDeEdicion, LasConstruccionesSiguenAlTexto) {
+    Ventana v;
+    FondoDeEdicion fondo(v.norvik->control(), v.norvik->caja());
+    int avisos = 0;
+    fondo.otrosPliegues = [&] { ++avisos; };
+    v.norvik->Text(QStringLiteral("begin\n x\nend\nbegin y\nend"));
+    fondo.otrasAyudas();
+    QTRY_VERIFY(avisos > 0);
+    EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{0, 2}, {3, 4}}));
+    v.escribe(u"\n");
+    fondo.cambioElTexto({0, 0, 2});
+    EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{1, 3}, {4, 5}}));
+    QTRY_VERIFY(avisos > 1);
+    EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{1, 3}, {4, 5}}));
+    v.norvik->pliega(false);
+    fondo.otrasAyudas();
+    EXPECT_TRUE(fondo.pliegues().en(v.norvik->caja()).empty());
+}
