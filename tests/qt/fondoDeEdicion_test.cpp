@@ -115,7 +115,9 @@ TEST(FondoDeEdicion, LasConstruccionesSiguenAlTexto) {
     QTRY_VERIFY(avisos > 0);
     EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{0, 2}, {3, 4}}));
     v.escribe(u"\n");
-    fondo.cambioElTexto({0, 0, 2});
+    CambioDeTexto cambio;
+    cambio.puestos = 2;
+    fondo.cambioElTexto(cambio);
     EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{1, 3}, {4, 5}}));
     QTRY_VERIFY(avisos > 1);
     EXPECT_EQ(fondo.pliegues().en(v.norvik->caja()), (std::vector<Pliegue>{{1, 3}, {4, 5}}));
