@@ -320,10 +320,14 @@ namespace {
 void copiaTabla(const gramatica& de, gramatica& a) {
     a.SetDimensionTablaSLR(de.GetDimensionFilasSLR(), de.GetDimensionColumnasSLR());
     for (std::int16_t fila = 0; fila < de.GetDimensionFilasSLR(); ++fila) {
-        std::int16_t columna = 0;
-        for (const std::int16_t valor : de.GetFilaTablaSLR(fila)) {
-            ++columna;
-            if (valor != 0) a.SetElementoTablaSLR(static_cast<std::int16_t>(fila + 1), columna, valor);
+        const auto guardada = de.GetFilaTablaSLR(fila);
+        for (std::int16_t columna = 0; columna < de.GetDimensionColumnasSLR(); ++columna) {
+            const auto i = static_cast<std::size_t>(columna);
+            const std::int16_t valor =
+                i < guardada.size() ? guardada[i] : de.GetElementoTablaSLR(fila, columna);
+            if (valor == 0) continue;
+            a.SetElementoTablaSLR(static_cast<std::int16_t>(fila + 1), static_cast<std::int16_t>(columna + 1),
+                                  valor);
         }
     }
 }
