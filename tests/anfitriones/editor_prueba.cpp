@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
         auto* const error = editor.errores->item(0);
         if (error == nullptr) continue;
         editor.errores->setCurrentItem(error);
-        emit editor.errores->itemClicked(error);
+        Q_EMIT editor.errores->itemClicked(error);
         for (int i = 0; i < editor.errores->count(); ++i)
             std::cout << editor.errores->item(i)->text().toStdString() << '\n';
         std::cout << norvik::aUtf8(editor.texto->control().SelText()) << '\n';
