@@ -127,8 +127,8 @@ TEST_F(DisenadorTest, EstaEnLaCajaYTieneLoDeUnControlNuevo) {
         if (h.isVisible(i) && !grupos.contains(h.propertyGroup(i))) grupos << h.propertyGroup(i);
         EXPECT_FALSE(h.isChanged(i) && opciones.contains(h.propertyName(i)));
     }
-    EXPECT_EQ(grupos,
-              QStringList({"QObject", "QWidget", "Aspecto", "Lenguaje", "Edición", "Análisis", "Colores"}));
+    EXPECT_EQ(grupos, QStringList({"QObject", "QWidget", "Aspecto", "Lenguaje", "Edición", "Análisis",
+                                   "Colores", "Ayudas"}));
     EXPECT_EQ(h.property(h.indexOf("ColorPR")), QColor(0, 0, 128));
     EXPECT_EQ(h.property(h.indexOf("Font")).typeId(), QMetaType::QFont);
     const auto* const miembros =
