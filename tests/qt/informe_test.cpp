@@ -2,9 +2,9 @@
 
 // The report window and the folder chooser.
 #include "apoyo/carpetaTemporal.hpp"
-#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/directorio.hpp"
 #include "norvik/tools/informe.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
 #include <QTest>
