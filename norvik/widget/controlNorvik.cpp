@@ -12,6 +12,7 @@
 #include "norvik/widget/elementosControl.hpp"
 #include "norvik/widget/fondoDeEdicion.hpp"
 #include "norvik/widget/margenDeLineas.hpp"
+#include "norvik/widget/plegado.hpp"
 #include "norvik/widget/resaltes.hpp"
 #include "norvik/widget/resaltesDelCursor.hpp"
 #include "norvik/widget/ventanasDelControl.hpp"
@@ -50,7 +51,8 @@ struct ControlNorvik::Piezas {
     Resaltes resaltes{caja};
     ResaltesDelCursor delCursor{caja, resaltes};
     DiagnosticosVistos diagnosticos{caja, resaltes};
-    MargenDeLineas margen{elementos.debugBox, caja, diagnosticos};
+    Plegado plegado{caja, fondo.pliegues()};
+    MargenDeLineas margen{elementos.debugBox, caja, diagnosticos, plegado};
     Zoom zoom{caja};
     EstadoDelTexto avisado; ///< what the host was last told of
 };
@@ -74,6 +76,7 @@ ControlNorvik::ControlNorvik(SistemaQt* compartido, QWidget* padre)
     ordenaTabulador();
     conectaElementos();
     conectaEventos();
+    piezas_->fondo.otrosPliegues = [this] { piezas_->plegado.otros(); };
     piezas_->avisado = estado();
 }
 
@@ -250,6 +253,7 @@ void ControlNorvik::otrasAyudas() {
     const Ayudas& ayudas = control_.ayudas();
     piezas_->delCursor.pon(ayudas);
     piezas_->zoom.permite(ayudas.permiteZoom);
+    piezas_->plegado.permite(ayudas.pliega);
     piezas_->margen.ponNumeros(ayudas.numerosDeLinea);
     control_.redimensiona();
     Q_EMIT ayudasCambiadas();
@@ -329,6 +333,7 @@ void ControlNorvik::cambioDePropiedad(std::u16string_view nombre) {
 
 /// What stands over the text and beside it follows it.
 void ControlNorvik::alDia() {
+    piezas_->plegado.sigue();
     piezas_->resaltes.muestra();
     if (piezas_->margen.sigue()) control_.redimensiona();
     avisaEstado();

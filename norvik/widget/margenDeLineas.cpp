@@ -7,12 +7,15 @@
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/diagnosticosVistos.hpp"
+#include "norvik/widget/plegado.hpp"
 #include "norvik/widget/signo.hpp"
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QTransform>
 
 #include <algorithm>
 #include <utility>
@@ -32,8 +35,9 @@ int cifras(int numero) {
 
 } // namespace
 
-MargenDeLineas::MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const DiagnosticosVistos& diagnosticos)
-    : QWidget(&borde), caja_(caja), diagnosticos_(diagnosticos) {
+MargenDeLineas::MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const DiagnosticosVistos& diagnosticos,
+                               Plegado& plegado)
+    : QWidget(&borde), caja_(caja), diagnosticos_(diagnosticos), plegado_(plegado) {
     setObjectName(QStringLiteral("margenDeLineas"));
     setAccessibleName(QStringLiteral("Líneas"));
     setGeometry(borde.rect());
@@ -41,6 +45,7 @@ MargenDeLineas::MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const Diagnost
     connect(&caja_.vista(), &QPlainTextEdit::updateRequest, this, [this](const QRect& rect, int dy) {
         dy == 0 ? update(0, rect.y(), width(), rect.height()) : update();
     });
+    connect(&plegado, &Plegado::cambiado, this, [this] { update(); });
     connect(&diagnosticos, &DiagnosticosVistos::otros, this, &MargenDeLineas::muestraDiagnosticos);
 }
 
@@ -50,9 +55,14 @@ void MargenDeLineas::ponNumeros(bool visibles) {
 }
 
 int MargenDeLineas::anchoAdicional() const {
-    if (!numeros_) return 0;
+    if (!numeros_) return anchoDePliegues();
     const int cuantas = std::max(cifras(caja_.numeroDeLineas()), menosCifras);
-    return QFontMetrics(caja_.vista().font()).horizontalAdvance(u'9') * cuantas + 2 * margen;
+    return QFontMetrics(caja_.vista().font()).horizontalAdvance(u'9') * cuantas + 2 * margen +
+           anchoDePliegues();
+}
+
+int MargenDeLineas::anchoDePliegues() const {
+    return plegado_.permitido() ? QFontMetrics(caja_.vista().font()).height() * 3 / 4 : 0;
 }
 
 bool MargenDeLineas::sigue() {
@@ -90,6 +100,7 @@ void MargenDeLineas::paintEvent(QPaintEvent* /*evento*/) {
     pintor.setClipRect(0, 0, width(), caja_.vista().viewport()->height());
     if (numeros_) pintaNumeros(pintor);
     pintaDiagnosticos(pintor);
+    if (plegado_.permitido()) pintaPliegues(pintor);
 }
 
 /// The caret's line stands out.
@@ -101,8 +112,8 @@ void MargenDeLineas::pintaNumeros(QPainter& pintor) const {
     pintor.setFont(caja_.vista().font());
     for (const VistaTexto::Linea& l : caja_.vista().lineasVistas()) {
         pintor.setPen(l.numero == actual_ ? destacado : corriente);
-        pintor.drawText(QRect(0, l.arriba, width() - margen, l.alto), Qt::AlignRight | Qt::AlignTop,
-                        QString::number(l.numero + 1));
+        pintor.drawText(QRect(0, l.arriba, width() - margen - anchoDePliegues(), l.alto),
+                        Qt::AlignRight | Qt::AlignTop, QString::number(l.numero + 1));
     }
 }
 
@@ -121,6 +132,35 @@ void MargenDeLineas::pintaDiagnosticos(QPainter& pintor) const {
             pintor, Signo::dibujoDe(mala.gravedad),
             {aPixeles(izquierdaDeSigno, pixel.x), linea->arriba + (linea->alto - suyo) / 2, suyo, suyo});
     }
+}
+
+/// A triangle that points to what is hidden, or down to what can be.
+void MargenDeLineas::pintaPliegues(QPainter& pintor) const {
+    const double lado = anchoDePliegues();
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.setPen(Qt::NoPen);
+    pintor.setBrush(palette().color(QPalette::WindowText));
+    const QPolygonF abierto({{0.25, 0.35}, {0.75, 0.35}, {0.5, 0.7}});
+    const QPolygonF plegado({{0.35, 0.25}, {0.7, 0.5}, {0.35, 0.75}});
+    for (const VistaTexto::Linea& l : caja_.vista().lineasVistas()) {
+        const Plegado::Estado estado = plegado_.estado(l.numero);
+        if (estado == Plegado::Estado::Ninguno) continue;
+        QTransform sitio;
+        sitio.translate(width() - lado, l.arriba + (l.alto - lado) / 2);
+        sitio.scale(lado, lado);
+        pintor.drawPolygon(sitio.map(estado == Plegado::Estado::Plegado ? plegado : abierto));
+    }
+}
+
+/// Elsewhere the press is the border's. What it does may end in a host that deletes the control.
+void MargenDeLineas::mousePressEvent(QMouseEvent* evento) {
+    const QPoint punto = evento->position().toPoint();
+    const auto linea = caja_.vista().lineaEn(punto.y());
+    const bool enTriangulo = evento->button() == Qt::LeftButton && punto.x() >= width() - anchoDePliegues();
+    if (!enTriangulo || !linea || plegado_.estado(*linea) == Plegado::Estado::Ninguno)
+        return evento->ignore();
+    QMetaObject::invokeMethod(
+        &plegado_, [this, cual = *linea] { plegado_.cambia(cual); }, Qt::QueuedConnection);
 }
 
 } // namespace norvik

@@ -200,8 +200,8 @@ std::optional<std::int32_t> CajaTextoQt::caracterEn(const QPoint& punto) const {
 void CajaTextoQt::muestra(std::int32_t inicio, std::int32_t longitud) {
     const auto viva = testigo();
     selecciona(inicio, longitud);
+    if (!viva.expired()) acaba(); // what hides the place is opened
     if (viva.expired()) return;
-    ponAlDia();
     vista_->acerca(espejo_.enDocumento(inicioSeleccion()));
 }
 

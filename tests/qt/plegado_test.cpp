@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+
+// Folding, by the triangles of the left border.
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/widget/controlNorvik.hpp"
+#include "qt/sistemaDePrueba.hpp"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTextBlock>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+
+namespace {
+
+const QString bloques = QStringLiteral(
+    R"(Token abre = "\{"; Token cierra = "\}"; Token x = "x"; L -> L B | B; B -> abre L cierra | x;)");
+
+class PlegadoTest : public testing::Test {
+protected:
+    PlegadoTest() {
+        editor.resize(400, 300);
+        editor.show();
+        QApplication::setActiveWindow(&editor);
+        editor.setFocus();
+        EXPECT_TRUE(editor.cargaLenguaje(bloques));
+        editor.Text("{\nx\n{\nx\n}\n}\nx");
+        editor.pliega(true);
+    }
+    /// The lines that are seen, once the text was parsed.
+    QString vistas() {
+        QCoreApplication::processEvents();
+        QString numeros;
+        for (QTextBlock b = vista.document()->begin(); b.isValid(); b = b.next())
+            if (b.isVisible()) numeros += QString::number(b.blockNumber());
+        return numeros;
+    }
+    void pulsaEn(int linea) {
+        const QTextCursor cursor(vista.document()->findBlockByNumber(linea));
+        const int altura = vista.cursorRect(cursor).center().y();
+        QTest::mouseClick(&margen, Qt::LeftButton, {}, {margen.width() - 3, altura});
+    }
+    /// After a pause of the person's.
+    void espera() { QTest::qWait(600); }
+
+    SistemaDePrueba sistema;
+    ControlNorvik editor{sistema, nullptr};
+    QPlainTextEdit& vista = static_cast<QPlainTextEdit&>(editor.caja().ventana());
+    QWidget& margen = *editor.findChild<QWidget*>("margenDeLineas");
+};
+
+} // namespace
+
+TEST_F(PlegadoTest, UnTrianguloPliegaYDespliega) {
+    espera();
+    for (int vez = 0; vez < 2; ++vez) {
+        pulsaEn(2);
+        EXPECT_EQ(vistas(), "01256");
+        pulsaEn(0);
+        EXPECT_EQ(vistas(), "06");
+        pulsaEn(0);
+        EXPECT_EQ(vistas(), "01256");
+        pulsaEn(2);
+        EXPECT_EQ(vistas(), "0123456");
+        pulsaEn(1); // nothing begins there
+        EXPECT_EQ(vistas(), "0123456");
+    }
+    pulsaEn(0);
+    editor.pliega(false);
+    EXPECT_EQ(vistas(), "0123456");
+    EXPECT_EQ(editor.Text(), "{\r\nx\r\n{\r\nx\r\n}\r\n}\r\nx");
+}
+
+TEST_F(PlegadoTest, LoPlegadoSigueAlTextoYSeAbreParaElCursor) {
+    espera();
+    editor.SelStart(9); // the inner x
+    pulsaEn(2);
+    EXPECT_EQ(vistas(), "01256");
+    EXPECT_EQ(editor.control().LineaActual(), 3); // the caret does not stay where it is not seen
+    editor.SelStart(0);
+    editor.SelText("x\n");
+    EXPECT_EQ(vistas(), "012367");
+    espera();
+    EXPECT_EQ(vistas(), "012367");
+    editor.irA({{editor.caja().inicioDeLinea(4)}, {editor.caja().inicioDeLinea(4)}});
+    EXPECT_EQ(vistas(), "01234567");
+    pulsaEn(1);
+    EXPECT_EQ(vistas(), "017");
+    editor.Text("x"); // without what was folded
+    EXPECT_EQ(vistas(), "0");
+}
