@@ -320,7 +320,8 @@ Compilacion ControlNorvik::carga(const std::function<Compilacion()>& orden) {
     const QPointer<ControlNorvik> vivo(this);
     Compilacion compilacion;
     protege([&] { compilacion = orden(); });
-    const bool colorea = compilacion && !vivo.isNull() && piezas_->caja.texto().size() <= maximoTexto;
+    const bool colorea =
+        compilacion && !vivo.isNull() && (coloreaAlEscribir() || piezas_->caja.texto().size() <= maximoTexto);
     if (colorea) protege([this] { control_.ColoreaTodo(); });
     return compilacion;
 }
