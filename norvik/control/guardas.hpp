@@ -4,8 +4,19 @@
 
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
+#include "norvik/platform/sistema.hpp"
 
 namespace norvik::inline v0_2 {
+
+/// The pointer is what it was. A host that cannot give it back is no reason to end the process: what is being
+/// left may be a failure, or the control itself.
+inline void devuelvePuntero(Sistema& sistema) noexcept {
+    try {
+        sistema.ponPuntero(Puntero::Normal);
+    } catch (...) {
+        return;
+    }
+}
 
 /// The control's busy mark: while it lives, the box's events are ignored.
 class MarcaOcupado {

@@ -5,6 +5,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/control/guardas.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 
 namespace norvik::inline v0_2 {
@@ -26,7 +27,7 @@ void PartesControl::conecta() {
 
 void PartesControl::abandona() {
     edicion.calla();
-    if (cargando_) sistema->ponPuntero(Puntero::Normal);
+    if (cargando_) devuelvePuntero(*sistema);
     caja.cambia(cajaDeNadie_);
     sistema.cambia(sistemaDeNadie_);
     contenedor.cambia(sinContenedor());

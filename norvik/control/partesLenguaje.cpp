@@ -10,6 +10,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/generacion.hpp"
+#include "norvik/control/guardas.hpp"
 #include "norvik/control/pasosFirmes.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
 #include "norvik/spec/directivas.hpp"
@@ -44,7 +45,7 @@ public:
     }
     Ocupado(const Ocupado&) = delete;
     Ocupado& operator=(const Ocupado&) = delete;
-    ~Ocupado() { sistema_->ponPuntero(Puntero::Normal); }
+    ~Ocupado() { devuelvePuntero(*sistema_); }
 
 private:
     const Prestado<Sistema>& sistema_;

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 using namespace norvik;
@@ -155,3 +156,21 @@ TEST(Fallos, LosModulosTienenNombreDeModulo) {
 }
 
 } // namespace
+
+TEST(Fallos, UnPunteroQueNoSeDejaDevolver) {
+    struct SinPuntero : SistemaMemoria {
+        SinPuntero() : SistemaMemoria([](const Mensaje&) {}) {}
+        void ponPuntero(Puntero puntero) override {
+            if (puntero == Puntero::Normal) throw ErrorDeFichero(u"no hay puntero");
+        }
+    } sistema;
+    CajaTexto caja;
+    auto norvik = std::make_unique<Norvik>(caja, sistema);
+    for (int vez = 0; vez < 2; ++vez) {
+        EXPECT_TRUE(norvik->CargaGramatica(u"Token a = \"a\"; S -> a;"));
+        EXPECT_TRUE(norvik->GeneraCompilador());
+        norvik->Text(u"a");
+        EXPECT_TRUE(norvik->ConstruyeArbolSintactico());
+    }
+    norvik.reset();
+}
