@@ -8,6 +8,7 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/widget/accesibleControl.hpp"
+#include "norvik/widget/completado.hpp"
 #include "norvik/widget/diagnosticosVistos.hpp"
 #include "norvik/widget/elementosControl.hpp"
 #include "norvik/widget/fondoDeEdicion.hpp"
@@ -41,7 +42,8 @@ struct ControlNorvik::EstadoDelTexto {
 struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
-          caja(&control), fondo(control.control_, caja) {}
+          caja(&control), fondo(control.control_, caja),
+          completado(caja, [&control] { return control.control_.lenguaje(); }) {}
 
     ElementosControl elementos;
     SistemaQt propio;
@@ -54,6 +56,7 @@ struct ControlNorvik::Piezas {
     Plegado plegado{caja, fondo.pliegues()};
     MargenDeLineas margen{elementos.debugBox, caja, diagnosticos, plegado};
     Zoom zoom{caja};
+    Completado completado;
     EstadoDelTexto avisado; ///< what the host was last told of
 };
 
@@ -254,6 +257,7 @@ void ControlNorvik::otrasAyudas() {
     piezas_->delCursor.pon(ayudas);
     piezas_->zoom.permite(ayudas.permiteZoom);
     piezas_->plegado.permite(ayudas.pliega);
+    piezas_->completado.permite(ayudas.completa);
     piezas_->margen.ponNumeros(ayudas.numerosDeLinea);
     control_.redimensiona();
     Q_EMIT ayudasCambiadas();
@@ -335,6 +339,7 @@ void ControlNorvik::cambioDePropiedad(std::u16string_view nombre) {
 /// What stands over the text and beside it follows it.
 void ControlNorvik::alDia() {
     piezas_->plegado.sigue();
+    piezas_->completado.sigue();
     piezas_->resaltes.muestra();
     if (piezas_->margen.sigue()) control_.redimensiona();
     avisaEstado();
