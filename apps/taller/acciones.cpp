@@ -64,7 +64,10 @@ void Acciones::describe() {
         {pegar, s("&Pegar"), s("Ctrl+V")},
         {seleccionarTodo, s("&Seleccionar todo"), s("Ctrl+A")},
         {buscar, s("&Buscar…"), s("Ctrl+F"), Dibujo::Buscar},
+        {buscarSiguiente, s("Buscar s&iguiente"), s("F3")},
+        {buscarAnterior, s("Buscar a&nterior"), s("Shift+F3")},
         {reemplazar, s("R&eemplazar…"), s("Ctrl+H")},
+        {irALinea, s("Ir a la &línea…"), s("Ctrl+G")},
         {nuevoFormulario, s("&Nuevo formulario")},
         {abrirFormulario, s("&Abrir formulario…")},
         {guardarFormulario, s("&Guardar formulario")},
@@ -96,7 +99,7 @@ void Acciones::ordena() {
     llena(archivo, {&nuevoTexto, &abrirTexto, textosRecientes.menuAction(), raya, &guardarTexto,
                     &guardarTextoComo, &guardarTodo, raya, &imprimir, raya, &salir});
     llena(edicion, {&deshacer, &rehacer, raya, &cortar, &copiar, &pegar, &seleccionarTodo, raya, &buscar,
-                    &reemplazar});
+                    &buscarSiguiente, &buscarAnterior, &reemplazar, raya, &irALinea});
     llena(formulario,
           {&nuevoFormulario, &abrirFormulario, formulariosRecientes.menuAction(), &guardarFormulario,
            &guardarFormularioComo, raya, &anadir, &quitar, raya, &disenio, &propiedades});

@@ -15,7 +15,8 @@ public:
     explicit Acciones(QMainWindow& ventana);
 
     QAction nuevoTexto, abrirTexto, guardarTexto, guardarTextoComo, guardarTodo, imprimir, salir;
-    QAction deshacer, rehacer, cortar, copiar, pegar, seleccionarTodo, buscar, reemplazar;
+    QAction deshacer, rehacer, cortar, copiar, pegar, seleccionarTodo;
+    QAction buscar, buscarSiguiente, buscarAnterior, reemplazar, irALinea;
     QAction nuevoFormulario, abrirFormulario, guardarFormulario, guardarFormularioComo;
     QAction anadir, quitar, disenio, propiedades;
     QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, analizar, revisar, informe;

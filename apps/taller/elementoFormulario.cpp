@@ -10,6 +10,7 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QAbstractScrollArea>
+#include <QAction>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -35,9 +36,17 @@ ElementoFormulario::ElementoFormulario(const QString& nombre, SistemaQt& sistema
     titulo_.setTextFormat(Qt::PlainText);
     titulo_.setContentsMargins(4, 2, 4, 0);
     velo_.hide();
+    norvik_.control().ponAyudas(todasLasAyudas());
+    cedeTeclas();
     conecta();
     actualizaTitulo();
     anotaGuardado();
+}
+
+/// The keys of the control's actions are those of the window's, which are for whichever control is active.
+void ElementoFormulario::cedeTeclas() {
+    for (int i = 0; i < numeroDeAcciones; ++i)
+        norvik_.accion(static_cast<AccionNorvik>(i))->setShortcuts(QList<QKeySequence>());
 }
 
 void ElementoFormulario::conecta() {

@@ -99,6 +99,7 @@ protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
+    void cedeTeclas();
     void conecta();
     void ponFichero(const QString& fichero, std::u16string_view texto);
     void anotaTextoGuardado(std::u16string_view texto);

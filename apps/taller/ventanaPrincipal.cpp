@@ -3,15 +3,16 @@
 #include "ventanaPrincipal.hpp"
 
 #include "lenguaje.hpp"
-#include "portapapeles.hpp"
 #include "rutas.hpp"
 
 #include "norvik/base/texto.hpp"
-#include "norvik/control/historial.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/ventanas.hpp"
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -103,25 +104,30 @@ void VentanaPrincipal::conectaArchivo() {
 }
 
 void VentanaPrincipal::conectaEdicion() {
+    for (const auto& [accion, suya] : deEdicion()) {
+        const AccionNorvik cual = suya;
+        conecta(*accion, [this, cual] { formulario_.activo().norvik().accion(cual)->trigger(); });
+    }
+    for (QAction* const accion : {&acciones_.deshacer, &acciones_.rehacer})
+        conecta(*accion, [this] { formulario_.activo().cambiaTexto(); });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &VentanaPrincipal::actualizaEdicion);
+    conecta(acciones_.acerca, [this] { formulario_.activo().norvik().control().Acerca(); });
+}
+
+/// The commands that are those of the active control.
+VentanaPrincipal::DeEdicion VentanaPrincipal::deEdicion() {
     Acciones& a = acciones_;
-    const auto conControl = [this](QAction& accion, auto orden) {
-        conecta(accion, [this, orden] { orden(formulario_.activo().norvik()); });
-    };
-    const auto enHistorial = [this, conControl](QAction& accion, auto orden) {
-        conControl(accion, [orden](ControlNorvik& n) {
-            n.caja().atiende([&] { orden(n); }); // what a key came to is told as it is at other keys
-        });
-        conecta(accion, [this] { formulario_.activo().cambiaTexto(); });
-    };
-    enHistorial(a.deshacer, [](ControlNorvik& n) { n.control().Undo(); });
-    enHistorial(a.rehacer, [](ControlNorvik& n) { n.control().Redo(); });
-    conControl(a.cortar, corta);
-    conControl(a.copiar, copia);
-    conControl(a.pegar, pega);
-    conControl(a.seleccionarTodo, seleccionaTodo);
-    conControl(a.buscar, [](ControlNorvik& n) { n.control().ShowBuscarDialog(); });
-    conControl(a.reemplazar, [](ControlNorvik& n) { n.control().ShowReemplazarDialog(); });
-    conControl(a.acerca, [](ControlNorvik& n) { n.control().Acerca(); });
+    return {{{&a.deshacer, AccionNorvik::Deshacer},
+             {&a.rehacer, AccionNorvik::Rehacer},
+             {&a.cortar, AccionNorvik::Cortar},
+             {&a.copiar, AccionNorvik::Copiar},
+             {&a.pegar, AccionNorvik::Pegar},
+             {&a.seleccionarTodo, AccionNorvik::SeleccionarTodo},
+             {&a.buscar, AccionNorvik::Buscar},
+             {&a.buscarSiguiente, AccionNorvik::BuscarSiguiente},
+             {&a.buscarAnterior, AccionNorvik::BuscarAnterior},
+             {&a.reemplazar, AccionNorvik::Reemplazar},
+             {&a.irALinea, AccionNorvik::IrALinea}}};
 }
 
 void VentanaPrincipal::conectaFormulario() {
@@ -139,14 +145,17 @@ void VentanaPrincipal::conectaFormulario() {
     connect(&formulariosRecientes_, &Recientes::elegido, this,
             [this](const QString& fichero) { ejecuta([&] { formularios_.abre(fichero); }); });
     connect(&formulario_, &Formulario::otroActivo, this, &VentanaPrincipal::otroActivo);
-    connect(&formulario_, &Formulario::otroLugar, this, &VentanaPrincipal::actualizaLugar);
+    connect(&formulario_, &Formulario::otroLugar, this, [this] {
+        actualizaLugar();
+        actualizaEdicion();
+    });
     connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
     connect(&formulario_, &Formulario::aviso, this,
             [this](const QString& texto) { statusBar()->showMessage(texto); });
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
-        actualizaHistorial();
+        actualizaEdicion();
     });
     connect(&formulario_, &Formulario::cambiado, this, [this] {
         actualizaTitulo();
@@ -262,22 +271,17 @@ void VentanaPrincipal::actualizaLugar() {
 
 void VentanaPrincipal::actualizaOrdenes() {
     Acciones& a = acciones_;
-    const bool disenio = formulario_.modo() == Modo::Disenio;
-    for (QAction* const accion :
-         {&a.cortar, &a.pegar, &a.copiar, &a.seleccionarTodo, &a.buscar, &a.reemplazar})
-        accion->setEnabled(!disenio);
     const auto cuantos = static_cast<qsizetype>(formulario_.elementos().size());
     a.anadir.setEnabled(cuantos < maximoControles);
     a.quitar.setEnabled(cuantos > 1);
-    actualizaHistorial();
+    actualizaEdicion();
 }
 
-void VentanaPrincipal::actualizaHistorial() {
-    Acciones& a = acciones_;
+void VentanaPrincipal::actualizaEdicion() {
     const bool disenio = formulario_.modo() == Modo::Disenio;
-    const Historial& historial = formulario_.activo().norvik().control().historial();
-    a.deshacer.setEnabled(!disenio && historial.undos().cuantas() > 1);
-    a.rehacer.setEnabled(!disenio && historial.redos().cuantas() > 0);
+    ControlNorvik& norvik = formulario_.activo().norvik();
+    for (const auto& [accion, suya] : deEdicion())
+        accion->setEnabled(!disenio && norvik.accion(suya)->isEnabled());
 }
 
 // ---- the window

@@ -11,6 +11,9 @@
 #include <QMainWindow>
 #include <QVBoxLayout>
 
+#include <array>
+#include <utility>
+
 namespace norvik::taller {
 
 /// What the window is given from outside, which must outlive it.
@@ -44,12 +47,15 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
+    using DeEdicion = std::array<std::pair<QAction*, AccionNorvik>, 11>;
+
     template <typename Orden>
     void ejecuta(const Orden& orden);
     template <typename Orden>
     void conecta(QAction& accion, Orden orden);
     void conectaArchivo();
     void conectaEdicion();
+    DeEdicion deEdicion();
     void conectaFormulario();
     void conectaLenguaje();
     void llenaEjemplos(const QList<Ejemplo>& ejemplos);
@@ -63,7 +69,7 @@ private:
     void actualizaFormato();
     void actualizaLugar();
     void actualizaOrdenes();
-    void actualizaHistorial();
+    void actualizaEdicion();
 
     SistemaQt& sistema_;
     Dialogos& dialogos_;

@@ -156,6 +156,7 @@ void Edicion::tabula() {
 }
 
 void Edicion::quitaSangria() {
+    if (caja_->soloLectura()) return;
     const std::int32_t espacios = std::max<int>(opciones_.espaciosXTAB, 0);
     historial_.exacto([&] { norvik::quitaSangria(caja_, espacios); });
 }

@@ -76,7 +76,7 @@ void LineasEditadas::coloreaLinea(std::int32_t linea) {
 void LineasEditadas::coloreaPuesto(std::int32_t inicio, std::int32_t fin) {
     const std::int32_t primera = caja_->lineaDeCaracter(inicio);
     const std::int32_t ultima = caja_->lineaDeCaracter(fin);
-    if (primera == ultima || caja_->texto().size() > maximoTexto) return;
+    if (alDia() || primera == ultima || caja_->texto().size() > maximoTexto) return;
     coloreaRango(caja_->inicioDeLinea(primera), finDeLinea(*caja_, ultima), ninguna);
 }
 

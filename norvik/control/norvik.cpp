@@ -187,7 +187,9 @@ bool Norvik::TextoModificado() const {
 }
 
 void Norvik::TextoModificado(bool modificado) {
-    if (!modificado) partes_->caja->ponModificado(false);
+    if (modificado) return;
+    partes_->caja->ponModificado(false);
+    partes_->historial.corta(); // what was saved is where undo comes by
 }
 
 } // namespace norvik::inline v0_2

@@ -3,7 +3,7 @@
 #include "norvik/tools/camposBusqueda.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
-#include "norvik/tools/menuDeTexto.hpp"
+#include "norvik/widget/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QHBoxLayout>

@@ -5,7 +5,7 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/tools/directorio.hpp"
-#include "norvik/tools/menuDeTexto.hpp"
+#include "norvik/widget/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QHBoxLayout>

@@ -3,6 +3,7 @@
 #include "norvik/widget/ventanasDelControl.hpp"
 
 #include "norvik/control/norvik.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
@@ -10,7 +11,23 @@
 #include "norvik/tools/ventanas.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 
+#include <QInputDialog>
+#include <QPointer>
+
+#include <algorithm>
+
 namespace norvik::ventanasDelControl {
+
+namespace {
+
+/// 1-based; the last one if there are not so many any more.
+void vaALinea(CajaTextoQt& caja, int linea) {
+    const int ultima = caja.numeroDeLineas();
+    caja.enfoca();
+    caja.selecciona(caja.inicioDeLinea(std::min(linea, ultima) - 1), 0);
+}
+
+} // namespace
 
 void muestraInforme(ControlNorvik& control) {
     MuestraInforme(control.control().Gramatica(), control.control().Lexico(), control.sistema(), &control);
@@ -22,6 +39,24 @@ void muestraAcerca(ControlNorvik& control) {
 
 void muestraReemplazar(ControlNorvik& control) {
     Reemplazar::muestra(control);
+}
+
+void preguntaLinea(ControlNorvik& control) {
+    const QPointer<ControlNorvik> vivo(&control);
+    const CajaTextoQt& caja = control.caja();
+    const VentanaDeAmbito<QInputDialog> dialogo(control.window());
+    dialogo->setObjectName(QStringLiteral("irALinea"));
+    dialogo->setWindowTitle(QStringLiteral("Ir a la línea"));
+    dialogo->setInputMode(QInputDialog::IntInput);
+    dialogo->setIntRange(1, caja.numeroDeLineas());
+    dialogo->setIntValue(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1);
+    dialogo->setLabelText(QStringLiteral("Línea, de 1 a %1:").arg(caja.numeroDeLineas()));
+    dialogo->setOkButtonText(QStringLiteral("Ir"));
+    dialogo->setCancelButtonText(QStringLiteral("Cancelar"));
+    control.sistema().muestraModal(*dialogo);
+    if (vivo.isNull() || !dialogo.vive() || dialogo->result() != QDialog::Accepted) return;
+    const int linea = dialogo->intValue();
+    control.caja().atiende([&] { vaALinea(control.caja(), linea); });
 }
 
 void muestraBuscar(ControlNorvik& control) {

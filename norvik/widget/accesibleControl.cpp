@@ -28,7 +28,7 @@ public:
 private:
     QList<QObject*> hijos() const {
         QList<QObject*> todos;
-        for (const char* nombre : {"Texto", "debugBox"}) {
+        for (const char* nombre : {"Texto", "debugBox", "barraDeBusqueda"}) {
             const auto* control = static_cast<const QWidget*>(object());
             auto* elemento = control->findChild<QWidget*>(QLatin1String(nombre), Qt::FindDirectChildrenOnly);
             if (elemento != nullptr && !elemento->isHidden()) todos.append(elemento);

@@ -8,6 +8,8 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/widget/accesibleControl.hpp"
+#include "norvik/widget/accionesControl.hpp"
+#include "norvik/widget/busquedaControl.hpp"
 #include "norvik/widget/completado.hpp"
 #include "norvik/widget/diagnosticosVistos.hpp"
 #include "norvik/widget/elementosControl.hpp"
@@ -43,7 +45,7 @@ struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
           caja(&control), fondo(control.control_, caja),
-          completado(caja, [&control] { return control.control_.lenguaje(); }) {}
+          completado(caja, [&control] { return control.control_.lenguaje(); }), busqueda(control) {}
 
     ElementosControl elementos;
     SistemaQt propio;
@@ -58,6 +60,8 @@ struct ControlNorvik::Piezas {
     Zoom zoom{caja};
     Completado completado;
     EstadoDelTexto avisado; ///< what the host was last told of
+    BusquedaControl busqueda;
+    std::unique_ptr<AccionesControl> acciones; ///< once somebody has asked for one
 };
 
 ControlNorvik::ControlNorvik(QWidget* padre) : ControlNorvik(nullptr, padre) {}
@@ -191,9 +195,25 @@ bool ControlNorvik::eventFilter(QObject* objeto, QEvent* evento) {
         if (vivo.isNull()) return true;
     }
     if (objeto == &piezas_->caja.ventana() && evento->type() == QEvent::KeyPress) {
-        if (atiendeTabulador(*static_cast<QKeyEvent*>(evento))) return true;
+        if (atiendeTecla(*static_cast<QKeyEvent*>(evento))) return true;
     }
     return QWidget::eventFilter(objeto, evento);
+}
+
+bool ControlNorvik::atiendeTecla(const QKeyEvent& tecla) {
+    const bool busca = control_.ayudas().barraDeBusqueda && tecla.matches(QKeySequence::Find);
+    if (busca) piezas_->caja.atiende([this] { piezas_->busqueda.abre(); });
+    return busca || atiendeTabulador(tecla);
+}
+
+/// Keys that neither the text nor the find bar has a use for, where no action has them.
+void ControlNorvik::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() != Qt::Key_F3 || !control_.ayudas().barraDeBusqueda)
+        return QWidget::keyPressEvent(evento);
+    const bool atras = evento->modifiers().testFlag(Qt::ShiftModifier);
+    piezas_->caja.atiende([&] {
+        piezas_->busqueda.sigue(atras ? BarraBusqueda::Salto::Anterior : BarraBusqueda::Salto::Siguiente);
+    });
 }
 
 /// The tab key writes, and the shift key may take back what it wrote; with the control key they do what they
@@ -259,8 +279,16 @@ void ControlNorvik::otrasAyudas() {
     piezas_->plegado.permite(ayudas.pliega);
     piezas_->completado.permite(ayudas.completa);
     piezas_->margen.ponNumeros(ayudas.numerosDeLinea);
+    piezas_->busqueda.atiendeAyudas();
+    if (piezas_->acciones != nullptr) piezas_->acciones->pideAlDia();
     control_.redimensiona();
     Q_EMIT ayudasCambiadas();
+}
+
+QAction* ControlNorvik::accion(AccionNorvik cual) {
+    if (piezas_->acciones == nullptr)
+        piezas_->acciones = std::make_unique<AccionesControl>(*this, piezas_->busqueda);
+    return &piezas_->acciones->accion(cual);
 }
 
 void ControlNorvik::cambioElTexto(const CambioDeTexto& cambio) {
@@ -388,7 +416,9 @@ void ControlNorvik::coloca(const Disposicion& disposicion) {
     const TwipsPorPixel pixel = twipsPorPixel(*this);
     piezas_->elementos.coloca(disposicion, pixel);
     piezas_->caja.ponIzquierda(disposicion.texto.x);
-    piezas_->caja.ventana().setGeometry(enPixeles(disposicion.texto, pixel));
+    const int izquierda = enPixeles(disposicion.debugBox, pixel).left();
+    piezas_->caja.ventana().setGeometry(
+        piezas_->busqueda.aparta(enPixeles(disposicion.texto, pixel), izquierda));
 }
 
 void ControlNorvik::ponSigno(const signoDebuger& signo, const LugarDeSigno& lugar) {

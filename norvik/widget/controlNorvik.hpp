@@ -8,6 +8,7 @@
 #include "norvik/control/norvik.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/spec/lenguaje.hpp"
+#include "norvik/widget/accionNorvik.hpp"
 
 #include <QString>
 #include <QWidget>
@@ -73,6 +74,8 @@ public:
     void Nombre(bool encendida) {                                                                            \
         ponAyuda(&Ayudas::Nombre, encendida);                                                                \
     }
+
+class QAction;
 
 namespace norvik {
 
@@ -260,6 +263,11 @@ public:
     /// El texto que se analiza sin enseñarlo.
     QString TextoInvisible() const { return aQString(control_.GetTextoInvisible()); }
 
+    /// Una acción de las que los menús y las barras suelen tener, con su texto, sus teclas, que valen mientras
+    /// el control tiene el foco, y activa cuando sirve de algo. Es del control y siempre la misma. Las teclas
+    /// con Control, que el control deja a su anfitrión, solo tienen efecto si se han pedido sus acciones.
+    QAction* accion(AccionNorvik cual);
+
     QSize sizeHint() const override { return {480, 320}; }
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): a section of Qt's
@@ -315,6 +323,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
@@ -359,6 +368,7 @@ private:
     Compilacion carga(const std::function<Compilacion()>& orden);
     std::array<QWidget*, 3> observados();
     void entraEnTabulador(Qt::FocusReason razon);
+    bool atiendeTecla(const QKeyEvent& tecla);
     bool atiendeTabulador(const QKeyEvent& tecla);
     void saleHaciaDelante();
 

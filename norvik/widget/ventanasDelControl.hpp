@@ -13,6 +13,8 @@ namespace ventanasDelControl {
 void muestraInforme(ControlNorvik& control);
 void muestraAcerca(ControlNorvik& control);
 void muestraReemplazar(ControlNorvik& control);
+/// Asks for a line, and puts the caret there.
+void preguntaLinea(ControlNorvik& control);
 /// There is one find dialog, and it is for the control that showed it last.
 void muestraBuscar(ControlNorvik& control);
 /// The control goes, and the find dialog that was for it.

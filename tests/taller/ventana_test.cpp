@@ -129,11 +129,11 @@ TEST_F(TallerTest, DeshechoTodoNadaEstaModificado) {
     for (int vez = 0; vez < 2; ++vez) {
         escribe("xy");
         EXPECT_TRUE(ventana.isWindowModified());
-        for (int i = 0; i < 2; ++i) ordena(a.deshacer);
+        ordena(a.deshacer);
         EXPECT_FALSE(ventana.isWindowModified());
         ordena(a.rehacer);
         EXPECT_TRUE(ventana.isWindowModified());
-        QTest::keyClick(&norvik().caja().ventana(), Qt::Key_Backspace);
+        for (int i = 0; i < 2; ++i) QTest::keyClick(&norvik().caja().ventana(), Qt::Key_Backspace);
         EXPECT_FALSE(ventana.isWindowModified());
     }
     EXPECT_TRUE(cierra());
@@ -488,7 +488,6 @@ TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
 TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
     constexpr int lineas = 33000;
     const QString texto = QStringLiteral("a\n").repeated(lineas);
-    const QString limite = "Desbordamiento: el texto pasa de 32766 caracteres";
     const QString sigue = ". Se edita y se guarda, pero ya no se colorea ni se analiza";
     const QString limiteDeLineas = "Desbordamiento: el texto pasa de 32767 líneas" + sigue;
     const auto editor = [&] { return static_cast<QPlainTextEdit*>(&norvik().caja().ventana()); };
@@ -507,7 +506,7 @@ TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
             ordena(a.pegar);
         }
         QCoreApplication::processEvents();
-        EXPECT_EQ(dicho(), limite + sigue);
+        EXPECT_EQ(dicho(), deFichero ? QString() : limiteDeLineas); // it is coloured all the same
         ordena(a.seleccionarTodo);
         pulsa(Qt::Key_Right);
         EXPECT_EQ(dicho(), limiteDeLineas);

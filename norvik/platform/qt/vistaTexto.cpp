@@ -96,7 +96,7 @@ void VistaTexto::wheelEvent(QWheelEvent* evento) {
 bool VistaTexto::event(QEvent* evento) {
     const Servicio servicio(*this);
     if (evento->type() == QEvent::ShortcutOverride &&
-        mascaraDe(*static_cast<QKeyEvent*>(evento)) == mascara::control) {
+        (mascaraDe(*static_cast<QKeyEvent*>(evento)) & ~mascara::mayusculas) == mascara::control) {
         evento->ignore();
         return false;
     }
@@ -281,6 +281,7 @@ void VistaTexto::muestraMenu(const QPoint& lugar) {
 }
 
 void VistaTexto::teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas) {
+    const Servicio servicio(*this);
     QKeyEvent abajo(QEvent::KeyPress, tecla, teclas);
     QKeyEvent arriba(QEvent::KeyRelease, tecla, teclas);
     keyPressEvent(&abajo);

@@ -32,6 +32,8 @@ public:
 
     /// The person may move about and copy, and nothing else.
     void ponSoloLectura(bool soloLectura);
+    /// What a person does with a key: the host hears of it as it does then.
+    void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
 
     int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
     /// A line that is seen, wholly or in part: its number from 0, and where it is in the view.
@@ -78,7 +80,6 @@ private:
     QString filtra(const QString& texto);
     bool avisaRaton(const CajaTexto::Eventos::Raton& evento, const QMouseEvent& raton);
     void muestraMenu(const QPoint& lugar);
-    void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
 
     CajaTextoQt* caja_;               ///< null once it has gone
     std::set<std::uint64_t> bajadas_; ///< keys that went down here and have not come up
