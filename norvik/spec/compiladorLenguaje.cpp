@@ -317,14 +317,13 @@ Compilacion compilaEspecificacion(const Analisis& especificacion, const Directiv
 
 namespace {
 
+/// While a language is loaded a table may be wider than there are symbols.
 void copiaTabla(const gramatica& de, gramatica& a) {
     a.SetDimensionTablaSLR(de.GetDimensionFilasSLR(), de.GetDimensionColumnasSLR());
-    for (std::int16_t fila = 0; fila < de.GetDimensionFilasSLR(); ++fila) {
-        const auto guardada = de.GetFilaTablaSLR(fila);
-        for (std::int16_t columna = 0; columna < de.GetDimensionColumnasSLR(); ++columna) {
-            const auto i = static_cast<std::size_t>(columna);
-            const std::int16_t valor =
-                i < guardada.size() ? guardada[i] : de.GetElementoTablaSLR(fila, columna);
+    const TablaLR& tabla = de.valores().tabla;
+    for (std::int16_t fila = 0; fila < tabla.filasVigentes(); ++fila) {
+        for (std::int16_t columna = 0; columna < tabla.columnasVigentes(); ++columna) {
+            const std::int16_t valor = tabla.entrada(fila, columna);
             if (valor == 0) continue;
             a.SetElementoTablaSLR(static_cast<std::int16_t>(fila + 1), static_cast<std::int16_t>(columna + 1),
                                   valor);
