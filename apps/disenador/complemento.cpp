@@ -6,8 +6,8 @@
 #include "propiedadesPublicadas.hpp"
 
 #include "norvik/control/descripciones.hpp"
-#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QDesignerFormEditorInterface>
 #include <QExtensionManager>

@@ -119,7 +119,7 @@ public:
         Raton ratonArriba;
         std::function<void()> click;
         std::function<void()> pierdeFoco;
-        std::function<void()> vaAPegar; ///< el usuario va a pegar o soltar texto en la selección
+        std::function<void()> vaAPegar;    ///< el usuario va a pegar o soltar texto en la selección
         std::function<void()> empiezaPaso; ///< los cambios hasta que acabe son para el usuario uno solo
         std::function<void()> acabaPaso;
     };

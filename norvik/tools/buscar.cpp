@@ -2,8 +2,8 @@
 
 #include "norvik/tools/buscar.hpp"
 
-#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QEvent>
 #include <QWindow>

@@ -3,8 +3,8 @@
 #include "norvik/tools/camposBusqueda.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
-#include "norvik/widget/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/menuDeTexto.hpp"
 
 #include <QHBoxLayout>
 #include <QLineEdit>

@@ -5,8 +5,8 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/tools/directorio.hpp"
-#include "norvik/widget/menuDeTexto.hpp"
 #include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/menuDeTexto.hpp"
 
 #include <QHBoxLayout>
 #include <QTextBlock>

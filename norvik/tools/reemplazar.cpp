@@ -3,8 +3,8 @@
 #include "norvik/tools/reemplazar.hpp"
 
 #include "norvik/tools/buscar.hpp"
-#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/ventanas.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <algorithm>
 

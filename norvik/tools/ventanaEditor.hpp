@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "norvik/widget/controlNorvik.hpp"
 #include "norvik/tools/iconos.hpp"
+#include "norvik/widget/controlNorvik.hpp"
 
 #include <QAction>
 #include <QKeySequence>

@@ -263,9 +263,10 @@ public:
     /// El texto que se analiza sin enseñarlo.
     QString TextoInvisible() const { return aQString(control_.GetTextoInvisible()); }
 
-    /// Una acción de las que los menús y las barras suelen tener, con su texto, sus teclas, que valen mientras
-    /// el control tiene el foco, y activa cuando sirve de algo. Es del control y siempre la misma. Las teclas
-    /// con Control, que el control deja a su anfitrión, solo tienen efecto si se han pedido sus acciones.
+    /// Una acción de las que los menús y las barras suelen tener, con su texto, sus teclas, que valen
+    /// mientras el control tiene el foco, y activa cuando sirve de algo. Es del control y siempre la misma.
+    /// Las teclas con Control, que el control deja a su anfitrión, solo tienen efecto si se han pedido sus
+    /// acciones.
     QAction* accion(AccionNorvik cual);
 
     QSize sizeHint() const override { return {480, 320}; }
