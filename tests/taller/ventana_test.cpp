@@ -488,7 +488,7 @@ TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
 TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
     constexpr int lineas = 33000;
     const QString texto = QStringLiteral("a\n").repeated(lineas);
-    const QString sigue = ". Se edita y se guarda, pero ya no se colorea ni se analiza";
+    const QString sigue = ". Se edita, se colorea y se guarda, pero ya no se analiza";
     const QString limiteDeLineas = "Desbordamiento: el texto pasa de 32767 líneas" + sigue;
     const auto editor = [&] { return static_cast<QPlainTextEdit*>(&norvik().caja().ventana()); };
     const auto pulsa = [&](Qt::Key tecla) {
