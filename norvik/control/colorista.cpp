@@ -30,6 +30,8 @@ Colorista::Colorista(Lenguaje lenguaje, const pilaTokens& lexico)
         colores_.push_back(definicion->colorTexto == sinColor ? 0 : definicion->colorTexto);
 }
 
+Colorista::~Colorista() = default;
+
 /// From token to token, as `Coloreado` walks.
 std::vector<TramoDeColor> Colorista::colores(std::u16string_view texto, const Presupuesto& presupuesto) {
     reconocedor_.reconoce(texto, presupuesto, mapa_);

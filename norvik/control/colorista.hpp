@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/base/presupuesto.hpp"
 #include "norvik/lexer/reconocedor.hpp"
 #include "norvik/pattern/mapaCoincidencias.hpp"
@@ -17,10 +18,13 @@ namespace norvik::inline v0_2 {
 class pilaTokens;
 
 /// Knows the colours of texts of one language, of any length. It serves one thread at a time, any thread.
-class Colorista {
+class NORVIK_API Colorista {
 public:
     /// The language is the lexer's, whose definitions tell the colours.
     Colorista(Lenguaje lenguaje, const pilaTokens& lexico);
+    Colorista(const Colorista&) = delete;
+    Colorista& operator=(const Colorista&) = delete;
+    ~Colorista();
 
     /// The colours that colouring all of a plain text gives it: runs of one colour, in order and without
     /// gaps. Raises what recognition does (`Reconocedor::reconoce`).

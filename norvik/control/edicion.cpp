@@ -31,12 +31,11 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
         const auto vivo = duenio.lock();
         if (vivo == nullptr) return;
         const Edicion& edicion = *this; // this function may go with its box
-        const CambioDeTexto suCambio = cambio;
         PasosFirmes paso;
         lineas_.siguePosiciones(cambio);
         textoPorAvisar_ = true;
         paso([&] { alCambiarLibre(cambio); });
-        if (!edicion.callada_) paso([&] { edicion.contenedor_->cambioElTexto(suCambio); });
+        if (!edicion.callada_) paso([&] { edicion.contenedor_->cambioElTexto(cambio); });
         paso.acaba();
     };
     e.cambioDeSeleccion = libre([this] { alCambiarLaSeleccion(); });

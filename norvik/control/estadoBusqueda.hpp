@@ -40,7 +40,7 @@ struct EstadoBusqueda : DestinoBusqueda {
     bool dialogoAbierto = false;
 
     /// Another text is searched from now on.
-    void apunta(DestinoBusqueda destino);
+    NORVIK_API void apunta(DestinoBusqueda destino);
 };
 
 inline EstadoBusqueda& estadoBusqueda() {

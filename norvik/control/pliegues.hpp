@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "norvik/base/api.hpp"
 #include "norvik/parser/arbolAnalisis.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
@@ -29,10 +30,10 @@ struct Construccion {
 
 /// Those of a tree that a person folds: what begins with a token of its own (a list begins with its first
 /// element, and folds as that). Of those that begin on one line the longest, in their order.
-std::vector<Construccion> construccionesDe(const ArbolAnalisis& arbol);
+NORVIK_API std::vector<Construccion> construccionesDe(const ArbolAnalisis& arbol);
 
 /// The constructions of a text by its last good tree, moved with the edits.
-class Pliegues {
+class NORVIK_API Pliegues {
 public:
     /// Those of the text as it is now.
     void toma(std::vector<Construccion> construcciones) { construcciones_ = std::move(construcciones); }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace norvik::inline v0_2 {
 
@@ -58,13 +59,13 @@ std::u16string CajaTexto::conSaltosDobles(std::u16string_view texto, std::int32_
 
 void CajaTexto::ponTexto(std::u16string_view texto) {
     std::u16string nuevo = conSaltosDobles(texto, 0, static_cast<std::int32_t>(texto_.size()));
-    const CambioDeTexto cambio = cambioEn(0, static_cast<std::int32_t>(texto_.size()), nuevo);
+    CambioDeTexto cambio = cambioEn(0, static_cast<std::int32_t>(texto_.size()), nuevo);
     std::vector<Estilo> estilos(nuevo.size());
     texto_ = std::move(nuevo);
     estilos_ = std::move(estilos);
     inicio_ = longitud_ = 0;
     modificado_ = false;
-    avisaDelCambio(cambio);
+    avisaDelCambio(std::move(cambio));
 }
 
 void CajaTexto::selecciona(std::int32_t inicio, std::int32_t longitud) {
@@ -86,25 +87,25 @@ std::u16string CajaTexto::textoSeleccionado() const {
 void CajaTexto::reemplazaSeleccion(std::u16string_view texto) {
     if (texto.empty() && longitud_ == 0) return;
     const std::u16string nuevo = conSaltosDobles(texto, inicio_, inicio_ + longitud_);
-    const CambioDeTexto cambio = cambioEn(inicio_, longitud_, nuevo);
+    CambioDeTexto cambio = cambioEn(inicio_, longitud_, nuevo);
     cambia(cambio, nuevo, estiloSeleccion());
     inicio_ += cambio.puestos;
     longitud_ = 0;
-    avisaDelCambio(cambio);
+    avisaDelCambio(std::move(cambio));
 }
 
 void CajaTexto::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                       std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
-    const CambioDeTexto cambio = cambioEn(inicio, quitados, texto);
+    CambioDeTexto cambio = cambioEn(inicio, quitados, texto);
     cambia(cambio, texto, estiloEn(inicio, quitados));
     inicio_ = inicioSeleccion;
     longitud_ = longitudSeleccion;
-    avisaDelCambio(cambio);
+    avisaDelCambio(std::move(cambio));
 }
 
 void CajaTexto::sustituye(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo,
                           const Seleccion& despues, std::span<const TramoDeColor> colores) {
-    const CambioDeTexto cambio = cambioEn(inicio, quitados, nuevo);
+    CambioDeTexto cambio = cambioEn(inicio, quitados, nuevo);
     cambia(cambio, nuevo, {});
     for (const TramoDeColor& tramo : colores) {
         const auto desde = estilos_.begin() + tramo.inicio;
@@ -112,7 +113,7 @@ void CajaTexto::sustituye(std::int32_t inicio, std::int32_t quitados, std::u16st
     }
     inicio_ = despues.inicio;
     longitud_ = despues.longitud;
-    avisaDelCambio(cambio);
+    avisaDelCambio(std::move(cambio));
 }
 
 CambioDeTexto CajaTexto::cambioEn(std::int32_t inicio, std::int32_t quitados,
@@ -139,7 +140,7 @@ void CajaTexto::cambia(const CambioDeTexto& s, std::u16string_view nuevo, const 
     modificado_ = true;
 }
 
-void CajaTexto::avisaDelCambio(CambioDeTexto cambio) {
+void CajaTexto::avisaDelCambio(CambioDeTexto&& cambio) {
     lineasAlDia_ = false;
     estiloDeEscritura_.reset();
     cambio.otraSeleccion = cambio.seleccionAntes != Seleccion{inicio_, longitud_};

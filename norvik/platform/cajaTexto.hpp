@@ -250,7 +250,7 @@ private:
     std::u16string conSaltosDobles(std::u16string_view texto, std::int32_t inicio, std::int32_t fin) const;
     CambioDeTexto cambioEn(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo) const;
     void cambia(const CambioDeTexto& cambio, std::u16string_view nuevo, const Estilo& estilo);
-    void avisaDelCambio(CambioDeTexto cambio);
+    void avisaDelCambio(CambioDeTexto&& cambio);
     Estilo estiloEn(std::int32_t inicio, std::int32_t longitud) const;
     Estilo estiloSeleccion() const { return estiloEn(inicio_, longitud_); }
     template <typename Cambio>

@@ -4,6 +4,7 @@
 
 #include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/diagnosticosVistos.hpp"
@@ -96,11 +97,13 @@ bool MargenDeLineas::event(QEvent* evento) {
 }
 
 void MargenDeLineas::paintEvent(QPaintEvent* /*evento*/) {
-    QPainter pintor(this);
-    pintor.setClipRect(0, 0, width(), caja_.vista().viewport()->height());
-    if (numeros_) pintaNumeros(pintor);
-    pintaDiagnosticos(pintor);
-    if (plegado_.permitido()) pintaPliegues(pintor);
+    sinFallos([&] { // what is left out is drawn the next time
+        QPainter pintor(this);
+        pintor.setClipRect(0, 0, width(), caja_.vista().viewport()->height());
+        if (numeros_) pintaNumeros(pintor);
+        pintaDiagnosticos(pintor);
+        if (plegado_.permitido()) pintaPliegues(pintor);
+    });
 }
 
 /// The caret's line stands out.
