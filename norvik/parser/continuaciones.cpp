@@ -75,6 +75,7 @@ std::vector<bool> Analizador::definicionesQueSiguen(std::u16string_view texto,
                Avance::Desplazado;
     };
     std::vector<bool> siguen;
+    siguen.reserve(lexico_.tokensLenguaje().size());
     for (std::int32_t lugar = 0; lugar < static_cast<std::int32_t>(lexico_.tokensLenguaje().size()); ++lugar)
         siguen.push_back(cabe(lenguaje_.columna({lugar, {}})));
     return siguen;

@@ -88,7 +88,7 @@ void VistaTexto::acerca(int posicion) {
 
 /// Qt's editor changes its size by the wheel where nothing can be edited.
 void VistaTexto::wheelEvent(QWheelEvent* evento) {
-    QAbstractScrollArea::wheelEvent(evento);
+    QAbstractScrollArea::wheelEvent(evento); // NOLINT(bugprone-parent-virtual-call)
     updateMicroFocus();
 }
 
