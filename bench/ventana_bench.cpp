@@ -2,7 +2,7 @@
 
 // Times what the widget costs while a person edits, on the C-like example's text near 30,000 characters:
 // a typed character, leaving a line, colouring the whole; each with the events that it leaves pending,
-// painting among them. The window is drawn in memory.
+// painting among them. The window is drawn in memory. The last one is of a long text.
 #include "lenguaje.hpp"
 
 #include "norvik/base/ficheros.hpp"
@@ -10,9 +10,17 @@
 #include "norvik/widget/controlNorvik.hpp"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QThread>
 
 #include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <string>
+#include <vector>
 
 namespace norvik::bench {
 namespace {
@@ -91,6 +99,52 @@ void colorearTodo(benchmark::State& estado) {
     }
 }
 BENCHMARK(colorearTodo)->Unit(benchmark::kMillisecond);
+
+/// A program of a million characters, all aids on.
+std::u16string unMillon() {
+    std::u16string texto;
+    while (texto.size() < 1'000'000) texto += u"x = f(a, 12) + b[3]; /* c */\r\n";
+    return texto;
+}
+
+/// Keys of several kinds. What other threads bring back comes in the pauses between them, of which the
+/// longest turn is told, as is the key that one in a hundred is slower than.
+void teclearEnUnMillonConAyudas(benchmark::State& estado) {
+    Ventana v;
+    v.norvik.control().ponAyudas(todasLasAyudas());
+    v.caja.ponTexto(unMillon());
+    struct Tecla {
+        Qt::Key tecla;
+        const char* texto;
+    };
+    constexpr std::array teclas = {Tecla{Qt::Key_A, "a"},       Tecla{Qt::Key_ParenLeft, "("},
+                                   Tecla{Qt::Key_Right, ""},    Tecla{Qt::Key_Down, ""},
+                                   Tecla{Qt::Key_Return, "\r"}, Tecla{Qt::Key_Backspace, "\b"}};
+    std::mt19937 azar(1);
+    std::vector<double> tardanzas;
+    double vueltaMasLarga = 0;
+    const auto mide = [](const auto& orden) {
+        QElapsedTimer reloj;
+        reloj.start();
+        orden();
+        return static_cast<double>(reloj.nsecsElapsed()) / 1e6;
+    };
+    for ([[maybe_unused]] auto vuelta : estado) {
+        const Tecla& t = teclas[azar() % teclas.size()];
+        tardanzas.push_back(mide([&] { v.pulsa(t.tecla, QLatin1String(t.texto)); }));
+        estado.PauseTiming();
+        if (tardanzas.size() % 100 == 0)
+            v.caja.selecciona(v.caja.inicioDeLinea(static_cast<std::int32_t>(azar() % 30'000)), 0);
+        QElapsedTimer pausa;
+        for (pausa.start(); pausa.elapsed() < 60; QThread::msleep(1))
+            vueltaMasLarga = std::max(vueltaMasLarga, mide([] { QCoreApplication::processEvents(); }));
+        estado.ResumeTiming();
+    }
+    std::ranges::sort(tardanzas);
+    estado.counters["p99_ms"] = tardanzas[tardanzas.size() * 99 / 100];
+    estado.counters["pausa_ms"] = vueltaMasLarga;
+}
+BENCHMARK(teclearEnUnMillonConAyudas)->Unit(benchmark::kMillisecond)->Iterations(600);
 
 } // namespace
 } // namespace norvik::bench

@@ -36,7 +36,7 @@ std::string propuestas(std::u16string texto) {
     const Continuaciones c = continuaciones(lenguaje(), texto, lugar);
     std::string todas = std::to_string(lugar - c.inicio) + ":";
     for (const Continuacion& p : c.propuestas) {
-        constexpr std::array marcas = {"", "<", "\""};
+        constexpr std::array marcas = {"", "<", "*"};
         todas += " " + std::string(marcas[static_cast<std::size_t>(p.clase)]) + aUtf8(p.texto);
     }
     return todas;
@@ -51,17 +51,17 @@ TEST(Continuaciones, LoQueLaTablaPuedeDesplazar) {
     } casos[] = {
         {u"|", "0: si { <identificador"},
         {u"x |", "0: ="},
-        {u"x = |;", "0: <cadena <identificador \"x"},
-        {u"x = ab|;", "2: <cadena <identificador \"x"}, // what is being written is not proposed
-        {u"x = ab|; ab = x;", "2: <cadena <identificador \"ab \"x"},
-        {u"si x y = z; |", "0: si sino { <identificador \"x \"y \"z"},
-        {u"{ x = y; |", "0: si { } <identificador \"x \"y"},
-        {u"{ x = = y; |", "0: si { } <identificador \"x \"y"}, // behind an error
-        {u"{ x # = y; |", "0: si { } <identificador \"x \"y"},
+        {u"x = |;", "0: <cadena <identificador *x"},
+        {u"x = ab|;", "2: <cadena <identificador *x"}, // what is being written is not proposed
+        {u"x = ab|; ab = x;", "2: <cadena <identificador *ab *x"},
+        {u"si x y = z; |", "0: si sino { <identificador *x *y *z"},
+        {u"{ x = y; |", "0: si { } <identificador *x *y"},
+        {u"{ x = = y; |", "0: si { } <identificador *x *y"}, // behind an error
+        {u"{ x # = y; |", "0: si { } <identificador *x *y"},
         {u"x = 'a|b';", "1:"},
         {u"x = /* | */", "0:"},
         {u"x = -- y|", "1:"},
-        {u"x = /* */|", "0: <cadena <identificador \"x"},
+        {u"x = /* */|", "0: <cadena <identificador *x"},
     };
     for (const auto& caso : casos) EXPECT_EQ(propuestas(caso.texto), caso.esperado) << aUtf8(caso.texto);
 }

@@ -200,6 +200,7 @@ TEST_F(AyudasDeVista, DeSoloLecturaNoHaceZoomSinPermiso) {
 TEST_F(AyudasDeVista, SoloSeResaltaLoQueSeVe) {
     editor.Text(QString(5000, u'\n').replace("\n", "abc\n"));
     std::vector<Diagnostico> todos;
+    todos.reserve(5000);
     for (int i = 0; i < 5000; ++i)
         todos.push_back({Codigo::TokenInesperado, Gravedad::Error, {{5 * i}, {5 * i + 3}}, {}});
     editor.ponDiagnosticos(todos);

@@ -31,7 +31,7 @@ struct AyudasTeclas : testing::Test {
     }
     void teclea(const QString& texto) { QTest::keyClicks(&editor, texto); }
     /// The text with its selection, as the control and the editor have it; / is a line break.
-    QString visto() {
+    QString visto() const {
         QCoreApplication::processEvents();
         QString texto = norvik.Text();
         texto.insert(norvik.SelStart() + norvik.SelLength(), u']').insert(norvik.SelStart(), u'[');

@@ -41,14 +41,14 @@ struct Busca : testing::Test {
         norvik->setFocus();
         norvik->Text("ab Ab cabo a.b");
     }
-    QPlainTextEdit& editor() { return static_cast<QPlainTextEdit&>(norvik->caja().ventana()); }
-    QWidget& barra() { return *norvik->findChild<QWidget*>("barraDeBusqueda"); }
-    bool hayBarra() {
+    QPlainTextEdit& editor() const { return static_cast<QPlainTextEdit&>(norvik->caja().ventana()); }
+    QWidget& barra() const { return *norvik->findChild<QWidget*>("barraDeBusqueda"); }
+    bool hayBarra() const {
         return norvik->findChild<QWidget*>("barraDeBusqueda") != nullptr && barra().isVisible();
     }
-    QLineEdit& campo() { return *norvik->findChild<QLineEdit*>("campo"); }
+    QLineEdit& campo() const { return *norvik->findChild<QLineEdit*>("campo"); }
     /// What the bar says, once it is what is expected, or after a long time.
-    QString cuenta(const QString& esperada) {
+    QString cuenta(const QString& esperada) const {
         const auto& rotulo = *norvik->findChild<QLabel*>("cuenta");
         static_cast<void>(QTest::qWaitFor([&] { return rotulo.text() == esperada; }, 3000));
         return rotulo.text();
@@ -57,7 +57,7 @@ struct Busca : testing::Test {
     static void pulsa(Qt::Key tecla, Qt::KeyboardModifiers teclas = Qt::NoModifier) {
         QTest::keyClick(QApplication::focusWidget(), tecla, teclas);
     }
-    QString seleccion() {
+    QString seleccion() const {
         const QString texto = norvik->Text();
         const int inicio = norvik->property("SelStart").toInt();
         return texto.mid(inicio > 20 ? inicio : 0, inicio > 20 ? 0 : inicio) + '[' + norvik->SelText() + ']';

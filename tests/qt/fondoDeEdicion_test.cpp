@@ -43,7 +43,7 @@ struct Ventana {
             if (posicion < t.inicio + t.longitud) return t.color;
         return -1;
     }
-    void escribe(std::u16string_view texto) { norvik->caja().reemplazaSeleccion(texto); }
+    void escribe(std::u16string_view texto) const { norvik->caja().reemplazaSeleccion(texto); }
 
     std::unique_ptr<ControlNorvik> norvik = std::make_unique<ControlNorvik>();
 };
