@@ -237,8 +237,7 @@ void VentanaPrincipal::otroActivo() {
 void VentanaPrincipal::cuentaFallo(const QString& texto) {
     const bool largo = formulario_.activo().norvik().caja().texto().size() > maximoTexto;
     statusBar()->showMessage(
-        largo ? texto + QStringLiteral(". Se edita, se colorea y se guarda, pero ya no se analiza")
-              : texto);
+        largo ? texto + QStringLiteral(". Se edita, se colorea y se guarda, pero ya no se analiza") : texto);
 }
 
 void VentanaPrincipal::actualizaTitulo() {
