@@ -22,19 +22,6 @@
 
 namespace norvik::inline v0_2 {
 
-namespace {
-
-/// End of a line (0-based) without its line break.
-std::int32_t finDeLinea(const CajaTexto& caja, std::int32_t linea) {
-    const std::u16string_view texto = caja.texto();
-    const std::int32_t siguiente = caja.inicioDeLinea(linea + 1);
-    if (siguiente < 0) return static_cast<std::int32_t>(texto.size());
-    const auto hastaElSalto = texto.substr(0, static_cast<std::size_t>(siguiente));
-    return siguiente - (hastaElSalto.ends_with(u"\r\n") ? 2 : 1);
-}
-
-} // namespace
-
 // --- Painting ---
 
 /// `linea` is the line that the range is, or `ninguna`: a line with the error colour loses it.
@@ -74,6 +61,7 @@ void LineasEditadas::coloreaLinea(std::int32_t linea) {
 }
 
 void LineasEditadas::coloreaPuesto(std::int32_t inicio, std::int32_t fin) {
+    if (nadaEspera()) return;
     const std::int32_t primera = caja_->lineaDeCaracter(inicio);
     const std::int32_t ultima = caja_->lineaDeCaracter(fin);
     if (alDia() || primera == ultima || caja_->texto().size() > maximoTexto) return;
@@ -206,7 +194,7 @@ std::optional<std::int32_t> LineasEditadas::cambiaDeLinea(bool cortada, PasosFir
 
 void LineasEditadas::coloreaLoDejado(bool dejada, PasosFirmes& paso) {
     if (!recoloreaRango_ && !dejada) return;
-    if (alDia() && !opciones_.autoCorreccion) return;
+    if (nadaEspera()) return;
     const TextoOculto oculto(colocacion_);
     const std::int32_t cursor = caja_->inicioSeleccion();
     if (recoloreaRango_) paso([&] { coloreaRango(posicionAnterior_, cursor, ninguna); });

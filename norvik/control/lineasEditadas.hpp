@@ -79,6 +79,8 @@ private:
     static constexpr std::int32_t ninguna = -1;
 
     bool alDia() const { return opciones_.colorear && ayudas_.coloreaAlEscribir; }
+    /// The last change left nothing to be coloured, nor words to be corrected.
+    bool nadaEspera() const { return alDia() && !opciones_.autoCorreccion; }
     void ponAlDiaTrasCambio();
     std::int32_t lineaDelCursor() const { return caja_->lineaDeCaracter(caja_->inicioSeleccion()); }
     std::int32_t longitudDelTexto() const { return static_cast<std::int32_t>(caja_->texto().size()); }

@@ -33,6 +33,13 @@ std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto) {
     return texto.substr(inicio, fin - inicio);
 }
 
+std::int32_t finDeLinea(const FuenteTexto& texto, std::int32_t linea) {
+    const std::int32_t siguiente = texto.inicioDeLinea(linea + 1);
+    if (siguiente < 0) return static_cast<std::int32_t>(texto.texto().size());
+    const auto hastaElSalto = texto.texto().substr(0, static_cast<std::size_t>(siguiente));
+    return siguiente - (hastaElSalto.ends_with(saltoDeLinea) ? 2 : 1);
+}
+
 std::int16_t numeroDeLinea(std::int32_t linea) {
     constexpr std::int16_t ultima = std::numeric_limits<std::int16_t>::max();
     if (linea >= ultima)

@@ -6,6 +6,8 @@
 
 #include "norvik/control/sangria.hpp"
 
+#include "norvik/control/lineasTexto.hpp"
+
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -38,17 +40,6 @@ struct Lineas {
         return *(std::ranges::upper_bound(traslados, posicion, {}, &Traslado::desde) - 1);
     }
 };
-
-std::int32_t finDeLinea(const CajaTexto& caja, std::int32_t linea) {
-    std::int32_t fin = caja.inicioDeLinea(linea + 1);
-    const auto texto = caja.texto();
-    if (fin < 0) return static_cast<std::int32_t>(texto.size());
-    const auto esSalto = [&](std::int32_t i) {
-        return texto[static_cast<std::size_t>(i)] == u'\r' || texto[static_cast<std::size_t>(i)] == u'\n';
-    };
-    while (fin > caja.inicioDeLinea(linea) && esSalto(fin - 1)) --fin;
-    return fin;
-}
 
 /// The last line that a selection touches: not one at whose start it ends.
 std::int32_t ultimaLinea(const CajaTexto& caja) {

@@ -14,6 +14,9 @@
 
 namespace norvik::inline v0_2 {
 
+/// A damaged table may go on reducing for ever.
+constexpr std::size_t maximoReducciones = 100'000;
+
 enum class Avance : std::uint8_t { Desplazado, Aceptado, Rechazado, SinFin };
 
 /// Reduces a stack, which has `cima()`, `quita(n)` and `pon(estado)`, by a rule; false when the table has no
@@ -85,5 +88,12 @@ private:
     std::span<const std::int16_t> debajo_;
     std::vector<std::int16_t> encima_;
 };
+
+/// What a token comes to on a stack that stays as it is; the trial holds the stack behind it.
+inline Avance ensaya(PilaEnsayo& ensayo, std::span<const std::int16_t> pila, std::int16_t columna,
+                     const LenguajeAnalisis& lenguaje) {
+    ensayo.empieza(pila);
+    return avanza(ensayo, columna, lenguaje, maximoReducciones, [](std::int16_t /*regla*/) {});
+}
 
 } // namespace norvik::inline v0_2

@@ -40,7 +40,6 @@ constexpr std::size_t maximoReparaciones = 100;
 constexpr std::size_t pasosPorEscrita = 50; // it takes memory, too
 constexpr std::size_t pasosPorLlegada = 5;
 constexpr std::size_t columnasPorPaso = 8;
-constexpr std::size_t maximoReducciones = 100'000; // a table may never stop reducing
 
 struct Configuracion {
     Pila pila = 0;

@@ -24,8 +24,6 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::size_t maximoReducciones = 100'000;
-
 bool esPalabra(std::u16string_view texto) {
     const bool cifra = !texto.empty() && texto.front() >= u'0' && texto.front() <= u'9';
     return !texto.empty() && !cifra && std::ranges::all_of(texto, esDePalabra);
@@ -70,9 +68,7 @@ std::vector<bool> Analizador::definicionesQueSiguen(std::u16string_view texto,
     const std::vector<std::int16_t> pila = pilaTras(texto, opciones);
     PilaEnsayo ensayo(pila);
     const auto cabe = [&](std::int16_t columna) {
-        ensayo.empieza(pila);
-        return avanza(ensayo, columna, lenguaje_, maximoReducciones, [](std::int16_t /*regla*/) {}) ==
-               Avance::Desplazado;
+        return ensaya(ensayo, pila, columna, lenguaje_) == Avance::Desplazado;
     };
     std::vector<bool> siguen;
     siguen.reserve(lexico_.tokensLenguaje().size());
@@ -93,11 +89,8 @@ std::vector<std::int16_t> Analizador::pilaTras(std::u16string_view texto, const 
             lector.leeEn(lectura.inicio + static_cast<std::int32_t>(lectura.leido.lexema.size()));
             continue;
         }
-        ensayo.empieza(pila);
         const std::int16_t columna = lenguaje_.columna(lectura.leido);
-        const auto avance =
-            avanza(ensayo, columna, lenguaje_, maximoReducciones, [](std::int16_t /*regla*/) {});
-        if (avance == Avance::Desplazado) ensayo.consuma(pila);
+        if (ensaya(ensayo, pila, columna, lenguaje_) == Avance::Desplazado) ensayo.consuma(pila);
         lector.lee();
     }
     return pila;

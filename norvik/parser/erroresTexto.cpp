@@ -25,9 +25,6 @@ std::u16string describe(const pilaTokens& lexico, const TokenLeido& token) {
     return definicion.pseudoToken.empty() ? palabras::entreApostrofos(token.lexema) : definicion.pseudoToken;
 }
 
-// A damaged table may go on reducing for ever.
-constexpr std::size_t maximoReducciones = 100'000;
-
 } // namespace
 
 Diagnostico caracterIncorrecto(std::u16string_view texto, std::size_t indice, const Lugares& lugares) {
@@ -50,9 +47,7 @@ std::vector<std::u16string> esperadosEn(std::span<const std::int16_t> pila, cons
     PilaEnsayo ensayo(pila);
     std::vector<std::u16string> esperados;
     for (const std::int16_t columna : fichas.terminales()) {
-        ensayo.empieza(pila);
-        const Avance avance =
-            avanza(ensayo, columna, lenguaje, maximoReducciones, [](std::int16_t /*regla*/) {});
+        const Avance avance = ensaya(ensayo, pila, columna, lenguaje);
         if (avance != Avance::Desplazado && avance != Avance::Aceptado) continue;
         for (const std::u16string& texto : fichas.de(columna).esperados)
             if (std::ranges::find(esperados, texto) == esperados.end()) esperados.push_back(texto);

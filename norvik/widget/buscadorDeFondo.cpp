@@ -5,6 +5,8 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 
+#include <optional>
+#include <stop_token>
 #include <utility>
 
 namespace norvik {
@@ -31,26 +33,13 @@ BuscadorDeFondo::Resultado hallado(const BusquedaDirecta& busqueda, std::u16stri
 
 } // namespace
 
-/// The thread before this one ends soon after it is asked to.
 void BuscadorDeFondo::busca(const BusquedaDirecta& busqueda, std::u16string texto) {
     para();
-    auto trabajo = [this, busqueda, texto = std::move(texto),
-                    numero = numero_](const std::stop_token& parada) {
-        sinFallos([&] {
-            const Resultado resultado = hallado(busqueda, texto, parada);
-            if (parada.stop_requested()) return;
-            const auto entrega = [this, numero, resultado] {
-                if (numero == numero_) emit acabado(resultado);
-            };
-            QMetaObject::invokeMethod(this, entrega, Qt::QueuedConnection);
-        });
-    };
-    hilo_ = std::jthread(std::move(trabajo));
-}
-
-void BuscadorDeFondo::para() {
-    ++numero_;
-    hilo_ = {};
+    trabajo_.empieza([busqueda, texto = std::move(texto)](
+                         const std::stop_token& parada) { return hallado(busqueda, texto, parada); },
+                     [this](const std::optional<Resultado>& resultado) {
+                         if (resultado) emit acabado(*resultado);
+                     });
 }
 
 } // namespace norvik

@@ -3,13 +3,12 @@
 #pragma once
 
 #include "norvik/control/busquedaDirecta.hpp"
+#include "norvik/widget/trabajoDeFondo.hpp"
 
 #include <QObject>
 #include <QString>
 
-#include <cstdint>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace norvik {
@@ -27,14 +26,13 @@ public:
     /// Gives up the search before this one, which is over without a result. Raises what a system does that
     /// has no thread left.
     void busca(const BusquedaDirecta& busqueda, std::u16string texto);
-    void para();
+    void para() { trabajo_.para(); }
 
 signals:
     void acabado(const norvik::BuscadorDeFondo::Resultado& resultado);
 
 private:
-    std::uint64_t numero_ = 0; ///< of the search that is awaited
-    std::jthread hilo_;
+    TrabajoDeFondo<Resultado> trabajo_;
 };
 
 } // namespace norvik

@@ -6,7 +6,6 @@
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 #include "norvik/platform/qt/medidas.hpp"
-#include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/diagnosticosVistos.hpp"
 #include "norvik/widget/plegado.hpp"
 #include "norvik/widget/signo.hpp"
@@ -100,30 +99,28 @@ void MargenDeLineas::paintEvent(QPaintEvent* /*evento*/) {
     sinFallos([&] { // what is left out is drawn the next time
         QPainter pintor(this);
         pintor.setClipRect(0, 0, width(), caja_.vista().viewport()->height());
-        if (numeros_) pintaNumeros(pintor);
-        pintaDiagnosticos(pintor);
-        if (plegado_.permitido()) pintaPliegues(pintor);
+        const auto vistas = caja_.vista().lineasVistas();
+        if (numeros_) pintaNumeros(pintor, vistas);
+        if (diagnosticos_.hay() && !vistas.empty()) pintaDiagnosticos(pintor, vistas);
+        if (plegado_.permitido()) pintaPliegues(pintor, vistas);
     });
 }
 
 /// The caret's line stands out.
-void MargenDeLineas::pintaNumeros(QPainter& pintor) const {
+void MargenDeLineas::pintaNumeros(QPainter& pintor, const Lineas& vistas) const {
     const QColor destacado = palette().color(QPalette::WindowText);
     QColor corriente = destacado;
     constexpr int tenue = 165;
     corriente.setAlpha(tenue);
     pintor.setFont(caja_.vista().font());
-    for (const VistaTexto::Linea& l : caja_.vista().lineasVistas()) {
+    for (const VistaTexto::Linea& l : vistas) {
         pintor.setPen(l.numero == actual_ ? destacado : corriente);
         pintor.drawText(QRect(0, l.arriba, width() - margen - anchoDePliegues(), l.alto),
                         Qt::AlignRight | Qt::AlignTop, QString::number(l.numero + 1));
     }
 }
 
-void MargenDeLineas::pintaDiagnosticos(QPainter& pintor) const {
-    if (!diagnosticos_.hay()) return;
-    const auto vistas = caja_.vista().lineasVistas();
-    if (vistas.empty()) return;
+void MargenDeLineas::pintaDiagnosticos(QPainter& pintor, const Lineas& vistas) const {
     const auto malas = diagnosticos_.enLineas(vistas.front().numero, vistas.back().numero);
     const TwipsPorPixel pixel = twipsPorPixel(*this);
     const int lado = aPixeles(ladoDeSigno, pixel.y);
@@ -138,14 +135,14 @@ void MargenDeLineas::pintaDiagnosticos(QPainter& pintor) const {
 }
 
 /// A triangle that points to what is hidden, or down to what can be.
-void MargenDeLineas::pintaPliegues(QPainter& pintor) const {
+void MargenDeLineas::pintaPliegues(QPainter& pintor, const Lineas& vistas) const {
     const double lado = anchoDePliegues();
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setPen(Qt::NoPen);
     pintor.setBrush(palette().color(QPalette::WindowText));
     const QPolygonF abierto({{0.25, 0.35}, {0.75, 0.35}, {0.5, 0.7}});
     const QPolygonF plegado({{0.35, 0.25}, {0.7, 0.5}, {0.35, 0.75}});
-    for (const VistaTexto::Linea& l : caja_.vista().lineasVistas()) {
+    for (const VistaTexto::Linea& l : vistas) {
         const Plegado::Estado estado = plegado_.estado(l.numero);
         if (estado == Plegado::Estado::Ninguno) continue;
         QTransform sitio;

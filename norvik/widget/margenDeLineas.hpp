@@ -2,7 +2,11 @@
 
 #pragma once
 
+#include "norvik/platform/qt/vistaTexto.hpp"
+
 #include <QWidget>
+
+#include <vector>
 
 namespace norvik {
 
@@ -30,10 +34,12 @@ protected:
     void mousePressEvent(QMouseEvent* evento) override;
 
 private:
+    using Lineas = std::vector<VistaTexto::Linea>;
+
     void muestraDiagnosticos();
-    void pintaNumeros(QPainter& pintor) const;
-    void pintaDiagnosticos(QPainter& pintor) const;
-    void pintaPliegues(QPainter& pintor) const;
+    void pintaNumeros(QPainter& pintor, const Lineas& vistas) const;
+    void pintaDiagnosticos(QPainter& pintor, const Lineas& vistas) const;
+    void pintaPliegues(QPainter& pintor, const Lineas& vistas) const;
     int anchoDePliegues() const;
 
     CajaTextoQt& caja_;

@@ -5,6 +5,7 @@
 #include <QMetaObject>
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,10 +31,17 @@ public:
     ~TrabajoDeFondo() = default;
 
     bool trabaja() const { return trabaja_; }
-    /// Does nothing while other work goes on. `alAcabar` may begin more work, and delete this.
+    /// Gives up what goes on: it ends early, and nobody hears of it.
+    void para() {
+        ++numero_;
+        trabaja_ = false;
+        hilo_ = {};
+    }
+    /// Does nothing while other work goes on. `alAcabar` may begin more work, and delete this. Raises what a
+    /// system does that has no thread left.
     void empieza(Trabajo trabajo, AlAcabar alAcabar) {
         if (trabaja_) return;
-        hilo_ = std::jthread([this, trabajo = std::move(trabajo),
+        hilo_ = std::jthread([this, numero = numero_, trabajo = std::move(trabajo),
                               alAcabar = std::move(alAcabar)](const std::stop_token& parada) mutable {
             const auto resultado = std::make_shared<std::optional<Resultado>>();
             try {
@@ -44,7 +52,8 @@ public:
             if (parada.stop_requested()) return;
             QMetaObject::invokeMethod(
                 &contexto_,
-                [this, resultado, alAcabar = std::move(alAcabar)] {
+                [this, numero, resultado, alAcabar = std::move(alAcabar)] {
+                    if (numero != numero_) return;
                     trabaja_ = false;
                     alAcabar(std::move(*resultado));
                 },
@@ -54,7 +63,8 @@ public:
     }
 
 private:
-    QObject contexto_; ///< of what comes back
+    QObject contexto_;         ///< of what comes back
+    std::uint64_t numero_ = 0; ///< of the work that is awaited
     bool trabaja_ = false;
     std::jthread hilo_; ///< goes first
 };

@@ -229,9 +229,9 @@ void CajaTextoQt::ponEstilosEnVista() {
     const std::int32_t primera = lineaDeCaracter(sucio_->inicio);
     const std::int32_t ultima = lineaDeCaracter(sucio_->fin);
     const std::int32_t hasta = std::min(ultima, primera + lineasDeUnaVez);
-    const std::int32_t visible = primeraLineaVisible();
-    const std::int32_t enVentana = vista_->height() / std::max(QFontMetrics(vista_->font()).height(), 1) + 1;
-    if (hasta < ultima) ponEstilosEnLineas(std::max(visible, primera), std::min(visible + enVentana, ultima));
+    const auto vistas = hasta < ultima ? vista_->lineasVistas() : std::vector<VistaTexto::Linea>();
+    if (!vistas.empty())
+        ponEstilosEnLineas(std::max(vistas.front().numero, primera), std::min(vistas.back().numero, ultima));
     ponEstilosEnLineas(primera, hasta);
     if (hasta == ultima) return sucio_.reset();
     sucio_->inicio = inicioDeLinea(hasta + 1);
