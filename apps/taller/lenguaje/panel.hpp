@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "estudio.hpp"
+#include "seleccion.hpp"
+
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/fallos.hpp"
+
+#include <QDockWidget>
+#include <QString>
+
+#include <memory>
+
+namespace norvik::taller {
+
+/// A panel of the language window: shows something of a study. Nothing that is raised leaves its slots: they
+/// do their work in `protege`.
+class Panel : public QDockWidget {
+    Q_OBJECT
+
+public:
+    /// Another study to show. It is kept as long as it is shown; the panels' one is always the same version.
+    virtual void ponEstudio(std::shared_ptr<const Estudio> estudio) = 0;
+    /// Something of the study was chosen elsewhere: shows it when it can, and tells nobody of it.
+    virtual void selecciona(const Seleccion& /*seleccion*/) {}
+
+signals:
+    /// The person chose something here.
+    void elegido(const norvik::taller::Seleccion& seleccion);
+    void fallo(const QString& texto);
+
+protected:
+    /// `nombre` is what the window's state knows it by.
+    Panel(const QString& nombre, const QString& titulo, QWidget* padre) : QDockWidget(titulo, padre) {
+        setObjectName(nombre);
+    }
+
+    template <typename Orden>
+    void protege(const Orden& orden) {
+        if (const auto motivo = falloDe(orden); !motivo.empty()) emit fallo(aQString(motivo));
+    }
+};
+
+} // namespace norvik::taller
