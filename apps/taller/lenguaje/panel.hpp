@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "eleccion.hpp"
 #include "estudio.hpp"
-#include "seleccion.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
@@ -24,11 +24,11 @@ public:
     /// Another study to show. It is kept as long as it is shown; the panels' one is always the same version.
     virtual void ponEstudio(std::shared_ptr<const Estudio> estudio) = 0;
     /// Something of the study was chosen elsewhere: shows it when it can, and tells nobody of it.
-    virtual void selecciona(const Seleccion& /*seleccion*/) {}
+    virtual void selecciona(const Eleccion& /*eleccion*/) {}
 
 signals:
     /// The person chose something here.
-    void elegido(const norvik::taller::Seleccion& seleccion);
+    void elegido(const norvik::taller::Eleccion& eleccion);
     void fallo(const QString& texto);
 
 protected:

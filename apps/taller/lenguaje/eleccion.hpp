@@ -41,7 +41,7 @@ struct DeNodo {
     std::size_t nodo = 0; ///< its place in the study's tree
 };
 
-using Seleccion =
+using Eleccion =
     std::variant<EnEspecificacion, EnTexto, DeSimbolo, DeRegla, DeItem, DeEstado, DeCelda, DeNodo>;
 
 } // namespace norvik::taller
