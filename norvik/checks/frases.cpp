@@ -70,11 +70,11 @@ public:
     Escritor(const Lenguaje& lenguaje, const OpcionesFrases& opciones)
         : lenguaje_(lenguaje), escrituras_(escriturasDe(lenguaje)),
           derivaciones_(lenguaje.vocabulario(), queTienen(escrituras_)), azar_(opciones.semilla),
-          mal_(opciones.mal), usadas_(lenguaje.vocabulario().reglas.size()) {}
+          mal_(opciones.mal), plazo_(opciones.plazo), usadas_(lenguaje.vocabulario().reglas.size()) {}
 
     Frases todasLasReglas() {
         for (std::int16_t regla = 1; regla <= derivaciones_.numReglas(); ++regla)
-            if (!usada(regla) && derivaciones_.alcanza(regla)) usa(regla);
+            if (!usada(regla) && derivaciones_.alcanza(regla) && !plazo_.agotado()) usa(regla);
         Frases frases{std::move(textos_), {}};
         for (std::int16_t regla = 1; regla <= derivaciones_.numReglas(); ++regla)
             if (!usada(regla)) frases.reglasSinUsar.push_back(regla);
@@ -86,7 +86,8 @@ public:
         const auto cualquiera = [this](std::span<const std::int16_t> reglas) {
             return reglas[menorQue(azar_, reglas.size())];
         };
-        for (std::size_t i = 0; i < cuantas * intentos && textos_.size() < cuantas; ++i) {
+        for (std::size_t i = 0; i / intentos < cuantas && textos_.size() < cuantas; ++i) {
+            if (plazo_.agotado()) break;
             const std::vector<std::int16_t> iniciales = deLaInicial();
             if (iniciales.empty()) break;
             const std::size_t hueco = 5 + menorQue(azar_, 60);
@@ -198,6 +199,7 @@ private:
     Derivaciones derivaciones_;
     Azar azar_;
     bool mal_;
+    Presupuesto plazo_;
     std::vector<bool> usadas_; // by rule
     Textos textos_;
     std::set<std::u16string> vistos_;

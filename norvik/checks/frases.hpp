@@ -4,6 +4,7 @@
 
 #include "norvik/spec/lenguaje.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -14,7 +15,8 @@ namespace norvik::inline v0_2 {
 struct OpcionesFrases {
     std::size_t cuantas = 0; ///< at random; 0 for few that use every rule
     std::uint32_t semilla = 1;
-    bool mal = false; ///< each with one error
+    bool mal = false;                                          ///< each with one error
+    std::chrono::microseconds plazo = std::chrono::seconds(6); ///< for writing them
 };
 
 struct Frases {
@@ -24,7 +26,7 @@ struct Frases {
 };
 
 /// Texts of a language, each accepted by `analiza`, or refused with one error. The same options give the
-/// same texts; there are fewer where none was found.
+/// same texts; there are fewer where none was found, or not in time: then they are the first of them.
 Frases frasesDe(const Lenguaje& lenguaje, const OpcionesFrases& opciones);
 
 } // namespace norvik::inline v0_2

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -37,6 +39,15 @@ void compruebaBuenas(const Lenguaje& lenguaje, const Frases& frases, bool todas)
         const bool seDiceQueNo = std::ranges::find(frases.reglasSinUsar, regla) != frases.reglasSinUsar.end();
         EXPECT_NE(usadas.contains(regla), seDiceQueNo) << n;
     }
+}
+
+TEST(Frases, SinTiempoSonLasPrimeras) {
+    const Lenguaje lenguaje =
+        Lenguaje::deFichero(NORVIK_SOURCE_DIR "/ejemplos/calculadora/calculadora.nvk").lenguaje.value();
+    EXPECT_TRUE(frasesDe(lenguaje, {0, 1, false, {}}).textos.empty());
+    const Frases cuantasQuepan = frasesDe(lenguaje, {SIZE_MAX, 1, true, std::chrono::milliseconds(30)});
+    ASSERT_FALSE(cuantasQuepan.textos.empty());
+    EXPECT_EQ(frasesDe(lenguaje, {cuantasQuepan.textos.size(), 1, true}).textos, cuantasQuepan.textos);
 }
 
 TEST(Frases, DeLosEjemplosUsanTodasLasReglasYSonLasMismasCadaVez) {
