@@ -5,7 +5,8 @@
 //   norvik-bench [--lenguaje SPECIFICATION] [--texto TEXT] [options of Google Benchmark]
 //
 // Without them: the C-like example and its text near 30,000 characters. `analisis` is the whole of a parse:
-// `lectura` (in it `reconocimiento`), the driver, and `arbol`.
+// `lectura` (in it `reconocimiento`), the driver, and `arbol`. `pelicula` makes the film of the parse,
+// `salto` goes to one of its moments and looks at all of the stack.
 
 #include "lenguaje.hpp"
 
@@ -15,7 +16,9 @@
 #include "norvik/parser/lectorTokens.hpp"
 #include "norvik/parser/traza.hpp"
 #include "norvik/spec/compiladorEspecificacion.hpp"
+#include "norvik/spec/filma.hpp"
 #include "norvik/spec/lectorModulo.hpp"
+#include "norvik/spec/lenguaje.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 
 #include <benchmark/benchmark.h>
@@ -24,6 +27,7 @@
 #include <filesystem>
 #include <functional>
 #include <iostream>
+#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -144,6 +148,22 @@ void etapasDelTexto(Materia& m) {
     etapa("coloreado", [&m] { m.puesto.control.ColoreaTodo(); });
 }
 
+void etapasDeLaPelicula(Materia& m) {
+    static const Lenguaje lenguaje = *Lenguaje::compila(m.fuente).lenguaje;
+    static const std::u16string texto(m.puesto.caja.texto());
+    static const auto filmada = filma(lenguaje, texto);
+    static std::mt19937 azar(1);
+    etapa("pelicula", [] { benchmark::DoNotOptimize(filma(lenguaje, texto)); });
+    etapa("salto", [] {
+        const auto& pelicula = std::get<Pelicula>(filmada);
+        const std::size_t momento = azar() % (pelicula.ultimo() + 1);
+        for (const auto& [estado, nodo] : pelicula.pila(momento))
+            if (nodo != 0) benchmark::DoNotOptimize(pelicula.simbolo(nodo));
+        benchmark::DoNotOptimize(pelicula.accion(momento));
+        benchmark::DoNotOptimize(pelicula.siguiente(momento));
+    });
+}
+
 /// Takes an option of ours and its value out of the arguments.
 std::filesystem::path opcion(std::vector<char*>& argumentos, std::string_view nombre,
                              std::filesystem::path omision) {
@@ -172,6 +192,7 @@ int main(int argc, char** argv) {
     prepara(materia, lenguaje, texto);
     etapasDelLenguaje(materia);
     etapasDelTexto(materia);
+    etapasDeLaPelicula(materia);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

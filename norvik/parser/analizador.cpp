@@ -87,7 +87,10 @@ Diagnostico sinLugar(Codigo codigo, std::u16string_view hallado = {}) {
 
 Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {
     if (auto error = reconoce(*texto, opciones)) return {{}, {std::move(*error)}};
-    Recorrido recorrido = recorre(*texto, opciones);
+    Recorrido recorrido = recorre(*texto, opciones, [&](Desenlace desenlace, LectorTexto& lector) {
+        if (desenlace == Desenlace::Aceptado) return Recorrido{Final::Aceptado, {}};
+        return repara(*texto, lector, opciones);
+    });
     if (recorrido.final == Final::SinArbol) return {{}, std::move(recorrido.diagnosticos)};
     auto arbol = ArbolAnalisis::construye(std::move(texto), pasos_);
     if (!arbol) {
@@ -97,6 +100,18 @@ Analisis Analizador::analiza(std::unique_ptr<TextoAnalizado> texto, const Opcion
     }
     if (recorrido.final == Final::Reparado) return {{}, std::move(recorrido.diagnosticos), std::move(*arbol)};
     return {std::move(*arbol), {}};
+}
+
+std::variant<Pelicula, Diagnostico> Analizador::filma(std::unique_ptr<TextoAnalizado> texto,
+                                                      const OpcionesAnalisis& opciones) {
+    if (auto error = reconoce(*texto, opciones)) return std::move(*error);
+    Pelicula::Fin fin;
+    const Recorrido recorrido = recorre(*texto, opciones, [&](Desenlace desenlace, LectorTexto& lector) {
+        fin = {lector.lectura(), desenlace == Desenlace::Aceptado};
+        return Recorrido{};
+    });
+    if (!recorrido.diagnosticos.empty()) return recorrido.diagnosticos.front();
+    return Pelicula(std::move(texto), pasos_, fin, lenguaje_);
 }
 
 void Analizador::reconoceTexto(std::u16string_view texto, const OpcionesAnalisis& opciones) {
@@ -118,7 +133,8 @@ std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
     return std::nullopt;
 }
 
-Analizador::Recorrido Analizador::recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones) {
+Analizador::Recorrido Analizador::recorre(TextoAnalizado& texto, const OpcionesAnalisis& opciones,
+                                          const AlParar& alParar) {
     if (gramatica_.simbolos().esVacio()) return {Final::SinArbol, {sinLugar(Codigo::SinGramatica)}};
     if (lenguaje_.actualiza()) {
         cadenas_.olvida();
@@ -127,9 +143,8 @@ Analizador::Recorrido Analizador::recorre(TextoAnalizado& texto, const OpcionesA
     pasos_.clear();
     try {
         CursoDeTexto curso(texto, lexico_, mapa_, lenguaje_, pasos_, opciones.cancelacion);
-        if (MotorSLR(curso, lenguaje_, cadenas_).ejecuta() == Desenlace::Aceptado)
-            return {Final::Aceptado, {}};
-        return repara(texto, curso.lector(), opciones);
+        const Desenlace desenlace = MotorSLR(curso, lenguaje_, cadenas_).ejecuta();
+        return alParar(desenlace, curso.lector());
     } catch (const Corte& corte) {
         return {Final::SinArbol, {sinLugar(corte.codigo, corte.causa)}};
     } catch (const OperacionCancelada&) {

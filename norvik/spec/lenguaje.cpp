@@ -10,6 +10,7 @@
 #include "norvik/spec/compiladorLenguaje.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 #include "norvik/spec/datosLenguaje.hpp"
+#include "norvik/spec/filma.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <limits>
@@ -123,6 +124,13 @@ Analisis analiza(const Lenguaje& lenguaje, std::string_view utf8, const Opciones
     auto texto = desdeUtf8(utf8);
     if (!texto) return {{}, {utf8Incorrecto(utf8)}};
     return analizaTexto(lenguaje, std::move(*texto), Lugares::Unidad::Utf8, opciones);
+}
+
+std::variant<Pelicula, Diagnostico> filma(const Lenguaje& lenguaje, std::u16string_view texto,
+                                          const std::stop_token& cancelacion) {
+    compruebaTamano(texto.size());
+    const DatosDeLenguaje::Prestamo analizador(lenguaje.datos());
+    return analizador->filma(prepara(lenguaje, std::u16string(texto), Lugares::Unidad::Utf16), {cancelacion});
 }
 
 Lexemas lexemas(const Lenguaje& lenguaje, std::u16string_view texto, const OpcionesAnalisis& opciones) {
