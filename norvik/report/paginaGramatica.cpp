@@ -7,6 +7,7 @@
 #include "norvik/base/html.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/historiaHtml.hpp"
+#include "norvik/report/grafoEstados.hpp"
 #include "norvik/report/informe.hpp"
 
 #include <array>
@@ -293,25 +294,21 @@ std::u16string paginaDeGramatica(const GramaticaLR& g, const NotasDePagina& nota
 }
 
 std::u16string grafoDeAutomata(const GramaticaLR& g) {
+    const std::vector<Transicion> transiciones = transicionesDe(g);
     std::u16string grafo = u"digraph {\nrankdir=LR; bgcolor=transparent;\nnode [shape=box, "
                            u"fontname=monospace, fontsize=11]; edge [fontname=monospace, fontsize=11];\n";
-    const auto flecha = [&](int desde, int hasta, std::u16string_view simbolo) {
-        grafo += aTexto(desde) + u" -> " + aTexto(hasta) + u" [label=" + entreComillas(simbolo) + u"];\n";
-    };
+    auto transicion = transiciones.begin();
     for (const estadoAutomata& e : g.automata.estados) {
         const std::u16string numero = aTexto(e.getNumEstado());
         grafo += numero;
         grafo += u" [URL=\"#e" + numero + u"\"];\n";
-        if (e.getNumEstado() == 0) flecha(0, 1, g.partidas.texto(g.partidas.cabeza(1)));
-        std::set<Simbolo> vistos;
-        for (std::size_t i = 0; i < e.items().size(); ++i) {
-            const auto [r, punto] = e.items()[i];
-            if (e.adyacentes()[i] < 0) continue;
-            const Simbolo simbolo = g.partidas.cuerpo(r)[static_cast<std::size_t>(punto)];
-            const bool repite = e.getNumEstado() == 0 && e.adyacentes()[i] == 1;
-            if (vistos.insert(simbolo).second && !repite)
-                flecha(e.getNumEstado(), e.adyacentes()[i], g.partidas.texto(simbolo));
-        }
+        for (; transicion != transiciones.end() && transicion->desde == e.getNumEstado(); ++transicion)
+            grafo.append(numero)
+                .append(u" -> ")
+                .append(aTexto(transicion->hasta))
+                .append(u" [label=")
+                .append(entreComillas(g.partidas.texto(transicion->simbolo)))
+                .append(u"];\n");
     }
     return grafo + u"}\n";
 }
