@@ -2,172 +2,18 @@
 
 #include "norvik/checks/revision.hpp"
 
-#include "norvik/base/lugares.hpp"
-#include "norvik/base/texto.hpp"
-#include "norvik/checks/comprobaciones.hpp"
 #include "norvik/checks/contrasteClasico.hpp"
 #include "norvik/checks/cuentaConflictos.hpp"
-#include "norvik/checks/fuente.hpp"
-#include "norvik/checks/nombreCercano.hpp"
-#include "norvik/pattern/patronClase.hpp"
-#include "norvik/spec/compiladorLenguaje.hpp"
-#include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/checks/revisada.hpp"
+#include "norvik/grammar/gramatica.hpp"
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
-#include <string>
 #include <utility>
 
 namespace norvik::inline v0_2 {
 
 namespace {
-
-// What is known where a name is not: heads for a variable, tokens for a token, definitions for a reference.
-std::vector<std::u16string> conocidosPara(const Diagnostico& diagnostico,
-                                          const FuenteEspecificacion& fuente) {
-    std::vector<std::u16string> nombres;
-    if (diagnostico.codigo == Codigo::VariableIndefinida) {
-        for (const FuenteEspecificacion::Regla& regla : fuente.reglas) nombres.push_back(regla.cabeza.nombre);
-        return nombres;
-    }
-    for (const FuenteEspecificacion::Definicion& d : fuente.definiciones)
-        if (d.esToken || diagnostico.codigo == Codigo::ReferenciaDesconocida) nombres.push_back(d.nombre);
-    return nombres;
-}
-
-// Narrows an unknown reference to its place between the quotes, and says where the name is defined.
-void situaReferencia(Diagnostico& diagnostico, const FuenteEspecificacion& fuente) {
-    const std::u16string& referencia = diagnostico.partes.hallado;
-    for (const FuenteEspecificacion::Definicion& d : fuente.definiciones) {
-        if (d.nombre == referencia) diagnostico.partes.relacionados.push_back({d.lugarNombre, d.nombre});
-        const std::size_t sitio = d.texto.find(u'<' + referencia + u'>');
-        if (d.lugarTexto != diagnostico.rango || sitio == std::u16string::npos) continue;
-        diagnostico.rango = d.lugarDe(sitio, referencia.size() + 2);
-    }
-}
-
-void completa(Diagnostico& diagnostico, const FuenteEspecificacion& fuente) {
-    const Codigo codigo = diagnostico.codigo;
-    const bool esReferencia = codigo == Codigo::ReferenciaDesconocida;
-    if (esReferencia) situaReferencia(diagnostico, fuente);
-    const bool faltaNombre =
-        esReferencia || codigo == Codigo::VariableIndefinida || codigo == Codigo::TokenIndefinido;
-    const bool estaDefinido = esReferencia && !diagnostico.partes.relacionados.empty();
-    if (!faltaNombre || estaDefinido) return;
-    const auto cercano = nombreCercano(diagnostico.partes.hallado, conocidosPara(diagnostico, fuente));
-    if (!cercano.empty()) diagnostico.partes.esperados = {cercano};
-}
-
-bool esDeNombre(char16_t c) {
-    constexpr std::u16string_view separadores = u" \t\r\n;|,=()\"'{}<>";
-    return separadores.find(c) == std::u16string_view::npos;
-}
-
-// A wrong character among letters is one of a name, which is then told whole.
-void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacion, const Lugares& lugares) {
-    if (diagnostico.codigo != Codigo::CaracterIncorrecto) return;
-    const auto sitio = static_cast<std::size_t>(diagnostico.rango.inicio.desplazamiento);
-    const auto fin = static_cast<std::size_t>(
-        std::find_if_not(especificacion.begin() + diagnostico.rango.inicio.desplazamiento,
-                         especificacion.end(), esDeNombre) -
-        especificacion.begin());
-    std::size_t inicio = sitio;
-    while (inicio > 0 && esDeNombre(especificacion[inicio - 1])) --inicio;
-    const std::u16string_view nombre = especificacion.substr(inicio, fin - inicio);
-    const auto esLetra = [](char16_t c) { return tiene(Propiedad::Letra, c); };
-    if (std::ranges::none_of(nombre, esLetra)) return;
-    diagnostico.codigo = Codigo::NombreIncorrecto;
-    diagnostico.partes.nombre = nombre;
-    diagnostico.partes.esperados.clear();
-    diagnostico.rango = lugares.rango(inicio, fin);
-}
-
-// One that has several wrong characters is told once.
-void situaNombres(std::vector<Diagnostico>& hallazgos, std::u16string_view especificacion) {
-    const Lugares lugares(especificacion, Lugares::Unidad::Utf16);
-    for (Diagnostico& hallazgo : hallazgos) ensanchaANombre(hallazgo, especificacion, lugares);
-    const auto esElMismo = [](const Diagnostico& uno, const Diagnostico& otro) {
-        return uno.codigo == Codigo::NombreIncorrecto && otro.codigo == uno.codigo && uno.rango == otro.rango;
-    };
-    hallazgos.erase(std::unique(hallazgos.begin(), hallazgos.end(), esElMismo), hallazgos.end());
-}
-
-// What a review works on.
-struct Revisada {
-    std::vector<Diagnostico> hallazgos;
-    std::optional<Lenguaje> lenguaje; ///< without one there is nothing to tell of its table
-    Directivas directivas;
-};
-
-LugaresReglas lugaresDe(const FuenteEspecificacion& fuente) {
-    LugaresReglas lugares;
-    for (const FuenteEspecificacion::Regla& regla : fuente.reglas) {
-        lugares.cabezas.push_back(regla.cabeza.lugar);
-        lugares.cuerpos.push_back(regla.lugar);
-    }
-    return lugares;
-}
-
-const gramatica* gramaticaDe(const Revisada& revisada) {
-    const bool hay = revisada.lenguaje && revisada.lenguaje->tieneGramatica();
-    return hay ? &revisada.lenguaje->datos().reglas : nullptr;
-}
-
-// One step changes the language: a line at its head, or another value in the one that is there.
-void ofreceMetodo(std::u16string_view especificacion, std::vector<Diagnostico>& apartados) {
-    std::size_t inicio = 0;
-    std::size_t fin = 0;
-    for (const LineaDirectiva& linea : lineasDeDirectivas(cabecera(especificacion)))
-        if (linea.palabra == u"metodo") inicio = linea.inicio, fin = linea.fin;
-    const Rango lugar = Lugares(especificacion, Lugares::Unidad::Utf16).rango(inicio, fin);
-    for (Diagnostico& diagnostico : apartados) {
-        const bool esFrase =
-            diagnostico.codigo == Codigo::FraseRechazada || diagnostico.codigo == Codigo::FraseDeMas;
-        if (esFrase && diagnostico.partes.esperados.empty()) continue; // no method knows better
-        const std::u16string directiva =
-            u"'% metodo: " + (esFrase ? diagnostico.partes.esperados.front() : u"lalr");
-        diagnostico.partes.arreglos.push_back(
-            {u"Poner la línea " + directiva + u" al principio",
-             {{lugar, inicio == fin ? directiva + u"\n" : directiva, false}}});
-    }
-}
-
-// In the order in which they are found.
-Revisada reune(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    Revisada revisada;
-    revisada.directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
-    const Directivas& directivas = revisada.directivas;
-    Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion});
-    if (!analisis) {
-        revisada.hallazgos = std::move(analisis.diagnosticos);
-        situaNombres(revisada.hallazgos, especificacion);
-        return revisada;
-    }
-    Compilacion compilacion = compilaEspecificacion(analisis, directivas, opciones.cancelacion);
-    std::vector<Diagnostico>& hallazgos = revisada.hallazgos;
-    hallazgos = std::move(compilacion.diagnosticos);
-    revisada.lenguaje = std::move(compilacion.lenguaje);
-    const auto cancelada = [&] { return !hallazgos.empty() && hallazgos.back().codigo == Codigo::Cancelado; };
-    if (cancelada()) return revisada;
-    const FuenteEspecificacion fuente = fuenteDe(analisis);
-    for (Diagnostico& diagnostico : hallazgos) completa(diagnostico, fuente);
-    compruebaDirectivas(especificacion, fuente, directivas, hallazgos);
-    compruebaTokens(fuente, directivas, opciones.cancelacion, hallazgos);
-    if (cancelada()) return revisada;
-    compruebaReglas(fuente, directivas.tabla.metodo, hallazgos);
-    if (const gramatica* g = gramaticaDe(revisada);
-        g != nullptr && directivas.tabla.metodo == Metodo::Clasico) {
-        auto apartados = contrastaClasico(g->valores(), lugaresDe(fuente));
-        if (!opciones.metodo) ofreceMetodo(especificacion, apartados);
-        std::ranges::move(apartados, std::back_inserter(hallazgos));
-    }
-    return revisada;
-}
-
-std::size_t inicioDe(const Diagnostico& diagnostico) {
-    return static_cast<std::size_t>(diagnostico.rango.inicio.desplazamiento);
-}
 
 // The stories of a table's conflicts go to their diagnostics one by one: both are in the order of its cells.
 void reparte(std::vector<Hallazgo>& hallazgos, Codigo codigo,
@@ -207,19 +53,20 @@ void cuenta(const gramatica& g, const OpcionesTabla& opciones, const LimitesHist
 } // namespace
 
 std::vector<Diagnostico> revisa(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
-    std::vector<Diagnostico> hallazgos = reune(especificacion, opciones).hallazgos;
-    std::ranges::stable_sort(hallazgos, {}, inicioDe);
+    std::vector<Diagnostico> hallazgos = revisada(especificacion, opciones).hallazgos;
+    ordena(hallazgos);
     return hallazgos;
 }
 
 std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
                                          const OpcionesCompilacion& opciones,
                                          const LimitesHistorias& limites) {
-    Revisada revisada = reune(especificacion, opciones);
+    Revisada revision = revisada(especificacion, opciones);
     std::vector<Hallazgo> hallazgos;
-    for (Diagnostico& diagnostico : revisada.hallazgos) hallazgos.push_back({std::move(diagnostico), {}});
-    if (const gramatica* g = gramaticaDe(revisada)) cuenta(*g, revisada.directivas.tabla, limites, hallazgos);
-    std::ranges::stable_sort(hallazgos, {}, [](const Hallazgo& h) { return inicioDe(h.diagnostico); });
+    for (Diagnostico& diagnostico : revision.hallazgos) hallazgos.push_back({std::move(diagnostico), {}});
+    if (const gramatica* g = revision.laGramatica()) cuenta(*g, revision.directivas.tabla, limites, hallazgos);
+    std::ranges::stable_sort(hallazgos, {},
+                             [](const Hallazgo& h) { return h.diagnostico.rango.inicio.desplazamiento; });
     return hallazgos;
 }
 
