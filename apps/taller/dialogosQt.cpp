@@ -2,12 +2,18 @@
 
 #include "dialogosQt.hpp"
 
+#include <QApplication>
 #include <QFileInfo>
 
 namespace norvik::taller {
 
+QWidget* DialogosQt::encimaDe() const {
+    QWidget* const activa = QApplication::activeWindow();
+    return activa != nullptr ? activa : ventana_.data();
+}
+
 Destino DialogosQt::pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) {
-    return preguntaDestino(pregunta, guardar, descartar, ventana_);
+    return preguntaDestino(pregunta, guardar, descartar, encimaDe());
 }
 
 std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& aceptar) {
@@ -23,14 +29,14 @@ std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& 
 }
 
 std::optional<QString> DialogosQt::eligeParaAbrir(const QString& titulo, const QString& filtros) {
-    QFileDialog dialogo(ventana_, titulo, carpeta_, filtros);
+    QFileDialog dialogo(encimaDe(), titulo, carpeta_, filtros);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     return fichero(dialogo, QStringLiteral("&Abrir"));
 }
 
 std::optional<QString> DialogosQt::eligeParaGuardar(const QString& titulo, const QString& filtros,
                                                     const QString& propuesto, const QString& extension) {
-    QFileDialog dialogo(ventana_, titulo, carpeta_, filtros);
+    QFileDialog dialogo(encimaDe(), titulo, carpeta_, filtros);
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setDefaultSuffix(extension);
     if (!propuesto.isEmpty()) dialogo.selectFile(propuesto);

@@ -12,7 +12,7 @@ namespace norvik::taller {
 /// The questions as modal windows above another one.
 class DialogosQt final : public Dialogos {
 public:
-    /// They stand above `ventana` from here on.
+    /// They stand above the window that is worked in, or above this one while none is.
     void ponVentana(QWidget* ventana) { ventana_ = ventana; }
 
     Destino pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) override;
@@ -21,6 +21,7 @@ public:
                                             const QString& propuesto, const QString& extension) override;
 
 private:
+    QWidget* encimaDe() const;
     std::optional<QString> fichero(QFileDialog& dialogo, const QString& aceptar);
 
     QPointer<QWidget> ventana_;

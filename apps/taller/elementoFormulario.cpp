@@ -2,11 +2,8 @@
 
 #include "elementoFormulario.hpp"
 
-#include "documentos.hpp"
 #include "lenguaje.hpp"
 
-#include "norvik/base/codificacion.hpp"
-#include "norvik/base/ficheros.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QAbstractScrollArea>
@@ -55,6 +52,8 @@ void ElementoFormulario::conecta() {
     texto.installEventFilter(this);
     texto.viewport()->installEventFilter(this);
     connect(&norvik_, &ControlNorvik::change, this, &ElementoFormulario::cambiaTexto);
+    connect(&documento_, &DocumentoTexto::cambiado, this, &ElementoFormulario::cambiaTexto);
+    connect(&documento_, &DocumentoTexto::aviso, this, &ElementoFormulario::aviso);
     connect(&norvik_, &ControlNorvik::SelChange, this, &ElementoFormulario::otroLugar);
     connect(&norvik_, &ControlNorvik::fallo, this, [this](const QString& motivo, bool& contado) {
         contado = true;
@@ -104,7 +103,7 @@ std::string ElementoFormulario::bolsa() {
 }
 
 ElementoGuardado ElementoFormulario::guardado() {
-    ElementoGuardado guardado{nombre_, fichero_, modulo_, {}, otros_, otrosDeBolsa_};
+    ElementoGuardado guardado{nombre_, fichero(), modulo_, {}, otros_, otrosDeBolsa_};
     norvik_.control().guardaPropiedades(guardado.bolsa);
     return guardado;
 }
@@ -120,69 +119,14 @@ void ElementoFormulario::restaura(const ElementoGuardado& guardado) {
 
 // ---- text
 
-QString ElementoFormulario::tituloTexto() const {
-    return fichero_.isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero_).fileName();
-}
-
 void ElementoFormulario::actualizaTitulo() {
     const QString marca = textoModificado() ? QStringLiteral("*") : QString();
     titulo_.setText(nombre_ + QStringLiteral(" — ") + tituloTexto() + marca);
 }
 
-bool ElementoFormulario::textoModificado() const {
-    return norvik_.TextoModificado() && norvik_.caja().texto() != textoGuardado_;
-}
-
 void ElementoFormulario::cambiaTexto() {
     actualizaTitulo();
     emit otroTexto();
-}
-
-void ElementoFormulario::nuevoTexto() {
-    formato_ = {};
-    esBinario_ = false;
-    fichero_.clear();
-    try {
-        norvik_.control().BorraTodo();
-    } catch (const Desbordamiento&) { // there were more changes than it counts, and none is left
-        norvik_.TextoModificado(false);
-    }
-    anotaTextoGuardado({});
-}
-
-void ElementoFormulario::abreTexto(const QString& fichero) {
-    exigeFicheroCorriente(fichero, u"leer");
-    nuevoTexto();
-    const std::string bytes = leeBytes(aRuta(fichero));
-    try {
-        norvik_.control().CargarFichero(aRuta(fichero));
-    } catch (const Desbordamiento&) {
-        norvik_.caja().protege([] { throw; }); // it is told as at any key
-    }
-    formato_ = formatoDe(bytes);
-    esBinario_ = norvik::esBinario(bytes);
-    ponFichero(fichero, normalizaLineas(decodifica(bytes)));
-}
-
-void ElementoFormulario::ponFichero(const QString& fichero, std::u16string_view texto) {
-    fichero_ = QFileInfo(fichero).absoluteFilePath();
-    anotaTextoGuardado(texto);
-}
-
-/// What colouring corrected in a text that was read is not yet in its file.
-void ElementoFormulario::anotaTextoGuardado(std::u16string_view texto) {
-    textoGuardado_ = texto;
-    if (norvik_.caja().texto() == textoGuardado_) norvik_.TextoModificado(false);
-    cambiaTexto();
-}
-
-void ElementoFormulario::guardaTexto(const QString& fichero) {
-    const std::u16string_view texto = norvik_.caja().texto();
-    const TextoCodificado codificado = codifica(texto, formato_);
-    escribeDocumento(fichero, codificado.bytes);
-    if (std::exchange(formato_, codificado.formato) != codificado.formato)
-        emit aviso(QStringLiteral("Hay caracteres que no caben en Windows-1252: guardado en UTF-8"));
-    ponFichero(fichero, texto);
 }
 
 void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {

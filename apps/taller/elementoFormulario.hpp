@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "documentoTexto.hpp"
 #include "ficheroFormulario.hpp"
 #include "veloDisenio.hpp"
 
-#include "norvik/base/formatoTexto.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 
 #include <QLabel>
@@ -14,7 +14,6 @@
 #include <QWidget>
 
 #include <string>
-#include <string_view>
 
 namespace norvik::taller {
 
@@ -39,23 +38,17 @@ public:
     /// What is saved is what the control has now.
     void anotaGuardado() { guardada_ = bolsa(); }
 
-    // The text. An empty path is a text without a file.
-    const QString& fichero() const { return fichero_; }
-    /// What a person calls the text.
-    QString tituloTexto() const;
-    /// It is another one than that which was saved or read.
-    bool textoModificado() const;
+    // The text.
+    DocumentoTexto& documento() { return documento_; }
+    const QString& fichero() const { return documento_.fichero(); }
+    QString tituloTexto() const { return documento_.titulo(); }
+    bool textoModificado() const { return documento_.modificado(); }
     /// The control tells nobody of what it does to the text by Undo and Redo.
     void cambiaTexto();
-    const FormatoTexto& formato() const { return formato_; }
-    /// What was read was no text: written as one it would not be the same.
-    bool esBinario() const { return esBinario_; }
-    void nuevoTexto();
-    /// Raises `ErrorDeFichero`, the text is then empty and without a file. One that is too long to be
-    /// coloured is loaded, and that is told.
-    void abreTexto(const QString& fichero);
-    /// As it was read. Raises `ErrorDeFichero`.
-    void guardaTexto(const QString& fichero);
+    const FormatoTexto& formato() const { return documento_.formato(); }
+    bool esBinario() const { return documento_.esBinario(); }
+    void nuevoTexto() { documento_.vacia(); }
+    void abreTexto(const QString& fichero) { documento_.abre(fichero); }
 
     /// Puts the caret at a place (1-based), with the lexeme selected that stands there.
     void vaA(int linea, int columna, const QString& lexema);
@@ -101,8 +94,6 @@ protected:
 private:
     void cedeTeclas();
     void conecta();
-    void ponFichero(const QString& fichero, std::u16string_view texto);
-    void anotaTextoGuardado(std::u16string_view texto);
     void actualizaTitulo();
     void anota(const QString& propiedad);
     void anotaEspecificacion();
@@ -110,10 +101,6 @@ private:
 
     SistemaQt& sistema_;
     QString nombre_;
-    QString fichero_;
-    FormatoTexto formato_;
-    bool esBinario_ = false;
-    std::u16string textoGuardado_;
     QString modulo_;
     QJsonObject otros_; ///< of what was restored, for who knows them
     QJsonObject otrosDeBolsa_;
@@ -123,6 +110,7 @@ private:
     QVBoxLayout columna_;
     QLabel titulo_;
     VeloDisenio velo_;
+    DocumentoTexto documento_{norvik_}; ///< goes after the control, which may tell of its text until then
     ControlNorvik norvik_;
 };
 

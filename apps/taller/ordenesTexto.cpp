@@ -4,10 +4,6 @@
 
 #include "rutas.hpp"
 
-#include "norvik/base/errores.hpp"
-#include "norvik/platform/qt/conversiones.hpp"
-#include "norvik/platform/qt/sistemaQt.hpp"
-
 namespace norvik::taller {
 
 void OrdenesTexto::nuevo() {
@@ -26,21 +22,9 @@ void OrdenesTexto::abre(const QString& fichero) {
 }
 
 bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero) {
-    if (elemento.esBinario())
-        return rehusa(QStringLiteral("«%1» no se leyó como texto, y guardado como texto sería otro fichero.")
-                          .arg(elemento.tituloTexto()));
-    try {
-        elemento.guardaTexto(fichero);
-    } catch (const ErrorDeFichero& error) {
-        return rehusa(aQString(error.texto()));
-    }
+    if (!guardaOAvisa(elemento.documento(), fichero, sistema_)) return false;
     recientes_.anota(fichero);
     return true;
-}
-
-bool OrdenesTexto::rehusa(const QString& motivo) {
-    sistema_.muestraMensaje({motivo.toStdU16String(), {}, Icono::Critico, Botones::Aceptar});
-    return false;
 }
 
 bool OrdenesTexto::guarda(ElementoFormulario& elemento) {

@@ -30,8 +30,6 @@ private:
     bool guarda(ElementoFormulario& elemento);
     bool guardaComo(ElementoFormulario& elemento);
     bool escribe(ElementoFormulario& elemento, const QString& fichero);
-    /// Says why nothing was written.
-    bool rehusa(const QString& motivo);
 
     Formulario& formulario_;
     SistemaQt& sistema_;

@@ -5,13 +5,8 @@
 #include "norvik/platform/qt/fallos.hpp"
 
 #include <QHeaderView>
-#include <QKeyEvent>
 
 namespace norvik::taller {
-
-void PanelArbol::Vista::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() != Qt::Key_Asterisk) QTreeView::keyPressEvent(evento);
-}
 
 PanelArbol::PanelArbol(QWidget* padre) : QDockWidget(QStringLiteral("Árbol sintáctico"), padre) {
     setObjectName(QStringLiteral("panelArbol"));

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "modeloArbol.hpp"
+#include "vistaArbol.hpp"
 
 #include <QDockWidget>
-#include <QTreeView>
 
 namespace norvik::taller {
 
@@ -25,14 +25,8 @@ signals:
     void elegida(const norvik::taller::ModeloArbol::Hoja& hoja);
 
 private:
-    /// Opening all nodes at once takes a recursion as deep as the tree.
-    class Vista final : public QTreeView {
-    protected:
-        void keyPressEvent(QKeyEvent* evento) override;
-    };
-
     ModeloArbol modelo_;
-    Vista vista_;
+    VistaArbol vista_;
 };
 
 } // namespace norvik::taller
