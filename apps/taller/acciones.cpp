@@ -79,6 +79,7 @@ void Acciones::describe() {
         {nuevoLenguaje, s("&Nuevo lenguaje…")},
         {abrirLenguaje, s("&Abrir lenguaje…"), s("Ctrl+L")},
         {guardarEspecificacion, s("&Guardar la especificación como…")},
+        {ventanaLenguaje, s("&Ventana del lenguaje…"), s("F6")},
         {analizar, s("Anali&zar"), s("F8"), Dibujo::Analizar},
         {revisar, s("&Revisar"), s("F7")},
         {informe, s("Ver &informe"), s("F9"), Dibujo::Informe},
@@ -104,7 +105,7 @@ void Acciones::ordena() {
           {&nuevoFormulario, &abrirFormulario, formulariosRecientes.menuAction(), &guardarFormulario,
            &guardarFormularioComo, raya, &anadir, &quitar, raya, &disenio, &propiedades});
     llena(lenguaje, {&nuevoLenguaje, &abrirLenguaje, ejemplos.menuAction(), &guardarEspecificacion, raya,
-                     &analizar, &revisar, &informe});
+                     &ventanaLenguaje, &analizar, &revisar, &informe});
     llena(ayuda, {&acerca});
 }
 

@@ -19,7 +19,7 @@ public:
     QAction buscar, buscarSiguiente, buscarAnterior, reemplazar, irALinea;
     QAction nuevoFormulario, abrirFormulario, guardarFormulario, guardarFormularioComo;
     QAction anadir, quitar, disenio, propiedades;
-    QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, analizar, revisar, informe;
+    QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, ventanaLenguaje, analizar, revisar, informe;
     QAction acerca;
 
     QMenu textosRecientes, formulariosRecientes, ejemplos;

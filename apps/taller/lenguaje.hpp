@@ -7,8 +7,12 @@
 #include <QString>
 
 #include <string>
+#include <string_view>
 
 namespace norvik::taller {
+
+/// What a new language begins with: conflicts are all told, and no text of the grammar is refused.
+inline constexpr std::u16string_view plantilla = u"'% metodo: lalr\r\n";
 
 /// A control has a language to parse its text with.
 bool tieneLenguaje(ControlNorvik& norvik);

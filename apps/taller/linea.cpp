@@ -17,10 +17,12 @@ constexpr const char* ayuda = R"(norvik-taller: formularios con editores que con
 Uso:
   norvik-taller [--lenguaje FICHERO] [TEXTO]
   norvik-taller FORMULARIO
+  norvik-taller ESPECIFICACION
   norvik-taller --help | --version
 
   TEXTO                 texto que se abre
   FORMULARIO            formulario guardado por el taller (NOMBRE.nvf)
+  ESPECIFICACION        lenguaje que se abre en la ventana del lenguaje (NOMBRE.nvk)
 
 Opciones:
   --lenguaje FICHERO    lenguaje del texto: una especificación (NOMBRE.nvk) o un módulo

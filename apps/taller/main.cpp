@@ -2,6 +2,7 @@
 
 #include "dialogosQt.hpp"
 #include "linea.hpp"
+#include "rutas.hpp"
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
@@ -9,6 +10,7 @@
 #include "norvik/tools/iconos.hpp"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -43,6 +45,10 @@ bool hayPantalla() {
                        [](const char* nombre) { return !qEnvironmentVariableIsEmpty(nombre); });
 }
 
+bool esEspecificacion(const QString& fichero) {
+    return QFileInfo(fichero).suffix().toLower() == extensionEspecificacion;
+}
+
 int trabaja(const Arranque& arranque) {
     QTranslator deQt; // the words of Qt's own windows
     if (deQt.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -56,7 +62,10 @@ int trabaja(const Arranque& arranque) {
     dialogos.ponVentana(&ventana);
     ventana.show();
     if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);
-    if (!arranque.texto.isEmpty()) ventana.abre(arranque.texto);
+    if (esEspecificacion(arranque.texto))
+        ventana.abreEnVentana(arranque.texto);
+    else if (!arranque.texto.isEmpty())
+        ventana.abre(arranque.texto);
     return QApplication::exec();
 }
 

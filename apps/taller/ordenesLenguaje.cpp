@@ -23,9 +23,6 @@ namespace norvik::taller {
 
 namespace {
 
-/// What a new language begins with: conflicts are all told, and no text of the grammar is refused.
-constexpr std::u16string_view plantilla = u"'% metodo: lalr\r\n";
-
 /// A file that stands there keeps its encoding and its line ends.
 FormatoTexto formatoDelQueHay(const QString& fichero) {
     try {
@@ -181,10 +178,8 @@ void OrdenesLenguaje::revisa() {
     revision_.muestra(elemento.nombre(), especificacion, hallazgos);
 }
 
-void OrdenesLenguaje::pasaALalr() {
+bool OrdenesLenguaje::toma(const std::u16string& especificacion) {
     ElementoFormulario& elemento = formulario_.activo();
-    if (!hayEspecificacion(elemento.norvik())) return;
-    const std::u16string especificacion = conMetodo(especificacionDe(elemento.norvik()), Metodo::Lalr);
     bool preparado = false;
     cambia(elemento, [&] {
         ponEspecificacion(elemento.norvik(), especificacion);
@@ -192,7 +187,13 @@ void OrdenesLenguaje::pasaALalr() {
         formulario_.ponModificado(true);
         preparado = prepara(elemento);
     });
-    if (preparado) revisa();
+    return preparado;
+}
+
+void OrdenesLenguaje::pasaALalr() {
+    ElementoFormulario& elemento = formulario_.activo();
+    if (!hayEspecificacion(elemento.norvik())) return;
+    if (toma(conMetodo(especificacionDe(elemento.norvik()), Metodo::Lalr))) revisa();
 }
 
 } // namespace norvik::taller

@@ -36,6 +36,8 @@ public:
     void muestraInforme();
     /// Shows what there is to say of the specification, and where the classic method leaves the grammar.
     void revisa();
+    /// Makes a specification that was written elsewhere the one that the active control keeps.
+    bool toma(const std::u16string& especificacion);
     /// Makes the language that was reviewed one of the `lalr` method, and reviews it again.
     void pasaALalr();
 

@@ -170,6 +170,7 @@ void VentanaPrincipal::conectaLenguaje() {
     });
     conecta(a.abrirLenguaje, [this] { lenguajes_.abre(); });
     conecta(a.guardarEspecificacion, [this] { lenguajes_.guardaEspecificacion(); });
+    conecta(a.ventanaLenguaje, [this] { muestraVentanaLenguaje(); });
     conecta(a.analizar, [this] { analiza(); });
     conecta(a.informe, [this] { lenguajes_.muestraInforme(); });
     conecta(a.revisar, [this] { lenguajes_.revisa(); });
@@ -178,6 +179,32 @@ void VentanaPrincipal::conectaLenguaje() {
     connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { ejecuta([this] { lenguajes_.vaAlError(); }); });
     connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
         ejecuta([&] { formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema); });
+    });
+}
+
+VentanaLenguaje& VentanaPrincipal::ventanaLenguaje() {
+    if (ventanaLenguaje_) return *ventanaLenguaje_;
+    ventanaLenguaje_ = std::make_unique<VentanaLenguaje>(sistema_, dialogos_, ajustes_);
+    connect(
+        ventanaLenguaje_.get(), &VentanaLenguaje::usado, this,
+        [this](const std::u16string& especificacion) { ejecuta([&] { lenguajes_.toma(especificacion); }); });
+    return *ventanaLenguaje_;
+}
+
+/// With what the active control has, unless something is open there.
+void VentanaPrincipal::muestraVentanaLenguaje() {
+    VentanaLenguaje& ventana = ventanaLenguaje();
+    ControlNorvik& norvik = formulario_.activo().norvik();
+    if (!ventana.isVisible())
+        ventana.empieza(hayEspecificacion(norvik) ? especificacionDe(norvik) : plantilla,
+                        norvik.caja().texto());
+    ventana.trae();
+}
+
+void VentanaPrincipal::abreEnVentana(const QString& especificacion) {
+    ejecuta([&] {
+        ventanaLenguaje().abre(especificacion);
+        ventanaLenguaje().trae();
     });
 }
 
@@ -288,6 +315,7 @@ void VentanaPrincipal::actualizaEdicion() {
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
     evento->ignore();
     ejecuta([&] {
+        if (ventanaLenguaje_ && ventanaLenguaje_->isVisible() && !ventanaLenguaje_->close()) return;
         if (!formularios_.puedePerder()) return;
         evento->accept();
         ajustes_.setValue(claveGeometria, saveGeometry());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "acciones.hpp"
+#include "lenguaje/ventanaLenguaje.hpp"
 #include "ordenesFormulario.hpp"
 #include "ordenesLenguaje.hpp"
 
@@ -12,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <memory>
 #include <utility>
 
 namespace norvik::taller {
@@ -33,6 +35,8 @@ public:
 
     /// Opens a file as what its ending says it is: a form, a language, else a text.
     void abre(const QString& fichero);
+    /// Opens a specification in the language window.
+    void abreEnVentana(const QString& especificacion);
 
     // For those who drive it from outside.
     Formulario& formulario() { return formulario_; }
@@ -40,6 +44,8 @@ public:
     PanelArbol& arbol() { return arbol_; }
     PanelMensaje& mensaje() { return mensaje_; }
     VentanaRevision& revision() { return revision_; }
+    /// Made when it is first asked for.
+    VentanaLenguaje& ventanaLenguaje();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -58,6 +64,7 @@ private:
     DeEdicion deEdicion();
     void conectaFormulario();
     void conectaLenguaje();
+    void muestraVentanaLenguaje();
     void llenaEjemplos(const QList<Ejemplo>& ejemplos);
     void compone();
     void ponModo(bool disenio);
@@ -86,6 +93,7 @@ private:
     OrdenesTexto textos_;
     OrdenesFormulario formularios_;
     OrdenesLenguaje lenguajes_;
+    std::unique_ptr<VentanaLenguaje> ventanaLenguaje_;
     ElementoFormulario* analizado_ = nullptr; ///< whose tree or error is shown
     bool ocupada_ = false;                    ///< a command runs
 };

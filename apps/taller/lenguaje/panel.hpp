@@ -25,6 +25,11 @@ public:
     virtual void ponEstudio(std::shared_ptr<const Estudio> estudio) = 0;
     /// Something of the study was chosen elsewhere: shows it when it can, and tells nobody of it.
     virtual void selecciona(const Eleccion& /*eleccion*/) {}
+    /// What it shows is of an earlier version of the texts, or of theirs again.
+    void ponAtrasado(bool atrasado) {
+        setWindowTitle(atrasado ? titulo_ + QStringLiteral(" (versión anterior)") : titulo_);
+    }
+    const QString& titulo() const { return titulo_; }
 
 signals:
     /// The person chose something here.
@@ -33,7 +38,8 @@ signals:
 
 protected:
     /// `nombre` is what the window's state knows it by.
-    Panel(const QString& nombre, const QString& titulo, QWidget* padre) : QDockWidget(titulo, padre) {
+    Panel(const QString& nombre, const QString& titulo, QWidget* padre)
+        : QDockWidget(titulo, padre), titulo_(titulo) {
         setObjectName(nombre);
     }
 
@@ -41,6 +47,9 @@ protected:
     void protege(const Orden& orden) {
         if (const auto motivo = falloDe(orden); !motivo.empty()) emit fallo(aQString(motivo));
     }
+
+private:
+    QString titulo_;
 };
 
 } // namespace norvik::taller

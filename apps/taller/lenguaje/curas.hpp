@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "estudio.hpp"
+
+#include "norvik/checks/historiaConflicto.hpp"
+
+#include <vector>
+
+namespace norvik::taller {
+
+/// What cures a conflict by a line at the head of the specification; nothing when its rules have to be
+/// thought over.
+std::vector<Arreglo> curasDe(const LenguajeEstudiado& lenguaje, const HistoriaConflicto& historia);
+
+} // namespace norvik::taller

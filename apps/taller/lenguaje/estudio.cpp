@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+
+#include "estudio.hpp"
+
+#include "norvik/checks/revisada.hpp"
+#include "norvik/grammar/gramatica.hpp"
+#include "norvik/spec/datosDeLenguaje.hpp"
+
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+std::shared_ptr<const LenguajeEstudiado> estudiaLenguaje(const std::u16string& especificacion,
+                                                         const std::stop_token& parada) {
+    Revisada revision = revisada(especificacion, {{}, parada});
+    ordena(revision.hallazgos);
+    return std::make_shared<const LenguajeEstudiado>(
+        LenguajeEstudiado{especificacion, std::move(revision.hallazgos), std::move(revision.fuente),
+                          std::move(revision.directivas.tabla), std::move(revision.lenguaje)});
+}
+
+} // namespace
+
+const GramaticaLR* LenguajeEstudiado::gramatica() const {
+    return lenguaje && lenguaje->tieneGramatica() ? &lenguaje->datos().reglas.valores() : nullptr;
+}
+
+std::shared_ptr<const Estudio> estudia(const std::u16string& especificacion, const std::u16string& texto,
+                                       const std::shared_ptr<const Estudio>& anterior,
+                                       const std::stop_token& parada) {
+    const bool esLaMisma = anterior && anterior->deLenguaje->especificacion == especificacion;
+    Estudio estudio{esLaMisma ? anterior->deLenguaje : estudiaLenguaje(especificacion, parada), texto, {}};
+    if (parada.stop_requested()) return nullptr;
+    if (estudio.gramatica() != nullptr)
+        estudio.analisis = analiza(*estudio.deLenguaje->lenguaje, texto, {parada});
+    if (parada.stop_requested()) return nullptr;
+    return std::make_shared<const Estudio>(std::move(estudio));
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+
+#include "modeloCeldas.hpp"
+
+#include "palabrasLR.hpp"
+
+#include "norvik/platform/qt/ayudaLlana.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/fallos.hpp"
+#include "norvik/report/informe.hpp"
+
+#include <QBrush>
+#include <QFont>
+
+namespace norvik::taller {
+
+namespace {
+
+/// The table counts rows and columns from 1.
+std::int16_t numero(int indice) {
+    return static_cast<std::int16_t>(indice + 1);
+}
+
+DeCelda celdaDe(const QModelIndex& celda) {
+    return {static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())};
+}
+
+/// How a conflict is told from the rest besides its sign.
+QVariant realce(int papel) {
+    const QColor rojizo(225, 70, 30, 110); // lets the background through, light or dark
+    if (papel == Qt::BackgroundRole) return QBrush(rojizo);
+    if (papel != Qt::FontRole) return {};
+    QFont negrita;
+    negrita.setBold(true);
+    return negrita;
+}
+
+const QString signoDeConflicto = QStringLiteral("⚠ ");
+
+} // namespace
+
+void ModeloCeldas::muestra(std::shared_ptr<const LenguajeEstudiado> lenguaje) {
+    beginResetModel();
+    lenguaje_ = std::move(lenguaje);
+    reuneConflictos();
+    endResetModel();
+}
+
+/// Those of one cell are neighbours in the table's list.
+void ModeloCeldas::reuneConflictos() {
+    enConflicto_.clear();
+    celdasEnConflicto_.clear();
+    filasEnConflicto_.clear();
+    if (gramatica() == nullptr) return;
+    const TablaLR& tabla = gramatica()->tabla;
+    for (const Conflicto& conflicto : tabla.conflictos()) {
+        const DeCelda celda{static_cast<std::int16_t>(conflicto.fila - 1),
+                            static_cast<std::int16_t>(conflicto.columna - 1)};
+        if (tabla.esColumnaDeVariable(conflicto.columna)) continue;
+        if (!celdasEnConflicto_.insert({celda.estado, celda.codigo}).second) continue;
+        filasEnConflicto_.insert(celda.estado);
+        enConflicto_.push_back(celda);
+    }
+}
+
+int ModeloCeldas::rowCount(const QModelIndex& padre) const {
+    return padre.isValid() || gramatica() == nullptr ? 0 : gramatica()->tabla.filasVigentes();
+}
+
+int ModeloCeldas::columnCount(const QModelIndex& padre) const {
+    return padre.isValid() || gramatica() == nullptr ? 0 : gramatica()->tabla.columnasVigentes();
+}
+
+QString ModeloCeldas::texto(const QModelIndex& celda) const {
+    const QString contenido =
+        aQString(celdaTabla(gramatica()->tabla, numero(celda.row()), numero(celda.column())));
+    return estaEnConflicto(celda) ? signoDeConflicto + contenido : contenido;
+}
+
+QString ModeloCeldas::palabras(const QModelIndex& celda) const {
+    if (!celda.isValid() || gramatica() == nullptr) return {};
+    return aQString(palabrasDeCelda(*gramatica(), celdaDe(celda)));
+}
+
+QVariant ModeloCeldas::data(const QModelIndex& celda, int papel) const {
+    QVariant dato;
+    sinFallos([&] {
+        if (!celda.isValid() || gramatica() == nullptr) return;
+        if (papel == Qt::DisplayRole) dato = texto(celda);
+        if (papel == Qt::TextAlignmentRole) dato = Qt::AlignCenter;
+        if (papel == Qt::ToolTipRole) dato = ayudaLlana(palabras(celda));
+        if (papel == Qt::AccessibleDescriptionRole) dato = palabras(celda);
+        if (!dato.isValid() && estaEnConflicto(celda)) dato = realce(papel);
+    });
+    return dato;
+}
+
+QVariant ModeloCeldas::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
+    QVariant dato;
+    sinFallos([&] {
+        if (gramatica() == nullptr || papel != Qt::DisplayRole) return;
+        if (orientacion == Qt::Horizontal)
+            dato = aQString(gramatica()->tabla.simbolo(numero(seccion)));
+        else
+            dato = (filasEnConflicto_.contains(seccion) ? signoDeConflicto : QString()) +
+                   QString::number(seccion);
+    });
+    return dato;
+}
+
+} // namespace norvik::taller

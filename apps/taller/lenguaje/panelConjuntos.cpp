@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelConjuntos.hpp"
+
+#include "correspondencias.hpp"
+#include "palabrasLR.hpp"
+
+#include "norvik/platform/qt/ayudaLlana.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+/// The variables in the order of their first rules.
+std::vector<Simbolo> variablesDe(const ReglasPartidas& reglas) {
+    std::vector<Simbolo> variables;
+    for (int regla = 1; regla <= reglas.numReglas(); ++regla) {
+        const Simbolo cabeza = reglas.cabeza(regla);
+        if (cabeza != ReglasPartidas::sinSimbolo && reglas.primera(cabeza) == regla)
+            variables.push_back(cabeza);
+    }
+    return variables;
+}
+
+/// The first of those with a name is the one that is looked up.
+const ConjuntoNumerado* conjuntoDe(const std::vector<ConjuntoNumerado>& lista, Simbolo nombre) {
+    const auto sitio = std::ranges::find(lista, nombre, &ConjuntoNumerado::nombre);
+    return sitio == lista.end() ? nullptr : &*sitio;
+}
+
+QString elementosDe(const std::vector<ConjuntoNumerado>& lista, Simbolo nombre,
+                    const ReglasPartidas& reglas) {
+    const ConjuntoNumerado* const conjunto = conjuntoDe(lista, nombre);
+    return conjunto == nullptr ? QString() : aQString(enTexto(*conjunto, reglas));
+}
+
+bool esAnulable(const std::vector<ConjuntoNumerado>& primeros, Simbolo nombre) {
+    const ConjuntoNumerado* const conjunto = conjuntoDe(primeros, nombre);
+    return conjunto != nullptr && std::ranges::count(conjunto->elementos, ReglasPartidas::vacio) > 0;
+}
+
+QString reglasDe(const GramaticaLR& g, Simbolo variable) {
+    QString lineas;
+    for (int regla = 1; regla <= g.partidas.numReglas(); ++regla)
+        if (g.partidas.cabeza(regla) == variable)
+            lineas +=
+                QStringLiteral("\n    ") + aQString(palabrasDeRegla(g, static_cast<std::int16_t>(regla)));
+    return lineas;
+}
+
+} // namespace
+
+PanelConjuntos::PanelConjuntos(QWidget* padre)
+    : Panel(QStringLiteral("conjuntos"), QStringLiteral("Conjuntos"), padre), tabla_(0, numeroDeColumnas) {
+    tabla_.setAccessibleName(QStringLiteral("Primeros y siguientes de cada variable"));
+    tabla_.setHorizontalHeaderLabels({QStringLiteral("Variable"), QStringLiteral("Anulable"),
+                                      QStringLiteral("Primeros"), QStringLiteral("Siguientes")});
+    tabla_.setEditTriggers(QTableWidget::NoEditTriggers);
+    tabla_.setSelectionBehavior(QTableWidget::SelectRows);
+    tabla_.setSelectionMode(QTableWidget::SingleSelection);
+    tabla_.setTabKeyNavigation(false);
+    tabla_.setWordWrap(false);
+    tabla_.setAlternatingRowColors(true);
+    tabla_.verticalHeader()->hide();
+    tabla_.horizontalHeader()->setStretchLastSection(true);
+    detalle_.setAccessibleName(QStringLiteral("Conjuntos y reglas de la variable elegida"));
+    detalle_.setReadOnly(true);
+    detalle_.setTabChangesFocus(true);
+    centro_.addWidget(&tabla_);
+    centro_.addWidget(&detalle_);
+    centro_.setStretchFactor(0, 3);
+    centro_.setStretchFactor(1, 2);
+    centro_.setFocusProxy(&tabla_);
+    setWidget(&centro_);
+    connect(&tabla_, &QTableWidget::currentCellChanged, this,
+            [this](int fila) { protege([&] { elige(fila); }); });
+    connect(&tabla_, &QTableWidget::cellClicked, this, [this](int fila) { protege([&] { elige(fila); }); });
+}
+
+void PanelConjuntos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    const bool esElMismo = estudio_ && estudio_->deLenguaje == estudio->deLenguaje;
+    estudio_ = std::move(estudio);
+    if (!esElMismo) llena();
+}
+
+void PanelConjuntos::llena() {
+    const QScopedValueRollback<bool> callado(callado_, true);
+    const QString elegida = tabla_.currentRow() < 0 ? QString() : tabla_.item(tabla_.currentRow(), 0)->text();
+    tabla_.clearContents();
+    tabla_.setRowCount(0);
+    detalle_.clear();
+    const GramaticaLR* const g = estudio_->gramatica();
+    if (g == nullptr) return;
+    const std::vector<Simbolo> variables = variablesDe(g->partidas);
+    tabla_.setRowCount(static_cast<int>(variables.size()));
+    int fila = 0;
+    for (const Simbolo variable : variables) pon(fila++, variable);
+    const int queda = std::max(0, filaDe(elegida));
+    tabla_.setCurrentCell(queda, Variable); // coming here chooses nothing
+    detalla(queda);
+    for (const int columna : {Variable, Anulable}) tabla_.resizeColumnToContents(columna);
+    tabla_.setColumnWidth(Primeros, fontMetrics().horizontalAdvance(u'x') * 40);
+}
+
+void PanelConjuntos::pon(int fila, std::int32_t variable) {
+    const GramaticaLR& g = *estudio_->gramatica();
+    const auto& primeros = g.conjuntos.primeros;
+    const std::array<QString, numeroDeColumnas> textos = {
+        aQString(g.partidas.texto(variable)),
+        esAnulable(primeros, variable) ? QStringLiteral("sí") : QStringLiteral("no"),
+        elementosDe(primeros, variable, g.partidas),
+        elementosDe(g.conjuntos.siguientes, variable, g.partidas)};
+    for (int columna = 0; columna < numeroDeColumnas; ++columna) {
+        auto& celda = nuevo<QTableWidgetItem>(textos[static_cast<std::size_t>(columna)]);
+        if (columna >= Primeros) celda.setToolTip(ayudaLlana(celda.text()));
+        tabla_.setItem(fila, columna, &celda);
+    }
+}
+
+/// −1 when it has none.
+int PanelConjuntos::filaDe(const QString& variable) const {
+    for (int fila = 0; fila < tabla_.rowCount(); ++fila)
+        if (tabla_.item(fila, Variable)->text() == variable) return fila;
+    return -1;
+}
+
+void PanelConjuntos::detalla(int fila) {
+    const QString variable = tabla_.item(fila, Variable)->text();
+    const GramaticaLR& g = *estudio_->gramatica();
+    detalle_.setPlainText(QStringLiteral("Primeros(%1) = { %2 }\n\nSiguientes(%1) = { %3 }\n\nReglas:%4")
+                              .arg(variable, tabla_.item(fila, Primeros)->text(),
+                                   tabla_.item(fila, Siguientes)->text(),
+                                   reglasDe(g, g.partidas.simbolo(vistaDe(variable)))));
+}
+
+void PanelConjuntos::selecciona(const Eleccion& eleccion) {
+    if (!estudio_) return;
+    const auto simbolo = simboloDe(*estudio_, eleccion);
+    const int fila = simbolo ? filaDe(aQString(*simbolo)) : -1;
+    if (fila < 0) return;
+    const QScopedValueRollback<bool> callado(callado_, true);
+    tabla_.setCurrentCell(fila, Variable);
+    detalla(fila);
+}
+
+void PanelConjuntos::elige(int fila) {
+    if (callado_ || fila < 0) return;
+    detalla(fila);
+    emit elegido(DeSimbolo{tabla_.item(fila, Variable)->text().toStdU16String()});
+}
+
+} // namespace norvik::taller

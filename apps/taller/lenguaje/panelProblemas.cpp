@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelProblemas.hpp"
+
+#include "curas.hpp"
+
+#include "norvik/checks/historiaTexto.hpp"
+#include "norvik/platform/qt/ayudaLlana.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
+
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QStyle>
+
+#include <algorithm>
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+enum Columna { Problema, Lugar, numeroDeColumnas };
+
+constexpr std::array gravedades = {Gravedad::Error, Gravedad::Aviso, Gravedad::Nota};
+constexpr std::size_t maximoDeFilas = 500; ///< of a side: nobody reads more
+
+QStyle::StandardPixmap dibujoDe(Gravedad gravedad) {
+    switch (gravedad) {
+    case Gravedad::Error:
+        return QStyle::SP_MessageBoxCritical;
+    case Gravedad::Aviso:
+        return QStyle::SP_MessageBoxWarning;
+    case Gravedad::Nota:
+        return QStyle::SP_MessageBoxInformation;
+    }
+    return QStyle::SP_MessageBoxInformation;
+}
+
+QString nombre(Gravedad gravedad) {
+    QString palabra = aQString(nombreDe(gravedad));
+    palabra[0] = palabra[0].toUpper();
+    return palabra;
+}
+
+QString nombres(Gravedad gravedad) {
+    return nombre(gravedad) + (gravedad == Gravedad::Error ? QStringLiteral("es") : QStringLiteral("s"));
+}
+
+QString lugar(const Rango& rango) {
+    return QStringLiteral("%1:%2").arg(rango.inicio.linea).arg(rango.inicio.columna);
+}
+
+bool esConflicto(const Diagnostico& diagnostico) {
+    return diagnostico.codigo == Codigo::Conflicto || diagnostico.codigo == Codigo::ConflictoCallado;
+}
+
+} // namespace
+
+PanelProblemas::PanelProblemas(QWidget* padre)
+    : Panel(QStringLiteral("problemas"), QStringLiteral("Problemas"), padre) {
+    compone();
+    for (QToolButton& filtro : filtros_)
+        connect(&filtro, &QToolButton::toggled, this, [this] { protege([this] { llena(); }); });
+    connect(&lista_, &QTreeWidget::currentItemChanged, this,
+            [this](const QTreeWidgetItem* elemento) { protege([&] { elige(elemento); }); });
+    connect(&lista_, &QTreeWidget::itemClicked, this,
+            [this](const QTreeWidgetItem* elemento) { protege([&] { ve(elemento); }); });
+    connect(&lista_, &QTreeWidget::itemActivated, this,
+            [this](const QTreeWidgetItem* elemento) { protege([&] { ve(elemento); }); });
+    connect(&historias_, &Historias::contadas, this, [this] { protege([this] { anadeCuras(); }); });
+}
+
+void PanelProblemas::compone() {
+    for (const Gravedad gravedad : gravedades) {
+        QToolButton& boton = filtro(gravedad);
+        boton.setCheckable(true);
+        boton.setChecked(true);
+        boton.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        boton.setIcon(style()->standardIcon(dibujoDe(gravedad)));
+        boton.setText(nombres(gravedad));
+        barra_.addWidget(&boton);
+    }
+    barra_.addStretch(1);
+    lista_.setColumnCount(numeroDeColumnas);
+    lista_.setHeaderLabels({QStringLiteral("Problema"), QStringLiteral("Lugar")});
+    lista_.setAccessibleName(QStringLiteral("Problemas de la especificación y del texto"));
+    lista_.setUniformRowHeights(true);
+    lista_.header()->setStretchLastSection(false);
+    lista_.header()->setSectionResizeMode(Problema, QHeaderView::Stretch);
+    lista_.header()->setSectionResizeMode(Lugar, QHeaderView::ResizeToContents);
+    detalle_.setReadOnly(true);
+    detalle_.setTabChangesFocus(true);
+    detalle_.setLineWrapMode(QPlainTextEdit::NoWrap);
+    detalle_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // it has drawn trees
+    detalle_.setAccessibleName(QStringLiteral("Todo sobre el problema elegido"));
+    columna_.setContentsMargins(0, 0, 0, 0);
+    columna_.addLayout(&barra_);
+    columna_.addWidget(&lista_, 1);
+    lado_.setLayout(&columna_);
+    centro_.addWidget(&lado_);
+    centro_.addWidget(&detalle_);
+    centro_.setStretchFactor(0, 3);
+    centro_.setStretchFactor(1, 2);
+    centro_.setFocusProxy(&lista_);
+    setWidget(&centro_);
+}
+
+const std::vector<Diagnostico>& PanelProblemas::diagnosticos(Lado lado) const {
+    return lado == Lado::Especificacion ? estudio_->deLenguaje->diagnosticos
+                                        : estudio_->analisis.diagnosticos;
+}
+
+/// A list that says the same stays as it is, with what is chosen and open in it.
+void PanelProblemas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    const auto antes = std::exchange(estudio_, std::move(estudio));
+    historias_.pon(estudio_->deLenguaje);
+    const bool dicenLoMismo = antes && antes->analisis.diagnosticos == estudio_->analisis.diagnosticos &&
+                              antes->deLenguaje->diagnosticos == estudio_->deLenguaje->diagnosticos;
+    if (!dicenLoMismo) llena();
+}
+
+void PanelProblemas::llena() {
+    if (!estudio_) return;
+    const QScopedValueRollback<bool> callado(callado_, true);
+    lista_.clear();
+    filas_.clear();
+    detalle_.clear();
+    llenaLado(Lado::Especificacion, QStringLiteral("Especificación"));
+    llenaLado(Lado::Texto, QStringLiteral("Texto"));
+    cuentaFiltros();
+    if (historias_.conocidas()) anadeCuras();
+}
+
+void PanelProblemas::llenaLado(Lado lado, const QString& titulo) {
+    auto& grupo = nuevo<QTreeWidgetItem>(&lista_);
+    QFont letra = lista_.font();
+    letra.setBold(true);
+    grupo.setFont(Problema, letra);
+    const auto& suyos = diagnosticos(lado);
+    std::size_t vistos = 0;
+    for (std::size_t i = 0; i < suyos.size() && vistos < maximoDeFilas; ++i) {
+        if (!filtro(suyos[i].gravedad).isChecked()) continue;
+        anade(grupo, lado, i);
+        ++vistos;
+    }
+    grupo.setText(Problema, suyos.empty() ? titulo + QStringLiteral(": ningún problema")
+                                          : QStringLiteral("%1: %2").arg(titulo).arg(suyos.size()));
+    grupo.setExpanded(true);
+    if (vistos == maximoDeFilas)
+        nuevo<QTreeWidgetItem>(&grupo).setText(Problema, QStringLiteral("… y puede que más"));
+}
+
+QTreeWidgetItem& PanelProblemas::anadeFila(QTreeWidgetItem& padre, const Fila& fila, const QString& texto) {
+    auto& elemento = nuevo<QTreeWidgetItem>(&padre);
+    elemento.setText(Problema, texto);
+    elemento.setToolTip(Problema, ayudaLlana(texto));
+    elemento.setText(Lugar, lugar(fila.lugar));
+    elemento.setData(Problema, Qt::UserRole, QVariant::fromValue(static_cast<int>(filas_.size())));
+    filas_.push_back(fila);
+    return elemento;
+}
+
+void PanelProblemas::anade(QTreeWidgetItem& grupo, Lado lado, std::size_t numero) {
+    const Diagnostico& d = diagnosticos(lado)[numero];
+    const QString texto = nombre(d.gravedad) + QStringLiteral(": ") + aQString(mensaje(d)).simplified();
+    QTreeWidgetItem& elemento = anadeFila(grupo, {lado, numero, d.rango}, texto);
+    elemento.setIcon(Problema, style()->standardIcon(dibujoDe(d.gravedad)));
+    for (const Relacionado& otro : d.partes.relacionados)
+        anadeFila(elemento, {lado, numero, otro.rango}, QStringLiteral("Véase: ") + aQString(otro.texto));
+    for (const Arreglo& arreglo : d.partes.arreglos)
+        anadeFila(elemento, {lado, numero, d.rango, arreglo},
+                  QStringLiteral("Arreglar: ") + aQString(arreglo.titulo));
+    elemento.setExpanded(true);
+}
+
+void PanelProblemas::anadeCuras() {
+    QTreeWidgetItem& grupo = *lista_.topLevelItem(0);
+    for (int i = 0; i < grupo.childCount(); ++i) {
+        QTreeWidgetItem& elemento = *grupo.child(i);
+        const Fila* const fila = filaDe(&elemento);
+        const auto* const historias = fila == nullptr ? nullptr : historias_.de(fila->diagnostico);
+        if (historias == nullptr || historias->empty()) continue;
+        const Fila suya = *fila; // more rows move those that there are
+        for (const Arreglo& cura : curasDe(*estudio_->deLenguaje, historias->front()))
+            anadeFila(elemento, {suya.lado, suya.diagnostico, suya.lugar, cura},
+                      QStringLiteral("Arreglar: ") + aQString(cura.titulo));
+    }
+    elige(lista_.currentItem());
+}
+
+void PanelProblemas::cuentaFiltros() {
+    for (const Gravedad gravedad : gravedades) {
+        std::ptrdiff_t cuantos = 0;
+        for (const Lado lado : {Lado::Especificacion, Lado::Texto})
+            cuantos += std::ranges::count(diagnosticos(lado), gravedad, &Diagnostico::gravedad);
+        filtro(gravedad).setText(QStringLiteral("%1 (%2)").arg(nombres(gravedad)).arg(cuantos));
+    }
+}
+
+// ---- what is chosen
+
+const PanelProblemas::Fila* PanelProblemas::filaDe(const QTreeWidgetItem* elemento) const {
+    const QVariant numero = elemento == nullptr ? QVariant() : elemento->data(Problema, Qt::UserRole);
+    return numero.isValid() ? &filas_[static_cast<std::size_t>(numero.toInt())] : nullptr;
+}
+
+Eleccion PanelProblemas::eleccionDe(const Fila& fila) {
+    return fila.lado == Lado::Especificacion ? Eleccion(EnEspecificacion{fila.lugar})
+                                             : Eleccion(EnTexto{fila.lugar});
+}
+
+void PanelProblemas::elige(const QTreeWidgetItem* elemento) {
+    const Fila* const fila = filaDe(elemento);
+    if (callado_ || fila == nullptr) return;
+    detalla(*fila);
+    emit elegido(eleccionDe(*fila));
+}
+
+void PanelProblemas::ve(const QTreeWidgetItem* elemento) {
+    const Fila* const fila = filaDe(elemento);
+    if (fila == nullptr) return;
+    if (fila->arreglo)
+        emit arreglado(fila->lado, Arreglo(*fila->arreglo)); // who does it may fill the list again
+    else
+        emit ido(eleccionDe(*fila));
+}
+
+void PanelProblemas::detalla(const Fila& fila) {
+    const Diagnostico& d = diagnosticos(fila.lado)[fila.diagnostico];
+    QString texto = aQString(mensaje(d)) + QStringLiteral("\n\nCódigo: ") + aQString(nombreDe(d.codigo));
+    if (fila.lado == Lado::Especificacion && esConflicto(d)) {
+        const auto* const historias = historias_.de(fila.diagnostico);
+        if (historias == nullptr) texto += QStringLiteral("\n\nSe busca un ejemplo…");
+        for (std::size_t i = 0; historias != nullptr && i < historias->size(); ++i)
+            texto += QStringLiteral("\n\n") + aQString(enTexto((*historias)[i]));
+    }
+    detalle_.setPlainText(texto);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "historias.hpp"
+#include "panel.hpp"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QSplitter>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace norvik::taller {
+
+/// Which of the two texts.
+enum class Lado : std::uint8_t { Especificacion, Texto };
+
+/// What is wrong or odd in both texts, each with its repairs; of a conflict its story.
+class PanelProblemas final : public Panel {
+    Q_OBJECT
+
+public:
+    explicit PanelProblemas(QWidget* padre);
+
+    void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
+
+    // For those who drive it from outside.
+    QTreeWidget& lista() { return lista_; }
+    QPlainTextEdit& detalle() { return detalle_; }
+    QToolButton& filtro(Gravedad gravedad) { return filtros_[static_cast<std::size_t>(gravedad)]; }
+
+signals:
+    /// The person wants to go there, and to write there.
+    void ido(const norvik::taller::Eleccion& eleccion);
+    void arreglado(norvik::taller::Lado lado, const norvik::Arreglo& arreglo);
+
+private:
+    /// What a row stands for: a problem, another place of it, or a repair.
+    struct Fila {
+        Lado lado = Lado::Especificacion;
+        std::size_t diagnostico = 0;
+        Rango lugar;
+        std::optional<Arreglo> arreglo{};
+    };
+
+    void compone();
+    void llena();
+    void llenaLado(Lado lado, const QString& titulo);
+    void anade(QTreeWidgetItem& grupo, Lado lado, std::size_t numero);
+    QTreeWidgetItem& anadeFila(QTreeWidgetItem& padre, const Fila& fila, const QString& texto);
+    /// The stories are known, and with them what cures their conflicts.
+    void anadeCuras();
+    void cuentaFiltros();
+    const std::vector<Diagnostico>& diagnosticos(Lado lado) const;
+    const Fila* filaDe(const QTreeWidgetItem* elemento) const;
+    void elige(const QTreeWidgetItem* elemento);
+    void ve(const QTreeWidgetItem* elemento);
+    void detalla(const Fila& fila);
+    static Eleccion eleccionDe(const Fila& fila);
+
+    Historias historias_;
+    QSplitter centro_;
+    QWidget lado_;
+    QVBoxLayout columna_;
+    QHBoxLayout barra_;
+    std::array<QToolButton, 3> filtros_;
+    QTreeWidget lista_;
+    QPlainTextEdit detalle_;
+    std::shared_ptr<const Estudio> estudio_;
+    std::vector<Fila> filas_;
+    bool callado_ = false; ///< the list is being filled
+};
+
+} // namespace norvik::taller

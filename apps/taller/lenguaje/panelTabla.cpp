@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelTabla.hpp"
+
+#include "correspondencias.hpp"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+namespace norvik::taller {
+
+PanelTabla::PanelTabla(QWidget* padre) : Panel(QStringLiteral("tabla"), QStringLiteral("Tabla"), padre) {
+    compone();
+    connect(vista_.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
+    connect(&vista_, &QTableView::clicked, this,
+            [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
+    connect(&siguiente_, &QToolButton::clicked, this, [this] { protege([this] { vaAlSiguiente(); }); });
+}
+
+void PanelTabla::compone() {
+    vista_.setAccessibleName(QStringLiteral("Tabla del analizador: estados y símbolos"));
+    vista_.setModel(&modelo_);
+    vista_.setWordWrap(false);
+    vista_.setTabKeyNavigation(false);
+    vista_.setHorizontalScrollMode(QTableView::ScrollPerPixel);
+    vista_.setSelectionMode(QTableView::SingleSelection);
+    vista_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    vista_.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    palabras_.setTextFormat(Qt::PlainText);
+    palabras_.setWordWrap(true);
+    palabras_.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    palabras_.setAccessibleName(QStringLiteral("Lo que hace la celda elegida"));
+    fila_.addWidget(&palabras_, 1);
+    fila_.addWidget(&siguiente_);
+    columna_.setContentsMargins(0, 0, 0, 0);
+    columna_.addLayout(&fila_);
+    columna_.addWidget(&vista_, 1);
+    centro_.setLayout(&columna_);
+    centro_.setFocusProxy(&vista_);
+    setWidget(&centro_);
+}
+
+void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    const bool esElMismo = estudio_ && estudio_->deLenguaje == estudio->deLenguaje;
+    estudio_ = std::move(estudio);
+    if (esElMismo) return;
+    const QScopedValueRollback<bool> callado(callado_, true);
+    modelo_.muestra(estudio_->deLenguaje);
+    ajusta();
+    vista_.setCurrentIndex(modelo_.index(0, 0)); // coming here chooses nothing
+    const auto conflictos = modelo_.enConflicto().size();
+    siguiente_.setText(conflictos == 1 ? QStringLiteral("&Ir al conflicto")
+                                       : QStringLiteral("&Siguiente de %1 conflictos").arg(conflictos));
+    siguiente_.setEnabled(conflictos > 0);
+    if (conflictos == 0) siguiente_.setText(QStringLiteral("Sin conflictos"));
+    palabras_.setText(estudio_->gramatica() == nullptr
+                          ? QStringLiteral("El lenguaje no tiene gramática, o no compila: no hay tabla.")
+                          : modelo_.palabras(vista_.currentIndex()));
+}
+
+/// Sizes that need no look at the cells one by one: an entry is no longer than its form lets it be.
+void PanelTabla::ajusta() {
+    QFont negrita = font();
+    negrita.setBold(true);
+    const QFontMetrics letra(negrita);
+    const int margen = letra.horizontalAdvance(QStringLiteral("00"));
+    const int entrada = letra.horizontalAdvance(QStringLiteral("D000"));
+    std::vector<int> anchos(static_cast<std::size_t>(modelo_.columnCount()), entrada);
+    for (const DeCelda& celda : modelo_.enConflicto())
+        anchos[static_cast<std::size_t>(celda.codigo)] =
+            letra.horizontalAdvance(QStringLiteral("⚠ D000 / R000"));
+    for (int c = 0; c < modelo_.columnCount(); ++c) {
+        const QString simbolo = modelo_.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        vista_.setColumnWidth(
+            c, std::max(anchos[static_cast<std::size_t>(c)], letra.horizontalAdvance(simbolo)) + margen);
+    }
+    vista_.verticalHeader()->setDefaultSectionSize(letra.height() * 3 / 2);
+}
+
+void PanelTabla::selecciona(const Eleccion& eleccion) {
+    const auto estado = estadoDe(eleccion);
+    if (!estado) return;
+    const auto* const celda = std::get_if<DeCelda>(&eleccion);
+    const int columna = celda != nullptr ? celda->codigo : std::max(0, vista_.currentIndex().column());
+    const QScopedValueRollback<bool> callado(callado_, true);
+    vista_.setCurrentIndex(modelo_.index(*estado, columna));
+    palabras_.setText(modelo_.palabras(vista_.currentIndex()));
+}
+
+void PanelTabla::elige(const QModelIndex& celda) {
+    if (callado_ || !celda.isValid()) return;
+    palabras_.setText(modelo_.palabras(celda));
+    emit elegido(DeCelda{static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())});
+}
+
+/// In the order of the table, and from the last one to the first.
+void PanelTabla::vaAlSiguiente() {
+    const auto& conflictos = modelo_.enConflicto();
+    if (conflictos.empty()) return;
+    const QModelIndex actual = vista_.currentIndex();
+    const auto detras = [&](const DeCelda& c) {
+        return c.estado > actual.row() || (c.estado == actual.row() && c.codigo > actual.column());
+    };
+    const auto sitio = std::ranges::find_if(conflictos, detras);
+    const DeCelda& celda = sitio == conflictos.end() ? conflictos.front() : *sitio;
+    vista_.setCurrentIndex(modelo_.index(celda.estado, celda.codigo));
+    vista_.setFocus();
+}
+
+} // namespace norvik::taller

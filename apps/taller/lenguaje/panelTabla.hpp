@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "modeloCeldas.hpp"
+#include "panel.hpp"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace norvik::taller {
+
+/// The table: what the chosen cell does, in words, and a way from conflict to conflict.
+class PanelTabla final : public Panel {
+    Q_OBJECT
+
+public:
+    explicit PanelTabla(QWidget* padre);
+
+    void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
+    void selecciona(const Eleccion& eleccion) override;
+
+    // For those who drive it from outside.
+    QTableView& vista() { return vista_; }
+    QLabel& palabras() { return palabras_; }
+    QToolButton& siguiente() { return siguiente_; }
+
+private:
+    void compone();
+    void ajusta();
+    void elige(const QModelIndex& celda);
+    void vaAlSiguiente();
+
+    QWidget centro_;
+    QVBoxLayout columna_;
+    QHBoxLayout fila_;
+    QLabel palabras_;
+    QToolButton siguiente_;
+    ModeloCeldas modelo_; ///< goes after its view
+    QTableView vista_;
+    std::shared_ptr<const Estudio> estudio_;
+    bool callado_ = false; ///< what is chosen was chosen elsewhere
+};
+
+} // namespace norvik::taller

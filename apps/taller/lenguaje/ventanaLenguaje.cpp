@@ -1,0 +1,354 @@
+// SPDX-License-Identifier: MIT
+
+#include "ventanaLenguaje.hpp"
+
+#include "../rutas.hpp"
+#include "correspondencias.hpp"
+#include "enControl.hpp"
+
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/spec/lenguajeEspecificacion.hpp"
+#include "norvik/tools/ventanas.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+const QString claveGeometria = QStringLiteral("lenguaje/geometria");
+const QString claveEstado = QStringLiteral("lenguaje/estado");
+const QString claveEditores = QStringLiteral("lenguaje/editores");
+
+} // namespace
+
+/// One at a time: while one asks something, events run.
+template <typename Orden>
+void VentanaLenguaje::ejecuta(const Orden& orden) {
+    if (ocupada_) return;
+    const QScopedValueRollback<bool> ocupada(ocupada_, true);
+    norvik::ejecuta(sistema_, orden);
+}
+
+VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettings& ajustes)
+    : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes),
+      especificacion_(QStringLiteral("Especificación"), sistema, &editores_),
+      texto_(QStringLiteral("Texto"), sistema, &editores_), archivo_(QStringLiteral("&Archivo")),
+      edicion_(QStringLiteral("&Edición")), ver_(QStringLiteral("&Ver")), seguimiento_([this] {
+          return Seguimiento::Textos{especificacion_.texto(), texto_.texto()};
+      }) {
+    compone();
+    ponMenus();
+    conecta();
+    restoreGeometry(ajustes_.value(claveGeometria).toByteArray());
+    restoreState(ajustes_.value(claveEstado).toByteArray());
+    editores_.restoreState(ajustes_.value(claveEditores).toByteArray());
+    cambio();
+}
+
+// ---- how it is put together
+
+void VentanaLenguaje::compone() {
+    mide(*this, {1280, 860});
+    setDockNestingEnabled(true);
+    CargaMetaLenguaje(especificacion_.norvik().control());
+    editores_.addWidget(&especificacion_);
+    editores_.addWidget(&texto_);
+    editores_.setChildrenCollapsible(false);
+    setCentralWidget(&editores_);
+    colocaPaneles();
+    statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
+    for (QLabel* const etiqueta : {&estado_, &lugar_}) {
+        etiqueta->setTextFormat(Qt::PlainText);
+        etiqueta->setContentsMargins(8, 0, 8, 0);
+        statusBar()->addPermanentWidget(etiqueta);
+    }
+}
+
+/// Where they are to begin with.
+void VentanaLenguaje::colocaPaneles() {
+    addDockWidget(Qt::RightDockWidgetArea, &arbol_);
+    Panel* anterior = nullptr;
+    for (Panel* const panel : paneles()) {
+        panel->setFloating(false);
+        panel->show();
+        if (panel == &arbol_) continue;
+        addDockWidget(Qt::BottomDockWidgetArea, panel);
+        if (anterior != nullptr) tabifyDockWidget(anterior, panel);
+        anterior = panel;
+    }
+    problemas_.raise();
+    resizeDocks({&arbol_}, {340}, Qt::Horizontal);
+    resizeDocks({&problemas_}, {240}, Qt::Vertical);
+}
+
+QAction& VentanaLenguaje::accion(QMenu& menu, const QString& texto, const QKeySequence& teclas,
+                                 const std::function<void()>& orden) {
+    QAction& accion = *menu.addAction(texto);
+    accion.setShortcut(teclas);
+    connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(orden); });
+    return accion;
+}
+
+void VentanaLenguaje::ponMenus() {
+    for (QMenu* const menu : {&archivo_, &edicion_, &ver_}) menuBar()->addMenu(menu);
+    accion(archivo_, QStringLiteral("&Abrir lenguaje…"), QKeySequence::Open, [this] {
+        const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroEspecificacion);
+        if (fichero && puedePerder(especificacion_)) especificacion_.documento().abre(*fichero);
+    });
+    accion(archivo_, QStringLiteral("Abrir &texto…"), QStringLiteral("Ctrl+Shift+O"), [this] {
+        const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir texto"), todos);
+        if (fichero && puedePerder(texto_)) texto_.documento().abre(*fichero);
+    });
+    archivo_.addSeparator();
+    accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save, [this] { guarda(*activo_); });
+    accion(archivo_, QStringLiteral("Guardar &como…"), QStringLiteral("Ctrl+Shift+S"),
+           [this] { guardaComo(*activo_); });
+    archivo_.addSeparator();
+    accion(archivo_, QStringLiteral("&Usar en el formulario"), QStringLiteral("F6"), [this] {
+        emit usado(especificacion_.texto());
+        especificacion_.documento().anotaEntregado();
+    });
+    archivo_.addSeparator();
+    QAction& cerrar = *archivo_.addAction(QStringLiteral("Ce&rrar"));
+    cerrar.setShortcut(QStringLiteral("Ctrl+W"));
+    connect(&cerrar, &QAction::triggered, this, &QWidget::close);
+    connect(&edicion_, &QMenu::aboutToShow, this, [this] {
+        sinFallos([this] {
+            edicion_.clear();
+            for (int i = 0; i < numeroDeAcciones; ++i)
+                edicion_.addAction(activo_->norvik().accion(static_cast<AccionNorvik>(i)));
+        });
+    });
+    ponMenuVer();
+}
+
+/// Each panel and editor is a key away.
+void VentanaLenguaje::ponMenuVer() {
+    int numero = 1;
+    const auto teclas = [&numero] { return QKeySequence(QStringLiteral("Ctrl+%1").arg(numero++)); };
+    for (EditorTexto* const editor : {&especificacion_, &texto_})
+        accion(ver_, QStringLiteral("Ir a: %1").arg(editor->nombre()), teclas(),
+               [editor] { editor->norvik().setFocus(); });
+    for (Panel* const panel : paneles())
+        accion(ver_, QStringLiteral("Ir a: %1").arg(panel->titulo()), teclas(), [panel] {
+            panel->show();
+            panel->raise();
+            panel->widget()->setFocus();
+        });
+    ver_.addSeparator();
+    for (Panel* const panel : paneles()) ver_.addAction(panel->toggleViewAction());
+    ver_.addSeparator();
+    accion(ver_, QStringLiteral("&Colocar los paneles como al principio"), {}, [this] { colocaPaneles(); });
+}
+
+void VentanaLenguaje::conecta() {
+    using namespace std::chrono_literals;
+    atraso_.setSingleShot(true);
+    atraso_.setInterval(400ms);
+    connect(&atraso_, &QTimer::timeout, this, [this] { sinFallos([this] { marca(); }); });
+    conecta(especificacion_);
+    conecta(texto_);
+    const auto avisa = [this](const QString& texto) { statusBar()->showMessage(texto, 8000); };
+    for (Panel* const panel : paneles()) {
+        connect(panel, &Panel::elegido, this,
+                [this, panel](const Eleccion& eleccion) { sinFallos([&] { elige(eleccion, panel); }); });
+        connect(panel, &Panel::fallo, this, avisa);
+    }
+    connect(&problemas_, &PanelProblemas::ido, this, [this](const Eleccion& eleccion) {
+        sinFallos([&] {
+            elige(eleccion, &problemas_);
+            editorDe(std::holds_alternative<EnTexto>(eleccion) ? Lado::Texto : Lado::Especificacion)
+                .norvik()
+                .setFocus();
+        });
+    });
+    connect(&problemas_, &PanelProblemas::arreglado, this,
+            [this](Lado lado, const Arreglo& arreglo) { ejecuta([&] { arregla(lado, arreglo); }); });
+    connect(&seguimiento_, &Seguimiento::estudiado, this,
+            [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
+    connect(&seguimiento_, &Seguimiento::fallo, this, avisa);
+}
+
+void VentanaLenguaje::conecta(EditorTexto& editor) {
+    connect(&editor, &EditorTexto::otroTexto, this, [this] { sinFallos([this] { cambio(); }); });
+    connect(&editor, &EditorTexto::otroLugar, this, [this] { sinFallos([this] { sigueCursor(); }); });
+    connect(&editor, &EditorTexto::fallo, this,
+            [this](const QString& texto) { statusBar()->showMessage(texto, 8000); });
+    connect(&editor.documento(), &DocumentoTexto::cambiado, this, [this] { actualizaTitulo(); });
+    connect(qApp, &QApplication::focusChanged, &editor, [this, &editor](QWidget* /*antes*/, QWidget* ahora) {
+        if (ahora != nullptr && editor.isAncestorOf(ahora)) activo_ = &editor;
+    });
+}
+
+// ---- the documents
+
+void VentanaLenguaje::empieza(std::u16string_view especificacion, std::u16string_view texto) {
+    ejecuta([&] {
+        if (!puedePerder()) return;
+        especificacion_.documento().empieza(especificacion);
+        texto_.documento().empieza(texto);
+    });
+}
+
+void VentanaLenguaje::abre(const QString& especificacion) {
+    ejecuta([&] {
+        if (puedePerder(especificacion_)) especificacion_.documento().abre(especificacion);
+    });
+}
+
+void VentanaLenguaje::abreTexto(const QString& fichero) {
+    ejecuta([&] {
+        if (puedePerder(texto_)) texto_.documento().abre(fichero);
+    });
+}
+
+void VentanaLenguaje::trae() {
+    show();
+    raise();
+    activateWindow();
+    especificacion_.norvik().setFocus();
+}
+
+bool VentanaLenguaje::puedePerder() {
+    return puedePerder(especificacion_) && puedePerder(texto_);
+}
+
+bool VentanaLenguaje::puedePerder(EditorTexto& editor) {
+    if (!editor.documento().modificado()) return true;
+    const QString pregunta =
+        QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(editor.documento().titulo());
+    return dialogos_.guardaOPierde(pregunta, [this, &editor] { return guarda(editor); });
+}
+
+bool VentanaLenguaje::guarda(EditorTexto& editor) {
+    const DocumentoTexto& documento = editor.documento();
+    if (documento.fichero().isEmpty()) return guardaComo(editor);
+    return !documento.modificado() || escribe(editor, documento.fichero());
+}
+
+bool VentanaLenguaje::guardaComo(EditorTexto& editor) {
+    const bool esEspecificacion = &editor == &especificacion_;
+    const QString extension = esEspecificacion ? extensionEspecificacion : QString();
+    QString propuesto = editor.documento().fichero();
+    if (propuesto.isEmpty() && esEspecificacion) propuesto = QStringLiteral("lenguaje.") + extension;
+    const auto fichero =
+        dialogos_.eligeParaGuardar(QStringLiteral("Guardar: ") + editor.nombre(),
+                                   esEspecificacion ? filtroEspecificacion : todos, propuesto, extension);
+    return fichero && escribe(editor, *fichero);
+}
+
+bool VentanaLenguaje::escribe(EditorTexto& editor, const QString& fichero) {
+    if (!guardaOAvisa(editor.documento(), fichero, sistema_)) return false;
+    statusBar()->showMessage(QStringLiteral("Guardado «%1»").arg(editor.documento().titulo()), 4000);
+    return true;
+}
+
+void VentanaLenguaje::actualizaTitulo() {
+    setWindowModified(especificacion_.documento().modificado() || texto_.documento().modificado());
+    setWindowTitle(especificacion_.documento().titulo() + QStringLiteral("[*] — Lenguaje — Norvik"));
+}
+
+void VentanaLenguaje::closeEvent(QCloseEvent* evento) {
+    evento->ignore();
+    ejecuta([&] {
+        if (!puedePerder()) return;
+        evento->accept();
+        ajustes_.setValue(claveGeometria, saveGeometry());
+        ajustes_.setValue(claveEstado, saveState());
+        ajustes_.setValue(claveEditores, editores_.saveState());
+    });
+}
+
+// ---- what is known of them
+
+void VentanaLenguaje::cambio() {
+    seguimiento_.cambio();
+    actualizaTitulo();
+    if (!atraso_.isActive()) atraso_.start();
+}
+
+void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
+    const bool otroLenguaje = !ultimo_ || ultimo_->deLenguaje != estudio->deLenguaje;
+    ultimo_ = estudio;
+    problemas_.ponEstudio(estudio);
+    if (otroLenguaje) especificacion_.norvik().ponDiagnosticos(estudio->deLenguaje->diagnosticos);
+    if (estudio->deLenguaje->lenguaje) muestra(estudio);
+    marca();
+    sigueCursor();
+}
+
+void VentanaLenguaje::muestra(const std::shared_ptr<const Estudio>& estudio) {
+    const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != estudio->deLenguaje;
+    mostrado_ = estudio;
+    if (otroLenguaje) carga(*estudio->deLenguaje->lenguaje, texto_.norvik());
+    texto_.norvik().ponDiagnosticos(estudio->analisis.diagnosticos);
+    for (Panel* const panel : paneles())
+        if (panel != &problemas_) panel->ponEstudio(estudio);
+}
+
+/// What is older than the texts says so.
+void VentanaLenguaje::marca() {
+    const bool alDia = seguimiento_.alDia();
+    const bool compila = ultimo_ && ultimo_->deLenguaje->lenguaje;
+    problemas_.ponAtrasado(!alDia);
+    for (Panel* const panel : paneles())
+        if (panel != &problemas_) panel->ponAtrasado(!alDia || !compila);
+    if (!alDia)
+        estado_.setText(QStringLiteral("Estudiando lo escrito…"));
+    else if (compila)
+        estado_.setText(QStringLiteral("Al día"));
+    else
+        estado_.setText(QStringLiteral("La especificación no compila: se enseña la última que compiló"));
+}
+
+/// The panels show what the caret is at.
+void VentanaLenguaje::sigueCursor() {
+    const CajaTextoQt& caja = activo_->norvik().caja();
+    lugar_.setText(QStringLiteral("%1: línea %2, columna %3")
+                       .arg(activo_->nombre())
+                       .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
+                       .arg(activo_->norvik().control().ColumnaActual()));
+    if (eligiendo_ || !mostrado_ || mostrado_ != ultimo_ || !seguimiento_.alDia()) return;
+    const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
+    const Rango rango = activo_->seleccion();
+    const Eleccion eleccion =
+        activo_ == &texto_ ? Eleccion(EnTexto{rango}) : Eleccion(EnEspecificacion{rango});
+    for (Panel* const panel : paneles()) panel->selecciona(eleccion);
+}
+
+void VentanaLenguaje::elige(const Eleccion& eleccion, const Panel* desde) {
+    const auto& estudio = desde == &problemas_ ? ultimo_ : mostrado_;
+    if (eligiendo_ || !estudio) return;
+    const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
+    for (Panel* const panel : paneles())
+        if (panel != desde && mostrado_) panel->selecciona(eleccion);
+    muestraEnEditores(*estudio, eleccion);
+}
+
+/// Places are those of the study: in another text they mean nothing.
+void VentanaLenguaje::muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion) {
+    const auto enEspecificacion = lugarEnEspecificacion(estudio, eleccion);
+    if (enEspecificacion && estudio.deLenguaje->especificacion == especificacion_.norvik().caja().texto())
+        especificacion_.muestra(*enEspecificacion);
+    const auto enTexto = lugarEnTexto(estudio, eleccion);
+    if (enTexto && estudio.texto == texto_.norvik().caja().texto()) texto_.muestra(*enTexto);
+}
+
+/// A repair is one of the text that was studied.
+void VentanaLenguaje::arregla(Lado lado, const Arreglo& arreglo) {
+    if (!seguimiento_.alDia()) return;
+    EditorTexto& editor = editorDe(lado);
+    aplica(arreglo, editor.norvik());
+    editor.norvik().setFocus();
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "../dialogos.hpp"
+#include "editorTexto.hpp"
+#include "panelAnalisis.hpp"
+#include "panelConjuntos.hpp"
+#include "panelProblemas.hpp"
+#include "panelTabla.hpp"
+#include "seguimiento.hpp"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QSettings>
+#include <QSplitter>
+#include <QTimer>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace norvik::taller {
+
+/// The language window: a specification, a text of its language, and panels that show what is known of both
+/// while they are typed.
+class VentanaLenguaje final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// All outlive it.
+    VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettings& ajustes);
+
+    /// A specification and a text in the place of those that it has; neither has a file. Nothing when a
+    /// person does not want to lose those.
+    void empieza(std::u16string_view especificacion, std::u16string_view texto);
+    /// The specification, or the text, of a file.
+    void abre(const QString& especificacion);
+    void abreTexto(const QString& fichero);
+    /// Shows it in front.
+    void trae();
+    /// Asks what is to become of what was written and is not saved; false when it stays.
+    bool puedePerder();
+
+    // For those who drive it from outside.
+    EditorTexto& especificacion() { return especificacion_; }
+    EditorTexto& texto() { return texto_; }
+    PanelProblemas& problemas() { return problemas_; }
+    PanelAnalisis& arbol() { return arbol_; }
+    PanelConjuntos& conjuntos() { return conjuntos_; }
+    PanelTabla& tabla() { return tabla_; }
+    Seguimiento& seguimiento() { return seguimiento_; }
+
+signals:
+    /// The person wants the specification in the control that the workbench has active.
+    void usado(const std::u16string& especificacion);
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    enum class Foco : std::uint8_t { Queda, Va };
+
+    std::array<Panel*, 4> paneles() { return {&problemas_, &arbol_, &conjuntos_, &tabla_}; }
+    template <typename Orden>
+    void ejecuta(const Orden& orden);
+    QAction& accion(QMenu& menu, const QString& texto, const QKeySequence& teclas,
+                    const std::function<void()>& orden);
+    void compone();
+    void colocaPaneles();
+    void ponMenus();
+    void ponMenuVer();
+    void conecta();
+    void conecta(EditorTexto& editor);
+
+    // The documents.
+    bool guarda(EditorTexto& editor);
+    bool guardaComo(EditorTexto& editor);
+    bool escribe(EditorTexto& editor, const QString& fichero);
+    bool puedePerder(EditorTexto& editor);
+    void actualizaTitulo();
+
+    // What is known of them.
+    void cambio();
+    void recibe(const std::shared_ptr<const Estudio>& estudio);
+    void muestra(const std::shared_ptr<const Estudio>& estudio);
+    void marca();
+    void sigueCursor();
+    void elige(const Eleccion& eleccion, const Panel* desde);
+    void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
+    void arregla(Lado lado, const Arreglo& arreglo);
+    EditorTexto& editorDe(Lado lado) { return lado == Lado::Especificacion ? especificacion_ : texto_; }
+
+    SistemaQt& sistema_;
+    Dialogos& dialogos_;
+    QSettings& ajustes_;
+    QSplitter editores_;
+    EditorTexto especificacion_;
+    EditorTexto texto_;
+    PanelProblemas problemas_{this};
+    PanelAnalisis arbol_{this};
+    PanelConjuntos conjuntos_{this};
+    PanelTabla tabla_{this};
+    QMenu archivo_, edicion_, ver_;
+    QLabel estado_, lugar_;
+    Seguimiento seguimiento_;
+    QTimer atraso_;                           ///< until what is shown is marked as older than the texts
+    std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
+    std::shared_ptr<const Estudio> mostrado_; ///< the last one with a language, which the other panels show
+    EditorTexto* activo_ = &especificacion_;  ///< where the person writes
+    bool eligiendo_ = false;
+    bool ocupada_ = false; ///< a command runs
+};
+
+} // namespace norvik::taller

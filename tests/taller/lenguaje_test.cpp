@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+
+// The language window, driven as a person does: keys in the editors, clicks in the panels.
+#include "taller/dialogosGuion.hpp"
+
+#include "apoyo/carpetaTemporal.hpp"
+#include "lenguaje/correspondencias.hpp"
+#include "lenguaje/palabrasLR.hpp"
+#include "lenguaje/ventanaLenguaje.hpp"
+#include "ventanaPrincipal.hpp"
+
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+
+#include <QTest>
+#include <QtWidgets>
+
+#include <gtest/gtest.h>
+
+using namespace norvik;
+using namespace norvik::taller;
+
+namespace {
+
+constexpr const char* suma = R"('% metodo: lalr
+Token num = "[0-9]+", TipoToken = TTNumero ("número");
+Token mas = "\+", TipoToken = TTOperador;
+E -> E mas T | T;
+T -> num;
+)";
+constexpr const char* ambigua = R"('% metodo: lalr
+Token num = "[0-9]+", TipoToken = TTNumero ("número");
+Token mas = "\+", TipoToken = TTOperador;
+Token por = "\*", TipoToken = TTOperador;
+E -> E mas E | E por E | num;
+)";
+
+std::u16string u16(const char* texto) {
+    return QString::fromUtf8(texto).replace(u'\n', "\r\n").toStdU16String();
+}
+
+struct LenguajeTest : testing::Test {
+    LenguajeTest() {
+        ventana.show();
+        QApplication::setActiveWindow(&ventana);
+    }
+    void empieza(const char* suya, const char* suyo) {
+        ventana.empieza(u16(suya), u16(suyo));
+        espera();
+    }
+    void espera() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().alDia(); }));
+        QApplication::processEvents();
+    }
+    QWidget& teclado(EditorTexto& editor) { return editor.norvik().caja().ventana(); }
+    /// Puts the caret behind a piece of the text, as a click there does.
+    void cursor(EditorTexto& editor, const char16_t* detras) {
+        const auto sitio = editor.texto().find(detras);
+        ASSERT_NE(sitio, std::u16string::npos);
+        CajaTextoQt& caja = editor.norvik().caja();
+        editor.norvik().setFocus();
+        caja.atiende([&] {
+            caja.selecciona(static_cast<std::int32_t>(sitio + std::u16string_view(detras).size()), 0);
+        });
+        QApplication::processEvents();
+    }
+    void escribe(EditorTexto& editor, const char* teclas) {
+        QTest::keyClicks(&teclado(editor), teclas);
+        espera();
+    }
+    /// The rows of a side, children behind their parents.
+    QStringList problemas(int lado) {
+        QStringList filas;
+        const QTreeWidgetItem& grupo = *lista().topLevelItem(lado);
+        for (int i = 0; i < grupo.childCount(); ++i) {
+            filas += grupo.child(i)->text(1) + ' ' + grupo.child(i)->text(0);
+            for (int j = 0; j < grupo.child(i)->childCount(); ++j) filas += grupo.child(i)->child(j)->text(0);
+        }
+        return filas;
+    }
+    QTreeWidget& lista() { return ventana.problemas().lista(); }
+    void pulsa(QTreeWidgetItem& fila) {
+        lista().scrollToItem(&fila);
+        QTest::mouseClick(lista().viewport(), Qt::LeftButton, {}, lista().visualItemRect(&fila).center());
+    }
+    QTreeWidgetItem* fila(const QString& comienzo) {
+        const auto halladas = lista().findItems(comienzo, Qt::MatchStartsWith | Qt::MatchRecursive);
+        return halladas.isEmpty() ? nullptr : halladas.first();
+    }
+    QString camino() { return ventana.arbol().camino().text(); }
+
+    apoyo::CarpetaTemporal carpeta;
+    DialogosGuion dialogos;
+    SistemaGuion sistema{dialogos};
+    QSettings ajustes{QString::fromStdString((carpeta / "ajustes.ini").string()), QSettings::IniFormat};
+    VentanaLenguaje ventana{sistema, dialogos, ajustes};
+    EditorTexto& especificacion = ventana.especificacion();
+    EditorTexto& texto = ventana.texto();
+};
+
+} // namespace
+
+TEST_F(LenguajeTest, SigueLoQueSeEscribe) {
+    empieza(suma, "1+2");
+    EXPECT_EQ(problemas(0), QStringList());
+    EXPECT_EQ(problemas(1), QStringList());
+    EXPECT_EQ(ventana.conjuntos().tabla().rowCount(), 2);
+    EXPECT_EQ(ventana.arbol().vista().model()->rowCount(), 1);
+    for (int vez = 0; vez < 2; ++vez) {
+        cursor(texto, u"1+");
+        escribe(texto, "+");
+        ASSERT_EQ(problemas(1).size(), 3) << problemas(1).join('\n').toStdString();
+        EXPECT_TRUE(problemas(1)[0].startsWith("1:3 Error: "));
+        EXPECT_TRUE(problemas(1)[1].startsWith("Arreglar: "));
+        pulsa(*lista().topLevelItem(1)->child(0)->child(0));
+        espera();
+        EXPECT_EQ(problemas(1), QStringList());
+        EXPECT_TRUE(texto.isAncestorOf(QApplication::focusWidget()));
+        texto.norvik().accion(AccionNorvik::Deshacer)->trigger(); // the repair is one step
+        EXPECT_EQ(texto.texto(), u"1++2");
+        texto.norvik().accion(AccionNorvik::Deshacer)->trigger();
+        espera();
+        EXPECT_EQ(texto.texto(), u"1+2");
+    }
+}
+
+TEST_F(LenguajeTest, LoQueNoCompilaDejaVerLoUltimoQueCompilo) {
+    empieza(suma, "1+2");
+    cursor(especificacion, u"T -> num;");
+    escribe(especificacion, " F -> ");
+    EXPECT_EQ(problemas(0).size() > 0, true);
+    EXPECT_EQ(ventana.conjuntos().tabla().rowCount(), 2);
+    EXPECT_EQ(ventana.conjuntos().windowTitle(), "Conjuntos (versión anterior)");
+    EXPECT_EQ(ventana.problemas().windowTitle(), "Problemas");
+    escribe(especificacion, "num;");
+    EXPECT_EQ(ventana.conjuntos().tabla().rowCount(), 3);
+    EXPECT_EQ(ventana.conjuntos().windowTitle(), "Conjuntos");
+}
+
+TEST_F(LenguajeTest, CadaPanelEligeEnLosDemas) {
+    empieza(suma, "1+2");
+    cursor(texto, u"1+");
+    EXPECT_EQ(camino(), "E › T › num");
+    ventana.arbol().enUnaFila().setChecked(false);
+    cursor(texto, u"1");
+    EXPECT_EQ(camino(), "E › mas");
+
+    QTreeView& arbol = ventana.arbol().vista();
+    arbol.setCurrentIndex(arbol.model()->index(0, 0).model()->index(2, 0, arbol.model()->index(0, 0)));
+    EXPECT_EQ(texto.norvik().SelText(), "2");
+    EXPECT_EQ(especificacion.norvik().SelText(), "num"); // the body of its rule
+    EXPECT_EQ(ventana.conjuntos().tabla().currentItem()->text(), "T");
+
+    cursor(especificacion, u"E -> E");
+    EXPECT_TRUE(ventana.conjuntos().detalle().toPlainText().contains("1. E → E mas T"));
+    ventana.tabla().selecciona(DeCelda{0, 0});
+    EXPECT_EQ(ventana.tabla().palabras().text(), "Estado 0, ante «mas»: error de sintaxis");
+    EXPECT_EQ(especificacion.norvik().SelText(), ""); // what was chosen elsewhere comes back from nobody
+}
+
+TEST_F(LenguajeTest, UnConflictoSeCuentaYSeCura) {
+    empieza(ambigua, "1+2*3");
+    EXPECT_EQ(problemas(0).size(), 4);
+    ventana.tabla().siguiente().click();
+    EXPECT_TRUE(ventana.tabla().palabras().text().contains("Conflicto: también cabría reducir por la regla"))
+        << ventana.tabla().palabras().text().toStdString();
+    pulsa(*lista().topLevelItem(0)->child(0));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return fila("Arreglar: «mas» liga") != nullptr; }));
+    EXPECT_TRUE(ventana.problemas().detalle().toPlainText().contains("La gramática es ambigua"));
+    pulsa(*fila("Arreglar: «por» liga más que «mas»"));
+    espera();
+    EXPECT_EQ(problemas(0), QStringList());
+    EXPECT_TRUE(especificacion.texto().starts_with(
+        u"'% metodo: lalr\r\n'% izquierda: mas\r\n'% izquierda: por\r\nToken num"));
+    cursor(texto, u"1+2*");
+    EXPECT_EQ(camino(), "E › E › E › num"); // of the product, the second operand of the sum
+}
+
+TEST_F(LenguajeTest, LosProblemasSeFiltranYLlevanASuLugar) {
+    empieza("Token a = \"a\";\nToken b = \"b\";\nS -> a;\n", "a a");
+    ASSERT_EQ(problemas(0).size(), 1);
+    EXPECT_TRUE(problemas(0)[0].startsWith("2:7 Aviso: "));
+    pulsa(*lista().topLevelItem(0)->child(0));
+    EXPECT_EQ(especificacion.norvik().SelText(), "b");
+    EXPECT_TRUE(especificacion.isAncestorOf(QApplication::focusWidget()));
+    QToolButton& avisos = ventana.problemas().filtro(Gravedad::Aviso);
+    EXPECT_EQ(avisos.text(), "Avisos (1)");
+    avisos.click();
+    EXPECT_EQ(problemas(0), QStringList());
+    EXPECT_TRUE(problemas(1)[0].startsWith("1:3 Error: "));
+}
+
+TEST_F(LenguajeTest, GuardaComoSeLeyo) {
+    const std::string bytes = "Token a = \"\xF1\";\r\nS -> a;"; // Windows-1252, without a last line end
+    const auto fichero = carpeta.pon("n.nvk", bytes);
+    ventana.abre(QString::fromStdString(fichero.string()));
+    espera();
+    EXPECT_EQ(ventana.windowTitle(), "n.nvk[*] — Lenguaje — Norvik");
+    cursor(especificacion, u"S -> a;");
+    escribe(especificacion, " ");
+    EXPECT_TRUE(ventana.isWindowModified());
+    QTest::keyClick(&teclado(especificacion), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(ventana.isWindowModified());
+    EXPECT_EQ(apoyo::bytesDe(fichero), bytes + " ");
+    EXPECT_EQ(dialogos.toma(), QStringList());
+}
+
+TEST_F(LenguajeTest, NadaEscritoSePierdeAlCerrar) {
+    empieza(suma, "1");
+    EXPECT_TRUE(ventana.close()); // as it came from the form
+    ventana.show();
+    escribe(especificacion, " ");
+    EXPECT_FALSE(ventana.close());
+    EXPECT_EQ(dialogos.toma().size(), 1);
+    std::u16string usada;
+    QObject::connect(&ventana, &VentanaLenguaje::usado, [&](const std::u16string& e) { usada = e; });
+    QTest::keyClick(&ventana, Qt::Key_F6);
+    EXPECT_EQ(usada, u" " + u16(suma));
+    EXPECT_TRUE(ventana.close());
+}
+
+TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {
+    const apoyo::CarpetaTemporal carpeta;
+    DialogosGuion dialogos;
+    SistemaGuion sistema(dialogos);
+    QSettings ajustes(QString::fromStdString((carpeta / "a.ini").string()), QSettings::IniFormat);
+    VentanaPrincipal taller({sistema, dialogos, ajustes, {}});
+    taller.show();
+    taller.abre(QString::fromStdString(carpeta.pon("suma.nvk", suma).string()));
+    for (int vez = 0; vez < 2; ++vez) {
+        taller.acciones().ventanaLenguaje.trigger();
+        VentanaLenguaje& ventana = taller.ventanaLenguaje();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+        QWidget& teclado = ventana.especificacion().norvik().caja().ventana();
+        QTest::keyClicks(&teclado, "'x");
+        QTest::keyClick(&teclado, Qt::Key_Return);
+        QTest::keyClick(&ventana, Qt::Key_F6);
+        ventana.close();
+    }
+    const QString llega = taller.formulario().activo().norvik().ContenidoG();
+    EXPECT_TRUE(llega.startsWith("'x\r\n'x\r\n'% metodo")) << llega.left(40).toStdString();
+    taller.acciones().ventanaLenguaje.trigger();
+    QTest::keyClicks(&taller.ventanaLenguaje().especificacion().norvik().caja().ventana(), "y");
+    dialogos.toma();
+    EXPECT_FALSE(taller.close()); // the language window asks, and nobody wants to lose anything
+    EXPECT_EQ(dialogos.toma(), QStringList{"&Guardar ¿Quiere guardar los cambios de «Sin título»?"});
+}
+
+TEST(CorrespondenciasLenguaje, UnaCosaVistaDeVariasManeras) {
+    const auto e = estudia(u16(suma), u"1 + 2", nullptr, {});
+    const Lenguaje& lenguaje = *e->deLenguaje->lenguaje;
+    const auto trozo = [](const std::u16string& texto, const std::optional<Rango>& rango) {
+        if (!rango) return std::string("-");
+        const auto inicio = rango->inicio.desplazamiento;
+        return QString::fromStdU16String(texto).mid(inicio, rango->fin.desplazamiento - inicio).toStdString();
+    };
+    const auto enTexto = [](int inicio, int fin) {
+        Rango rango;
+        rango.inicio.desplazamiento = inicio;
+        rango.fin.desplazamiento = fin;
+        return EnTexto{rango};
+    };
+    const auto columna = [&](std::u16string_view simbolo) { return e->gramatica()->tabla.codigo(simbolo); };
+    const std::int16_t trasT = e->gramatica()->tabla.entrada(0, columna(u"T"));
+    EXPECT_TRUE(lenguaje.tieneGramatica());
+    const struct {
+        Eleccion eleccion;
+        const char* especificacion;
+        const char* texto;
+        const char16_t* simbolo;
+        int regla;
+    } casos[] = {
+        {DeRegla{1}, "E mas T", "-", u"E", 1},    {DeSimbolo{u"mas"}, "mas", "-", u"mas", 0},
+        {DeSimbolo{u"T"}, "T", "-", u"T", 0},     {DeNodo{0}, "E mas T", "1 + 2", u"E", 1},
+        {DeNodo{9999}, "-", "-", nullptr, 0},     {DeCelda{trasT, columna(u"mas")}, "T", "-", u"mas", 2},
+        {DeItem{0, {3, 0}}, "num", "-", u"T", 3},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.eleccion.index());
+        EXPECT_EQ(trozo(e->deLenguaje->especificacion, lugarEnEspecificacion(*e, c.eleccion)),
+                  c.especificacion);
+        EXPECT_EQ(trozo(e->texto, lugarEnTexto(*e, c.eleccion)), c.texto);
+        EXPECT_EQ(simboloDe(*e, c.eleccion).value_or(u""), c.simbolo == nullptr ? u"" : c.simbolo);
+        EXPECT_EQ(reglaDe(*e, c.eleccion).value_or(0), c.regla);
+    }
+    const std::tuple<int, int, const char16_t*> lugares[] = {{0, 0, u"num"}, {1, 1, u"num"}, {2, 2, u"mas"},
+                                                             {3, 3, u"mas"}, {4, 5, u"num"}, {0, 3, u"E"}};
+    for (const auto& [inicio, fin, simbolo] : lugares)
+        EXPECT_EQ(e->arbol()[nodoDe(*e, enTexto(inicio, fin)).value()].nombre(), simbolo) << inicio;
+    EXPECT_EQ(palabrasDeItem(*e->gramatica(), {1, 2}), u"E → E mas • T");
+    EXPECT_EQ(palabrasDeItem(*e->gramatica(), {3, 1}), u"T → num •");
+    EXPECT_EQ(palabrasDeCelda(*e->gramatica(), {1, columna(u"$")}),
+              u"Estado 1, ante el final del texto: aceptar el texto");
+}
+
+TEST(EstudioLenguaje, LoQueSeSabeDeUnaEspecificacionVale) {
+    const auto uno = estudia(u16(suma), u"1", nullptr, {});
+    EXPECT_EQ(estudia(u16(suma), u"1+", uno, {})->deLenguaje, uno->deLenguaje);
+    EXPECT_NE(estudia(u16(ambigua), u"1", uno, {})->deLenguaje, uno->deLenguaje);
+    std::stop_source parada;
+    parada.request_stop();
+    EXPECT_EQ(estudia(u16(ambigua), u"1", uno, parada.get_token()), nullptr);
+}
