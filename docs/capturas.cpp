@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <functional>
 #include <iostream>
@@ -88,6 +89,7 @@ public:
     }
     void haz() {
         taller();
+        lenguaje();
         control();
         editores();
         informe();
@@ -116,6 +118,27 @@ private:
         a.propiedades.trigger();
         a.disenio.setChecked(false);
         sistema_.retrata = nullptr;
+    }
+    template <typename Condicion>
+    static void espera(Condicion condicion) {
+        while (!condicion()) {
+            QCoreApplication::processEvents();
+            QThread::msleep(1);
+        }
+        QCoreApplication::processEvents();
+    }
+    /// With the story of a conflict.
+    void lenguaje() {
+        ventana_.abreEnVentana(ejemplo("pascal/pascal.nvk"));
+        VentanaLenguaje& lenguaje = ventana_.ventanaLenguaje();
+        lenguaje.abreTexto(ejemplo("pascal/bien/hola.pas"));
+        espera([&] { return lenguaje.seguimiento().alDia(); });
+        QTreeWidget& lista = lenguaje.problemas().lista();
+        lista.setCurrentItem(lista.findItems("Aviso: Conflicto", Qt::MatchStartsWith | Qt::MatchRecursive).value(0));
+        const QPlainTextEdit& detalle = lenguaje.problemas().detalle();
+        espera([&] { return !detalle.toPlainText().contains("Se busca"); });
+        album_.guarda(lenguaje, "lenguaje");
+        lenguaje.close();
     }
     void paginas(QWidget& propiedades) {
         auto& fichas = *propiedades.findChild<QTabWidget*>();
