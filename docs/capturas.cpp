@@ -127,14 +127,19 @@ private:
         }
         QCoreApplication::processEvents();
     }
-    /// With the story of a conflict.
+    /// A conflict with its story and its cures.
     void lenguaje() {
-        ventana_.abreEnVentana(ejemplo("pascal/pascal.nvk"));
         VentanaLenguaje& lenguaje = ventana_.ventanaLenguaje();
-        lenguaje.abreTexto(ejemplo("pascal/bien/hola.pas"));
+        lenguaje.resize(960, 620);
+        lenguaje.empieza(
+            u"'% metodo: lalr\r\nToken num = \"[0-9]+\", TipoToken = TTNumero;\r\n"
+            u"Token mas = \"\\+\", TipoToken = TTOperador;\r\n"
+            u"Token por = \"\\*\", TipoToken = TTOperador;\r\n\r\nE -> E mas E | E por E | num;\r\n",
+            u"1 + 2 * 3");
+        lenguaje.trae();
         espera([&] { return lenguaje.seguimiento().alDia(); });
         QTreeWidget& lista = lenguaje.problemas().lista();
-        lista.setCurrentItem(lista.findItems("Aviso: Conflicto", Qt::MatchStartsWith | Qt::MatchRecursive).value(0));
+        lista.setCurrentItem(lista.topLevelItem(0)->child(1));
         const QPlainTextEdit& detalle = lenguaje.problemas().detalle();
         espera([&] { return !detalle.toPlainText().contains("Se busca"); });
         album_.guarda(lenguaje, "lenguaje");
