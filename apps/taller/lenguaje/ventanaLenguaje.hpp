@@ -5,7 +5,9 @@
 #include "../dialogos.hpp"
 #include "editorTexto.hpp"
 #include "panelAnalisis.hpp"
+#include "panelAutomata.hpp"
 #include "panelConjuntos.hpp"
+#include "panelPasos.hpp"
 #include "panelProblemas.hpp"
 #include "panelTabla.hpp"
 #include "seguimiento.hpp"
@@ -51,6 +53,8 @@ public:
     PanelAnalisis& arbol() { return arbol_; }
     PanelConjuntos& conjuntos() { return conjuntos_; }
     PanelTabla& tabla() { return tabla_; }
+    PanelPasos& pasos() { return pasos_; }
+    PanelAutomata& automata() { return automata_; }
     Seguimiento& seguimiento() { return seguimiento_; }
 
 signals:
@@ -63,7 +67,9 @@ protected:
 private:
     enum class Foco : std::uint8_t { Queda, Va };
 
-    std::array<Panel*, 4> paneles() { return {&problemas_, &arbol_, &conjuntos_, &tabla_}; }
+    std::array<Panel*, 6> paneles() {
+        return {&problemas_, &arbol_, &conjuntos_, &tabla_, &pasos_, &automata_};
+    }
     template <typename Orden>
     void ejecuta(const Orden& orden);
     QAction& accion(QMenu& menu, const QString& texto, const QKeySequence& teclas,
@@ -103,6 +109,8 @@ private:
     PanelAnalisis arbol_{this};
     PanelConjuntos conjuntos_{this};
     PanelTabla tabla_{this};
+    PanelPasos pasos_{this};
+    PanelAutomata automata_{dialogos_, this};
     QMenu archivo_, edicion_, ver_;
     QLabel estado_, lugar_;
     Seguimiento seguimiento_;

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+
+#include "palabrasEstado.hpp"
+
+#include "palabrasLR.hpp"
+
+#include "norvik/checks/conflictosDeTabla.hpp"
+#include "norvik/platform/qt/conversiones.hpp"
+
+#include <map>
+
+namespace norvik::taller {
+
+namespace {
+
+QString escapado(std::u16string_view texto) {
+    return aQString(texto).toHtmlEscaped();
+}
+
+QString elToken(const GramaticaLR& g, std::int16_t columna) {
+    const std::u16string_view nombre = g.tabla.simbolo(columna);
+    return nombre == u"$" ? QStringLiteral("el final") : aQString(nombre);
+}
+
+QString enlace(std::int16_t estado) {
+    return QStringLiteral("<a href=\"%1\">estado %1</a>").arg(estado);
+}
+
+QString lista(const QString& titulo, const QStringList& lineas) {
+    if (lineas.isEmpty()) return {};
+    return QStringLiteral("<p><b>%1</b><br>%2</p>").arg(titulo, lineas.join(QStringLiteral("<br>")));
+}
+
+QStringList items(const GramaticaLR& g, std::int16_t estado) {
+    QStringList lineas;
+    for (const Item item : g.automata.estados[static_cast<std::size_t>(estado)].items())
+        lineas.append(escapado(palabrasDeItem(g, item)));
+    return lineas;
+}
+
+QStringList salidas(const GramaticaLR& g, const GrafoEstados& grafo, std::int16_t estado) {
+    QStringList lineas;
+    for (const Transicion& t : grafo.transiciones())
+        if (t.desde == estado)
+            lineas.append(
+                QStringLiteral("con %1 → %2").arg(escapado(g.partidas.texto(t.simbolo)), enlace(t.hasta)));
+    return lineas;
+}
+
+/// The rules by which a state reduces, each with the tokens before which it does.
+QStringList reducciones(const GramaticaLR& g, std::int16_t estado) {
+    std::map<std::int16_t, QStringList> tokens;
+    for (std::int16_t columna = 1; columna <= g.tabla.columnasVigentes(); ++columna) {
+        const std::int16_t celda = g.tabla.entrada(estado, static_cast<std::int16_t>(columna - 1));
+        if (celda < 0) tokens[static_cast<std::int16_t>(-celda)].append(elToken(g, columna));
+    }
+    QStringList lineas;
+    for (const auto& [regla, suyos] : tokens)
+        lineas.append(
+            QStringLiteral("por la regla %1, ante: %2")
+                .arg(escapado(palabrasDeRegla(g, regla)), suyos.join(QStringLiteral(", ")).toHtmlEscaped()));
+    return lineas;
+}
+
+QStringList conflictos(const GramaticaLR& g, const AutomataEstudiado& automata, std::int16_t estado) {
+    QStringList lineas;
+    for (const Conflicto& c : conflictosEn(automata.conflictos, static_cast<std::int16_t>(estado + 1))) {
+        const std::int16_t celda = g.tabla.entrada(estado, static_cast<std::int16_t>(c.columna - 1));
+        const QString queda = celda == TablaLR::aceptar ? QStringLiteral("acepta")
+                              : celda > 0
+                                  ? QStringLiteral("desplaza y pasa al %1").arg(enlace(celda))
+                                  : QStringLiteral("reduce por la regla %1")
+                                        .arg(escapado(palabrasDeRegla(g, static_cast<std::int16_t>(-celda))));
+        lineas.append(
+            QStringLiteral("ante %1: %2; también cabía reducir por la regla %3")
+                .arg(elToken(g, c.columna).toHtmlEscaped(), queda, escapado(palabrasDeRegla(g, c.regla))));
+    }
+    return lineas;
+}
+
+QString llegada(const GramaticaLR& g, const GrafoEstados& grafo, std::int16_t estado) {
+    QString camino = QStringLiteral("0");
+    for (const Transicion& t : grafo.camino(estado))
+        camino += QStringLiteral(" –%1→ %2").arg(aQString(g.partidas.texto(t.simbolo))).arg(t.hasta);
+    QStringList lineas(camino.toHtmlEscaped());
+    if (const auto tokens = grafo.entrada(estado)) {
+        QStringList nombres;
+        for (const std::u16string& token : *tokens) nombres.append(aQString(token));
+        const QString entrada = nombres.isEmpty() ? QStringLiteral("ninguna, es el estado del comienzo")
+                                                  : nombres.join(u' ').toHtmlEscaped();
+        lineas.append(QStringLiteral("La entrada más corta: %1").arg(entrada));
+    }
+    return lista(QStringLiteral("Cómo se llega"), lineas);
+}
+
+} // namespace
+
+QStringList nucleoDe(const GramaticaLR& gramatica, std::int16_t estado) {
+    QStringList lineas;
+    for (const Item item : gramatica.automata.estados[static_cast<std::size_t>(estado)].items()) {
+        const bool delComienzo =
+            estado == 0 && gramatica.partidas.cabeza(item.regla) == gramatica.partidas.cabeza(1);
+        if (item.punto > 0 || delComienzo) lineas.append(aQString(palabrasDeItem(gramatica, item)));
+    }
+    return lineas;
+}
+
+QString tituloDeEstado(const GramaticaLR& gramatica, const AutomataEstudiado& automata, std::int16_t estado) {
+    QString titulo = QStringLiteral("Estado %1").arg(estado);
+    const std::int16_t fin = gramatica.tabla.codigoFin();
+    if (fin >= 0 && gramatica.tabla.entrada(estado, fin) == TablaLR::aceptar)
+        titulo += QStringLiteral(" acepta");
+    if (!conflictosEn(automata.conflictos, static_cast<std::int16_t>(estado + 1)).empty())
+        titulo += QStringLiteral(" ⚠ conflicto");
+    return titulo;
+}
+
+QString estadoEnHtml(const GramaticaLR& gramatica, const AutomataEstudiado& automata, std::int16_t estado) {
+    return QStringLiteral("<h3>%1</h3>").arg(tituloDeEstado(gramatica, automata, estado)) +
+           lista(QStringLiteral("Conflictos"), conflictos(gramatica, automata, estado)) +
+           lista(QStringLiteral("Elementos"), items(gramatica, estado)) +
+           lista(QStringLiteral("Desplaza y pasa"), salidas(gramatica, automata.grafo, estado)) +
+           lista(QStringLiteral("Reduce"), reducciones(gramatica, estado)) +
+           llegada(gramatica, automata.grafo, estado);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelAutomata.hpp"
+
+#include "norvik/checks/conflictosDeTabla.hpp"
+#include "norvik/platform/qt/nombra.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
+
+#include <QSignalBlocker>
+#include <QToolButton>
+
+#include <algorithm>
+#include <initializer_list>
+#include <numeric>
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+constexpr qsizetype maximoLineas = 6; // of a box
+constexpr qsizetype maximoLargo = 40;
+
+QStringList paraCaja(QStringList lineas) {
+    if (lineas.size() > maximoLineas) {
+        const auto otras = lineas.size() - maximoLineas + 1;
+        lineas.resize(maximoLineas - 1);
+        lineas.append(QStringLiteral("… y %1 más").arg(otras));
+    }
+    for (QString& linea : lineas)
+        if (linea.size() > maximoLargo) linea = linea.left(maximoLargo) + u'…';
+    return lineas;
+}
+
+} // namespace
+
+PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
+    : Panel(QStringLiteral("panelAutomata"), QStringLiteral("Autómata"), padre), dialogos_(dialogos) {
+    compone();
+    connect(&estados_, &QListWidget::currentRowChanged, this,
+            [this](int fila) { protege([&] { elegidoPorLaPersona(fila); }); });
+    connect(&estado_, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& adonde) { protege([&] { elegidoPorLaPersona(adonde.toString().toInt()); }); });
+    connect(&vista_, &VistaAutomata::elegido, this,
+            [this](int estado) { protege([&] { elegidoPorLaPersona(estado); }); });
+    connect(&colocador_, &ColocadorGrafos::colocado, this, [this](const GrafoColocado& sitio) {
+        protege([&] {
+            porColocar_.sitio = sitio;
+            vista_.muestra(porColocar_, elegido_);
+            guardar_.setEnabled(true);
+        });
+    });
+    connect(&colocador_, &ColocadorGrafos::fallo, this, [this](const QString& motivo) {
+        protege([&] {
+            vista_.vacia();
+            avisa(motivo);
+        });
+    });
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
+        protege([&] {
+            seVe_ = seVe;
+            estudiaSiSeVe();
+        });
+    });
+    sinAutomata(QStringLiteral("Todavía no hay ningún autómata."));
+}
+
+void PanelAutomata::compone() {
+    conecta(ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn, &PanelAutomata::amplia);
+    conecta(reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut, &PanelAutomata::reduce);
+    conecta(encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0, &PanelAutomata::encaja);
+    conecta(guardar_, QStringLiteral("Guardar dibujo…"), {}, &PanelAutomata::guarda);
+    nombra(aviso_, "aviso", QStringLiteral("Aviso"));
+    aviso_.setTextFormat(Qt::PlainText);
+    aviso_.setWordWrap(true);
+    botones_.addWidget(&aviso_, 1);
+    nombra(estados_, "estados", QStringLiteral("Estados"));
+    estados_.setUniformItemSizes(true);
+    nombra(estado_, "estado", QStringLiteral("Estado"));
+    estado_.setOpenLinks(false);
+    for (QWidget* const parte : std::initializer_list<QWidget*>{&estados_, &estado_, &vista_})
+        partes_.addWidget(parte);
+    partes_.setStretchFactor(2, 1);
+    partes_.setSizes({240, 280, 700});
+    columna_.addLayout(&botones_);
+    columna_.addWidget(&partes_, 1);
+    centro_.setLayout(&columna_);
+    centro_.setFocusProxy(&estados_);
+    setWidget(&centro_);
+}
+
+void PanelAutomata::conecta(QAction& accion, const QString& texto, const QKeySequence& tecla,
+                            void (PanelAutomata::*orden)()) {
+    accion.setText(texto);
+    accion.setShortcut(tecla);
+    accion.setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    if (!tecla.isEmpty())
+        accion.setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
+    connect(&accion, &QAction::triggered, this, [this, orden] { protege([&] { (this->*orden)(); }); });
+    addAction(&accion);
+    auto& boton = nuevo<QToolButton>(&centro_);
+    boton.setDefaultAction(&accion);
+    boton.setFocusPolicy(Qt::StrongFocus);
+    botones_.addWidget(&boton);
+}
+
+void PanelAutomata::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    pendiente_ = estudio->deLenguaje;
+    estudiaSiSeVe();
+}
+
+void PanelAutomata::selecciona(const Eleccion& eleccion) {
+    int estado = -1;
+    if (const auto* const suyo = std::get_if<DeEstado>(&eleccion)) estado = suyo->estado;
+    if (const auto* const suya = std::get_if<DeCelda>(&eleccion)) estado = suya->estado;
+    if (const auto* const suyo = std::get_if<DeItem>(&eleccion)) estado = suyo->estado;
+    if (estado >= 0) elige(estado);
+}
+
+void PanelAutomata::estudiaSiSeVe() {
+    if (!seVe_ || !pendiente_) return;
+    const auto lenguaje = std::exchange(pendiente_, nullptr);
+    if (std::exchange(deseado_, lenguaje) == lenguaje) return;
+    trabajo_.para();
+    if (lenguaje->gramatica() == nullptr) {
+        sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene gramática."));
+        return;
+    }
+    trabajo_.empieza(
+        [lenguaje](const std::stop_token& /*parada*/) {
+            const GramaticaLR& g = *lenguaje->gramatica();
+            return std::make_shared<const AutomataEstudiado>(
+                AutomataEstudiado{GrafoEstados(g), conflictosDeTabla(g, lenguaje->opciones.metodo)});
+        },
+        [this, lenguaje](const std::optional<Resultado>& resultado) {
+            protege([&] { toma(lenguaje, resultado); });
+        });
+}
+
+void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
+                         const std::optional<Resultado>& resultado) {
+    if (!resultado) return sinAutomata(QStringLiteral("No se ha podido estudiar el autómata."));
+    lenguaje_ = std::move(lenguaje);
+    automata_ = *resultado;
+    if (automata_->grafo.estados() == 0)
+        return sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene autómata."));
+    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_}) accion->setEnabled(true);
+    guardar_.setEnabled(false);
+    vista_.vacia(); // it is of another version
+    elegido_ = std::min(elegido_, static_cast<int>(automata_->grafo.estados()) - 1);
+    llenaEstados();
+    muestraEstado();
+    dibuja();
+}
+
+void PanelAutomata::sinAutomata(const QString& motivo) {
+    colocador_.para();
+    automata_ = nullptr;
+    lenguaje_ = nullptr;
+    {
+        const QSignalBlocker callada(estados_);
+        estados_.clear();
+    }
+    estado_.clear();
+    vista_.vacia();
+    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_, &guardar_}) accion->setEnabled(false);
+    avisa(motivo);
+}
+
+void PanelAutomata::avisa(const QString& texto) {
+    aviso_.setText(texto);
+}
+
+void PanelAutomata::llenaEstados() {
+    const QSignalBlocker callada(estados_);
+    estados_.clear();
+    QStringList lineas;
+    for (int estado = 0; estado < static_cast<int>(automata_->grafo.estados()); ++estado) {
+        const auto numero = static_cast<std::int16_t>(estado);
+        QString linea = tituloDeEstado(gramatica(), *automata_, numero);
+        const QStringList nucleo = nucleoDe(gramatica(), numero);
+        if (!nucleo.isEmpty()) linea += QStringLiteral(": ") + nucleo.join(QStringLiteral("; "));
+        lineas.append(linea);
+    }
+    estados_.addItems(lineas);
+}
+
+void PanelAutomata::elegidoPorLaPersona(int estado) {
+    if (!automata_ || estado < 0 || estado >= static_cast<int>(automata_->grafo.estados())) return;
+    elige(estado);
+    emit elegido(DeEstado{static_cast<std::int16_t>(estado)});
+}
+
+// The drawing follows: of many states it may be another part.
+void PanelAutomata::elige(int estado) {
+    elegido_ = estado;
+    if (!automata_ || estado >= static_cast<int>(automata_->grafo.estados())) return;
+    muestraEstado();
+    if (vista_.dibuja(estado))
+        vista_.elige(estado);
+    else if (porColocar_.estado(estado) == nullptr)
+        dibuja();
+}
+
+void PanelAutomata::muestraEstado() {
+    const QSignalBlocker callada(estados_);
+    estados_.setCurrentRow(elegido_);
+    estado_.setHtml(estadoEnHtml(gramatica(), *automata_, static_cast<std::int16_t>(elegido_)));
+}
+
+void PanelAutomata::dibuja() {
+    const GrafoEstados& grafo = automata_->grafo;
+    std::vector<std::int16_t> suyos(grafo.estados());
+    std::iota(suyos.begin(), suyos.end(), std::int16_t{0});
+    avisa({});
+    if (grafo.estados() > maximoEntero) {
+        suyos = grafo.vecindad(static_cast<std::int16_t>(elegido_), maximoVecinos);
+        avisa(QStringLiteral("Se dibujan los %1 estados más cercanos al elegido, de %2.")
+                  .arg(suyos.size())
+                  .arg(grafo.estados()));
+    }
+    QList<EstadoDibujado> cajas;
+    for (const std::int16_t estado : suyos)
+        cajas.append({estado, tituloDeEstado(gramatica(), *automata_, estado),
+                      paraCaja(nucleoDe(gramatica(), estado)),
+                      !conflictosEn(automata_->conflictos, static_cast<std::int16_t>(estado + 1)).empty()});
+    QList<Grafo::Flecha> flechas;
+    for (const Transicion& t : grafo.transiciones())
+        if (std::ranges::binary_search(suyos, t.desde) && std::ranges::binary_search(suyos, t.hasta))
+            flechas.append({t.desde, t.hasta, aQString(gramatica().partidas.texto(t.simbolo))});
+    porColocar_ = preparaDibujo(std::move(cajas), std::move(flechas), font());
+    colocador_.coloca(porColocar_.grafo);
+}
+
+void PanelAutomata::guarda() {
+    const auto fichero = dialogos_.eligeParaGuardar(
+        QStringLiteral("Guardar el dibujo del autómata"),
+        QStringLiteral("Dibujos SVG (*.svg);;Imágenes PNG (*.png);;Documentos PDF (*.pdf)"),
+        QStringLiteral("automata.svg"), QStringLiteral("svg"));
+    if (fichero) guardaDibujo(vista_.dibujo(), *fichero);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "dialogos.hpp"
+#include "dibujoGrafo.hpp"
+#include "palabrasEstado.hpp"
+#include "panel.hpp"
+#include "vistaAutomata.hpp"
+
+#include "norvik/widget/trabajoDeFondo.hpp"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace norvik::taller {
+
+/// The automaton: a list of its states, what there is to say of one of them, and a drawing, of an automaton
+/// with many states only those near the chosen one. What it takes to know an automaton is done in another
+/// thread, and the drawing is laid out in another process, once the panel is seen.
+class PanelAutomata final : public Panel {
+    Q_OBJECT
+
+public:
+    /// The dialogs outlive it.
+    explicit PanelAutomata(Dialogos& dialogos, QWidget* padre = nullptr);
+
+    void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
+    void selecciona(const Eleccion& eleccion) override;
+
+    // For those who drive it from outside.
+    QListWidget& estados() { return estados_; }
+    const DibujoAutomata& dibujo() const { return vista_.dibujo(); }
+    QString palabras() const { return estado_.toPlainText(); }
+    QString aviso() const { return aviso_.text(); }
+
+private:
+    using Resultado = std::shared_ptr<const AutomataEstudiado>;
+    static constexpr std::size_t maximoEntero = 60; ///< states of a drawing of all
+    static constexpr std::size_t maximoVecinos = 30;
+
+    void compone();
+    void conecta(QAction& accion, const QString& texto, const QKeySequence& tecla,
+                 void (PanelAutomata::*orden)());
+    void estudiaSiSeVe();
+    void toma(std::shared_ptr<const LenguajeEstudiado> lenguaje, const std::optional<Resultado>& resultado);
+    void sinAutomata(const QString& motivo);
+    void avisa(const QString& texto);
+    void llenaEstados();
+    void elige(int estado);
+    void elegidoPorLaPersona(int estado);
+    void muestraEstado();
+    void dibuja();
+    void amplia() { vista_.amplia(); }
+    void reduce() { vista_.reduce(); }
+    void encaja() { vista_.encaja(); }
+    void guarda();
+
+    const GramaticaLR& gramatica() const { return *lenguaje_->gramatica(); }
+
+    Dialogos& dialogos_;
+    std::shared_ptr<const LenguajeEstudiado> pendiente_; ///< to be shown once the panel is seen
+    std::shared_ptr<const LenguajeEstudiado> deseado_;   ///< the last that was to be shown
+    std::shared_ptr<const LenguajeEstudiado> lenguaje_;  ///< the one that is
+    Resultado automata_;
+    DibujoAutomata porColocar_;
+    int elegido_ = 0;
+    bool seVe_ = false;
+
+    QWidget centro_;
+    QVBoxLayout columna_;
+    QHBoxLayout botones_;
+    QAction ampliar_, reducir_, encajar_, guardar_;
+    QLabel aviso_;
+    QSplitter partes_;
+    QListWidget estados_;
+    QTextBrowser estado_;
+    VistaAutomata vista_;
+    ColocadorGrafos colocador_;
+    TrabajoDeFondo<Resultado> trabajo_; ///< goes first
+};
+
+} // namespace norvik::taller
