@@ -127,6 +127,9 @@ TEST_F(PasosTest, ElAnalisisHaciaDelanteYHaciaAtras) {
     EXPECT_EQ(pila.topLevelItem(1)->child(0)->text(0), "T");
     EXPECT_EQ(pila.topLevelItem(1)->child(0)->child(0)->text(3), "1");
     EXPECT_EQ(ve("resto"), "Por leer: 2");
+    pila.topLevelItem(1)->setExpanded(false);
+    teclas({Qt::Key_Right});
+    EXPECT_FALSE(pila.topLevelItem(1)->isExpanded()); // it stays as the person left it
     teclas({Qt::Key_End});
     EXPECT_EQ(panel.palabras(), "En el estado 1, ante el final del texto: acepta: el texto es del lenguaje.");
     EXPECT_EQ(ve("resto"), "Por leer: nada");
@@ -257,6 +260,8 @@ TEST_F(AutomataTest, SeGuardaComoDibujo) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"text") ++textos;
     EXPECT_FALSE(xml.hasError());
     EXPECT_GT(textos, 6 + 9);
+    panel.findChildren<QToolButton*>().at(3)->click();
+    EXPECT_GT(QGuiApplication::clipboard()->image().width(), 100);
 }
 
 TEST(ColocadorGrafos, SinGraphvizLoDiceYUnaRespuestaRotaNoEsUnDibujo) {

@@ -8,7 +8,6 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGraphicsItem>
-#include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -105,17 +104,9 @@ void pintaEnPapel(const DibujoAutomata& dibujo, QPainter& pintor) {
 }
 
 QByteArray enPng(const DibujoAutomata& dibujo) {
-    constexpr double maximo = 16'000; // pixels a side
-    const QSizeF medida = extension(dibujo).size();
-    const double escala = std::min(2.0, maximo / std::max(medida.width(), medida.height()));
-    QImage imagen((medida * escala).toSize(), QImage::Format_RGB32);
-    imagen.fill(Qt::white);
-    QPainter pintor(&imagen);
-    pintaEnPapel(dibujo, pintor);
-    pintor.end();
     QByteArray bytes;
     QBuffer salida(&bytes);
-    imagen.save(&salida, "PNG");
+    enImagen(dibujo).save(&salida, "PNG");
     return bytes;
 }
 
@@ -263,6 +254,18 @@ void pinta(const DibujoAutomata& dibujo, const QPalette& colores, int elegido, Q
     for (const auto& estado : dibujo.estados)
         pintaEstado(dibujo, estado, colores, estado.numero == elegido, escena);
     escena.setSceneRect(escena.itemsBoundingRect().adjusted(-aire, -aire, aire, aire));
+}
+
+QImage enImagen(const DibujoAutomata& dibujo) {
+    constexpr double maximo = 16'000; // pixels a side
+    const QSizeF medida = extension(dibujo).size();
+    const double escala = std::min(2.0, maximo / std::max(medida.width(), medida.height()));
+    QImage imagen((medida * escala).toSize(), QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    QPainter pintor(&imagen);
+    pintaEnPapel(dibujo, pintor);
+    pintor.end();
+    return imagen;
 }
 
 QByteArray enSvg(const DibujoAutomata& dibujo) {

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QFont>
 #include <QGraphicsScene>
+#include <QImage>
 #include <QList>
 #include <QPalette>
 #include <QStringList>
@@ -38,7 +39,8 @@ DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha>
 /// Draws it in the colours of a palette. The boxes know their state by `data(0)`.
 void pinta(const DibujoAutomata& dibujo, const QPalette& colores, int elegido, QGraphicsScene& escena);
 
-/// The same as a picture in SVG, in black on white.
+/// The same in black on white, as a picture of dots and in SVG.
+QImage enImagen(const DibujoAutomata& dibujo);
 QByteArray enSvg(const DibujoAutomata& dibujo);
 
 /// Writes it to a file by what its ending says: SVG, PDF, else PNG. Raises `ErrorDeFichero`.

@@ -88,9 +88,11 @@ ColocadorGrafos::ColocadorGrafos(QString programa, QObject* padre)
     plazo_.setSingleShot(true);
     plazo_.setInterval(maximo);
     connect(&plazo_, &QTimer::timeout, this, [this] {
-        para();
-        emit fallo(QStringLiteral("Graphviz no ha acabado de colocar el autómata en %1 segundos.")
-                       .arg(maximo.count()));
+        sinFallos([&] {
+            para();
+            emit fallo(QStringLiteral("Graphviz no ha acabado de colocar el autómata en %1 segundos.")
+                           .arg(maximo.count()));
+        });
     });
     connect(&proceso_, &QProcess::finished, this, [this](int salida, QProcess::ExitStatus estado) {
         acaba(salida == 0 && estado == QProcess::NormalExit);
@@ -98,9 +100,12 @@ ColocadorGrafos::ColocadorGrafos(QString programa, QObject* padre)
     connect(&proceso_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart || !std::exchange(espera_, false)) return;
         plazo_.stop();
-        emit fallo(QStringLiteral("Para dibujar el autómata hace falta Graphviz (la orden «%1»), y no está "
-                                  "instalado. La lista de estados dice lo mismo.")
-                       .arg(programa_));
+        sinFallos([&] {
+            emit fallo(
+                QStringLiteral("Para dibujar el autómata hace falta Graphviz (la orden «%1»), y no está "
+                               "instalado. La lista de estados dice lo mismo.")
+                    .arg(programa_));
+        });
     });
 }
 

@@ -2,10 +2,14 @@
 
 #include "panelAutomata.hpp"
 
+#include "correspondencias.hpp"
+
 #include "norvik/checks/conflictosDeTabla.hpp"
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -47,7 +51,7 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
         protege([&] {
             porColocar_.sitio = sitio;
             vista_.muestra(porColocar_, elegido_);
-            guardar_.setEnabled(true);
+            for (QAction* const accion : {&copiar_, &guardar_}) accion->setEnabled(true);
         });
     });
     connect(&colocador_, &ColocadorGrafos::fallo, this, [this](const QString& motivo) {
@@ -69,6 +73,7 @@ void PanelAutomata::compone() {
     conecta(ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn, &PanelAutomata::amplia);
     conecta(reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut, &PanelAutomata::reduce);
     conecta(encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0, &PanelAutomata::encaja);
+    conecta(copiar_, QStringLiteral("Copiar dibujo"), {}, &PanelAutomata::copia);
     conecta(guardar_, QStringLiteral("Guardar dibujo…"), {}, &PanelAutomata::guarda);
     nombra(aviso_, "aviso", QStringLiteral("Aviso"));
     aviso_.setTextFormat(Qt::PlainText);
@@ -110,11 +115,7 @@ void PanelAutomata::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 }
 
 void PanelAutomata::selecciona(const Eleccion& eleccion) {
-    int estado = -1;
-    if (const auto* const suyo = std::get_if<DeEstado>(&eleccion)) estado = suyo->estado;
-    if (const auto* const suya = std::get_if<DeCelda>(&eleccion)) estado = suya->estado;
-    if (const auto* const suyo = std::get_if<DeItem>(&eleccion)) estado = suyo->estado;
-    if (estado >= 0) elige(estado);
+    if (const auto estado = estadoDe(eleccion)) elige(*estado);
 }
 
 void PanelAutomata::estudiaSiSeVe() {
@@ -145,7 +146,7 @@ void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
     if (automata_->grafo.estados() == 0)
         return sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene autómata."));
     for (QAction* const accion : {&ampliar_, &reducir_, &encajar_}) accion->setEnabled(true);
-    guardar_.setEnabled(false);
+    for (QAction* const accion : {&copiar_, &guardar_}) accion->setEnabled(false);
     vista_.vacia(); // it is of another version
     elegido_ = std::min(elegido_, static_cast<int>(automata_->grafo.estados()) - 1);
     llenaEstados();
@@ -163,7 +164,8 @@ void PanelAutomata::sinAutomata(const QString& motivo) {
     }
     estado_.clear();
     vista_.vacia();
-    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_, &guardar_}) accion->setEnabled(false);
+    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_, &copiar_, &guardar_})
+        accion->setEnabled(false);
     avisa(motivo);
 }
 
@@ -230,6 +232,10 @@ void PanelAutomata::dibuja() {
             flechas.append({t.desde, t.hasta, aQString(gramatica().partidas.texto(t.simbolo))});
     porColocar_ = preparaDibujo(std::move(cajas), std::move(flechas), font());
     colocador_.coloca(porColocar_.grafo);
+}
+
+void PanelAutomata::copia() {
+    QGuiApplication::clipboard()->setImage(enImagen(vista_.dibujo()));
 }
 
 void PanelAutomata::guarda() {

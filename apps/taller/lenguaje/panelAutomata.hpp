@@ -64,6 +64,7 @@ private:
     void amplia() { vista_.amplia(); }
     void reduce() { vista_.reduce(); }
     void encaja() { vista_.encaja(); }
+    void copia();
     void guarda();
 
     const GramaticaLR& gramatica() const { return *lenguaje_->gramatica(); }
@@ -80,7 +81,7 @@ private:
     QWidget centro_;
     QVBoxLayout columna_;
     QHBoxLayout botones_;
-    QAction ampliar_, reducir_, encajar_, guardar_;
+    QAction ampliar_, reducir_, encajar_, copiar_, guardar_;
     QLabel aviso_;
     QSplitter partes_;
     QListWidget estados_;

@@ -2,6 +2,7 @@
 
 #include "panelPasos.hpp"
 
+#include "correspondencias.hpp"
 #include "palabrasPaso.hpp"
 
 #include "norvik/checks/conflictosDeTabla.hpp"
@@ -128,8 +129,10 @@ void PanelPasos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 }
 
 void PanelPasos::selecciona(const Eleccion& eleccion) {
-    const auto* const lugar = std::get_if<EnTexto>(&eleccion);
-    if (lugar != nullptr) cursor_ = static_cast<std::size_t>(std::max(lugar->rango.inicio.desplazamiento, 0));
+    const auto& suyo = pendiente_ ? pendiente_ : estudio_;
+    if (!suyo) return;
+    if (const auto lugar = lugarEnTexto(*suyo, eleccion))
+        cursor_ = static_cast<std::size_t>(std::max(lugar->inicio.desplazamiento, 0));
 }
 
 void PanelPasos::filmaSiSeVe() {
