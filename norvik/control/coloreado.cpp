@@ -11,6 +11,8 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
+#include <algorithm>
+
 namespace norvik::inline v0_2 {
 
 void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin) {
@@ -35,16 +37,21 @@ void Coloreado::recorre(std::int32_t desde, std::int32_t hasta) {
     }
 }
 
+/// Corrections may have left less text than was recognised: as of a selection, what is beyond it is not
+/// there.
 void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion) {
     const bool esPalabra = definicion.tipo == Norvik_PalabraReservada || definicion.tipo == Norvik_AutoExpReg;
     const bool corrige = opciones_.autoCorreccion && !opciones_.lenguajeSensible && esPalabra;
     if (definicion.colorTexto == sinColor && definicion.tipo != Norvik_AutoExpReg) return;
-    if (definicion.colorTexto != sinColor) caja_->pinta(posicion, longitud, definicion.colorTexto);
+    const auto total = static_cast<std::int32_t>(caja_->texto().size());
+    const std::int32_t lugar = std::min(posicion, total);
+    const std::int32_t cuantos = std::min(longitud, total - lugar);
+    if (definicion.colorTexto != sinColor) caja_->pinta(lugar, cuantos, definicion.colorTexto);
     if (!corrige) return;
     const auto lexema =
-        caja_->texto().substr(static_cast<std::size_t>(posicion), static_cast<std::size_t>(longitud));
+        caja_->texto().substr(static_cast<std::size_t>(lugar), static_cast<std::size_t>(cuantos));
     if (lexema == definicion.expresion) return;
-    caja_->selecciona(posicion, longitud);
+    caja_->selecciona(lugar, cuantos);
     caja_->reemplazaSeleccion(definicion.expresion);
 }
 

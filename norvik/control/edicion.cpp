@@ -132,9 +132,9 @@ void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
 
 /// Gives an empty line the leading spaces of the one above.
 void Edicion::sangra() {
-    const std::int16_t n = lineaActual();
-    if (n < 2 || !dameLinea(n, caja_->texto()).empty()) return;
-    const auto superior = dameLinea(static_cast<std::int16_t>(n - 1), caja_->texto());
+    const std::int32_t n = lineaActual();
+    if (n < 2 || !textoDeLinea(*caja_, n - 1).empty()) return;
+    const auto superior = textoDeLinea(*caja_, n - 2);
     const std::size_t cuantos = std::min(superior.find_first_not_of(u' '), superior.size());
     caja_->reemplazaSeleccion(espacios(1, a16(cuantos)));
 }

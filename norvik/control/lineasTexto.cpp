@@ -40,6 +40,12 @@ std::int32_t finDeLinea(const FuenteTexto& texto, std::int32_t linea) {
     return siguiente - (hastaElSalto.ends_with(saltoDeLinea) ? 2 : 1);
 }
 
+std::u16string_view textoDeLinea(const FuenteTexto& texto, std::int32_t linea) {
+    const std::int32_t inicio = texto.inicioDeLinea(linea);
+    return texto.texto().substr(static_cast<std::size_t>(inicio),
+                                static_cast<std::size_t>(finDeLinea(texto, linea) - inicio));
+}
+
 std::int16_t numeroDeLinea(std::int32_t linea) {
     constexpr std::int16_t ultima = std::numeric_limits<std::int16_t>::max();
     if (linea >= ultima)

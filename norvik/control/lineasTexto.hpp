@@ -16,6 +16,8 @@ std::u16string_view dameLinea(std::int16_t n, std::u16string_view texto);
 
 /// Where the characters of a line (0-based, one of the text's) end, its break left out.
 std::int32_t finDeLinea(const FuenteTexto& texto, std::int32_t linea);
+/// Those characters. Half a break, as undo may leave one, ends a line, too.
+std::u16string_view textoDeLinea(const FuenteTexto& texto, std::int32_t linea);
 
 /// The number of a line, which counts from 0, for hosts. Raises `Desbordamiento` beyond 32767, always in the
 /// same words: it happens at each line there.
