@@ -30,10 +30,10 @@ constexpr auto formulario = R"(<ui language="c++" displayname="Norvik">
 /// The help of each property.
 QString especificaciones() {
     QString todas;
-    for (const PropiedadPublicada& p : propiedadesPublicadas) {
+    enPublicadas([&](const Propiedad& p) {
         const QString ayuda = aQString(p.ayuda).toHtmlEscaped();
-        todas += QStringLiteral("<tooltip name=\"%1\">%2</tooltip>").arg(QLatin1String(p.nombre), ayuda);
-    }
+        todas += QStringLiteral("<tooltip name=\"%1\">%2</tooltip>").arg(aQString(p.nombre), ayuda);
+    });
     return todas;
 }
 

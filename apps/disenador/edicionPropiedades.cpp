@@ -12,8 +12,7 @@ namespace norvik::disenador {
 namespace {
 
 ControlNorvik& copiada(const ControlNorvik& control, ControlNorvik& copia) {
-    for (const PropiedadPublicada& p : propiedadesPublicadas)
-        copia.setProperty(p.nombre, control.property(p.nombre));
+    enPublicadas([&](const Propiedad& p) { copia.setProperty(nombreDe(p), control.property(nombreDe(p))); });
     return copia;
 }
 
@@ -63,20 +62,18 @@ void EdicionPropiedades::muestra() {
 
 QVariantMap EdicionPropiedades::valores() const {
     QVariantMap todos;
-    for (const PropiedadPublicada& p : propiedadesPublicadas)
-        todos.insert(QLatin1String(p.nombre), copia_.property(p.nombre));
+    enPublicadas([&](const Propiedad& p) { todos.insert(aQString(p.nombre), copia_.property(nombreDe(p))); });
     return todos;
 }
 
 void EdicionPropiedades::quitaImposibles() {
     bool habia = false;
-    for (const PropiedadPublicada& p : propiedadesPublicadas) {
-        if (p.clase != Clase::Nombre && p.clase != Clase::Texto) continue;
-        QString texto = copia_.property(p.nombre).toString();
-        if (!blanquea(texto)) continue;
-        copia_.setProperty(p.nombre, texto);
+    enPublicadas([&](const Propiedad& p) {
+        QString texto = copia_.property(nombreDe(p)).toString();
+        if (!p.esTexto() || !blanquea(texto)) return;
+        copia_.setProperty(nombreDe(p), texto);
         habia = true;
-    }
+    });
     if (habia)
         sistema_.muestraMensaje(
             {u"Un formulario no puede guardar caracteres de control: en su lugar hay ahora "

@@ -11,40 +11,25 @@ namespace norvik::disenador {
 HojaPropiedades::HojaPropiedades(const ControlNorvik& control, QDesignerPropertySheetExtension& corriente,
                                  QObject* padre)
     : QObject(padre), control_(control), corriente_(corriente) {
-    for (const PropiedadPublicada& p : propiedadesPublicadas)
-        corriente_.setPropertyGroup(corriente_.indexOf(QLatin1String(p.nombre)), aQString(p.grupo));
-}
-
-Clase HojaPropiedades::clase(int indice) const {
-    const PropiedadPublicada* const p = publicada(propertyName(indice));
-    return p == nullptr ? Clase::Otra : p->clase;
+    enPublicadas([this](const Propiedad& p) {
+        corriente_.setPropertyGroup(corriente_.indexOf(aQString(p.nombre)), aQString(p.grupo));
+    });
 }
 
 QVariant HojaPropiedades::property(int indice) const {
-    switch (clase(indice)) {
-    case Clase::Nombre:
-    case Clase::Texto:
-        return control_.property(propertyName(indice).toLatin1()).toString().toUtf8().replace("\r\n", "\n");
-    case Clase::Numero16:
-    case Clase::Otra:
-        break;
-    }
-    return corriente_.property(indice);
+    const Propiedad* const p = publicada(propertyName(indice));
+    if (p == nullptr || !p->esTexto()) return corriente_.property(indice);
+    return control_.property(nombreDe(*p)).toString().toUtf8().replace("\r\n", "\n");
 }
 
 /// A failure raised from here would end the designer.
 void HojaPropiedades::setProperty(int indice, const QVariant& valor) {
     using Limites = std::numeric_limits<std::int16_t>;
-    switch (clase(indice)) {
-    case Clase::Numero16:
+    const Propiedad* const p = publicada(propertyName(indice));
+    if (p != nullptr && p->esNumero16())
         return corriente_.setProperty(indice, std::clamp<int>(valor.toInt(), Limites::min(), Limites::max()));
-    case Clase::Nombre:
-    case Clase::Texto:
-        return corriente_.setProperty(
-            indice, valor.typeId() == QMetaType::QByteArray ? QVariant(valor.toString()) : valor);
-    case Clase::Otra:
-        return corriente_.setProperty(indice, valor);
-    }
+    const bool enBytes = p != nullptr && p->esTexto() && valor.typeId() == QMetaType::QByteArray;
+    corriente_.setProperty(indice, enBytes ? QVariant(valor.toString()) : valor);
 }
 
 } // namespace norvik::disenador

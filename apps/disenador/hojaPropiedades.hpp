@@ -34,7 +34,8 @@ public:
     bool hasReset(int indice) const override { return corriente_.hasReset(indice); }
     bool reset(int indice) override { return corriente_.reset(indice); }
     bool isVisible(int indice) const override {
-        return clase(indice) != Clase::Texto && corriente_.isVisible(indice);
+        const Propiedad* const p = publicada(propertyName(indice));
+        return (p == nullptr || !p->variasLineas) && corriente_.isVisible(indice);
     }
     void setVisible(int indice, bool visible) override { corriente_.setVisible(indice, visible); }
     bool isAttribute(int indice) const override { return corriente_.isAttribute(indice); }
@@ -46,8 +47,6 @@ public:
     bool isEnabled(int indice) const override { return corriente_.isEnabled(indice); }
 
 private:
-    Clase clase(int indice) const;
-
     const ControlNorvik& control_;
     QDesignerPropertySheetExtension& corriente_;
 };

@@ -4,6 +4,7 @@
 
 #include "lenguaje.hpp"
 
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QAbstractScrollArea>
@@ -77,8 +78,8 @@ bool ElementoFormulario::eventFilter(QObject* objeto, QEvent* evento) {
 
 /// Controls tell of properties that were set, to whatever value.
 void ElementoFormulario::anota(const QString& propiedad) {
-    const bool esColor =
-        propiedad.startsWith(QLatin1String("Color")) && propiedad != QLatin1String("Colorear");
+    const Propiedad* const p = propiedadDeClave(vistaDe(propiedad));
+    const bool esColor = p != nullptr && p->esColor();
     if (esColor || propiedad == QLatin1String("LenguajeSensible")) lenguajeAlDia_ = false;
     if (propiedad == QLatin1String("ContenidoG")) anotaEspecificacion();
     if (propiedad != QLatin1String("Text") && bolsa() != guardada_) emit otraPropiedad();

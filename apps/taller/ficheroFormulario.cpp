@@ -8,7 +8,7 @@
 #include "documentos.hpp"
 
 #include "norvik/base/errores.hpp"
-#include "norvik/control/propiedades.hpp"
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <QDir>
@@ -105,7 +105,8 @@ void tomaBolsa(const QJsonValue& valor, const QString& lugar, ElementoGuardado& 
     QJsonObject bolsa = valor.toObject();
     if (!valor.isObject()) Miembros::falla(lugar, QStringLiteral("un objeto"));
     for (auto i = bolsa.begin(); i != bolsa.end();) {
-        if (Propiedades::esClave(vistaDe(i.key()))) {
+        const Propiedad* const p = propiedadDeClave(vistaDe(i.key()));
+        if (p != nullptr && p->esClave()) {
             ++i;
         } else {
             elemento.otrosDeBolsa[i.key()] = i.value();

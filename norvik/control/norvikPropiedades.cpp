@@ -5,22 +5,30 @@
 
 #include "norvik/control/colorista.hpp"
 #include "norvik/control/partesControl.hpp"
+#include "norvik/control/tablaPropiedades.hpp"
+
+#include <type_traits>
 
 namespace norvik::inline v0_2 {
 
-template <typename Tipo, typename Valor>
-void Norvik::pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
-    vivo()->propiedades.pon(campo, valor, nombre);
+namespace {
+
+consteval const Propiedad& fila(std::u16string_view nombre) {
+    return *propiedadDeNombre(nombre);
 }
 
-// One that is only kept: what reads it, what sets it, its name, where it stands, its key in the bag.
-#define NORVIK_PROPIEDAD(Lee, Pone, Nombre, campo, clave)                                                    \
+} // namespace
+
+// One that is only kept: what reads it, what sets it, its name.
+// NOLINTBEGIN(bugprone-macro-parentheses): of types
+#define NORVIK_PROPIEDAD(Lee, Pone, Nombre)                                                                  \
     Lee Norvik::Nombre() const {                                                                             \
-        return partes_->campo;                                                                               \
+        return partes_->propiedades.valor<std::remove_cvref_t<Lee>>(fila(u"" #Nombre));                      \
     }                                                                                                        \
     void Norvik::Nombre(Pone valor) {                                                                        \
-        pon(partes_->campo, valor, u"" clave);                                                               \
+        vivo()->propiedades.pon<std::remove_cvref_t<Lee>>(fila(u"" #Nombre), valor);                         \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 std::u16string_view Norvik::GetTextoInvisible() const {
     return partes_->lector.textoInvisible().texto();
@@ -172,29 +180,26 @@ void Norvik::HideSelection(bool valor) {
     vivo()->propiedades.ponHideSelection(valor);
 }
 
-NORVIK_PROPIEDAD(bool, bool, LenguajeSensible, opciones.lenguajeSensible, "LenguajeSensible")
-NORVIK_PROPIEDAD(bool, bool, AutoCorreccion, opciones.autoCorreccion, "AutoCorreccion")
-NORVIK_PROPIEDAD(std::int16_t, std::int16_t, EspaciosXTAB, opciones.espaciosXTAB, "EspaciosXTAB")
-NORVIK_PROPIEDAD(bool, bool, AutoTAB, opciones.autoTAB, "AutoTAB")
-NORVIK_PROPIEDAD(bool, bool, MarcarErrores, opciones.marcarErrores, "MarcarErrores")
-NORVIK_PROPIEDAD(bool, bool, MuestraMensajesDeError, opciones.muestraMensajesDeError,
-                 "MuestraMensajesDeError")
-NORVIK_PROPIEDAD(bool, bool, Colorear, opciones.colorear, "Colorear")
-NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, NomLenguaje, opciones.nombreLenguaje,
-                 "NombreLenguaje")
-NORVIK_PROPIEDAD(bool, bool, AutoNumero, lexico.autoNumber, "AutoNumero")
-NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, ContenidoG, opciones.contenidoG, "ContenidoG")
-NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, CodigoPrueba, opciones.codigoPrueba,
-                 "CodigoPrueba")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorPR, lexico.colorPalabrasReservadas, "ColorPR")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorOperadores, lexico.ColorOperadores, "ColorOperadores")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorComentarios, lexico.ColorComentarios, "ColorComentarios")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorEtiquetas, lexico.ColorEtiquetas, "ColorEtiquetas")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorNumeros, lexico.ColorNumeros, "ColorNumeros")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorError, lexico.ColorError, "ColorError")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCadena, lexico.ColorCadena, "ColorCadena")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCaracter, lexico.ColorCaracter, "ColorCaracter")
-NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorFechas, lexico.ColorFechas, "ColorFechas")
+NORVIK_PROPIEDAD(bool, bool, LenguajeSensible)
+NORVIK_PROPIEDAD(bool, bool, AutoCorreccion)
+NORVIK_PROPIEDAD(bool, bool, AutoTAB)
+NORVIK_PROPIEDAD(bool, bool, MarcarErrores)
+NORVIK_PROPIEDAD(bool, bool, MuestraMensajesDeError)
+NORVIK_PROPIEDAD(bool, bool, Colorear)
+NORVIK_PROPIEDAD(bool, bool, AutoNumero)
+NORVIK_PROPIEDAD(std::int16_t, std::int16_t, EspaciosXTAB)
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, NomLenguaje)
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, ContenidoG)
+NORVIK_PROPIEDAD(const std::u16string&, std::u16string_view, CodigoPrueba)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorPR)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorOperadores)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorComentarios)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorEtiquetas)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorNumeros)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorError)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCadena)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorCaracter)
+NORVIK_PROPIEDAD(std::int32_t, std::int32_t, ColorFechas)
 
 gramatica& Norvik::Gramatica() {
     return partes_->laGramatica;

@@ -4,23 +4,79 @@
 
 #include "norvik/control/ranurasDisenio.hpp"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace norvik::inline v0_2 {
+
+namespace {
+
+/// Of which class a place is a member.
+template <typename Lugar>
+struct Miembro {
+    using Clase = void;
+};
+template <typename Tipo, typename De>
+struct Miembro<Tipo De::*> {
+    using Clase = De;
+};
+template <typename Lugar, typename De>
+inline constexpr bool esDe = std::is_same_v<typename Miembro<Lugar>::Clase, De>;
+
+/// The value of an absent key.
+template <typename Tipo, typename De>
+Tipo omision(const Propiedad& p, Tipo De::*campo) {
+    if constexpr (std::is_arithmetic_v<Tipo>)
+        if (p.omision) return static_cast<Tipo>(*p.omision);
+    if constexpr (std::is_same_v<De, pilaTokens>)
+        return static_cast<Tipo>(p.nuevo);
+    else
+        return De{}.*campo;
+}
+
+template <typename Tipo, typename De>
+Tipo lee(const BolsaPropiedades& bolsa, const Propiedad& p, Tipo De::*campo) {
+    const Tipo ausente = omision(p, campo);
+    if constexpr (std::is_same_v<Tipo, bool>)
+        return bolsa.leeBooleano(p.clave, ausente);
+    else if constexpr (std::is_same_v<Tipo, std::int16_t>)
+        return bolsa.lee16(p.clave, ausente);
+    else if constexpr (std::is_same_v<Tipo, std::u16string>)
+        return bolsa.leeTexto(p.clave, ausente);
+    else if constexpr (std::is_same_v<De, Fuente>)
+        return bolsa.leeDecimal(p.clave, ausente);
+    else
+        return bolsa.lee32(p.clave, ausente);
+}
+
+/// The value of a row that is true or false.
+bool leeLogica(const BolsaPropiedades& bolsa, const Propiedad& p) {
+    if (const auto* suyo = std::get_if<bool pilaTokens::*>(&p.lugar)) return lee(bolsa, p, *suyo);
+    return lee(bolsa, p, std::get<bool Opciones::*>(p.lugar));
+}
+
+template <typename Tipo, typename De>
+void escribe(BolsaPropiedades& bolsa, const Propiedad& p, Tipo De::*campo, const De& de) {
+    const Tipo ausente = omision(p, campo);
+    if constexpr (std::is_same_v<Tipo, bool>)
+        bolsa.escribeBooleano(p.clave, de.*campo, ausente);
+    else if constexpr (std::is_same_v<Tipo, std::u16string>)
+        bolsa.escribeTexto(p.clave, de.*campo, ausente);
+    else if constexpr (std::is_same_v<De, Fuente> && std::is_same_v<Tipo, std::int32_t>)
+        bolsa.escribeDecimal(p.clave, de.*campo, ausente);
+    else
+        bolsa.escribeEntero(p.clave, de.*campo, ausente);
+}
+
+} // namespace
 
 void Propiedades::construye() {
     constexpr std::int32_t margenEnPixeles = 8192; // lines are never wrapped
     caja_->ponFuente(Fuente{});
     caja_->ponMargenDerecho(contenedor_->medidas().pixelX * margenEnPixeles);
-    lexico_.autoNumber = true;
-    lexico_.ColorComentarios = 0x008000;
-    lexico_.ColorError = 0x0000FF;
-    lexico_.ColorNumeros = 0x808000;
-    lexico_.ColorOperadores = 0x000080;
-    lexico_.colorPalabrasReservadas = 0x800000;
-    lexico_.ColorEtiquetas = 0xFF8080;
+    for (const Propiedad& p : tablaPropiedades) {
+        if (const auto* suyo = std::get_if<bool pilaTokens::*>(&p.lugar)) lexico_.*(*suyo) = p.nuevo != 0;
+        if (p.esColor()) campo<std::int32_t>(p) = p.nuevo;
+    }
     caja_->ponOcultaSeleccion(true);
     opciones_.hideSelection = caja_->ocultaSeleccion();
     ponLeftBorderVisible(true);
@@ -70,23 +126,17 @@ void Propiedades::ponAtributo(Tipo Fuente::*atributo, const Tipo& valor) {
     caja_->ponFuente(fuente);
 }
 
-template <typename Tipo>
-void Propiedades::copiaAtributo(const Fuente& fuente, Tipo Fuente::*atributo, std::u16string_view nombre) {
-    if (caja_->fuente().*atributo == fuente.*atributo) return;
-    ponAtributo(atributo, fuente.*atributo);
-    contenedor_->cambioDePropiedad(nombre);
-}
-
 void Propiedades::ponFont(const Fuente& fuente) {
     const TextoOculto oculto(colocacion_);
-    copiaAtributo(fuente, &Fuente::negrita, u"FontBold");
-    copiaAtributo(fuente, &Fuente::juegoCaracteres, u"FontCharset");
-    copiaAtributo(fuente, &Fuente::cursiva, u"FontItalic");
-    copiaAtributo(fuente, &Fuente::nombre, u"FontName");
-    copiaAtributo(fuente, &Fuente::tamano, u"FontSize");
-    copiaAtributo(fuente, &Fuente::tachado, u"FontStrikethrough");
-    copiaAtributo(fuente, &Fuente::subrayado, u"FontUnderline");
-    copiaAtributo(fuente, &Fuente::peso, u"FontWeight");
+    const auto copia = [&](auto atributo, const Propiedad& p) {
+        if constexpr (esDe<decltype(atributo), Fuente>) {
+            if (caja_->fuente().*atributo == fuente.*atributo) return;
+            ponAtributo(atributo, fuente.*atributo);
+            contenedor_->cambioDePropiedad(p.clave);
+        }
+    };
+    for (const Propiedad& p : tablaPropiedades)
+        std::visit([&](auto atributo) { copia(atributo, p); }, p.lugar);
 }
 
 // --- Design time ---
@@ -106,134 +156,62 @@ void Propiedades::tomaDeRanuras() {
     contenedor_->cambioDePropiedad(u"pendienteGuardarG");
 }
 
-// --- Restoring, in the order of the keys ---
-
-bool Propiedades::esClave(std::u16string_view clave) {
-    static constexpr std::array<std::u16string_view, 35> claves = {
-        u"AutoCorreccion",   u"AutoNumero",
-        u"AutoTAB",          u"Borde3D",
-        u"ColorCadena",      u"ColorCaracter",
-        u"ColorComentarios", u"Colorear",
-        u"ColorEtiquetas",   u"ColorError",
-        u"ColorFechas",      u"ColorNumeros",
-        u"ColorOperadores",  u"ColorPR",
-        u"EspaciosXTAB",     u"Font",
-        u"FontBold",         u"FontCharset",
-        u"FontItalic",       u"FontName",
-        u"FontSize",         u"FontStrikethrough",
-        u"FontUnderline",    u"FontWeight",
-        u"HideSelection",    u"LeftBorderVisible",
-        u"LenguajeSensible", u"MarcarErrores",
-        u"MargenIzquierdo",  u"MuestraMensajesDeError",
-        u"NombreLenguaje",   u"Text",
-        u"ContenidoG",       u"CodigoPrueba",
-        u"pendienteGuardarG"};
-    return std::ranges::find(claves, clave) != claves.end();
-}
+// --- The bag ---
 
 void Propiedades::restaura(const BolsaPropiedades& bolsa) {
-    pon(opciones_.autoCorreccion, bolsa.leeBooleano(u"AutoCorreccion", false), u"AutoCorreccion");
-    pon(lexico_.autoNumber, bolsa.leeBooleano(u"AutoNumero", true), u"AutoNumero");
-    opciones_.autoTAB = bolsa.leeBooleano(u"AutoTAB", true);
-    opciones_.borde3D = bolsa.leeBooleano(u"Borde3D", true);
-    contenedor_->muestraMarco(opciones_.borde3D);
-    restauraColores(bolsa);
-    opciones_.espaciosXTAB = bolsa.lee16(u"EspaciosXTAB", 4);
-    restauraFuente(bolsa);
-    restauraAspecto(bolsa);
-    restauraTextos(bolsa);
+    for (const Propiedad& p : tablaPropiedades) restaura(p, bolsa);
 }
 
-void Propiedades::restauraColores(const BolsaPropiedades& bolsa) {
-    lexico_.ColorCadena = bolsa.lee32(u"ColorCadena", 0);
-    lexico_.ColorCaracter = bolsa.lee32(u"ColorCaracter", 0);
-    lexico_.ColorComentarios = bolsa.lee32(u"ColorComentarios", 0x008000);
-    opciones_.colorear = bolsa.leeBooleano(u"Colorear", true);
-    lexico_.ColorEtiquetas = bolsa.lee32(u"ColorEtiquetas", 0xFF8080);
-    lexico_.ColorError = bolsa.lee32(u"ColorError", 0x0000FF);
-    lexico_.ColorFechas = bolsa.lee32(u"ColorFechas", 0);
-    lexico_.ColorNumeros = bolsa.lee32(u"ColorNumeros", 0);
-    lexico_.ColorOperadores = bolsa.lee32(u"ColorOperadores", 0x000080);
-    lexico_.colorPalabrasReservadas = bolsa.lee32(u"ColorPR", 0x800000);
+void Propiedades::restaura(const Propiedad& p, const BolsaPropiedades& bolsa) {
+    switch (p.alRestaurar) {
+    case AlRestaurar::Nada:
+        return;
+    case AlRestaurar::Guarda:
+        return guardaLeido(p, bolsa);
+    case AlRestaurar::Avisa:
+        return pon<bool>(p, leeLogica(bolsa, p));
+    case AlRestaurar::Marco:
+        guardaLeido(p, bolsa);
+        return contenedor_->muestraMarco(opciones_.borde3D);
+    case AlRestaurar::Seleccion:
+        caja_->ponOcultaSeleccion(leeLogica(bolsa, p));
+        opciones_.hideSelection = caja_->ocultaSeleccion();
+        return;
+    case AlRestaurar::Borde:
+        return ponLeftBorderVisible(leeLogica(bolsa, p));
+    case AlRestaurar::Texto:
+        caja_->ponTexto(bolsa.leeTexto(p.clave, {}));
+        return colocacion_.colocaControles();
+    }
 }
 
-void Propiedades::restauraFuente(const BolsaPropiedades& bolsa) {
-    const Fuente omision;
-    ponAtributo(&Fuente::negrita, bolsa.leeBooleano(u"FontBold", omision.negrita));
-    ponAtributo(&Fuente::juegoCaracteres, bolsa.lee16(u"FontCharset", omision.juegoCaracteres));
-    ponAtributo(&Fuente::cursiva, bolsa.leeBooleano(u"FontItalic", omision.cursiva));
-    ponAtributo(&Fuente::nombre, bolsa.leeTexto(u"FontName", omision.nombre));
-    ponAtributo(&Fuente::tamano, bolsa.leeDecimal(u"FontSize", omision.tamano));
-    ponAtributo(&Fuente::tachado, bolsa.leeBooleano(u"FontStrikethrough", omision.tachado));
-    ponAtributo(&Fuente::subrayado, bolsa.leeBooleano(u"FontUnderline", omision.subrayado));
-    ponAtributo(&Fuente::peso, bolsa.lee16(u"FontWeight", omision.peso));
+void Propiedades::guardaLeido(const Propiedad& p, const BolsaPropiedades& bolsa) {
+    const auto guarda = [&](auto campo) {
+        using Lugar = decltype(campo);
+        if constexpr (esDe<Lugar, Fuente>)
+            ponAtributo(campo, lee(bolsa, p, campo));
+        else if constexpr (esDe<Lugar, Opciones>)
+            opciones_.*campo = lee(bolsa, p, campo);
+        else if constexpr (esDe<Lugar, pilaTokens>)
+            lexico_.*campo = lee(bolsa, p, campo);
+    };
+    std::visit(guarda, p.lugar);
 }
-
-void Propiedades::restauraAspecto(const BolsaPropiedades& bolsa) {
-    caja_->ponOcultaSeleccion(bolsa.leeBooleano(u"HideSelection", true));
-    opciones_.hideSelection = caja_->ocultaSeleccion();
-    ponLeftBorderVisible(bolsa.leeBooleano(u"LeftBorderVisible", true));
-    pon(opciones_.lenguajeSensible, bolsa.leeBooleano(u"LenguajeSensible", false), u"LenguajeSensible");
-    opciones_.marcarErrores = bolsa.leeBooleano(u"MarcarErrores", false);
-    opciones_.margenIzquierdo = bolsa.lee16(u"MargenIzquierdo", 150);
-    opciones_.muestraMensajesDeError = bolsa.leeBooleano(u"MuestraMensajesDeError", true);
-}
-
-void Propiedades::restauraTextos(const BolsaPropiedades& bolsa) {
-    opciones_.nombreLenguaje = bolsa.leeTexto(u"NombreLenguaje", {});
-    caja_->ponTexto(bolsa.leeTexto(u"Text", {}));
-    colocacion_.colocaControles();
-    opciones_.contenidoG = bolsa.leeTexto(u"ContenidoG", {});
-    opciones_.codigoPrueba = bolsa.leeTexto(u"CodigoPrueba", {});
-    opciones_.pendienteGuardarG = bolsa.leeBooleano(u"pendienteGuardarG", false);
-}
-
-// --- Saving, in the order of the keys ---
 
 void Propiedades::guarda(BolsaPropiedades& bolsa) const {
-    bolsa.escribeBooleano(u"AutoCorreccion", opciones_.autoCorreccion, false);
-    bolsa.escribeBooleano(u"AutoNumero", lexico_.autoNumber, true);
-    bolsa.escribeBooleano(u"AutoTAB", opciones_.autoTAB, true);
-    bolsa.escribeBooleano(u"Borde3D", opciones_.borde3D, true);
-    guardaColores(bolsa);
-    bolsa.escribeEntero(u"EspaciosXTAB", opciones_.espaciosXTAB, 4);
-    guardaFuente(bolsa);
-    bolsa.escribeBooleano(u"HideSelection", opciones_.hideSelection, true);
-    bolsa.escribeBooleano(u"LeftBorderVisible", opciones_.leftBorderVisible, true);
-    bolsa.escribeBooleano(u"LenguajeSensible", opciones_.lenguajeSensible, false);
-    bolsa.escribeBooleano(u"MarcarErrores", opciones_.marcarErrores, false);
-    bolsa.escribeEntero(u"MargenIzquierdo", opciones_.margenIzquierdo, 150);
-    bolsa.escribeBooleano(u"MuestraMensajesDeError", opciones_.muestraMensajesDeError, true);
-    bolsa.escribeTexto(u"NombreLenguaje", opciones_.nombreLenguaje, {});
-    bolsa.escribeTexto(u"CodigoPrueba", opciones_.codigoPrueba, {});
-    bolsa.escribeTexto(u"ContenidoG", opciones_.contenidoG, {});
-}
-
-void Propiedades::guardaColores(BolsaPropiedades& bolsa) const {
-    bolsa.escribeEntero(u"ColorComentarios", lexico_.ColorComentarios, 0x008000);
-    bolsa.escribeBooleano(u"Colorear", opciones_.colorear, true);
-    bolsa.escribeEntero(u"ColorEtiquetas", lexico_.ColorEtiquetas, 0xFF8080);
-    bolsa.escribeEntero(u"ColorError", lexico_.ColorError, 0x0000FF);
-    bolsa.escribeEntero(u"ColorNumeros", lexico_.ColorNumeros, 0);
-    bolsa.escribeEntero(u"ColorOperadores", lexico_.ColorOperadores, 0x000080);
-    bolsa.escribeEntero(u"ColorPR", lexico_.colorPalabrasReservadas, 0x800000);
-    bolsa.escribeEntero(u"ColorCadena", lexico_.ColorCadena, 0);
-    bolsa.escribeEntero(u"ColorCaracter", lexico_.ColorCaracter, 0);
-    bolsa.escribeEntero(u"ColorFechas", lexico_.ColorFechas, 0);
-}
-
-void Propiedades::guardaFuente(BolsaPropiedades& bolsa) const {
-    const Fuente& fuente = caja_->fuente();
-    const Fuente omision;
-    bolsa.escribeBooleano(u"FontBold", fuente.negrita, omision.negrita);
-    bolsa.escribeEntero(u"FontCharset", fuente.juegoCaracteres, omision.juegoCaracteres);
-    bolsa.escribeBooleano(u"FontItalic", fuente.cursiva, omision.cursiva);
-    bolsa.escribeTexto(u"FontName", fuente.nombre, omision.nombre);
-    bolsa.escribeDecimal(u"FontSize", fuente.tamano, omision.tamano);
-    bolsa.escribeBooleano(u"FontStrikethrough", fuente.tachado, omision.tachado);
-    bolsa.escribeBooleano(u"FontUnderline", fuente.subrayado, omision.subrayado);
-    bolsa.escribeEntero(u"FontWeight", fuente.peso, omision.peso);
-    bolsa.escribeFuente(u"Font", fuente, omision);
+    const auto escribeEn = [&](const Propiedad& p, auto campo) {
+        using Lugar = decltype(campo);
+        if constexpr (esDe<Lugar, Fuente>)
+            escribe(bolsa, p, campo, caja_->fuente());
+        else if constexpr (esDe<Lugar, Opciones>)
+            escribe(bolsa, p, campo, opciones_);
+        else if constexpr (esDe<Lugar, pilaTokens>)
+            escribe(bolsa, p, campo, lexico_);
+        else
+            bolsa.escribeFuente(p.clave, caja_->fuente(), Fuente{});
+    };
+    for (const Propiedad* p : propiedadesPor(&Propiedad::seEscribe))
+        std::visit([&](auto campo) { escribeEn(*p, campo); }, p->lugar);
 }
 
 } // namespace norvik::inline v0_2

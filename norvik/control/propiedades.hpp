@@ -7,16 +7,19 @@
 #include "norvik/control/contenedor.hpp"
 #include "norvik/control/opciones.hpp"
 #include "norvik/control/prestado.hpp"
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
+#include <variant>
 
 namespace norvik::inline v0_2 {
 
-/// The option properties: what setting one does besides, their values in a new control, and how they are
-/// saved.
+/// The option properties by their table: what setting one does besides, their values in a new control, and
+/// how they are saved.
 class Propiedades {
 public:
     Propiedades(Opciones& opciones, pilaTokens& lexico, const Prestado<CajaTexto>& caja,
@@ -24,17 +27,19 @@ public:
         : opciones_(opciones), lexico_(lexico), caja_(caja), colocacion_(colocacion),
           contenedor_(contenedor) {}
 
-    /// A key of a bag that some version of the control reads; others are somebody else's.
-    static bool esClave(std::u16string_view clave);
-
     /// Gives box, lexer and options the values of a new control.
     void construye();
+    /// The value of a row that is an option or the lexer's.
+    template <typename Tipo>
+    const Tipo& valor(const Propiedad& p) const {
+        return campo<Tipo>(p);
+    }
     /// Stores another value and notifies the container.
     template <typename Tipo, typename Valor>
-    void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre) {
-        if (campo == valor) return;
-        campo = valor;
-        contenedor_->cambioDePropiedad(nombre);
+    void pon(const Propiedad& p, const Valor& valor) {
+        if (campo<Tipo>(p) == valor) return;
+        campo<Tipo>(p) = valor;
+        contenedor_->cambioDePropiedad(p.clave);
     }
     void ponBorde3D(bool valor);
     void ponLeftBorderVisible(bool valor);
@@ -55,15 +60,19 @@ public:
 
 private:
     template <typename Tipo>
-    void copiaAtributo(const Fuente& fuente, Tipo Fuente::*atributo, std::u16string_view nombre);
+    Tipo& campo(const Propiedad& p) const {
+        if constexpr (std::is_same_v<Tipo, std::int32_t>) {
+            return lexico_.*std::get<Tipo pilaTokens::*>(p.lugar);
+        } else {
+            if constexpr (std::is_same_v<Tipo, bool>)
+                if (const auto* suyo = std::get_if<bool pilaTokens::*>(&p.lugar)) return lexico_.*(*suyo);
+            return opciones_.*std::get<Tipo Opciones::*>(p.lugar);
+        }
+    }
     template <typename Tipo>
     void ponAtributo(Tipo Fuente::*atributo, const Tipo& valor);
-    void restauraColores(const BolsaPropiedades& bolsa);
-    void restauraFuente(const BolsaPropiedades& bolsa);
-    void restauraAspecto(const BolsaPropiedades& bolsa);
-    void restauraTextos(const BolsaPropiedades& bolsa);
-    void guardaColores(BolsaPropiedades& bolsa) const;
-    void guardaFuente(BolsaPropiedades& bolsa) const;
+    void restaura(const Propiedad& p, const BolsaPropiedades& bolsa);
+    void guardaLeido(const Propiedad& p, const BolsaPropiedades& bolsa);
 
     Opciones& opciones_;
     pilaTokens& lexico_;

@@ -9,56 +9,48 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include <array>
-
 namespace norvik {
 
-/// A field of the page and the property that it shows, under the property's own name.
-struct General::Opcion {
-    const char* elemento;
-    const char* propiedad;
-    std::u16string_view texto;
-    bool esNumero = false;
-};
+namespace {
 
-std::span<const General::Opcion> General::opciones() {
-    static constexpr auto todas = std::to_array<Opcion>({
-        {"chkMuestraMensajesDeError", "MuestraMensajesDeError", u"Mostrar Mensajes de Error en los Análisis"},
-        {"chkMarcarErrores", "MarcarErrores", u"Marcar línea cuando se produzca un error."},
-        {"chkAutoNumero", "AutoNumero", u"Optimizar números al escribir."},
-        {"chkAutoTAB", "AutoTAB", u"Tabular automáticamente."},
-        {"txtEspaciosXTAB", "EspaciosXTAB", u"Número de espacios por Tab", true},
-        {"chkAutoCorreccion", "AutoCorreccion", u"Opción de AutoCorrección"},
-        {"chkLenguajeSensible", "LenguajeSensible", u"Lenguaje Sensible a Mayúsculas y Minúsculas."},
-        {"txtMargenIzquierdo", "MargenIzquierdo", u"Tamaño de alineación izquierda:", true},
-        {"chkLeftBorderVisible", "LeftBorderVisible", u"Mostrar Borde del Debugger"},
-        {"chkBorde3D", "Borde3D", u"Mostrar Borde 3D"},
-    });
-    return todas;
+QString nombreDe(const Propiedad& p) {
+    return aQString(p.nombre);
+}
+
+QLatin1String prefijo(const Propiedad& p) {
+    return QLatin1String(p.esNumero16() ? "txt" : "chk");
+}
+
+} // namespace
+
+template <typename Campo>
+Campo& General::campo(const Propiedad& p) const {
+    return *findChild<Campo*>(prefijo(p) + nombreDe(p));
 }
 
 General::General(SistemaQt& sistema, QWidget* padre)
     : PaginaPropiedades(sistema, QStringLiteral("General"), padre) {
     setObjectName(QStringLiteral("General"));
     dispone();
-    setFocusProxy(findChild<QCheckBox*>(QLatin1String(opciones().front().elemento)));
+    setFocusProxy(&campo<QWidget>(*opciones_.front()));
 }
 
 void General::dispone() {
     auto& filas = nuevo<QFormLayout>(this);
     filas.addRow(&titular(QStringLiteral("Información de caracter genérico sobre el Norvik")));
-    for (const Opcion& o : opciones()) {
-        const QString texto = aQString(o.texto);
-        if (o.esNumero) {
+    for (const Propiedad* p : opciones_) {
+        const QString texto = aQString(p->rotulo);
+        const QByteArray elemento = (prefijo(*p) + nombreDe(*p)).toLatin1();
+        if (p->esNumero16()) {
             auto& campo = nuevo<QLineEdit>(this);
-            nombra(campo, o.elemento, texto);
+            nombra(campo, elemento, texto);
             constexpr int cifras = 8;
             campo.setMaximumWidth(campo.fontMetrics().averageCharWidth() * cifras * 2);
             connect(&campo, &QLineEdit::textChanged, this, [this] { marca(); });
             filas.addRow(texto, &campo);
         } else {
             auto& casilla = nuevo<QCheckBox>(texto, this);
-            nombra(casilla, o.elemento, texto);
+            nombra(casilla, elemento, texto);
             connect(&casilla, &QCheckBox::toggled, this, [this] { marca(); });
             filas.addRow(&casilla);
         }
@@ -66,42 +58,42 @@ void General::dispone() {
 }
 
 void General::lee(ControlNorvik& control) {
-    for (const Opcion& o : opciones()) {
-        const QVariant valor = control.property(o.propiedad);
-        if (o.esNumero) {
-            findChild<QLineEdit*>(QLatin1String(o.elemento))->setText(valor.toString());
+    for (const Propiedad* p : opciones_) {
+        const QVariant valor = control.property(nombreDe(*p).toLatin1());
+        if (p->esNumero16()) {
+            campo<QLineEdit>(*p).setText(valor.toString());
         } else {
-            findChild<QCheckBox*>(QLatin1String(o.elemento))->setChecked(valor.toBool());
+            campo<QCheckBox>(*p).setChecked(valor.toBool());
         }
     }
 }
 
 bool General::escribe(ControlNorvik& control) {
     bool todo = true;
-    for (const Opcion& o : opciones()) {
+    for (const Propiedad* p : opciones_) {
         if (this->control() == nullptr) return false; // who heard of the property before took it away
-        if (o.esNumero) {
-            todo = escribeNumero(control, o) && todo;
+        if (p->esNumero16()) {
+            todo = escribeNumero(control, *p) && todo;
         } else {
-            control.setProperty(o.propiedad, findChild<QCheckBox*>(QLatin1String(o.elemento))->isChecked());
+            control.setProperty(nombreDe(*p).toLatin1(), campo<QCheckBox>(*p).isChecked());
         }
     }
     return todo;
 }
 
-bool General::escribeNumero(ControlNorvik& control, const Opcion& opcion) {
-    auto& campo = *findChild<QLineEdit*>(QLatin1String(opcion.elemento));
+bool General::escribeNumero(ControlNorvik& control, const Propiedad& p) {
+    auto& suyo = campo<QLineEdit>(p);
     bool esNumero = false;
-    const short valor = campo.text().trimmed().toShort(&esNumero);
+    const short valor = suyo.text().trimmed().toShort(&esNumero);
     if (esNumero) {
-        control.setProperty(opcion.propiedad, int{valor});
+        control.setProperty(nombreDe(p).toLatin1(), int{valor});
         return true;
     }
     const QString mensaje = QStringLiteral("%1\n«%2» no es un número entero entre -32768 y 32767.")
-                                .arg(aQString(opcion.texto), campo.text());
+                                .arg(aQString(p.rotulo), suyo.text());
     sistema().muestraMensaje({mensaje.toStdU16String(), u"General", Icono::Exclamacion});
-    campo.setFocus();
-    campo.selectAll();
+    suyo.setFocus();
+    suyo.selectAll();
     return false;
 }
 

@@ -2,9 +2,10 @@
 
 #pragma once
 
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/tools/paginaPropiedades.hpp"
 
-#include <span>
+#include <vector>
 
 namespace norvik {
 
@@ -20,11 +21,13 @@ protected:
     bool escribe(ControlNorvik& control) override;
 
 private:
-    struct Opcion;
-    static std::span<const Opcion> opciones();
-
     void dispone();
-    bool escribeNumero(ControlNorvik& control, const Opcion& opcion);
+    bool escribeNumero(ControlNorvik& control, const Propiedad& p);
+    /// The field of a property.
+    template <typename Campo>
+    Campo& campo(const Propiedad& p) const;
+
+    const std::vector<const Propiedad*> opciones_ = propiedadesDe(PaginaDePropiedad::General);
 };
 
 } // namespace norvik

@@ -17,21 +17,6 @@ namespace norvik {
 
 namespace {
 
-struct ColorDelControl {
-    const char* propiedad;
-    std::u16string_view uso;
-};
-
-constexpr std::array coloresDelControl = {ColorDelControl{"ColorPR", u"palabras reservadas"},
-                                          ColorDelControl{"ColorOperadores", u"operadores"},
-                                          ColorDelControl{"ColorComentarios", u"comentarios"},
-                                          ColorDelControl{"ColorEtiquetas", u"etiquetas"},
-                                          ColorDelControl{"ColorNumeros", u"números"},
-                                          ColorDelControl{"ColorError", u"errores"},
-                                          ColorDelControl{"ColorCadena", u"cadenas"},
-                                          ColorDelControl{"ColorCaracter", u"caracteres"},
-                                          ColorDelControl{"ColorFechas", u"fechas"}};
-
 struct ColorConNombre {
     QRgb color;
     std::u16string_view nombre;
@@ -76,8 +61,8 @@ PaginaColores::PaginaColores(SistemaQt& sistema, QWidget* padre)
     setObjectName(QStringLiteral("StandardColor"));
     nombra(propiedades_, "propiedades", QStringLiteral("Colores del Norvik"));
     propiedades_.setIconSize(medidaDeMuestra(*this));
-    for (const ColorDelControl& c : coloresDelControl)
-        propiedades_.addItem(QStringLiteral("%1 (%2)").arg(QLatin1String(c.propiedad), aQString(c.uso)));
+    for (const Propiedad* p : colores_)
+        propiedades_.addItem(QStringLiteral("%1 (%2)").arg(aQString(p->nombre), aQString(p->rotulo)));
     auto& columna = nuevo<QVBoxLayout>(this);
     columna.addWidget(&titular(QStringLiteral("Colores de los elementos del lenguaje")));
     columna.addWidget(&propiedades_);
@@ -144,20 +129,21 @@ void PaginaColores::muestraElegida() {
     }
 }
 
+QByteArray PaginaColores::propiedad(int fila) const {
+    return aQString(colores_[static_cast<std::size_t>(fila)]->nombre).toLatin1();
+}
+
 void PaginaColores::lee(ControlNorvik& control) {
-    for (int i = 0; i < propiedades_.count(); ++i) {
-        const auto& c = coloresDelControl[static_cast<std::size_t>(i)];
-        ponColor(*propiedades_.item(i), control.property(c.propiedad).value<QColor>());
-    }
+    for (int i = 0; i < propiedades_.count(); ++i)
+        ponColor(*propiedades_.item(i), control.property(propiedad(i)).value<QColor>());
 }
 
 bool PaginaColores::escribe(ControlNorvik& control) {
     for (int i = 0; i < propiedades_.count(); ++i) {
-        const char* propiedad = coloresDelControl[static_cast<std::size_t>(i)].propiedad;
         const QColor color = colorDe(*propiedades_.item(i));
-        if (color == control.property(propiedad).value<QColor>())
+        if (color == control.property(propiedad(i)).value<QColor>())
             continue; // more than its bytes may be there
-        control.setProperty(propiedad, color);
+        control.setProperty(propiedad(i), color);
         if (this->control() == nullptr) return false; // who heard of it took it away
     }
     return true;

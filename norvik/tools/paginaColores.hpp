@@ -2,12 +2,14 @@
 
 #pragma once
 
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/tools/paginaPropiedades.hpp"
 
 #include <QListWidget>
 #include <QSpinBox>
 
 #include <array>
+#include <vector>
 
 namespace norvik {
 
@@ -29,6 +31,9 @@ private:
     void eligeColor(const QColor& color);
     void muestraElegida();
 
+    QByteArray propiedad(int fila) const;
+
+    const std::vector<const Propiedad*> colores_ = propiedadesDe(PaginaDePropiedad::Colores);
     QListWidget propiedades_{this};
     std::array<QSpinBox, 3> partes_; ///< red, green, blue
 };

@@ -3,6 +3,7 @@
 // The control on a form: what is typed, clicked and shown.
 #include "norvik/base/errores.hpp"
 #include "norvik/control/historial.hpp"
+#include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
@@ -19,6 +20,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 using namespace norvik;
@@ -358,20 +360,55 @@ TEST_F(ControlNorvikTest, ElClickDeLaSuperficieEsDelBotonIzquierdoAlSoltarlo) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ControlNorvikTest, TodasLasOpcionesSonPropiedades) {
+namespace {
+
+QVariant otroValor(const QVariant& valor) {
+    switch (valor.typeId()) {
+    case QMetaType::Bool:
+        return !valor.toBool();
+    case QMetaType::Int:
+        return valor.toInt() + 1;
+    case QMetaType::QColor:
+        return QColor(1, 2, 3);
+    case QMetaType::QFont:
+        return QFont(QStringLiteral("Otra"), 20);
+    default:
+        return QStringLiteral("otro");
+    }
+}
+
+} // namespace
+
+/// Qt's properties stand in the class, one by one; what they are is written in the table.
+TEST_F(ControlNorvikTest, LasPropiedadesDeQtSonLasDeLaTabla) {
     const QMetaObject& meta = ControlNorvik::staticMetaObject;
-    EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 45);
+    QStringList avisadas;
+    QObject::connect(&norvik, &ControlNorvik::propiedadCambiada, [&](const QString& p) { avisadas << p; });
+    std::size_t enTabla = 0;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty p = meta.property(i);
+        const Propiedad* const fila = propiedadDeNombre(vistaDe(p.name()));
+        const bool seMuestra = fila != nullptr && !fila->grupo.empty();
+        EXPECT_EQ(p.isDesignable() && p.isStored(), seMuestra) << p.name();
+        EXPECT_TRUE(p.hasNotifySignal()) << p.name();
         const QVariant valor = p.read(&norvik);
-        EXPECT_TRUE(valor.isValid()) << p.name();
-        EXPECT_TRUE(p.write(&norvik, valor)) << p.name();
-        const bool cambia =
-            p.userType() == QMetaType::Bool && QLatin1String(p.name()) != QLatin1String("TextoModificado");
-        if (!cambia) continue;
-        p.write(&norvik, !valor.toBool());
+        EXPECT_TRUE(valor.isValid() && p.write(&norvik, valor)) << p.name();
+        if (!seMuestra) continue;
+        ++enTabla;
+        EXPECT_EQ(p.userType() == QMetaType::QColor, fila->esColor()) << p.name();
+        EXPECT_EQ(p.userType() == QMetaType::Int, fila->esNumero16()) << p.name();
+        EXPECT_EQ(p.userType() == QMetaType::QString, fila->esTexto()) << p.name();
+        avisadas.clear();
+        EXPECT_TRUE(p.write(&norvik, otroValor(valor))) << p.name();
         EXPECT_NE(p.read(&norvik), valor) << p.name();
+        BolsaPropiedades bolsa;
+        norvik.control().guardaPropiedades(bolsa);
+        const bool esFuente = p.userType() == QMetaType::QFont; // its attributes are told
+        EXPECT_EQ(avisadas.contains(aQString(fila->clave)), fila->esClave() && !esFuente) << p.name();
+        EXPECT_TRUE(fila->omision || bolsa.tiene(fila->clave) == fila->esClave()) << p.name();
     }
+    EXPECT_EQ(enTabla, static_cast<std::size_t>(std::ranges::count_if(
+                           tablaPropiedades, [](const Propiedad& p) { return !p.grupo.empty(); })));
 }
 
 TEST_F(ControlNorvikTest, DisposicionDeLosElementos) {
