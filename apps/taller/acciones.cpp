@@ -68,6 +68,7 @@ void Acciones::describe() {
         {buscarAnterior, s("Buscar a&nterior"), s("Shift+F3")},
         {reemplazar, s("R&eemplazar…"), s("Ctrl+H")},
         {irALinea, s("Ir a la &línea…"), s("Ctrl+G")},
+        {plegar, s("Plegar o desple&gar"), s("Ctrl+<")},
         {nuevoFormulario, s("&Nuevo formulario")},
         {abrirFormulario, s("&Abrir formulario…")},
         {guardarFormulario, s("&Guardar formulario")},
@@ -100,7 +101,7 @@ void Acciones::ordena() {
     llena(archivo, {&nuevoTexto, &abrirTexto, textosRecientes.menuAction(), raya, &guardarTexto,
                     &guardarTextoComo, &guardarTodo, raya, &imprimir, raya, &salir});
     llena(edicion, {&deshacer, &rehacer, raya, &cortar, &copiar, &pegar, &seleccionarTodo, raya, &buscar,
-                    &buscarSiguiente, &buscarAnterior, &reemplazar, raya, &irALinea});
+                    &buscarSiguiente, &buscarAnterior, &reemplazar, raya, &irALinea, &plegar});
     llena(formulario,
           {&nuevoFormulario, &abrirFormulario, formulariosRecientes.menuAction(), &guardarFormulario,
            &guardarFormularioComo, raya, &anadir, &quitar, raya, &disenio, &propiedades});

@@ -16,7 +16,7 @@ public:
 
     QAction nuevoTexto, abrirTexto, guardarTexto, guardarTextoComo, guardarTodo, imprimir, salir;
     QAction deshacer, rehacer, cortar, copiar, pegar, seleccionarTodo;
-    QAction buscar, buscarSiguiente, buscarAnterior, reemplazar, irALinea;
+    QAction buscar, buscarSiguiente, buscarAnterior, reemplazar, irALinea, plegar;
     QAction nuevoFormulario, abrirFormulario, guardarFormulario, guardarFormularioComo;
     QAction anadir, quitar, disenio, propiedades;
     QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, ventanaLenguaje, analizar, revisar, informe;

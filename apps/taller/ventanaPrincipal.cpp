@@ -127,7 +127,8 @@ VentanaPrincipal::DeEdicion VentanaPrincipal::deEdicion() {
              {&a.buscarSiguiente, AccionNorvik::BuscarSiguiente},
              {&a.buscarAnterior, AccionNorvik::BuscarAnterior},
              {&a.reemplazar, AccionNorvik::Reemplazar},
-             {&a.irALinea, AccionNorvik::IrALinea}}};
+             {&a.irALinea, AccionNorvik::IrALinea},
+             {&a.plegar, AccionNorvik::Plegar}}};
 }
 
 void VentanaPrincipal::conectaFormulario() {

@@ -53,7 +53,7 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
-    using DeEdicion = std::array<std::pair<QAction*, AccionNorvik>, 11>;
+    using DeEdicion = std::array<std::pair<QAction*, AccionNorvik>, 12>;
 
     template <typename Orden>
     void ejecuta(const Orden& orden);

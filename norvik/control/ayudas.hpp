@@ -7,7 +7,8 @@ namespace norvik::inline v0_2 {
 /// Ayudas de edición. Un control nuevo las tiene apagadas, y es entonces el de siempre; las enciende el
 /// anfitrión, y no se guardan con las opciones.
 struct Ayudas {
-    bool coloreaAlEscribir = false;  ///< con `Colorear`: los colores están al día tras cada cambio
+    bool coloreaAlEscribir = false;  ///< con `Colorear`: los colores están al día tras cada cambio; tras
+                                     ///< cargar otro lenguaje, en un widget, o con `Norvik::actualizaColores`
     bool numerosDeLinea = false;     ///< junto al texto
     bool resaltaLinea = false;       ///< la línea del cursor tiene otro fondo
     bool resaltaParejas = false;     ///< el paréntesis, corchete o llave junto al cursor y su pareja

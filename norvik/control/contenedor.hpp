@@ -55,6 +55,9 @@ public:
     /// `Norvik::tomaColores`); si no, se hacen en el acto.
     virtual bool coloreaDespues() { return false; }
 
+    /// Las definiciones o la tabla del lenguaje son otras, o están cambiando.
+    virtual void otroLenguaje() {}
+
     /// @name Ventanas
     /// Las modales vuelven cuando se cierran; la de buscar, enseguida.
     /// @{

@@ -63,6 +63,10 @@ void Norvik::ColoreaLineaActual() {
     partes->conAviso([&] { partes->lineas.coloreaLinea(partes->edicion.lineaActual()); });
 }
 
+void Norvik::actualizaColores() {
+    vivo()->lineas.ponAlDia();
+}
+
 std::u16string Norvik::ContenidoLinea(std::int16_t numLinea) const {
     return std::u16string(dameLinea(numLinea, partes_->caja->texto()));
 }

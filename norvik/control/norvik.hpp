@@ -222,6 +222,10 @@ public:
     void ColoreaTodo();
     /// Un comentario de varias líneas lo colorea `ColoreaTodo`.
     void ColoreaLineaActual();
+    /// Con `Colorear` y la ayuda `coloreaAlEscribir`, y solo con las dos, pone los colores del lenguaje de
+    /// ahora, que puede ser otro que en el último cambio del texto. Un widget lo hace cuando su lenguaje
+    /// cambia.
+    void actualizaColores();
 
     /// @}
 
@@ -471,8 +475,6 @@ public:
 private:
     /// What is called on it goes on whole, whoever deletes the control meanwhile.
     std::shared_ptr<PartesControl> vivo() const { return partes_; }
-    template <typename Tipo, typename Valor>
-    void pon(Tipo& campo, const Valor& valor, std::u16string_view nombre);
 };
 
 } // namespace norvik::inline v0_2

@@ -75,18 +75,24 @@ void Norvik::SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas
 
 std::size_t Norvik::SetElementosTablaSLR(std::span<const CeldaSLR> celdas) {
     partes_->compruebaQueNadaCarga();
-    return Gramatica().SetElementosTablaSLR(celdas);
+    const std::size_t puestas = Gramatica().SetElementosTablaSLR(celdas);
+    partes_->contenedor->otroLenguaje();
+    return puestas;
 }
 
 void Norvik::BorraLenguaje() {
     partes_->compruebaQueNadaCarga();
     Lexico().Inicializa();
+    partes_->contenedor->otroLenguaje();
 }
 
 void Norvik::OlvidaLenguaje() {
-    BorraLenguaje();
-    Gramatica().inicializaGramatica();
-    Gramatica().SetDimensionTablaSLR(0, 0);
+    const auto partes = vivo();
+    partes->compruebaQueNadaCarga();
+    partes->lexico.Inicializa();
+    partes->laGramatica.inicializaGramatica();
+    partes->laGramatica.SetDimensionTablaSLR(0, 0);
+    partes->contenedor->otroLenguaje();
 }
 
 // --- Compiling ---

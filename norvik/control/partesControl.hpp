@@ -100,7 +100,7 @@ private:
     class Carga;
 
     void alFallarElAnalisis(const Mensaje& mensaje);
-    void muestraErrorLexico(const std::u16string& mensaje);
+    void alRegistrar(const std::u16string& mensaje);
     bool analizaEspecificacion(std::u16string_view codGramatica);
 
     bool cargando_ = false;

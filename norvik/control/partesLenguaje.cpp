@@ -75,8 +75,9 @@ void PartesControl::compruebaQueNadaCarga() const {
 
 // --- Call by call ---
 
-void PartesControl::muestraErrorLexico(const std::u16string& mensaje) {
-    if (mensaje.empty()) return;
+/// Of a definition: it is there, or its error is shown.
+void PartesControl::alRegistrar(const std::u16string& mensaje) {
+    if (mensaje.empty()) return contenedor->otroLenguaje();
     const auto vivo = shared_from_this();
     const Carga carga(*this);
     sistema->muestraMensaje(
@@ -89,8 +90,8 @@ void PartesControl::SetER(std::u16string_view expresion, std::u16string_view nom
                           std::int16_t tipoToken, std::u16string_view pseudoToken, std::int32_t baseToken,
                           std::int32_t colorTexto) {
     compruebaQueNadaCarga();
-    muestraErrorLexico(lexico.SetER(expresion, nomER, esToken, opciones.lenguajeSensible, pseudoToken,
-                                    tipoToken, baseToken, colorTexto));
+    alRegistrar(lexico.SetER(expresion, nomER, esToken, opciones.lenguajeSensible, pseudoToken, tipoToken,
+                             baseToken, colorTexto));
 }
 
 void PartesControl::SetPatron(std::u16string_view patron, std::u16string_view nomER, std::int16_t tipoToken,
@@ -98,25 +99,26 @@ void PartesControl::SetPatron(std::u16string_view patron, std::u16string_view no
     compruebaQueNadaCarga();
     const auto error = lexico.registraPatron(
         {patron, nomER, true, opciones.lenguajeSensible, pseudoToken, tipoToken, baseToken});
-    if (error) muestraErrorLexico(mensaje(*error));
+    alRegistrar(error ? mensaje(*error) : std::u16string());
 }
 
 void PartesControl::SetPalabraReservada(std::u16string_view lexema, std::u16string_view token,
                                         std::u16string_view pseudoToken) {
     compruebaQueNadaCarga();
-    muestraErrorLexico(lexico.SetPalabraReservada(lexema, token, opciones.lenguajeSensible, pseudoToken));
+    alRegistrar(lexico.SetPalabraReservada(lexema, token, opciones.lenguajeSensible, pseudoToken));
 }
 
 void PartesControl::SetOperador(std::u16string_view lexema, std::u16string_view token,
                                 std::u16string_view pseudoToken) {
     compruebaQueNadaCarga();
-    muestraErrorLexico(lexico.SetOperador(lexema, token, opciones.lenguajeSensible, pseudoToken));
+    alRegistrar(lexico.SetOperador(lexema, token, opciones.lenguajeSensible, pseudoToken));
 }
 
 // --- Whole ---
 
 bool PartesControl::CargaGramatica(std::u16string_view codGramatica) {
     const Carga carga(*this);
+    contenedor->otroLenguaje();
     InstalaLenguajeEspecificacion(laGramatica, lexico, opciones.lenguajeSensible);
     const Ocupado ocupado(sistema);
     if (!analizaEspecificacion(codGramatica)) return false;
@@ -147,6 +149,7 @@ bool PartesControl::analizaEspecificacion(std::u16string_view codGramatica) {
 bool PartesControl::GeneraCompilador() {
     if (laGramatica.GetLeftRegla(1).empty()) return true;
     const Carga carga(*this);
+    contenedor->otroLenguaje();
     const std::u16string mensaje = laGramatica.chequeaGramatica();
     if (!mensaje.empty()) {
         sistema->muestraMensaje(mensajeDeComprobacion(mensaje));

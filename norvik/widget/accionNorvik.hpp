@@ -21,9 +21,10 @@ enum class AccionNorvik : std::uint8_t {
     IrALinea,
     Acercar, ///< la letra se ve mayor; su fuente no cambia
     Alejar,
-    TamanoNormal
+    TamanoNormal,
+    Plegar ///< la construcción del cursor, o desplegarla; sirve con su ayuda
 };
 
-inline constexpr int numeroDeAcciones = static_cast<int>(AccionNorvik::TamanoNormal) + 1;
+inline constexpr int numeroDeAcciones = static_cast<int>(AccionNorvik::Plegar) + 1;
 
 } // namespace norvik

@@ -7,6 +7,7 @@
 #include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/busquedaControl.hpp"
 #include "norvik/widget/controlNorvik.hpp"
+#include "norvik/widget/plegado.hpp"
 #include "norvik/widget/ventanasDelControl.hpp"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ constexpr auto descripciones = std::to_array<Descripcion>({
     {AccionNorvik::Acercar, QKeySequence::ZoomIn, "acercar", "Acerc&ar", "Ctrl+="},
     {AccionNorvik::Alejar, QKeySequence::ZoomOut, "alejar", "Ale&jar"},
     {AccionNorvik::TamanoNormal, ninguna, "tamanoNormal", "Tamaño n&ormal", "Ctrl+0"},
+    {AccionNorvik::Plegar, ninguna, "plegar", "Plegar o &desplegar", "Ctrl+<"},
 });
 
 /// The platform's own keys first; those without the control key are known to the text itself.
@@ -63,8 +65,8 @@ VistaTexto& editorDe(ControlNorvik& control) {
 
 } // namespace
 
-AccionesControl::AccionesControl(ControlNorvik& control, BusquedaControl& busqueda)
-    : control_(control), busqueda_(busqueda) {
+AccionesControl::AccionesControl(ControlNorvik& control, BusquedaControl& busqueda, Plegado& plegado)
+    : control_(control), busqueda_(busqueda), plegado_(plegado) {
     static_assert(std::size(descripciones) == numeroDeAcciones);
     const auto pide = [this] { pideAlDia(); };
     auto& editor = editorDe(control_);
@@ -122,6 +124,8 @@ bool AccionesControl::sirve(AccionNorvik cual) {
         return !control_.caja().texto().empty();
     case AccionNorvik::Reemplazar:
         return seEscribe;
+    case AccionNorvik::Plegar:
+        return control.ayudas().pliega;
     case AccionNorvik::Buscar:
     case AccionNorvik::BuscarSiguiente:
     case AccionNorvik::BuscarAnterior:
@@ -184,6 +188,8 @@ void AccionesControl::ejecuta(AccionNorvik cual) {
         return control_.reduce();
     case AccionNorvik::TamanoNormal:
         return control_.tamanoNormal();
+    case AccionNorvik::Plegar:
+        return plegado_.cambiaLaDelCursor();
     }
 }
 

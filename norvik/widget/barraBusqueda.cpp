@@ -23,6 +23,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace norvik {
@@ -38,13 +39,20 @@ QPlainTextEdit& editorDe(ControlNorvik& control) {
 
 } // namespace
 
-BarraBusqueda::BarraBusqueda(ControlNorvik& control) : QWidget(&control), control_(control) {
+BarraBusqueda::BarraBusqueda(ControlNorvik& control, Resaltes& resaltes)
+    : QWidget(&control), control_(control), resaltes_(resaltes) {
     hide();
     nombra(*this, "barraDeBusqueda", QStringLiteral("Barra de búsqueda"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
     compone();
     conecta();
+    resaltes_.pon(Resaltes::Capa::Busqueda,
+                  [this](auto desde, auto hasta) { return halladas(desde, hasta); });
+}
+
+BarraBusqueda::~BarraBusqueda() {
+    resaltes_.pon(Resaltes::Capa::Busqueda, {});
 }
 
 void BarraBusqueda::compone() {
@@ -124,6 +132,7 @@ void BarraBusqueda::muestra() {
     control_.caja().ponOcultaSeleccion(false);
     show();
     raise();
+    resaltes_.refresca();
     emit otroSitio();
     if (estado_ == Estado::Vieja) lanza();
 }
@@ -136,6 +145,7 @@ void BarraBusqueda::cierra() {
     if (suyo) control_.caja().enfoca();
     if (viva.isNull()) return;
     hide();
+    resaltes_.refresca();
     emit otroSitio();
     if (const auto antes = std::exchange(ocultaba_, std::nullopt)) control_.caja().ponOcultaSeleccion(*antes);
 }
@@ -156,6 +166,7 @@ void BarraBusqueda::envejece() {
     tarda_.stop();
     repaso_.stop();
     estado_ = Estado::Vieja;
+    resaltes_.refresca();
 }
 
 void BarraBusqueda::cambiaPeticion() {
@@ -196,6 +207,7 @@ void BarraBusqueda::recibe(const BuscadorDeFondo::Resultado& resultado) {
     tarda_.stop();
     estado_ = Estado::AlDia;
     resultado_ = resultado;
+    resaltes_.refresca();
     actualizaCuenta();
     if (const auto salto = std::exchange(pendiente_, std::nullopt)) salta(*salto);
 }
@@ -221,6 +233,21 @@ void BarraBusqueda::salta(Salto salto) {
     avisa(cuenta_.text() +
               (atras ? QStringLiteral(", desde el final") : QStringLiteral(", desde el principio")),
           false);
+}
+
+/// Only those in view are looked at.
+std::vector<Resalte> BarraBusqueda::halladas(std::int32_t desde, std::int32_t hasta) const {
+    std::vector<Resalte> vistas;
+    if (isHidden() || estado_ != Estado::AlDia) return vistas;
+    constexpr double parte = 0.3;
+    QTextCharFormat formato;
+    formato.setBackground(
+        mezcla(QColor(255, 190, 0), editorDe(control_).palette().color(QPalette::Base), parte));
+    const auto fin = [](const Coincidencia& c) { return c.indice + c.longitud; };
+    auto c = std::ranges::lower_bound(resultado_.halladas, desde, {}, fin);
+    for (; c != resultado_.halladas.end() && c->indice <= hasta; ++c)
+        vistas.push_back({c->indice, fin(*c), formato});
+    return vistas;
 }
 
 /// How many there are, and which one is selected.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "norvik/widget/buscadorDeFondo.hpp"
+#include "norvik/widget/resaltes.hpp"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +13,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace norvik {
 
@@ -19,14 +21,17 @@ class ControlNorvik;
 
 /// The find bar below the text of a control, which finds while a person types, counts, and goes round the end
 /// of the text. The control gives it its place; what it finds is selected in the text, which keeps clear of
-/// it.
+/// it, and while it is shown all that is found stands out.
 class BarraBusqueda final : public QWidget {
     Q_OBJECT
 
 public:
     enum class Salto : std::uint8_t { Primera, Siguiente, Anterior };
 
-    explicit BarraBusqueda(ControlNorvik& control);
+    BarraBusqueda(ControlNorvik& control, Resaltes& resaltes);
+    BarraBusqueda(const BarraBusqueda&) = delete;
+    BarraBusqueda& operator=(const BarraBusqueda&) = delete;
+    ~BarraBusqueda() override;
 
     /// Shows the bar for someone who is about to type; what is selected in a line is looked for.
     void abre();
@@ -59,8 +64,10 @@ private:
     void salta(Salto salto);
     void actualizaCuenta();
     void avisa(const QString& texto, bool malo);
+    std::vector<Resalte> halladas(std::int32_t desde, std::int32_t hasta) const;
 
     ControlNorvik& control_;
+    Resaltes& resaltes_;
     QLineEdit campo_{this};
     QToolButton anterior_{this};
     QToolButton siguiente_{this};

@@ -14,7 +14,7 @@ bool BusquedaControl::conBarra() const {
 
 BarraBusqueda& BusquedaControl::barra() {
     if (barra_ == nullptr) {
-        barra_ = std::make_unique<BarraBusqueda>(control_);
+        barra_ = std::make_unique<BarraBusqueda>(control_, resaltes_);
         QObject::connect(barra_.get(), &BarraBusqueda::otroSitio, &control_,
                          [this] { control_.caja().protege([this] { control_.control().redimensiona(); }); });
     }

@@ -11,7 +11,7 @@ namespace norvik {
 /// How a control is searched: with its bar, when its host has it use one, else with the dialog.
 class BusquedaControl {
 public:
-    explicit BusquedaControl(ControlNorvik& control) : control_(control) {}
+    BusquedaControl(ControlNorvik& control, Resaltes& resaltes) : control_(control), resaltes_(resaltes) {}
 
     void abre();
     void sigue(BarraBusqueda::Salto salto);
@@ -25,6 +25,7 @@ private:
     BarraBusqueda& barra();
 
     ControlNorvik& control_;
+    Resaltes& resaltes_;
     std::unique_ptr<BarraBusqueda> barra_; ///< once it has been asked for
 };
 

@@ -45,7 +45,7 @@ struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
           caja(&control), fondo(control.control_, caja),
-          completado(caja, [&control] { return control.control_.lenguaje(); }), busqueda(control) {}
+          completado(caja, [&control] { return control.control_.lenguaje(); }), busqueda(control, resaltes) {}
 
     ElementosControl elementos;
     SistemaQt propio;
@@ -53,7 +53,7 @@ struct ControlNorvik::Piezas {
     CajaTextoQt caja;
     FondoDeEdicion fondo;
     Resaltes resaltes{caja};
-    ResaltesDelCursor delCursor{caja, resaltes};
+    ResaltesDelCursor delCursor{caja, resaltes, fondo};
     DiagnosticosVistos diagnosticos{caja, resaltes};
     Plegado plegado{caja, fondo.pliegues()};
     MargenDeLineas margen{elementos.debugBox, caja, diagnosticos, plegado};
@@ -157,6 +157,7 @@ std::array<QWidget*, 3> ControlNorvik::observados() {
 
 void ControlNorvik::conectaElementos() {
     for (QWidget* e : observados()) e->installEventFilter(this);
+    piezas_->caja.ventana().installEventFilter(&piezas_->completado); // first: keys of its list are its own
     connect(&piezas_->elementos.controlSpace, &QPushButton::clicked, this,
             [this] { piezas_->caja.enfoca(); });
     connect(&piezas_->caja.noticias(), &NoticiasDeCaja::alDia, this, [this] { alDia(); });
@@ -222,13 +223,23 @@ bool ControlNorvik::atiendeTabulador(const QKeyEvent& tecla) {
     const bool adelante = tecla.key() == Qt::Key_Tab;
     const bool conControl = tecla.modifiers().testFlag(Qt::ControlModifier);
     const bool sangra = control_.ayudas().sangraSeleccion && tecla.key() == Qt::Key_Backtab;
-    if (adelante && tecla.modifiers() == Qt::ControlModifier)
+    const bool escribe = adelante && tecla.modifiers() == Qt::NoModifier;
+    const bool sale = adelante && tecla.modifiers() == Qt::ControlModifier;
+    if (escribe)
+        enfocaTabulador(Qt::TabFocusReason);
+    else if (sale)
         saleHaciaDelante();
     else if (sangra && conControl)
         focusPreviousChild();
     else if (sangra)
         piezas_->caja.atiende([this] { control_.tabulaAtras(); });
-    return sangra || (adelante && tecla.modifiers() == Qt::ControlModifier);
+    return sangra || escribe || sale;
+}
+
+/// Whoever hears that the text lost the focus may delete the control, before its button has it.
+void ControlNorvik::enfocaTabulador(Qt::FocusReason razon) {
+    const Servido<QPushButton>::Servicio servicio(*piezas_->elementos.tabulador);
+    piezas_->elementos.tabulador->setFocus(razon);
 }
 
 void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
@@ -241,7 +252,7 @@ void ControlNorvik::entraEnTabulador(Qt::FocusReason razon) {
 void ControlNorvik::saleHaciaDelante() {
     const QPointer<ControlNorvik> vivo(this);
     piezas_->elementos.tabulador->removeEventFilter(this); // the focus passes over it
-    piezas_->elementos.tabulador->setFocus();
+    enfocaTabulador(Qt::OtherFocusReason);
     if (vivo.isNull()) return;
     piezas_->elementos.tabulador->installEventFilter(this);
     focusNextChild();
@@ -287,7 +298,7 @@ void ControlNorvik::otrasAyudas() {
 
 QAction* ControlNorvik::accion(AccionNorvik cual) {
     if (piezas_->acciones == nullptr)
-        piezas_->acciones = std::make_unique<AccionesControl>(*this, piezas_->busqueda);
+        piezas_->acciones = std::make_unique<AccionesControl>(*this, piezas_->busqueda, piezas_->plegado);
     return &piezas_->acciones->accion(cual);
 }
 
@@ -298,6 +309,10 @@ void ControlNorvik::cambioElTexto(const CambioDeTexto& cambio) {
 bool ControlNorvik::coloreaDespues() {
     piezas_->fondo.pideColores();
     return true;
+}
+
+void ControlNorvik::otroLenguaje() {
+    piezas_->fondo.otroLenguaje();
 }
 
 // ---- what a program sets and hears

@@ -348,6 +348,7 @@ private:
     void otrasAyudas() override;
     void cambioElTexto(const CambioDeTexto& cambio) override;
     bool coloreaDespues() override;
+    void otroLenguaje() override;
     Medidas medidas() const override;
     void muestraMarco(bool visible) override;
     void muestraBordeIzquierdo(bool visible) override;
@@ -368,6 +369,7 @@ private:
     void tomaFuente();
     Compilacion carga(const std::function<Compilacion()>& orden);
     std::array<QWidget*, 3> observados();
+    void enfocaTabulador(Qt::FocusReason razon);
     void entraEnTabulador(Qt::FocusReason razon);
     bool atiendeTecla(const QKeyEvent& tecla);
     bool atiendeTabulador(const QKeyEvent& tecla);

@@ -2,7 +2,9 @@
 
 #include "norvik/widget/fondoDeEdicion.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/base/presupuesto.hpp"
+#include "norvik/control/coloresAlDia.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <chrono>
@@ -15,6 +17,7 @@ namespace {
 
 constexpr auto esperaDeColores = std::chrono::milliseconds(20); // several changes, one reading
 constexpr auto pausa = std::chrono::milliseconds(300);
+constexpr auto plazo = std::chrono::milliseconds(250); // of a text of common length, many times what it takes
 
 } // namespace
 
@@ -22,6 +25,11 @@ FondoDeEdicion::FondoDeEdicion(Norvik& control, CajaTextoQt& caja) : control_(co
     coloreaPronto_.setSingleShot(true);
     coloreaPronto_.setInterval(esperaDeColores);
     coloreaPronto_.callOnTimeout([this] { caja_.protege([this] { colorea(); }); });
+    recoloreaPronto_.setSingleShot(true); // once, after the calls that load a language
+    recoloreaPronto_.callOnTimeout([this] {
+        caja_.pideAlDia();
+        caja_.protege([this] { control_.actualizaColores(); });
+    });
     analizaTrasPausa_.setSingleShot(true);
     analizaTrasPausa_.setInterval(pausa);
     analizaTrasPausa_.callOnTimeout([this] { caja_.protege([this] { analiza(); }); });
@@ -29,6 +37,7 @@ FondoDeEdicion::FondoDeEdicion(Norvik& control, CajaTextoQt& caja) : control_(co
 
 void FondoDeEdicion::cambioElTexto(const CambioDeTexto& cambio) {
     ++version_;
+    literalesDe_.reset();
     if (!control_.ayudas().pliega) return;
     pliegues_.alCambiar(cambio);
     analizaTrasPausa_.start();
@@ -39,6 +48,11 @@ void FondoDeEdicion::otrasAyudas() {
     analizaTrasPausa_.stop();
     pliegues_.toma({});
     if (otrosPliegues) otrosPliegues();
+}
+
+void FondoDeEdicion::otroLenguaje() {
+    recoloreaPronto_.start();
+    if (control_.ayudas().pliega) analizaTrasPausa_.start();
 }
 
 // ---- colours
@@ -62,17 +76,37 @@ void FondoDeEdicion::colorea() {
     if (desistido_ || trabajoColores_.trabaja()) return;
     trabajoColores_.empieza(
         [colorista, texto = std::u16string(caja_.texto())](const std::stop_token& parada) {
-            return colorista->colores(texto, Presupuesto(Presupuesto::plazoComun, parada));
+            auto colores = colorista->colores(texto, Presupuesto(Presupuesto::plazoComun, parada));
+            return Lectura{std::move(colores), colorista->literales()};
         },
-        [this, colorista, version = version_](std::optional<Colores> colores) {
-            if (!colores && colorista == colorista_) desistido_ = true;
-            if (colores) caja_.protege([&] { tomaColores(*colores, version); });
+        [this, colorista, version = version_](std::optional<Lectura> lectura) {
+            if (!lectura && colorista == colorista_) desistido_ = true;
+            if (lectura) caja_.protege([&] { toma(*std::move(lectura), colorista, version); });
         });
 }
 
-void FondoDeEdicion::tomaColores(const Colores& colores, std::uint64_t version) {
+void FondoDeEdicion::toma(Lectura&& lectura, const std::shared_ptr<Colorista>& de, std::uint64_t version) {
     if (version != version_) return pideColores();
-    control_.tomaColores(colores);
+    literales_ = std::move(lectura.literales);
+    literalesDe_ = de;
+    caja_.pideAlDia();
+    control_.tomaColores(lectura.colores);
+}
+
+const std::vector<Literal>* FondoDeEdicion::literales() {
+    const std::shared_ptr<Colorista> suyo = colorista();
+    if (literalesDe_ == suyo) return &literales_;
+    if (desistido_ || trabajoColores_.trabaja()) return nullptr;
+    if (caja_.texto().size() > ColoresAlDia::maximoAlMomento) return pideColores(), nullptr;
+    try {
+        suyo->colores(caja_.texto(), Presupuesto(plazo));
+    } catch (const BusquedaDesbocada&) {
+        desistido_ = true;
+        return nullptr;
+    }
+    literales_ = suyo->literales();
+    literalesDe_ = suyo;
+    return &literales_;
 }
 
 // ---- constructions

@@ -36,16 +36,25 @@ public:
     /// The text is too long to be coloured at once.
     void pideColores();
 
+    /// The definitions or the table are others.
+    void otroLenguaje();
+
+    /// The comments, strings and characters of the text as it is, in order; null while a long one is still
+    /// being read for them, and when it takes too long.
+    const std::vector<Literal>* literales();
     const Pliegues& pliegues() const { return pliegues_; }
     /// There may be others.
     std::function<void()> otrosPliegues;
 
 private:
-    using Colores = std::vector<TramoDeColor>;
+    struct Lectura {
+        std::vector<TramoDeColor> colores;
+        std::vector<Literal> literales;
+    };
     using Construcciones = std::vector<Construccion>;
 
     void colorea();
-    void tomaColores(const Colores& colores, std::uint64_t version);
+    void toma(Lectura&& lectura, const std::shared_ptr<Colorista>& de, std::uint64_t version);
     void analiza();
     void tomaConstrucciones(std::optional<Construcciones> construcciones, std::uint64_t version);
     const std::shared_ptr<Colorista>& colorista();
@@ -57,8 +66,10 @@ private:
     std::optional<Lenguaje> lenguaje_; ///< the colourist's
     std::shared_ptr<Colorista> colorista_;
     bool desistido_ = false; ///< texts of this language take too long
-    QTimer coloreaPronto_, analizaTrasPausa_;
-    TrabajoDeFondo<Colores> trabajoColores_;
+    std::vector<Literal> literales_;
+    std::shared_ptr<Colorista> literalesDe_; ///< whose they are, when they are of this text
+    QTimer coloreaPronto_, recoloreaPronto_, analizaTrasPausa_;
+    TrabajoDeFondo<Lectura> trabajoColores_;
     TrabajoDeFondo<std::optional<Construcciones>> trabajoAnalisis_;
 };
 

@@ -48,6 +48,13 @@ void Plegado::cambia(std::int32_t linea) {
     });
 }
 
+void Plegado::cambiaLaDelCursor() {
+    const std::int32_t cursor = caja_.lineaDeCaracter(caja_.inicioSeleccion());
+    const auto contiene = [cursor](const Pliegue& p) { return p.primera <= cursor && cursor <= p.ultima; };
+    const auto suya = std::find_if(actuales_.rbegin(), actuales_.rend(), contiene);
+    if (suya != actuales_.rend()) cambia(suya->primera);
+}
+
 void Plegado::sigue() {
     const bool hayOtros = std::exchange(porMirar_, false);
     if (hayOtros) {

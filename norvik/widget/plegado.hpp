@@ -36,6 +36,8 @@ public:
     /// What a line, 0-based, is the first of.
     Estado estado(std::int32_t linea) const;
     void cambia(std::int32_t linea);
+    /// The innermost construction that the caret is in, or the first line of which it is on.
+    void cambiaLaDelCursor();
 
 signals:
     void cambiado();

@@ -10,6 +10,14 @@
 
 namespace norvik {
 
+QColor mezcla(const QColor& color, const QColor& fondo, double parte) {
+    const auto componente = [&](int encima, int debajo) {
+        return qRound(encima * parte + debajo * (1 - parte));
+    };
+    return {componente(color.red(), fondo.red()), componente(color.green(), fondo.green()),
+            componente(color.blue(), fondo.blue())};
+}
+
 void Resaltes::pon(Capa capa, Fuente fuente) {
     capas_[static_cast<std::size_t>(capa)] = std::move(fuente);
     refresca();

@@ -5,19 +5,22 @@
 #include "norvik/control/parejas.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
+#include "norvik/widget/fondoDeEdicion.hpp"
 #include "norvik/widget/signo.hpp"
+
+#include <algorithm>
+#include <optional>
 
 namespace norvik {
 
 namespace {
 
-/// So much of a colour over another one.
-QColor mezcla(const QColor& color, const QColor& fondo, double parte) {
-    const auto componente = [&](int encima, int debajo) {
-        return qRound(encima * parte + debajo * (1 - parte));
-    };
-    return {componente(color.red(), fondo.red()), componente(color.green(), fondo.green()),
-            componente(color.blue(), fondo.blue())};
+/// Where the one begins that a character is in, -1 where it is in none.
+std::int32_t literalEn(const std::vector<Literal>& literales, std::int32_t posicion) {
+    const auto siguiente = std::ranges::upper_bound(literales, posicion, {}, &Literal::inicio);
+    if (siguiente == literales.begin()) return -1;
+    const Literal& anterior = *(siguiente - 1);
+    return posicion < anterior.fin ? anterior.inicio : -1;
 }
 
 } // namespace
@@ -40,9 +43,13 @@ std::vector<Resalte> ResaltesDelCursor::linea() const {
     return {{caja_.inicioSeleccion(), caja_.inicioSeleccion(), formato}};
 }
 
-/// One without its other half is shown as an error is.
+/// Those of one literal belong together, and those outside all of them; while nobody knows them, those of one
+/// colour. One without its other half is shown as an error is.
 std::vector<Resalte> ResaltesDelCursor::pareja() const {
+    std::optional<const std::vector<Literal>*> literales; // asked for when there is a bracket
     const auto juntos = [&](std::int32_t uno, std::int32_t otro) {
+        if (!literales) literales = fondo_.literales();
+        if (*literales != nullptr) return literalEn(**literales, uno) == literalEn(**literales, otro);
         const std::int32_t color = caja_.colorDe(uno);
         return color == 0 || caja_.colorDe(otro) == 0 || color == caja_.colorDe(otro);
     };

@@ -10,12 +10,13 @@
 namespace norvik {
 
 class CajaTextoQt;
+class FondoDeEdicion;
 
-/// What shows a person where the caret is: its line, and the pair of the bracket beside it. Brackets of one
-/// colour belong together, those of a comment or a string not to the others; colour 0 is any.
+/// What shows a person where the caret is: its line, and the pair of the bracket beside it.
 class ResaltesDelCursor {
 public:
-    ResaltesDelCursor(const CajaTextoQt& caja, Resaltes& resaltes) : caja_(caja), resaltes_(resaltes) {}
+    ResaltesDelCursor(const CajaTextoQt& caja, Resaltes& resaltes, FondoDeEdicion& fondo)
+        : caja_(caja), resaltes_(resaltes), fondo_(fondo) {}
 
     void pon(const Ayudas& ayudas);
 
@@ -25,6 +26,7 @@ private:
 
     const CajaTextoQt& caja_;
     Resaltes& resaltes_;
+    FondoDeEdicion& fondo_;
 };
 
 } // namespace norvik

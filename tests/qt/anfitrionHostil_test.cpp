@@ -1,128 +1,14 @@
 // SPDX-License-Identifier: MIT
 
-// A form whose receivers do at each event of each thing that can be done to the editor, by its user or by the
-// program, what a host may do: delete it, now or later, throw, or load, compile and parse. What must not be
-// touched then is for the sanitizers to say.
-#include "norvik/base/errores.hpp"
-#include "norvik/platform/qt/cajaTextoQt.hpp"
-#include "norvik/platform/qt/nuevo.hpp"
-#include "norvik/platform/qt/sistemaQt.hpp"
-#include "norvik/widget/controlNorvik.hpp"
+// A host that deletes the editor, now or later, throws, or loads, compiles and parses at each event.
+#include "qt/anfitrionHostil.hpp"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QMessageBox>
-#include <QTest>
-#include <QTimer>
-#include <QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 using namespace norvik;
+using namespace norvik::hostil;
 
 namespace {
-
-const QString sumas = QStringLiteral(R"(Token mas = "\+"; Token num = "[0-9]+"; E -> E mas num | num;)");
-const QString restas = QStringLiteral(R"(Token men = "-"; Token num = "[0-9]+"; E -> E men num | num;)");
-
-void borra(QObject* objeto) {
-    const std::unique_ptr<QObject> suyo(objeto);
-}
-
-struct Hostil;
-using Accion = std::function<void(Hostil&)>;
-
-/// A form as a host makes it, which does something at the nth thing that it hears of.
-struct Hostil {
-    struct Servicios final : SistemaQt {
-        explicit Servicios(Hostil& hostil) : suyo(hostil) {}
-        Respuesta muestraMensaje(const Mensaje& mensaje) override {
-            mensajes.push_back(mensaje.texto);
-            suyo.suceso();
-            return Respuesta::Aceptar;
-        }
-        void procesaEventos() override { suyo.suceso(); }
-        std::vector<std::u16string> mensajes;
-        Hostil& suyo;
-    };
-
-    Hostil() {
-        auto& columna = nuevo<QVBoxLayout>(formulario.data());
-        for (QWidget* w : {static_cast<QWidget*>(otro.data()), static_cast<QWidget*>(norvik.data())})
-            columna.addWidget(w);
-        formulario->resize(300, 200);
-        formulario->show();
-        QApplication::setActiveWindow(formulario);
-        norvik->Colorear(true);
-        norvik->MarcarErrores(true);
-        norvik->MuestraMensajesDeError(true);
-        norvik->Text("1 + 2\n3");
-        norvik->control().CargaGramatica(vistaDe(sumas));
-        norvik->control().GeneraCompilador();
-        norvik->setFocus();
-        QApplication::processEvents();
-        conecta();
-    }
-    Hostil(const Hostil&) = delete;
-    Hostil& operator=(const Hostil&) = delete;
-    ~Hostil() {
-        accion = nullptr;
-        borra(formulario);
-        acaba();
-    }
-    void conecta() {
-        ControlNorvik* const n = norvik;
-        const auto oye = [this](auto&&...) { suceso(); };
-        const auto oyeTodo = [&](auto... senales) { (QObject::connect(n, senales, formulario, oye), ...); };
-        oyeTodo(&ControlNorvik::change, &ControlNorvik::SelChange, &ControlNorvik::Click,
-                &ControlNorvik::CambioDeLinea, &ControlNorvik::KeyDown, &ControlNorvik::KeyPress,
-                &ControlNorvik::KeyUp, &ControlNorvik::MouseDown, &ControlNorvik::MouseMove,
-                &ControlNorvik::MouseUp, &ControlNorvik::propiedadCambiada);
-    }
-    void suceso() {
-        if (accion && --faltan == 0) accion(*this);
-    }
-    QWidget* editor() const { return norvik.isNull() ? nullptr : &norvik->caja().ventana(); }
-    /// What was put off is done.
-    static void acaba() {
-        QApplication::processEvents();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    Accion accion;
-    int faltan = 0;
-    Servicios servicios{*this};
-    QPointer<QWidget> formulario = &nuevo<QWidget>();
-    QPointer<QPushButton> otro = &nuevo<QPushButton>();
-    QPointer<ControlNorvik> norvik = &nuevo<ControlNorvik>(servicios, nullptr);
-};
-
-void teclea(Hostil& h, Qt::Key tecla, const QString& texto = {},
-            Qt::KeyboardModifiers teclas = Qt::NoModifier) {
-    for (const auto accion : {QTest::Press, QTest::Release})
-        if (h.editor() != nullptr) QTest::sendKeyEvent(accion, h.editor(), tecla, texto, teclas);
-}
-
-/// As the windowing system gives it, to whatever stands there.
-void pulsa(Hostil& h, Qt::MouseButton boton, const std::function<QWidget*()>& donde) {
-    const auto en = [&] { return donde()->mapTo(h.formulario, QPoint(3, 3)); };
-    QWindow* const ventana = h.formulario->windowHandle();
-    QTimer cierraMenus;
-    QObject::connect(&cierraMenus, &QTimer::timeout, [] {
-        if (QWidget* const menu = QApplication::activePopupWidget(); menu != nullptr) menu->close();
-    });
-    cierraMenus.start(0);
-    QTest::mouseMove(ventana, en());
-    if (!h.norvik.isNull()) QTest::mousePress(ventana, boton, {}, en());
-    if (!h.norvik.isNull()) QTest::mouseRelease(ventana, boton, {}, en());
-    if (!h.norvik.isNull()) QTest::mouseDClick(ventana, boton, {}, en());
-}
 
 void suelta(Hostil& h) {
     QMimeData datos;
@@ -150,10 +36,6 @@ void pegaDosLineas(Hostil& h) {
     QApplication::clipboard()->setText("7\n8");
     teclea(h, Qt::Key_Insert, {}, Qt::ShiftModifier);
 }
-
-using Operacion = std::function<void(Hostil&)>;
-
-using Operaciones = std::vector<std::pair<std::string, Operacion>>;
 
 const Operaciones delTeclado = {
     {"letra", [](Hostil& h) { teclea(h, Qt::Key_A, "a"); }},
@@ -225,38 +107,6 @@ const Operaciones delPrograma = {
     {"ConstruyeArbolSintactico", [](Hostil& h) { h.norvik->control().ConstruyeArbolSintactico(); }},
 };
 
-/// Carries out an operation with something done at each of its events in turn, until there are no more.
-/// What comes after it is told whether the operation raised anything.
-void enCadaSuceso(const std::string& nombre, const Operacion& operacion, const Accion& accion,
-                  const std::function<void(Hostil&, const std::string&, bool lanzado)>& despues) {
-    bool ocurrido = true;
-    for (int vez = 1; ocurrido; ++vez) {
-        ASSERT_LT(vez, 100) << nombre;
-        Hostil h;
-        ocurrido = false;
-        h.faltan = vez;
-        h.accion = [&](Hostil& quien) {
-            ocurrido = true;
-            quien.accion = nullptr;
-            accion(quien);
-        };
-        bool lanzado = false;
-        try {
-            operacion(h);
-        } catch (...) {
-            lanzado = true;
-        }
-        Hostil::acaba();
-        if (ocurrido) despues(h, nombre + " " + std::to_string(vez), lanzado);
-    }
-}
-
-using Despues = std::function<void(Hostil&, const std::string&, bool)>;
-
-void enTodos(std::initializer_list<const Operaciones*> cuales, const Accion& accion, const Despues& despues) {
-    for (const Operaciones* const operaciones : cuales)
-        for (const auto& [nombre, operacion] : *operaciones) enCadaSuceso(nombre, operacion, accion, despues);
-}
 const std::initializer_list<const Operaciones*> delUsuario = {&delTeclado, &delRaton};
 const std::initializer_list<const Operaciones*> todas = {&delTeclado, &delRaton, &delPrograma};
 

@@ -130,19 +130,32 @@ TEST_F(AyudasDeVista, LaParejaDelCursor) {
     EXPECT_EQ(resaltes(), QStringList{"0-1"}); // alone
 }
 
-/// A bracket in a comment belongs to none outside.
-TEST_F(AyudasDeVista, UnaParejaEsDeUnColor) {
+/// A bracket in a comment or a string belongs to none outside, whatever their colours are.
+TEST_F(AyudasDeVista, UnaParejaNoSaleDeUnComentarioNiDeUnaCadena) {
     editor.resaltaParejas(true);
-    editor.control().SetComentarioLinea(u"'");
-    editor.control().SetOperador(u"\\(", u"abre");
-    editor.control().SetOperador(u"\\)", u"cierra");
-    editor.Colorear(true);
-    editor.Text("( ' )\n)");
-    editor.control().ColoreaTodo();
-    editor.SelStart(1);
-    EXPECT_EQ(resaltes(), QStringList({"0-1", "6-7"}));
-    editor.SelStart(5);
-    EXPECT_EQ(resaltes(), QStringList{"4-5"});
+    for (const bool colorea : {false, true}) {
+        editor.OlvidaLenguaje();
+        editor.control().SetComentarioLinea(u"'");
+        editor.control().SetER(u"\"[^\"]*\"", u"cadena", true, Norvik_Cadena); // of colour 0
+        editor.Colorear(colorea);
+        editor.coloreaAlEscribir(colorea);
+        editor.Text("( ' )\n\"(\" \")\" \"[]\")");
+        editor.SelStart(1);
+        EXPECT_EQ(resaltes(), QStringList({"0-1", "18-19"}));
+        editor.SelStart(5);
+        EXPECT_EQ(resaltes(), QStringList{"4-5"}); // alone
+        editor.SelStart(9);
+        EXPECT_EQ(resaltes(), QStringList{"7-8"});
+        editor.SelStart(18);
+        EXPECT_EQ(resaltes(), QStringList({"16-17", "15-16"})); // of one string
+        editor.SelStart(2);
+        pulsa(Qt::Key_Delete); // no comment any more
+        editor.SelStart(1);
+        EXPECT_EQ(resaltes(), QStringList({"0-1", "3-4"}));
+        editor.OlvidaLenguaje();
+        editor.SelStart(12); // of the second string, which is none now
+        EXPECT_EQ(resaltes(), QStringList({"10-11", "6-7"}));
+    }
 }
 
 TEST_F(AyudasDeVista, ElZoomCambiaLoQueSeVeYNoLaFuente) {

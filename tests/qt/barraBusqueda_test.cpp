@@ -110,6 +110,31 @@ TEST_F(Busca, MientrasSeEscribe) {
     }
 }
 
+TEST_F(Busca, TodoLoHalladoResalta) {
+    const auto resaltes = [&] {
+        QCoreApplication::processEvents();
+        QString todos;
+        for (const auto& s : editor().extraSelections())
+            todos += QString::number(s.cursor.selectionStart()) + ' ';
+        return todos;
+    };
+    norvik->barraDeBusqueda(true);
+    for (int vez = 0; vez < 2; ++vez) {
+        pulsa(Qt::Key_F, Qt::ControlModifier);
+        campo().setText("ab");
+        QTRY_COMPARE(resaltes(), QStringLiteral("0 3 7 "));
+        editor().setFocus();
+        pulsa(Qt::Key_Home);
+        QTest::keyClicks(&editor(), "x");
+        EXPECT_EQ(resaltes(), ""); // another text is searched first
+        QTRY_COMPARE(resaltes(), QStringLiteral("1 4 8 "));
+        campo().setFocus();
+        pulsa(Qt::Key_Escape);
+        EXPECT_EQ(resaltes(), "");
+        norvik->Text("ab Ab cabo a.b");
+    }
+}
+
 TEST_F(Busca, Opciones) {
     struct Caso {
         const char* texto;

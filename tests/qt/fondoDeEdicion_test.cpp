@@ -4,6 +4,7 @@
 #include "norvik/base/numeros.hpp"
 #include "norvik/control/coloresAlDia.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/spec/lectorModulo.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 #include "norvik/widget/fondoDeEdicion.hpp"
 
@@ -69,6 +70,31 @@ TEST(FondoDeEdicion, UnTextoLargoSeColoreaAparte) {
     v.norvik->caja().selecciona(0, 2);
     v.escribe({});
     QTRY_VERIFY(v.colorEn(ultima) == azul);
+}
+
+/// However it comes: as a whole, call by call, by a module.
+TEST(FondoDeEdicion, LosColoresSonLosDelLenguajeQueSeCarga) {
+    for (const bool esLargo : {false, true}) {
+        Ventana v;
+        Norvik& control = v.norvik->control();
+        const std::u16string modulo = control.Gramatica().textoModulo(u"M", control.Lexico());
+        v.norvik->Text(QString::fromStdU16String(esLargo ? largo() : u"begin x 12"));
+        QTRY_VERIFY(v.colorEn(0) == azul);
+        v.norvik->OlvidaLenguaje();
+        QTRY_VERIFY(v.colorEn(0) == 0);
+        control.SetER(u"x", u"x", true, Norvik_ComentarioBloque);
+        QTRY_VERIFY(v.colorEn(6) == verde);
+        control.OlvidaLenguaje();
+        EXPECT_FALSE(CargaModulo(modulo, control));
+        QTRY_VERIFY(v.colorEn(0) == azul && v.colorEn(6) == 0);
+        control.CargaGramatica(u"Token id = \"[a-z]+\", TipoToken = TTComentarioBloque; S -> id;");
+        control.GeneraCompilador();
+        QTRY_VERIFY(v.colorEn(0) == verde);
+        v.norvik->coloreaAlEscribir(false);
+        control.OlvidaLenguaje();
+        QTest::qWait(50);
+        EXPECT_EQ(v.colorEn(0), verde);
+    }
 }
 
 TEST(FondoDeEdicion, ElTextoCambiaMientrasSeLee) {

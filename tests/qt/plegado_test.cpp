@@ -74,6 +74,29 @@ TEST_F(PlegadoTest, UnTrianguloPliegaYDespliega) {
     EXPECT_EQ(editor.Text(), "{\r\nx\r\n{\r\nx\r\n}\r\n}\r\nx");
 }
 
+TEST_F(PlegadoTest, UnaTeclaPliegaLoQueRodeaAlCursor) {
+    const QAction& accion = *editor.accion(AccionNorvik::Plegar);
+    const auto pliega = [&] { QTest::keyClick(&vista, Qt::Key_Less, Qt::ControlModifier); };
+    espera();
+    for (int vez = 0; vez < 2; ++vez) {
+        editor.SelStart(9); // the inner x
+        pliega();
+        EXPECT_EQ(vistas(), "01256");
+        pliega();
+        EXPECT_EQ(vistas(), "0123456");
+        editor.SelStart(3); // the outer one's
+        pliega();
+        EXPECT_EQ(vistas(), "06");
+        pliega();
+        editor.SelStart(18); // in none
+        pliega();
+        EXPECT_EQ(vistas(), "0123456");
+    }
+    editor.pliega(false);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(accion.isEnabled());
+}
+
 TEST_F(PlegadoTest, LoPlegadoSigueAlTextoYSeAbreParaElCursor) {
     espera();
     editor.SelStart(9); // the inner x
