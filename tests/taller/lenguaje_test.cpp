@@ -326,7 +326,7 @@ TEST(CorrespondenciasLenguaje, UnaCosaVistaDeVariasManeras) {
         EXPECT_EQ(e->arbol()[nodoDe(*e, enTexto(inicio, fin)).value()].nombre(), simbolo) << inicio;
     EXPECT_EQ(palabrasDeItem(*e->gramatica(), {1, 2}), u"E → E mas • T");
     EXPECT_EQ(palabrasDeItem(*e->gramatica(), {3, 1}), u"T → num •");
-    EXPECT_EQ(palabrasDeCelda(*e->gramatica(), {1, columna(u"$")}),
+    EXPECT_EQ(palabrasDeCelda(*e->gramatica(), e->deLenguaje->conflictos, {1, columna(u"$")}),
               u"Estado 1, ante el final del texto: aceptar el texto");
 }
 

@@ -4,8 +4,11 @@
 #include "taller/dialogosGuion.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"
+#include "lenguaje/modeloCeldas.hpp"
 #include "lenguaje/panelAutomata.hpp"
 #include "lenguaje/panelPasos.hpp"
+
+#include "norvik/spec/directivas.hpp"
 
 #include <QMainWindow>
 #include <QStandardPaths>
@@ -141,10 +144,8 @@ TEST_F(PasosTest, ElAnalisisHaciaDelanteYHaciaAtras) {
 }
 
 TEST_F(PasosTest, AnteUnConflictoDiceQueHabriaHechoLaOtraAccion) {
-    for (const std::u16string metodo : {u"lalr", u"clasico"}) {
-        std::u16string especificacion(colgante);
-        especificacion.replace(especificacion.find(u"lalr"), 4, metodo);
-        estudio(especificacion, u"si si a no a");
+    for (const Metodo metodo : {Metodo::Lalr, Metodo::Clasico}) {
+        estudio(conMetodo(colgante, metodo), u"si si a no a");
         panel.selecciona(EnTexto{{{8, 1, 9}, {8, 1, 9}}});
         teclas({Qt::Key_Up}); // to the caret
         EXPECT_EQ(ve("resto"), "Por leer: no a");
@@ -262,6 +263,18 @@ TEST_F(AutomataTest, SeGuardaComoDibujo) {
     EXPECT_GT(textos, 6 + 9);
     panel.findChildren<QToolButton*>().at(3)->click();
     EXPECT_GT(QGuiApplication::clipboard()->image().width(), 100);
+}
+
+// All the panels tell of it, the table too.
+TEST(ModeloCeldas, ElConflictoQueElMetodoClasicoCallaEstaEnLaTabla) {
+    const std::u16string especificacion = conMetodo(colgante, Metodo::Clasico);
+    const auto estudio = estudia(especificacion, u"", nullptr, {});
+    ModeloCeldas modelo;
+    modelo.muestra(estudio->deLenguaje);
+    ASSERT_EQ(modelo.enConflicto().size(), 1U);
+    const DeCelda celda = modelo.enConflicto().front();
+    EXPECT_TRUE(modelo.palabras(modelo.index(celda.estado, celda.codigo))
+                    .endsWith("Conflicto: también cabría reducir por la regla 1. S → si S"));
 }
 
 TEST(ColocadorGrafos, SinGraphvizLoDiceYUnaRespuestaRotaNoEsUnDibujo) {

@@ -2,6 +2,7 @@
 
 #include "estudio.hpp"
 
+#include "norvik/checks/conflictosDeTabla.hpp"
 #include "norvik/checks/revisada.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
@@ -16,9 +17,15 @@ std::shared_ptr<const LenguajeEstudiado> estudiaLenguaje(const std::u16string& e
                                                          const std::stop_token& parada) {
     Revisada revision = revisada(especificacion, {{}, parada});
     ordena(revision.hallazgos);
-    return std::make_shared<const LenguajeEstudiado>(
-        LenguajeEstudiado{especificacion, std::move(revision.hallazgos), std::move(revision.fuente),
-                          std::move(revision.directivas.tabla), std::move(revision.lenguaje)});
+    LenguajeEstudiado lenguaje{especificacion,
+                               std::move(revision.hallazgos),
+                               std::move(revision.fuente),
+                               std::move(revision.directivas.tabla),
+                               std::move(revision.lenguaje),
+                               {}};
+    if (const GramaticaLR* const g = lenguaje.gramatica())
+        lenguaje.conflictos = conflictosDeTabla(*g, lenguaje.opciones.metodo);
+    return std::make_shared<const LenguajeEstudiado>(std::move(lenguaje));
 }
 
 } // namespace

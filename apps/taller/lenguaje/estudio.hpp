@@ -24,6 +24,8 @@ struct LenguajeEstudiado {
     FuenteEspecificacion fuente;           ///< empty when it cannot be read
     OpcionesTabla opciones;
     std::optional<Lenguaje> lenguaje; ///< what could be made of it
+    /// Of its table, sorted by cell; those of which the classic method says nothing are among them.
+    std::vector<Conflicto> conflictos;
 
     /// Rules, sets, automaton and table; null when there are none.
     const GramaticaLR* gramatica() const;

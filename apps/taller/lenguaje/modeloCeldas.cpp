@@ -46,17 +46,15 @@ void ModeloCeldas::muestra(std::shared_ptr<const LenguajeEstudiado> lenguaje) {
     endResetModel();
 }
 
-/// Those of one cell are neighbours in the table's list.
+/// Those of one cell are neighbours in the list.
 void ModeloCeldas::reuneConflictos() {
     enConflicto_.clear();
     celdasEnConflicto_.clear();
     filasEnConflicto_.clear();
-    if (gramatica() == nullptr) return;
-    const TablaLR& tabla = gramatica()->tabla;
-    for (const Conflicto& conflicto : tabla.conflictos()) {
+    if (!lenguaje_) return;
+    for (const Conflicto& conflicto : lenguaje_->conflictos) {
         const DeCelda celda{static_cast<std::int16_t>(conflicto.fila - 1),
                             static_cast<std::int16_t>(conflicto.columna - 1)};
-        if (tabla.esColumnaDeVariable(conflicto.columna)) continue;
         if (!celdasEnConflicto_.insert({celda.estado, celda.codigo}).second) continue;
         filasEnConflicto_.insert(celda.estado);
         enConflicto_.push_back(celda);
@@ -79,7 +77,7 @@ QString ModeloCeldas::texto(const QModelIndex& celda) const {
 
 QString ModeloCeldas::palabras(const QModelIndex& celda) const {
     if (!celda.isValid() || gramatica() == nullptr) return {};
-    return aQString(palabrasDeCelda(*gramatica(), celdaDe(celda)));
+    return aQString(palabrasDeCelda(*gramatica(), lenguaje_->conflictos, celdaDe(celda)));
 }
 
 QVariant ModeloCeldas::data(const QModelIndex& celda, int papel) const {

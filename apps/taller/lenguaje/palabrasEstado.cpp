@@ -62,9 +62,10 @@ QStringList reducciones(const GramaticaLR& g, std::int16_t estado) {
     return lineas;
 }
 
-QStringList conflictos(const GramaticaLR& g, const AutomataEstudiado& automata, std::int16_t estado) {
+QStringList conflictos(const LenguajeEstudiado& lenguaje, std::int16_t estado) {
+    const GramaticaLR& g = *lenguaje.gramatica();
     QStringList lineas;
-    for (const Conflicto& c : conflictosEn(automata.conflictos, static_cast<std::int16_t>(estado + 1))) {
+    for (const Conflicto& c : conflictosEn(lenguaje.conflictos, static_cast<std::int16_t>(estado + 1))) {
         const std::int16_t celda = g.tabla.entrada(estado, static_cast<std::int16_t>(c.columna - 1));
         const QString queda = celda == TablaLR::aceptar ? QStringLiteral("acepta")
                               : celda > 0
@@ -105,23 +106,23 @@ QStringList nucleoDe(const GramaticaLR& gramatica, std::int16_t estado) {
     return lineas;
 }
 
-QString tituloDeEstado(const GramaticaLR& gramatica, const AutomataEstudiado& automata, std::int16_t estado) {
+QString tituloDeEstado(const LenguajeEstudiado& lenguaje, std::int16_t estado) {
+    const TablaLR& tabla = lenguaje.gramatica()->tabla;
     QString titulo = QStringLiteral("Estado %1").arg(estado);
-    const std::int16_t fin = gramatica.tabla.codigoFin();
-    if (fin >= 0 && gramatica.tabla.entrada(estado, fin) == TablaLR::aceptar)
-        titulo += QStringLiteral(" acepta");
-    if (!conflictosEn(automata.conflictos, static_cast<std::int16_t>(estado + 1)).empty())
+    const std::int16_t fin = tabla.codigoFin();
+    if (fin >= 0 && tabla.entrada(estado, fin) == TablaLR::aceptar) titulo += QStringLiteral(" acepta");
+    if (!conflictosEn(lenguaje.conflictos, static_cast<std::int16_t>(estado + 1)).empty())
         titulo += QStringLiteral(" ⚠ conflicto");
     return titulo;
 }
 
-QString estadoEnHtml(const GramaticaLR& gramatica, const AutomataEstudiado& automata, std::int16_t estado) {
-    return QStringLiteral("<h3>%1</h3>").arg(tituloDeEstado(gramatica, automata, estado)) +
-           lista(QStringLiteral("Conflictos"), conflictos(gramatica, automata, estado)) +
-           lista(QStringLiteral("Elementos"), items(gramatica, estado)) +
-           lista(QStringLiteral("Desplaza y pasa"), salidas(gramatica, automata.grafo, estado)) +
-           lista(QStringLiteral("Reduce"), reducciones(gramatica, estado)) +
-           llegada(gramatica, automata.grafo, estado);
+QString estadoEnHtml(const LenguajeEstudiado& lenguaje, const GrafoEstados& grafo, std::int16_t estado) {
+    const GramaticaLR& g = *lenguaje.gramatica();
+    return QStringLiteral("<h3>%1</h3>").arg(tituloDeEstado(lenguaje, estado)) +
+           lista(QStringLiteral("Conflictos"), conflictos(lenguaje, estado)) +
+           lista(QStringLiteral("Elementos"), items(g, estado)) +
+           lista(QStringLiteral("Desplaza y pasa"), salidas(g, grafo, estado)) +
+           lista(QStringLiteral("Reduce"), reducciones(g, estado)) + llegada(g, grafo, estado);
 }
 
 } // namespace norvik::taller

@@ -3,6 +3,7 @@
 #include "palabrasLR.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/checks/conflictosDeTabla.hpp"
 
 namespace norvik::taller {
 
@@ -17,11 +18,11 @@ std::u16string reducir(const GramaticaLR& g, std::int16_t regla) {
 }
 
 /// The rules that other actions kept out of a cell.
-std::u16string perdidas(const GramaticaLR& g, const DeCelda& celda) {
+std::u16string perdidas(const GramaticaLR& g, std::span<const Conflicto> conflictos, const DeCelda& celda) {
     std::u16string texto;
-    for (const Conflicto& conflicto : g.tabla.conflictos())
-        if (conflicto.fila == celda.estado + 1 && conflicto.columna == celda.codigo + 1)
-            texto.append(texto.empty() ? u"" : u"; ").append(reducir(g, conflicto.regla));
+    for (const Conflicto& conflicto : conflictosEn(conflictos, static_cast<std::int16_t>(celda.estado + 1),
+                                                   static_cast<std::int16_t>(celda.codigo + 1)))
+        texto.append(texto.empty() ? u"" : u"; ").append(reducir(g, conflicto.regla));
     return texto;
 }
 
@@ -58,7 +59,8 @@ std::u16string palabrasDeAccion(const GramaticaLR& g, std::int16_t codigo, std::
     return entrada > 0 ? desplazar(simbolo, entrada) : reducir(g, static_cast<std::int16_t>(-entrada));
 }
 
-std::u16string palabrasDeCelda(const GramaticaLR& g, const DeCelda& celda) {
+std::u16string palabrasDeCelda(const GramaticaLR& g, std::span<const Conflicto> conflictos,
+                               const DeCelda& celda) {
     const auto columna = static_cast<std::int16_t>(celda.codigo + 1);
     const std::int16_t entrada = g.tabla.entrada(celda.estado, celda.codigo);
     const bool deVariable = g.tabla.esColumnaDeVariable(columna);
@@ -66,7 +68,7 @@ std::u16string palabrasDeCelda(const GramaticaLR& g, const DeCelda& celda) {
     if (!deVariable) texto += u", ante " + entreComillas(g.tabla.simbolo(columna));
     if (entrada == 0) return texto + (deVariable ? u": nunca se llega aquí" : u": error de sintaxis");
     texto += u": " + palabrasDeAccion(g, celda.codigo, entrada);
-    if (const std::u16string otras = deVariable ? u"" : perdidas(g, celda); !otras.empty())
+    if (const std::u16string otras = deVariable ? u"" : perdidas(g, conflictos, celda); !otras.empty())
         texto += u". Conflicto: también cabría " + otras;
     return texto;
 }

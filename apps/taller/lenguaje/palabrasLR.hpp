@@ -7,6 +7,7 @@
 #include "norvik/grammar/gramaticaLR.hpp"
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 // What the panels say of a grammar and its table, in one place, so that they say it alike.
@@ -20,7 +21,8 @@ std::u16string palabrasDeItem(const GramaticaLR& g, Item item);
 std::u16string entreComillas(std::u16string_view simbolo);
 /// What an entry of the table does: «desplazar «mas» y pasar al estado 7».
 std::u16string palabrasDeAccion(const GramaticaLR& g, std::int16_t codigo, std::int16_t entrada);
-/// What a cell does, and what was kept out of it.
-std::u16string palabrasDeCelda(const GramaticaLR& g, const DeCelda& celda);
+/// What a cell does, and what was kept out of it; `conflictos` are those of the table.
+std::u16string palabrasDeCelda(const GramaticaLR& g, std::span<const Conflicto> conflictos,
+                               const DeCelda& celda);
 
 } // namespace norvik::taller

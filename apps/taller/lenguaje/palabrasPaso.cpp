@@ -99,11 +99,11 @@ QString palabrasDePaso(const Estudio& estudio, const Pelicula& pelicula, std::si
     return texto.endsWith(u'.') ? texto : texto + u'.';
 }
 
-QString palabrasDeConflicto(const Estudio& estudio, std::span<const Conflicto> conflictos,
-                            const Pelicula& pelicula, std::size_t momento) {
+QString palabrasDeConflicto(const Estudio& estudio, const Pelicula& pelicula, std::size_t momento) {
     const GramaticaLR& g = *estudio.gramatica();
-    const auto perdidas = conflictosEn(conflictos, static_cast<std::int16_t>(pelicula.estado(momento) + 1),
-                                       static_cast<std::int16_t>(pelicula.siguiente(momento).codigo + 1));
+    const auto perdidas =
+        conflictosEn(estudio.deLenguaje->conflictos, static_cast<std::int16_t>(pelicula.estado(momento) + 1),
+                     static_cast<std::int16_t>(pelicula.siguiente(momento).codigo + 1));
     if (perdidas.empty()) return {};
     QString texto = QStringLiteral("Conflicto. ") +
                     porque(pelicula.accion(momento).tipo, estudio.deLenguaje->opciones.metodo);

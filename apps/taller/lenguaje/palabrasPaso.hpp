@@ -10,7 +10,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 
 // A moment of a parse in words.
 namespace norvik::taller {
@@ -21,8 +20,7 @@ QString enUnaLinea(std::u16string_view texto, std::size_t maximo);
 /// Where the parser stands, what it does next, and where that leads; of an error, what is wrong.
 QString palabrasDePaso(const Estudio& estudio, const Pelicula& pelicula, std::size_t momento);
 /// Of a cell in which other actions had a place too: why it has this one, and what each of them would have
-/// done; empty when there is none. `conflictos` are those of the table.
-QString palabrasDeConflicto(const Estudio& estudio, std::span<const Conflicto> conflictos,
-                            const Pelicula& pelicula, std::size_t momento);
+/// done; empty when there is none.
+QString palabrasDeConflicto(const Estudio& estudio, const Pelicula& pelicula, std::size_t momento);
 
 } // namespace norvik::taller

@@ -129,9 +129,7 @@ void PanelAutomata::estudiaSiSeVe() {
     }
     trabajo_.empieza(
         [lenguaje](const std::stop_token& /*parada*/) {
-            const GramaticaLR& g = *lenguaje->gramatica();
-            return std::make_shared<const AutomataEstudiado>(
-                AutomataEstudiado{GrafoEstados(g), conflictosDeTabla(g, lenguaje->opciones.metodo)});
+            return std::make_shared<const GrafoEstados>(*lenguaje->gramatica());
         },
         [this, lenguaje](const std::optional<Resultado>& resultado) {
             protege([&] { toma(lenguaje, resultado); });
@@ -142,13 +140,13 @@ void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
                          const std::optional<Resultado>& resultado) {
     if (!resultado) return sinAutomata(QStringLiteral("No se ha podido estudiar el autómata."));
     lenguaje_ = std::move(lenguaje);
-    automata_ = *resultado;
-    if (automata_->grafo.estados() == 0)
+    grafo_ = *resultado;
+    if (grafo_->estados() == 0)
         return sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene autómata."));
     for (QAction* const accion : {&ampliar_, &reducir_, &encajar_}) accion->setEnabled(true);
     for (QAction* const accion : {&copiar_, &guardar_}) accion->setEnabled(false);
     vista_.vacia(); // it is of another version
-    elegido_ = std::min(elegido_, static_cast<int>(automata_->grafo.estados()) - 1);
+    elegido_ = std::min(elegido_, static_cast<int>(grafo_->estados()) - 1);
     llenaEstados();
     muestraEstado();
     dibuja();
@@ -156,7 +154,7 @@ void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
 
 void PanelAutomata::sinAutomata(const QString& motivo) {
     colocador_.para();
-    automata_ = nullptr;
+    grafo_ = nullptr;
     lenguaje_ = nullptr;
     {
         const QSignalBlocker callada(estados_);
@@ -177,9 +175,9 @@ void PanelAutomata::llenaEstados() {
     const QSignalBlocker callada(estados_);
     estados_.clear();
     QStringList lineas;
-    for (int estado = 0; estado < static_cast<int>(automata_->grafo.estados()); ++estado) {
+    for (int estado = 0; estado < static_cast<int>(grafo_->estados()); ++estado) {
         const auto numero = static_cast<std::int16_t>(estado);
-        QString linea = tituloDeEstado(gramatica(), *automata_, numero);
+        QString linea = tituloDeEstado(*lenguaje_, numero);
         const QStringList nucleo = nucleoDe(gramatica(), numero);
         if (!nucleo.isEmpty()) linea += QStringLiteral(": ") + nucleo.join(QStringLiteral("; "));
         lineas.append(linea);
@@ -188,7 +186,7 @@ void PanelAutomata::llenaEstados() {
 }
 
 void PanelAutomata::elegidoPorLaPersona(int estado) {
-    if (!automata_ || estado < 0 || estado >= static_cast<int>(automata_->grafo.estados())) return;
+    if (!grafo_ || estado < 0 || estado >= static_cast<int>(grafo_->estados())) return;
     elige(estado);
     emit elegido(DeEstado{static_cast<std::int16_t>(estado)});
 }
@@ -196,7 +194,7 @@ void PanelAutomata::elegidoPorLaPersona(int estado) {
 // The drawing follows: of many states it may be another part.
 void PanelAutomata::elige(int estado) {
     elegido_ = estado;
-    if (!automata_ || estado >= static_cast<int>(automata_->grafo.estados())) return;
+    if (!grafo_ || estado >= static_cast<int>(grafo_->estados())) return;
     muestraEstado();
     if (vista_.dibuja(estado))
         vista_.elige(estado);
@@ -207,11 +205,11 @@ void PanelAutomata::elige(int estado) {
 void PanelAutomata::muestraEstado() {
     const QSignalBlocker callada(estados_);
     estados_.setCurrentRow(elegido_);
-    estado_.setHtml(estadoEnHtml(gramatica(), *automata_, static_cast<std::int16_t>(elegido_)));
+    estado_.setHtml(estadoEnHtml(*lenguaje_, *grafo_, static_cast<std::int16_t>(elegido_)));
 }
 
 void PanelAutomata::dibuja() {
-    const GrafoEstados& grafo = automata_->grafo;
+    const GrafoEstados& grafo = *grafo_;
     std::vector<std::int16_t> suyos(grafo.estados());
     std::iota(suyos.begin(), suyos.end(), std::int16_t{0});
     avisa({});
@@ -223,9 +221,8 @@ void PanelAutomata::dibuja() {
     }
     QList<EstadoDibujado> cajas;
     for (const std::int16_t estado : suyos)
-        cajas.append({estado, tituloDeEstado(gramatica(), *automata_, estado),
-                      paraCaja(nucleoDe(gramatica(), estado)),
-                      !conflictosEn(automata_->conflictos, static_cast<std::int16_t>(estado + 1)).empty()});
+        cajas.append({estado, tituloDeEstado(*lenguaje_, estado), paraCaja(nucleoDe(gramatica(), estado)),
+                      !conflictosEn(lenguaje_->conflictos, static_cast<std::int16_t>(estado + 1)).empty()});
     QList<Grafo::Flecha> flechas;
     for (const Transicion& t : grafo.transiciones())
         if (std::ranges::binary_search(suyos, t.desde) && std::ranges::binary_search(suyos, t.hasta))

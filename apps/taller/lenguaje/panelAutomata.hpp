@@ -45,7 +45,7 @@ public:
     QString aviso() const { return aviso_.text(); }
 
 private:
-    using Resultado = std::shared_ptr<const AutomataEstudiado>;
+    using Resultado = std::shared_ptr<const GrafoEstados>;
     static constexpr std::size_t maximoEntero = 60; ///< states of a drawing of all
     static constexpr std::size_t maximoVecinos = 30;
 
@@ -73,7 +73,7 @@ private:
     std::shared_ptr<const LenguajeEstudiado> pendiente_; ///< to be shown once the panel is seen
     std::shared_ptr<const LenguajeEstudiado> deseado_;   ///< the last that was to be shown
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;  ///< the one that is
-    Resultado automata_;
+    Resultado grafo_;
     DibujoAutomata porColocar_;
     int elegido_ = 0;
     bool seVe_ = false;

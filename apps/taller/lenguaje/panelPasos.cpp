@@ -5,7 +5,6 @@
 #include "correspondencias.hpp"
 #include "palabrasPaso.hpp"
 
-#include "norvik/checks/conflictosDeTabla.hpp"
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/spec/filma.hpp"
@@ -120,7 +119,7 @@ void PanelPasos::conecta(QAction& accion, const QString& texto, const QKeySequen
 }
 
 const Pelicula* PanelPasos::pelicula() const {
-    return filmada_ ? std::get_if<Pelicula>(&filmada_->pelicula) : nullptr;
+    return filmada_ ? std::get_if<Pelicula>(filmada_.get()) : nullptr;
 }
 
 void PanelPasos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
@@ -145,10 +144,8 @@ void PanelPasos::filmaSiSeVe() {
     }
     trabajo_.empieza(
         [estudio](const std::stop_token& parada) {
-            const LenguajeEstudiado& suyo = *estudio->deLenguaje;
             return std::make_shared<const Filmada>(
-                Filmada{filma(*suyo.lenguaje, estudio->texto, parada),
-                        conflictosDeTabla(*suyo.gramatica(), suyo.opciones.metodo)});
+                filma(*estudio->deLenguaje->lenguaje, estudio->texto, parada));
         },
         [this, estudio](const std::optional<Resultado>& resultado) {
             protege([&] { toma(estudio, resultado); });
@@ -157,7 +154,7 @@ void PanelPasos::filmaSiSeVe() {
 
 void PanelPasos::toma(std::shared_ptr<const Estudio> estudio, const std::optional<Resultado>& resultado) {
     if (!resultado) return sinPelicula(QStringLiteral("No hay memoria para los pasos de este análisis."));
-    if (const auto* const motivo = std::get_if<Diagnostico>(&(*resultado)->pelicula))
+    if (const auto* const motivo = std::get_if<Diagnostico>(resultado->get()))
         return sinPelicula(aQString(mensaje(*motivo)));
     para();
     pila_.vacia();
@@ -209,7 +206,7 @@ void PanelPasos::muestra() {
 
 void PanelPasos::muestraTexto(const Pelicula& pelicula) {
     accion_.setText(palabrasDePaso(*estudio_, pelicula, momento_));
-    const QString conflicto = palabrasDeConflicto(*estudio_, filmada_->conflictos, pelicula, momento_);
+    const QString conflicto = palabrasDeConflicto(*estudio_, pelicula, momento_);
     conflicto_.setText(conflicto.isEmpty() ? conflicto : QStringLiteral("⚠ ") + conflicto);
     conflicto_.setVisible(!conflicto.isEmpty());
     const auto leido = static_cast<std::size_t>(pelicula.siguiente(momento_).rango.inicio.desplazamiento);

@@ -21,7 +21,6 @@
 #include <memory>
 #include <optional>
 #include <variant>
-#include <vector>
 
 namespace norvik::taller {
 
@@ -42,10 +41,7 @@ public:
     QString palabras() const { return accion_.text(); }
 
 private:
-    struct Filmada {
-        std::variant<Pelicula, Diagnostico> pelicula;
-        std::vector<Conflicto> conflictos; ///< of the table
-    };
+    using Filmada = std::variant<Pelicula, Diagnostico>;
     using Resultado = std::shared_ptr<const Filmada>;
 
     void compone();
