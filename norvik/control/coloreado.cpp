@@ -52,6 +52,7 @@ void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const e
         caja_->texto().substr(static_cast<std::size_t>(lugar), static_cast<std::size_t>(cuantos));
     if (lexema == definicion.expresion) return;
     caja_->selecciona(lugar, cuantos);
+    if (definicion.colorTexto != sinColor) caja_->ponColorSeleccion(definicion.colorTexto);
     caja_->reemplazaSeleccion(definicion.expresion);
 }
 

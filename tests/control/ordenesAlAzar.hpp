@@ -172,7 +172,10 @@ private:
         if (dado == 22) return pierdeElFoco();
         for (int i = 1 + uno(6); i > 0; --i) pulsa({tecla::derecha, mascara::mayusculas});
     }
+    /// A break in the place of a break is no change to a window, so that is left out.
     void pulsa(const Golpe& g) {
+        const bool rompe = caja_.textoSeleccionado().find(u'\r') != std::u16string::npos;
+        if (g.codigo == tecla::retorno && rompe) selecciona(caja_.inicioSeleccion(), 0);
         apunta("tecla " + std::to_string(g.codigo) + " " + aUtf8(g.escrito));
         if (g.codigo == golpe::tabulador) {
             manos_.tabula();
@@ -196,9 +199,12 @@ private:
         };
         const std::int32_t inicio = en(caja_.inicioSeleccion() + uno(41) - 20);
         const std::int32_t fin = moneda() ? inicio : en(inicio + uno(15));
-        apunta("selecciona " + std::to_string(inicio) + " " + std::to_string(fin - inicio));
+        selecciona(inicio, fin - inicio);
+    }
+    void selecciona(std::int32_t inicio, std::int32_t longitud) {
+        apunta("selecciona " + std::to_string(inicio) + " " + std::to_string(longitud));
         for (CajaTexto* caja : {&caja_, static_cast<CajaTexto*>(&pasos_.caja)})
-            caja->selecciona(inicio, fin - inicio);
+            caja->selecciona(inicio, longitud);
     }
     void deHistorial() {
         for (int i = 1 + uno(3); i > 0; --i) {
@@ -243,8 +249,12 @@ private:
             e.InicializaUndosYRedos();
         });
     }
+    /// Of the text, and neither end of the selection stands in one: a window knows no such place.
     bool saltosEnteros() const {
         const std::u16string_view t = caja_.texto();
+        for (const std::int32_t lugar :
+             {caja_.inicioSeleccion(), caja_.inicioSeleccion() + caja_.longitudSeleccion()})
+            if (t.substr(0, static_cast<std::size_t>(lugar)).ends_with(u'\r')) return false;
         for (std::size_t i = 0; i < t.size(); ++i) {
             if (t[i] == u'\n' && (i == 0 || t[i - 1] != u'\r')) return false;
             if (t[i] == u'\r' && (i + 1 == t.size() || t[i + 1] != u'\n')) return false;

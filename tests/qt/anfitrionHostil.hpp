@@ -78,7 +78,7 @@ struct Hostil {
         acaba();
     }
     /// All that can be shown is there to be shown.
-    void enciende() {
+    void enciende() const {
         norvik->control().ponAyudas(todasLasAyudas());
         for (int i = 0; i < numeroDeAcciones; ++i) norvik->accion(static_cast<AccionNorvik>(i));
         norvik->ponDiagnosticos(analiza(norvik->control().lenguaje(), norvik->control().Text()).diagnosticos);
