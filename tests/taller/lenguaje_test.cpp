@@ -160,6 +160,16 @@ TEST_F(LenguajeTest, CadaPanelEligeEnLosDemas) {
     EXPECT_EQ(especificacion.norvik().SelText(), ""); // what was chosen elsewhere comes back from nobody
 }
 
+TEST_F(LenguajeTest, UnaListaLargaNoSeAbreHastaElFondo) {
+    empieza(suma, QByteArray("1").append(QByteArray("+1").repeated(1000)).constData());
+    cursor(texto, u"1");
+    EXPECT_TRUE(camino().startsWith("… › E › E › ")) << camino().left(40).toStdString();
+    int niveles = 0;
+    for (QModelIndex fila = ventana.arbol().vista().currentIndex(); fila.isValid(); fila = fila.parent())
+        ++niveles;
+    EXPECT_EQ(niveles, 300);
+}
+
 TEST_F(LenguajeTest, UnConflictoSeCuentaYSeCura) {
     empieza(ambigua, "1+2*3");
     EXPECT_EQ(problemas(0).size(), 4);
@@ -195,6 +205,19 @@ TEST_F(LenguajeTest, LosProblemasSeFiltranYLlevanASuLugar) {
     avisos.click();
     EXPECT_EQ(problemas(0), QStringList());
     EXPECT_TRUE(problemas(1)[0].startsWith("1:3 Error: "));
+}
+
+TEST_F(LenguajeTest, UnNombreMalEscritoSeArregla) {
+    empieza("'% metodo: lalr\nExpReg cifra = \"[0-9]\";\nToken num = \"<cifar>+\";\nE -> num;\n", "1");
+    pulsa(*fila("Arreglar: escriba cifra"));
+    espera();
+    EXPECT_EQ(problemas(0), QStringList());
+    cursor(especificacion, u"E -> num");
+    escribe(especificacion, "m");
+    pulsa(*fila("Arreglar: escriba num"));
+    espera();
+    EXPECT_EQ(problemas(0), QStringList());
+    EXPECT_TRUE(especificacion.texto().ends_with(u"\"<cifra>+\";\r\nE -> num;\r\n"));
 }
 
 TEST_F(LenguajeTest, GuardaComoSeLeyo) {

@@ -93,6 +93,18 @@ std::vector<Arreglo> dejaloAsi(const LenguajeEstudiado& lenguaje) {
 
 } // namespace
 
+std::vector<Arreglo> arreglosDe(const Diagnostico& diagnostico) {
+    std::vector<Arreglo> arreglos = diagnostico.partes.arreglos;
+    const bool esReferencia = diagnostico.codigo == Codigo::ReferenciaDesconocida;
+    const bool esNombre = esReferencia || diagnostico.codigo == Codigo::VariableIndefinida ||
+                          diagnostico.codigo == Codigo::TokenIndefinido;
+    if (!esNombre || diagnostico.partes.esperados.empty()) return arreglos;
+    const std::u16string& querido = diagnostico.partes.esperados.front();
+    arreglos.push_back({u"escriba " + querido,
+                        {{diagnostico.rango, esReferencia ? u"<" + querido + u">" : querido, false}}});
+    return arreglos;
+}
+
 std::vector<Arreglo> curasDe(const LenguajeEstudiado& lenguaje, const HistoriaConflicto& historia) {
     switch (historia.cura) {
     case Cura::MetodoLalr:

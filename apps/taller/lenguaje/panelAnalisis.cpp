@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <utility>
+#include <vector>
 
 namespace norvik::taller {
 
@@ -79,8 +80,17 @@ void PanelAnalisis::selecciona(const Eleccion& eleccion) {
     if (!nodo) return;
     const QScopedValueRollback<bool> callado(callado_, true);
     const QModelIndex indice = modelo_.indiceDe(*nodo);
-    vista_.setCurrentIndex(indice);
+    vista_.setCurrentIndex(alAlcance(indice));
     sigue(indice);
+}
+
+/// A row, or the last one above it that a view opens in no time: of a list as long as its text the rows are
+/// as deep, and each that is opened costs as much as there are.
+QModelIndex PanelAnalisis::alAlcance(const QModelIndex& indice) const {
+    constexpr std::size_t niveles = 300;
+    std::vector<QModelIndex> camino;
+    for (QModelIndex i = indice; i.isValid(); i = i.parent()) camino.push_back(i);
+    return camino.size() <= niveles ? indice : camino[camino.size() - niveles];
 }
 
 void PanelAnalisis::elige(const QModelIndex& indice) {

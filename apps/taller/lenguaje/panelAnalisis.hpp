@@ -33,6 +33,7 @@ private:
     void muestra();
     void abre();
     void elige(const QModelIndex& indice);
+    QModelIndex alAlcance(const QModelIndex& indice) const;
     void sigue(const QModelIndex& indice);
 
     QWidget centro_;

@@ -168,7 +168,7 @@ void PanelProblemas::anade(QTreeWidgetItem& grupo, Lado lado, std::size_t numero
     elemento.setIcon(Problema, style()->standardIcon(dibujoDe(d.gravedad)));
     for (const Relacionado& otro : d.partes.relacionados)
         anadeFila(elemento, {lado, numero, otro.rango}, QStringLiteral("Véase: ") + aQString(otro.texto));
-    for (const Arreglo& arreglo : d.partes.arreglos)
+    for (const Arreglo& arreglo : arreglosDe(d))
         anadeFila(elemento, {lado, numero, d.rango, arreglo},
                   QStringLiteral("Arreglar: ") + aQString(arreglo.titulo));
     elemento.setExpanded(true);
