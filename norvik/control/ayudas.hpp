@@ -15,7 +15,8 @@ struct Ayudas {
     bool permiteZoom = false;        ///< Control con la rueda o con +, - y 0 cambia el tamaño de la letra
     bool deshacePorPalabras = false; ///< deshacer quita palabras enteras, y repone exactamente lo que había
     bool sangraSeleccion = false;    ///< Tabulador y Mayúsculas+Tabulador sangran las líneas seleccionadas
-    bool teclasDePalabra = false; ///< Control con las flechas, Retroceso y Suprimir va o borra por palabras
+    bool teclasDePalabra =
+        false; ///< Control con flechas, Retroceso y Suprimir: por palabras; Inicio y Fin: del texto
     bool barraDeBusqueda = false; ///< se busca en una barra bajo el texto, mientras se escribe
     bool completa = false;        ///< Control+Espacio propone lo que puede seguir
     bool pliega = false;          ///< se pueden plegar las construcciones de varias líneas

@@ -106,9 +106,13 @@ void Edicion::avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& pas
 
 namespace {
 
+constexpr std::int16_t teclaFin = 35;
+constexpr std::int16_t teclaInicio = 36;
+
+/// By words, and to both ends of the text.
 bool esDePalabras(std::int16_t codigo) {
     return codigo == tecla::izquierda || codigo == tecla::derecha || codigo == tecla::retroceso ||
-           codigo == tecla::suprimir;
+           codigo == tecla::suprimir || codigo == teclaInicio || codigo == teclaFin;
 }
 
 } // namespace

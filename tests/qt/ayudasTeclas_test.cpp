@@ -141,6 +141,12 @@ TEST_F(AyudasTeclas, TeclasDePalabra) {
     EXPECT_EQ(visto(), "uno |");
     teclas(Qt::ShiftModifier);
     EXPECT_EQ(visto(), "uno [dos] tres");
+    pulsa(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(visto(), "uno dos tres|");
+    pulsa(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(visto(), "|uno dos tres");
+    norvik.SelStart(4);
+    norvik.SelLength(3);
     pulsa(Qt::Key_Delete, Qt::ControlModifier);
     EXPECT_EQ(visto(), "uno | tres");
     QObject::connect(&norvik, &ControlNorvik::KeyDown, &norvik, [](qint16& codigo, qint16&) { codigo = 0; });
