@@ -273,10 +273,13 @@ TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {
     const QString llega = taller.formulario().activo().norvik().ContenidoG();
     EXPECT_TRUE(llega.startsWith("'x\r\n'x\r\n'% metodo")) << llega.left(40).toStdString();
     taller.acciones().ventanaLenguaje.trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&taller.ventanaLenguaje()));
     QTest::keyClicks(&taller.ventanaLenguaje().especificacion().norvik().caja().ventana(), "y");
     dialogos.toma();
     EXPECT_FALSE(taller.close()); // the language window asks, and nobody wants to lose anything
     EXPECT_EQ(dialogos.toma(), QStringList{"&Guardar ¿Quiere guardar los cambios de «Sin título»?"});
+    QTest::keyClick(&taller.ventanaLenguaje(), Qt::Key_4, Qt::ControlModifier);
+    EXPECT_TRUE(taller.ventanaLenguaje().arbol().isAncestorOf(QApplication::focusWidget())); // and it goes so
 }
 
 TEST_F(LenguajeTest, UnArregloEsUnSoloCambio) {

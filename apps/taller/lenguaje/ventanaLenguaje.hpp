@@ -34,6 +34,10 @@ class VentanaLenguaje final : public QMainWindow {
 public:
     /// All outlive it.
     VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettings& ajustes);
+    VentanaLenguaje(const VentanaLenguaje&) = delete;
+    VentanaLenguaje& operator=(const VentanaLenguaje&) = delete;
+    /// The focus goes while all of it is there: a panel that dies with it would hand it to an editor.
+    ~VentanaLenguaje() override { hide(); }
 
     /// A specification and a text in the place of those that it has; neither has a file. Nothing when a
     /// person does not want to lose those.
