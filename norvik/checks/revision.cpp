@@ -64,7 +64,8 @@ std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
     Revisada revision = revisada(especificacion, opciones);
     std::vector<Hallazgo> hallazgos;
     for (Diagnostico& diagnostico : revision.hallazgos) hallazgos.push_back({std::move(diagnostico), {}});
-    if (const gramatica* g = revision.laGramatica()) cuenta(*g, revision.directivas.tabla, limites, hallazgos);
+    if (const gramatica* g = revision.laGramatica())
+        cuenta(*g, revision.directivas.tabla, limites, hallazgos);
     std::ranges::stable_sort(hallazgos, {},
                              [](const Hallazgo& h) { return h.diagnostico.rango.inicio.desplazamiento; });
     return hallazgos;
