@@ -9,6 +9,7 @@ namespace norvik::inline v0_2 {
 std::vector<std::int32_t> iniciosDeLineas(std::u16string_view texto) {
     std::vector<std::int32_t> inicios{0};
     for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] > u'\r') continue; // nearly all, at each change of a text
         if (texto[i] != u'\r' && texto[i] != u'\n') continue;
         if (texto[i] == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') ++i;
         inicios.push_back(static_cast<std::int32_t>(i + 1));
