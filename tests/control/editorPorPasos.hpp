@@ -202,11 +202,15 @@ private:
         const bool esAuto = d.tipo == Norvik_AutoExpReg;
         if (d.colorTexto == sinColor && !esAuto) return;
         caja.selecciona(lugar, n);
-        if (d.colorTexto != sinColor) caja.ponColorSeleccion(d.colorTexto);
+        // besides: one that is beyond a text which corrections made shorter has no colour for what comes
+        // next, and a word that is right is left alone
+        const bool pinta = d.colorTexto != sinColor;
+        if (pinta && caja.longitudSeleccion() > 0) caja.ponColorSeleccion(d.colorTexto);
         const bool corrige = opciones.autoCorreccion && !opciones.lenguajeSensible;
         if (!corrige || (!esAuto && d.tipo != Norvik_PalabraReservada)) return;
-        // besides: a word that is right is left alone
-        if (caja.textoSeleccionado() != d.expresion) caja.reemplazaSeleccion(d.expresion);
+        if (caja.textoSeleccionado() == d.expresion) return;
+        if (pinta) caja.ponColorSeleccion(d.colorTexto);
+        caja.reemplazaSeleccion(d.expresion);
     }
     void coloreaLinea(std::int32_t linea) {
         std::int32_t ini = indice(linea - 1);
