@@ -2,7 +2,8 @@
 
 #include "panelMensaje.hpp"
 
-#include <QAccessible>
+#include "norvik/platform/qt/avisoALectores.hpp"
+
 #include <QStyle>
 
 namespace norvik::taller {
@@ -13,6 +14,7 @@ PanelMensaje::PanelMensaje(QWidget* padre) : QFrame(padre) {
     const int lado = style()->pixelMetric(QStyle::PM_SmallIconSize);
     signo_.setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(lado, lado));
     signo_.setAccessibleName(QStringLiteral("Aviso"));
+    hazAviso(mensaje_);
     mensaje_.setWordWrap(true);
     mensaje_.setTextFormat(Qt::PlainText);
     mensaje_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -36,8 +38,7 @@ void PanelMensaje::muestra(const QString& error) {
     mensaje_.setText(error);
     setVisible(!error.isEmpty());
     if (error.isEmpty()) return;
-    QAccessibleEvent alerta(&mensaje_, QAccessible::Alert); // the focus stays in the text
-    QAccessible::updateAccessibility(&alerta);
+    avisaALectores(mensaje_, error); // the focus stays in the text
 }
 
 } // namespace norvik::taller

@@ -10,13 +10,13 @@
 
 #include "norvik/widget/barraBusqueda.hpp"
 
+#include "norvik/platform/qt/avisoALectores.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 #include "norvik/widget/menuDeTexto.hpp"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -76,6 +76,7 @@ void BarraBusqueda::compone() {
     pon(expresion_, "expresion", QStringLiteral(".*"), QStringLiteral("Expresión regular"));
     for (QToolButton* opcion : {&mayusculas_, &palabras_, &expresion_}) opcion->setCheckable(true);
     pon(cierra_, "cierra", QStringLiteral("\u00D7"), QStringLiteral("Cerrar (Escape)"));
+    hazAviso(cuenta_);
     nombra(cuenta_, "cuenta", {});
     cuenta_.setTextFormat(Qt::PlainText);
     auto& fila = nuevo<QHBoxLayout>(this);
@@ -270,8 +271,7 @@ void BarraBusqueda::avisa(const QString& texto, bool malo) {
     campo_.setPalette(colores);
     if (cuenta_.text() == texto) return;
     cuenta_.setText(texto);
-    QAccessibleEvent alerta(&cuenta_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alerta);
+    avisaALectores(cuenta_, texto);
 }
 
 } // namespace norvik

@@ -2,6 +2,7 @@
 
 #include "norvik/widget/elementosControl.hpp"
 
+#include "norvik/platform/qt/avisoALectores.hpp"
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 
@@ -115,6 +116,7 @@ void ElementosControl::ponSignoError(std::int32_t numero, std::int32_t linea, co
     constexpr std::int32_t lado = 240;
     auto signo = std::make_unique<Signo>(Signo::Dibujo::Error, &debugBox);
     const QString texto = QStringLiteral("Error en la línea %1").arg(linea);
+    hazAviso(*signo);
     norvik::nombra(*signo, "", texto);
     signo->setObjectName(QStringLiteral("sig_Error%1").arg(numero));
     signo->setGeometry(enPixeles(Rectangulo{lugar.x, lugar.y, lado, lado}, pixel));

@@ -2,6 +2,7 @@
 
 #include "norvik/widget/margenDeLineas.hpp"
 
+#include "norvik/platform/qt/avisoALectores.hpp"
 #include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/fallos.hpp"
@@ -10,7 +11,6 @@
 #include "norvik/widget/plegado.hpp"
 #include "norvik/widget/signo.hpp"
 
-#include <QAccessible>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -39,6 +39,7 @@ MargenDeLineas::MargenDeLineas(QWidget& borde, CajaTextoQt& caja, const Diagnost
                                Plegado& plegado)
     : QWidget(&borde), caja_(caja), diagnosticos_(diagnosticos), plegado_(plegado) {
     setObjectName(QStringLiteral("margenDeLineas"));
+    hazAviso(*this);
     setAccessibleName(QStringLiteral("Líneas"));
     setGeometry(borde.rect());
     borde.installEventFilter(this);
@@ -75,10 +76,10 @@ bool MargenDeLineas::sigue() {
 void MargenDeLineas::muestraDiagnosticos() {
     update();
     const QString resumen = diagnosticos_.resumen();
-    setAccessibleName(resumen.isEmpty() ? QStringLiteral("Líneas") : resumen);
-    if (resumen.isEmpty()) return;
-    QAccessibleEvent alerta(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alerta);
+    if (resumen.isEmpty())
+        setAccessibleName(QStringLiteral("Líneas"));
+    else
+        avisaALectores(*this, resumen);
 }
 
 bool MargenDeLineas::eventFilter(QObject* borde, QEvent* evento) {

@@ -6,6 +6,7 @@
 #include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHelpEvent>
@@ -239,6 +240,19 @@ TEST_F(Hospedaje, LosDiagnosticosSeSubrayanYSeMuevenConElTexto) {
     EXPECT_EQ(ondas(0), "~~~   ");
     editor.ponDiagnosticos({});
     EXPECT_EQ(ondas(0), "      ");
+}
+
+// Without a reader Qt raises no event: what one says when it shows is what has this role.
+TEST_F(Hospedaje, UnErrorEsUnAvisoParaLosLectores) {
+    editor.ponDiagnosticos({error(0, 1)});
+    editor.control().PonSignoError(2);
+    for (const auto& [nombre, palabras] :
+         {std::pair("margenDeLineas", "1 error"), {"sig_Error2", "Error en la línea 2"}}) {
+        const auto* const elemento =
+            QAccessible::queryAccessibleInterface(editor.findChild<QWidget*>(nombre));
+        EXPECT_EQ(elemento->role(), QAccessible::Notification) << nombre;
+        EXPECT_EQ(elemento->text(QAccessible::Name), palabras);
+    }
 }
 
 TEST_F(Hospedaje, LoQueFaltaSeSubrayaJuntoASuLugar) {

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace norvik {
+
+/// Makes an element one whose words a screen reader says when they come, wherever the focus is. To be called
+/// before it has a name.
+void hazAviso(QWidget& elemento);
+/// Its words of now, and that they have come.
+void avisaALectores(QWidget& elemento, const QString& palabras);
+
+} // namespace norvik
