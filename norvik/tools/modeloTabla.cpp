@@ -17,8 +17,9 @@ std::int16_t numero(int indice) {
     return static_cast<std::int16_t>(indice + 1);
 }
 
-/// How a conflict is told from the rest: what a view asks for, if the cell or its header has to do with one.
-QVariant realce(int papel) {
+} // namespace
+
+QVariant realceDeConflicto(int papel) {
     const QColor rojizo(225, 70, 30, 110); // lets the background through, light or dark
     if (papel == Qt::BackgroundRole) return QBrush(rojizo);
     if (papel != Qt::FontRole) return {};
@@ -26,8 +27,6 @@ QVariant realce(int papel) {
     negrita.setBold(true);
     return negrita;
 }
-
-} // namespace
 
 ModeloTabla::ModeloTabla(const gramatica& gramatica, const pilaTokens& lexico)
     : gramatica_(gramatica), lexico_(lexico), filas_(gramatica.filasVigentes()),
@@ -62,7 +61,8 @@ QVariant ModeloTabla::datoDe(const QModelIndex& celda, int papel) const {
     if (papel == Qt::DisplayRole) return texto(celda.row(), celda.column());
     if (papel == Qt::TextAlignmentRole) return Qt::AlignCenter;
     if (papel == Qt::ToolTipRole) return ayudaDeCelda(celda.row(), celda.column());
-    return gramatica_.enConflicto(numero(celda.row()), numero(celda.column())) ? realce(papel) : QVariant();
+    return gramatica_.enConflicto(numero(celda.row()), numero(celda.column())) ? realceDeConflicto(papel)
+                                                                               : QVariant();
 }
 
 QVariant ModeloTabla::encabezado(int seccion, Qt::Orientation orientacion, int papel) const {
@@ -71,7 +71,7 @@ QVariant ModeloTabla::encabezado(int seccion, Qt::Orientation orientacion, int p
         return deColumna ? aQString(gramatica_.encabezadoColumna(numero(seccion))) : QString::number(seccion);
     if (papel == Qt::ToolTipRole && deColumna) return ayudaDeColumna(seccion);
     const auto& enConflicto = deColumna ? columnasEnConflicto_ : filasEnConflicto_;
-    return enConflicto[static_cast<std::size_t>(seccion)] ? realce(papel) : QVariant();
+    return enConflicto[static_cast<std::size_t>(seccion)] ? realceDeConflicto(papel) : QVariant();
 }
 
 QString ModeloTabla::ayudaDeCelda(int fila, int columna) const {

@@ -11,6 +11,9 @@
 
 namespace norvik {
 
+/// How a conflict is told from the rest: what a view asks for, if the cell or its header has to do with one.
+QVariant realceDeConflicto(int papel);
+
 /// A grammar's SLR table for a view: a row a state, a column a symbol. Cells are made when they are asked
 /// for; grammar and lexer must outlive it unchanged.
 class ModeloTabla final : public QAbstractTableModel {

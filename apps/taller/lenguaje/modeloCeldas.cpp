@@ -8,9 +8,7 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 #include "norvik/report/informe.hpp"
-
-#include <QBrush>
-#include <QFont>
+#include "norvik/tools/modeloTabla.hpp"
 
 namespace norvik::taller {
 
@@ -23,16 +21,6 @@ std::int16_t numero(int indice) {
 
 DeCelda celdaDe(const QModelIndex& celda) {
     return {static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())};
-}
-
-/// How a conflict is told from the rest besides its sign.
-QVariant realce(int papel) {
-    const QColor rojizo(225, 70, 30, 110); // lets the background through, light or dark
-    if (papel == Qt::BackgroundRole) return QBrush(rojizo);
-    if (papel != Qt::FontRole) return {};
-    QFont negrita;
-    negrita.setBold(true);
-    return negrita;
 }
 
 const QString signoDeConflicto = QStringLiteral("⚠ ");
@@ -88,7 +76,7 @@ QVariant ModeloCeldas::data(const QModelIndex& celda, int papel) const {
         if (papel == Qt::TextAlignmentRole) dato = Qt::AlignCenter;
         if (papel == Qt::ToolTipRole) dato = ayudaLlana(palabras(celda));
         if (papel == Qt::AccessibleDescriptionRole) dato = palabras(celda);
-        if (!dato.isValid() && estaEnConflicto(celda)) dato = realce(papel);
+        if (!dato.isValid() && estaEnConflicto(celda)) dato = realceDeConflicto(papel);
     });
     return dato;
 }
