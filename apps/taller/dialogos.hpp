@@ -6,9 +6,13 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 namespace norvik::taller {
+
+/// What is to become of a file that another program wrote, when it is to be saved here.
+enum class Choque : std::uint8_t { Sobrescribir, GuardarComo, Recargar, Cancelar };
 
 /// The questions that the workbench asks, so that tests can answer them.
 class Dialogos {
@@ -24,6 +28,7 @@ public:
     bool guardaOPierde(const QString& texto, Accion accion) {
         return cumple(pregunta(texto, QStringLiteral("&Guardar"), QStringLiteral("&No guardar")), accion);
     }
+    virtual Choque preguntaChoque(const QString& pregunta) = 0;
     /// A file's path, or nothing when the user gives up. `filtros` as Qt writes them.
     virtual std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) = 0;
     /// `propuesto` is a path or a name; what has no ending of its own gets `extension`, when there is one.

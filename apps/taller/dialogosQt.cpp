@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 
 namespace norvik::taller {
 
@@ -14,6 +16,25 @@ QWidget* DialogosQt::encimaDe() const {
 
 Destino DialogosQt::pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) {
     return preguntaDestino(pregunta, guardar, descartar, encimaDe());
+}
+
+/// The key that is pressed without looking loses nothing of either.
+Choque DialogosQt::preguntaChoque(const QString& pregunta) {
+    QMessageBox caja(QMessageBox::Warning, QApplication::applicationDisplayName(), pregunta,
+                     QMessageBox::NoButton, encimaDe());
+    caja.setTextFormat(Qt::PlainText);
+    const QPushButton* const encima =
+        caja.addButton(QStringLiteral("&Sobrescribir"), QMessageBox::DestructiveRole);
+    QPushButton* const como = caja.addButton(QStringLiteral("&Guardar como…"), QMessageBox::AcceptRole);
+    const QPushButton* const recarga =
+        caja.addButton(QStringLiteral("&Recargar"), QMessageBox::DestructiveRole);
+    caja.setEscapeButton(caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole));
+    caja.setDefaultButton(como);
+    caja.exec();
+    const QAbstractButton* const pulsado = caja.clickedButton();
+    if (pulsado == encima) return Choque::Sobrescribir;
+    if (pulsado == como) return Choque::GuardarComo;
+    return pulsado == recarga ? Choque::Recargar : Choque::Cancelar;
 }
 
 std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& aceptar) {

@@ -16,6 +16,7 @@ public:
     void ponVentana(QWidget* ventana) { ventana_ = ventana; }
 
     Destino pregunta(const QString& pregunta, const QString& guardar, const QString& descartar) override;
+    Choque preguntaChoque(const QString& pregunta) override;
     std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) override;
     std::optional<QString> eligeParaGuardar(const QString& titulo, const QString& filtros,
                                             const QString& propuesto, const QString& extension) override;

@@ -8,10 +8,21 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace norvik::taller {
+
+/// All that there is of a document, to be put back in another life of the program.
+struct EstadoDocumento {
+    QString fichero;
+    QString huella; ///< of the file as it was last read or written
+    FormatoTexto formato;
+    bool esBinario = false;
+    bool modificado = false;
+    std::u16string texto;
+};
 
 /// The text of a control as a document of a person: its file, how the file has it, and what was last read
 /// from there or written. An empty path is a text without a file.
@@ -30,17 +41,26 @@ public:
     const FormatoTexto& formato() const { return formato_; }
     /// What was read was no text: written as one it would not be the same.
     bool esBinario() const { return esBinario_; }
+    /// Encoding and line ends of its file, as people call them.
+    QString nombreDelFormato() const;
+    /// Its file has what the control has, as far as is known: there is nothing to write.
+    bool alDia() const;
+    /// What stands in the place of its file is not what was read from there or written.
+    bool otroLoCambio() const;
 
     void vacia();
     /// A text without a file, which nobody would miss as it is.
     void empieza(std::u16string_view texto);
     /// What there is of it has gone where the person wants it: without a file it is as good as saved.
     void anotaEntregado();
-    /// Raises `ErrorDeFichero`, the text is then empty and without a file. One that is too long to be
-    /// coloured is loaded, and that is told.
+    /// Raises `ErrorDeFichero`, the document is then what it was. A text that is too long to be coloured is
+    /// loaded, and that is told.
     void abre(const QString& fichero);
     /// As it was read. Raises `ErrorDeFichero`.
     void guarda(const QString& fichero);
+
+    EstadoDocumento estado() const;
+    void repone(const EstadoDocumento& estado);
 
 signals:
     /// Its file, or what is saved of it.
@@ -49,17 +69,16 @@ signals:
     void aviso(const QString& texto);
 
 private:
+    void ponTexto(std::u16string_view texto);
     void pon(const QString& fichero, std::u16string_view texto);
     void anotaGuardado(std::u16string_view texto);
 
     ControlNorvik& norvik_;
     QString fichero_;
+    QString huella_;
     FormatoTexto formato_;
     bool esBinario_ = false;
-    std::u16string guardado_;
+    std::optional<std::u16string> guardado_ = std::u16string(); ///< nothing: it is not known here
 };
-
-/// Saves a document; what is in the way is told, and false.
-bool guardaOAvisa(DocumentoTexto& documento, const QString& fichero, SistemaQt& sistema);
 
 } // namespace norvik::taller

@@ -6,6 +6,8 @@
 #include "norvik/base/ficheros.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 
+#include <sys/stat.h>
+
 namespace norvik::taller {
 
 void exigeFicheroCorriente(const QString& fichero, std::u16string_view accion) {
@@ -24,6 +26,17 @@ std::string leeDocumento(const QString& fichero) {
 void escribeDocumento(const QString& fichero, std::string_view bytes) {
     exigeFicheroCorriente(fichero, u"escribir");
     escribeBytes(aRuta(fichero), bytes, Durabilidad::EnDisco);
+}
+
+QString huellaDe(const QString& fichero) {
+    struct stat estado {};
+    if (stat(aRuta(fichero).c_str(), &estado) != 0) return {};
+    return QStringLiteral("%1:%2:%3:%4.%5")
+        .arg(estado.st_dev)
+        .arg(estado.st_ino)
+        .arg(estado.st_size)
+        .arg(estado.st_mtim.tv_sec)
+        .arg(estado.st_mtim.tv_nsec);
 }
 
 } // namespace norvik::taller

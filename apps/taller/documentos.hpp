@@ -18,4 +18,7 @@ std::string leeDocumento(const QString& fichero);
 /// Whole and on the disk, or not at all.
 void escribeDocumento(const QString& fichero, std::string_view bytes);
 
+/// Tells a file from what it becomes when anybody writes it, without reading it; empty where there is none.
+QString huellaDe(const QString& fichero);
+
 } // namespace norvik::taller

@@ -45,8 +45,6 @@ public:
     bool textoModificado() const { return documento_.modificado(); }
     /// The control tells nobody of what it does to the text by Undo and Redo.
     void cambiaTexto();
-    const FormatoTexto& formato() const { return documento_.formato(); }
-    bool esBinario() const { return documento_.esBinario(); }
     void nuevoTexto() { documento_.vacia(); }
     void abreTexto(const QString& fichero) { documento_.abre(fichero); }
 

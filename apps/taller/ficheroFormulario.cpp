@@ -11,7 +11,6 @@
 #include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -158,11 +157,22 @@ QJsonValue jsonDe(const QByteArray& bytes) {
 
 } // namespace
 
+FormularioGuardado formularioDeJson(const QByteArray& json, const QDir& carpeta) {
+    return formularioDe(carpeta, jsonDe(json));
+}
+
+QByteArray enJson(const FormularioGuardado& formulario, const QDir& carpeta) {
+    QByteArrayList controles;
+    for (const ElementoGuardado& elemento : formulario.elementos) controles += aJson(carpeta, elemento);
+    return conOtros("{\n  \"Controles\": [\n" + controles.join(",\n") + "\n  ]\n}", formulario.otros, "  ") +
+           "\n";
+}
+
 FormularioGuardado leeFormulario(const QString& fichero) {
     const std::string bytes = leeDocumento(fichero);
     try {
-        return formularioDe(QFileInfo(fichero).absoluteDir(),
-                            jsonDe({bytes.data(), static_cast<qsizetype>(bytes.size())}));
+        return formularioDeJson({bytes.data(), static_cast<qsizetype>(bytes.size())},
+                                QFileInfo(fichero).absoluteDir());
     } catch (const NoCoincidenLosTipos& error) {
         throw NoCoincidenLosTipos(u"«" + fichero.toStdU16String() + u"» no es un formulario de Norvik: " +
                                   error.texto());
@@ -170,12 +180,7 @@ FormularioGuardado leeFormulario(const QString& fichero) {
 }
 
 void escribeFormulario(const QString& fichero, const FormularioGuardado& formulario) {
-    const QDir carpeta = QFileInfo(fichero).absoluteDir();
-    QByteArrayList controles;
-    for (const ElementoGuardado& elemento : formulario.elementos) controles += aJson(carpeta, elemento);
-    const QByteArray json =
-        conOtros("{\n  \"Controles\": [\n" + controles.join(",\n") + "\n  ]\n}", formulario.otros, "  ") +
-        "\n";
+    const QByteArray json = enJson(formulario, QFileInfo(fichero).absoluteDir());
     escribeDocumento(fichero, {json.data(), static_cast<std::size_t>(json.size())});
 }
 

@@ -4,6 +4,8 @@
 
 #include "norvik/control/bolsaPropiedades.hpp"
 
+#include <QByteArray>
+#include <QDir>
 #include <QJsonObject>
 #include <QString>
 
@@ -29,6 +31,12 @@ struct FormularioGuardado {
     std::vector<ElementoGuardado> elementos; ///< one at least
     QJsonObject otros;
 };
+
+/// As its file has it, with paths relative to a folder where they lead there. Raises `ErrorDeFichero` for a
+/// text that no file can hold.
+QByteArray enJson(const FormularioGuardado& formulario, const QDir& carpeta);
+/// Raises `NoCoincidenLosTipos`, with the place, for what is no form.
+FormularioGuardado formularioDeJson(const QByteArray& json, const QDir& carpeta);
 
 /// Raises `ErrorDeFichero`, and `NoCoincidenLosTipos`, with the place, for a file that is no form.
 FormularioGuardado leeFormulario(const QString& fichero);

@@ -2,6 +2,8 @@
 
 #include "formulario.hpp"
 
+#include "documentos.hpp"
+
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 
@@ -85,6 +87,7 @@ void Formulario::retira(std::size_t cuantos) {
     muestraTitulos();
     activa(*elementos_.front());
     fichero_.clear();
+    huella_.clear();
     otros_ = {};
 }
 
@@ -120,15 +123,20 @@ void Formulario::ponModificado(bool modificado) {
 }
 
 QStringList Formulario::abre(const QString& fichero) {
-    const FormularioGuardado formulario = leeFormulario(fichero);
-    const auto& guardados = formulario.elementos;
-    const std::size_t antes = elementos_.size();
-    anade(guardados);
-    retira(antes);
-    QStringList avisos = llena(guardados);
-    fichero_ = QFileInfo(fichero).absoluteFilePath();
-    otros_ = formulario.otros;
+    const QString huella = huellaDe(fichero); // of what is read next, or of what was there before
+    QStringList avisos = pon(leeFormulario(fichero), QFileInfo(fichero).absoluteFilePath());
+    huella_ = huella;
     ponModificado(false);
+    return avisos;
+}
+
+QStringList Formulario::pon(const FormularioGuardado& formulario, const QString& fichero) {
+    const std::size_t antes = elementos_.size();
+    anade(formulario.elementos);
+    retira(antes);
+    QStringList avisos = llena(formulario.elementos);
+    fichero_ = fichero;
+    otros_ = formulario.otros;
     return avisos;
 }
 
@@ -190,7 +198,37 @@ void Formulario::guarda(const QString& fichero) {
     for (const auto& e : elementos_) formulario.elementos.push_back(e->guardado());
     escribeFormulario(fichero, formulario);
     fichero_ = QFileInfo(fichero).absoluteFilePath();
+    huella_ = huellaDe(fichero_);
     ponModificado(false);
+}
+
+bool Formulario::otroLoCambio() const {
+    const QString huella = huellaDe(fichero_);
+    return !huella.isEmpty() && huella != huella_;
+}
+
+bool Formulario::hayCambios() const {
+    return modificado_ || std::any_of(elementos_.begin(), elementos_.end(),
+                                      [](const auto& e) { return e->textoModificado(); });
+}
+
+EstadoFormulario Formulario::estado() const {
+    EstadoFormulario estado{{{}, otros_}, fichero_, huella_, modificado_, {}};
+    for (const auto& e : elementos_) {
+        estado.guardado.elementos.push_back(e->guardado());
+        estado.guardado.elementos.back().texto.clear();
+        estado.textos.push_back(e->documento().estado());
+    }
+    return estado;
+}
+
+QStringList Formulario::repone(const EstadoFormulario& estado) {
+    QStringList avisos = pon(estado.guardado, estado.fichero);
+    huella_ = estado.huella;
+    for (std::size_t i = 0; i < elementos_.size(); ++i)
+        elementos_[i]->documento().repone(estado.textos.at(i));
+    ponModificado(estado.modificado);
+    return avisos;
 }
 
 } // namespace norvik::taller

@@ -13,6 +13,15 @@
 
 namespace norvik::taller {
 
+/// All that there is of a form, to be put back in another life of the program.
+struct EstadoFormulario {
+    FormularioGuardado guardado; ///< without the paths of its texts
+    QString fichero;
+    QString huella; ///< of the file as it was last read or written
+    bool modificado = false;
+    std::vector<EstadoDocumento> textos; ///< of the controls, in their order
+};
+
 /// The container of the controls: one or several beside or above each other, of which one is the active one.
 class Formulario final : public QSplitter {
     Q_OBJECT
@@ -45,6 +54,13 @@ public:
     /// What is wrong with the texts and languages of the controls comes back, a line each.
     QStringList abre(const QString& fichero);
     void guarda(const QString& fichero);
+    /// What stands in the place of its file is not what was read from there or written.
+    bool otroLoCambio() const;
+    /// It, or the text of a control, is not saved.
+    bool hayCambios() const;
+    EstadoFormulario estado() const;
+    /// As `abre` does it.
+    QStringList repone(const EstadoFormulario& estado);
 
 signals:
     void otroActivo();
@@ -61,6 +77,7 @@ private:
     void anade(const std::vector<ElementoGuardado>& guardados);
     void restaura(ElementoFormulario& elemento, const ElementoGuardado& guardado, std::size_t lugar);
     QStringList llena(const std::vector<ElementoGuardado>& guardados);
+    QStringList pon(const FormularioGuardado& formulario, const QString& fichero);
     void muestraTitulos();
     void conecta(ElementoFormulario& elemento);
 
@@ -69,6 +86,7 @@ private:
     std::size_t activo_ = 0;
     Modo modo_ = Modo::Ejecucion;
     QString fichero_;
+    QString huella_;
     QJsonObject otros_; ///< of its file, for who knows them
     bool modificado_ = false;
 };

@@ -2,7 +2,9 @@
 
 #include "dialogosQt.hpp"
 #include "linea.hpp"
+#include "recuperacion.hpp"
 #include "rutas.hpp"
+#include "senalesDeFin.hpp"
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
@@ -12,6 +14,8 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QStandardPaths>
+#include <QTimer>
 #include <QTranslator>
 
 #include <array>
@@ -49,6 +53,28 @@ bool esEspecificacion(const QString& fichero) {
     return QFileInfo(fichero).suffix().toLower() == extensionEspecificacion;
 }
 
+void abre(const Arranque& arranque, VentanaPrincipal& ventana) {
+    if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);
+    if (esEspecificacion(arranque.texto))
+        ventana.abreEnVentana(arranque.texto);
+    else if (!arranque.texto.isEmpty())
+        ventana.abre(arranque.texto);
+}
+
+std::filesystem::path carpetaDeCopias() {
+    return aRuta(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)) / "copias";
+}
+
+/// Whoever ends the program from outside asks nobody what is to become of the work.
+void conservaAlAcabar(Recuperacion& recuperacion, const SenalesDeFin& senales) {
+    QObject::connect(&senales, &SenalesDeFin::pedido, &recuperacion, [&recuperacion](int senal) {
+        recuperacion.conserva();
+        QApplication::exit(128 + senal); // as a shell tells it
+    });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &recuperacion,
+                     [&recuperacion] { recuperacion.copia(); });
+}
+
 int trabaja(const Arranque& arranque) {
     QTranslator deQt; // the words of Qt's own windows
     if (deQt.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -60,12 +86,14 @@ int trabaja(const Arranque& arranque) {
     VentanaPrincipal ventana(
         {sistema, dialogos, ajustes, ejemplosDe(carpetaDeEjemplos(QApplication::applicationDirPath()))});
     dialogos.ponVentana(&ventana);
+    Recuperacion recuperacion(ventana, dialogos, carpetaDeCopias());
+    const SenalesDeFin senales;
+    conservaAlAcabar(recuperacion, senales);
     ventana.show();
-    if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);
-    if (esEspecificacion(arranque.texto))
-        ventana.abreEnVentana(arranque.texto);
-    else if (!arranque.texto.isEmpty())
-        ventana.abre(arranque.texto);
+    QTimer::singleShot(0, &ventana, [&] { // in the loop, which a signal ends
+        recuperacion.ofrece();
+        abre(arranque, ventana);
+    });
     return QApplication::exec();
 }
 

@@ -22,14 +22,31 @@ void OrdenesFormulario::abre() {
 
 void OrdenesFormulario::abre(const QString& fichero) {
     if (!puedePerder()) return;
-    const QStringList avisos = formulario_.abre(fichero);
+    avisaDe(formulario_.abre(fichero));
     recientes_.anota(fichero);
-    if (!avisos.isEmpty())
-        sistema_.muestraMensaje(
-            {avisos.join(u'\n').toStdU16String(), {}, Icono::Exclamacion, Botones::Aceptar});
+}
+
+void OrdenesFormulario::avisaDe(const QStringList& avisos) {
+    if (avisos.isEmpty()) return;
+    sistema_.muestraMensaje({avisos.join(u'\n').toStdU16String(), {}, Icono::Exclamacion, Botones::Aceptar});
 }
 
 bool OrdenesFormulario::escribe(const QString& fichero) {
+    if (fichero != formulario_.fichero() || !formulario_.otroLoCambio()) return sobrescribe(fichero);
+    switch (dialogos_.preguntaChoque(preguntaDeChoque(fichero))) {
+    case Choque::Sobrescribir:
+        return sobrescribe(fichero);
+    case Choque::GuardarComo:
+        return guardaComo();
+    case Choque::Recargar:
+        return recarga();
+    case Choque::Cancelar:
+        return false;
+    }
+    return false;
+}
+
+bool OrdenesFormulario::sobrescribe(const QString& fichero) {
     const std::u16string fallo = falloDe([&] { formulario_.guarda(fichero); });
     if (fallo.empty()) {
         recientes_.anota(fichero);
@@ -37,6 +54,13 @@ bool OrdenesFormulario::escribe(const QString& fichero) {
     }
     sistema_.muestraMensaje({fallo, {}, Icono::Critico, Botones::Aceptar});
     return false;
+}
+
+/// The texts of its controls go with it.
+bool OrdenesFormulario::recarga() {
+    if (!textosPuedenPerderse()) return false;
+    avisaDe(formulario_.abre(formulario_.fichero()));
+    return true;
 }
 
 bool OrdenesFormulario::guarda() {
@@ -64,11 +88,14 @@ bool OrdenesFormulario::puedePerderFormulario() {
     return dialogos_.guardaOPierde(pregunta, [this] { return guarda(); });
 }
 
-bool OrdenesFormulario::puedePerder() {
+bool OrdenesFormulario::textosPuedenPerderse() {
     const auto& elementos = formulario_.elementos();
     return std::all_of(elementos.begin(), elementos.end(),
-                       [this](const auto& e) { return textos_.puedePerder(*e); }) &&
-           puedePerderFormulario();
+                       [this](const auto& e) { return textos_.puedePerder(*e); });
+}
+
+bool OrdenesFormulario::puedePerder() {
+    return textosPuedenPerderse() && puedePerderFormulario();
 }
 
 } // namespace norvik::taller

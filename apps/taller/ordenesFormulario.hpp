@@ -22,11 +22,17 @@ public:
     /// Texts, and the form when it was changed.
     bool guardaTodo();
     void quitaActivo();
+    /// Puts a form back that was copied; the caller has asked for what is there.
+    void repone(const EstadoFormulario& estado) { avisaDe(formulario_.repone(estado)); }
     /// All texts and the form are saved, or were not changed, or are given up.
     bool puedePerder();
 
 private:
     bool escribe(const QString& fichero);
+    bool sobrescribe(const QString& fichero);
+    bool recarga();
+    void avisaDe(const QStringList& avisos);
+    bool textosPuedenPerderse();
     bool puedePerderFormulario();
 
     Formulario& formulario_;

@@ -6,6 +6,14 @@
 
 namespace norvik::taller {
 
+namespace {
+
+ComoSeGuarda comoUnTexto() {
+    return {QStringLiteral("Guardar texto"), todos, {}, {}};
+}
+
+} // namespace
+
 void OrdenesTexto::nuevo() {
     if (puedePerder(formulario_.activo())) formulario_.activo().nuevoTexto();
 }
@@ -21,20 +29,18 @@ void OrdenesTexto::abre(const QString& fichero) {
     recientes_.anota(fichero);
 }
 
-bool OrdenesTexto::escribe(ElementoFormulario& elemento, const QString& fichero) {
-    if (!guardaOAvisa(elemento.documento(), fichero, sistema_)) return false;
-    recientes_.anota(fichero);
-    return true;
+bool OrdenesTexto::anota(bool guardado, const ElementoFormulario& elemento) {
+    if (guardado) recientes_.anota(elemento.fichero());
+    return guardado;
 }
 
 bool OrdenesTexto::guarda(ElementoFormulario& elemento) {
-    return elemento.fichero().isEmpty() ? guardaComo(elemento) : escribe(elemento, elemento.fichero());
+    return anota(archivador_.guarda(elemento.documento(), comoUnTexto()), elemento);
 }
 
-bool OrdenesTexto::guardaComo(ElementoFormulario& elemento) {
-    const auto fichero =
-        dialogos_.eligeParaGuardar(QStringLiteral("Guardar texto"), todos, elemento.fichero(), {});
-    return fichero && escribe(elemento, *fichero);
+bool OrdenesTexto::guardaComo() {
+    ElementoFormulario& elemento = formulario_.activo();
+    return anota(archivador_.guardaComo(elemento.documento(), comoUnTexto()), elemento);
 }
 
 bool OrdenesTexto::guardaTodos() {
@@ -44,10 +50,10 @@ bool OrdenesTexto::guardaTodos() {
 }
 
 bool OrdenesTexto::puedePerder(ElementoFormulario& elemento) {
-    if (!elemento.textoModificado()) return true;
-    const QString pregunta =
-        QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(elemento.tituloTexto());
-    return dialogos_.guardaOPierde(pregunta, [this, &elemento] { return guarda(elemento); });
+    const QString antes = elemento.fichero();
+    const bool puede = archivador_.puedePerder(elemento.documento(), comoUnTexto());
+    if (elemento.fichero() != antes) recientes_.anota(elemento.fichero());
+    return puede;
 }
 
 } // namespace norvik::taller

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "dialogos.hpp"
+#include "archivador.hpp"
 #include "formulario.hpp"
 #include "recientes.hpp"
 
@@ -12,14 +12,15 @@ namespace norvik::taller {
 class OrdenesTexto {
 public:
     OrdenesTexto(Formulario& formulario, SistemaQt& sistema, Dialogos& dialogos, Recientes& recientes)
-        : formulario_(formulario), sistema_(sistema), dialogos_(dialogos), recientes_(recientes) {}
+        : formulario_(formulario), dialogos_(dialogos), recientes_(recientes),
+          archivador_(sistema, dialogos) {}
 
     // On the active control.
     void nuevo();
     void abre();
     void abre(const QString& fichero);
     bool guarda() { return guarda(formulario_.activo()); }
-    bool guardaComo() { return guardaComo(formulario_.activo()); }
+    bool guardaComo();
 
     /// Those that were changed. False when the user gives up or a file could not be written.
     bool guardaTodos();
@@ -28,13 +29,12 @@ public:
 
 private:
     bool guarda(ElementoFormulario& elemento);
-    bool guardaComo(ElementoFormulario& elemento);
-    bool escribe(ElementoFormulario& elemento, const QString& fichero);
+    bool anota(bool guardado, const ElementoFormulario& elemento);
 
     Formulario& formulario_;
-    SistemaQt& sistema_;
     Dialogos& dialogos_;
     Recientes& recientes_;
+    Archivador archivador_;
 };
 
 } // namespace norvik::taller

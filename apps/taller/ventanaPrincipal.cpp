@@ -153,6 +153,8 @@ void VentanaPrincipal::conectaFormulario() {
     connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
     connect(&formulario_, &Formulario::aviso, this,
             [this](const QString& texto) { statusBar()->showMessage(texto); });
+    connect(&formulario_, &Formulario::otroTexto, this, &VentanaPrincipal::cambiado);
+    connect(&formulario_, &Formulario::cambiado, this, &VentanaPrincipal::cambiado);
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
         actualizaTitulo();
         actualizaLugar();
@@ -183,9 +185,38 @@ void VentanaPrincipal::conectaLenguaje() {
     });
 }
 
+// ---- what is not saved
+
+void VentanaPrincipal::ordena(const std::function<void()>& orden) {
+    ejecuta(orden);
+}
+
+void VentanaPrincipal::avisa(const QString& texto) {
+    statusBar()->showMessage(texto);
+    if (ventanaLenguaje_) ventanaLenguaje_->avisa(texto);
+}
+
+CopiaTaller VentanaPrincipal::copia() {
+    CopiaTaller copia;
+    if (formulario_.hayCambios()) copia.formulario = formulario_.estado();
+    if (ventanaLenguaje_) copia.lenguaje = ventanaLenguaje_->copia();
+    return copia;
+}
+
+bool VentanaPrincipal::repone(const CopiaTaller& copia) {
+    if (copia.lenguaje && !ventanaLenguaje().puedePerder()) return false;
+    if (copia.formulario && !formularios_.puedePerder()) return false;
+    if (copia.formulario) formularios_.repone(*copia.formulario);
+    if (!copia.lenguaje) return true;
+    ventanaLenguaje().repone(*copia.lenguaje);
+    ventanaLenguaje().trae();
+    return true;
+}
+
 VentanaLenguaje& VentanaPrincipal::ventanaLenguaje() {
     if (ventanaLenguaje_) return *ventanaLenguaje_;
     ventanaLenguaje_ = std::make_unique<VentanaLenguaje>(sistema_, dialogos_, ajustes_);
+    connect(ventanaLenguaje_.get(), &VentanaLenguaje::cambiado, this, &VentanaPrincipal::cambiado);
     connect(
         ventanaLenguaje_.get(), &VentanaLenguaje::usado, this,
         [this](const std::u16string& especificacion) { ejecuta([&] { lenguajes_.toma(especificacion); }); });
@@ -278,14 +309,7 @@ void VentanaPrincipal::actualizaTitulo() {
     const QString sinNombre = tieneLenguaje(activo.norvik()) ? QStringLiteral("Lenguaje sin nombre")
                                                              : QStringLiteral("Sin lenguaje");
     lenguaje_.setText(nombre.isEmpty() ? sinNombre : nombre);
-    actualizaFormato();
-}
-
-void VentanaPrincipal::actualizaFormato() {
-    const FormatoTexto& formato = formulario_.activo().formato();
-    const QString nombre =
-        aQString(nombreDe(formato.codificacion)) + QStringLiteral("  ") + aQString(nombreDe(formato.salto));
-    formato_.setText(formulario_.activo().esBinario() ? QStringLiteral("No es texto") : nombre);
+    formato_.setText(activo.documento().nombreDelFormato());
 }
 
 void VentanaPrincipal::actualizaLugar() {

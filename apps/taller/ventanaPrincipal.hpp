@@ -3,6 +3,7 @@
 #pragma once
 
 #include "acciones.hpp"
+#include "copiaTaller.hpp"
 #include "lenguaje/ventanaLenguaje.hpp"
 #include "ordenesFormulario.hpp"
 #include "ordenesLenguaje.hpp"
@@ -13,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -38,6 +40,16 @@ public:
     /// Opens a specification in the language window.
     void abreEnVentana(const QString& especificacion);
 
+    /// What is not saved, here and in the language window.
+    CopiaTaller copia();
+    /// Puts back what was copied; false, with nothing done, when a person does not want to lose what is
+    /// there.
+    bool repone(const CopiaTaller& copia);
+    /// Carries out a command, one at a time; a failure is told in a box.
+    void ordena(const std::function<void()>& orden);
+    /// Tells something where it is in nobody's way.
+    void avisa(const QString& texto);
+
     // For those who drive it from outside.
     Formulario& formulario() { return formulario_; }
     Acciones& acciones() { return acciones_; }
@@ -46,6 +58,10 @@ public:
     VentanaRevision& revision() { return revision_; }
     /// Made when it is first asked for.
     VentanaLenguaje& ventanaLenguaje();
+
+signals:
+    /// Something that is not saved may be another.
+    void cambiado();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -73,7 +89,6 @@ private:
     void otroActivo();
     void cuentaFallo(const QString& texto);
     void actualizaTitulo();
-    void actualizaFormato();
     void actualizaLugar();
     void actualizaOrdenes();
     void actualizaEdicion();

@@ -47,11 +47,12 @@ bool haPerdidoSuNombre(const Descriptor& descriptor) {
     return fstat(descriptor.numero(), &abierto) == 0 && abierto.st_nlink == 0;
 }
 
-void quitaSiEsDeNadie(const std::filesystem::path& nombre) {
-    const Descriptor descriptor(sinInterrupcion(
+Descriptor tomaSiEsDeNadie(const std::filesystem::path& nombre) {
+    Descriptor descriptor(sinInterrupcion(
         [&] { return open(nombre.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
-    if (descriptor.abierto() && echaCerrojo(descriptor) == Cerrojo::Mio && sigueSiendo(nombre, descriptor))
-        unlink(nombre.c_str());
+    if (!descriptor.abierto() || echaCerrojo(descriptor) != Cerrojo::Mio || !sigueSiendo(nombre, descriptor))
+        return Descriptor(-1);
+    return descriptor;
 }
 
 } // namespace
@@ -77,8 +78,18 @@ NombresProvisionales::Fichero NombresProvisionales::crea(mode_t modo) const {
     return {{}, Descriptor(-1)};
 }
 
+std::vector<NombresProvisionales::Fichero> NombresProvisionales::abandonados() const {
+    std::vector<Fichero> abandonados;
+    for (int numero = 0; numero < habituales; ++numero) {
+        const std::filesystem::path candidato = nombre(numero);
+        Descriptor descriptor = tomaSiEsDeNadie(candidato);
+        if (descriptor.abierto()) abandonados.push_back({candidato, std::move(descriptor)});
+    }
+    return abandonados;
+}
+
 void NombresProvisionales::quitaAbandonados() const {
-    for (int numero = 0; numero < habituales; ++numero) quitaSiEsDeNadie(nombre(numero));
+    for (const Fichero& abandonado : abandonados()) unlink(abandonado.nombre.c_str());
 }
 
 } // namespace norvik::inline v0_2

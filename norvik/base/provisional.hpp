@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <sys/types.h>
+#include <vector>
 
 namespace norvik::inline v0_2 {
 
@@ -18,13 +19,14 @@ public:
     /// Their names are the beginning, a number and the end.
     NombresProvisionales(std::filesystem::path carpeta, std::string_view principio, std::string_view final);
 
-    /// One of them, open for writing alone.
+    /// One of them, open for writing alone if it is new.
     struct Fichero {
         std::filesystem::path nombre;
         Descriptor descriptor; ///< not open, with the cause in errno, when there is none
     };
     Fichero crea(mode_t modo) const;
-    /// Removes those whose process is no more.
+    /// Those whose process is no more, open for reading and locked.
+    std::vector<Fichero> abandonados() const;
     void quitaAbandonados() const;
 
 private:

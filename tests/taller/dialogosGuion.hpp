@@ -20,6 +20,7 @@ class DialogosGuion final : public Dialogos {
 public:
     QStringList dichos;
     std::deque<Destino> destinos;
+    std::deque<Choque> choques;
     std::deque<QString> ficheros; ///< an empty one gives up
 
     QStringList toma() { return std::exchange(dichos, {}); }
@@ -27,6 +28,10 @@ public:
     Destino pregunta(const QString& pregunta, const QString& guardar, const QString& /*descartar*/) override {
         dichos += QStringLiteral("%1 %2").arg(guardar, pregunta);
         return siguiente(destinos, Destino::Cancelar);
+    }
+    Choque preguntaChoque(const QString& pregunta) override {
+        dichos += QStringLiteral("choque ") + pregunta.section(u'\n', 0, 0);
+        return siguiente(choques, Choque::Cancelar);
     }
     std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& /*filtros*/) override {
         dichos += QStringLiteral("abrir ") + titulo;

@@ -83,7 +83,7 @@ TEST_F(TallerTest, AbreEscribeYGuarda) {
     EXPECT_EQ(ajustes.value("recientes/textos").toStringList(), QStringList({ruta("dos.txt"), uno}));
     ventana.abre(ruta("falta.txt"));
     EXPECT_EQ(dialogos.toma().size(), 1);
-    EXPECT_EQ(norvik().control().Text(), u"");
+    EXPECT_EQ(norvik().control().Text(), u"xa\r\nb"); // what was there stays
 }
 
 TEST_F(TallerTest, CadaFicheroSigueComoEra) {

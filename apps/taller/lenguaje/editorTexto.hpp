@@ -22,6 +22,7 @@ public:
 
     ControlNorvik& norvik() { return norvik_; }
     DocumentoTexto& documento() { return documento_; }
+    const DocumentoTexto& documento() const { return documento_; }
     const QString& nombre() const { return nombre_; }
     std::u16string texto();
     /// What is chosen, or where the caret is.

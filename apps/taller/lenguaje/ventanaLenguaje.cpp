@@ -39,7 +39,7 @@ void VentanaLenguaje::ejecuta(const Orden& orden) {
 }
 
 VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettings& ajustes)
-    : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes),
+    : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes), archivador_(sistema, dialogos),
       especificacion_(QStringLiteral("Especificación"), sistema, &editores_),
       texto_(QStringLiteral("Texto"), sistema, &editores_), archivo_(QStringLiteral("&Archivo")),
       edicion_(QStringLiteral("&Edición")), ver_(QStringLiteral("&Ver")), seguimiento_([this] {
@@ -66,7 +66,7 @@ void VentanaLenguaje::compone() {
     setCentralWidget(&editores_);
     colocaPaneles();
     statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
-    for (QLabel* const etiqueta : {&estado_, &lugar_}) {
+    for (QLabel* const etiqueta : {&estado_, &formato_, &lugar_}) {
         etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setContentsMargins(8, 0, 8, 0);
         statusBar()->addPermanentWidget(etiqueta);
@@ -109,9 +109,12 @@ void VentanaLenguaje::ponMenus() {
         if (fichero && puedePerder(texto_)) texto_.documento().abre(*fichero);
     });
     archivo_.addSeparator();
-    accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save, [this] { guarda(*activo_); });
-    accion(archivo_, QStringLiteral("Guardar &como…"), QStringLiteral("Ctrl+Shift+S"),
-           [this] { guardaComo(*activo_); });
+    accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save, [this] {
+        if (archivador_.guarda(activo_->documento(), como(*activo_))) avisaDeGuardado(*activo_);
+    });
+    accion(archivo_, QStringLiteral("Guardar &como…"), QStringLiteral("Ctrl+Shift+S"), [this] {
+        if (archivador_.guardaComo(activo_->documento(), como(*activo_))) avisaDeGuardado(*activo_);
+    });
     archivo_.addSeparator();
     accion(archivo_, QStringLiteral("&Usar en el formulario"), QStringLiteral("F6"), [this] {
         emit usado(especificacion_.texto());
@@ -157,11 +160,10 @@ void VentanaLenguaje::conecta() {
     connect(&atraso_, &QTimer::timeout, this, [this] { sinFallos([this] { marca(); }); });
     conecta(especificacion_);
     conecta(texto_);
-    const auto avisa = [this](const QString& texto) { statusBar()->showMessage(texto, 8000); };
     for (Panel* const panel : paneles()) {
         connect(panel, &Panel::elegido, this,
                 [this, panel](const Eleccion& eleccion) { sinFallos([&] { elige(eleccion, panel); }); });
-        connect(panel, &Panel::fallo, this, avisa);
+        connect(panel, &Panel::fallo, this, &VentanaLenguaje::avisa);
     }
     connect(&problemas_, &PanelProblemas::ido, this, [this](const Eleccion& eleccion) {
         sinFallos([&] {
@@ -175,17 +177,18 @@ void VentanaLenguaje::conecta() {
             [this](Lado lado, const Arreglo& arreglo) { ejecuta([&] { arregla(lado, arreglo); }); });
     connect(&seguimiento_, &Seguimiento::estudiado, this,
             [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
-    connect(&seguimiento_, &Seguimiento::fallo, this, avisa);
+    connect(&seguimiento_, &Seguimiento::fallo, this, &VentanaLenguaje::avisa);
 }
 
 void VentanaLenguaje::conecta(EditorTexto& editor) {
     connect(&editor, &EditorTexto::otroTexto, this, [this] { sinFallos([this] { cambio(); }); });
     connect(&editor, &EditorTexto::otroLugar, this, [this] { sinFallos([this] { sigueCursor(); }); });
-    connect(&editor, &EditorTexto::fallo, this,
-            [this](const QString& texto) { statusBar()->showMessage(texto, 8000); });
+    connect(&editor, &EditorTexto::fallo, this, &VentanaLenguaje::avisa);
     connect(&editor.documento(), &DocumentoTexto::cambiado, this, [this] { actualizaTitulo(); });
     connect(qApp, &QApplication::focusChanged, &editor, [this, &editor](QWidget* /*antes*/, QWidget* ahora) {
-        if (ahora != nullptr && editor.isAncestorOf(ahora)) activo_ = &editor;
+        if (ahora == nullptr || !editor.isAncestorOf(ahora)) return;
+        activo_ = &editor;
+        sinFallos([this] { actualizaFormato(); });
     });
 }
 
@@ -223,38 +226,44 @@ bool VentanaLenguaje::puedePerder() {
 }
 
 bool VentanaLenguaje::puedePerder(EditorTexto& editor) {
-    if (!editor.documento().modificado()) return true;
-    const QString pregunta =
-        QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(editor.documento().titulo());
-    return dialogos_.guardaOPierde(pregunta, [this, &editor] { return guarda(editor); });
+    return isHidden() || archivador_.puedePerder(editor.documento(), como(editor));
 }
 
-bool VentanaLenguaje::guarda(EditorTexto& editor) {
-    const DocumentoTexto& documento = editor.documento();
-    if (documento.fichero().isEmpty()) return guardaComo(editor);
-    return !documento.modificado() || escribe(editor, documento.fichero());
+ComoSeGuarda VentanaLenguaje::como(const EditorTexto& editor) const {
+    const QString titulo = QStringLiteral("Guardar: ") + editor.nombre();
+    if (&editor == &texto_) return {titulo, todos, {}, {}};
+    return {titulo, filtroEspecificacion, extensionEspecificacion,
+            QStringLiteral("lenguaje.") + extensionEspecificacion};
 }
 
-bool VentanaLenguaje::guardaComo(EditorTexto& editor) {
-    const bool esEspecificacion = &editor == &especificacion_;
-    const QString extension = esEspecificacion ? extensionEspecificacion : QString();
-    QString propuesto = editor.documento().fichero();
-    if (propuesto.isEmpty() && esEspecificacion) propuesto = QStringLiteral("lenguaje.") + extension;
-    const auto fichero =
-        dialogos_.eligeParaGuardar(QStringLiteral("Guardar: ") + editor.nombre(),
-                                   esEspecificacion ? filtroEspecificacion : todos, propuesto, extension);
-    return fichero && escribe(editor, *fichero);
-}
-
-bool VentanaLenguaje::escribe(EditorTexto& editor, const QString& fichero) {
-    if (!guardaOAvisa(editor.documento(), fichero, sistema_)) return false;
+void VentanaLenguaje::avisaDeGuardado(const EditorTexto& editor) {
     statusBar()->showMessage(QStringLiteral("Guardado «%1»").arg(editor.documento().titulo()), 4000);
-    return true;
+}
+
+std::optional<std::array<EstadoDocumento, 2>> VentanaLenguaje::copia() const {
+    if (isHidden() || (!especificacion_.documento().modificado() && !texto_.documento().modificado()))
+        return std::nullopt;
+    return std::array{especificacion_.documento().estado(), texto_.documento().estado()};
+}
+
+void VentanaLenguaje::repone(const std::array<EstadoDocumento, 2>& documentos) {
+    especificacion_.documento().repone(documentos.front());
+    texto_.documento().repone(documentos.back());
+}
+
+void VentanaLenguaje::avisa(const QString& texto) {
+    statusBar()->showMessage(texto, 8000);
 }
 
 void VentanaLenguaje::actualizaTitulo() {
     setWindowModified(especificacion_.documento().modificado() || texto_.documento().modificado());
     setWindowTitle(especificacion_.documento().titulo() + QStringLiteral("[*] — Lenguaje — Norvik"));
+    actualizaFormato();
+    emit cambiado();
+}
+
+void VentanaLenguaje::actualizaFormato() {
+    formato_.setText(activo_->documento().nombreDelFormato());
 }
 
 void VentanaLenguaje::closeEvent(QCloseEvent* evento) {
@@ -262,6 +271,7 @@ void VentanaLenguaje::closeEvent(QCloseEvent* evento) {
     ejecuta([&] {
         if (!puedePerder()) return;
         evento->accept();
+        emit cambiado();
         ajustes_.setValue(claveGeometria, saveGeometry());
         ajustes_.setValue(claveEstado, saveState());
         ajustes_.setValue(claveEditores, editores_.saveState());

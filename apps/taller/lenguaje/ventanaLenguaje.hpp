@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "../dialogos.hpp"
+#include "../archivador.hpp"
 #include "editorTexto.hpp"
 #include "panelAnalisis.hpp"
 #include "panelAutomata.hpp"
@@ -22,6 +22,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace norvik::taller {
@@ -47,8 +48,15 @@ public:
     void abreTexto(const QString& fichero);
     /// Shows it in front.
     void trae();
-    /// Asks what is to become of what was written and is not saved; false when it stays.
+    /// Asks what is to become of what was written and is not saved; false when it stays. What a closed window
+    /// has was asked for.
     bool puedePerder();
+    /// Both documents, while one of them is changed and the window open.
+    std::optional<std::array<EstadoDocumento, 2>> copia() const;
+    /// Puts them back; the caller has asked for those that are there.
+    void repone(const std::array<EstadoDocumento, 2>& documentos);
+    /// Tells something where it is in nobody's way.
+    void avisa(const QString& texto);
 
     // For those who drive it from outside.
     EditorTexto& especificacion() { return especificacion_; }
@@ -64,6 +72,8 @@ public:
 signals:
     /// The person wants the specification in the control that the workbench has active.
     void usado(const std::u16string& especificacion);
+    /// Something that is not saved may be another.
+    void cambiado();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -86,11 +96,11 @@ private:
     void conecta(EditorTexto& editor);
 
     // The documents.
-    bool guarda(EditorTexto& editor);
-    bool guardaComo(EditorTexto& editor);
-    bool escribe(EditorTexto& editor, const QString& fichero);
+    ComoSeGuarda como(const EditorTexto& editor) const;
+    void avisaDeGuardado(const EditorTexto& editor);
     bool puedePerder(EditorTexto& editor);
     void actualizaTitulo();
+    void actualizaFormato();
 
     // What is known of them.
     void cambio();
@@ -106,6 +116,7 @@ private:
     SistemaQt& sistema_;
     Dialogos& dialogos_;
     QSettings& ajustes_;
+    Archivador archivador_;
     QSplitter editores_;
     EditorTexto especificacion_;
     EditorTexto texto_;
@@ -116,7 +127,7 @@ private:
     PanelPasos pasos_{this};
     PanelAutomata automata_{dialogos_, this};
     QMenu archivo_, edicion_, ver_;
-    QLabel estado_, lugar_;
+    QLabel estado_, formato_, lugar_;
     Seguimiento seguimiento_;
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of

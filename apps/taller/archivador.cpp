@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+
+#include "archivador.hpp"
+
+#include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/sistemaQt.hpp"
+
+#include <QFileInfo>
+#include <QLocale>
+
+namespace norvik::taller {
+
+bool Archivador::guarda(DocumentoTexto& documento, const ComoSeGuarda& como) const {
+    if (documento.fichero().isEmpty()) return guardaComo(documento, como);
+    return documento.alDia() || escribe(documento, documento.fichero(), como);
+}
+
+bool Archivador::guardaComo(DocumentoTexto& documento, const ComoSeGuarda& como) const {
+    const QString propuesto = documento.fichero().isEmpty() ? como.propuesto : documento.fichero();
+    const auto fichero = dialogos_.eligeParaGuardar(como.titulo, como.filtros, propuesto, como.extension);
+    return fichero && escribe(documento, *fichero, como);
+}
+
+bool Archivador::puedePerder(DocumentoTexto& documento, const ComoSeGuarda& como) const {
+    if (!documento.modificado()) return true;
+    const QString pregunta = QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(documento.titulo());
+    return dialogos_.guardaOPierde(pregunta, [&] { return guarda(documento, como); });
+}
+
+bool Archivador::escribe(DocumentoTexto& documento, const QString& fichero, const ComoSeGuarda& como) const {
+    if (fichero != documento.fichero() || !documento.otroLoCambio()) return sobrescribe(documento, fichero);
+    switch (dialogos_.preguntaChoque(preguntaDeChoque(fichero))) {
+    case Choque::Sobrescribir:
+        return sobrescribe(documento, fichero);
+    case Choque::GuardarComo:
+        return guardaComo(documento, como);
+    case Choque::Recargar:
+        documento.abre(fichero);
+        return true;
+    case Choque::Cancelar:
+        return false;
+    }
+    return false;
+}
+
+bool Archivador::sobrescribe(DocumentoTexto& documento, const QString& fichero) const {
+    std::u16string motivo;
+    if (documento.esBinario())
+        motivo = u"«" + documento.titulo().toStdU16String() +
+                 u"» no se leyó como texto, y guardado como texto sería otro fichero.";
+    try {
+        if (motivo.empty()) documento.guarda(fichero);
+    } catch (const ErrorDeFichero& error) {
+        motivo = error.texto();
+    }
+    if (!motivo.empty()) sistema_.muestraMensaje({motivo, {}, Icono::Critico, Botones::Aceptar});
+    return motivo.empty();
+}
+
+QString preguntaDeChoque(const QString& fichero) {
+    const QFileInfo info(fichero);
+    return QStringLiteral("«%1» ha cambiado en el disco desde que se leyó o se guardó aquí: otro programa, u "
+                          "otro taller, lo escribió el %2.\n\n"
+                          "Si se sobrescribe, se pierde lo que hay en el disco; si se recarga, los cambios "
+                          "hechos aquí.")
+        .arg(info.fileName(),
+             QLocale(QLocale::Spanish)
+                 .toString(info.lastModified(), QStringLiteral("d 'de' MMMM 'a las' H:mm:ss")));
+}
+
+} // namespace norvik::taller
