@@ -81,13 +81,14 @@ void poneOscura() {
 }
 
 /// The windows in the order in which a person comes by them.
-class Visita {
+class Retratos {
 public:
-    Visita(const Album& album, const QString& ejemplos) : album_(album), ejemplos_(ejemplos) {
+    Retratos(const Album& album, const QString& ejemplos) : album_(album), ejemplos_(ejemplos) {
         ventana_.resize(800, 480);
         ventana_.show();
     }
     void haz() {
+        inicio();
         taller();
         lenguaje();
         control();
@@ -100,6 +101,10 @@ private:
     QString ejemplo(const char* nombre) const { return ejemplos_.filePath(QLatin1String(nombre)); }
     ControlNorvik& norvik() { return ventana_.formulario().activo().norvik(); }
 
+    void inicio() {
+        ventana_.acciones().inicio.trigger();
+        album_.guarda(ventana_, "inicio");
+    }
     void taller() {
         Acciones& a = ventana_.acciones();
         ventana_.abre(ejemplo("pascal/pascal.nvk"));
@@ -211,7 +216,7 @@ private:
     QSettings ajustes_{aparte_.filePath("ajustes.ini"), QSettings::IniFormat};
     SistemaDelAlbum sistema_;
     DialogosQt dialogos_;
-    VentanaPrincipal ventana_{{sistema_, dialogos_, ajustes_, {}}};
+    VentanaPrincipal ventana_{{sistema_, dialogos_, ajustes_, ejemplosDe(ejemplos_.absolutePath())}};
 };
 
 } // namespace
@@ -230,7 +235,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     try {
         const Album album(palabras[2]);
-        Visita(album, palabras[1]).haz();
+        Retratos(album, palabras[1]).haz();
     } catch (const std::exception& e) {
         std::cerr << "capturas: " << e.what() << '\n';
         return 1;

@@ -3,4 +3,4 @@
 
 _arguments \
     '--lenguaje[lenguaje del texto]:lenguaje:_files -g "*.(nvk|bas)"' \
-    '(- *)--help[cómo se usa]' '(- *)--version[la versión]' '1:texto o formulario:_files'
+    '(- *)--help[cómo se usa]' '(- *)--version[la versión]' '*:fichero:_files'

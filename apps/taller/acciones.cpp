@@ -84,6 +84,11 @@ void Acciones::describe() {
         {analizar, s("Anali&zar"), s("F8"), Dibujo::Analizar},
         {revisar, s("&Revisar"), s("F7")},
         {informe, s("Ver &informe"), s("F9"), Dibujo::Informe},
+        {presentacion, s("&Presentación"), s("F11")},
+        {manual, s("&Manual"), s("F1")},
+        {teclas, s("&Teclas"), s("Ctrl+F1")},
+        {inicio, s("Página de &inicio")},
+        {visita, s("&Visita guiada")},
         {acerca, s("&Acerca de Norvik")},
     });
     for (const Descripcion& d : descripciones) {
@@ -92,6 +97,7 @@ void Acciones::describe() {
         if (d.dibujo) d.accion.setIcon(icono(*d.dibujo));
     }
     disenio.setCheckable(true);
+    presentacion.setCheckable(true);
     salir.setMenuRole(QAction::QuitRole);
     acerca.setMenuRole(QAction::AboutRole);
 }
@@ -107,7 +113,8 @@ void Acciones::ordena() {
            &guardarFormularioComo, raya, &anadir, &quitar, raya, &disenio, &propiedades});
     llena(lenguaje, {&nuevoLenguaje, &abrirLenguaje, ejemplos.menuAction(), &guardarEspecificacion, raya,
                      &ventanaLenguaje, &analizar, &revisar, &informe});
-    llena(ayuda, {&acerca});
+    llena(ver, {&presentacion});
+    llena(ayuda, {&manual, &teclas, raya, &inicio, &visita, raya, &acerca});
 }
 
 void Acciones::llenaBarra() {

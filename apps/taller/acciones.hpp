@@ -20,7 +20,8 @@ public:
     QAction nuevoFormulario, abrirFormulario, guardarFormulario, guardarFormularioComo;
     QAction anadir, quitar, disenio, propiedades;
     QAction nuevoLenguaje, abrirLenguaje, guardarEspecificacion, ventanaLenguaje, analizar, revisar, informe;
-    QAction acerca;
+    QAction presentacion;
+    QAction manual, teclas, inicio, visita, acerca;
 
     QMenu textosRecientes, formulariosRecientes, ejemplos;
     QMenu archivo, edicion, formulario, lenguaje, ver, ayuda;

@@ -4,29 +4,36 @@
 
 #include "linea.hpp"
 
+#include "claseFichero.hpp"
+
 #include <norvik/version.hpp>
 
 #include <CLI/CLI.hpp>
+
+#include <optional>
+#include <vector>
 
 namespace norvik::taller {
 
 namespace {
 
-constexpr const char* ayuda = R"(norvik-taller: formularios con editores que conocen lenguajes
+constexpr const char* ayuda = R"(norvik-taller: escribe lenguajes, y textos en editores que los conocen
 
 Uso:
-  norvik-taller [--lenguaje FICHERO] [TEXTO]
-  norvik-taller FORMULARIO
-  norvik-taller ESPECIFICACION
+  norvik-taller [FICHERO…] [--lenguaje FICHERO]
   norvik-taller --help | --version
 
-  TEXTO                 texto que se abre
-  FORMULARIO            formulario guardado por el taller (NOMBRE.nvf)
-  ESPECIFICACION        lenguaje que se abre en la ventana del lenguaje (NOMBRE.nvk)
+Sin ficheros sale la página de inicio. Los ficheros van en cualquier orden; cada uno se abre como lo que es, y de
+cada clase va uno:
+  NOMBRE.nvk            especificación: se abre en la ventana del lenguaje, con el texto que
+                        la acompañe
+  NOMBRE.nvf            formulario guardado por el taller
+  NOMBRE.bas            módulo de carga: el lenguaje del editor del formulario
+  los demás             texto
 
 Opciones:
-  --lenguaje FICHERO    lenguaje del texto: una especificación (NOMBRE.nvk) o un módulo
-                        de carga (NOMBRE.bas)
+  --lenguaje FICHERO    lenguaje del editor del formulario: una especificación (NOMBRE.nvk) o un
+                        módulo de carga (NOMBRE.bas)
   --help                muestra esta ayuda
   --version             muestra la versión
 )";
@@ -35,8 +42,36 @@ Contesta error(const std::string& motivo) {
     return {"norvik-taller: " + motivo + " (norvik-taller --help explica el uso)\n", 2};
 }
 
-bool esOpcion(const std::string& palabra) {
-    return palabra.size() > 1 && palabra[0] == '-';
+/// What each file is, and what it is for; nothing when there is room for it.
+std::optional<Contesta> coloca(const std::string& palabra, Arranque& arranque) {
+    const QString fichero = QString::fromLocal8Bit(palabra);
+    const auto pon = [&](QString& sitio, const std::string& clase) -> std::optional<Contesta> {
+        if (!sitio.isEmpty())
+            return error("«" + sitio.toLocal8Bit().toStdString() + "» y «" + palabra + "» son dos " + clase +
+                         ", y se abre uno cada vez");
+        sitio = fichero;
+        return std::nullopt;
+    };
+    switch (claseDe(fichero)) {
+    case ClaseFichero::Formulario:
+        return pon(arranque.formulario, "formularios");
+    case ClaseFichero::Especificacion:
+        return pon(arranque.especificacion, "lenguajes");
+    case ClaseFichero::Modulo:
+        return pon(arranque.lenguaje, "lenguajes");
+    case ClaseFichero::Texto:
+        return pon(arranque.texto, "textos");
+    }
+    return std::nullopt;
+}
+
+std::variant<Arranque, Contesta> reparte(const std::vector<std::string>& palabras,
+                                         const std::string& lenguaje) {
+    Arranque arranque;
+    arranque.lenguaje = QString::fromLocal8Bit(lenguaje);
+    for (const std::string& palabra : palabras)
+        if (auto mal = coloca(palabra, arranque)) return *mal;
+    return arranque;
 }
 
 } // namespace
@@ -44,7 +79,7 @@ bool esOpcion(const std::string& palabra) {
 std::variant<Arranque, Contesta> leeLinea(int argc, const char* const* argv) {
     CLI::App app;
     std::string lenguaje;
-    std::string texto;
+    std::vector<std::string> ficheros;
     bool pideAyuda = false;
     bool pideVersion = false;
     app.set_help_flag();
@@ -52,7 +87,7 @@ std::variant<Arranque, Contesta> leeLinea(int argc, const char* const* argv) {
     app.add_flag("-h,--help", pideAyuda)->disable_flag_override();
     app.add_flag("--version", pideVersion)->disable_flag_override();
     app.add_option("--lenguaje", lenguaje)->take_last();
-    app.add_option("TEXTO", texto);
+    app.add_option("FICHERO", ficheros);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ArgumentMismatch&) {
@@ -64,11 +99,9 @@ std::variant<Arranque, Contesta> leeLinea(int argc, const char* const* argv) {
     }
     if (pideAyuda) return Contesta{ayuda};
     if (pideVersion) return Contesta{"norvik-taller " NORVIK_VERSION "\n"};
-    for (const std::string& sobra : app.remaining()) {
-        if (sobra == "--") continue; // the mark that no options follow is left over, too
-        return error((esOpcion(sobra) ? "opción desconocida: «" : "sobra «") + sobra + "»");
-    }
-    return Arranque{QString::fromLocal8Bit(lenguaje), QString::fromLocal8Bit(texto)};
+    for (const std::string& sobra : app.remaining())
+        if (sobra != "--") return error("opción desconocida: «" + sobra + "»"); // the mark is left over, too
+    return reparte(ficheros, lenguaje);
 }
 
 } // namespace norvik::taller

@@ -11,8 +11,14 @@ namespace norvik::taller {
 
 /// What the workbench opens when it starts; an empty path is nothing.
 struct Arranque {
-    QString lenguaje;
-    QString texto;
+    QString formulario;
+    QString especificacion; ///< for the language window
+    QString lenguaje;       ///< of the form's editor: a specification or a module
+    QString texto; ///< of the language window when there is a specification, else of the form's editor
+
+    bool vacio() const {
+        return formulario.isEmpty() && especificacion.isEmpty() && lenguaje.isEmpty() && texto.isEmpty();
+    }
 };
 
 /// The line is answered on the terminal, and no window opens.

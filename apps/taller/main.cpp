@@ -3,7 +3,6 @@
 #include "dialogosQt.hpp"
 #include "linea.hpp"
 #include "recuperacion.hpp"
-#include "rutas.hpp"
 #include "senalesDeFin.hpp"
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
@@ -12,8 +11,8 @@
 #include "norvik/tools/iconos.hpp"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QTranslator>
@@ -49,14 +48,11 @@ bool hayPantalla() {
                        [](const char* nombre) { return !qEnvironmentVariableIsEmpty(nombre); });
 }
 
-bool esEspecificacion(const QString& fichero) {
-    return QFileInfo(fichero).suffix().toLower() == extensionEspecificacion;
-}
-
 void abre(const Arranque& arranque, VentanaPrincipal& ventana) {
+    if (!arranque.formulario.isEmpty()) ventana.abre(arranque.formulario);
     if (!arranque.lenguaje.isEmpty()) ventana.abre(arranque.lenguaje);
-    if (esEspecificacion(arranque.texto))
-        ventana.abreEnVentana(arranque.texto);
+    if (!arranque.especificacion.isEmpty())
+        ventana.abreEnVentana(arranque.especificacion, arranque.texto);
     else if (!arranque.texto.isEmpty())
         ventana.abre(arranque.texto);
 }
@@ -76,7 +72,8 @@ void conservaAlAcabar(Recuperacion& recuperacion, const SenalesDeFin& senales) {
 }
 
 int trabaja(const Arranque& arranque) {
-    QTranslator deQt; // the words of Qt's own windows
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); // numbers and dates of Qt's own windows
+    QTranslator deQt;                                               // and their words
     if (deQt.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&deQt);
     QSettings ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("norvik"),
@@ -89,6 +86,7 @@ int trabaja(const Arranque& arranque) {
     Recuperacion recuperacion(ventana, dialogos, carpetaDeCopias());
     const SenalesDeFin senales;
     conservaAlAcabar(recuperacion, senales);
+    if (arranque.vacio()) ventana.muestraInicioSiSeQuiere();
     ventana.show();
     QTimer::singleShot(0, &ventana, [&] { // in the loop, which a signal ends
         recuperacion.ofrece();

@@ -8,6 +8,10 @@
 
 namespace norvik::taller {
 
+inline const QString claveLenguajes = QStringLiteral("recientes/lenguajes");
+inline const QString claveTextos = QStringLiteral("recientes/textos");
+inline const QString claveFormularios = QStringLiteral("recientes/formularios");
+
 /// A menu of the files of one kind that were last opened or saved, the last one first, kept in the settings.
 class Recientes final : public QObject {
     Q_OBJECT

@@ -2,19 +2,20 @@
 
 #include "ventanaPrincipal.hpp"
 
+#include "claseFichero.hpp"
 #include "lenguaje.hpp"
 #include "rutas.hpp"
 
+#include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
-#include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/ventanas.hpp"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFileInfo>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QStatusBar>
@@ -25,6 +26,7 @@ namespace {
 
 const QString claveGeometria = QStringLiteral("ventana/geometria");
 const QString claveEstado = QStringLiteral("ventana/estado");
+const QString claveInicio = QStringLiteral("inicio/alEmpezar");
 
 QStringList ficherosDe(const QMimeData& datos) {
     QStringList ficheros;
@@ -45,10 +47,9 @@ void VentanaPrincipal::ejecuta(const Orden& orden) {
 
 VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
     : sistema_(entorno.sistema), dialogos_(entorno.dialogos), ajustes_(entorno.ajustes),
-      textosRecientes_(acciones_.textosRecientes, ajustes_, QStringLiteral("recientes/textos")),
-      formulariosRecientes_(acciones_.formulariosRecientes, ajustes_,
-                            QStringLiteral("recientes/formularios")),
-      textos_(formulario_, sistema_, dialogos_, textosRecientes_),
+      textosRecientes_(acciones_.textosRecientes, ajustes_, claveTextos),
+      formulariosRecientes_(acciones_.formulariosRecientes, ajustes_, claveFormularios),
+      inicio_(entorno.ejemplos, &pila_), textos_(formulario_, sistema_, dialogos_, textosRecientes_),
       formularios_(formulario_, textos_, sistema_, dialogos_, formulariosRecientes_),
       lenguajes_(formulario_, sistema_, dialogos_, arbol_, mensaje_, revision_) {
     setAcceptDrops(true);
@@ -57,6 +58,8 @@ VentanaPrincipal::VentanaPrincipal(const Entorno& entorno)
     conectaEdicion();
     conectaFormulario();
     conectaLenguaje();
+    conectaAyuda();
+    conectaInicio();
     llenaEjemplos(entorno.ejemplos);
     restoreGeometry(ajustes_.value(claveGeometria).toByteArray());
     restoreState(ajustes_.value(claveEstado).toByteArray());
@@ -70,9 +73,14 @@ void VentanaPrincipal::compone() {
     columna_.addWidget(&formulario_, 1);
     columna_.addWidget(&mensaje_);
     centro_.setLayout(&columna_);
-    setCentralWidget(&centro_);
+    pila_.addWidget(&centro_);
+    pila_.addWidget(&inicio_);
+    inicio_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // it asks for room when it is seen
+    setCentralWidget(&pila_);
     addDockWidget(Qt::RightDockWidgetArea, &arbol_);
     resizeDocks({&arbol_}, {340}, Qt::Horizontal);
+    setAccessibleName(QStringLiteral("El formulario"));
+    ponTema(*this, {QStringLiteral("El taller")});
     acciones_.ver.addAction(arbol_.toggleViewAction());
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
     statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
@@ -85,6 +93,14 @@ void VentanaPrincipal::compone() {
 
 template <typename Orden>
 void VentanaPrincipal::conecta(QAction& accion, Orden orden) {
+    conectaAparte(accion, [this, orden] {
+        muestraFormulario();
+        orden();
+    });
+}
+
+template <typename Orden>
+void VentanaPrincipal::conectaAparte(QAction& accion, Orden orden) {
     connect(&accion, &QAction::triggered, this, [this, orden] { ejecuta(orden); });
 }
 
@@ -111,7 +127,7 @@ void VentanaPrincipal::conectaEdicion() {
     for (QAction* const accion : {&acciones_.deshacer, &acciones_.rehacer})
         conecta(*accion, [this] { formulario_.activo().cambiaTexto(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &VentanaPrincipal::actualizaEdicion);
-    conecta(acciones_.acerca, [this] { formulario_.activo().norvik().control().Acerca(); });
+    conectaAparte(acciones_.acerca, [this] { formulario_.activo().norvik().control().Acerca(); });
 }
 
 /// The commands that are those of the active control.
@@ -173,7 +189,7 @@ void VentanaPrincipal::conectaLenguaje() {
     });
     conecta(a.abrirLenguaje, [this] { lenguajes_.abre(); });
     conecta(a.guardarEspecificacion, [this] { lenguajes_.guardaEspecificacion(); });
-    conecta(a.ventanaLenguaje, [this] { muestraVentanaLenguaje(); });
+    conectaAparte(a.ventanaLenguaje, [this] { muestraVentanaLenguaje(); });
     conecta(a.analizar, [this] { analiza(); });
     conecta(a.informe, [this] { lenguajes_.muestraInforme(); });
     conecta(a.revisar, [this] { lenguajes_.revisa(); });
@@ -206,7 +222,10 @@ CopiaTaller VentanaPrincipal::copia() {
 bool VentanaPrincipal::repone(const CopiaTaller& copia) {
     if (copia.lenguaje && !ventanaLenguaje().puedePerder()) return false;
     if (copia.formulario && !formularios_.puedePerder()) return false;
-    if (copia.formulario) formularios_.repone(*copia.formulario);
+    if (copia.formulario) {
+        muestraFormulario();
+        formularios_.repone(*copia.formulario);
+    }
     if (!copia.lenguaje) return true;
     ventanaLenguaje().repone(*copia.lenguaje);
     ventanaLenguaje().trae();
@@ -216,10 +235,15 @@ bool VentanaPrincipal::repone(const CopiaTaller& copia) {
 VentanaLenguaje& VentanaPrincipal::ventanaLenguaje() {
     if (ventanaLenguaje_) return *ventanaLenguaje_;
     ventanaLenguaje_ = std::make_unique<VentanaLenguaje>(sistema_, dialogos_, ajustes_);
+    preparaAyuda(*ventanaLenguaje_);
     connect(ventanaLenguaje_.get(), &VentanaLenguaje::cambiado, this, &VentanaPrincipal::cambiado);
-    connect(
-        ventanaLenguaje_.get(), &VentanaLenguaje::usado, this,
-        [this](const std::u16string& especificacion) { ejecuta([&] { lenguajes_.toma(especificacion); }); });
+    connect(ventanaLenguaje_.get(), &VentanaLenguaje::usado, this,
+            [this](const std::u16string& especificacion) {
+                ejecuta([&] {
+                    muestraFormulario();
+                    lenguajes_.toma(especificacion);
+                });
+            });
     return *ventanaLenguaje_;
 }
 
@@ -233,10 +257,12 @@ void VentanaPrincipal::muestraVentanaLenguaje() {
     ventana.trae();
 }
 
-void VentanaPrincipal::abreEnVentana(const QString& especificacion) {
+void VentanaPrincipal::abreEnVentana(const QString& especificacion, const QString& texto) {
     ejecuta([&] {
-        ventanaLenguaje().abre(especificacion);
-        ventanaLenguaje().trae();
+        VentanaLenguaje& ventana = ventanaLenguaje();
+        ventana.abre(especificacion);
+        if (!texto.isEmpty()) ventana.abreTexto(texto);
+        ventana.trae();
     });
 }
 
@@ -253,14 +279,21 @@ void VentanaPrincipal::llenaEjemplos(const QList<Ejemplo>& ejemplos) {
 
 void VentanaPrincipal::abre(const QString& fichero) {
     ejecuta([&] {
-        const QString extension = QFileInfo(fichero).suffix().toLower();
-        if (extension == extensionFormulario) return formularios_.abre(fichero);
-        if (extension == extensionEspecificacion || esModulo(aRuta(fichero))) return lenguajes_.abre(fichero);
-        textos_.abre(fichero);
+        muestraFormulario();
+        switch (claseDe(fichero)) {
+        case ClaseFichero::Formulario:
+            return formularios_.abre(fichero);
+        case ClaseFichero::Especificacion:
+        case ClaseFichero::Modulo:
+            return lenguajes_.abre(fichero);
+        case ClaseFichero::Texto:
+            return textos_.abre(fichero);
+        }
     });
 }
 
 void VentanaPrincipal::ponModo(bool disenio) {
+    muestraFormulario();
     formulario_.ponModo(disenio ? Modo::Disenio : Modo::Ejecucion);
     if (!disenio) lenguajes_.preparaTodos();
 }
@@ -281,6 +314,109 @@ void VentanaPrincipal::analiza() {
     arbol_.show();
     statusBar()->showMessage(
         QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(arbol_.modelo().nodos()), 8000);
+}
+
+// ---- the first hour
+
+void VentanaPrincipal::conectaAyuda() {
+    Acciones& a = acciones_;
+    conectaAparte(a.manual, [this] { manual().muestra(temaDe(QApplication::focusWidget())); });
+    conectaAparte(a.teclas, [this] { teclas().muestra({this, &ventanaLenguaje()}); });
+    conectaAparte(a.inicio, [this] { muestraInicio(); });
+    conectaAparte(a.visita, [this] { visita().empieza(); });
+    connect(&a.presentacion, &QAction::toggled, this,
+            [this](bool puesta) { sinFallos([&] { presentacion_.pon(puesta); }); });
+}
+
+void VentanaPrincipal::conectaInicio() {
+    inicio_.ponSiempre(ajustes_.value(claveInicio, true).toBool());
+    connect(&inicio_, &PaginaInicio::siempre, this,
+            [this](bool siempre) { sinFallos([&] { ajustes_.setValue(claveInicio, siempre); }); });
+    connect(&inicio_, &PaginaInicio::nuevo, this, [this](const Plantilla& p) {
+        ejecuta([&] { empiezaEnVentana(p.especificacion(), p.texto()); });
+    });
+    connect(&inicio_, &PaginaInicio::ejemplo, this, [this](const Ejemplo& e) {
+        ejecuta([&] {
+            empiezaEnVentana(leeTexto(aRuta(e.especificacion)),
+                             e.texto.isEmpty() ? std::u16string() : leeTexto(aRuta(e.texto)));
+        });
+    });
+    connect(&inicio_, &PaginaInicio::reciente, this, [this](const QString& fichero) {
+        sinFallos([&] {
+            claseDe(fichero) == ClaseFichero::Especificacion ? abreEnVentana(fichero) : abre(fichero);
+        });
+    });
+    connect(&inicio_, &PaginaInicio::pideAbrir, this, [this] {
+        std::optional<QString> fichero;
+        ejecuta([&] {
+            fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroEspecificacion);
+        });
+        if (fichero) abreEnVentana(*fichero);
+    });
+    connect(&inicio_, &PaginaInicio::pideFormulario, this,
+            [this] { sinFallos([this] { muestraFormulario(); }); });
+    connect(&inicio_, &PaginaInicio::pideVisita, &acciones_.visita, &QAction::trigger);
+    connect(&inicio_, &PaginaInicio::pideManual, &acciones_.manual, &QAction::trigger);
+    connect(&inicio_, &PaginaInicio::pideTeclas, &acciones_.teclas, &QAction::trigger);
+}
+
+/// Nobody would miss what it begins with.
+void VentanaPrincipal::empiezaEnVentana(std::u16string_view especificacion, std::u16string_view texto) {
+    VentanaLenguaje& ventana = ventanaLenguaje();
+    if (ventana.empieza(especificacion, texto)) ventana.trae();
+}
+
+/// The language window has the same help, and says what each of its parts is in the manual.
+void VentanaPrincipal::preparaAyuda(VentanaLenguaje& ventana) {
+    ventana.menuBar()->addMenu(&acciones_.ayuda);
+    ventana.ver().addSeparator();
+    ventana.ver().addAction(&acciones_.presentacion);
+    const QString titulo = QStringLiteral("La ventana del lenguaje");
+    ponTema(ventana, {titulo});
+    ponTema(ventana.especificacion(), {QStringLiteral("2. El lenguaje de especificación")});
+    for (auto* const panel : ventana.findChildren<Panel*>()) ponTema(*panel, {titulo, panel->titulo()});
+    if (presentacion_.puesta()) presentacion_.aplica(ventana);
+}
+
+void VentanaPrincipal::muestraInicioSiSeQuiere() {
+    if (ajustes_.value(claveInicio, true).toBool()) muestraInicio();
+}
+
+void VentanaPrincipal::muestraInicio() {
+    inicio_.ponRecientes(ajustes_.value(claveLenguajes).toStringList() +
+                         ajustes_.value(claveFormularios).toStringList() +
+                         ajustes_.value(claveTextos).toStringList());
+    if (pila_.currentWidget() != &inicio_) conFormulario_ = saveState();
+    arbol_.hide();
+    inicio_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    pila_.setCurrentWidget(&inicio_);
+    inicio_.setFocus();
+    show();
+    raise();
+    activateWindow();
+}
+
+void VentanaPrincipal::muestraFormulario() {
+    if (pila_.currentWidget() == &centro_) return;
+    inicio_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    pila_.setCurrentWidget(&centro_);
+    restoreState(conFormulario_);
+    formulario_.activo().setFocus();
+}
+
+VentanaManual& VentanaPrincipal::manual() {
+    if (manual_.isNull()) manual_ = &nuevo<VentanaManual>(this);
+    return *manual_;
+}
+
+PaginaTeclas& VentanaPrincipal::teclas() {
+    if (teclas_.isNull()) teclas_ = &nuevo<PaginaTeclas>(this);
+    return *teclas_;
+}
+
+Visita& VentanaPrincipal::visita() {
+    if (visita_.isNull()) visita_ = &nuevo<Visita>(ventanaLenguaje());
+    return *visita_;
 }
 
 // ---- what is shown
@@ -343,6 +479,7 @@ void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
         if (ventanaLenguaje_ && ventanaLenguaje_->isVisible() && !ventanaLenguaje_->close()) return;
         if (!formularios_.puedePerder()) return;
         evento->accept();
+        muestraFormulario(); // with its panels as they were
         ajustes_.setValue(claveGeometria, saveGeometry());
         ajustes_.setValue(claveEstado, saveState());
     });

@@ -3,14 +3,21 @@
 #pragma once
 
 #include "acciones.hpp"
+#include "ayuda/paginaInicio.hpp"
+#include "ayuda/paginaTeclas.hpp"
+#include "ayuda/ventanaManual.hpp"
+#include "ayuda/visita.hpp"
 #include "copiaTaller.hpp"
 #include "lenguaje/ventanaLenguaje.hpp"
 #include "ordenesFormulario.hpp"
 #include "ordenesLenguaje.hpp"
+#include "presentacion.hpp"
 
 #include "norvik/tools/ventanaPropiedades.hpp"
 
 #include <QMainWindow>
+#include <QPointer>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <array>
@@ -37,8 +44,10 @@ public:
 
     /// Opens a file as what its ending says it is: a form, a language, else a text.
     void abre(const QString& fichero);
-    /// Opens a specification in the language window.
-    void abreEnVentana(const QString& especificacion);
+    /// Opens a specification in the language window, and a text beside it unless that is empty.
+    void abreEnVentana(const QString& especificacion, const QString& texto = {});
+    /// In the form's place, until something is done with the form. Not where a person does not want it.
+    void muestraInicioSiSeQuiere();
 
     /// What is not saved, here and in the language window.
     CopiaTaller copia();
@@ -58,6 +67,10 @@ public:
     VentanaRevision& revision() { return revision_; }
     /// Made when it is first asked for.
     VentanaLenguaje& ventanaLenguaje();
+    PaginaInicio& inicio() { return inicio_; }
+    VentanaManual& manual();
+    PaginaTeclas& teclas();
+    Visita& visita();
 
 signals:
     /// Something that is not saved may be another.
@@ -73,14 +86,23 @@ private:
 
     template <typename Orden>
     void ejecuta(const Orden& orden);
+    /// A command on the form, or one that leaves it alone.
     template <typename Orden>
     void conecta(QAction& accion, Orden orden);
+    template <typename Orden>
+    void conectaAparte(QAction& accion, Orden orden);
     void conectaArchivo();
     void conectaEdicion();
     DeEdicion deEdicion();
     void conectaFormulario();
     void conectaLenguaje();
+    void conectaAyuda();
+    void conectaInicio();
     void muestraVentanaLenguaje();
+    void empiezaEnVentana(std::u16string_view especificacion, std::u16string_view texto);
+    void preparaAyuda(VentanaLenguaje& ventana);
+    void muestraInicio();
+    void muestraFormulario();
     void llenaEjemplos(const QList<Ejemplo>& ejemplos);
     void compone();
     void ponModo(bool disenio);
@@ -98,6 +120,8 @@ private:
     QSettings& ajustes_;
     Acciones acciones_{*this};
     Recientes textosRecientes_, formulariosRecientes_;
+    QStackedWidget pila_;
+    PaginaInicio inicio_;
     QWidget centro_;
     QVBoxLayout columna_;
     Formulario formulario_{sistema_, &centro_};
@@ -110,7 +134,12 @@ private:
     OrdenesLenguaje lenguajes_;
     std::unique_ptr<VentanaLenguaje> ventanaLenguaje_;
     ElementoFormulario* analizado_ = nullptr; ///< whose tree or error is shown
-    bool ocupada_ = false;                    ///< a command runs
+    Presentacion presentacion_;
+    QPointer<VentanaManual> manual_; ///< the window's children, made when they are first asked for
+    QPointer<PaginaTeclas> teclas_;
+    QPointer<Visita> visita_;
+    QByteArray conFormulario_; ///< the panels, as they come back with the form
+    bool ocupada_ = false;     ///< a command runs
 };
 
 } // namespace norvik::taller

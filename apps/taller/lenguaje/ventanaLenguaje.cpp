@@ -42,7 +42,9 @@ VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettin
     : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes), archivador_(sistema, dialogos),
       especificacion_(QStringLiteral("Especificación"), sistema, &editores_),
       texto_(QStringLiteral("Texto"), sistema, &editores_), archivo_(QStringLiteral("&Archivo")),
-      edicion_(QStringLiteral("&Edición")), ver_(QStringLiteral("&Ver")), seguimiento_([this] {
+      edicion_(QStringLiteral("&Edición")), ver_(QStringLiteral("&Ver")),
+      menuRecientes_(QStringLiteral("Lenguajes &recientes")),
+      recientes_(menuRecientes_, ajustes, claveLenguajes), seguimiento_([this] {
           return Seguimiento::Textos{especificacion_.texto(), texto_.texto()};
       }) {
     compone();
@@ -58,6 +60,7 @@ VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettin
 
 void VentanaLenguaje::compone() {
     mide(*this, {1280, 860});
+    setAccessibleName(QStringLiteral("La ventana del lenguaje"));
     setDockNestingEnabled(true);
     CargaMetaLenguaje(especificacion_.norvik().control());
     editores_.addWidget(&especificacion_);
@@ -100,13 +103,14 @@ QAction& VentanaLenguaje::accion(QMenu& menu, const QString& texto, const QKeySe
 
 void VentanaLenguaje::ponMenus() {
     for (QMenu* const menu : {&archivo_, &edicion_, &ver_}) menuBar()->addMenu(menu);
-    accion(archivo_, QStringLiteral("&Abrir lenguaje…"), QKeySequence::Open, [this] {
+    accion(archivo_, QStringLiteral("&Abrir lenguaje…"), QStringLiteral("Ctrl+L"), [this] {
         const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroEspecificacion);
-        if (fichero && puedePerder(especificacion_)) especificacion_.documento().abre(*fichero);
+        if (fichero) abreEspecificacion(*fichero);
     });
-    accion(archivo_, QStringLiteral("Abrir &texto…"), QStringLiteral("Ctrl+Shift+O"), [this] {
+    archivo_.addMenu(&menuRecientes_);
+    accion(archivo_, QStringLiteral("Abrir &texto…"), QKeySequence::Open, [this] {
         const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir texto"), todos);
-        if (fichero && puedePerder(texto_)) texto_.documento().abre(*fichero);
+        if (fichero) abreTextoDe(*fichero);
     });
     archivo_.addSeparator();
     accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save, [this] {
@@ -177,6 +181,7 @@ void VentanaLenguaje::conecta() {
             [this](Lado lado, const Arreglo& arreglo) { ejecuta([&] { arregla(lado, arreglo); }); });
     connect(&seguimiento_, &Seguimiento::estudiado, this,
             [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
+    connect(&recientes_, &Recientes::elegido, this, &VentanaLenguaje::abre);
     connect(&seguimiento_, &Seguimiento::fallo, this, &VentanaLenguaje::avisa);
 }
 
@@ -194,24 +199,33 @@ void VentanaLenguaje::conecta(EditorTexto& editor) {
 
 // ---- the documents
 
-void VentanaLenguaje::empieza(std::u16string_view especificacion, std::u16string_view texto) {
+bool VentanaLenguaje::empieza(std::u16string_view especificacion, std::u16string_view texto) {
+    bool hecho = false;
     ejecuta([&] {
         if (!puedePerder()) return;
         especificacion_.documento().empieza(especificacion);
         texto_.documento().empieza(texto);
+        hecho = true;
     });
+    return hecho;
 }
 
 void VentanaLenguaje::abre(const QString& especificacion) {
-    ejecuta([&] {
-        if (puedePerder(especificacion_)) especificacion_.documento().abre(especificacion);
-    });
+    ejecuta([&] { abreEspecificacion(especificacion); });
 }
 
 void VentanaLenguaje::abreTexto(const QString& fichero) {
-    ejecuta([&] {
-        if (puedePerder(texto_)) texto_.documento().abre(fichero);
-    });
+    ejecuta([&] { abreTextoDe(fichero); });
+}
+
+void VentanaLenguaje::abreEspecificacion(const QString& fichero) {
+    if (!puedePerder(especificacion_)) return;
+    especificacion_.documento().abre(fichero);
+    recientes_.anota(fichero);
+}
+
+void VentanaLenguaje::abreTextoDe(const QString& fichero) {
+    if (puedePerder(texto_)) texto_.documento().abre(fichero);
 }
 
 void VentanaLenguaje::trae() {
@@ -237,6 +251,7 @@ ComoSeGuarda VentanaLenguaje::como(const EditorTexto& editor) const {
 }
 
 void VentanaLenguaje::avisaDeGuardado(const EditorTexto& editor) {
+    if (&editor == &especificacion_) recientes_.anota(editor.documento().fichero());
     statusBar()->showMessage(QStringLiteral("Guardado «%1»").arg(editor.documento().titulo()), 4000);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "../archivador.hpp"
+#include "../recientes.hpp"
 #include "editorTexto.hpp"
 #include "panelAnalisis.hpp"
 #include "panelAutomata.hpp"
@@ -40,9 +41,9 @@ public:
     /// The focus goes while all of it is there: a panel that dies with it would hand it to an editor.
     ~VentanaLenguaje() override { hide(); }
 
-    /// A specification and a text in the place of those that it has; neither has a file. Nothing when a
+    /// A specification and a text in the place of those that it has; neither has a file. False when a
     /// person does not want to lose those.
-    void empieza(std::u16string_view especificacion, std::u16string_view texto);
+    bool empieza(std::u16string_view especificacion, std::u16string_view texto);
     /// The specification, or the text, of a file.
     void abre(const QString& especificacion);
     void abreTexto(const QString& fichero);
@@ -68,6 +69,7 @@ public:
     PanelPasos& pasos() { return pasos_; }
     PanelAutomata& automata() { return automata_; }
     Seguimiento& seguimiento() { return seguimiento_; }
+    QMenu& ver() { return ver_; }
 
 signals:
     /// The person wants the specification in the control that the workbench has active.
@@ -96,6 +98,8 @@ private:
     void conecta(EditorTexto& editor);
 
     // The documents.
+    void abreEspecificacion(const QString& fichero);
+    void abreTextoDe(const QString& fichero);
     ComoSeGuarda como(const EditorTexto& editor) const;
     void avisaDeGuardado(const EditorTexto& editor);
     bool puedePerder(EditorTexto& editor);
@@ -126,7 +130,8 @@ private:
     PanelTabla tabla_{this};
     PanelPasos pasos_{this};
     PanelAutomata automata_{dialogos_, this};
-    QMenu archivo_, edicion_, ver_;
+    QMenu archivo_, edicion_, ver_, menuRecientes_;
+    Recientes recientes_;
     QLabel estado_, formato_, lugar_;
     Seguimiento seguimiento_;
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts

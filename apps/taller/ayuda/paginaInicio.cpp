@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+
+#include "paginaInicio.hpp"
+
+#include "norvik/tools/ventanas.hpp"
+
+#include <QCommandLinkButton>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace norvik::taller {
+
+namespace {
+
+QLabel& rotulo(const QString& texto, double aumento) {
+    auto& etiqueta = nuevo<QLabel>(texto);
+    etiqueta.setTextFormat(Qt::PlainText);
+    QFont letra = etiqueta.font();
+    letra.setPointSizeF(letra.pointSizeF() * aumento);
+    letra.setBold(true);
+    etiqueta.setFont(letra);
+    return etiqueta;
+}
+
+void ponLista(QVBoxLayout& columna, QListWidget& lista, const QString& titulo) {
+    auto& etiqueta = nuevo<QLabel>(titulo);
+    etiqueta.setTextFormat(Qt::PlainText);
+    etiqueta.setBuddy(&lista);
+    lista.setAccessibleName(QString(titulo).remove(u'&').remove(u':'));
+    columna.addWidget(&etiqueta);
+    columna.addWidget(&lista, 1);
+}
+
+} // namespace
+
+PaginaInicio::PaginaInicio(const QList<Ejemplo>& ejemplos, QWidget* padre) : QWidget(padre) {
+    setAccessibleName(QStringLiteral("Página de inicio"));
+    todo_.setContentsMargins(24, 16, 24, 12);
+    ponTitulo();
+    todo_.addLayout(&columnas_, 1);
+    columnas_.setHorizontalSpacing(24);
+    ponNuevos();
+    ponEjemplos(ejemplos);
+    ponRecientes();
+    ponPie();
+    setLayout(&todo_);
+}
+
+void PaginaInicio::ponTitulo() {
+    todo_.addWidget(&rotulo(QStringLiteral("Norvik"), 2.2));
+    lema_.setText(QStringLiteral("Escriba un lenguaje y véalo trabajar mientras lo escribe."));
+    lema_.setTextFormat(Qt::PlainText);
+    todo_.addWidget(&lema_);
+    todo_.addSpacing(8);
+}
+
+QVBoxLayout& PaginaInicio::columna(int numero, const QString& titulo) {
+    auto& columna = norvik::nuevo<QVBoxLayout>();
+    columnas_.addLayout(&columna, 0, numero);
+    columnas_.setColumnStretch(numero, 1);
+    columna.addWidget(&rotulo(titulo, 1.2));
+    return columna;
+}
+
+void PaginaInicio::boton(QVBoxLayout& columna, const QString& titulo, const QString& explicacion,
+                         const std::function<void()>& orden) {
+    auto& boton = norvik::nuevo<QCommandLinkButton>(titulo, explicacion);
+    boton.setAccessibleDescription(explicacion);
+    connect(&boton, &QPushButton::clicked, this, orden);
+    columna.addWidget(&boton);
+}
+
+void PaginaInicio::ponNuevos() {
+    QVBoxLayout& suya = columna(0, QStringLiteral("Un lenguaje nuevo"));
+    for (const Plantilla& p : plantillas)
+        boton(suya, QString::fromUtf8(p.titulo), QString::fromUtf8(p.explicacion),
+              [this, &p] { emit nuevo(p); });
+    suya.addStretch(1);
+}
+
+void PaginaInicio::ponEjemplos(const QList<Ejemplo>& ejemplos) {
+    QVBoxLayout& suya = columna(1, QStringLiteral("Aprender"));
+    boton(suya, QStringLiteral("Visita guiada"), QStringLiteral("De un conflicto a su cura, en siete pasos"),
+          [this] { emit pideVisita(); });
+    if (ejemplos.isEmpty()) return suya.addStretch(1);
+    auto& lista = norvik::nuevo<QListWidget>();
+    ponLista(suya, lista, QStringLiteral("E&jemplos:"));
+    for (const Ejemplo& e : ejemplos) lista.addItem(e.nombre);
+    lista.setCurrentRow(0);
+    connect(&lista, &QListWidget::itemActivated, this, [this, &lista, ejemplos](const QListWidgetItem* fila) {
+        emit ejemplo(ejemplos.at(lista.row(fila)));
+    });
+}
+
+void PaginaInicio::ponRecientes() {
+    QVBoxLayout& suya = columna(2, QStringLiteral("Seguir"));
+    boton(suya, QStringLiteral("Abrir un lenguaje…"), QStringLiteral("Una especificación (.nvk)"),
+          [this] { emit pideAbrir(); });
+    ponLista(suya, recientes_, QStringLiteral("&Recientes:"));
+    connect(&recientes_, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* fila) { emit reciente(fila->data(Qt::UserRole).toString()); });
+}
+
+void PaginaInicio::ponPie() {
+    auto& pie = norvik::nuevo<QHBoxLayout>();
+    const auto pon = [&](const QString& titulo, void (PaginaInicio::*senal)()) {
+        auto& boton = norvik::nuevo<QPushButton>(titulo);
+        connect(&boton, &QPushButton::clicked, this, senal);
+        pie.addWidget(&boton);
+    };
+    pon(QStringLiteral("&Manual"), &PaginaInicio::pideManual);
+    pon(QStringLiteral("&Teclas"), &PaginaInicio::pideTeclas);
+    pon(QStringLiteral("Ir al &formulario"), &PaginaInicio::pideFormulario);
+    pie.addStretch(1);
+    siempre_.setText(QStringLiteral("Enseñar esta página al &empezar"));
+    connect(&siempre_, &QCheckBox::toggled, this, &PaginaInicio::siempre);
+    pie.addWidget(&siempre_);
+    todo_.addLayout(&pie);
+}
+
+void PaginaInicio::ponRecientes(const QStringList& ficheros) {
+    recientes_.clear();
+    for (const QString& fichero : ficheros) {
+        if (!QFileInfo::exists(fichero)) continue;
+        auto& fila = norvik::nuevo<QListWidgetItem>(QFileInfo(fichero).fileName(), &recientes_);
+        fila.setData(Qt::UserRole, fichero);
+        fila.setToolTip(ayudaLlana(fichero));
+    }
+}
+
+} // namespace norvik::taller
