@@ -155,7 +155,7 @@ TEST(AnfitrionHostilAyudas, LosReceptoresCambianLoQuePasa) {
         }
 }
 
-TEST(AnfitrionHostilAyudas, LosReceptoresDeLasAyudas) {
+TEST(AnfitrionHostilAyudas, LosReceptoresInsertanCarganLanzanYBorran) {
     const Accion inserta = [](Hostil& h) { h.norvik->SelText("9\n9"); };
     const Accion carga = [](Hostil& h) {
         try {
@@ -164,20 +164,24 @@ TEST(AnfitrionHostilAyudas, LosReceptoresDeLasAyudas) {
         } catch (const ArgumentoNoValido&) { // it is being loaded by another
         }
     };
-    for (const Accion& accion : {inserta, carga})
-        enTodos(
-            {&deLasAyudas}, accion,
-            [](Hostil& h, const std::string& caso, bool lanzado) {
-                EXPECT_FALSE(lanzado) << caso;
-                h.servicios.mensajes.clear(); // a language that is no more what was asked for is told
-                compruebaQueTodoConcuerda(h, caso);
-            },
-            true);
     const Operaciones deTeclas = teclas();
-    for (const Operaciones* const operaciones : {&deLasAyudas, &deTeclas}) {
+    const std::pair<const Operaciones*, bool> casos[] = {
+        {&deLasAyudas, true}, {&deTeclas, true}, {&deTeclas, false}};
+    for (const auto& [operaciones, conAyudas] : casos) {
+        SCOPED_TRACE(conAyudas ? "con ayudas" : "sin ayudas");
+        for (const Accion& accion : {inserta, carga})
+            enTodos(
+                {operaciones}, accion,
+                [](Hostil& h, const std::string& caso, bool lanzado) {
+                    EXPECT_FALSE(lanzado) << caso;
+                    h.servicios.mensajes.clear(); // a language that is no more what was asked for is told
+                    compruebaQueTodoConcuerda(h, caso);
+                },
+                conAyudas);
         enTodos(
             {operaciones}, [](Hostil& h) { borra(h.norvik); },
-            [](Hostil& h, const std::string& caso, bool) { EXPECT_TRUE(h.norvik.isNull()) << caso; }, true);
+            [](Hostil& h, const std::string& caso, bool) { EXPECT_TRUE(h.norvik.isNull()) << caso; },
+            conAyudas);
         enTodos(
             {operaciones}, [](Hostil&) { throw Desbordamiento(); },
             [](Hostil& h, const std::string& caso, bool lanzado) {
@@ -186,6 +190,6 @@ TEST(AnfitrionHostilAyudas, LosReceptoresDeLasAyudas) {
                 h.servicios.mensajes.clear();
                 compruebaQueTodoConcuerda(h, caso);
             },
-            true);
+            conAyudas);
     }
 }
