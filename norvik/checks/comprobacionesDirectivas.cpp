@@ -67,11 +67,11 @@ private:
         if (!asocia && linea.palabra != u"conflictos") return;
         if (directivas_.tabla.metodo == Metodo::Clasico) anota(Codigo::DirectivaSinEfecto, linea, {}, {});
         if (!asocia) return;
-        for (const std::u16string& token : nombresDe(linea.valor)) {
+        for (const std::u16string_view token : nombresDe(linea.valor)) {
             if (tokens_.contains(token)) continue;
             Textos esperados = cercano(token, tokens_);
             if (esperados.empty()) esperados = {u"un token definido"};
-            anota(Codigo::DirectivaIncorrecta, linea, token, std::move(esperados));
+            anota(Codigo::DirectivaIncorrecta, linea, std::u16string(token), std::move(esperados));
         }
     }
 

@@ -7,6 +7,7 @@
 
 #include "norvik/base/palabras.hpp"
 #include "norvik/lexer/defectoDefinicion.hpp"
+#include "norvik/lexer/expansion.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/lexer/reconocedor.hpp"
 
@@ -36,17 +37,10 @@ bool esComentario(const Definicion& d) {
     return d.tipo == Norvik_ComentarioBloque || d.tipo == Norvik_ComentarioLinea;
 }
 
-// What stands in a text as <name>.
-void anotaReferencias(std::u16string_view texto, std::set<std::u16string_view>& nombres) {
-    for (std::size_t i = texto.find(u'<'); i < texto.size(); i = texto.find(u'<', i + 1))
-        if (const std::size_t fin = texto.find_first_of(u"<>", i + 1);
-            fin < texto.size() && texto[fin] == u'>')
-            nombres.insert(texto.substr(i + 1, fin - i - 1));
-}
-
 void compruebaUsos(const FuenteEspecificacion& fuente, std::vector<Diagnostico>& hallazgos) {
     std::set<std::u16string_view> usados;
-    for (const Definicion& d : fuente.definiciones) anotaReferencias(d.texto, usados);
+    for (const Definicion& d : fuente.definiciones)
+        for (const std::u16string_view nombre : referenciasDe(d.texto)) usados.insert(nombre);
     for (const FuenteEspecificacion::Regla& regla : fuente.reglas)
         for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
     std::set<std::u16string_view> dichos;

@@ -143,4 +143,21 @@ std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
     return Expansor(texto, definiciones).expande();
 }
 
+/// Escapes count as they do when it is expanded.
+std::vector<std::u16string_view> referenciasDe(std::u16string_view texto) {
+    std::vector<std::u16string_view> nombres;
+    std::optional<std::size_t> inicio;
+    bool escape = false;
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const char16_t c = texto[i];
+        if (c == u'<' && !inicio && !escape) inicio = i + 1;
+        if (c == u'>' && inicio && !escape) {
+            nombres.push_back(texto.substr(*inicio, i - *inicio));
+            inicio.reset();
+        }
+        escape = c == u'\\';
+    }
+    return nombres;
+}
+
 } // namespace norvik::inline v0_2

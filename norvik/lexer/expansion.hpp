@@ -46,4 +46,7 @@ inline constexpr std::size_t maximoPatron = 32767;
 std::variant<Expansion, ErrorExpansion> expande(std::u16string_view texto,
                                                 const DefinicionesTokens& definiciones);
 
+/// The names between angle brackets of a definition text, in its order: views into it.
+std::vector<std::u16string_view> referenciasDe(std::u16string_view texto);
+
 } // namespace norvik::inline v0_2

@@ -10,14 +10,11 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::u16string_view marca = u"'% ";
-constexpr std::u16string_view distingue = u"distingue";
-
 // Nothing for a line of another form.
 std::optional<LineaDirectiva> directivaEn(std::u16string_view linea) {
     constexpr std::u16string_view separador = u": ";
-    if (!linea.starts_with(marca)) return std::nullopt;
-    linea.remove_prefix(marca.size());
+    if (!linea.starts_with(marcaDeDirectiva)) return std::nullopt;
+    linea.remove_prefix(marcaDeDirectiva.size());
     const std::size_t fin = linea.find(separador);
     if (fin == std::u16string_view::npos || linea.substr(0, fin).find_first_of(u" \t") < fin)
         return std::nullopt;
@@ -33,6 +30,12 @@ std::optional<std::int32_t> numeroDe(std::u16string_view cifras) {
         numero = numero * 10 + (c - u'0');
     }
     return numero;
+}
+
+NivelPrecedencia nivelDe(const LineaDirectiva& linea) {
+    NivelPrecedencia nivel{*asociatividadDe(linea.palabra), {}};
+    for (const std::u16string_view token : nombresDe(linea.valor)) nivel.tokens.emplace_back(token);
+    return nivel;
 }
 
 } // namespace
@@ -66,7 +69,8 @@ std::vector<LineaDirectiva> lineasDeDirectivas(std::u16string_view texto) {
 std::u16string conMetodo(std::u16string_view especificacion, Metodo metodo) {
     constexpr std::u16string_view palabra = u"metodo";
     const auto nombre = std::ranges::find(metodos, metodo, [](const auto& par) { return par.second; })->first;
-    const std::u16string linea = std::u16string(marca).append(palabra).append(u": ").append(nombre);
+    const std::u16string linea =
+        std::u16string(marcaDeDirectiva).append(palabra).append(u": ").append(nombre);
     std::u16string otra(especificacion);
     bool dicho = false;
     for (const LineaDirectiva& suya : lineasDeDirectivas(cabecera(especificacion))) {
@@ -86,12 +90,12 @@ std::optional<Asociatividad> asociatividadDe(std::u16string_view palabra) {
     return std::nullopt;
 }
 
-std::vector<std::u16string> nombresDe(std::u16string_view valor) {
+std::vector<std::u16string_view> nombresDe(std::u16string_view valor) {
     constexpr std::u16string_view blancos = u" \t";
-    std::vector<std::u16string> nombres;
+    std::vector<std::u16string_view> nombres;
     for (std::size_t desde = valor.find_first_not_of(blancos); desde < valor.size();) {
         const std::size_t fin = std::min(valor.find_first_of(blancos, desde), valor.size());
-        nombres.emplace_back(valor.substr(desde, fin - desde));
+        nombres.push_back(valor.substr(desde, fin - desde));
         desde = valor.find_first_not_of(blancos, fin);
     }
     return nombres;
@@ -99,7 +103,7 @@ std::vector<std::u16string> nombresDe(std::u16string_view valor) {
 
 bool vale(const LineaDirectiva& linea) {
     if (linea.palabra == u"metodo") return metodoLlamado(linea.valor).has_value();
-    if (linea.palabra == u"mayusculas") return linea.valor == distingue;
+    if (linea.palabra == u"mayusculas") return linea.valor == valorDeMayusculas;
     if (linea.palabra == u"conflictos") return numeroDe(linea.valor).has_value();
     return asociatividadDe(linea.palabra) && !nombresDe(linea.valor).empty();
 }
@@ -116,8 +120,7 @@ Directivas leeDirectivas(std::u16string_view especificacion, Lugares::Unidad uni
             directivas.conflictos = {*numeroDe(linea.valor),
                                      Lugares(especificacion, unidad).rango(linea.inicio, linea.fin)};
         else
-            directivas.tabla.precedencias.push_back(
-                {*asociatividadDe(linea.palabra), nombresDe(linea.valor)});
+            directivas.tabla.precedencias.push_back(nivelDe(linea));
     }
     return directivas;
 }

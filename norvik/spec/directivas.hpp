@@ -46,8 +46,11 @@ std::vector<LineaDirectiva> lineasDeDirectivas(std::u16string_view texto);
 /// The blank lines and comments before the first definition.
 std::u16string_view cabecera(std::u16string_view especificacion);
 
+/// What each begins with.
+inline constexpr std::u16string_view marcaDeDirectiva = u"'% ";
 inline constexpr std::array<std::u16string_view, 6> palabrasDeDirectivas{
     u"metodo", u"mayusculas", u"izquierda", u"derecha", u"sinasociar", u"conflictos"};
+inline constexpr std::u16string_view valorDeMayusculas = u"distingue";
 
 /// A specification that asks for a method and is else as it was, line ends included.
 std::u16string conMetodo(std::u16string_view especificacion, Metodo metodo);
@@ -56,7 +59,7 @@ std::u16string conMetodo(std::u16string_view especificacion, Metodo metodo);
 bool vale(const LineaDirectiva& linea);
 /// Says of the known words how their tokens associate.
 std::optional<Asociatividad> asociatividadDe(std::u16string_view palabra);
-/// The names of a value, which blanks separate.
-std::vector<std::u16string> nombresDe(std::u16string_view valor);
+/// The names of a value, which blanks separate: views into it.
+std::vector<std::u16string_view> nombresDe(std::u16string_view valor);
 
 } // namespace norvik::inline v0_2
