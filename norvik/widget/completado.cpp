@@ -15,8 +15,8 @@
 
 namespace norvik {
 
-Completado::Completado(CajaTextoQt& caja, std::function<Lenguaje()> lenguaje)
-    : caja_(caja), lenguaje_(std::move(lenguaje)), lista_(&caja.vista()) {
+Completado::Completado(CajaTextoQt& caja, Propone propone)
+    : caja_(caja), propone_(std::move(propone)), lista_(&caja.vista()) {
     lista_.setObjectName(QStringLiteral("completado"));
     lista_.setAccessibleName(QStringLiteral("Lo que puede seguir"));
     lista_.setWindowFlags(Qt::ToolTip);
@@ -67,8 +67,7 @@ bool Completado::pulsa(const QKeyEvent& tecla) {
 
 void Completado::muestra() {
     const std::int32_t cursor = caja_.inicioSeleccion();
-    const Continuaciones siguen =
-        continuaciones(lenguaje_(), caja_.texto(), static_cast<std::size_t>(cursor));
+    const Continuaciones siguen = propone_(caja_.texto(), static_cast<std::size_t>(cursor));
     inicio_ = static_cast<std::int32_t>(siguen.inicio);
     llena(siguen);
     if (lista_.count() == 0) return lista_.hide();

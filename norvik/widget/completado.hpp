@@ -7,8 +7,11 @@
 #include <QListWidget>
 #include <QObject>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string_view>
+#include <utility>
 
 class QKeyEvent;
 
@@ -21,7 +24,13 @@ class CajaTextoQt;
 /// text. Kinds of tokens that are written in many ways are named, and cannot be taken.
 class Completado final : public QObject {
 public:
-    Completado(CajaTextoQt& caja, std::function<Lenguaje()> lenguaje);
+    /// What can follow at a position of a text.
+    using Propone = std::function<Continuaciones(std::u16string_view texto, std::size_t posicion)>;
+
+    Completado(CajaTextoQt& caja, Propone propone);
+
+    /// From here on it asks somebody else.
+    void preguntaA(Propone propone) { propone_ = std::move(propone); }
 
     void permite(bool permitido);
     /// To be called when the editor is up to date.
@@ -39,7 +48,7 @@ private:
     void toma();
 
     CajaTextoQt& caja_;
-    const std::function<Lenguaje()> lenguaje_;
+    Propone propone_;
     QListWidget lista_;
     std::int32_t inicio_ = 0; ///< of what is completed
     bool permitido_ = false;

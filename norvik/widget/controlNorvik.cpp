@@ -45,7 +45,11 @@ struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
           caja(&control), fondo(control.control_, caja),
-          completado(caja, [&control] { return control.control_.lenguaje(); }), busqueda(control, resaltes) {}
+          completado(caja,
+                     [&control](std::u16string_view texto, std::size_t posicion) {
+                         return continuaciones(control.control_.lenguaje(), texto, posicion);
+                     }),
+          busqueda(control, resaltes) {}
 
     ElementosControl elementos;
     SistemaQt propio;
@@ -345,6 +349,11 @@ void ControlNorvik::reduce() {
 
 void ControlNorvik::ponDiagnosticos(const std::vector<Diagnostico>& diagnosticos) {
     piezas_->diagnosticos.pon(diagnosticos);
+}
+
+void ControlNorvik::proponCon(
+    std::function<Continuaciones(std::u16string_view texto, std::size_t posicion)> propone) {
+    piezas_->completado.preguntaA(std::move(propone));
 }
 
 void ControlNorvik::irA(const Rango& rango) {

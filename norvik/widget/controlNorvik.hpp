@@ -14,11 +14,13 @@
 #include <QWidget>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -251,6 +253,9 @@ public:
     /// en una ayuda, y una marca en el borde izquierdo. Los rangos cuentan las unidades del texto, como los
     /// que da `analiza(lenguaje, control().Text())`. Se mueven con el texto, y se van con sus caracteres.
     void ponDiagnosticos(const std::vector<norvik::Diagnostico>& diagnosticos);
+    /// Lo que propone el completado en una posición del texto (desde 0), en lugar de lo que dice la tabla de
+    /// su lenguaje (`continuaciones`). Lo que lance se cuenta como `fallo`.
+    void proponCon(std::function<Continuaciones(std::u16string_view texto, std::size_t posicion)> propone);
     /// Carga el lenguaje de una especificación, o el de un fichero con una especificación o con un módulo de
     /// carga («.bas»), en lugar del que hay, y colorea el texto con él. Da lo que está mal en ella; con
     /// errores el lenguaje anterior se queda. Un fichero que no se puede leer, o una especificación que no
