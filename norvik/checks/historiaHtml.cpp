@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 
-// A tree is drawn with its leaves side by side on the lines of their levels, and each variable over the
-// middle of its children: nodes stand in the tree children first, so that one pass over them places all.
 #include "norvik/checks/historiaHtml.hpp"
 
 #include "norvik/base/html.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/palabrasHistoria.hpp"
 #include "norvik/checks/recorridoEjemplo.hpp"
+#include "norvik/checks/trazadoArbol.hpp"
 
-#include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -28,30 +26,32 @@ std::u16string codigo(std::u16string_view texto) {
 
 class Dibujo {
 public:
-    explicit Dibujo(const ArbolEjemplo& arbol)
-        : arbol_(arbol), centros_(arbol.nodos.size()), niveles_(arbol.nodos.size()) {
-        for (std::size_t i = arbol.nodos.size(); i > 0; --i)
-            for (const std::int32_t hijo : arbol.nodos[i - 1].hijos)
-                niveles_[static_cast<std::size_t>(hijo)] = niveles_[i - 1] + 1;
-        coloca();
+    explicit Dibujo(const ArbolEjemplo& arbol) : arbol_(arbol) {
+        std::vector<NodoPorTrazar> porTrazar;
+        recorre(
+            arbol, [](const NodoEjemplo&, std::size_t) {},
+            [&](const NodoEjemplo& nodo) {
+                nodos_.push_back(&nodo);
+                porTrazar.push_back({largo(nodo), nodo.hijos.size()});
+            });
+        trazado_ = trazaArbol(porTrazar, margen);
     }
 
     std::u16string svg() const {
-        const int alto = (*std::ranges::max_element(niveles_) + 1) * altoNivel;
-        std::u16string html = u"<svg role=\"img\" width=\"" + aTexto(ancho_) + u"\" height=\"" +
-                              aTexto(alto) + u"\" viewBox=\"0 0 " + aTexto(ancho_) + u" " + aTexto(alto) +
+        const std::u16string ancho = aTexto(trazado_.ancho);
+        const std::u16string alto = aTexto(static_cast<int>(trazado_.niveles) * altoNivel);
+        std::u16string html = u"<svg role=\"img\" width=\"" + ancho + u"\" height=\"" + alto +
+                              u"\" viewBox=\"0 0 " + ancho + u" " + alto +
                               u"\" style=\"max-width:100%;height:auto\" aria-label=\"" +
-                              escapaHtml(enPalabras()) + u"\">\n";
+                              escapaHtml(palabras::arbol(arbol_)) + u"\">\n";
         html += u"<g stroke=\"currentColor\" stroke-width=\"1\">";
-        for (std::size_t i = 0; i < arbol_.nodos.size(); ++i)
-            for (const std::int32_t hijo : arbol_.nodos[i].hijos)
-                html += rama(i, static_cast<std::size_t>(hijo));
+        for (std::size_t i = 0; i + 1 < nodos_.size(); ++i) html += rama(i);
         html += u"</g>\n<g fill=\"currentColor\" font-family=\"monospace\" font-size=\"14\" "
                 u"text-anchor=\"middle\">";
-        for (std::size_t i = 0; i < arbol_.nodos.size(); ++i)
-            html += u"<text x=\"" + aTexto(centros_[i]) + u"\" y=\"" + aTexto(base(i)) + u"\"" +
-                    (arbol_.nodos[i].regla != 0 ? u" font-weight=\"bold\">" : u">") +
-                    rotulo(arbol_.nodos[i]) + u"</text>";
+        for (std::size_t i = 0; i < nodos_.size(); ++i)
+            html += u"<text x=\"" + aTexto(trazado_.sitios[i].centro) + u"\" y=\"" + aTexto(base(i)) + u"\"" +
+                    (nodos_[i]->regla != 0 ? u" font-weight=\"bold\">" : u">") + rotulo(*nodos_[i]) +
+                    u"</text>";
         return html + u"</g>\n</svg>\n";
     }
 
@@ -68,54 +68,20 @@ private:
         const std::size_t letras = nodo.simbolo.size() + (nodo.regla != 0 && nodo.hijos.empty() ? 4 : 0);
         return static_cast<int>(letras) * anchoLetra;
     }
-    int base(std::size_t nodo) const { return niveles_[nodo] * altoNivel + 20; }
-
-    // What has no children takes the next place to the right; a long name pushes what follows it.
-    void coloca() {
-        int libre = margen;
-        recorre(
-            arbol_, [](const NodoEjemplo&, std::size_t) {},
-            [&](const NodoEjemplo& nodo) {
-                const auto cual = static_cast<std::size_t>(&nodo - arbol_.nodos.data());
-                if (nodo.hijos.empty()) {
-                    centros_[cual] = libre + largo(nodo) / 2;
-                    libre += largo(nodo) + 2 * margen;
-                    return;
-                }
-                const auto primero = static_cast<std::size_t>(nodo.hijos.front());
-                const auto ultimo = static_cast<std::size_t>(nodo.hijos.back());
-                centros_[cual] =
-                    std::max((centros_[primero] + centros_[ultimo]) / 2, largo(nodo) / 2 + margen);
-                libre = std::max(libre, centros_[cual] + largo(nodo) / 2 + 2 * margen);
-            });
-        ancho_ = libre;
+    int base(std::size_t nodo) const {
+        return static_cast<int>(trazado_.sitios[nodo].nivel) * altoNivel + 20;
     }
 
-    std::u16string rama(std::size_t padre, std::size_t hijo) const {
-        return u"<line x1=\"" + aTexto(centros_[padre]) + u"\" y1=\"" + aTexto(base(padre) + 5) +
-               u"\" x2=\"" + aTexto(centros_[hijo]) + u"\" y2=\"" + aTexto(base(hijo) - 15) + u"\"/>";
-    }
-
-    // «E de (E mas E)» for who hears it.
-    std::u16string enPalabras() const {
-        std::u16string texto;
-        recorre(
-            arbol_,
-            [&](const NodoEjemplo& nodo, std::size_t /*nivel*/) {
-                if (!texto.empty() && !texto.ends_with(u'(')) texto += u' ';
-                texto += nodo.simbolo;
-                if (nodo.regla != 0) texto += nodo.hijos.empty() ? u" vacía" : u", que es (";
-            },
-            [&](const NodoEjemplo& nodo) {
-                if (nodo.regla != 0 && !nodo.hijos.empty()) texto += u')';
-            });
-        return texto;
+    std::u16string rama(std::size_t hijo) const {
+        const std::size_t padre = trazado_.sitios[hijo].padre;
+        return u"<line x1=\"" + aTexto(trazado_.sitios[padre].centro) + u"\" y1=\"" +
+               aTexto(base(padre) + 5) + u"\" x2=\"" + aTexto(trazado_.sitios[hijo].centro) + u"\" y2=\"" +
+               aTexto(base(hijo) - 15) + u"\"/>";
     }
 
     const ArbolEjemplo& arbol_;
-    std::vector<int> centros_; // of each node
-    std::vector<int> niveles_;
-    int ancho_ = 0;
+    std::vector<const NodoEjemplo*> nodos_; // children before their parent
+    TrazadoArbol trazado_;
 };
 
 std::u16string lado(const HistoriaConflicto& historia, std::size_t cual) {

@@ -3,6 +3,7 @@
 #include "norvik/checks/palabrasHistoria.hpp"
 
 #include "norvik/base/texto.hpp"
+#include "norvik/checks/recorridoEjemplo.hpp"
 
 namespace norvik::inline v0_2::palabras {
 
@@ -179,6 +180,21 @@ std::u16string_view nombreDe(Cura cura) {
         return u"reescribir";
     }
     return {};
+}
+
+std::u16string arbol(const ArbolEjemplo& arbol) {
+    std::u16string texto;
+    recorre(
+        arbol,
+        [&](const NodoEjemplo& nodo, std::size_t /*nivel*/) {
+            if (!texto.empty() && !texto.ends_with(u'(')) texto += u' ';
+            texto += nodo.simbolo;
+            if (nodo.regla != 0) texto += nodo.hijos.empty() ? u" vacía" : u", que es (";
+        },
+        [&](const NodoEjemplo& nodo) {
+            if (nodo.regla != 0 && !nodo.hijos.empty()) texto += u')';
+        });
+    return texto;
 }
 
 std::u16string frase(const EjemploConflicto& ejemplo) {

@@ -24,6 +24,8 @@ std::u16string remedio(const HistoriaConflicto& historia);
 /// "ambigua", "sino-colgante": the names by which programs know them.
 std::u16string_view nombreDe(HistoriaConflicto::Clase clase);
 std::u16string_view nombreDe(HistoriaConflicto::Cura cura);
+/// A tree for who hears it: «E, que es (E mas E)».
+std::u16string arbol(const ArbolEjemplo& arbol);
 /// "a b • c"
 std::u16string frase(const EjemploConflicto& ejemplo);
 

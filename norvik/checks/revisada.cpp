@@ -124,11 +124,13 @@ const gramatica* Revisada::laGramatica() const {
     return lenguaje && lenguaje->tieneGramatica() ? &lenguaje->datos().reglas : nullptr;
 }
 
-Revisada revisada(std::u16string_view especificacion, const OpcionesCompilacion& opciones) {
+Revisada revisada(std::u16string_view especificacion, const OpcionesCompilacion& opciones,
+                  ErroresBuscados errores) {
     Revisada revision;
     revision.directivas = directivasDe(especificacion, opciones, Lugares::Unidad::Utf16);
     const Directivas& directivas = revision.directivas;
-    Analisis analisis = analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion});
+    Analisis analisis =
+        analiza(lenguajeDeEspecificaciones(), especificacion, {opciones.cancelacion, errores});
     if (!analisis) {
         revision.hallazgos = std::move(analisis.diagnosticos);
         situaNombres(revision.hallazgos, especificacion);

@@ -4,6 +4,7 @@
 
 #include "norvik/base/diagnostico.hpp"
 #include "norvik/checks/fuente.hpp"
+#include "norvik/checks/revision.hpp"
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
@@ -26,8 +27,13 @@ struct Revisada {
     const gramatica* laGramatica() const;
 };
 
-/// Does what `revisa` does, and gives all of it.
-Revisada revisada(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
+/// Does what `revisa` does, and gives all of it. Of a text that cannot be read it may look for the first
+/// error alone, which takes no time.
+Revisada revisada(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {},
+                  ErroresBuscados errores = ErroresBuscados::Todos);
+
+/// What was found, in the order of the text, each conflict with its stories.
+std::vector<Hallazgo> conHistorias(const Revisada& revision, const LimitesHistorias& limites = {});
 
 /// Puts them in the order of the text.
 void ordena(std::vector<Diagnostico>& hallazgos);

@@ -61,9 +61,12 @@ std::vector<Diagnostico> revisa(std::u16string_view especificacion, const Opcion
 std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
                                          const OpcionesCompilacion& opciones,
                                          const LimitesHistorias& limites) {
-    Revisada revision = revisada(especificacion, opciones);
+    return conHistorias(revisada(especificacion, opciones), limites);
+}
+
+std::vector<Hallazgo> conHistorias(const Revisada& revision, const LimitesHistorias& limites) {
     std::vector<Hallazgo> hallazgos;
-    for (Diagnostico& diagnostico : revision.hallazgos) hallazgos.push_back({std::move(diagnostico), {}});
+    for (const Diagnostico& diagnostico : revision.hallazgos) hallazgos.push_back({diagnostico, {}});
     if (const gramatica* g = revision.laGramatica())
         cuenta(*g, revision.directivas.tabla, limites, hallazgos);
     std::ranges::stable_sort(hallazgos, {},
