@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace norvik::taller {
@@ -34,6 +35,10 @@ public:
     /// `propuesto` is a path or a name; what has no ending of its own gets `extension`, when there is one.
     virtual std::optional<QString> eligeParaGuardar(const QString& titulo, const QString& filtros,
                                                     const QString& propuesto, const QString& extension) = 0;
+    /// Another name in the place of `ahora`, of which `reparos` has nothing to say, or nothing when the user
+    /// gives up.
+    virtual std::optional<QString> pideNombre(const QString& titulo, const QString& ahora,
+                                              const std::function<QString(const QString&)>& reparos) = 0;
 };
 
 } // namespace norvik::taller

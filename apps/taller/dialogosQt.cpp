@@ -2,10 +2,16 @@
 
 #include "dialogosQt.hpp"
 
+#include "norvik/platform/qt/fallos.hpp"
+
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace norvik::taller {
 
@@ -62,6 +68,40 @@ std::optional<QString> DialogosQt::eligeParaGuardar(const QString& titulo, const
     dialogo.setDefaultSuffix(extension);
     if (!propuesto.isEmpty()) dialogo.selectFile(propuesto);
     return fichero(dialogo, QStringLiteral("&Guardar"));
+}
+
+/// What is wrong with the name stands below it while it is written.
+std::optional<QString> DialogosQt::pideNombre(const QString& titulo, const QString& ahora,
+                                              const std::function<QString(const QString&)>& reparos) {
+    QDialog dialogo(encimaDe());
+    dialogo.setWindowTitle(titulo);
+    QVBoxLayout columna(&dialogo);
+    QLabel rotulo(QStringLiteral("&Nombre nuevo:"));
+    QLineEdit campo(ahora);
+    QLabel motivo;
+    QDialogButtonBox botones;
+    rotulo.setBuddy(&campo);
+    motivo.setTextFormat(Qt::PlainText);
+    motivo.setWordWrap(true);
+    motivo.setMinimumWidth(campo.fontMetrics().averageCharWidth() * 50);
+    QPushButton& aceptar = *botones.addButton(QStringLiteral("&Cambiar"), QDialogButtonBox::AcceptRole);
+    botones.addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
+    for (QWidget* const pieza : std::initializer_list<QWidget*>{&rotulo, &campo, &motivo, &botones})
+        columna.addWidget(pieza);
+    const auto comprueba = [&] {
+        sinFallos([&] {
+            const QString dicho = reparos(campo.text());
+            motivo.setText(dicho);
+            campo.setAccessibleDescription(dicho);
+            aceptar.setEnabled(dicho.isEmpty());
+        });
+    };
+    QObject::connect(&campo, &QLineEdit::textChanged, &dialogo, comprueba);
+    QObject::connect(&botones, &QDialogButtonBox::accepted, &dialogo, &QDialog::accept);
+    QObject::connect(&botones, &QDialogButtonBox::rejected, &dialogo, &QDialog::reject);
+    comprueba();
+    campo.selectAll();
+    return dialogo.exec() == QDialog::Accepted ? std::optional(campo.text()) : std::nullopt;
 }
 
 } // namespace norvik::taller

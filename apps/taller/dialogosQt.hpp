@@ -20,6 +20,8 @@ public:
     std::optional<QString> eligeParaAbrir(const QString& titulo, const QString& filtros) override;
     std::optional<QString> eligeParaGuardar(const QString& titulo, const QString& filtros,
                                             const QString& propuesto, const QString& extension) override;
+    std::optional<QString> pideNombre(const QString& titulo, const QString& ahora,
+                                      const std::function<QString(const QString&)>& reparos) override;
 
 private:
     QWidget* encimaDe() const;

@@ -7,6 +7,7 @@
 // Alone, since it replaces the operators of the whole program.
 
 #include "apoyo/carpetaTemporal.hpp"
+#include "lenguaje/ventanaLenguaje.hpp"
 #include "norvik/base/codificacion.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
@@ -28,6 +29,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstdlib>
 #include <functional>
@@ -40,9 +42,9 @@ extern "C" const char etext;              // NOLINT
 
 namespace {
 
-std::size_t asignaciones = 0;
-std::size_t laQueFalla = 0; // counted from 1; 0: none
-bool contando = false;
+std::atomic<std::size_t> asignaciones = 0; // other threads make some
+std::atomic<std::size_t> laQueFalla = 0;   // counted from 1; 0: none
+std::atomic<bool> contando = false;
 std::size_t inyectados = 0;
 
 bool falla(const void* quien) {
@@ -207,15 +209,19 @@ void prueba(const Hacer& hacer, const std::string& nombre, const Operacion& oper
     }
 }
 
-void enTodas(const Hacer& hacer) {
+void enTodas(const Hacer& hacer, const std::vector<std::pair<std::string, Operacion>>& operaciones) {
     const bool todas = std::getenv("NORVIK_ASIGNACIONES") != nullptr; // NOLINT: one thread
     constexpr std::size_t muestra = 6;
-    for (const auto& [nombre, operacion] : operacionesDe(hacer)) {
+    for (const auto& [nombre, operacion] : operaciones) {
         prueba(hacer, nombre, operacion, 0);
-        const std::size_t cuantas = asignaciones;
+        const std::size_t cuantas = asignaciones.load();
         const std::size_t paso = todas ? 1 : std::max<std::size_t>(1, cuantas / muestra);
         for (std::size_t n = 1; n <= cuantas; n += paso) prueba(hacer, nombre, operacion, n);
     }
+}
+
+void enTodas(const Hacer& hacer) {
+    enTodas(hacer, operacionesDe(hacer));
 }
 
 // ---- the windows
@@ -276,6 +282,49 @@ Hacer hacer(std::function<std::unique_ptr<Ventana>(Disenio&)> hazla) {
 
 TEST(Ventanas, Taller) {
     enTodas([] { return std::make_unique<Taller>(); });
+}
+
+/// The language window, with something in each of its panels.
+struct Lenguaje final : Escena {
+    Lenguaje() {
+        principal.show();
+        principal.empieza(
+            u"'% metodo: lalr\r\nToken si = \"si\";\r\nToken no = \"no\";\r\nToken a = \"a\";\r\n"
+            u"S -> si S | si S no S | a;\r\n",
+            u"si si a no a");
+        static_cast<void>(QTest::qWaitFor([this] { return principal.seguimiento().completo(); }));
+    }
+    QWidget& ventana() override { return principal; }
+
+    apoyo::CarpetaTemporal carpeta;
+    DialogosGuion dialogos;
+    SistemaGuion sistema{dialogos};
+    QSettings ajustes{QString::fromStdString((carpeta / "ajustes.ini").string()), QSettings::IniFormat};
+    VentanaLenguaje principal{sistema, dialogos, ajustes};
+};
+
+/// A panel comes to the front, does what it has to do, and is used.
+void usa(QWidget& ventana, qsizetype cual) {
+    auto& panel = *ventana.findChildren<Panel*>()[cual];
+    panel.show();
+    panel.raise();
+    QTest::qWait(40); // for its thread
+    for (QAbstractItemView* const vista : panel.findChildren<QAbstractItemView*>()) {
+        QTest::keyClick(vista, Qt::Key_Down);
+        QTest::keyClick(vista, Qt::Key_Return);
+    }
+    for (QAbstractButton* const boton : panel.findChildren<QAbstractButton*>()) boton->click();
+    QTest::qWait(10);
+}
+
+TEST(Ventanas, Lenguaje) {
+    const Hacer hacer = [] { return std::make_unique<Lenguaje>(); };
+    std::vector<std::pair<std::string, Operacion>> operaciones = {{"teclas", teclea}, {"cerrar", cierra}};
+    const auto escena = hacer();
+    for (qsizetype i = 0; i < escena->ventana().findChildren<Panel*>().size(); ++i)
+        operaciones.emplace_back(escena->ventana().findChildren<Panel*>()[i]->objectName().toStdString(),
+                                 [i](QWidget& v) { usa(v, i); });
+    enTodas(hacer, operaciones);
 }
 
 TEST(Ventanas, Propiedades) {

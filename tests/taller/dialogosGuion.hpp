@@ -22,6 +22,7 @@ public:
     std::deque<Destino> destinos;
     std::deque<Choque> choques;
     std::deque<QString> ficheros; ///< an empty one gives up
+    std::deque<QString> nombres;
 
     QStringList toma() { return std::exchange(dichos, {}); }
 
@@ -41,6 +42,12 @@ public:
                                             const QString& propuesto, const QString& /*extension*/) override {
         dichos += QStringLiteral("guardar %1 [%2]").arg(titulo, QFileInfo(propuesto).fileName());
         return fichero();
+    }
+    std::optional<QString> pideNombre(const QString& /*titulo*/, const QString& ahora,
+                                      const std::function<QString(const QString&)>& reparos) override {
+        const QString nuevo = siguiente(nombres, {});
+        dichos += QStringLiteral("nombre %1 [%2] %3").arg(ahora, nuevo, reparos(nuevo));
+        return dichos.last().endsWith(u' ') ? std::optional(nuevo) : std::nullopt;
     }
 
 private:

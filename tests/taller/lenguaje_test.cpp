@@ -11,6 +11,7 @@
 #include "ventanaPrincipal.hpp"
 
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
 
 #include <QTest>
 #include <QtWidgets>
@@ -51,7 +52,7 @@ struct LenguajeTest : testing::Test {
         espera();
     }
     void espera() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().alDia(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().completo(); }));
         QApplication::processEvents();
     }
     QWidget& teclado(EditorTexto& editor) { return editor.norvik().caja().ventana(); }
@@ -172,7 +173,7 @@ TEST_F(LenguajeTest, UnaListaLargaNoSeAbreHastaElFondo) {
 
 TEST_F(LenguajeTest, UnConflictoSeCuentaYSeCura) {
     empieza(ambigua, "1+2*3");
-    EXPECT_EQ(problemas(0).size(), 4);
+    EXPECT_EQ(problemas(0).size(), 2 * 4);
     QStringList conflictos;
     for (int vez = 0; vez < 5; ++vez) {
         ventana.tabla().siguiente().click();
@@ -191,6 +192,107 @@ TEST_F(LenguajeTest, UnConflictoSeCuentaYSeCura) {
         u"'% metodo: lalr\r\n'% izquierda: mas\r\n'% izquierda: por\r\nToken num"));
     cursor(texto, u"1+2*");
     EXPECT_EQ(camino(), "E › E › E › num"); // of the product, the second operand of the sum
+}
+
+// By keys alone, from its problem and from its cell.
+TEST_F(LenguajeTest, LaHistoriaDeUnConflictoTieneSusArboles) {
+    empieza(ambigua, "1+2*3");
+    PanelConflicto& panel = ventana.conflicto();
+    QTest::keyClick(&ventana, Qt::Key_3, Qt::ControlModifier);
+    for (int i = 0; i < 3 && lista().currentItem() != fila("Ver el conflicto"); ++i)
+        QTest::keyClick(&lista(), Qt::Key_Down);
+    QTest::keyClick(&lista(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &panel.lista());
+    EXPECT_EQ(panel.lista().count(), 4);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel.palabras().contains("La gramática es ambigua"); }));
+    for (const std::size_t cual : {0U, 1U}) {
+        int variables = 0;
+        for (const QGraphicsItem* const pieza : panel.arbol(cual).scene()->items())
+            if (const auto* const letras = dynamic_cast<const QGraphicsSimpleTextItem*>(pieza))
+                variables += letras->text() == "E" ? 1 : 0;
+        EXPECT_EQ(variables, 5) << cual; // E mas E mas E
+        EXPECT_TRUE(panel.arbol(cual).accessibleDescription().startsWith("E, que es (E")) << cual;
+    }
+    const QString primera = panel.palabras();
+
+    QTest::keyClick(&ventana, Qt::Key_6, Qt::ControlModifier);
+    for (int i = 0; i < 4; ++i) QTest::keyClick(&ventana.tabla().siguiente(), Qt::Key_Space);
+    const QString celda = ventana.tabla().palabras().text(); // «Estado 7, ante «por»: …»
+    QTest::keyClick(&ventana.tabla().vista(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &panel.lista());
+    EXPECT_NE(panel.palabras(), primera);
+    EXPECT_TRUE(panel.palabras().startsWith("En el e" + celda.mid(1).section(':', 0, 0)))
+        << panel.palabras().toStdString();
+
+    QTest::keyClick(&panel.lista(), Qt::Key_Home);
+    const auto curas = panel.curas().findChildren<QPushButton*>();
+    ASSERT_EQ(curas.size(), 2);
+    EXPECT_EQ(curas[0]->text(), "Arreglar: «mas» asocia por la izquierda (Alt+1)");
+    QTest::keyClick(curas[0], Qt::Key_Space);
+    espera();
+    EXPECT_TRUE(especificacion.texto().starts_with(u"'% metodo: lalr\r\n'% izquierda: mas\r\n"));
+    EXPECT_EQ(panel.lista().count(), 3);
+}
+
+TEST_F(LenguajeTest, LosDibujosSalenDeLaVentana) {
+    empieza(suma, "1+2");
+    const auto textosDe = [&](const char* fichero) {
+        QXmlStreamReader xml(QByteArray::fromStdString(apoyo::bytesDe(carpeta / fichero)));
+        QStringList textos;
+        while (!xml.atEnd())
+            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"text")
+                textos += xml.readElementText();
+        return textos;
+    };
+    const struct {
+        Panel& panel;
+        const char* fichero;
+        QStringList textos;
+    } casos[] = {
+        {ventana.arbol(), "a.svg", {"E", "mas", "+", "1"}},
+        {ventana.tabla(), "t.svg", {"mas", "D3", "R3", "0"}},
+        {ventana.diagramas(), "d.svg", {"E", "mas", "num"}},
+    };
+    for (const auto& c : casos) {
+        c.panel.show();
+        c.panel.raise();
+        QApplication::processEvents();
+        for (const char* const nombre : {"x.png", "x.pdf", c.fichero}) {
+            dialogos.ficheros = {QString::fromStdString((carpeta / nombre).string())};
+            for (QAction* const accion : c.panel.actions())
+                if (accion->text() == "Guardar dibujo…") accion->trigger();
+        }
+        EXPECT_TRUE(apoyo::bytesDe(carpeta / "x.png").starts_with("\x89PNG"));
+        EXPECT_TRUE(apoyo::bytesDe(carpeta / "x.pdf").starts_with("%PDF"));
+        const QStringList textos = textosDe(c.fichero);
+        for (const QString& suyo : c.textos)
+            EXPECT_TRUE(textos.contains(suyo))
+                << suyo.toStdString() << ": " << textos.join(' ').toStdString();
+    }
+    for (QAction* const accion : ventana.tabla().actions())
+        if (accion->text() == "Copiar dibujo") accion->trigger();
+    EXPECT_GT(QGuiApplication::clipboard()->image().width(), 100);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("\tmas\tnum\t$\tE\tT\n0\t"));
+}
+
+TEST_F(LenguajeTest, ElArbolDibujadoEligeYSigueAlCursor) {
+    empieza(suma, "1+2");
+    ventana.arbol().maneras().setCurrentIndex(1);
+    VistaDibujo& dibujo = ventana.arbol().dibujo();
+    const auto texto1 = [&](const QString& cual) {
+        for (QGraphicsItem* const pieza : dibujo.scene()->items())
+            if (auto* const letras = dynamic_cast<QGraphicsSimpleTextItem*>(pieza);
+                letras && letras->text() == cual)
+                return letras->sceneBoundingRect().center();
+        return QPointF();
+    };
+    QTest::mouseClick(dibujo.viewport(), Qt::LeftButton, {}, dibujo.mapFromScene(texto1("2")));
+    EXPECT_EQ(texto.norvik().SelText(), "2");
+    EXPECT_EQ(camino(), "E › T › num");
+    ventana.arbol().hide();
+    cursor(texto, u"1");
+    ventana.arbol().show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return camino() == "E › mas"; })); // what it missed
 }
 
 TEST_F(LenguajeTest, LosProblemasSeFiltranYLlevanASuLugar) {
@@ -250,6 +352,56 @@ TEST_F(LenguajeTest, NadaEscritoSePierdeAlCerrar) {
     QTest::keyClick(&ventana, Qt::Key_F6);
     EXPECT_EQ(usada, u" " + u16(suma));
     EXPECT_TRUE(ventana.close());
+}
+
+TEST_F(LenguajeTest, LosNombresDeLaEspecificacion) {
+    empieza(ambigua, "1");
+    QWidget& teclas = teclado(especificacion);
+    const auto linea = [&] { return especificacion.norvik().control().LineaActual(); };
+    for (int vez = 0; vez < 2; ++vez) {
+        cursor(especificacion, u"E -> E m");
+        QTest::keyClick(&teclas, Qt::Key_F12);
+        EXPECT_EQ(especificacion.norvik().SelText(), "mas");
+        EXPECT_EQ(linea(), 3);
+        QTest::keyClick(&teclas, Qt::Key_F12, Qt::ShiftModifier);
+        QTreeWidget& usos = ventana.usos().lista();
+        EXPECT_EQ(QApplication::focusWidget(), &usos);
+        ASSERT_EQ(usos.topLevelItemCount(), 2);
+        EXPECT_EQ(usos.topLevelItem(1)->text(0), "E -> E mas E | E por E | num;");
+        QTest::keyClick(&usos, Qt::Key_Down);
+        QTest::keyClick(&usos, Qt::Key_Return);
+        EXPECT_TRUE(especificacion.isAncestorOf(QApplication::focusWidget()));
+        EXPECT_EQ(linea(), 5);
+    }
+    dialogos.nombres = {"por", "sumado"};
+    cursor(especificacion, u"E -> E m");
+    QTest::keyClick(&teclas, Qt::Key_F2);
+    QTest::keyClick(&teclas, Qt::Key_F2);
+    EXPECT_EQ(dialogos.toma(),
+              QStringList({"nombre mas [por] Ya hay otro nombre «por».", "nombre mas [sumado] "}));
+    espera();
+    EXPECT_TRUE(especificacion.texto().ends_with(u"E -> E sumado E | E por E | num;\r\n"));
+    EXPECT_EQ(especificacion.norvik().SelText(), "sumado");
+    EXPECT_EQ(linea(), 5);
+    EXPECT_EQ(ventana.usos().lista().topLevelItemCount(), 0); // of the name that is no more
+    especificacion.norvik().accion(AccionNorvik::Deshacer)->trigger();
+    EXPECT_EQ(especificacion.texto(), u16(ambigua));
+}
+
+TEST_F(LenguajeTest, ElRatonSobreUnNombre) {
+    empieza(suma, "1");
+    cursor(especificacion, u"E -> E ");
+    VistaTexto& vista = especificacion.norvik().caja().vista();
+    const QPoint punto = vista.cursorRect().center() + QPoint(3, 0); // in the token's name
+    QHelpEvent ayuda(QEvent::ToolTip, punto, vista.viewport()->mapToGlobal(punto));
+    QApplication::sendEvent(vista.viewport(), &ayuda);
+    EXPECT_TRUE(QToolTip::text().contains("Patrón: \\+")) << QToolTip::text().toStdString();
+    QTest::mouseClick(vista.viewport(), Qt::LeftButton, Qt::ControlModifier, punto);
+    EXPECT_EQ(especificacion.norvik().SelText(), "mas");
+    EXPECT_EQ(especificacion.norvik().control().LineaActual(), 3);
+    cursor(especificacion, u"E -> E mas T");
+    QTest::keyClick(&vista, Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(QToolTip::text().contains("Primeros(T) = { num }")) << QToolTip::text().toStdString();
 }
 
 TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {

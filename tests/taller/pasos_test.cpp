@@ -215,7 +215,7 @@ TEST_F(AutomataTest, LaListaElTextoYElDibujoDicenLoMismo) {
     EXPECT_EQ(lista.currentRow(), 4);
     EXPECT_TRUE(lista.currentItem()->text().startsWith("Estado 4 ⚠ conflicto"));
     EXPECT_TRUE(panel.palabras().contains(
-        "ante no: desplaza y pasa al estado 5; también cabía reducir por la regla 1"))
+        "ante «no»: desplaza y pasa al estado 5; también cabía reducir por la regla 1"))
         << panel.palabras().toStdString();
     EXPECT_TRUE(panel.palabras().contains("La entrada más corta: si a"));
     QTest::keyClick(&lista, Qt::Key_Down);
@@ -224,6 +224,8 @@ TEST_F(AutomataTest, LaListaElTextoYElDibujoDicenLoMismo) {
     ASSERT_TRUE(dibujado()) << panel.aviso().toStdString();
     EXPECT_EQ(panel.dibujo().sitio.cajas.size(), 7);
     EXPECT_EQ(panel.dibujo().sitio.flechas.size(), 10);
+    EXPECT_EQ(panel.entrada(), "La entrada más corta: si a no");
+    EXPECT_EQ(panel.realzado().camino, (QList<std::pair<int, int>>{{0, 2}, {2, 4}, {4, 5}}));
     auto& vista = *panel.findChild<VistaAutomata*>();
     QTest::mouseClick(vista.viewport(), Qt::LeftButton, {},
                       vista.mapFromScene(panel.dibujo().caja(1).center()));

@@ -41,7 +41,7 @@ std::u16string conDirectiva(std::u16string_view especificacion, std::u16string_v
 
 /// Precedence is for the exact methods.
 std::u16string conMetodoExacto(const LenguajeEstudiado& lenguaje) {
-    const bool clasico = lenguaje.opciones.metodo == Metodo::Clasico;
+    const bool clasico = lenguaje.opciones().metodo == Metodo::Clasico;
     return clasico ? conMetodo(lenguaje.especificacion, Metodo::Lalr) : lenguaje.especificacion;
 }
 
@@ -85,7 +85,7 @@ std::vector<Arreglo> prioridad(const LenguajeEstudiado& lenguaje, const Historia
 /// What the table does is what is wanted.
 std::vector<Arreglo> dejaloAsi(const LenguajeEstudiado& lenguaje) {
     const auto cuantos = std::ranges::count(lenguaje.diagnosticos, Codigo::Conflicto, &Diagnostico::codigo);
-    if (lenguaje.opciones.metodo == Metodo::Clasico) return {};
+    if (lenguaje.opciones().metodo == Metodo::Clasico) return {};
     return {arregloDe(
         u"Dejarlo así: la tabla ya elige lo que se quiere", lenguaje.especificacion,
         conDirectiva(lenguaje.especificacion, u"conflictos", aTexto(static_cast<std::int64_t>(cuantos))))};

@@ -4,13 +4,13 @@
 
 #include "dibujoGrafo.hpp"
 
-#include <QByteArray>
 #include <QFont>
 #include <QGraphicsScene>
-#include <QImage>
 #include <QList>
 #include <QPalette>
 #include <QStringList>
+
+#include <utility>
 
 namespace norvik::taller {
 
@@ -36,14 +36,16 @@ struct DibujoAutomata {
 /// The states as boxes, as large as their words need, and the arrows between them.
 DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha> flechas, const QFont& letra);
 
-/// Draws it in the colours of a palette. The boxes know their state by `data(0)`.
-void pinta(const DibujoAutomata& dibujo, const QPalette& colores, int elegido, QGraphicsScene& escena);
+/// What stands out in it: a state, and a way of arrows, each from one state to another.
+struct RealceAutomata {
+    int estado = -1;
+    QList<std::pair<int, int>> camino;
 
-/// The same in black on white, as a picture of dots and in SVG.
-QImage enImagen(const DibujoAutomata& dibujo);
-QByteArray enSvg(const DibujoAutomata& dibujo);
+    bool operator==(const RealceAutomata&) const = default;
+};
 
-/// Writes it to a file by what its ending says: SVG, PDF, else PNG. Raises `ErrorDeFichero`.
-void guardaDibujo(const DibujoAutomata& dibujo, const QString& fichero);
+/// Draws it in the colours of a palette into an empty scene. The boxes know their state by `data(0)`.
+void pinta(const DibujoAutomata& dibujo, const QPalette& colores, const RealceAutomata& realce,
+           QGraphicsScene& escena);
 
 } // namespace norvik::taller

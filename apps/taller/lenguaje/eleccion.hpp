@@ -14,6 +14,9 @@
 // seen in several ways; each takes of a choice what it can show.
 namespace norvik::taller {
 
+/// Which of the two texts.
+enum class Lado : std::uint8_t { Especificacion, Texto };
+
 struct EnEspecificacion {
     Rango rango; ///< of the specification's text
 };

@@ -3,7 +3,6 @@
 #include "estudio.hpp"
 
 #include "norvik/checks/conflictosDeTabla.hpp"
-#include "norvik/checks/revisada.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
 
@@ -14,17 +13,14 @@ namespace norvik::taller {
 namespace {
 
 std::shared_ptr<const LenguajeEstudiado> estudiaLenguaje(const std::u16string& especificacion,
-                                                         const std::stop_token& parada) {
-    Revisada revision = revisada(especificacion, {{}, parada});
-    ordena(revision.hallazgos);
-    LenguajeEstudiado lenguaje{especificacion,
-                               std::move(revision.hallazgos),
-                               std::move(revision.fuente),
-                               std::move(revision.directivas.tabla),
-                               std::move(revision.lenguaje),
-                               {}};
+                                                         const std::stop_token& parada,
+                                                         ErroresBuscados errores) {
+    LenguajeEstudiado lenguaje{revisada(especificacion, {{}, parada}, errores), especificacion};
+    lenguaje.diagnosticos = lenguaje.hallazgos;
+    lenguaje.faltanArreglos = errores == ErroresBuscados::Primero && !lenguaje.lenguaje;
+    ordena(lenguaje.diagnosticos);
     if (const GramaticaLR* const g = lenguaje.gramatica())
-        lenguaje.conflictos = conflictosDeTabla(*g, lenguaje.opciones.metodo);
+        lenguaje.conflictos = conflictosDeTabla(*g, lenguaje.opciones().metodo);
     return std::make_shared<const LenguajeEstudiado>(std::move(lenguaje));
 }
 
@@ -36,12 +32,17 @@ const GramaticaLR* LenguajeEstudiado::gramatica() const {
 
 std::shared_ptr<const Estudio> estudia(const std::u16string& especificacion, const std::u16string& texto,
                                        const std::shared_ptr<const Estudio>& anterior,
-                                       const std::stop_token& parada) {
-    const bool esLaMisma = anterior && anterior->deLenguaje->especificacion == especificacion;
-    Estudio estudio{esLaMisma ? anterior->deLenguaje : estudiaLenguaje(especificacion, parada), texto, {}};
+                                       const std::stop_token& parada, ErroresBuscados errores) {
+    const bool esPrimero = errores == ErroresBuscados::Primero;
+    const bool esLaMisma = anterior && anterior->deLenguaje->especificacion == especificacion &&
+                           (esPrimero || !anterior->deLenguaje->faltanArreglos);
+    Estudio estudio{esLaMisma ? anterior->deLenguaje : estudiaLenguaje(especificacion, parada, errores),
+                    texto};
     if (parada.stop_requested()) return nullptr;
     if (estudio.gramatica() != nullptr)
-        estudio.analisis = analiza(*estudio.deLenguaje->lenguaje, texto, {parada});
+        estudio.analisis = analiza(*estudio.deLenguaje->lenguaje, texto, {parada, errores});
+    estudio.faltanArreglos =
+        estudio.deLenguaje->faltanArreglos || (esPrimero && !estudio.analisis.diagnosticos.empty());
     if (parada.stop_requested()) return nullptr;
     return std::make_shared<const Estudio>(std::move(estudio));
 }

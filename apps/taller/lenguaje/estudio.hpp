@@ -3,14 +3,11 @@
 #pragma once
 
 #include "norvik/base/diagnostico.hpp"
-#include "norvik/checks/fuente.hpp"
+#include "norvik/checks/revisada.hpp"
 #include "norvik/grammar/gramaticaLR.hpp"
-#include "norvik/grammar/opcionesTabla.hpp"
 #include "norvik/parser/analisis.hpp"
-#include "norvik/spec/lenguaje.hpp"
 
 #include <memory>
-#include <optional>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -18,15 +15,15 @@
 namespace norvik::taller {
 
 /// What is known of a specification.
-struct LenguajeEstudiado {
+struct LenguajeEstudiado : Revisada {
     std::u16string especificacion;
-    std::vector<Diagnostico> diagnosticos; ///< of its review, in the order of the text
-    FuenteEspecificacion fuente;           ///< empty when it cannot be read
-    OpcionesTabla opciones;
-    std::optional<Lenguaje> lenguaje; ///< what could be made of it
+    std::vector<Diagnostico> diagnosticos{}; ///< what was found, in the order of the text
     /// Of its table, sorted by cell; those of which the classic method says nothing are among them.
-    std::vector<Conflicto> conflictos;
+    std::vector<Conflicto> conflictos{};
+    /// Of a text that cannot be read only the first error was looked for, and no repair.
+    bool faltanArreglos = false;
 
+    const OpcionesTabla& opciones() const { return directivas.tabla; }
     /// Rules, sets, automaton and table; null when there are none.
     const GramaticaLR* gramatica() const;
 };
@@ -38,7 +35,8 @@ struct Estudio {
     /// nothing to do when it is.
     std::shared_ptr<const LenguajeEstudiado> deLenguaje;
     std::u16string texto;
-    Analisis analisis; ///< of the text; nothing when there is no grammar
+    Analisis analisis{};         ///< of the text; nothing when there is no grammar
+    bool faltanArreglos = false; ///< of one of both
 
     const GramaticaLR* gramatica() const { return deLenguaje->gramatica(); }
     /// The tree of the text, or of the repaired text; empty when there is none.
@@ -48,9 +46,11 @@ struct Estudio {
 };
 
 /// Studies a pair, in any thread; what an earlier study knows of the same specification is taken from it.
-/// Null when it was stopped. Raises `Desbordamiento` with a text that is too long to be parsed.
+/// With the first error of each text alone it takes no time for repairs. Null when it was stopped. Raises
+/// `Desbordamiento` with a text that is too long to be parsed.
 std::shared_ptr<const Estudio> estudia(const std::u16string& especificacion, const std::u16string& texto,
                                        const std::shared_ptr<const Estudio>& anterior,
-                                       const std::stop_token& parada);
+                                       const std::stop_token& parada,
+                                       ErroresBuscados errores = ErroresBuscados::Todos);
 
 } // namespace norvik::taller

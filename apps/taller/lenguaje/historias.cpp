@@ -29,7 +29,7 @@ void Historias::empieza() {
             limites.porConflicto = 500ms;
             limites.enTotal = 3'000ms; // a person waits for it
             limites.cancelacion = parada;
-            return revisaConHistorias(lenguaje->especificacion, {{}, parada}, limites);
+            return conHistorias(*lenguaje, limites);
         },
         [this](std::optional<std::vector<Hallazgo>> hallazgos) {
             if (!hallazgos) return;

@@ -4,7 +4,6 @@
 
 #include "estudio.hpp"
 
-#include "norvik/checks/revision.hpp"
 #include "norvik/widget/trabajoDeFondo.hpp"
 
 #include <QObject>
@@ -14,6 +13,11 @@
 #include <vector>
 
 namespace norvik::taller {
+
+/// Whether a diagnostic has a story.
+inline bool esConflicto(const Diagnostico& diagnostico) {
+    return diagnostico.codigo == Codigo::Conflicto || diagnostico.codigo == Codigo::ConflictoCallado;
+}
 
 /// The stories of a language's conflicts, found in a thread of its own once somebody wants to read one: they
 /// take longer than a person types.

@@ -23,6 +23,9 @@ public:
 
     /// Those in conflict, by state and column.
     const std::vector<DeCelda>& enConflicto() const { return enConflicto_; }
+    bool estaEnConflicto(const QModelIndex& celda) const {
+        return celdasEnConflicto_.contains({celda.row(), celda.column()});
+    }
     QString palabras(const QModelIndex& celda) const;
 
     int rowCount(const QModelIndex& padre = {}) const override;
@@ -33,9 +36,6 @@ public:
 private:
     const GramaticaLR* gramatica() const { return lenguaje_ ? lenguaje_->gramatica() : nullptr; }
     void reuneConflictos();
-    bool estaEnConflicto(const QModelIndex& celda) const {
-        return celdasEnConflicto_.contains({celda.row(), celda.column()});
-    }
     QString texto(const QModelIndex& celda) const;
 
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;

@@ -18,8 +18,7 @@ QString escapado(std::u16string_view texto) {
 }
 
 QString elToken(const GramaticaLR& g, std::int16_t columna) {
-    const std::u16string_view nombre = g.tabla.simbolo(columna);
-    return nombre == u"$" ? QStringLiteral("el final") : aQString(nombre);
+    return aQString(entreComillas(g.tabla.simbolo(columna)));
 }
 
 QString enlace(std::int16_t estado) {
@@ -84,13 +83,8 @@ QString llegada(const GramaticaLR& g, const GrafoEstados& grafo, std::int16_t es
     for (const Transicion& t : grafo.camino(estado))
         camino += QStringLiteral(" –%1→ %2").arg(aQString(g.partidas.texto(t.simbolo))).arg(t.hasta);
     QStringList lineas(camino.toHtmlEscaped());
-    if (const auto tokens = grafo.entrada(estado)) {
-        QStringList nombres;
-        for (const std::u16string& token : *tokens) nombres.append(aQString(token));
-        const QString entrada = nombres.isEmpty() ? QStringLiteral("ninguna, es el estado del comienzo")
-                                                  : nombres.join(u' ').toHtmlEscaped();
-        lineas.append(QStringLiteral("La entrada más corta: %1").arg(entrada));
-    }
+    if (const QString entrada = entradaDeEstado(grafo, estado); !entrada.isEmpty())
+        lineas.append(entrada.toHtmlEscaped());
     return lista(QStringLiteral("Cómo se llega"), lineas);
 }
 
@@ -114,6 +108,15 @@ QString tituloDeEstado(const LenguajeEstudiado& lenguaje, std::int16_t estado) {
     if (!conflictosEn(lenguaje.conflictos, static_cast<std::int16_t>(estado + 1)).empty())
         titulo += QStringLiteral(" ⚠ conflicto");
     return titulo;
+}
+
+QString entradaDeEstado(const GrafoEstados& grafo, std::int16_t estado) {
+    const auto tokens = grafo.entrada(estado);
+    if (!tokens) return {};
+    QStringList nombres;
+    for (const std::u16string& token : *tokens) nombres.append(aQString(token));
+    return QStringLiteral("La entrada más corta: %1")
+        .arg(nombres.isEmpty() ? QStringLiteral("ninguna, es el estado del comienzo") : nombres.join(u' '));
 }
 
 QString estadoEnHtml(const LenguajeEstudiado& lenguaje, const GrafoEstados& grafo, std::int16_t estado) {

@@ -18,6 +18,8 @@ namespace norvik::taller {
 QStringList nucleoDe(const GramaticaLR& gramatica, std::int16_t estado);
 /// «Estado 7», and whether it accepts or has a conflict.
 QString tituloDeEstado(const LenguajeEstudiado& lenguaje, std::int16_t estado);
+/// «La entrada más corta: si a»; empty where no text leads, or only a very long one.
+QString entradaDeEstado(const GrafoEstados& grafo, std::int16_t estado);
 /// Items, ways on (links by the state's number), reductions, conflicts, and how a text gets there.
 QString estadoEnHtml(const LenguajeEstudiado& lenguaje, const GrafoEstados& grafo, std::int16_t estado);
 

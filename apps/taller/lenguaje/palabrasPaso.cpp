@@ -106,7 +106,7 @@ QString palabrasDeConflicto(const Estudio& estudio, const Pelicula& pelicula, st
                      static_cast<std::int16_t>(pelicula.siguiente(momento).codigo + 1));
     if (perdidas.empty()) return {};
     QString texto = QStringLiteral("Conflicto. ") +
-                    porque(pelicula.accion(momento).tipo, estudio.deLenguaje->opciones.metodo);
+                    porque(pelicula.accion(momento).tipo, estudio.deLenguaje->opciones().metodo);
     for (const Conflicto& perdida : perdidas)
         texto += QStringLiteral(" La otra acción: %1.").arg(reduccion(g, pelicula, momento, perdida.regla));
     return texto;

@@ -25,6 +25,8 @@ public:
     virtual void ponEstudio(std::shared_ptr<const Estudio> estudio) = 0;
     /// Something of the study was chosen elsewhere: shows it when it can, and tells nobody of it.
     virtual void selecciona(const Eleccion& /*eleccion*/) {}
+    /// It has something to show of a specification that does not compile, too.
+    virtual bool muestraLoQueNoCompila() const { return false; }
     /// What it shows is of an earlier version of the texts, or of theirs again.
     void ponAtrasado(bool atrasado) {
         setWindowTitle(atrasado ? titulo_ + QStringLiteral(" (versión anterior)") : titulo_);
@@ -34,6 +36,10 @@ public:
 signals:
     /// The person chose something here.
     void elegido(const norvik::taller::Eleccion& eleccion);
+    /// The person wants to go there, and to write there.
+    void ido(const norvik::taller::Eleccion& eleccion);
+    /// The person wants a repair of one of the texts of the study.
+    void arreglado(norvik::taller::Lado lado, const norvik::Arreglo& arreglo);
     void fallo(const QString& texto);
 
 protected:

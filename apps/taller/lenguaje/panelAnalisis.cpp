@@ -3,6 +3,7 @@
 #include "panelAnalisis.hpp"
 
 #include "correspondencias.hpp"
+#include "dibujoAnalisis.hpp"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -13,15 +14,32 @@
 
 namespace norvik::taller {
 
-PanelAnalisis::PanelAnalisis(QWidget* padre)
+PanelAnalisis::PanelAnalisis(Dialogos& dialogos, QWidget* padre)
     : Panel(QStringLiteral("arbol"), QStringLiteral("Árbol"), padre),
-      enUnaFila_(QStringLiteral("&Cadenas de reglas en una fila")) {
+      enUnaFila_(QStringLiteral("&Cadenas de reglas en una fila")),
+      dibujo_(QStringLiteral("Dibujo del árbol"), QStringLiteral("El esquema dice lo mismo")),
+      botones_(*this, dialogos, {[this] { return lamina(); }, QStringLiteral("arbol"), &dibujo_}) {
     compone();
     connect(&enUnaFila_, &QCheckBox::toggled, this, [this] { protege([this] { muestra(); }); });
     const auto elegida = [this](const QModelIndex& indice) { protege([&] { elige(indice); }); };
     connect(&vista_, &QTreeView::clicked, this, elegida);
     connect(&vista_, &QTreeView::activated, this, elegida);
     connect(vista_.selectionModel(), &QItemSelectionModel::currentChanged, this, elegida);
+    connect(&dibujo_, &VistaDibujo::elegido, this, [this](int nodo) {
+        protege([&] { vista_.setCurrentIndex(alAlcance(modelo_.indiceDe(static_cast<std::size_t>(nodo)))); });
+    });
+    connect(&maneras_, &QTabWidget::currentChanged, this, [this](int manera) {
+        protege([&] {
+            centro_.setFocusProxy(manera == 0 ? static_cast<QWidget*>(&vista_) : &dibujo_);
+            dibuja();
+        });
+    });
+    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
+        protege([&] {
+            if (seVe && pendiente_) selecciona(*std::exchange(pendiente_, std::nullopt));
+        });
+    });
 }
 
 void PanelAnalisis::compone() {
@@ -42,7 +60,18 @@ void PanelAnalisis::compone() {
     vista_.header()->setResizeContentsPrecision(0); // the rows in view count
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addWidget(&enUnaFila_);
-    columna_.addWidget(&vista_, 1);
+    ocultos_.setTextFormat(Qt::PlainText);
+    ocultos_.setWordWrap(true);
+    columnaDibujada_.setContentsMargins(0, 0, 0, 0);
+    columnaDibujada_.addWidget(&botones_, 0, Qt::AlignLeft);
+    columnaDibujada_.addWidget(&ocultos_);
+    columnaDibujada_.addWidget(&dibujo_, 1);
+    dibujada_.setLayout(&columnaDibujada_);
+    dibujada_.setFocusProxy(&dibujo_);
+    maneras_.addTab(&vista_, QStringLiteral("Esquema"));
+    maneras_.addTab(&dibujada_, QStringLiteral("Dibujo"));
+    maneras_.setDocumentMode(true);
+    columna_.addWidget(&maneras_, 1);
     columna_.addWidget(&camino_);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
@@ -58,6 +87,8 @@ void PanelAnalisis::muestra() {
     const QScopedValueRollback<bool> callado(callado_, true);
     modelo_.muestra(estudio_, enUnaFila_.isChecked() ? Cadenas::EnUnaFila : Cadenas::Enteras);
     abre();
+    botones_.activa(modelo_.rowCount() > 0);
+    dibuja();
     camino_.setText(modelo_.rowCount() > 0 ? QString() : QStringLiteral("El texto no tiene árbol."));
 }
 
@@ -75,7 +106,9 @@ void PanelAnalisis::abre() {
 }
 
 void PanelAnalisis::selecciona(const Eleccion& eleccion) {
-    if (!estudio_ || !isVisible()) return;
+    pendiente_.reset();
+    if (!estudio_) return;
+    if (!isVisible()) return static_cast<void>(pendiente_ = eleccion);
     const auto nodo = nodoDe(*estudio_, eleccion);
     if (!nodo) return;
     const QScopedValueRollback<bool> callado(callado_, true);
@@ -101,6 +134,42 @@ void PanelAnalisis::elige(const QModelIndex& indice) {
 
 void PanelAnalisis::sigue(const QModelIndex& indice) {
     camino_.setText(modelo_.camino(indice));
+    realza(indice);
+}
+
+// ---- drawn
+
+/// Once it is wanted.
+void PanelAnalisis::dibuja() {
+    if (!seDibuja()) return;
+    constexpr std::size_t maximo = 400; // nodes, for a person to look over
+    const DibujoAnalisis suyo = dibujoDe(modelo_, maximo);
+    ocultos_.setVisible(suyo.ocultos > 0);
+    ocultos_.setText(
+        QStringLiteral("Es un árbol grande: se dibuja lo de arriba. Lo que cuelga de los nodos con "
+                       "«…» está en el esquema."));
+    dibujo_.muestra([this, arbol = suyo.arbol](const QPalette& colores, QGraphicsScene& escena) {
+        pinta(arbol, {font(), colores, realzado_, {}}, escena);
+    });
+    realza(vista_.currentIndex());
+}
+
+/// The node, or the nearest one above it that is drawn.
+void PanelAnalisis::realza(QModelIndex indice) {
+    if (!seDibuja()) return;
+    while (indice.isValid() && !dibujo_.tiene(static_cast<int>(modelo_.nodoDe(indice))))
+        indice = indice.parent();
+    realzado_ = indice.isValid() ? static_cast<int>(modelo_.nodoDe(indice)) : -1;
+    dibujo_.repinta();
+    dibujo_.acerca(realzado_);
+}
+
+Lamina PanelAnalisis::lamina() const {
+    constexpr std::size_t maximo = 5'000; // nodes of a picture
+    return {titulo(), [arbol = dibujoDe(modelo_, maximo).arbol, letra = font()](const QPalette& colores,
+                                                                                QGraphicsScene& escena) {
+                pinta(arbol, {letra, colores, -1, {}}, escena);
+            }};
 }
 
 } // namespace norvik::taller

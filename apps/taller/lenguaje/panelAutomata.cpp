@@ -8,10 +8,7 @@
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QSignalBlocker>
-#include <QToolButton>
 
 #include <algorithm>
 #include <initializer_list>
@@ -39,7 +36,8 @@ QStringList paraCaja(QStringList lineas) {
 } // namespace
 
 PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
-    : Panel(QStringLiteral("panelAutomata"), QStringLiteral("Autómata"), padre), dialogos_(dialogos) {
+    : Panel(QStringLiteral("panelAutomata"), QStringLiteral("Autómata"), padre),
+      botones_(*this, dialogos, {[this] { return lamina(); }, QStringLiteral("automata"), &vista_}) {
     compone();
     connect(&estados_, &QListWidget::currentRowChanged, this,
             [this](int fila) { protege([&] { elegidoPorLaPersona(fila); }); });
@@ -50,13 +48,14 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
     connect(&colocador_, &ColocadorGrafos::colocado, this, [this](const GrafoColocado& sitio) {
         protege([&] {
             porColocar_.sitio = sitio;
-            vista_.muestra(porColocar_, elegido_);
-            for (QAction* const accion : {&copiar_, &guardar_}) accion->setEnabled(true);
+            vista_.muestra(porColocar_, realce());
+            botones_.activa(true);
         });
     });
     connect(&colocador_, &ColocadorGrafos::fallo, this, [this](const QString& motivo) {
         protege([&] {
             vista_.vacia();
+            botones_.activa(false);
             avisa(motivo);
         });
     });
@@ -70,15 +69,15 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
 }
 
 void PanelAutomata::compone() {
-    conecta(ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn, &PanelAutomata::amplia);
-    conecta(reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut, &PanelAutomata::reduce);
-    conecta(encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0, &PanelAutomata::encaja);
-    conecta(copiar_, QStringLiteral("Copiar dibujo"), {}, &PanelAutomata::copia);
-    conecta(guardar_, QStringLiteral("Guardar dibujo…"), {}, &PanelAutomata::guarda);
     nombra(aviso_, "aviso", QStringLiteral("Aviso"));
     aviso_.setTextFormat(Qt::PlainText);
     aviso_.setWordWrap(true);
-    botones_.addWidget(&aviso_, 1);
+    nombra(entrada_, "entrada", QStringLiteral("Entrada más corta que lleva al estado elegido"));
+    entrada_.setTextFormat(Qt::PlainText);
+    entrada_.setWordWrap(true);
+    entrada_.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    barra_.addWidget(&botones_);
+    barra_.addWidget(&aviso_, 1);
     nombra(estados_, "estados", QStringLiteral("Estados"));
     estados_.setUniformItemSizes(true);
     nombra(estado_, "estado", QStringLiteral("Estado"));
@@ -87,26 +86,12 @@ void PanelAutomata::compone() {
         partes_.addWidget(parte);
     partes_.setStretchFactor(2, 1);
     partes_.setSizes({240, 280, 700});
-    columna_.addLayout(&botones_);
+    columna_.addLayout(&barra_);
+    columna_.addWidget(&entrada_);
     columna_.addWidget(&partes_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&estados_);
     setWidget(&centro_);
-}
-
-void PanelAutomata::conecta(QAction& accion, const QString& texto, const QKeySequence& tecla,
-                            void (PanelAutomata::*orden)()) {
-    accion.setText(texto);
-    accion.setShortcut(tecla);
-    accion.setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    if (!tecla.isEmpty())
-        accion.setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
-    connect(&accion, &QAction::triggered, this, [this, orden] { protege([&] { (this->*orden)(); }); });
-    addAction(&accion);
-    auto& boton = nuevo<QToolButton>(&centro_);
-    boton.setDefaultAction(&accion);
-    boton.setFocusPolicy(Qt::StrongFocus);
-    botones_.addWidget(&boton);
 }
 
 void PanelAutomata::ponEstudio(std::shared_ptr<const Estudio> estudio) {
@@ -143,8 +128,7 @@ void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
     grafo_ = *resultado;
     if (grafo_->estados() == 0)
         return sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene autómata."));
-    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_}) accion->setEnabled(true);
-    for (QAction* const accion : {&copiar_, &guardar_}) accion->setEnabled(false);
+    botones_.activa(false);
     vista_.vacia(); // it is of another version
     elegido_ = std::min(elegido_, static_cast<int>(grafo_->estados()) - 1);
     llenaEstados();
@@ -162,8 +146,8 @@ void PanelAutomata::sinAutomata(const QString& motivo) {
     }
     estado_.clear();
     vista_.vacia();
-    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_, &copiar_, &guardar_})
-        accion->setEnabled(false);
+    entrada_.clear();
+    botones_.activa(false);
     avisa(motivo);
 }
 
@@ -197,7 +181,7 @@ void PanelAutomata::elige(int estado) {
     if (!grafo_ || estado >= static_cast<int>(grafo_->estados())) return;
     muestraEstado();
     if (vista_.dibuja(estado))
-        vista_.elige(estado);
+        vista_.elige(realce());
     else if (porColocar_.estado(estado) == nullptr)
         dibuja();
 }
@@ -206,6 +190,7 @@ void PanelAutomata::muestraEstado() {
     const QSignalBlocker callada(estados_);
     estados_.setCurrentRow(elegido_);
     estado_.setHtml(estadoEnHtml(*lenguaje_, *grafo_, static_cast<std::int16_t>(elegido_)));
+    entrada_.setText(entradaDeEstado(*grafo_, static_cast<std::int16_t>(elegido_)));
 }
 
 void PanelAutomata::dibuja() {
@@ -231,16 +216,17 @@ void PanelAutomata::dibuja() {
     colocador_.coloca(porColocar_.grafo);
 }
 
-void PanelAutomata::copia() {
-    QGuiApplication::clipboard()->setImage(enImagen(vista_.dibujo()));
+RealceAutomata PanelAutomata::realce() const {
+    RealceAutomata realce{elegido_, {}};
+    for (const Transicion& t : grafo_->camino(static_cast<std::int16_t>(elegido_)))
+        realce.camino.append({t.desde, t.hasta});
+    return realce;
 }
 
-void PanelAutomata::guarda() {
-    const auto fichero = dialogos_.eligeParaGuardar(
-        QStringLiteral("Guardar el dibujo del autómata"),
-        QStringLiteral("Dibujos SVG (*.svg);;Imágenes PNG (*.png);;Documentos PDF (*.pdf)"),
-        QStringLiteral("automata.svg"), QStringLiteral("svg"));
-    if (fichero) guardaDibujo(vista_.dibujo(), *fichero);
+Lamina PanelAutomata::lamina() const {
+    return {titulo(), [dibujo = vista_.dibujo()](const QPalette& colores, QGraphicsScene& escena) {
+                pinta(dibujo, colores, {}, escena);
+            }};
 }
 
 } // namespace norvik::taller

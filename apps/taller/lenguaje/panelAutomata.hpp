@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "botonesDibujo.hpp"
 #include "dialogos.hpp"
 #include "dibujoGrafo.hpp"
 #include "palabrasEstado.hpp"
@@ -10,7 +11,6 @@
 
 #include "norvik/widget/trabajoDeFondo.hpp"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -41,7 +41,9 @@ public:
     // For those who drive it from outside.
     QListWidget& estados() { return estados_; }
     const DibujoAutomata& dibujo() const { return vista_.dibujo(); }
+    const RealceAutomata& realzado() const { return vista_.realce(); }
     QString palabras() const { return estado_.toPlainText(); }
+    QString entrada() const { return entrada_.text(); }
     QString aviso() const { return aviso_.text(); }
 
 private:
@@ -50,8 +52,6 @@ private:
     static constexpr std::size_t maximoVecinos = 30;
 
     void compone();
-    void conecta(QAction& accion, const QString& texto, const QKeySequence& tecla,
-                 void (PanelAutomata::*orden)());
     void estudiaSiSeVe();
     void toma(std::shared_ptr<const LenguajeEstudiado> lenguaje, const std::optional<Resultado>& resultado);
     void sinAutomata(const QString& motivo);
@@ -61,15 +61,11 @@ private:
     void elegidoPorLaPersona(int estado);
     void muestraEstado();
     void dibuja();
-    void amplia() { vista_.amplia(); }
-    void reduce() { vista_.reduce(); }
-    void encaja() { vista_.encaja(); }
-    void copia();
-    void guarda();
+    RealceAutomata realce() const;
+    Lamina lamina() const;
 
     const GramaticaLR& gramatica() const { return *lenguaje_->gramatica(); }
 
-    Dialogos& dialogos_;
     std::shared_ptr<const LenguajeEstudiado> pendiente_; ///< to be shown once the panel is seen
     std::shared_ptr<const LenguajeEstudiado> deseado_;   ///< the last that was to be shown
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;  ///< the one that is
@@ -80,13 +76,14 @@ private:
 
     QWidget centro_;
     QVBoxLayout columna_;
-    QHBoxLayout botones_;
-    QAction ampliar_, reducir_, encajar_, copiar_, guardar_;
+    QHBoxLayout barra_;
+    QLabel entrada_; ///< the shortest that leads to the chosen state
     QLabel aviso_;
     QSplitter partes_;
     QListWidget estados_;
     QTextBrowser estado_;
     VistaAutomata vista_;
+    BotonesDibujo botones_; ///< goes before its view
     ColocadorGrafos colocador_;
     TrabajoDeFondo<Resultado> trabajo_; ///< goes first
 };

@@ -3,7 +3,7 @@
 #include "panelConjuntos.hpp"
 
 #include "correspondencias.hpp"
-#include "palabrasLR.hpp"
+#include "palabrasConjuntos.hpp"
 
 #include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
@@ -28,32 +28,6 @@ std::vector<Simbolo> variablesDe(const ReglasPartidas& reglas) {
             variables.push_back(cabeza);
     }
     return variables;
-}
-
-/// The first of those with a name is the one that is looked up.
-const ConjuntoNumerado* conjuntoDe(const std::vector<ConjuntoNumerado>& lista, Simbolo nombre) {
-    const auto sitio = std::ranges::find(lista, nombre, &ConjuntoNumerado::nombre);
-    return sitio == lista.end() ? nullptr : &*sitio;
-}
-
-QString elementosDe(const std::vector<ConjuntoNumerado>& lista, Simbolo nombre,
-                    const ReglasPartidas& reglas) {
-    const ConjuntoNumerado* const conjunto = conjuntoDe(lista, nombre);
-    return conjunto == nullptr ? QString() : aQString(enTexto(*conjunto, reglas));
-}
-
-bool esAnulable(const std::vector<ConjuntoNumerado>& primeros, Simbolo nombre) {
-    const ConjuntoNumerado* const conjunto = conjuntoDe(primeros, nombre);
-    return conjunto != nullptr && std::ranges::count(conjunto->elementos, ReglasPartidas::vacio) > 0;
-}
-
-QString reglasDe(const GramaticaLR& g, Simbolo variable) {
-    QString lineas;
-    for (int regla = 1; regla <= g.partidas.numReglas(); ++regla)
-        if (g.partidas.cabeza(regla) == variable)
-            lineas +=
-                QStringLiteral("\n    ") + aQString(palabrasDeRegla(g, static_cast<std::int16_t>(regla)));
-    return lineas;
 }
 
 } // namespace
@@ -112,12 +86,10 @@ void PanelConjuntos::llena() {
 
 void PanelConjuntos::pon(int fila, std::int32_t variable) {
     const GramaticaLR& g = *estudio_->gramatica();
-    const auto& primeros = g.conjuntos.primeros;
-    const std::array<QString, numeroDeColumnas> textos = {
-        aQString(g.partidas.texto(variable)),
-        esAnulable(primeros, variable) ? QStringLiteral("sí") : QStringLiteral("no"),
-        elementosDe(primeros, variable, g.partidas),
-        elementosDe(g.conjuntos.siguientes, variable, g.partidas)};
+    const std::array<QString, numeroDeColumnas> textos = {aQString(g.partidas.texto(variable)),
+                                                          esAnulable(g, variable) ? QStringLiteral("sí")
+                                                                                  : QStringLiteral("no"),
+                                                          primerosDe(g, variable), siguientesDe(g, variable)};
     for (int columna = 0; columna < numeroDeColumnas; ++columna) {
         auto& celda = nuevo<QTableWidgetItem>(textos[static_cast<std::size_t>(columna)]);
         if (columna >= Primeros) celda.setToolTip(ayudaLlana(celda.text()));
@@ -135,10 +107,7 @@ int PanelConjuntos::filaDe(const QString& variable) const {
 void PanelConjuntos::detalla(int fila) {
     const QString variable = tabla_.item(fila, Variable)->text();
     const GramaticaLR& g = *estudio_->gramatica();
-    detalle_.setPlainText(QStringLiteral("Primeros(%1) = { %2 }\n\nSiguientes(%1) = { %3 }\n\nReglas:%4")
-                              .arg(variable, tabla_.item(fila, Primeros)->text(),
-                                   tabla_.item(fila, Siguientes)->text(),
-                                   reglasDe(g, g.partidas.simbolo(vistaDe(variable)))));
+    detalle_.setPlainText(conjuntosEnPalabras(g, g.partidas.simbolo(vistaDe(variable))));
 }
 
 void PanelConjuntos::selecciona(const Eleccion& eleccion) {

@@ -51,14 +51,10 @@ QString lugar(const Rango& rango) {
     return QStringLiteral("%1:%2").arg(rango.inicio.linea).arg(rango.inicio.columna);
 }
 
-bool esConflicto(const Diagnostico& diagnostico) {
-    return diagnostico.codigo == Codigo::Conflicto || diagnostico.codigo == Codigo::ConflictoCallado;
-}
-
 } // namespace
 
-PanelProblemas::PanelProblemas(QWidget* padre)
-    : Panel(QStringLiteral("problemas"), QStringLiteral("Problemas"), padre) {
+PanelProblemas::PanelProblemas(Historias& historias, QWidget* padre)
+    : Panel(QStringLiteral("problemas"), QStringLiteral("Problemas"), padre), historias_(historias) {
     compone();
     for (QToolButton& filtro : filtros_)
         connect(&filtro, &QToolButton::toggled, this, [this] { protege([this] { llena(); }); });
@@ -114,7 +110,6 @@ const std::vector<Diagnostico>& PanelProblemas::diagnosticos(Lado lado) const {
 /// A list that says the same stays as it is, with what is chosen and open in it.
 void PanelProblemas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     const auto antes = std::exchange(estudio_, std::move(estudio));
-    historias_.pon(estudio_->deLenguaje);
     const bool dicenLoMismo = antes && antes->analisis.diagnosticos == estudio_->analisis.diagnosticos &&
                               antes->deLenguaje->diagnosticos == estudio_->deLenguaje->diagnosticos;
     if (!dicenLoMismo) llena();
@@ -166,11 +161,14 @@ void PanelProblemas::anade(QTreeWidgetItem& grupo, Lado lado, std::size_t numero
     const QString texto = nombre(d.gravedad) + QStringLiteral(": ") + aQString(mensaje(d)).simplified();
     QTreeWidgetItem& elemento = anadeFila(grupo, {lado, numero, d.rango}, texto);
     elemento.setIcon(Problema, style()->standardIcon(dibujoDe(d.gravedad)));
-    for (const Relacionado& otro : d.partes.relacionados)
-        anadeFila(elemento, {lado, numero, otro.rango}, QStringLiteral("Véase: ") + aQString(otro.texto));
+    if (lado == Lado::Especificacion && esConflicto(d))
+        anadeFila(elemento, {lado, numero, d.rango, {}, true},
+                  QStringLiteral("Ver el conflicto, con sus árboles"));
     for (const Arreglo& arreglo : arreglosDe(d))
         anadeFila(elemento, {lado, numero, d.rango, arreglo},
                   QStringLiteral("Arreglar: ") + aQString(arreglo.titulo));
+    for (const Relacionado& otro : d.partes.relacionados)
+        anadeFila(elemento, {lado, numero, otro.rango}, QStringLiteral("Véase: ") + aQString(otro.texto));
     elemento.setExpanded(true);
 }
 
@@ -220,7 +218,9 @@ void PanelProblemas::elige(const QTreeWidgetItem* elemento) {
 void PanelProblemas::ve(const QTreeWidgetItem* elemento) {
     const Fila* const fila = filaDe(elemento);
     if (fila == nullptr) return;
-    if (fila->arreglo)
+    if (fila->esHistoria)
+        emit conflictoPedido(fila->diagnostico);
+    else if (fila->arreglo)
         emit arreglado(fila->lado, Arreglo(*fila->arreglo)); // who does it may fill the list again
     else
         emit ido(eleccionDe(*fila));

@@ -20,17 +20,16 @@
 
 namespace norvik::taller {
 
-/// Which of the two texts.
-enum class Lado : std::uint8_t { Especificacion, Texto };
-
 /// What is wrong or odd in both texts, each with its repairs; of a conflict its story.
 class PanelProblemas final : public Panel {
     Q_OBJECT
 
 public:
-    explicit PanelProblemas(QWidget* padre);
+    /// The stories outlive it.
+    PanelProblemas(Historias& historias, QWidget* padre);
 
     void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
+    bool muestraLoQueNoCompila() const override { return true; }
 
     // For those who drive it from outside.
     QTreeWidget& lista() { return lista_; }
@@ -38,17 +37,17 @@ public:
     QToolButton& filtro(Gravedad gravedad) { return filtros_[static_cast<std::size_t>(gravedad)]; }
 
 signals:
-    /// The person wants to go there, and to write there.
-    void ido(const norvik::taller::Eleccion& eleccion);
-    void arreglado(norvik::taller::Lado lado, const norvik::Arreglo& arreglo);
+    /// The person wants to be told the conflict of a diagnostic of the specification, by its number.
+    void conflictoPedido(std::size_t diagnostico);
 
 private:
-    /// What a row stands for: a problem, another place of it, or a repair.
+    /// What a row stands for: a problem, another place of it, a repair, or its story.
     struct Fila {
         Lado lado = Lado::Especificacion;
         std::size_t diagnostico = 0;
         Rango lugar;
         std::optional<Arreglo> arreglo{};
+        bool esHistoria = false;
     };
 
     void compone();
@@ -66,7 +65,7 @@ private:
     void detalla(const Fila& fila);
     static Eleccion eleccionDe(const Fila& fila);
 
-    Historias historias_;
+    Historias& historias_;
     QSplitter centro_;
     QWidget lado_;
     QVBoxLayout columna_;

@@ -3,6 +3,7 @@
 #include "panelTabla.hpp"
 
 #include "correspondencias.hpp"
+#include "dibujoTabla.hpp"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -12,13 +13,25 @@
 
 namespace norvik::taller {
 
-PanelTabla::PanelTabla(QWidget* padre) : Panel(QStringLiteral("tabla"), QStringLiteral("Tabla"), padre) {
+PanelTabla::PanelTabla(Dialogos& dialogos, QWidget* padre)
+    : Panel(QStringLiteral("tabla"), QStringLiteral("Tabla"), padre),
+      botones_(*this, dialogos,
+               {[this] {
+                    return Lamina{titulo(), [this](const QPalette& colores, QGraphicsScene& escena) {
+                                      pintaTabla(modelo_, font(), colores, escena);
+                                  }};
+                },
+                QStringLiteral("tabla"), nullptr, [this] { return tablaEnTexto(modelo_); }}) {
     compone();
     connect(vista_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
     connect(&vista_, &QTableView::clicked, this,
             [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
     connect(&siguiente_, &QToolButton::clicked, this, [this] { protege([this] { vaAlSiguiente(); }); });
+    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
+    const auto pide = [this] { protege([this] { pideConflicto(); }); };
+    connect(&vista_, &QTableView::activated, this, pide);
+    connect(&conflicto_, &QToolButton::clicked, this, pide);
 }
 
 void PanelTabla::compone() {
@@ -35,7 +48,12 @@ void PanelTabla::compone() {
     palabras_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     palabras_.setAccessibleName(QStringLiteral("Lo que hace la celda elegida"));
     fila_.addWidget(&palabras_, 1);
-    fila_.addWidget(&siguiente_);
+    fila_.addWidget(&botones_);
+    conflicto_.setText(QStringLiteral("&Ver el conflicto"));
+    for (QToolButton* const boton : {&conflicto_, &siguiente_}) {
+        boton->setFocusPolicy(Qt::StrongFocus);
+        fila_.addWidget(boton);
+    }
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&fila_);
     columna_.addWidget(&vista_, 1);
@@ -53,13 +71,27 @@ void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     ajusta();
     vista_.setCurrentIndex(modelo_.index(0, 0)); // coming here chooses nothing
     const auto conflictos = modelo_.enConflicto().size();
-    siguiente_.setText(conflictos == 1 ? QStringLiteral("&Ir al conflicto")
-                                       : QStringLiteral("&Siguiente de %1 conflictos").arg(conflictos));
+    siguiente_.setText(conflictos == 0   ? QStringLiteral("Sin conflictos")
+                       : conflictos == 1 ? QStringLiteral("&Ir al conflicto")
+                                         : QStringLiteral("&Siguiente de %1 conflictos").arg(conflictos));
     siguiente_.setEnabled(conflictos > 0);
-    if (conflictos == 0) siguiente_.setText(QStringLiteral("Sin conflictos"));
+    botones_.activa(modelo_.rowCount() > 0);
+    muestraPalabras();
+}
+
+void PanelTabla::muestraPalabras() {
+    const QModelIndex celda = vista_.currentIndex();
+    conflicto_.setEnabled(modelo_.estaEnConflicto(celda));
     palabras_.setText(estudio_->gramatica() == nullptr
                           ? QStringLiteral("El lenguaje no tiene gramática, o no compila: no hay tabla.")
-                          : modelo_.palabras(vista_.currentIndex()));
+                          : modelo_.palabras(celda));
+}
+
+void PanelTabla::pideConflicto() {
+    const QModelIndex celda = vista_.currentIndex();
+    if (modelo_.estaEnConflicto(celda))
+        emit conflictoPedido(
+            DeCelda{static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())});
 }
 
 /// Sizes that need no look at the cells one by one: an entry is no longer than its form lets it be.
@@ -88,12 +120,12 @@ void PanelTabla::selecciona(const Eleccion& eleccion) {
     const int columna = celda != nullptr ? celda->codigo : std::max(0, vista_.currentIndex().column());
     const QScopedValueRollback<bool> callado(callado_, true);
     vista_.setCurrentIndex(modelo_.index(*estado, columna));
-    palabras_.setText(modelo_.palabras(vista_.currentIndex()));
+    muestraPalabras();
 }
 
 void PanelTabla::elige(const QModelIndex& celda) {
     if (callado_ || !celda.isValid()) return;
-    palabras_.setText(modelo_.palabras(celda));
+    muestraPalabras();
     emit elegido(DeCelda{static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())});
 }
 

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "../dialogos.hpp"
+#include "botonesDibujo.hpp"
 #include "modeloCeldas.hpp"
 #include "panel.hpp"
 
@@ -18,7 +20,8 @@ class PanelTabla final : public Panel {
     Q_OBJECT
 
 public:
-    explicit PanelTabla(QWidget* padre);
+    /// The dialogs outlive it.
+    PanelTabla(Dialogos& dialogos, QWidget* padre);
 
     void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
     void selecciona(const Eleccion& eleccion) override;
@@ -27,20 +30,28 @@ public:
     QTableView& vista() { return vista_; }
     QLabel& palabras() { return palabras_; }
     QToolButton& siguiente() { return siguiente_; }
+    QToolButton& conflicto() { return conflicto_; }
+
+signals:
+    /// The person wants to be told the conflict of a cell.
+    void conflictoPedido(const norvik::taller::DeCelda& celda);
 
 private:
     void compone();
     void ajusta();
     void elige(const QModelIndex& celda);
+    void muestraPalabras();
+    void pideConflicto();
     void vaAlSiguiente();
 
     QWidget centro_;
     QVBoxLayout columna_;
     QHBoxLayout fila_;
     QLabel palabras_;
-    QToolButton siguiente_;
+    QToolButton siguiente_, conflicto_;
     ModeloCeldas modelo_; ///< goes after its view
     QTableView vista_;
+    BotonesDibujo botones_;
     std::shared_ptr<const Estudio> estudio_;
     bool callado_ = false; ///< what is chosen was chosen elsewhere
 };

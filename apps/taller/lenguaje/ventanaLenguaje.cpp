@@ -5,7 +5,9 @@
 #include "../rutas.hpp"
 #include "correspondencias.hpp"
 #include "enControl.hpp"
+#include "palabrasNombre.hpp"
 
+#include "norvik/checks/propuestas.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/spec/lenguajeEspecificacion.hpp"
 #include "norvik/tools/ventanas.hpp"
@@ -41,8 +43,10 @@ void VentanaLenguaje::ejecuta(const Orden& orden) {
 VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettings& ajustes)
     : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes), archivador_(sistema, dialogos),
       especificacion_(QStringLiteral("Especificación"), sistema, &editores_),
-      texto_(QStringLiteral("Texto"), sistema, &editores_), archivo_(QStringLiteral("&Archivo")),
-      edicion_(QStringLiteral("&Edición")), ver_(QStringLiteral("&Ver")),
+      texto_(QStringLiteral("Texto"), sistema, &editores_),
+      nombres_(especificacion_, dialogos, [this](const NombreEscrito& n) { return palabrasDe(n); }),
+      archivo_(QStringLiteral("&Archivo")), edicion_(QStringLiteral("&Edición")),
+      menuNombres_(QStringLiteral("&Nombres")), ver_(QStringLiteral("&Ver")),
       menuRecientes_(QStringLiteral("Lenguajes &recientes")),
       recientes_(menuRecientes_, ajustes, claveLenguajes), seguimiento_([this] {
           return Seguimiento::Textos{especificacion_.texto(), texto_.texto()};
@@ -63,6 +67,7 @@ void VentanaLenguaje::compone() {
     setAccessibleName(QStringLiteral("La ventana del lenguaje"));
     setDockNestingEnabled(true);
     CargaMetaLenguaje(especificacion_.norvik().control());
+    especificacion_.norvik().proponCon(&continuacionesDeEspecificacion);
     editores_.addWidget(&especificacion_);
     editores_.addWidget(&texto_);
     editores_.setChildrenCollapsible(false);
@@ -102,7 +107,7 @@ QAction& VentanaLenguaje::accion(QMenu& menu, const QString& texto, const QKeySe
 }
 
 void VentanaLenguaje::ponMenus() {
-    for (QMenu* const menu : {&archivo_, &edicion_, &ver_}) menuBar()->addMenu(menu);
+    for (QMenu* const menu : {&archivo_, &edicion_, &menuNombres_, &ver_}) menuBar()->addMenu(menu);
     accion(archivo_, QStringLiteral("&Abrir lenguaje…"), QStringLiteral("Ctrl+L"), [this] {
         const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroEspecificacion);
         if (fichero) abreEspecificacion(*fichero);
@@ -135,22 +140,45 @@ void VentanaLenguaje::ponMenus() {
                 edicion_.addAction(activo_->norvik().accion(static_cast<AccionNorvik>(i)));
         });
     });
+    ponMenuNombres();
     ponMenuVer();
+}
+
+void VentanaLenguaje::ponMenuNombres() {
+    accion(menuNombres_, QStringLiteral("Ir a la &definición"), QStringLiteral("F12"),
+           [this] { nombres_.vaAlOrigen(); });
+    accion(menuNombres_, QStringLiteral("Buscar los &usos"), QStringLiteral("Shift+F12"), [this] {
+        const auto nombre = nombres_.elegido();
+        if (!nombre) return;
+        usos_.busca(*nombre);
+        abrePanel(usos_);
+    });
+    accion(menuNombres_, QStringLiteral("&Cambiar el nombre…"), QStringLiteral("F2"),
+           [this] { nombres_.cambia(); });
+    accion(menuNombres_, QStringLiteral("&Explicar el nombre"), QStringLiteral("Ctrl+I"),
+           [this] { nombres_.explica(); });
+}
+
+void VentanaLenguaje::abrePanel(Panel& panel) {
+    panel.show();
+    panel.raise();
+    panel.widget()->setFocus();
 }
 
 /// Each panel and editor is a key away.
 void VentanaLenguaje::ponMenuVer() {
     int numero = 1;
-    const auto teclas = [&numero] { return QKeySequence(QStringLiteral("Ctrl+%1").arg(numero++)); };
+    const auto teclas = [&numero] {
+        constexpr int cifras = 9;
+        const QString con = numero > cifras ? QStringLiteral("Ctrl+Alt+%1") : QStringLiteral("Ctrl+%1");
+        return QKeySequence(con.arg((numero++ - 1) % cifras + 1));
+    };
     for (EditorTexto* const editor : {&especificacion_, &texto_})
         accion(ver_, QStringLiteral("Ir a: %1").arg(editor->nombre()), teclas(),
                [editor] { editor->norvik().setFocus(); });
     for (Panel* const panel : paneles())
-        accion(ver_, QStringLiteral("Ir a: %1").arg(panel->titulo()), teclas(), [panel] {
-            panel->show();
-            panel->raise();
-            panel->widget()->setFocus();
-        });
+        accion(ver_, QStringLiteral("Ir a: %1").arg(panel->titulo()), teclas(),
+               [this, panel] { abrePanel(*panel); });
     ver_.addSeparator();
     for (Panel* const panel : paneles()) ver_.addAction(panel->toggleViewAction());
     ver_.addSeparator();
@@ -164,25 +192,36 @@ void VentanaLenguaje::conecta() {
     connect(&atraso_, &QTimer::timeout, this, [this] { sinFallos([this] { marca(); }); });
     conecta(especificacion_);
     conecta(texto_);
-    for (Panel* const panel : paneles()) {
-        connect(panel, &Panel::elegido, this,
-                [this, panel](const Eleccion& eleccion) { sinFallos([&] { elige(eleccion, panel); }); });
-        connect(panel, &Panel::fallo, this, &VentanaLenguaje::avisa);
-    }
-    connect(&problemas_, &PanelProblemas::ido, this, [this](const Eleccion& eleccion) {
+    for (Panel* const panel : paneles()) conecta(*panel);
+    const auto cuenta = [this](const auto& cual) {
         sinFallos([&] {
-            elige(eleccion, &problemas_);
+            conflicto_.cuenta(cual);
+            abrePanel(conflicto_);
+        });
+    };
+    connect(&problemas_, &PanelProblemas::conflictoPedido, this, cuenta);
+    connect(&tabla_, &PanelTabla::conflictoPedido, this, cuenta);
+    connect(&nombres_, &AyudaDeNombres::aviso, this, &VentanaLenguaje::avisa);
+    connect(&seguimiento_, &Seguimiento::estudiado, this,
+            [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
+    connect(&recientes_, &Recientes::elegido, this, &VentanaLenguaje::abre);
+    connect(&seguimiento_, &Seguimiento::fallo, this, &VentanaLenguaje::avisa);
+}
+
+void VentanaLenguaje::conecta(Panel& panel) {
+    connect(&panel, &Panel::elegido, this,
+            [this, &panel](const Eleccion& eleccion) { sinFallos([&] { elige(eleccion, &panel); }); });
+    connect(&panel, &Panel::ido, this, [this, &panel](const Eleccion& eleccion) {
+        sinFallos([&] {
+            elige(eleccion, &panel);
             editorDe(std::holds_alternative<EnTexto>(eleccion) ? Lado::Texto : Lado::Especificacion)
                 .norvik()
                 .setFocus();
         });
     });
-    connect(&problemas_, &PanelProblemas::arreglado, this,
+    connect(&panel, &Panel::arreglado, this,
             [this](Lado lado, const Arreglo& arreglo) { ejecuta([&] { arregla(lado, arreglo); }); });
-    connect(&seguimiento_, &Seguimiento::estudiado, this,
-            [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
-    connect(&recientes_, &Recientes::elegido, this, &VentanaLenguaje::abre);
-    connect(&seguimiento_, &Seguimiento::fallo, this, &VentanaLenguaje::avisa);
+    connect(&panel, &Panel::fallo, this, &VentanaLenguaje::avisa);
 }
 
 void VentanaLenguaje::conecta(EditorTexto& editor) {
@@ -304,7 +343,9 @@ void VentanaLenguaje::cambio() {
 void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
     const bool otroLenguaje = !ultimo_ || ultimo_->deLenguaje != estudio->deLenguaje;
     ultimo_ = estudio;
-    problemas_.ponEstudio(estudio);
+    historias_.pon(estudio->deLenguaje);
+    for (Panel* const panel : paneles())
+        if (panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
     if (otroLenguaje) especificacion_.norvik().ponDiagnosticos(estudio->deLenguaje->diagnosticos);
     if (estudio->deLenguaje->lenguaje) muestra(estudio);
     marca();
@@ -317,16 +358,15 @@ void VentanaLenguaje::muestra(const std::shared_ptr<const Estudio>& estudio) {
     if (otroLenguaje) carga(*estudio->deLenguaje->lenguaje, texto_.norvik());
     texto_.norvik().ponDiagnosticos(estudio->analisis.diagnosticos);
     for (Panel* const panel : paneles())
-        if (panel != &problemas_) panel->ponEstudio(estudio);
+        if (!panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
 }
 
 /// What is older than the texts says so.
 void VentanaLenguaje::marca() {
     const bool alDia = seguimiento_.alDia();
     const bool compila = ultimo_ && ultimo_->deLenguaje->lenguaje;
-    problemas_.ponAtrasado(!alDia);
     for (Panel* const panel : paneles())
-        if (panel != &problemas_) panel->ponAtrasado(!alDia || !compila);
+        panel->ponAtrasado(!alDia || (!compila && !panel->muestraLoQueNoCompila()));
     if (!alDia)
         estado_.setText(QStringLiteral("Estudiando lo escrito…"));
     else if (compila)
@@ -351,7 +391,7 @@ void VentanaLenguaje::sigueCursor() {
 }
 
 void VentanaLenguaje::elige(const Eleccion& eleccion, const Panel* desde) {
-    const auto& estudio = desde == &problemas_ ? ultimo_ : mostrado_;
+    const auto& estudio = desde->muestraLoQueNoCompila() ? ultimo_ : mostrado_;
     if (eligiendo_ || !estudio) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
     for (Panel* const panel : paneles())
@@ -366,6 +406,16 @@ void VentanaLenguaje::muestraEnEditores(const Estudio& estudio, const Eleccion& 
         especificacion_.muestra(*enEspecificacion);
     const auto enTexto = lugarEnTexto(estudio, eleccion);
     if (enTexto && estudio.texto == texto_.norvik().caja().texto()) texto_.muestra(*enTexto);
+}
+
+/// Where something is wrong, that is what there is to say.
+QString VentanaLenguaje::palabrasDe(const NombreEscrito& nombre) const {
+    const auto& problemas = ultimo_ ? ultimo_->deLenguaje->diagnosticos : std::vector<Diagnostico>();
+    const bool hayProblema = std::ranges::any_of(problemas, [&](const Diagnostico& d) {
+        return d.rango.inicio.desplazamiento <= nombre.lugar.inicio.desplazamiento &&
+               nombre.lugar.fin.desplazamiento <= d.rango.fin.desplazamiento;
+    });
+    return hayProblema || !mostrado_ ? QString() : palabrasDeNombre(*mostrado_->deLenguaje, nombre.nombre);
 }
 
 /// A repair is one of the text that was studied.

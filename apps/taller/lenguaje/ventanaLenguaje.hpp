@@ -4,13 +4,17 @@
 
 #include "../archivador.hpp"
 #include "../recientes.hpp"
+#include "ayudaDeNombres.hpp"
 #include "editorTexto.hpp"
 #include "panelAnalisis.hpp"
 #include "panelAutomata.hpp"
+#include "panelConflicto.hpp"
 #include "panelConjuntos.hpp"
+#include "panelDiagramas.hpp"
 #include "panelPasos.hpp"
 #include "panelProblemas.hpp"
 #include "panelTabla.hpp"
+#include "panelUsos.hpp"
 #include "seguimiento.hpp"
 
 #include <QAction>
@@ -68,6 +72,9 @@ public:
     PanelTabla& tabla() { return tabla_; }
     PanelPasos& pasos() { return pasos_; }
     PanelAutomata& automata() { return automata_; }
+    PanelUsos& usos() { return usos_; }
+    PanelConflicto& conflicto() { return conflicto_; }
+    PanelDiagramas& diagramas() { return diagramas_; }
     Seguimiento& seguimiento() { return seguimiento_; }
     QMenu& ver() { return ver_; }
 
@@ -83,8 +90,9 @@ protected:
 private:
     enum class Foco : std::uint8_t { Queda, Va };
 
-    std::array<Panel*, 6> paneles() {
-        return {&problemas_, &arbol_, &conjuntos_, &tabla_, &pasos_, &automata_};
+    std::array<Panel*, 9> paneles() {
+        return {&problemas_, &arbol_, &conjuntos_, &tabla_,    &pasos_,
+                &automata_,  &usos_,  &conflicto_, &diagramas_};
     }
     template <typename Orden>
     void ejecuta(const Orden& orden);
@@ -93,9 +101,12 @@ private:
     void compone();
     void colocaPaneles();
     void ponMenus();
+    void ponMenuNombres();
     void ponMenuVer();
+    void abrePanel(Panel& panel);
     void conecta();
     void conecta(EditorTexto& editor);
+    void conecta(Panel& panel);
 
     // The documents.
     void abreEspecificacion(const QString& fichero);
@@ -115,6 +126,7 @@ private:
     void elige(const Eleccion& eleccion, const Panel* desde);
     void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
     void arregla(Lado lado, const Arreglo& arreglo);
+    QString palabrasDe(const NombreEscrito& nombre) const;
     EditorTexto& editorDe(Lado lado) { return lado == Lado::Especificacion ? especificacion_ : texto_; }
 
     SistemaQt& sistema_;
@@ -124,13 +136,18 @@ private:
     QSplitter editores_;
     EditorTexto especificacion_;
     EditorTexto texto_;
-    PanelProblemas problemas_{this};
-    PanelAnalisis arbol_{this};
+    Historias historias_;
+    PanelProblemas problemas_{historias_, this};
+    PanelConflicto conflicto_{historias_, dialogos_, this};
+    PanelAnalisis arbol_{dialogos_, this};
     PanelConjuntos conjuntos_{this};
-    PanelTabla tabla_{this};
+    PanelTabla tabla_{dialogos_, this};
     PanelPasos pasos_{this};
     PanelAutomata automata_{dialogos_, this};
-    QMenu archivo_, edicion_, ver_, menuRecientes_;
+    PanelUsos usos_{this};
+    PanelDiagramas diagramas_{dialogos_, this};
+    AyudaDeNombres nombres_;
+    QMenu archivo_, edicion_, menuNombres_, ver_, menuRecientes_;
     Recientes recientes_;
     QLabel estado_, formato_, lugar_;
     Seguimiento seguimiento_;

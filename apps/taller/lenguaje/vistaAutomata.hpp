@@ -3,47 +3,28 @@
 #pragma once
 
 #include "dibujoAutomata.hpp"
-
-#include <QGraphicsScene>
-#include <QGraphicsView>
+#include "vistaDibujo.hpp"
 
 namespace norvik::taller {
 
-/// A drawn automaton: the wheel with Ctrl, or `amplia` and `reduce`, change its size, dragging moves it, and
-/// a click chooses a state.
-class VistaAutomata final : public QGraphicsView {
+/// A drawn automaton with the chosen state and the way to it from state 0.
+class VistaAutomata final : public VistaDibujo {
     Q_OBJECT
 
 public:
     explicit VistaAutomata(QWidget* padre = nullptr);
 
-    void muestra(const DibujoAutomata& dibujo, int elegido);
+    void muestra(const DibujoAutomata& dibujo, const RealceAutomata& realce);
     void vacia();
     const DibujoAutomata& dibujo() const { return dibujo_; }
     bool dibuja(int estado) const { return dibujo_.estado(estado) != nullptr; }
-    /// Marks a state and brings it into view.
-    void elige(int estado);
-
-    void amplia() { aumenta(1.25); }
-    void reduce() { aumenta(0.8); }
-    /// All of it, but no larger than it is.
-    void encaja();
-
-signals:
-    void elegido(int estado);
-
-protected:
-    void wheelEvent(QWheelEvent* evento) override;
-    void mousePressEvent(QMouseEvent* evento) override;
-    void changeEvent(QEvent* evento) override;
+    const RealceAutomata& realce() const { return realce_; }
+    /// Marks a state and the way to it, and brings the state into view.
+    void elige(const RealceAutomata& realce);
 
 private:
-    void aumenta(double veces);
-    void repinta();
-
-    QGraphicsScene escena_;
     DibujoAutomata dibujo_;
-    int elegido_ = -1;
+    RealceAutomata realce_;
 };
 
 } // namespace norvik::taller

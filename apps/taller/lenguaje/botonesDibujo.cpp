@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+
+#include "botonesDibujo.hpp"
+
+#include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/fallos.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QToolButton>
+
+#include <memory>
+#include <utility>
+
+namespace norvik::taller {
+
+BotonesDibujo::BotonesDibujo(QWidget& panel, Dialogos& dialogos, Dibujo dibujo)
+    : panel_(panel), dialogos_(dialogos), dibujo_(std::move(dibujo)) {
+    fila_.setContentsMargins(0, 0, 0, 0);
+    setLayout(&fila_);
+    if (VistaDibujo* const vista = dibujo_.vista; vista != nullptr) {
+        pon(ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn, [vista] { vista->amplia(); });
+        pon(reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut, [vista] { vista->reduce(); });
+        pon(encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0, [vista] { vista->encaja(); });
+    }
+    pon(copiar_, QStringLiteral("Copiar dibujo"), {}, [this] { copia(); });
+    pon(guardar_, QStringLiteral("Guardar dibujo…"), {}, [this] { guarda(); });
+    activa(false);
+}
+
+void BotonesDibujo::pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
+                        const std::function<void()>& orden) {
+    accion.setText(texto);
+    accion.setShortcut(tecla);
+    accion.setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    if (!tecla.isEmpty())
+        accion.setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
+    connect(&accion, &QAction::triggered, this, [this, orden] {
+        if (const auto motivo = falloDe(orden); !motivo.empty()) emit fallo(aQString(motivo));
+    });
+    panel_.addAction(&accion);
+    auto& boton = nuevo<QToolButton>(this);
+    boton.setDefaultAction(&accion);
+    boton.setFocusPolicy(Qt::StrongFocus);
+    fila_.addWidget(&boton);
+}
+
+void BotonesDibujo::activa(bool hay) {
+    for (QAction* const accion : {&ampliar_, &reducir_, &encajar_, &copiar_, &guardar_})
+        accion->setEnabled(hay);
+}
+
+void BotonesDibujo::copia() const {
+    auto datos = std::make_unique<QMimeData>();
+    datos->setImageData(enImagen(dibujo_.lamina()));
+    if (dibujo_.texto) datos->setText(dibujo_.texto());
+    QGuiApplication::clipboard()->setMimeData(datos.release());
+}
+
+void BotonesDibujo::guarda() {
+    const Lamina lamina = dibujo_.lamina();
+    const auto fichero =
+        dialogos_.eligeParaGuardar(QStringLiteral("Guardar el dibujo: ") + lamina.titulo, filtroLaminas,
+                                   dibujo_.fichero + QStringLiteral(".svg"), QStringLiteral("svg"));
+    if (fichero) guardaLamina(lamina, *fichero);
+}
+
+} // namespace norvik::taller

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "../dialogos.hpp"
+#include "lamina.hpp"
+#include "vistaDibujo.hpp"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QWidget>
+
+#include <functional>
+
+namespace norvik::taller {
+
+/// What a panel offers for its picture: other sizes of the view, if it has one, and the picture as an image
+/// for other programs, or in a file. Its keys work wherever in the panel the focus is.
+class BotonesDibujo final : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Dibujo {
+        std::function<Lamina()> lamina;
+        QString fichero; ///< proposed name, without an ending
+        VistaDibujo* vista = nullptr;
+        std::function<QString()> texto{}; ///< what programs without pictures take, if there is one
+    };
+    /// Panel, dialogs and view outlive it.
+    BotonesDibujo(QWidget& panel, Dialogos& dialogos, Dibujo dibujo);
+
+    /// There is a picture.
+    void activa(bool hay);
+
+signals:
+    void fallo(const QString& texto);
+
+private:
+    void pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
+             const std::function<void()>& orden);
+    void copia() const;
+    void guarda();
+
+    QWidget& panel_;
+    Dialogos& dialogos_;
+    const Dibujo dibujo_;
+    QHBoxLayout fila_;
+    QAction ampliar_, reducir_, encajar_, copiar_, guardar_;
+};
+
+} // namespace norvik::taller

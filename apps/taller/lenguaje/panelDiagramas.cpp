@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelDiagramas.hpp"
+
+#include "correspondencias.hpp"
+#include "dibujoReglas.hpp"
+
+#include <utility>
+
+namespace norvik::taller {
+
+PanelDiagramas::PanelDiagramas(Dialogos& dialogos, QWidget* padre)
+    : Panel(QStringLiteral("diagramas"), QStringLiteral("Diagramas"), padre),
+      vista_(QStringLiteral("Diagramas de las reglas"),
+             QStringLiteral("La especificación y el panel Conjuntos dicen lo mismo")),
+      botones_(*this, dialogos,
+               {[this] {
+                    return Lamina{titulo(), pinta(0)};
+                },
+                QStringLiteral("reglas"), &vista_}) {
+    columna_.setContentsMargins(0, 0, 0, 0);
+    columna_.addWidget(&botones_, 0, Qt::AlignLeft);
+    columna_.addWidget(&vista_, 1);
+    centro_.setLayout(&columna_);
+    centro_.setFocusProxy(&vista_);
+    setWidget(&centro_);
+    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
+    connect(&vista_, &VistaDibujo::elegido, this, [this](int regla) {
+        protege([&] {
+            selecciona(DeRegla{static_cast<std::int16_t>(regla)});
+            emit elegido(DeRegla{static_cast<std::int16_t>(regla)});
+        });
+    });
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
+        protege([&] {
+            seVe_ = seVe;
+            dibujaSiSeVe();
+        });
+    });
+}
+
+void PanelDiagramas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    estudio_ = std::move(estudio);
+    dibujaSiSeVe();
+}
+
+void PanelDiagramas::dibujaSiSeVe() {
+    if (!seVe_ || !estudio_ || dibujado_ == estudio_->deLenguaje) return;
+    dibujado_ = estudio_->deLenguaje;
+    elegida_ = 0;
+    botones_.activa(dibujado_->gramatica() != nullptr);
+    vista_.muestra(
+        [this](const QPalette& colores, QGraphicsScene& escena) { pinta(elegida_)(colores, escena); });
+}
+
+Lamina::Pinta PanelDiagramas::pinta(std::int16_t elegida) const {
+    return [lenguaje = dibujado_, letra = font(), elegida](const QPalette& colores, QGraphicsScene& escena) {
+        if (lenguaje && lenguaje->gramatica() != nullptr)
+            pintaReglas(*lenguaje->gramatica(), letra, colores, elegida, escena);
+    };
+}
+
+void PanelDiagramas::selecciona(const Eleccion& eleccion) {
+    if (!estudio_ || dibujado_ != estudio_->deLenguaje || !seVe_) return;
+    const auto regla = reglaDe(*estudio_, eleccion);
+    if (!regla || std::exchange(elegida_, *regla) == *regla) return;
+    vista_.repinta();
+    vista_.acerca(*regla);
+}
+
+} // namespace norvik::taller

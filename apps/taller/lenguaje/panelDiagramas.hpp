@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "../dialogos.hpp"
+#include "botonesDibujo.hpp"
+#include "panel.hpp"
+#include "vistaDibujo.hpp"
+
+#include <QVBoxLayout>
+
+#include <cstdint>
+#include <memory>
+
+namespace norvik::taller {
+
+/// The rules as tracks. They are drawn when the panel is seen.
+class PanelDiagramas final : public Panel {
+    Q_OBJECT
+
+public:
+    /// The dialogs outlive it.
+    PanelDiagramas(Dialogos& dialogos, QWidget* padre);
+
+    void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
+    void selecciona(const Eleccion& eleccion) override;
+
+    // For those who drive it from outside.
+    VistaDibujo& vista() { return vista_; }
+
+private:
+    void dibujaSiSeVe();
+    Lamina::Pinta pinta(std::int16_t elegida) const;
+
+    std::shared_ptr<const Estudio> estudio_;
+    std::shared_ptr<const LenguajeEstudiado> dibujado_;
+    std::int16_t elegida_ = 0;
+    bool seVe_ = false;
+
+    QWidget centro_;
+    QVBoxLayout columna_;
+    VistaDibujo vista_;
+    BotonesDibujo botones_;
+};
+
+} // namespace norvik::taller

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+
+#include "panelUsos.hpp"
+
+#include "norvik/checks/nombres.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace norvik::taller {
+
+namespace {
+
+enum Columna { Linea, Lugar, numeroDeColumnas };
+
+std::u16string_view lineaCon(std::u16string_view texto, std::size_t sitio) {
+    constexpr std::u16string_view saltos = u"\r\n";
+    const std::size_t antes = texto.substr(0, sitio).find_last_of(saltos);
+    const std::size_t inicio = antes == std::u16string_view::npos ? 0 : antes + 1;
+    return texto.substr(inicio, std::min(texto.find_first_of(saltos, sitio), texto.size()) - inicio);
+}
+
+} // namespace
+
+PanelUsos::PanelUsos(QWidget* padre) : Panel(QStringLiteral("usos"), QStringLiteral("Usos"), padre) {
+    cuenta_.setTextFormat(Qt::PlainText);
+    cuenta_.setText(QStringLiteral("Mayús+F12 en un nombre de la especificación busca sus usos."));
+    lista_.setColumnCount(numeroDeColumnas);
+    lista_.setHeaderLabels({QStringLiteral("Línea"), QStringLiteral("Lugar")});
+    lista_.setAccessibleName(QStringLiteral("Lugares en que está el nombre"));
+    lista_.setRootIsDecorated(false);
+    lista_.setUniformRowHeights(true);
+    lista_.header()->setStretchLastSection(false);
+    lista_.header()->setSectionResizeMode(Linea, QHeaderView::Stretch);
+    lista_.header()->setSectionResizeMode(Lugar, QHeaderView::ResizeToContents);
+    columna_.setContentsMargins(0, 0, 0, 0);
+    columna_.addWidget(&cuenta_);
+    columna_.addWidget(&lista_, 1);
+    centro_.setLayout(&columna_);
+    centro_.setFocusProxy(&lista_);
+    setWidget(&centro_);
+    connect(&lista_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* fila) {
+        protege([&] {
+            const Rango* const lugar = lugarDe(fila);
+            if (lugar != nullptr && !callado_) emit elegido(EnEspecificacion{*lugar});
+        });
+    });
+    const auto va = [this](const QTreeWidgetItem* fila) {
+        protege([&] {
+            if (const Rango* const lugar = lugarDe(fila)) emit ido(EnEspecificacion{*lugar});
+        });
+    };
+    connect(&lista_, &QTreeWidget::itemActivated, this, va);
+    connect(&lista_, &QTreeWidget::itemClicked, this, va);
+}
+
+void PanelUsos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    const bool esElMismo = estudio_ && estudio_->deLenguaje == estudio->deLenguaje;
+    estudio_ = std::move(estudio);
+    if (!esElMismo) llena();
+}
+
+void PanelUsos::busca(std::u16string nombre) {
+    nombre_ = std::move(nombre);
+    llena();
+    lista_.setCurrentItem(lista_.topLevelItem(0));
+}
+
+/// A list that is filled anew stays at its row.
+void PanelUsos::llena() {
+    if (nombre_.empty() || !estudio_) return;
+    const QScopedValueRollback<bool> callado(callado_, true);
+    const int fila = lista_.currentIndex().row();
+    lista_.clear();
+    lugares_.clear();
+    const std::u16string& texto = estudio_->deLenguaje->especificacion;
+    for (const NombreEscrito& escrito : nombresEscritos(texto))
+        if (escrito.nombre == nombre_)
+            anade(lineaCon(texto, static_cast<std::size_t>(escrito.lugar.inicio.desplazamiento)),
+                  escrito.lugar);
+    const auto cuantos = lugares_.size();
+    cuenta_.setText(cuantos == 1
+                        ? QStringLiteral("«%1» está en 1 lugar").arg(aQString(nombre_))
+                        : QStringLiteral("«%1» está en %2 lugares").arg(aQString(nombre_)).arg(cuantos));
+    lista_.setCurrentItem(lista_.topLevelItem(std::min(fila, static_cast<int>(cuantos) - 1)));
+}
+
+void PanelUsos::anade(std::u16string_view linea, const Rango& lugar) {
+    auto& fila = nuevo<QTreeWidgetItem>(&lista_);
+    fila.setText(Linea, aQString(linea).simplified());
+    fila.setText(Lugar, QStringLiteral("%1:%2").arg(lugar.inicio.linea).arg(lugar.inicio.columna));
+    lugares_.push_back(lugar);
+}
+
+const Rango* PanelUsos::lugarDe(const QTreeWidgetItem* fila) const {
+    const int numero = fila == nullptr ? -1 : lista_.indexFromItem(fila).row();
+    return numero < 0 || numero >= static_cast<int>(lugares_.size())
+               ? nullptr
+               : &lugares_[static_cast<std::size_t>(numero)];
+}
+
+} // namespace norvik::taller
