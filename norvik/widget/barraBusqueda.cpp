@@ -16,6 +16,7 @@
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 #include "norvik/widget/menuDeTexto.hpp"
+#include "norvik/widget/signo.hpp"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -267,7 +268,9 @@ void BarraBusqueda::actualizaCuenta() {
 
 void BarraBusqueda::avisa(const QString& texto, bool malo) {
     QPalette colores = palette();
-    if (malo) colores.setColor(QPalette::Text, legible(Qt::red, colores.color(QPalette::Base)));
+    if (malo)
+        colores.setColor(QPalette::Text,
+                         legible(Signo::colorDe(Gravedad::Error), colores.color(QPalette::Base)));
     campo_.setPalette(colores);
     if (cuenta_.text() == texto) return;
     cuenta_.setText(texto);

@@ -17,7 +17,7 @@ const QColor rojo(200, 36, 36);
 const QColor granate(150, 20, 50);
 const QColor verde(30, 140, 60);
 const QColor ambar(240, 180, 20);
-const QColor naranja(190, 110, 0);
+const QColor naranja(165, 95, 0);
 const QColor azul(40, 100, 190);
 
 /// What is done to a painter while it lives is undone.

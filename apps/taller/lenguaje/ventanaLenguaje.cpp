@@ -144,19 +144,25 @@ void VentanaLenguaje::ponMenus() {
     ponMenuVer();
 }
 
+/// The caret of the specification counts, and only while the person writes there.
 void VentanaLenguaje::ponMenuNombres() {
-    accion(menuNombres_, QStringLiteral("Ir a la &definición"), QStringLiteral("F12"),
-           [this] { nombres_.vaAlOrigen(); });
-    accion(menuNombres_, QStringLiteral("Buscar los &usos"), QStringLiteral("Shift+F12"), [this] {
+    const auto pon = [this](const QString& texto, const char* teclas, const std::function<void()>& orden) {
+        accion(menuNombres_, texto, QKeySequence(QLatin1String(teclas)), [this, orden] {
+            if (activo_ != &especificacion_)
+                return avisa(
+                    QStringLiteral("Los nombres son de la especificación, y el cursor está en el texto"));
+            orden();
+        });
+    };
+    pon(QStringLiteral("Ir a la &definición"), "F12", [this] { nombres_.vaAlOrigen(); });
+    pon(QStringLiteral("Buscar los &usos"), "Shift+F12", [this] {
         const auto nombre = nombres_.elegido();
         if (!nombre) return;
         usos_.busca(*nombre);
         abrePanel(usos_);
     });
-    accion(menuNombres_, QStringLiteral("&Cambiar el nombre…"), QStringLiteral("F2"),
-           [this] { nombres_.cambia(); });
-    accion(menuNombres_, QStringLiteral("&Explicar el nombre"), QStringLiteral("Ctrl+I"),
-           [this] { nombres_.explica(); });
+    pon(QStringLiteral("&Cambiar el nombre…"), "F2", [this] { nombres_.cambia(); });
+    pon(QStringLiteral("&Explicar el nombre"), "Ctrl+I", [this] { nombres_.explica(); });
 }
 
 void VentanaLenguaje::abrePanel(Panel& panel) {
