@@ -82,8 +82,8 @@ void PanelConflicto::compone() {
         partes_.addWidget(&lado.caja);
     }
     partes_.setSizes({480, 300, 300});
-    columnaDeCuras_.setContentsMargins(0, 0, 0, 0);
-    curas_.setLayout(&columnaDeCuras_);
+    filaDeCuras_.setContentsMargins(0, 0, 0, 0);
+    curas_.setLayout(&filaDeCuras_);
     columna_.addLayout(&fila_);
     columna_.addWidget(&partes_, 1);
     columna_.addWidget(&curas_);
@@ -216,7 +216,7 @@ void PanelConflicto::ponCuras(const std::vector<Arreglo>& arreglos) {
                                   .arg(aQString(arreglo.titulo), tecla.toString(QKeySequence::NativeText));
         auto& boton = nuevo<QPushButton>(QString(texto).replace(u'&', QLatin1String("&&")), &curas_);
         boton.setShortcut(tecla);
-        columnaDeCuras_.addWidget(&boton);
+        filaDeCuras_.addWidget(&boton);
         connect(&boton, &QPushButton::clicked, this, [this, arreglo] {
             protege([&, suyo = arreglo] { emit arreglado(Lado::Especificacion, suyo); });
         });

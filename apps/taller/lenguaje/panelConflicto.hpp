@@ -76,8 +76,8 @@ private:
     bool seVe_ = false;
 
     QWidget centro_, curas_;
-    QVBoxLayout columna_, columnaDeCuras_;
-    QHBoxLayout fila_;
+    QVBoxLayout columna_;
+    QHBoxLayout fila_, filaDeCuras_;
     QComboBox lista_;
     QSplitter partes_;
     QTextBrowser texto_;
