@@ -38,7 +38,7 @@ QTextBlock primerTitulo(const QTextDocument& documento, Condicion condicion) {
 }
 
 /// Each place that is searched for begins where bold letters do.
-QTextBlock negritaBajo(QTextBlock titulo, const QString& palabras) {
+QTextBlock negritaBajo(const QTextBlock& titulo, const QString& palabras) {
     for (QTextBlock b = titulo.next(); b.isValid() && b.blockFormat().headingLevel() == 0; b = b.next())
         for (auto i = b.begin(); !i.atEnd(); ++i)
             if (i.fragment().charFormat().fontWeight() > QFont::Normal && i.fragment().text() == palabras)
@@ -49,7 +49,7 @@ QTextBlock negritaBajo(QTextBlock titulo, const QString& palabras) {
 } // namespace
 
 QVariant PaginaManual::loadResource(int clase, const QUrl& nombre) {
-    const QVariant recurso = QTextBrowser::loadResource(clase, nombre);
+    QVariant recurso = QTextBrowser::loadResource(clase, nombre);
     if (clase != QTextDocument::ImageResource) return recurso;
     constexpr int ancho = 640;
     const QImage imagen = QImage::fromData(recurso.toByteArray());
