@@ -285,8 +285,8 @@ TEST(Ventanas, Taller) {
 }
 
 /// The language window, with something in each of its panels.
-struct Lenguaje final : Escena {
-    Lenguaje() {
+struct LenguajeConPaneles final : Escena {
+    LenguajeConPaneles() {
         principal.show();
         principal.empieza(
             u"'% metodo: lalr\r\nToken si = \"si\";\r\nToken no = \"no\";\r\nToken a = \"a\";\r\n"
@@ -318,7 +318,7 @@ void usa(QWidget& ventana, qsizetype cual) {
 }
 
 TEST(Ventanas, Lenguaje) {
-    const Hacer hacer = [] { return std::make_unique<Lenguaje>(); };
+    const Hacer hacer = [] { return std::make_unique<LenguajeConPaneles>(); };
     std::vector<std::pair<std::string, Operacion>> operaciones = {{"teclas", teclea}, {"cerrar", cierra}};
     const auto escena = hacer();
     for (qsizetype i = 0; i < escena->ventana().findChildren<Panel*>().size(); ++i)
