@@ -16,7 +16,8 @@ set(NORVIK_CABECERAS_QT ${NORVIK_CABECERAS} <QtWidgets>)
 function(norvik_precompila target)
   if(NORVIK_PCH)
     target_precompile_headers(${target} PRIVATE ${ARGN})
-    # GCC 12 no longer knows then that "literal" + std::string is inlined from a header of the system, and finds fault with it.
-    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds -Wno-stringop-overflow>)
+    # GCC 12 no longer knows then that what it inlines of std::string is a header of the system, and finds fault with it.
+    target_compile_options(${target} PRIVATE
+      $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread>)
   endif()
 endfunction()
