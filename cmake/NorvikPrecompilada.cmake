@@ -9,9 +9,9 @@ else()
 endif()
 option(NORVIK_PCH "Read the headers of others once a target" ${NORVIK_PCH_INICIAL})
 
-set(NORVIK_CABECERAS <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <set> <span> <stop_token> <string>
+set(NORVIK_COMUNES <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <set> <span> <stop_token> <string>
   <string_view> <utility> <variant> <vector>)
-set(NORVIK_CABECERAS_QT ${NORVIK_CABECERAS} <QtWidgets>)
+set(NORVIK_COMUNES_QT ${NORVIK_COMUNES} <QtWidgets>)
 
 function(norvik_precompila target)
   if(NORVIK_PCH)

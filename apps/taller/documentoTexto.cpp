@@ -31,7 +31,8 @@ QString DocumentoTexto::nombreDelFormato() const {
 }
 
 bool DocumentoTexto::alDia() const {
-    return !fichero_.isEmpty() && !modificado() && QFileInfo::exists(fichero_);
+    const QString huella = huellaDe(fichero_);
+    return !modificado() && !huella.isEmpty() && huella == huella_;
 }
 
 /// Where there is nothing any more nothing is lost.

@@ -6,6 +6,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace norvik::taller {
 
 namespace {
@@ -44,12 +46,16 @@ void Presentacion::pon(bool puesta) {
     letra.setPointSizeF(letra.pointSizeF() * (puesta ? aumentoDeLetra : 1));
     QApplication::setFont(letra);
     QApplication::setPalette(puesta ? deProyector() : paleta_);
+    for (const Antes& antes : std::exchange(antes_, {}))
+        if (antes.norvik) antes.norvik->aumento(antes.aumento);
+    if (!puesta) return;
     for (QWidget* const ventana : QApplication::topLevelWidgets()) aplica(*ventana);
 }
 
-void Presentacion::aplica(QWidget& ventana) const {
+void Presentacion::aplica(QWidget& ventana) {
     for (auto* const norvik : ventana.findChildren<ControlNorvik*>()) {
-        norvik->aumento(puesta_ ? aumentoDeTextos : 100);
+        antes_.push_back({norvik, norvik->aumento()});
+        norvik->aumento(aumentoDeTextos);
     }
 }
 

@@ -132,8 +132,21 @@ void Recuperacion::ofrece(const fs::path& cerrojo) {
     if (sobra) borraAmbos(cerrojo);
 }
 
+/// One that cannot be read is put where it is not offered again.
+CopiaTaller Recuperacion::lee(const fs::path& fichero) {
+    const std::string bytes = leeBytes(fichero);
+    try {
+        return copiaDe(bytes);
+    } catch (const NoCoincidenLosTipos& dano) {
+        const fs::path aparte = fs::path(fichero).replace_extension(".rota");
+        fs::rename(fichero, aparte);
+        throw NoCoincidenLosTipos(dano.texto() + u": se deja aparte, en «" + deRuta(aparte).toStdU16String() +
+                                  u"»");
+    }
+}
+
 bool Recuperacion::recupera(const fs::path& fichero) {
-    const CopiaTaller suya = copiaDe(leeBytes(fichero));
+    const CopiaTaller suya = lee(fichero);
     switch (dialogos_.pregunta(preguntaDe(suya, fichero), QStringLiteral("&Recuperar"),
                                QStringLiteral("&Descartar"))) {
     case Destino::Guardar:

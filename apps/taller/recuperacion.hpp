@@ -43,6 +43,7 @@ private:
     void olvida();
     bool tieneCerrojo() const;
     void ofrece(const std::filesystem::path& cerrojo);
+    static CopiaTaller lee(const std::filesystem::path& fichero);
     bool recupera(const std::filesystem::path& fichero);
 
     VentanaPrincipal& ventana_;

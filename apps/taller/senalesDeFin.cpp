@@ -36,7 +36,11 @@ SenalesDeFin::SenalesDeFin() : aviso_(lectura(), QSocketNotifier::Read) {
     struct sigaction accion {};
     accion.sa_handler = anota; // NOLINT: the system's own union
     accion.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
-    for (const int senal : {SIGTERM, SIGINT, SIGHUP}) sigaction(senal, &accion, nullptr);
+    for (const int senal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction antes {};
+        sigaction(senal, nullptr, &antes);
+        if (antes.sa_handler != SIG_IGN) sigaction(senal, &accion, nullptr); // NOLINT: it was to be ignored
+    }
 }
 
 void SenalesDeFin::atiende() {

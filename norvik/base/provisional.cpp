@@ -24,7 +24,7 @@ namespace norvik::inline v0_2 {
 namespace {
 
 constexpr int maximo = 1000;  // of one file at the same time
-constexpr int habituales = 8; // where others leave some behind
+constexpr int habituales = 8; // where a save leaves some behind
 
 // Some file systems know no locks: there everybody leaves what the others have alone.
 enum class Cerrojo { Mio, Ajeno, NoHay };
@@ -47,9 +47,18 @@ bool haPerdidoSuNombre(const Descriptor& descriptor) {
     return fstat(descriptor.numero(), &abierto) == 0 && abierto.st_nlink == 0;
 }
 
+/// A file system of another machine locks for one alone only what is open for writing.
+Descriptor abre(const std::filesystem::path& nombre) {
+    constexpr int opciones = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    const auto con = [&](int acceso) {
+        return Descriptor(sinInterrupcion([&] { return open(nombre.c_str(), acceso | opciones); }));
+    };
+    Descriptor descriptor = con(O_RDWR);
+    return descriptor.abierto() ? std::move(descriptor) : con(O_RDONLY);
+}
+
 Descriptor tomaSiEsDeNadie(const std::filesystem::path& nombre) {
-    Descriptor descriptor(sinInterrupcion(
-        [&] { return open(nombre.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+    Descriptor descriptor = abre(nombre);
     if (!descriptor.abierto() || echaCerrojo(descriptor) != Cerrojo::Mio || !sigueSiendo(nombre, descriptor))
         return Descriptor(-1);
     return descriptor;
@@ -79,8 +88,12 @@ NombresProvisionales::Fichero NombresProvisionales::crea(mode_t modo) const {
 }
 
 std::vector<NombresProvisionales::Fichero> NombresProvisionales::abandonados() const {
+    return abandonados(maximo);
+}
+
+std::vector<NombresProvisionales::Fichero> NombresProvisionales::abandonados(int cuantos) const {
     std::vector<Fichero> abandonados;
-    for (int numero = 0; numero < habituales; ++numero) {
+    for (int numero = 0; numero < cuantos; ++numero) {
         const std::filesystem::path candidato = nombre(numero);
         Descriptor descriptor = tomaSiEsDeNadie(candidato);
         if (descriptor.abierto()) abandonados.push_back({candidato, std::move(descriptor)});
@@ -89,7 +102,7 @@ std::vector<NombresProvisionales::Fichero> NombresProvisionales::abandonados() c
 }
 
 void NombresProvisionales::quitaAbandonados() const {
-    for (const Fichero& abandonado : abandonados()) unlink(abandonado.nombre.c_str());
+    for (const Fichero& abandonado : abandonados(habituales)) unlink(abandonado.nombre.c_str());
 }
 
 } // namespace norvik::inline v0_2

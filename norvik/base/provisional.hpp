@@ -25,11 +25,13 @@ public:
         Descriptor descriptor; ///< not open, with the cause in errno, when there is none
     };
     Fichero crea(mode_t modo) const;
-    /// Those whose process is no more, open for reading and locked.
+    /// Those whose process is no more, open and locked.
     std::vector<Fichero> abandonados() const;
+    /// Removes the first of them, in a few calls.
     void quitaAbandonados() const;
 
 private:
+    std::vector<Fichero> abandonados(int cuantos) const;
     std::filesystem::path nombre(int numero) const;
 
     std::filesystem::path carpeta_;

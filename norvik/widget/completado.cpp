@@ -67,7 +67,10 @@ bool Completado::pulsa(const QKeyEvent& tecla) {
 
 void Completado::muestra() {
     const std::int32_t cursor = caja_.inicioSeleccion();
-    const Continuaciones siguen = propone_(caja_.texto(), static_cast<std::size_t>(cursor));
+    const Propone propone = propone_; // who is asked may name another, or delete the control
+    const QPointer<Completado> vivo(this);
+    const Continuaciones siguen = propone(caja_.texto(), static_cast<std::size_t>(cursor));
+    if (vivo.isNull()) return;
     inicio_ = static_cast<std::int32_t>(siguen.inicio);
     llena(siguen);
     if (lista_.count() == 0) return lista_.hide();

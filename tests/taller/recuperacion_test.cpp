@@ -170,7 +170,7 @@ TEST_F(RecuperacionTest, LoQueImpideCopiarSeDiceYSeVuelveAIntentar) {
     }
 }
 
-TEST_F(RecuperacionTest, UnaCopiaDanadaSeDiceYSeQueda) {
+TEST_F(RecuperacionTest, UnaCopiaDanadaSeDiceYSeDejaAparte) {
     auto vida = nace();
     Vida::escribe(vida->norvik(), "abc");
     const std::string buena = bytesDe(vida->ventana.copia());
@@ -181,10 +181,20 @@ TEST_F(RecuperacionTest, UnaCopiaDanadaSeDiceYSeQueda) {
     EXPECT_THROW(static_cast<void>(copiaDe(buena + "x")), NoCoincidenLosTipos);
     muere(std::move(vida));
     carpeta.pon(("estado/copias/" + copias().first()).toStdString(), "{}");
+    for (int otro = 1; otro < 10; ++otro) // and beyond those of workbenches that left nothing
+        carpeta.pon("estado/copias/taller-" + std::to_string(otro) + ".cerrojo", "");
+    carpeta.pon("estado/copias/taller-9.copia", buena);
     vida = nace();
+    vida->dialogos.destinos = {Destino::Descartar};
     vida->recuperacion.ofrece();
-    EXPECT_EQ(vida->dialogos.toma(), QStringList{"aviso La copia de recuperación está dañada"});
-    EXPECT_EQ(copias().size(), 1);
+    const QStringList dichos = vida->dialogos.toma();
+    ASSERT_EQ(dichos.size(), 2);
+    EXPECT_EQ(dichos[0], "aviso La copia de recuperación está dañada: se deja aparte, en «" +
+                             ruta("estado/copias/taller-0.rota") + "»");
+    EXPECT_TRUE(QFileInfo::exists(ruta("estado/copias/taller-0.rota")));
+    vida->recuperacion.ofrece();
+    EXPECT_EQ(vida->dialogos.toma(), QStringList());
+    EXPECT_TRUE(copias().isEmpty());
 }
 
 // Another program writes the file meanwhile: nothing of either is lost without an answer.
@@ -227,6 +237,9 @@ TEST_F(RecuperacionTest, LoQueOtroEscribioNoSePisaSinPreguntar) {
         EXPECT_EQ(apoyo::bytesDe(carpeta / "mio"), "xa\n");
     }
     EXPECT_EQ(dialogos.toma().filter("choque"), QStringList());
+    pon("mio", "de otro\n"); // what stands here unchanged is no longer in its file
+    vida->ventana.acciones().guardarTexto.trigger();
+    EXPECT_EQ(dialogos.toma().filter("choque").size(), 1);
 }
 
 TEST_F(RecuperacionTest, UnFormularioQueOtroEscribioNoSePisaSinPreguntar) {
