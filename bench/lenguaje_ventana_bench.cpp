@@ -21,6 +21,8 @@
 
 #include <algorithm>
 #include <ctime>
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace norvik::bench {
@@ -32,6 +34,11 @@ public:
     std::optional<QString> eligeParaAbrir(const QString&, const QString&) override { return {}; }
     std::optional<QString> eligeParaGuardar(const QString&, const QString&, const QString&,
                                             const QString&) override {
+        return {};
+    }
+    taller::Choque preguntaChoque(const QString&) override { return taller::Choque::Cancelar; }
+    std::optional<QString> pideNombre(const QString&, const QString&,
+                                      const std::function<QString(const QString&)>&) override {
         return {};
     }
 };
