@@ -337,7 +337,7 @@ TEST_F(LenguajeTest, GuardaComoSeLeyo) {
     carpeta.pon("n.nvk", "de otro");
     QTest::keyClick(&teclado(especificacion), Qt::Key_S, Qt::ControlModifier); // nothing changed here
     EXPECT_EQ(apoyo::bytesDe(fichero), "de otro");
-    EXPECT_EQ(dialogos.toma(), QStringList());
+    EXPECT_EQ(dialogos.toma().filter("choque").size(), 1);
 }
 
 TEST_F(LenguajeTest, NadaEscritoSePierdeAlCerrar) {
