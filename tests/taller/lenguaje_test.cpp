@@ -234,6 +234,22 @@ TEST_F(LenguajeTest, LaHistoriaDeUnConflictoTieneSusArboles) {
     EXPECT_EQ(panel.lista().count(), 3);
 }
 
+// What was asked of a table that is no more is not asked of the next one.
+TEST_F(LenguajeTest, UnaCeldaDeOtraTablaNoCallaLaHistoria) {
+    const QByteArray otra = QByteArray(ambigua).replace("E por E", "E por E | E zas E") +
+                            "Token zas = \"z\", TipoToken = TTOperador;\n";
+    empieza(otra, "1");
+    empieza("E -> ", "1");
+    QTest::keyClick(&ventana, Qt::Key_6, Qt::ControlModifier);
+    for (int i = 0; i < 9; ++i) QTest::keyClick(&ventana.tabla().siguiente(), Qt::Key_Space);
+    QTest::keyClick(&ventana.tabla().vista(), Qt::Key_Return); // of the table before
+    EXPECT_TRUE(ventana.conflicto().palabras().endsWith("no hay tabla."))
+        << ventana.conflicto().palabras().toStdString();
+    empieza("'% metodo: lalr\nToken a = \"a\";\nS -> S S | a;\n", "a");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ventana.conflicto().palabras().contains("es ambigua"); }))
+        << ventana.conflicto().palabras().toStdString();
+}
+
 TEST_F(LenguajeTest, LosDibujosSalenDeLaVentana) {
     empieza(suma, "1+2");
     const auto textosDe = [&](const char* fichero) {
@@ -373,6 +389,12 @@ TEST_F(LenguajeTest, LosNombresDeLaEspecificacion) {
         EXPECT_TRUE(especificacion.isAncestorOf(QApplication::focusWidget()));
         EXPECT_EQ(linea(), 5);
     }
+    for (int vez = 0; vez < 2; ++vez) { // whatever row was chosen, the first place is
+        cursor(especificacion, u"E -> E m");
+        QTest::keyClick(&teclas, Qt::Key_F12, Qt::ShiftModifier);
+        EXPECT_EQ(especificacion.norvik().SelText(), "mas") << vez;
+        EXPECT_EQ(linea(), 3) << vez;
+    }
     dialogos.nombres = {"por", "sumado"};
     cursor(especificacion, u"E -> E m");
     QTest::keyClick(&teclas, Qt::Key_F2);
@@ -402,6 +424,21 @@ TEST_F(LenguajeTest, ElRatonSobreUnNombre) {
     cursor(especificacion, u"E -> E mas T");
     QTest::keyClick(&vista, Qt::Key_I, Qt::ControlModifier);
     EXPECT_TRUE(QToolTip::text().contains("Primeros(T) = { num }")) << QToolTip::text().toStdString();
+}
+
+// Although there is a conflict in the rule; at the end of a line, too.
+TEST_F(LenguajeTest, UnNombreSeExplicaPorTecla) {
+    empieza("'% metodo: lalr\nToken num = \"[0-9]+\";\nToken mas = \"\\+\";\n"
+            "E -> E mas E | T\n;\nT -> num;\n",
+            "1");
+    ASSERT_EQ(problemas(0).size(), 2); // and the way to its story
+    const std::pair<const char16_t*, const char*> casos[] = {{u"mas E", "Primeros(E)"},
+                                                             {u"| T", "Primeros(T)"}};
+    for (const auto& [detras, palabras] : casos) {
+        cursor(especificacion, detras);
+        QTest::keyClick(&teclado(especificacion), Qt::Key_I, Qt::ControlModifier);
+        EXPECT_TRUE(QToolTip::text().contains(palabras)) << palabras;
+    }
 }
 
 TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {

@@ -62,7 +62,7 @@ void AyudaDeNombres::explica() {
     if (!nombre) return;
     const QWidget& vista = *editor_.norvik().caja().vista().viewport();
     const QPoint sitio = editor_.norvik().caja().vista().cursorRect().bottomLeft();
-    if (!muestraAyuda(sitio, vista.mapToGlobal(sitio)))
+    if (!muestraAyuda(*nombre, Pregunta::PorTecla, vista.mapToGlobal(sitio)))
         emit aviso(QStringLiteral("De «%1» no se sabe nada").arg(aQString(nombre->nombre)));
 }
 
@@ -94,7 +94,8 @@ bool AyudaDeNombres::eventFilter(QObject* vista, QEvent* evento) {
     sinFallos([&] {
         if (evento->type() == QEvent::ToolTip) {
             const auto& ayuda = static_cast<const QHelpEvent&>(*evento);
-            suyo = nombreBajo(ayuda.pos()) && muestraAyuda(ayuda.pos(), ayuda.globalPos());
+            const auto nombre = nombreBajo(ayuda.pos());
+            suyo = nombre && muestraAyuda(*nombre, Pregunta::ConRaton, ayuda.globalPos());
         }
         if (evento->type() == QEvent::MouseButtonRelease) suyo = std::exchange(pulsado_, false);
         if (evento->type() != QEvent::MouseButtonPress) return;
@@ -111,9 +112,8 @@ bool AyudaDeNombres::pulsa(const QPoint& punto) {
     return nombre.has_value();
 }
 
-bool AyudaDeNombres::muestraAyuda(const QPoint& punto, const QPoint& enPantalla) {
-    const auto nombre = nombreBajo(punto);
-    const QString palabras = nombre ? palabras_(*nombre) : QString();
+bool AyudaDeNombres::muestraAyuda(const NombreEscrito& nombre, Pregunta pregunta, const QPoint& enPantalla) {
+    const QString palabras = palabras_(nombre, pregunta);
     if (!palabras.isEmpty())
         QToolTip::showText(enPantalla, ayudaLlana(palabras), &editor_.norvik().caja().vista());
     return !palabras.isEmpty();

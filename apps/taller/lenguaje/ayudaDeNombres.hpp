@@ -23,8 +23,9 @@ class AyudaDeNombres final : public QObject {
     Q_OBJECT
 
 public:
-    /// What is known of a name; empty when that is nothing.
-    using Palabras = std::function<QString(const NombreEscrito&)>;
+    enum class Pregunta : std::uint8_t { PorTecla, ConRaton };
+    /// What there is to say of a name; empty when that is nothing.
+    using Palabras = std::function<QString(const NombreEscrito&, Pregunta)>;
 
     /// The editor and the dialogs outlive it.
     AyudaDeNombres(EditorTexto& editor, Dialogos& dialogos, Palabras palabras);
@@ -47,7 +48,7 @@ private:
     std::optional<NombreEscrito> enCursor();
     void vaAlOrigenDe(const NombreEscrito& nombre);
     bool pulsa(const QPoint& punto);
-    bool muestraAyuda(const QPoint& punto, const QPoint& enPantalla);
+    bool muestraAyuda(const NombreEscrito& nombre, Pregunta pregunta, const QPoint& enPantalla);
 
     EditorTexto& editor_;
     Dialogos& dialogos_;

@@ -52,10 +52,13 @@ void BotonesDibujo::activa(bool hay) {
         accion->setEnabled(hay);
 }
 
-void BotonesDibujo::copia() const {
+/// The text goes without a picture, too.
+void BotonesDibujo::copia() {
     auto datos = std::make_unique<QMimeData>();
-    datos->setImageData(enImagen(dibujo_.lamina()));
+    const auto motivo = falloDe([&] { datos->setImageData(enImagen(dibujo_.lamina())); });
+    if (!motivo.empty()) emit fallo(aQString(motivo));
     if (dibujo_.texto) datos->setText(dibujo_.texto());
+    if (datos->formats().isEmpty()) return;
     QGuiApplication::clipboard()->setMimeData(datos.release());
 }
 

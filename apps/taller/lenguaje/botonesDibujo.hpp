@@ -21,8 +21,8 @@ class BotonesDibujo final : public QWidget {
 
 public:
     struct Dibujo {
-        std::function<Lamina()> lamina;
-        QString fichero; ///< proposed name, without an ending
+        std::function<Lamina()> lamina; ///< it may raise why there is none
+        QString fichero;                ///< proposed name, without an ending
         VistaDibujo* vista = nullptr;
         std::function<QString()> texto{}; ///< what programs without pictures take, if there is one
     };
@@ -38,7 +38,7 @@ signals:
 private:
     void pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
              const std::function<void()>& orden);
-    void copia() const;
+    void copia();
     void guarda();
 
     QWidget& panel_;

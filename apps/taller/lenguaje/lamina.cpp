@@ -4,6 +4,8 @@
 
 #include "documentos.hpp"
 
+#include "norvik/base/errores.hpp"
+
 #include <QBuffer>
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -14,7 +16,9 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <new>
 
 namespace norvik::taller {
 
@@ -137,7 +141,7 @@ private:
 QByteArray enPng(const Lamina& lamina) {
     QByteArray bytes;
     QBuffer salida(&bytes);
-    enImagen(lamina).save(&salida, "PNG");
+    if (!enImagen(lamina).save(&salida, "PNG")) throw ErrorDeFichero(u"No se puede componer la imagen PNG");
     return bytes;
 }
 
@@ -152,12 +156,15 @@ void ajustaEscena(QGraphicsScene& escena) {
 }
 
 QImage enImagen(const Lamina& lamina) {
-    constexpr double maximo = 16'000; // pixels a side
+    constexpr double maximo = 16'000;     // pixels a side
+    constexpr double cabida = 64'000'000; // pixels
     QGraphicsScene escena;
     pintaEnPapel(lamina, escena);
     const QSizeF medida = escena.sceneRect().size();
-    const double escala = std::min(2.0, maximo / std::max(medida.width(), medida.height()));
-    QImage imagen((medida * escala).toSize(), QImage::Format_RGB32);
+    const double escala = std::min({2.0, maximo / std::max(medida.width(), medida.height()),
+                                    std::sqrt(cabida / (medida.width() * medida.height()))});
+    QImage imagen((medida * escala).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
+    if (imagen.isNull()) throw std::bad_alloc();
     imagen.fill(Qt::white);
     QPainter pintor(&imagen);
     dibuja(escena, pintor);

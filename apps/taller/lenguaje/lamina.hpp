@@ -24,6 +24,7 @@ struct Lamina {
 /// How a name stands for a kind of picture: SVG, PDF, else PNG.
 extern const QString filtroLaminas;
 
+/// Twice as large as it is, or as large as a picture can be. Raises `std::bad_alloc` without memory for it.
 QImage enImagen(const Lamina& lamina);
 QByteArray enSvg(const Lamina& lamina);
 QByteArray enPdf(const Lamina& lamina);

@@ -9,10 +9,13 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 
 // What the panels say of a grammar and its table, in one place, so that they say it alike.
 namespace norvik::taller {
 
+/// In the place of a table, where there is none.
+constexpr std::u16string_view sinTabla = u"El lenguaje no tiene gramática, o no compila: no hay tabla.";
 /// «3. E → E mas T»
 std::u16string palabrasDeRegla(const GramaticaLR& g, std::int16_t regla);
 /// «E → E • mas T»

@@ -5,6 +5,7 @@
 #include "curas.hpp"
 #include "dibujoArbol.hpp"
 #include "palabrasConflicto.hpp"
+#include "palabrasLR.hpp"
 
 #include "norvik/checks/palabrasHistoria.hpp"
 #include "norvik/platform/qt/nombra.hpp"
@@ -93,7 +94,9 @@ void PanelConflicto::compone() {
 }
 
 void PanelConflicto::ponEstudio(std::shared_ptr<const Estudio> estudio) {
-    if (std::exchange(lenguaje_, estudio->deLenguaje) != estudio->deLenguaje) llena();
+    if (std::exchange(lenguaje_, estudio->deLenguaje) == estudio->deLenguaje) return;
+    pedida_.reset(); // a cell of another table
+    llena();
 }
 
 // ---- the list
@@ -131,8 +134,9 @@ void PanelConflicto::cuenta(std::size_t diagnostico) {
 
 void PanelConflicto::cuenta(const DeCelda& celda) {
     if (historias_.conocidas()) return vaA(celda);
+    if (cuales_.empty()) return;
     pedida_ = celda;
-    if (!cuales_.empty()) historias_.de(cuales_.front().diagnostico); // begins the search
+    historias_.de(cuales_.front().diagnostico); // begins the search
 }
 
 void PanelConflicto::vaA(const DeCelda& celda) {
@@ -170,9 +174,14 @@ void PanelConflicto::muestra() {
     ponArboles(historia);
     if (historia != nullptr) return muestra(*historia);
     ponCuras({});
-    texto_.setPlainText(cuales_.empty()          ? QStringLiteral("La tabla no tiene conflictos.")
-                        : historias_.conocidas() ? QStringLiteral("De este conflicto no se sabe nada más.")
-                                                 : QStringLiteral("Se busca un ejemplo…"));
+    texto_.setPlainText(sinHistoria());
+}
+
+QString PanelConflicto::sinHistoria() const {
+    if (lenguaje_->gramatica() == nullptr) return aQString(sinTabla);
+    if (cuales_.empty()) return QStringLiteral("La tabla no tiene conflictos.");
+    return historias_.conocidas() ? QStringLiteral("De este conflicto no se sabe nada más.")
+                                  : QStringLiteral("Se busca un ejemplo…");
 }
 
 void PanelConflicto::muestra(const HistoriaConflicto& historia) {

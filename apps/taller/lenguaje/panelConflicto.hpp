@@ -61,6 +61,8 @@ private:
     void anade(std::size_t diagnostico);
     void muestra();
     void muestra(const HistoriaConflicto& historia);
+    /// What there is to say without one.
+    QString sinHistoria() const;
     void eligeCelda();
     void ponArboles(const HistoriaConflicto* historia);
     void ponCuras(const std::vector<Arreglo>& arreglos);

@@ -4,6 +4,9 @@
 
 #include "correspondencias.hpp"
 #include "dibujoTabla.hpp"
+#include "palabrasLR.hpp"
+
+#include "norvik/base/errores.hpp"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -16,12 +19,8 @@ namespace norvik::taller {
 PanelTabla::PanelTabla(Dialogos& dialogos, QWidget* padre)
     : Panel(QStringLiteral("tabla"), QStringLiteral("Tabla"), padre),
       botones_(*this, dialogos,
-               {[this] {
-                    return Lamina{titulo(), [this](const QPalette& colores, QGraphicsScene& escena) {
-                                      pintaTabla(modelo_, font(), colores, escena);
-                                  }};
-                },
-                QStringLiteral("tabla"), nullptr, [this] { return tablaEnTexto(modelo_); }}) {
+               {[this] { return lamina(); }, QStringLiteral("tabla"), nullptr,
+                [this] { return tablaEnTexto(modelo_); }}) {
     compone();
     connect(vista_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
@@ -82,9 +81,7 @@ void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 void PanelTabla::muestraPalabras() {
     const QModelIndex celda = vista_.currentIndex();
     conflicto_.setEnabled(modelo_.estaEnConflicto(celda));
-    palabras_.setText(estudio_->gramatica() == nullptr
-                          ? QStringLiteral("El lenguaje no tiene gramática, o no compila: no hay tabla.")
-                          : modelo_.palabras(celda));
+    palabras_.setText(estudio_->gramatica() == nullptr ? aQString(sinTabla) : modelo_.palabras(celda));
 }
 
 void PanelTabla::pideConflicto() {
@@ -111,6 +108,20 @@ void PanelTabla::ajusta() {
             c, std::max(anchos[static_cast<std::size_t>(c)], letra.horizontalAdvance(simbolo)) + margen);
     }
     vista_.verticalHeader()->setDefaultSectionSize(letra.height() * 3 / 2);
+}
+
+Lamina PanelTabla::lamina() const {
+    constexpr int maximo = 100'000; // cells
+    if (const int celdas = modelo_.rowCount() * modelo_.columnCount(); celdas > maximo)
+        throw Desbordamiento(
+            QStringLiteral("La tabla tiene %1 celdas, y un dibujo %2 a lo más; «Copiar dibujo» "
+                           "la copia como texto")
+                .arg(celdas)
+                .arg(maximo)
+                .toStdU16String());
+    return {titulo(), [this](const QPalette& colores, QGraphicsScene& escena) {
+                pintaTabla(modelo_, font(), colores, escena);
+            }};
 }
 
 void PanelTabla::selecciona(const Eleccion& eleccion) {

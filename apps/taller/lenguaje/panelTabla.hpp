@@ -43,6 +43,8 @@ private:
     void muestraPalabras();
     void pideConflicto();
     void vaAlSiguiente();
+    /// Raises `Desbordamiento` for a table too large to be drawn.
+    Lamina lamina() const;
 
     QWidget centro_;
     QVBoxLayout columna_;

@@ -18,11 +18,16 @@ namespace {
 
 enum Columna { Linea, Lugar, numeroDeColumnas };
 
-std::u16string_view lineaCon(std::u16string_view texto, std::size_t sitio) {
+/// What stands around a place in its line: of a line as long as its text nobody reads more.
+QString alrededorDe(std::u16string_view texto, std::size_t sitio) {
     constexpr std::u16string_view saltos = u"\r\n";
-    const std::size_t antes = texto.substr(0, sitio).find_last_of(saltos);
-    const std::size_t inicio = antes == std::u16string_view::npos ? 0 : antes + 1;
-    return texto.substr(inicio, std::min(texto.find_first_of(saltos, sitio), texto.size()) - inicio);
+    constexpr std::size_t lado = 100; // units
+    const std::size_t desde = sitio - std::min(sitio, lado);
+    const std::u16string_view antes = texto.substr(desde, sitio - desde);
+    const std::u16string_view detras = texto.substr(sitio, lado);
+    const std::size_t salto = antes.find_last_of(saltos);
+    const std::size_t inicio = salto == std::u16string_view::npos ? 0 : salto + 1;
+    return aQString(antes.substr(inicio)) + aQString(detras.substr(0, detras.find_first_of(saltos)));
 }
 
 } // namespace
@@ -57,23 +62,34 @@ PanelUsos::PanelUsos(QWidget* padre) : Panel(QStringLiteral("usos"), QStringLite
     };
     connect(&lista_, &QTreeWidget::itemActivated, this, va);
     connect(&lista_, &QTreeWidget::itemClicked, this, va);
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
+        protege([&] {
+            seVe_ = seVe;
+            llenaSiSeVe();
+        });
+    });
 }
 
 void PanelUsos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
-    const bool esElMismo = estudio_ && estudio_->deLenguaje == estudio->deLenguaje;
     estudio_ = std::move(estudio);
-    if (!esElMismo) llena();
+    llenaSiSeVe();
 }
 
 void PanelUsos::busca(std::u16string nombre) {
     nombre_ = std::move(nombre);
+    lista_.setCurrentItem(nullptr); // the first place is chosen, although its row may have been before
     llena();
     lista_.setCurrentItem(lista_.topLevelItem(0));
+}
+
+void PanelUsos::llenaSiSeVe() {
+    if (seVe_ && estudio_ && llenado_ != estudio_->deLenguaje) llena();
 }
 
 /// A list that is filled anew stays at its row.
 void PanelUsos::llena() {
     if (nombre_.empty() || !estudio_) return;
+    llenado_ = estudio_->deLenguaje;
     const QScopedValueRollback<bool> callado(callado_, true);
     const int fila = lista_.currentIndex().row();
     lista_.clear();
@@ -81,7 +97,7 @@ void PanelUsos::llena() {
     const std::u16string& texto = estudio_->deLenguaje->especificacion;
     for (const NombreEscrito& escrito : nombresEscritos(texto))
         if (escrito.nombre == nombre_)
-            anade(lineaCon(texto, static_cast<std::size_t>(escrito.lugar.inicio.desplazamiento)),
+            anade(alrededorDe(texto, static_cast<std::size_t>(escrito.lugar.inicio.desplazamiento)),
                   escrito.lugar);
     const auto cuantos = lugares_.size();
     cuenta_.setText(cuantos == 1
@@ -90,9 +106,9 @@ void PanelUsos::llena() {
     lista_.setCurrentItem(lista_.topLevelItem(std::min(fila, static_cast<int>(cuantos) - 1)));
 }
 
-void PanelUsos::anade(std::u16string_view linea, const Rango& lugar) {
+void PanelUsos::anade(const QString& linea, const Rango& lugar) {
     auto& fila = nuevo<QTreeWidgetItem>(&lista_);
-    fila.setText(Linea, aQString(linea).simplified());
+    fila.setText(Linea, linea.simplified());
     fila.setText(Lugar, QStringLiteral("%1:%2").arg(lugar.inicio.linea).arg(lugar.inicio.columna));
     lugares_.push_back(lugar);
 }

@@ -30,7 +30,8 @@ public:
 
 private:
     void llena();
-    void anade(std::u16string_view linea, const Rango& lugar);
+    void llenaSiSeVe();
+    void anade(const QString& linea, const Rango& lugar);
     const Rango* lugarDe(const QTreeWidgetItem* fila) const;
 
     QWidget centro_;
@@ -38,9 +39,11 @@ private:
     QLabel cuenta_;
     QTreeWidget lista_;
     std::shared_ptr<const Estudio> estudio_;
+    std::shared_ptr<const LenguajeEstudiado> llenado_; ///< whose places the list has
     std::u16string nombre_;
     std::vector<Rango> lugares_; ///< of each row
     bool callado_ = false;       ///< the list is being filled
+    bool seVe_ = false;
 };
 
 } // namespace norvik::taller

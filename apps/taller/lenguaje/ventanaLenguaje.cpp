@@ -44,7 +44,8 @@ VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettin
     : sistema_(sistema), dialogos_(dialogos), ajustes_(ajustes), archivador_(sistema, dialogos),
       especificacion_(QStringLiteral("Especificación"), sistema, &editores_),
       texto_(QStringLiteral("Texto"), sistema, &editores_),
-      nombres_(especificacion_, dialogos, [this](const NombreEscrito& n) { return palabrasDe(n); }),
+      nombres_(especificacion_, dialogos,
+               [this](const auto& nombre, auto pregunta) { return palabrasDe(nombre, pregunta); }),
       archivo_(QStringLiteral("&Archivo")), edicion_(QStringLiteral("&Edición")),
       menuNombres_(QStringLiteral("&Nombres")), ver_(QStringLiteral("&Ver")),
       menuRecientes_(QStringLiteral("Lenguajes &recientes")),
@@ -414,14 +415,18 @@ void VentanaLenguaje::muestraEnEditores(const Estudio& estudio, const Eleccion& 
     if (enTexto && estudio.texto == texto_.norvik().caja().texto()) texto_.muestra(*enTexto);
 }
 
-/// Where something is wrong, that is what there is to say.
-QString VentanaLenguaje::palabrasDe(const NombreEscrito& nombre) const {
+/// Where something is wrong the mouse is told that; by key the name is asked for.
+QString VentanaLenguaje::palabrasDe(const NombreEscrito& nombre, AyudaDeNombres::Pregunta pregunta) const {
+    if (!mostrado_ || (pregunta == AyudaDeNombres::Pregunta::ConRaton && hayProblemaEn(nombre))) return {};
+    return palabrasDeNombre(*mostrado_->deLenguaje, nombre.nombre);
+}
+
+bool VentanaLenguaje::hayProblemaEn(const NombreEscrito& nombre) const {
     const auto& problemas = ultimo_ ? ultimo_->deLenguaje->diagnosticos : std::vector<Diagnostico>();
-    const bool hayProblema = std::ranges::any_of(problemas, [&](const Diagnostico& d) {
+    return std::ranges::any_of(problemas, [&](const Diagnostico& d) {
         return d.rango.inicio.desplazamiento <= nombre.lugar.inicio.desplazamiento &&
                nombre.lugar.fin.desplazamiento <= d.rango.fin.desplazamiento;
     });
-    return hayProblema || !mostrado_ ? QString() : palabrasDeNombre(*mostrado_->deLenguaje, nombre.nombre);
 }
 
 /// A repair is one of the text that was studied.

@@ -126,7 +126,8 @@ private:
     void elige(const Eleccion& eleccion, const Panel* desde);
     void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
     void arregla(Lado lado, const Arreglo& arreglo);
-    QString palabrasDe(const NombreEscrito& nombre) const;
+    QString palabrasDe(const NombreEscrito& nombre, AyudaDeNombres::Pregunta pregunta) const;
+    bool hayProblemaEn(const NombreEscrito& nombre) const;
     EditorTexto& editorDe(Lado lado) { return lado == Lado::Especificacion ? especificacion_ : texto_; }
 
     SistemaQt& sistema_;

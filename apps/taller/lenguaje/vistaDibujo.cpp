@@ -34,24 +34,22 @@ void VistaDibujo::muestra(Lamina::Pinta pinta) {
 
 void VistaDibujo::vacia() {
     pinta_ = nullptr;
-    escena_.clear();
+    repinta();
 }
 
 void VistaDibujo::repinta() {
     escena_.clear();
+    numeros_.clear();
     if (!pinta_) return;
     pinta_(palette(), escena_);
     ajustaEscena(escena_);
-}
-
-QGraphicsItem* VistaDibujo::pieza(int numero) const {
-    for (QGraphicsItem* const suya : escena_.items())
-        if (suya->data(0).isValid() && suya->data(0).toInt() == numero) return suya;
-    return nullptr;
+    for (const QGraphicsItem* const pieza : escena_.items())
+        if (pieza->data(0).isValid()) numeros_.insert(pieza->data(0).toInt());
 }
 
 void VistaDibujo::acerca(int numero) {
-    if (const QGraphicsItem* const suya = pieza(numero)) ensureVisible(suya);
+    for (const QGraphicsItem* const pieza : escena_.items())
+        if (pieza->data(0).isValid() && pieza->data(0).toInt() == numero) return ensureVisible(pieza);
 }
 
 void VistaDibujo::encaja() {

@@ -7,6 +7,8 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 
+#include <set>
+
 namespace norvik::taller {
 
 /// A drawing: the wheel with Ctrl, or `amplia` and `reduce`, change its size, dragging moves it, and a click
@@ -25,7 +27,7 @@ public:
 
     void amplia() { aumenta(1.25); }
     void reduce() { aumenta(0.8); }
-    bool tiene(int numero) const { return pieza(numero) != nullptr; }
+    bool tiene(int numero) const { return numeros_.contains(numero); }
     /// Brings a piece into view, by its number.
     void acerca(int numero);
     /// All of it, but no larger than it is.
@@ -41,10 +43,10 @@ protected:
 
 private:
     void aumenta(double veces);
-    QGraphicsItem* pieza(int numero) const;
 
     QGraphicsScene escena_;
     Lamina::Pinta pinta_;
+    std::set<int> numeros_; ///< of the pieces
 };
 
 } // namespace norvik::taller
