@@ -72,7 +72,7 @@ private:
     void escribe(const QString& texto, int fila, int columna, const QFont& letra) {
         QGraphicsSimpleTextItem& pieza = *escena_.addSimpleText(texto, letra);
         pieza.setBrush(color_);
-        const auto c = static_cast<std::size_t>(columna + 1);
+        const auto c = static_cast<std::size_t>(columna) + 1;
         const QPointF centro((bordes_[c] + bordes_[c + 1]) / 2, alto_ * (fila + 1.5));
         pieza.setPos(centro - pieza.boundingRect().center());
     }
