@@ -60,7 +60,7 @@ VentanaManual::VentanaManual(QWidget* padre) : QWidget(padre, Qt::Window) {
     setObjectName(QStringLiteral("manual"));
     setWindowTitle(QStringLiteral("Manual — Norvik"));
     compone();
-    pagina_.setSource(QUrl(QStringLiteral("qrc:/taller/manual/manual.md")));
+    pagina_.setSource(QUrl(QStringLiteral("qrc:/docs/manual.md")));
     llenaIndice();
     conecta();
 }
