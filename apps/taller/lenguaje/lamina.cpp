@@ -19,6 +19,7 @@
 #include <cmath>
 #include <cstddef>
 #include <new>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -62,7 +63,7 @@ QString color(const QBrush& brocha) {
 
 class EscritorSvg {
 public:
-    explicit EscritorSvg(const QString& titulo) : titulo_(titulo), xml_(&svg_) {}
+    explicit EscritorSvg(QString titulo) : titulo_(std::move(titulo)), xml_(&svg_) {}
 
     QByteArray escribe(const QGraphicsScene& escena) {
         const QRectF todo = escena.sceneRect();
