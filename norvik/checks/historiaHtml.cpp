@@ -9,6 +9,7 @@
 #include "norvik/checks/trazadoArbol.hpp"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -39,7 +40,7 @@ public:
 
     std::u16string svg() const {
         const std::u16string ancho = aTexto(trazado_.ancho);
-        const std::u16string alto = aTexto(static_cast<int>(trazado_.niveles) * altoNivel);
+        const std::u16string alto = aTexto(static_cast<std::int64_t>(trazado_.niveles) * altoNivel);
         std::u16string html = u"<svg role=\"img\" width=\"" + ancho + u"\" height=\"" + alto +
                               u"\" viewBox=\"0 0 " + ancho + u" " + alto +
                               u"\" style=\"max-width:100%;height:auto\" aria-label=\"" +

@@ -31,10 +31,12 @@ std::string nombresDe(std::u16string_view texto) {
 
 std::string aplicado(std::u16string_view texto, const Arreglo& arreglo) {
     std::u16string otro(texto);
-    for (auto c = arreglo.cambios.rbegin(); c != arreglo.cambios.rend(); ++c)
-        otro.replace(static_cast<std::size_t>(c->rango.inicio.desplazamiento),
-                     static_cast<std::size_t>(c->rango.fin.desplazamiento - c->rango.inicio.desplazamiento),
-                     c->texto);
+    for (std::size_t i = arreglo.cambios.size(); i > 0; --i) {
+        const auto& [inicio, fin] = arreglo.cambios[i - 1].rango;
+        otro.replace(static_cast<std::size_t>(inicio.desplazamiento),
+                     static_cast<std::size_t>(fin.desplazamiento - inicio.desplazamiento),
+                     arreglo.cambios[i - 1].texto);
+    }
     return aUtf8(otro);
 }
 

@@ -50,7 +50,7 @@ TEST(Colores, LosDeLaGravedadSeVenEnLasDosPaletas) {
 TEST(Colores, SobreUnRealceSeLee) {
     const QColor rojizo = realceDeConflicto(Qt::BackgroundRole).value<QBrush>().color();
     for (const auto& [fondo, letra] : paletas) {
-        EXPECT_GE(contraste(letra, mezcla(rojizo, fondo, rojizo.alphaF())), suficiente);
+        EXPECT_GE(contraste(letra, mezcla(rojizo, fondo, static_cast<double>(rojizo.alphaF()))), suficiente);
         EXPECT_GE(contraste(letra, mezcla(QColor(255, 190, 0), fondo, 0.3)), suficiente); // what is found
         EXPECT_GE(contraste(letra, mezcla(Signo::colorDe(Gravedad::Error), fondo, 0.35)), suficiente);
     }

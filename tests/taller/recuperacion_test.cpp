@@ -16,6 +16,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <utility>
+
 using namespace norvik;
 using namespace norvik::taller;
 
@@ -92,7 +96,7 @@ TEST_F(RecuperacionTest, LoEscritoVuelveComoEstaba) {
         EXPECT_TRUE(vida->lenguaje().isVisible());
         EXPECT_TRUE(vida->lenguaje().especificacion().texto().starts_with(u"'Token"));
         EXPECT_EQ(vida->lenguaje().texto().texto(), u"aa");
-        if (vez == 0) muere(std::move(vida));
+        if (vez == 0) muere(std::exchange(vida, nullptr));
     }
     vida->ventana.formulario().activa(*vida->ventana.formulario().elementos()[0]);
     vida->ventana.acciones().guardarTexto.trigger();
