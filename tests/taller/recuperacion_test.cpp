@@ -76,7 +76,7 @@ TEST_F(RecuperacionTest, LoEscritoVuelveComoEstaba) {
     vida->ventana.abreEnVentana(lengua);
     Vida::escribe(vida->lenguaje().especificacion().norvik(), "'");
     Vida::escribe(vida->lenguaje().texto().norvik(), "aa");
-    muere(std::move(vida));
+    muere(std::exchange(vida, nullptr));
 
     for (int vez = 0; vez < 2; ++vez) { // it dies again before anything is saved
         vida = nace();
@@ -142,7 +142,7 @@ TEST_F(RecuperacionTest, CadaTallerTieneLaSuya) {
     const auto tercero = nace();
     tercero->recuperacion.ofrece(); // both live
     EXPECT_EQ(tercero->dialogos.toma(), QStringList());
-    muere(std::move(uno));
+    muere(std::exchange(uno, nullptr));
     tercero->recuperacion.ofrece(); // not now
     EXPECT_EQ(tercero->dialogos.toma().size(), 1);
     EXPECT_EQ(tercero->norvik().Text(), "");
@@ -183,7 +183,7 @@ TEST_F(RecuperacionTest, UnaCopiaDanadaSeDiceYSeDejaAparte) {
         EXPECT_THROW(static_cast<void>(copiaDe(std::string_view(buena).substr(0, largo))),
                      NoCoincidenLosTipos);
     EXPECT_THROW(static_cast<void>(copiaDe(buena + "x")), NoCoincidenLosTipos);
-    muere(std::move(vida));
+    muere(std::exchange(vida, nullptr));
     carpeta.pon(("estado/copias/" + copias().first()).toStdString(), "{}");
     for (int otro = 1; otro < 10; ++otro) // and beyond those of workbenches that left nothing
         carpeta.pon("estado/copias/taller-" + std::to_string(otro) + ".cerrojo", "");
@@ -269,7 +269,7 @@ TEST_F(RecuperacionTest, LaCopiaSabeQueLeyoYQueOtroEscribioDespues) {
     ControlNorvik& norvik = vida->lenguaje().especificacion().norvik();
     norvik.accion(AccionNorvik::SeleccionarTodo)->trigger();
     QTest::keyClick(&norvik.caja().ventana(), Qt::Key_Delete);
-    muere(std::move(vida));
+    muere(std::exchange(vida, nullptr));
     pon("l.nvk", "de otro\n");
     vida = nace();
     vida->dialogos.destinos = {Destino::Guardar};
