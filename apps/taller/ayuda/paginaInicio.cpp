@@ -66,7 +66,6 @@ QVBoxLayout& PaginaInicio::columna(int numero, const QString& titulo) {
 void PaginaInicio::boton(QVBoxLayout& columna, const QString& titulo, const QString& explicacion,
                          const std::function<void()>& orden) {
     auto& boton = norvik::nuevo<QCommandLinkButton>(titulo, explicacion);
-    boton.setFlat(false);       // a flat one does not show that it has the focus
     boton.setAutoDefault(true); // Return is as good as the space bar
     boton.setAccessibleDescription(explicacion);
     connect(&boton, &QPushButton::clicked, this, orden);
