@@ -10,8 +10,11 @@
 #include "norvik/spec/directivas.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -30,10 +33,10 @@ std::u16string_view lineaHasta(std::u16string_view texto, std::size_t posicion) 
 }
 
 /// The names with a role that stand before a position, in the order of the alphabet.
-std::set<std::u16string> nombresCon(std::u16string_view texto, std::size_t posicion,
+std::set<std::u16string> nombresCon(std::span<const NombreEscrito> nombres, std::size_t posicion,
                                     std::initializer_list<Papel> papeles) {
     std::set<std::u16string> suyos;
-    for (const NombreEscrito& n : nombresEscritos(texto))
+    for (const NombreEscrito& n : nombres)
         if (static_cast<std::size_t>(n.lugar.fin.desplazamiento) < posicion &&
             std::ranges::find(papeles, n.papel) != papeles.end())
             suyos.insert(n.nombre);
@@ -61,7 +64,8 @@ Continuaciones enDirectiva(std::u16string_view texto, std::size_t posicion, std:
     } else if (palabra == u"mayusculas") {
         siguen.propuestas.push_back({Clase::Palabra, std::u16string(valorDeMayusculas)});
     } else if (asociatividadDe(palabra)) {
-        anota(nombresCon(texto, texto.size() + 1, {Papel::Token}), Clase::DelTexto, siguen.propuestas);
+        const auto nombres = nombresEscritos(texto);
+        anota(nombresCon(nombres, texto.size() + 1, {Papel::Token}), Clase::DelTexto, siguen.propuestas);
     }
     return siguen;
 }
@@ -79,9 +83,9 @@ std::optional<std::size_t> referenciaEn(std::u16string_view linea) {
 }
 
 /// Where the definition begins that a position is in: it cannot refer to itself.
-std::size_t inicioDeDefinicion(std::u16string_view texto, std::size_t posicion) {
+std::size_t inicioDeDefinicion(std::span<const NombreEscrito> nombres, std::size_t posicion) {
     std::size_t inicio = 0;
-    for (const NombreEscrito& n : nombresEscritos(texto)) {
+    for (const NombreEscrito& n : nombres) {
         const auto suyo = static_cast<std::size_t>(n.lugar.inicio.desplazamiento);
         if (suyo < posicion && (n.papel == Papel::Auxiliar || n.papel == Papel::Token)) inicio = suyo;
     }
@@ -91,8 +95,9 @@ std::size_t inicioDeDefinicion(std::u16string_view texto, std::size_t posicion) 
 Continuaciones enPatron(std::u16string_view texto, std::size_t posicion, std::size_t inicio) {
     Continuaciones siguen{inicio, {}};
     const bool cerrada = posicion < texto.size() && texto[posicion] == u'>';
+    const auto nombres = nombresEscritos(texto);
     for (const std::u16string& nombre :
-         nombresCon(texto, inicioDeDefinicion(texto, inicio), {Papel::Auxiliar, Papel::Token}))
+         nombresCon(nombres, inicioDeDefinicion(nombres, inicio), {Papel::Auxiliar, Papel::Token}))
         siguen.propuestas.push_back({Clase::DelTexto, cerrada ? nombre : nombre + u">"});
     return siguen;
 }
@@ -107,7 +112,7 @@ bool seEstrena(std::u16string_view antes) {
 /// A name that is given now is no other's, and a rule is not made of regular definitions.
 void quitaNombres(std::u16string_view texto, Continuaciones& siguen) {
     const bool nuevo = seEstrena(texto.substr(0, siguen.inicio));
-    const auto auxiliares = nombresCon(texto, texto.size() + 1, {Papel::Auxiliar});
+    const auto auxiliares = nombresCon(nombresEscritos(texto), texto.size() + 1, {Papel::Auxiliar});
     std::erase_if(siguen.propuestas, [&](const Continuacion& c) {
         return c.clase == Clase::DelTexto && (nuevo || auxiliares.contains(c.texto));
     });
