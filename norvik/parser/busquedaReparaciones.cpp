@@ -147,7 +147,7 @@ private:
 
     void visita(std::uint32_t numero, std::size_t coste) {
         const Configuracion aqui = nodos_[numero].configuracion;
-        if (aqui.seguidos == seguidosQueBastan) {
+        if (aqui.seguidos == seguidosQueBastan || (lugar_.sigue && esFin(aqui.token))) {
             finales_.push_back(numero);
             return;
         }
@@ -224,7 +224,8 @@ private:
         std::uint32_t hasta = 0;
         for (Pila pila = final.pila;; ++token) {
             hasta = token;
-            if (token >= tokensDeAlcance || gasto_.agotado()) break;
+            if (lugar_.sigue && esFin(token)) hasta = tokensDeAlcance;
+            if (hasta >= tokensDeAlcance || gasto_.agotado()) break;
             const std::uint64_t clave = (static_cast<std::uint64_t>(pila) << 32) | token;
             if (const auto conocido = alcances_.find(clave); conocido != alcances_.end()) {
                 hasta = conocido->second;

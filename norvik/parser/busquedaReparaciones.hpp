@@ -32,6 +32,7 @@ struct LugarDeError {
     std::span<const std::int16_t> pila; ///< states before the wrong token asked for anything, from the bottom
     EntradaTokens& entrada;
     std::size_t token = 0; ///< number of the wrong one
+    bool sigue = false;    ///< the text goes on where the tokens end: whoever comes there has repaired it
 };
 
 /// The repairs of least cost, those after which parsing gets furthest, the likeliest first; none when the

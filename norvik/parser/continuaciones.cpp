@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 
 // What can follow at a place of a text. The tokens before it are parsed without a tree, only with the stack
-// of states; one that the table does not take is passed over, so that there are proposals behind an error,
-// too. Then each token of the grammar is tried on the stack, reductions and all: what is proposed is exactly
-// what can be shifted there. What is written elsewhere in the text and is of one of these tokens comes last.
+// of states. An error among them is repaired as parsing repairs it, with a small budget, for a person waits;
+// once that is spent, a token that the table does not take is passed over. Then each token of the grammar is
+// tried on the stack, reductions and all: what is proposed is exactly what can be shifted there. What is
+// written elsewhere in the text and is of one of these tokens comes last.
 #include "norvik/parser/continuaciones.hpp"
 
 #include "norvik/base/errores.hpp"
@@ -11,6 +12,8 @@
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/parser/analizador.hpp"
 #include "norvik/parser/avanceLR.hpp"
+#include "norvik/parser/busquedaReparaciones.hpp"
+#include "norvik/parser/entradaTokens.hpp"
 #include "norvik/parser/lectorTexto.hpp"
 #include "norvik/pattern/emparejador.hpp"
 #include "norvik/pattern/mayusculas.hpp"
@@ -43,6 +46,53 @@ bool vaAntes(const Continuacion& a, const Continuacion& b) {
     return std::tuple(a.clase, plegado(a.texto), a.texto) < std::tuple(b.clase, plegado(b.texto), b.texto);
 }
 
+constexpr std::size_t gastoDePrefijo = 600'000; // some hundredths of a second
+
+/// Takes the tokens of a text that goes on behind them, over the stack alone.
+class Prefijo {
+public:
+    Prefijo(std::u16string_view texto, LectorTexto& lector, LenguajeAnalisis& lenguaje,
+            const FichasTokens& fichas, const std::stop_token& cancelacion)
+        : lenguaje_(lenguaje), fichas_(fichas), entrada_(texto, lector, lenguaje),
+          gasto_(cancelacion, gastoDePrefijo) {}
+
+    std::vector<std::int16_t> pila() {
+        while (!EntradaTokens::esFin(entrada_.en(siguiente_))) {
+            if (toma(entrada_.en(siguiente_).columna) || !repara()) ++siguiente_;
+            entrada_.olvidaHasta(siguiente_);
+        }
+        return pila_;
+    }
+
+private:
+    bool toma(std::int16_t columna) {
+        const bool cabe = ensaya(ensayo_, pila_, columna, lenguaje_) == Avance::Desplazado;
+        if (cabe) ensayo_.consuma(pila_);
+        return cabe;
+    }
+
+    bool repara() {
+        const auto reparaciones =
+            buscaReparaciones({pila_, entrada_, siguiente_, true}, lenguaje_, fichas_, gasto_);
+        if (reparaciones.empty()) return false;
+        for (const PasoReparacion& paso : reparaciones.front()) {
+            const bool inserta = paso.tipo == PasoReparacion::Tipo::Inserta;
+            if (inserta) toma(paso.columna);
+            if (paso.tipo == PasoReparacion::Tipo::Conserva) toma(entrada_.en(siguiente_).columna);
+            if (!inserta) ++siguiente_;
+        }
+        return true;
+    }
+
+    const LenguajeAnalisis& lenguaje_;
+    const FichasTokens& fichas_;
+    EntradaTokens entrada_;
+    GastoReparaciones gasto_;
+    std::vector<std::int16_t> pila_ = {0};
+    PilaEnsayo ensayo_{pila_};
+    std::size_t siguiente_ = 0; ///< number of the next token
+};
+
 } // namespace
 
 Continuaciones Analizador::continuaciones(std::u16string_view texto, std::size_t posicion,
@@ -50,7 +100,10 @@ Continuaciones Analizador::continuaciones(std::u16string_view texto, std::size_t
     const std::size_t fin = std::min(posicion, texto.size());
     Continuaciones resultado{inicioDePalabra(texto, fin), {}};
     if (gramatica_.simbolos().esVacio()) return resultado;
-    lenguaje_.actualiza();
+    if (lenguaje_.actualiza()) {
+        cadenas_.olvida();
+        fichas_.reset();
+    }
     try {
         const auto admitidas = definicionesQueSiguen(texto.substr(0, resultado.inicio), opciones);
         anotaDefiniciones(admitidas, resultado.propuestas);
@@ -80,20 +133,10 @@ std::vector<bool> Analizador::definicionesQueSiguen(std::u16string_view texto,
 /// The stack once a text was parsed as far as it goes.
 std::vector<std::int16_t> Analizador::pilaTras(std::u16string_view texto, const OpcionesAnalisis& opciones) {
     reconoceTexto(texto, opciones);
-    std::vector<std::int16_t> pila = {0};
-    PilaEnsayo ensayo(pila);
     LectorTexto lector(texto, lexico_, mapa_);
-    for (lector.lee(); lector.lectura().leido.definicion != TokenLeido::fin;) {
-        const Lectura& lectura = lector.lectura();
-        if (lectura.leido.definicion == TokenLeido::desconocido) {
-            lector.leeEn(lectura.inicio + static_cast<std::int32_t>(lectura.leido.lexema.size()));
-            continue;
-        }
-        const std::int16_t columna = lenguaje_.columna(lectura.leido);
-        if (ensaya(ensayo, pila, columna, lenguaje_) == Avance::Desplazado) ensayo.consuma(pila);
-        lector.lee();
-    }
-    return pila;
+    lector.lee();
+    if (!fichas_) fichas_.emplace(lexico_, gramatica_);
+    return Prefijo(texto, lector, lenguaje_, *fichas_, opciones.cancelacion).pila();
 }
 
 void Analizador::anotaDefiniciones(const std::vector<bool>& admitidas,

@@ -15,7 +15,7 @@ EntradaTokens::Incorrectos EntradaTokens::saltaIncorrectos() {
         const auto inicio = static_cast<std::size_t>(lectura.inicio) - 1;
         const std::size_t largo = lectura.fin > lectura.inicio
                                       ? static_cast<std::size_t>(lectura.fin - lectura.inicio)
-                                      : largoDeCaracter(texto_.texto, inicio);
+                                      : largoDeCaracter(texto_, inicio);
         if (incorrectos.fin == 0) incorrectos.inicio = inicio;
         incorrectos.fin = inicio + largo;
         lector_.leeEn(static_cast<std::int32_t>(incorrectos.fin + 1));

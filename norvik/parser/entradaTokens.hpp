@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <string_view>
 #include <vector>
 
 namespace norvik::inline v0_2 {
@@ -31,7 +32,7 @@ public:
     };
 
     /// The reader has just read token 0, or the wrong character before it. All outlive the tokens.
-    EntradaTokens(const TextoAnalizado& texto, LectorTexto& lector, LenguajeAnalisis& lenguaje)
+    EntradaTokens(std::u16string_view texto, LectorTexto& lector, LenguajeAnalisis& lenguaje)
         : texto_(texto), lector_(lector), lenguaje_(lenguaje) {
         toma();
     }
@@ -63,7 +64,7 @@ private:
     }
     Incorrectos saltaIncorrectos();
 
-    const TextoAnalizado& texto_;
+    std::u16string_view texto_;
     LectorTexto& lector_;
     LenguajeAnalisis& lenguaje_;
     std::deque<Token> tokens_;

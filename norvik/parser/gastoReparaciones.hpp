@@ -18,7 +18,10 @@ class GastoReparaciones {
 public:
     using Reloj = std::chrono::steady_clock;
 
-    explicit GastoReparaciones(std::stop_token parada) : parada_(std::move(parada)) {}
+    static constexpr std::size_t pasosPorTexto = 3'000'000;
+
+    explicit GastoReparaciones(std::stop_token parada, std::size_t pasos = pasosPorTexto)
+        : parada_(std::move(parada)), pasosDeTexto_(pasos) {}
 
     /// A search begins. Raises `OperacionCancelada`.
     void empieza() {
@@ -43,7 +46,6 @@ public:
     bool agotado() const { return quedan_ == 0; }
 
 private:
-    static constexpr std::size_t pasosPorTexto = 3'000'000;
     static constexpr std::size_t pasosPorError = 400'000;
     static constexpr std::size_t pasosPorConsulta = 4096;
     static constexpr auto plazo = std::chrono::milliseconds(350);
@@ -57,7 +59,7 @@ private:
     std::stop_token parada_;
     Reloj::duration tiempo_ = plazo;
     Reloj::time_point inicio_;
-    std::size_t pasosDeTexto_ = pasosPorTexto;
+    std::size_t pasosDeTexto_;
     std::size_t quedan_ = 0;
     std::size_t sinConsultar_ = 0;
 };

@@ -25,7 +25,7 @@ constexpr std::size_t reduccionesDeMas = 100'000;
 Reparador::Reparador(const Curso& curso, LenguajeAnalisis& lenguaje, const VocesDeLenguaje& voces,
                      const OpcionesAnalisis& opciones)
     : texto_(curso.texto), pasos_(curso.pasos), lenguaje_(lenguaje), voces_(voces), opciones_(opciones),
-      entrada_(curso.texto, curso.lector, lenguaje), gasto_(opciones.cancelacion), ensayo_({}) {
+      entrada_(curso.texto.texto, curso.lector, lenguaje), gasto_(opciones.cancelacion), ensayo_({}) {
     rehacePila();
 }
 

@@ -58,6 +58,9 @@ TEST(Continuaciones, LoQueLaTablaPuedeDesplazar) {
         {u"{ x = y; |", "0: si { } <identificador *x *y"},
         {u"{ x = = y; |", "0: si { } <identificador *x *y"}, // behind an error
         {u"{ x # = y; |", "0: si { } <identificador *x *y"},
+        {u"x y; |", "0: si { <identificador *x *y"}, // a sign was forgotten, there and far below
+        {u"x y; { x = y; si x |", "0: si { <identificador *x *y"},
+        {u"{ x = y; } } { x = |", "0: <cadena <identificador *x *y"},
         {u"x = 'a|b';", "1:"},
         {u"x = /* | */", "0:"},
         {u"x = -- y|", "1:"},
