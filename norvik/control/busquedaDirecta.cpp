@@ -24,6 +24,23 @@ std::u16string patronDe(const BusquedaDirecta& b) {
     return b.palabrasCompletas ? uR"(\b(?:)" + patron + uR"()\b)" : patron;
 }
 
+/// A pattern counts units; what is selected and shown are characters, of one or two.
+void ensancha(std::vector<Coincidencia>& halladas, std::u16string_view texto) {
+    const auto esMedio = [&](std::int32_t lugar) { // between the halves of a pair
+        const auto i = static_cast<std::size_t>(lugar);
+        return i > 0 && i < texto.size() && (texto[i - 1] & 0xFC00) == 0xD800 &&
+               (texto[i] & 0xFC00) == 0xDC00;
+    };
+    std::int32_t hasta = 0; // of the one before
+    for (Coincidencia& c : halladas) {
+        const std::int32_t desde = std::max(c.indice - (esMedio(c.indice) ? 1 : 0), hasta);
+        const std::int32_t fin = c.indice + c.longitud;
+        hasta = fin + (esMedio(fin) ? 1 : 0);
+        c = {desde, hasta - desde};
+    }
+    std::erase_if(halladas, [](const Coincidencia& c) { return c.longitud == 0; });
+}
+
 } // namespace
 
 std::optional<std::vector<Coincidencia>>
@@ -34,7 +51,7 @@ coincidenciasDe(const BusquedaDirecta& busqueda, std::u16string_view texto, cons
         buenPatron ? Emparejador::compila(patronDe(busqueda), !busqueda.coincidirMayusculas) : std::nullopt;
     if (!emparejador) return std::nullopt;
     auto halladas = emparejador->ejecuta(texto, Presupuesto(Presupuesto::plazoComun, parada));
-    std::erase_if(halladas, [](const Coincidencia& c) { return c.longitud == 0; });
+    ensancha(halladas, texto);
     return halladas;
 }
 

@@ -130,7 +130,6 @@ void BarraBusqueda::abre() {
 /// What is found must be seen although the text has not the focus.
 void BarraBusqueda::muestra() {
     if (!isHidden()) return;
-    ocultaba_ = control_.caja().ocultaSeleccion();
     control_.caja().ponOcultaSeleccion(false);
     show();
     raise();
@@ -149,7 +148,7 @@ void BarraBusqueda::cierra() {
     hide();
     resaltes_.refresca();
     emit otroSitio();
-    if (const auto antes = std::exchange(ocultaba_, std::nullopt)) control_.caja().ponOcultaSeleccion(*antes);
+    control_.caja().ponOcultaSeleccion(control_.HideSelection());
 }
 
 /// The keys of the bar; F3 is the control's, which both the text and the bar leave it to.
@@ -232,7 +231,7 @@ void BarraBusqueda::salta(Salto salto) {
     if (viva.isNull() || estado_ != Estado::AlDia) return;
     editorDe(control_).ensureCursorVisible();
     if (!hallada.daLaVuelta) return;
-    avisa(cuenta_.text() +
+    avisa(cuenta().texto +
               (atras ? QStringLiteral(", desde el final") : QStringLiteral(", desde el principio")),
           false);
 }
@@ -253,17 +252,23 @@ std::vector<Resalte> BarraBusqueda::halladas(std::int32_t desde, std::int32_t ha
 }
 
 /// How many there are, and which one is selected.
-void BarraBusqueda::actualizaCuenta() {
-    if (estado_ != Estado::AlDia) return;
-    if (!resultado_.fallo.isEmpty()) return avisa(resultado_.fallo, true);
+BarraBusqueda::Aviso BarraBusqueda::cuenta() const {
+    if (!resultado_.fallo.isEmpty()) return {resultado_.fallo, true};
     const auto& halladas = resultado_.halladas;
-    if (halladas.empty()) return avisa(QStringLiteral("Sin resultados"), true);
+    if (halladas.empty()) return {QStringLiteral("Sin resultados"), true};
     const CajaTextoQt& caja = control_.caja();
     const auto cuantas = static_cast<qsizetype>(halladas.size());
     const Hallada aqui = desde(halladas, caja.inicioSeleccion());
     if (halladas[aqui.cual] == Coincidencia{caja.inicioSeleccion(), caja.longitudSeleccion()})
-        return avisa(QStringLiteral("%1 de %2").arg(aqui.cual + 1).arg(cuantas), false);
-    avisa(cuantas == 1 ? QStringLiteral("1 resultado") : QStringLiteral("%1 resultados").arg(cuantas), false);
+        return {QStringLiteral("%1 de %2").arg(aqui.cual + 1).arg(cuantas), false};
+    return {cuantas == 1 ? QStringLiteral("1 resultado") : QStringLiteral("%1 resultados").arg(cuantas),
+            false};
+}
+
+void BarraBusqueda::actualizaCuenta() {
+    if (estado_ != Estado::AlDia) return;
+    const Aviso aviso = cuenta();
+    avisa(aviso.texto, aviso.malo);
 }
 
 void BarraBusqueda::avisa(const QString& texto, bool malo) {

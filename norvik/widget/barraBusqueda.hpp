@@ -62,6 +62,11 @@ private:
     void lanza();
     void recibe(const BuscadorDeFondo::Resultado& resultado);
     void salta(Salto salto);
+    struct Aviso {
+        QString texto;
+        bool malo = false;
+    };
+    Aviso cuenta() const;
     void actualizaCuenta();
     void avisa(const QString& texto, bool malo);
     std::vector<Resalte> halladas(std::int32_t desde, std::int32_t hasta) const;
@@ -83,7 +88,6 @@ private:
     Estado estado_ = Estado::Vieja;
     std::optional<Salto> pendiente_; ///< to be done as soon as there is a result
     std::int32_t origen_ = 0;        ///< where who types began
-    std::optional<bool> ocultaba_;   ///< whether the text hid its selection before the bar was shown
 };
 
 } // namespace norvik

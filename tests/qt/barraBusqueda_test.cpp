@@ -177,6 +177,52 @@ TEST_F(Busca, ElTextoCambiaConLaBarraAbierta) {
     pulsa(Qt::Key_F3);
 }
 
+TEST_F(Busca, UnaSolaDaVueltasSinCrecer) {
+    norvik->barraDeBusqueda(true);
+    norvik->accion(AccionNorvik::Buscar)->trigger();
+    QTest::keyClicks(&campo(), "cabo");
+    EXPECT_EQ(cuenta("1 de 1"), "1 de 1");
+    for (int vez = 0; vez < 3; ++vez) {
+        pulsa(Qt::Key_Return, vez == 2 ? Qt::ShiftModifier : Qt::NoModifier);
+        QCoreApplication::processEvents();
+        const QString dada = vez == 2 ? "1 de 1, desde el final" : "1 de 1, desde el principio";
+        EXPECT_EQ(cuenta(dada), dada);
+    }
+}
+
+/// What the host chose while the bar was there is what holds.
+TEST_F(Busca, LaSeleccionSeOcultaComoDigaLaPropiedad) {
+    norvik->barraDeBusqueda(true);
+    for (const bool oculta : {false, true}) {
+        norvik->accion(AccionNorvik::Buscar)->trigger();
+        EXPECT_FALSE(norvik->caja().ocultaSeleccion());
+        norvik->HideSelection(oculta);
+        pulsa(Qt::Key_Escape);
+        EXPECT_EQ(norvik->caja().ocultaSeleccion(), oculta);
+    }
+}
+
+/// A pattern counts units, a person characters.
+TEST_F(Busca, UnCaracterNoSeParte) {
+    norvik->Text(QString::fromUtf8("a\xF0\x9F\x98\x80\xF0\x9F\x98\x81"));
+    norvik->barraDeBusqueda(true);
+    norvik->accion(AccionNorvik::Buscar)->trigger();
+    barra().findChild<QToolButton*>("expresion")->setChecked(true);
+    QTest::keyClicks(&campo(), ".");
+    EXPECT_EQ(cuenta("1 de 3"), "1 de 3");
+    for (const int longitud : {2, 2, 1, 2}) {
+        pulsa(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(norvik->SelLength(), longitud);
+    }
+    campo().setText("..");
+    EXPECT_EQ(cuenta("2 de 2"), "2 de 2");
+    EXPECT_EQ(norvik->SelLength(), 2); // what the match before it left
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(cuenta("1 de 2, desde el principio"), "1 de 2, desde el principio");
+    EXPECT_EQ(norvik->SelLength(), 3);
+}
+
 /// The last match stands on the last line, where the bar would be.
 TEST_F(Busca, LoHalladoSeVe) {
     QString texto;
