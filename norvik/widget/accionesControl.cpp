@@ -167,7 +167,7 @@ void AccionesControl::ejecuta(AccionNorvik cual) {
     case AccionNorvik::Cortar:
         return editor.teclea(Qt::Key_Delete, Qt::ShiftModifier);
     case AccionNorvik::Copiar:
-        return editor.copy();
+        return editor.copia();
     case AccionNorvik::Pegar:
         return editor.teclea(Qt::Key_Insert, Qt::ShiftModifier);
     case AccionNorvik::SeleccionarTodo:

@@ -5,6 +5,7 @@
 #include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QPlainTextEdit>
@@ -152,4 +153,45 @@ TEST_F(AyudasTeclas, TeclasDePalabra) {
     QObject::connect(&norvik, &ControlNorvik::KeyDown, &norvik, [](qint16& codigo, qint16&) { codigo = 0; });
     pulsa(Qt::Key_Left, Qt::ControlModifier);
     EXPECT_EQ(visto(), "uno | tres");
+}
+
+// ---- what a host binds to its own button
+
+TEST_F(AyudasTeclas, UnBotonQueTieneElFocoEditaLoElegido) {
+    const auto desdeElBoton = [&](AccionNorvik accion) {
+        const auto enlace =
+            QObject::connect(&antes, &QPushButton::clicked, norvik.accion(accion), &QAction::trigger);
+        QTest::mouseClick(&antes, Qt::LeftButton);
+        QObject::disconnect(enlace);
+        EXPECT_TRUE(antes.hasFocus());
+        QCoreApplication::processEvents();
+    };
+    const auto copiado = [] { return QApplication::clipboard()->text(); };
+    for (const bool oculta : {true, false}) {
+        norvik.HideSelection(oculta);
+        norvik.Text("uno dos tres");
+        norvik.setFocus();
+        for (int vez = 0; vez < 2; ++vez) {
+            norvik.SelStart(4);
+            norvik.SelLength(3);
+            QApplication::clipboard()->clear();
+            desdeElBoton(AccionNorvik::Copiar);
+            EXPECT_EQ(copiado(), "dos");
+            QApplication::clipboard()->clear();
+            desdeElBoton(AccionNorvik::Cortar);
+            EXPECT_EQ(copiado(), "dos");
+            EXPECT_EQ(norvik.Text(), "uno  tres");
+            desdeElBoton(AccionNorvik::Pegar);
+            EXPECT_EQ(norvik.Text(), "uno dos tres");
+        }
+        norvik.SelStart(0);
+        norvik.SelLength(4);
+        desdeElBoton(AccionNorvik::Pegar);
+        EXPECT_EQ(norvik.Text(), "dosdos tres");
+        desdeElBoton(AccionNorvik::SeleccionarTodo);
+        EXPECT_EQ(norvik.SelText(), "dosdos tres");
+        EXPECT_EQ(editor.textCursor().hasSelection(), !oculta);
+        desdeElBoton(AccionNorvik::Cortar);
+        EXPECT_EQ(norvik.Text(), "");
+    }
 }

@@ -136,6 +136,11 @@ void CajaTextoQt::ponAlDia() {
     ponSeleccionEnVista();
 }
 
+void CajaTextoQt::preparaEdicion() {
+    const QScopedValueRollback<bool> aLaVista(seleccionALaVista_, true);
+    ponAlDia();
+}
+
 void CajaTextoQt::alSustituir(const CambioDeTexto& s) {
     if (sucio_ && sucio_->fin > s.inicio)
         sucio_->fin = std::max(sucio_->fin + s.puestos - s.quitados, s.inicio);

@@ -97,6 +97,8 @@ public:
     /// The selection's text as other programs take it.
     QString textoParaCopiar() const;
     void ponAlDia();
+    /// The same before a key edits what is selected, whoever has the focus.
+    void preparaEdicion();
     void recogeSeleccion();
     void repinta();
     /// The focus came or went.

@@ -137,7 +137,10 @@ bool esTabulador(const QKeyEvent& tecla) {
 
 } // namespace
 
+/// One that went down elsewhere, in a message box that it closed, writes nothing here however long it is
+/// held.
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
+    if (evento->isAutoRepeat() && !bajadas_.contains(identidad(*evento))) return;
     atiende([&] {
         bajadas_.insert(identidad(*evento));
         pulsa(*evento);
@@ -166,7 +169,7 @@ void VistaTexto::escribe(QKeyEvent& evento) {
     if (!hayCaja()) return;
     if (escribeTexto && (texto.isEmpty() || isReadOnly())) return; // suppressed
     if (texto != evento.text()) return caja_->reemplazaSeleccion(vistaDe(texto));
-    caja_->ponAlDia();
+    caja_->preparaEdicion();
     const bool saltoBlando = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
     const auto teclas = saltoBlando ? evento.modifiers() & ~Qt::ShiftModifier : evento.modifiers();
     QKeyEvent copia(QEvent::KeyPress, evento.key(), teclas, texto);
@@ -272,12 +275,17 @@ void VistaTexto::muestraMenu(const QPoint& lugar) {
         menu.addAction(nombre, this, accion)->setEnabled(activa);
     };
     pon(QStringLiteral("Cor&tar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::ShiftModifier); });
-    pon(QStringLiteral("&Copiar"), hay, [this] { copy(); });
+    pon(QStringLiteral("&Copiar"), hay, [this] { copia(); });
     pon(QStringLiteral("&Pegar"), edita && canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
     pon(QStringLiteral("&Eliminar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
     menu.addSeparator();
     pon(QStringLiteral("&Seleccionar todo"), !document()->isEmpty(), [this] { selectAll(); });
     menu.exec(lugar);
+}
+
+void VistaTexto::copia() {
+    if (hayCaja() && caja_->longitudSeleccion() > 0)
+        QApplication::clipboard()->setMimeData(createMimeDataFromSelection());
 }
 
 void VistaTexto::teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas) {

@@ -34,6 +34,8 @@ public:
     void ponSoloLectura(bool soloLectura);
     /// What a person does with a key: the host hears of it as it does then.
     void teclea(Qt::Key tecla, Qt::KeyboardModifiers teclas);
+    /// To the clipboard, what is selected in the box, whether it is seen or not.
+    void copia();
 
     int primeraLineaVisible() const { return firstVisibleBlock().blockNumber(); }
     /// A line that is seen, wholly or in part: its number from 0, and where it is in the view.
