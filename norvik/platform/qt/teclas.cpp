@@ -72,7 +72,28 @@ constexpr auto sitios = std::to_array<Equivalencia>({{10, '1'},
                                                      {60, 190},
                                                      {94, 226}});
 
+struct EnSitio {
+    int sitio;
+    Equivalencia tecla;
+};
+
+/// Signs that have keys of their own on Spanish keyboards, on the same ones everywhere in that language.
+constexpr auto espanol =
+    std::to_array<EnSitio>({{20, {Qt::Key_Question, 222}}, // on the key of the apostrophe
+                            {21, {Qt::Key_exclamdown, 221}},
+                            {21, {Qt::Key_questiondown, 221}},
+                            {35, {Qt::Key_Asterisk, 187}}, // on that of the plus sign
+                            {49, {Qt::Key_masculine, 220}},
+                            {49, {Qt::Key_ordfeminine, 220}},
+                            {51, {Qt::Key_Ccedilla, 191}}});
+
 constexpr std::int16_t soloCaracter = 231;
+
+std::int16_t codigoEspanol(int sitio, int qt) {
+    const auto* fila =
+        std::ranges::find_if(espanol, [&](const EnSitio& e) { return e.sitio == sitio && e.tecla.qt == qt; });
+    return fila == std::end(espanol) ? std::int16_t{0} : fila->tecla.codigo;
+}
 
 template <std::size_t N>
 std::int16_t codigoEn(const std::array<Equivalencia, N>& tabla, int qt) {
@@ -94,13 +115,14 @@ std::int16_t codigoDeTecladoNumerico(int qt) {
 
 std::int16_t codigoDeTecla(const QKeyEvent& evento) {
     const int qt = evento.key();
+    const int sitio = static_cast<int>(evento.nativeScanCode());
     const bool numerico = evento.modifiers().testFlag(Qt::KeypadModifier);
     const auto candidatos = std::to_array<std::int16_t>(
-        {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0},
-         codigoEn(sitios, static_cast<int>(evento.nativeScanCode())), codigoEn(sinCaracter, qt),
-         codigoEn(signos, qt), codigoEnFila(qt, Qt::Key_0, Qt::Key_9, '0'),
-         codigoEnFila(qt, Qt::Key_A, Qt::Key_Z, 'A'), codigoEnFila(qt, Qt::Key_F1, Qt::Key_F24, 112),
-         codigoEn(conMayusculas, qt), evento.text().isEmpty() ? std::int16_t{0} : soloCaracter});
+        {numerico ? codigoDeTecladoNumerico(qt) : std::int16_t{0}, codigoEn(sitios, sitio),
+         codigoEspanol(sitio, qt), codigoEn(sinCaracter, qt), codigoEn(signos, qt),
+         codigoEnFila(qt, Qt::Key_0, Qt::Key_9, '0'), codigoEnFila(qt, Qt::Key_A, Qt::Key_Z, 'A'),
+         codigoEnFila(qt, Qt::Key_F1, Qt::Key_F24, 112), codigoEn(conMayusculas, qt),
+         evento.text().isEmpty() ? std::int16_t{0} : soloCaracter});
     const auto* codigo = std::ranges::find_if(candidatos, [](std::int16_t c) { return c != 0; });
     return codigo == std::end(candidatos) ? std::int16_t{0} : *codigo;
 }
