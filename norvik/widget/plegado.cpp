@@ -62,8 +62,10 @@ void Plegado::sigue() {
         std::erase_if(plegados_,
                       [&](std::int32_t p) { return pliegueDe(caja_.lineaDeCaracter(p)) == nullptr; });
     }
-    if (!despliegaElCursor() && !hayOtros) return;
+    const bool abierto = despliegaElCursor();
+    if (!abierto && !hayOtros) return;
     muestraLineas();
+    if (abierto) caja_.vista().ensureCursorVisible(); // it was looked for when it was hidden
     emit cambiado();
 }
 

@@ -5,12 +5,17 @@
 #include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QAction>
 #include <QApplication>
+#include <QInputDialog>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <QTextBlock>
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
 
 using namespace norvik;
 
@@ -114,4 +119,43 @@ TEST_F(PlegadoTest, LoPlegadoSigueAlTextoYSeAbreParaElCursor) {
     EXPECT_EQ(vistas(), "017");
     editor.Text("x"); // without what was folded
     EXPECT_EQ(vistas(), "0");
+}
+
+/// However the caret comes to what is folded, it is seen there.
+TEST_F(PlegadoTest, AdondeSeVaSeVe) {
+    const QString muchas = QStringLiteral("x\n").repeated(100);
+    editor.Text("{\n" + muchas + "}\n" + muchas);
+    espera();
+    const std::int32_t dentro = editor.caja().inicioDeLinea(80);
+    editor.SelStart(dentro);
+    QTest::keyClicks(&vista, "x");
+    const std::pair<const char*, std::function<void()>> maneras[] = {
+        {"SelStart", [&] { editor.SelStart(dentro); }},
+        {"the tree of a host", [&] { editor.caja().atiende([&] { editor.caja().selecciona(dentro, 1); }); }},
+        {"irA",
+         [&] {
+             editor.irA({{dentro}, {dentro}});
+         }},
+        {"go to line",
+         [&] {
+             sistema.usos.emplace_back([](QWidget& ventana) {
+                 static_cast<QInputDialog&>(ventana).setIntValue(81);
+                 static_cast<QInputDialog&>(ventana).accept();
+             });
+             editor.accion(AccionNorvik::IrALinea)->trigger();
+         }},
+        {"undo", [&] { editor.accion(AccionNorvik::Deshacer)->trigger(); }},
+    };
+    for (const auto& [nombre, va] : maneras) {
+        editor.SelStart(0);
+        QCoreApplication::processEvents();
+        pulsaEn(0);
+        EXPECT_EQ(vistas().left(4), "0102") << nombre;
+        va();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vistas().left(4), "0123") << nombre;
+        EXPECT_EQ(editor.caja().lineaDeCaracter(editor.caja().inicioSeleccion()), 80) << nombre;
+        EXPECT_TRUE(vista.viewport()->rect().contains(vista.cursorRect())) << nombre;
+        espera();
+    }
 }
