@@ -15,15 +15,15 @@
 
 namespace norvik::inline v0_2 {
 
-void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin) {
+void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras) {
     const std::int32_t inicioSeleccion = caja_->inicioSeleccion();
     const std::int32_t longitudSeleccion = caja_->longitudSeleccion();
-    recorre(inicio + 1, fin + 1);
+    recorre(inicio + 1, fin + 1, palabras);
     caja_->selecciona(inicioSeleccion, longitudSeleccion);
 }
 
 /// Paints the tokens of the positions [desde, hasta), 1-based.
-void Coloreado::recorre(std::int32_t desde, std::int32_t hasta) {
+void Coloreado::recorre(std::int32_t desde, std::int32_t hasta, Palabras palabras) {
     if (hasta - 1 > a32(maximoTexto)) throw TextoDemasiadoLargo();
     const MapaTokens& mapa = lexico_.ReconoceTokens(caja_->texto(), a16(desde), a16(hasta));
     for (std::int32_t pos = desde; pos < hasta;) {
@@ -32,16 +32,18 @@ void Coloreado::recorre(std::int32_t desde, std::int32_t hasta) {
             ++pos;
             continue;
         }
-        pintaToken(pos - 1, token->longitud, *token->definicion);
+        pintaToken(pos - 1, token->longitud, *token->definicion, palabras);
         pos += token->longitud;
     }
 }
 
 /// Corrections may have left less text than was recognised: as of a selection, what is beyond it is not
 /// there.
-void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion) {
+void Coloreado::pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion,
+                           Palabras palabras) {
     const bool esPalabra = definicion.tipo == Norvik_PalabraReservada || definicion.tipo == Norvik_AutoExpReg;
-    const bool corrige = opciones_.autoCorreccion && !opciones_.lenguajeSensible && esPalabra;
+    const bool corrige =
+        palabras == Palabras::Corrige && opciones_.autoCorreccion && !opciones_.lenguajeSensible && esPalabra;
     if (definicion.colorTexto == sinColor && definicion.tipo != Norvik_AutoExpReg) return;
     const auto total = static_cast<std::int32_t>(caja_->texto().size());
     const std::int32_t lugar = std::min(posicion, total);

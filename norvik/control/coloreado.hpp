@@ -17,13 +17,17 @@ public:
     Coloreado(const Prestado<CajaTexto>& caja, pilaTokens& lexico, const Opciones& opciones)
         : caja_(caja), lexico_(lexico), opciones_(opciones) {}
 
+    /// Whether words that are written otherwise than their definition says are corrected, if that is an
+    /// option.
+    enum class Palabras : std::uint8_t { Corrige, Deja };
     /// The tokens that lie wholly in [inicio, fin), 0-based; the selection stays as it was. Raises
     /// `Desbordamiento` for positions that do not fit 16 bits.
-    void pintaTokens(std::int32_t inicio, std::int32_t fin);
+    void pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras = Palabras::Corrige);
 
 private:
-    void recorre(std::int32_t desde, std::int32_t hasta);
-    void pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion);
+    void recorre(std::int32_t desde, std::int32_t hasta, Palabras palabras);
+    void pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion,
+                    Palabras palabras);
 
     const Prestado<CajaTexto>& caja_;
     pilaTokens& lexico_;

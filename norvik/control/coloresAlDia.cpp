@@ -31,20 +31,42 @@ ColoresAlDia::~ColoresAlDia() = default;
 
 void ColoresAlDia::pon(Salvo salvo) {
     if (caja_->texto().size() > maximoAlMomento && contenedor_->coloreaDespues()) return;
-    const Lenguaje& actual = lenguaje_.dame();
-    if (!suLenguaje_ || &suLenguaje_->datos() != &actual.datos()) {
-        colorista_.reset();
-        suLenguaje_ = actual;
-        desistido_ = false;
-        colorista_ = lenguaje_.colorista();
-    }
+    miraElLenguaje();
     if (desistido_) return;
     try {
-        toma(colorista_->colores(caja_->texto(), Presupuesto(plazo)), salvo);
+        toma(lee(), salvo);
     } catch (const BusquedaDesbocada&) {
-        desistido_ = true;
+        desistido_ = sinLiterales_ = true;
         throw;
     }
+}
+
+const std::vector<Literal>* ColoresAlDia::literales() {
+    miraElLenguaje();
+    if (sinLiterales_) return nullptr;
+    try {
+        lee();
+    } catch (const BusquedaDesbocada&) {
+        sinLiterales_ = true;
+        throw;
+    }
+    return &colorista_->literales();
+}
+
+/// Once, whoever asks.
+const std::vector<TramoDeColor>& ColoresAlDia::lee() {
+    if (!leido_) colores_ = colorista_->colores(caja_->texto(), Presupuesto(plazo));
+    leido_ = true;
+    return colores_;
+}
+
+void ColoresAlDia::miraElLenguaje() {
+    const Lenguaje& actual = lenguaje_.dame();
+    if (suLenguaje_ && &suLenguaje_->datos() == &actual.datos()) return;
+    colorista_.reset();
+    leido_ = desistido_ = sinLiterales_ = false;
+    suLenguaje_ = actual;
+    colorista_ = lenguaje_.colorista();
 }
 
 void ColoresAlDia::toma(std::span<const TramoDeColor> tramos, Salvo salvo) {

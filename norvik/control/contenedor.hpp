@@ -49,7 +49,7 @@ public:
 
     /// Hay otras ayudas de edición encendidas.
     virtual void otrasAyudas() {}
-    /// El texto es otro, haya cambiado como haya cambiado; los eventos del control ya se han dado.
+    /// El texto es otro, haya cambiado como haya cambiado; antes de que ningún evento del control lo diga.
     virtual void cambioElTexto(const CambioDeTexto& /*cambio*/) {}
     /// Un texto largo espera sus colores. Verdadero cuando el contenedor se los dará (`Norvik::colorista`,
     /// `Norvik::tomaColores`); si no, se hacen en el acto.

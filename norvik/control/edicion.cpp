@@ -30,12 +30,12 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     e.cambio = [this, duenio, alCambiarLibre](const CambioDeTexto& cambio) {
         const auto vivo = duenio.lock();
         if (vivo == nullptr) return;
-        const Edicion& edicion = *this; // this function may go with its box
         PasosFirmes paso;
         lineas_.siguePosiciones(cambio);
+        if (lineas_.ocupado()) paso([&] { historial_.corrige(cambio); });
         textoPorAvisar_ = true;
+        paso([&] { contenedor_->cambioElTexto(cambio); }); // before who changes the text once more
         paso([&] { alCambiarLibre(cambio); });
-        if (!edicion.callada_) paso([&] { edicion.contenedor_->cambioElTexto(cambio); });
         paso.acaba();
     };
     e.cambioDeSeleccion = libre([this] { alCambiarLaSeleccion(); });
@@ -71,8 +71,9 @@ std::int32_t Edicion::columnaActual() const {
 void Edicion::alCambiar(const CambioDeTexto& cambio) {
     PasosFirmes paso;
     const bool graba = historial_.grabaDeshacer();
+    if (graba) paso([&] { historial_.anota(cambio); });
     const auto linea = lineas_.alCambiar(cambio, paso);
-    if (graba) paso([&] { historial_.registra(cambio); });
+    if (graba) paso([this] { historial_.registra(); });
     if (cambio.otraSeleccion) avisaSeleccion(linea, paso);
     if (graba) paso([this] { avisa(eventos_.change); });
     if (graba) paso([this] { avisaTexto(); });
@@ -134,9 +135,11 @@ void Edicion::alSubirTecla(std::int16_t& codigo, std::int16_t& shift) {
     paso.acaba();
 }
 
-/// Gives an empty line the leading spaces of the one above.
+/// Gives an empty line the leading spaces of the one above. Beyond the lines that have a number a control
+/// without aids raises a failure.
 void Edicion::sangra() {
-    const std::int32_t n = lineaActual();
+    const std::int32_t linea = caja_->lineaDeCaracter(caja_->inicioSeleccion());
+    const std::int32_t n = ayudas_ == Ayudas{} ? lineaActual() : linea + 1;
     if (n < 2 || !textoDeLinea(*caja_, n - 1).empty()) return;
     const auto superior = textoDeLinea(*caja_, n - 2);
     const std::size_t cuantos = std::min(superior.find_first_not_of(u' '), superior.size());

@@ -77,8 +77,12 @@ bool Historial::puedeRehacer() const {
     return porPalabras_ ? palabras_.rehacibles() > 0 : redos_.cuantas() > 0;
 }
 
-void Historial::registra(const CambioDeTexto& cambio) {
-    if (porPalabras_) return palabras_.anota(cambio);
+void Historial::anota(const CambioDeTexto& cambio) {
+    if (porPalabras_) palabras_.anota(cambio);
+}
+
+void Historial::registra() {
+    if (porPalabras_) return;
     PasosFirmes paso;
     paso([this] { redos_.vacia(); });
     const std::u16string_view texto = caja_->texto();
@@ -87,9 +91,11 @@ void Historial::registra(const CambioDeTexto& cambio) {
 }
 
 void Historial::sustituye(std::int32_t inicio, std::int32_t cuantos, std::u16string_view nuevo) {
-    caja_->selecciona(inicio, cuantos);
-    caja_->ponColorSeleccion(0);
-    exacto([&] { caja_->reemplazaSeleccion(nuevo); });
+    exacto([&] { caja_->reemplaza(inicio, cuantos, nuevo); });
+}
+
+void Historial::corrige(const CambioDeTexto& cambio) {
+    if (porPalabras_) palabras_.anotaCorreccion(cambio);
 }
 
 // --- Undo ---
@@ -179,9 +185,12 @@ void Historial::porPalabras(Sentido sentido) {
     PasosFirmes paso;
     {
         const SinGrabar sinGrabar(grabaDeshacer_);
-        Seleccion puesto;
-        paso([&] { puesto = (palabras_.*sentido)(paso); });
-        paso([&] { lineas_.coloreaPuesto(puesto.inicio, puesto.inicio + puesto.longitud); });
+        paso([&] {
+            lineas_.alPieDeLaLetra([&] {
+                const Seleccion puesto = (palabras_.*sentido)(paso);
+                lineas_.coloreaPuesto(puesto.inicio, puesto.inicio + puesto.longitud);
+            });
+        });
     }
     paso.acaba();
 }

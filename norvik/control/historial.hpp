@@ -41,8 +41,13 @@ public:
 
     /// Off only while Undo or Redo run.
     bool grabaDeshacer() const { return grabaDeshacer_; }
-    /// Records a change that the box's text went through. Raises as `InicializaUndosYRedos` does.
-    void registra(const CambioDeTexto& cambio);
+    /// Record a change that the box's text went through: by words before anything else is done about it,
+    /// the snapshot once the lines have been painted, and perhaps corrected. Raise as
+    /// `InicializaUndosYRedos` does.
+    void anota(const CambioDeTexto& cambio);
+    void registra();
+    /// A change that the control itself makes while it is at work on the box.
+    void corrige(const CambioDeTexto& cambio);
     /// Replaces a range (0-based). The change is recorded as one that Undo takes back exactly, which the
     /// others are not when they both take away and put in.
     void sustituye(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);

@@ -11,6 +11,7 @@
 
 #include "norvik/control/historialPorPalabras.hpp"
 
+#include "norvik/control/guardas.hpp"
 #include "norvik/pattern/patronClase.hpp"
 
 #include <algorithm>
@@ -63,6 +64,21 @@ void HistorialPorPalabras::anota(const CambioDeTexto& cambio) {
     olvidaRehacibles();
     if (!alarga(cambio)) pon(cambio);
     recorta();
+}
+
+/// One of the same length moves nothing, and goes with the characters around it. The caret is where the step
+/// left it.
+void HistorialPorPalabras::anotaCorreccion(const CambioDeTexto& cambio) {
+    if (cambio.puestos == cambio.quitados || recorre_) return;
+    tamano_ += static_cast<std::size_t>(cambio.puestos) - static_cast<std::size_t>(cambio.quitados);
+    olvidaRehacibles();
+    if (pasos_.empty()) return;
+    corta();
+    const Seleccion antes = pasos_.back().back().despues;
+    const std::int32_t inicio = cambio.lleva(antes.inicio);
+    const Seleccion despues{inicio, cambio.lleva(antes.inicio + antes.longitud) - inicio};
+    pasos_.back().push_back({cambio.inicio, cambio.puestos, cambio.textoQuitado, antes, despues});
+    bytes_ += sizeof(Cambio) + bytesDe(cambio.textoQuitado);
 }
 
 bool HistorialPorPalabras::alarga(const CambioDeTexto& cambio) {
@@ -163,6 +179,7 @@ Seleccion HistorialPorPalabras::rehace(PasosFirmes& paso) {
 /// A receiver may have all forgotten meanwhile: the step is not in the list while it is carried out.
 Seleccion HistorialPorPalabras::recorre(std::size_t cual, Sentido sentido, PasosFirmes& paso) {
     corta();
+    const MarcaOcupado recorriendo(recorre_);
     const bool atras = sentido == Sentido::Atras;
     const std::size_t epoca = epoca_;
     bytes_ -= bytesDelPaso(pasos_[cual]);

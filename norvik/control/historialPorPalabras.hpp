@@ -26,6 +26,8 @@ public:
     /// A change that the box's text just went through, and nobody takes back at this moment. A text that is
     /// put whole into an empty history is where it begins.
     void anota(const CambioDeTexto& cambio);
+    /// The same of a word that the control corrects, which is part of the step before.
+    void anotaCorreccion(const CambioDeTexto& cambio);
     /// What comes next is no part of the word before.
     void corta() { abierto_ = false; }
     /// All that is changed between the two calls, which may nest, is one step.
@@ -76,6 +78,7 @@ private:
     std::size_t epoca_ = 0;  ///< how often all was forgotten
     int grupo_ = 0;          ///< calls of `empiezaPaso` without their end
     bool agrupado_ = false;  ///< the last step is that of the group
+    bool recorre_ = false;   ///< a step is being carried out
     bool abierto_ = false;   ///< a word is being typed or rubbed out
 };
 

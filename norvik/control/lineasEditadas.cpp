@@ -35,7 +35,7 @@ void LineasEditadas::coloreaRango(std::int32_t inicio, std::int32_t fin, std::in
     const MarcaOcupado ocupado(ocupado_);
     const TextoOculto oculto(colocacion_);
     if (!alDia() || (opciones_.autoCorreccion && longitudDelTexto() <= a32(maximoTexto)))
-        coloreado_.pintaTokens(inicio, fin);
+        coloreado_.pintaTokens(inicio, fin, palabras_);
     ponAlDia();
 }
 
@@ -119,6 +119,7 @@ void LineasEditadas::pinta(std::int32_t inicio, std::int32_t fin, std::int32_t c
 
 /// What comes in before all text takes the colour of what was first.
 void LineasEditadas::siguePosiciones(const CambioDeTexto& cambio) {
+    coloresAlDia_.cambioElTexto();
     if (marcado_.vacio()) return;
     marcado_ = {marcado_.inicio == 0 ? 0 : cambio.lleva(marcado_.inicio), cambio.lleva(marcado_.fin)};
     if (lineaMarcada_ != ninguna && !marcado_.vacio())
@@ -140,8 +141,9 @@ std::optional<std::int32_t> LineasEditadas::alCambiar(const CambioDeTexto& cambi
     return nueva;
 }
 
-/// The change ends a mark.
+/// The change ends a mark, although the colours may come late, or never again.
 void LineasEditadas::ponAlDiaTrasCambio() {
+    if (!marcado_.vacio()) caja_->pinta(marcado_.inicio, marcado_.fin - marcado_.inicio, 0);
     lineaEnEdicion_ = opciones_.autoCorreccion;
     lineaMarcada_ = ninguna;
     marcado_ = {};

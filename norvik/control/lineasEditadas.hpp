@@ -62,6 +62,15 @@ public:
     void esperaRango() { recoloreaRango_ = true; }
     void rangoVisto() { recoloreaRango_ = false; }
     void esperaRangoSiCambioDeLinea();
+    /// Carries out something that gives a text back exactly: what is painted meanwhile is not corrected.
+    template <typename Operacion>
+    void alPieDeLaLetra(Operacion operacion) {
+        PasosFirmes paso;
+        palabras_ = Coloreado::Palabras::Deja;
+        paso(operacion);
+        palabras_ = Coloreado::Palabras::Corrige;
+        paso.acaba();
+    }
     /// @}
 
     /// The control itself is at work on the box, whose events are ignored.
@@ -99,6 +108,7 @@ private:
     Coloreado& coloreado_;
     ColoresAlDia& coloresAlDia_;
     Colocacion& colocacion_;
+    Coloreado::Palabras palabras_ = Coloreado::Palabras::Corrige;
     bool ocupado_ = false;
     bool lineaEnEdicion_ = true;  ///< the caret's line was turned plain and waits to be coloured
     bool recoloreaRango_ = false; ///< text that may span lines came in and waits to be coloured

@@ -31,6 +31,7 @@
 namespace norvik::inline v0_2 {
 
 class Colorista;
+struct Literal;
 class Historial;
 class PartesControl;
 struct DestinoBusqueda;
@@ -347,9 +348,15 @@ public:
     /// Las opciones, juntas.
     const Opciones& opciones() const;
     /// Lo que colorea textos del lenguaje de ahora en otro hilo, y los colores del texto de ahora que ha
-    /// dado: son los de un texto largo que los espera con `coloreaAlEscribir`.
+    /// dado, o de partes suyas: son los de un texto largo que los espera con `coloreaAlEscribir`.
     std::unique_ptr<Colorista> colorista();
     void tomaColores(std::span<const TramoDeColor> tramos);
+    /// Los comentarios, cadenas y caracteres del texto de ahora, en orden. `nullptr` cuando buscarlos tarda
+    /// demasiado, tras haberlo dicho una vez con `BusquedaDesbocada`.
+    const std::vector<Literal>* literales();
+    /// Reemplaza unos caracteres (desde 0) en un solo cambio que Deshacer quita exactamente, a diferencia de
+    /// los demás que quitan y ponen a la vez.
+    void reemplaza(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo);
 
     /// @}
 

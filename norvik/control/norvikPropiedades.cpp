@@ -124,6 +124,15 @@ void Norvik::tomaColores(std::span<const TramoDeColor> tramos) {
     vivo()->lineas.tomaColores(tramos);
 }
 
+const std::vector<Literal>* Norvik::literales() {
+    return vivo()->coloresAlDia.literales();
+}
+
+void Norvik::reemplaza(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
+    const auto partes = vivo();
+    partes->conAviso([&] { partes->historial.sustituye(inicio, longitud, nuevo); });
+}
+
 const Ayudas& Norvik::ayudas() const {
     return partes_->ayudas;
 }

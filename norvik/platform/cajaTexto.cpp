@@ -94,6 +94,19 @@ void CajaTexto::reemplazaSeleccion(std::u16string_view texto) {
     avisaDelCambio(std::move(cambio));
 }
 
+void CajaTexto::reemplaza(std::int32_t inicio, std::int32_t longitud, std::u16string_view texto) {
+    const auto total = static_cast<std::int32_t>(texto_.size());
+    const std::int32_t desde = std::clamp(inicio, 0, total);
+    const std::int32_t cuantos = std::clamp(longitud, 0, total - desde);
+    if (texto.empty() && cuantos == 0) return;
+    const std::u16string nuevo = conSaltosDobles(texto, desde, desde + cuantos);
+    CambioDeTexto cambio = cambioEn(desde, cuantos, nuevo);
+    cambia(cambio, nuevo, {0, estiloEn(desde, cuantos).letra});
+    inicio_ = desde + cambio.puestos;
+    longitud_ = 0;
+    avisaDelCambio(std::move(cambio));
+}
+
 void CajaTexto::edita(std::int32_t inicio, std::int32_t quitados, std::u16string_view texto,
                       std::int32_t inicioSeleccion, std::int32_t longitudSeleccion) {
     CambioDeTexto cambio = cambioEn(inicio, quitados, texto);

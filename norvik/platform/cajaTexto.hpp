@@ -147,6 +147,10 @@ public:
     /// carácter reemplazado o el de lo que se escriba a continuación.
     void reemplazaSeleccion(std::u16string_view texto);
 
+    /// Reemplaza unos caracteres por otros, de color 0; los dos extremos se llevan dentro del texto, y el
+    /// cursor queda detrás. Es un solo cambio: nadie oye antes de una selección.
+    void reemplaza(std::int32_t inicio, std::int32_t longitud, std::u16string_view texto);
+
     /// Pone otros caracteres en el lugar de unos que están en el texto, tal como son, y selecciona: todo ello
     /// un solo cambio. Son de color 0, salvo en los tramos que se dan, que ya están en el texto nuevo.
     void sustituye(std::int32_t inicio, std::int32_t quitados, std::u16string_view nuevo,

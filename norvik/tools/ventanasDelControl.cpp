@@ -20,11 +20,14 @@ namespace norvik::ventanasDelControl {
 
 namespace {
 
-/// 1-based; the last one if there are not so many any more.
-void vaALinea(CajaTextoQt& caja, int linea) {
-    const int ultima = caja.numeroDeLineas();
+/// 1-based; the last one if there are not so many any more. Whoever hears of the focus may delete the
+/// control.
+void vaALinea(ControlNorvik& control, int linea) {
+    const QPointer<ControlNorvik> vivo(&control);
+    CajaTextoQt& caja = control.caja();
     caja.enfoca();
-    caja.selecciona(caja.inicioDeLinea(std::min(linea, ultima) - 1), 0);
+    if (vivo.isNull()) return;
+    caja.selecciona(caja.inicioDeLinea(std::min(linea, caja.numeroDeLineas()) - 1), 0);
 }
 
 } // namespace
@@ -56,7 +59,7 @@ void preguntaLinea(ControlNorvik& control) {
     control.sistema().muestraModal(*dialogo);
     if (vivo.isNull() || !dialogo.vive() || dialogo->result() != QDialog::Accepted) return;
     const int linea = dialogo->intValue();
-    control.caja().atiende([&] { vaALinea(control.caja(), linea); });
+    control.caja().atiende([&] { vaALinea(control, linea); });
 }
 
 void muestraBuscar(ControlNorvik& control) {

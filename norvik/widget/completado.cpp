@@ -9,19 +9,21 @@
 
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScreen>
 
 #include <algorithm>
 #include <utility>
 
 namespace norvik {
 
-Completado::Completado(CajaTextoQt& caja, Propone propone)
-    : caja_(caja), propone_(std::move(propone)), lista_(&caja.vista()) {
+Completado::Completado(CajaTextoQt& caja, Propone propone, Escribe escribe)
+    : caja_(caja), propone_(std::move(propone)), escribe_(std::move(escribe)), lista_(&caja.vista()) {
     lista_.setObjectName(QStringLiteral("completado"));
     lista_.setAccessibleName(QStringLiteral("Lo que puede seguir"));
     lista_.setWindowFlags(Qt::ToolTip);
     lista_.setAttribute(Qt::WA_ShowWithoutActivating);
     lista_.setFocusPolicy(Qt::NoFocus);
+    lista_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it would stand on a row
     lista_.hide();
     caja_.vista().installEventFilter(this);
 }
@@ -91,13 +93,19 @@ void Completado::llena(const Continuaciones& continuaciones) {
     }
 }
 
+/// Below the caret, or above it where the screen ends; never wider than half of it.
 void Completado::coloca() {
     constexpr int mayor = 8;
-    const int alto = lista_.sizeHintForRow(0) * std::min(lista_.count(), mayor) + 2 * lista_.frameWidth();
     constexpr int lados = 40;
-    lista_.resize(lista_.sizeHintForColumn(0) + lados, alto);
-    const QRect cursor = caja_.vista().cursorRect();
-    lista_.move(caja_.vista().viewport()->mapToGlobal(cursor.bottomLeft()));
+    const VistaTexto& vista = caja_.vista();
+    const QRect pantalla = vista.screen()->availableGeometry();
+    const QRect cursor = vista.cursorRect().translated(vista.viewport()->mapToGlobal(QPoint()));
+    const int alto = lista_.sizeHintForRow(0) * std::min(lista_.count(), mayor) + 2 * lista_.frameWidth();
+    const int ancho = std::min(lista_.sizeHintForColumn(0) + lados, pantalla.width() / 2);
+    const bool debajo = cursor.bottom() + alto <= pantalla.bottom();
+    const int x = std::clamp(cursor.left(), pantalla.left(), pantalla.right() - ancho);
+    lista_.setGeometry(x, std::max(debajo ? cursor.bottom() : cursor.top() - alto, pantalla.top()), ancho,
+                       alto);
 }
 
 /// Only what begins as what was typed stays; where nothing does, or the caret went elsewhere, the list goes.
@@ -144,12 +152,10 @@ void Completado::toma() {
     const QListWidgetItem* const elegida = lista_.currentItem();
     const QString texto = elegida == nullptr ? QString() : elegida->text();
     lista_.hide();
-    if (texto.isEmpty()) return;
-    const QPointer<Completado> vivo(this);
-    caja_.atiende([&] {
-        caja_.selecciona(inicio_, caja_.inicioSeleccion() - inicio_);
-        if (!vivo.isNull()) caja_.reemplazaSeleccion(vistaDe(texto));
-    });
+    const std::int32_t escritos = caja_.inicioSeleccion() - inicio_;
+    if (texto.isEmpty() || escritos < 0 || caja_.soloLectura()) return;
+    const Escribe escribe = escribe_;
+    caja_.atiende([&] { escribe(inicio_, escritos, vistaDe(texto)); });
 }
 
 } // namespace norvik

@@ -27,7 +27,11 @@ public:
     /// What can follow at a position of a text.
     using Propone = std::function<Continuaciones(std::u16string_view texto, std::size_t posicion)>;
 
-    Completado(CajaTextoQt& caja, Propone propone);
+    /// Puts a text in the place of some characters, as one step of undo.
+    using Escribe =
+        std::function<void(std::int32_t inicio, std::int32_t longitud, std::u16string_view texto)>;
+
+    Completado(CajaTextoQt& caja, Propone propone, Escribe escribe);
 
     /// From here on it asks somebody else.
     void preguntaA(Propone propone) { propone_ = std::move(propone); }
@@ -49,6 +53,7 @@ private:
 
     CajaTextoQt& caja_;
     Propone propone_;
+    Escribe escribe_;
     QListWidget lista_;
     std::int32_t inicio_ = 0; ///< of what is completed
     bool permitido_ = false;

@@ -45,10 +45,14 @@ struct ControlNorvik::Piezas {
     Piezas(ControlNorvik& control, SistemaQt* compartido)
         : elementos(control), propio(&control), sistema(compartido != nullptr ? *compartido : propio),
           caja(&control), fondo(control.control_, caja),
-          completado(caja,
-                     [&control](std::u16string_view texto, std::size_t posicion) {
-                         return continuaciones(control.control_.lenguaje(), texto, posicion);
-                     }),
+          completado(
+              caja,
+              [&control](std::u16string_view texto, std::size_t posicion) {
+                  return continuaciones(control.control_.lenguaje(), texto, posicion);
+              },
+              [&control](std::int32_t inicio, std::int32_t longitud, std::u16string_view texto) {
+                  control.control_.reemplaza(inicio, longitud, texto);
+              }),
           busqueda(control, resaltes) {}
 
     ElementosControl elementos;
@@ -130,10 +134,7 @@ void ControlNorvik::ordenaTabulador() {
 void ControlNorvik::conectaEventos() {
     EventosControl& e = control_.eventos;
     e.CambioDeLinea = [this](auto& linea) { Q_EMIT CambioDeLinea(linea); };
-    e.change = [this] {
-        if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
-        Q_EMIT change();
-    };
+    e.change = [this] { Q_EMIT change(); };
     e.Click = [this] { Q_EMIT Click(); };
     e.KeyDown = [this](auto& codigo, auto& shift) { Q_EMIT KeyDown(codigo, shift); };
     e.KeyPress = [this](auto& caracter) { Q_EMIT KeyPress(caracter); };
@@ -146,7 +147,10 @@ void ControlNorvik::conectaEventos() {
     };
     e.MouseUp = [this](auto& boton, auto& shift, auto& x, auto& y) { Q_EMIT MouseUp(boton, shift, x, y); };
     e.SelChange = [this] { Q_EMIT SelChange(); };
-    e.textoCambiado = [this] { Q_EMIT textoCambiado(); };
+    e.textoCambiado = [this] {
+        if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
+        Q_EMIT textoCambiado();
+    };
 }
 
 /// The elements go one by one, and nobody is there to see the last events of one.

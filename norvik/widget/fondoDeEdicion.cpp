@@ -7,6 +7,7 @@
 #include "norvik/control/coloresAlDia.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <utility>
@@ -17,7 +18,6 @@ namespace {
 
 constexpr auto esperaDeColores = std::chrono::milliseconds(20); // several changes, one reading
 constexpr auto pausa = std::chrono::milliseconds(300);
-constexpr auto plazo = std::chrono::milliseconds(250); // of a text of common length, many times what it takes
 
 } // namespace
 
@@ -38,6 +38,7 @@ FondoDeEdicion::FondoDeEdicion(Norvik& control, CajaTextoQt& caja) : control_(co
 void FondoDeEdicion::cambioElTexto(const CambioDeTexto& cambio) {
     ++version_;
     literalesDe_.reset();
+    if (trabajoColores_.trabaja()) desdeLaLectura_.anota(cambio);
     if (!control_.ayudas().pliega) return;
     pliegues_.alCambiar(cambio);
     analizaTrasPausa_.start();
@@ -56,6 +57,32 @@ void FondoDeEdicion::otroLenguaje() {
 }
 
 // ---- colours
+
+void CambiosJuntos::anota(const CambioDeTexto& cambio) {
+    const std::int32_t crece = cambio.puestos - cambio.quitados;
+    if (!hay_) inicio_ = finAntes_ = finAhora_ = cambio.inicio;
+    const std::int32_t mas = std::max(cambio.inicio + cambio.quitados - finAhora_, 0);
+    inicio_ = std::min(inicio_, cambio.inicio);
+    finAntes_ += mas;
+    finAhora_ += mas + crece;
+    hay_ = true;
+}
+
+void CambiosJuntos::traslada(std::vector<TramoDeColor>& tramos) const {
+    if (!hay_) return;
+    std::vector<TramoDeColor> quedan;
+    quedan.reserve(tramos.size() + 1);
+    const auto pon = [&](std::int32_t desde, std::int32_t hasta, std::int32_t color) {
+        if (desde < hasta) quedan.push_back({desde, hasta - desde, color});
+    };
+    for (const TramoDeColor& t : tramos) {
+        const std::int32_t fin = t.inicio + t.longitud;
+        const std::int32_t crece = finAhora_ - finAntes_;
+        pon(t.inicio, std::min(fin, inicio_), t.color);
+        pon(std::max(t.inicio, finAntes_) + crece, fin + crece, t.color);
+    }
+    tramos = std::move(quedan);
+}
 
 void FondoDeEdicion::pideColores() {
     if (!coloreaPronto_.isActive()) coloreaPronto_.start();
@@ -76,37 +103,46 @@ void FondoDeEdicion::colorea() {
     if (desistido_ || trabajoColores_.trabaja()) return;
     trabajoColores_.empieza(
         [colorista, texto = std::u16string(caja_.texto())](const std::stop_token& parada) {
-            auto colores = colorista->colores(texto, Presupuesto(Presupuesto::plazoComun, parada));
-            return Lectura{std::move(colores), colorista->literales()};
+            try {
+                auto colores = colorista->colores(texto, Presupuesto(Presupuesto::plazoComun, parada));
+                return Lectura{std::move(colores), colorista->literales(), nullptr};
+            } catch (const BusquedaDesbocada&) {
+                return Lectura{{}, {}, std::current_exception()};
+            }
         },
         [this, colorista, version = version_](std::optional<Lectura> lectura) {
-            if (!lectura && colorista == colorista_) desistido_ = true;
             if (lectura) caja_.protege([&] { toma(*std::move(lectura), colorista, version); });
         });
+    desdeLaLectura_ = {};
 }
 
+/// While keys come faster than a reading ends, it has the colours of all but what they changed meanwhile.
 void FondoDeEdicion::toma(Lectura&& lectura, const std::shared_ptr<Colorista>& de, std::uint64_t version) {
-    if (version != version_) return pideColores();
-    literales_ = std::move(lectura.literales);
-    literalesDe_ = de;
-    caja_.pideAlDia();
+    if (lectura.desbocada) {
+        desistido_ |= de == colorista_;
+        std::rethrow_exception(lectura.desbocada);
+    }
+    if (version == version_) {
+        literales_ = std::move(lectura.literales);
+        literalesDe_ = de;
+        caja_.pideAlDia();
+    } else {
+        pideColores();
+        if (de != colorista()) return;
+        desdeLaLectura_.traslada(lectura.colores);
+    }
     control_.tomaColores(lectura.colores);
 }
 
 const std::vector<Literal>* FondoDeEdicion::literales() {
-    const std::shared_ptr<Colorista> suyo = colorista();
-    if (literalesDe_ == suyo) return &literales_;
-    if (desistido_ || trabajoColores_.trabaja()) return nullptr;
-    if (caja_.texto().size() > ColoresAlDia::maximoAlMomento) return pideColores(), nullptr;
-    try {
-        suyo->colores(caja_.texto(), Presupuesto(plazo));
-    } catch (const BusquedaDesbocada&) {
-        desistido_ = true;
-        return nullptr;
+    const std::vector<Literal>* suyos = nullptr;
+    if (caja_.texto().size() <= ColoresAlDia::maximoAlMomento) {
+        caja_.protege([&] { suyos = control_.literales(); });
+        return suyos;
     }
-    literales_ = suyo->literales();
-    literalesDe_ = suyo;
-    return &literales_;
+    if (literalesDe_ == colorista()) return &literales_;
+    if (!desistido_ && !trabajoColores_.trabaja()) pideColores();
+    return nullptr;
 }
 
 // ---- constructions

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -19,9 +20,23 @@ namespace norvik {
 
 class CajaTextoQt;
 
+/// Changes of a text as one: what they left alone lies before it and behind it.
+class CambiosJuntos {
+public:
+    void anota(const CambioDeTexto& cambio);
+    /// From runs of the text before them to those of what they left alone in the text after them.
+    void traslada(std::vector<TramoDeColor>& tramos) const;
+
+private:
+    std::int32_t inicio_ = 0;
+    std::int32_t finAntes_ = 0;
+    std::int32_t finAhora_ = 0;
+    bool hay_ = false;
+};
+
 /// What is found out about the edited text in other threads, while it is typed on: the colours of a long
 /// text, and after a pause the constructions that can be folded. What comes back when the text is another
-/// already is done again.
+/// already is done again; of its colours those are taken that are still good.
 class FondoDeEdicion {
 public:
     /// Both outlive it.
@@ -50,6 +65,7 @@ private:
     struct Lectura {
         std::vector<TramoDeColor> colores;
         std::vector<Literal> literales;
+        std::exception_ptr desbocada; ///< the text takes too long
     };
     using Construcciones = std::vector<Construccion>;
 
@@ -65,7 +81,8 @@ private:
     Pliegues pliegues_;
     std::optional<Lenguaje> lenguaje_; ///< the colourist's
     std::shared_ptr<Colorista> colorista_;
-    bool desistido_ = false; ///< texts of this language take too long
+    bool desistido_ = false; ///< long texts of this language take too long
+    CambiosJuntos desdeLaLectura_;
     std::vector<Literal> literales_;
     std::shared_ptr<Colorista> literalesDe_; ///< whose they are, when they are of this text
     QTimer coloreaPronto_, recoloreaPronto_, analizaTrasPausa_;

@@ -167,6 +167,18 @@ TEST_F(BusquedaTest, ReemplazarTodoEsUnPasoDeDeshacer) {
     }
 }
 
+/// Nobody comes between what was found and what takes its place.
+TEST_F(BusquedaTest, UnReceptorQueMueveElCursorNoMueveElReemplazo) {
+    for (const bool todo : {false, true}) {
+        empieza(u"ab x ab", 0, 2);
+        a.norvik.eventos.SelChange = [&] { a.caja.selecciona(3, 0); };
+        a.norvik.eventos.CambioDeLinea = [&](std::int16_t&) { a.caja.selecciona(3, 0); };
+        todo ? buscador.reemplazaTodo({u"ab"}, u"c\n") : buscador.reemplaza({u"ab"}, u"c\n");
+        a.norvik.eventos = {};
+        EXPECT_EQ(a.norvik.Text(), todo ? u"c\r\n x c\r\n" : u"c\r\n x ab");
+    }
+}
+
 TEST_F(BusquedaTest, EnUnTextoQueYaNoSeColorea) {
     const std::u16string relleno(33000, u'x');
     a.norvik.Colorear(true);

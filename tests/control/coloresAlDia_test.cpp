@@ -180,6 +180,42 @@ TEST(ColoresAlDia, UnTextoLargoEsperaAQuienLoEnsena) {
     EXPECT_EQ(caja.colores(), (std::vector<TramoDeColor>{{0, 5, 0x800000}})) << "a short one does not wait";
 }
 
+/// Whoever was to bring other colours is late: the mark goes with the change all the same.
+TEST(ColoresAlDia, NingunaMarcaEsperaALosColores) {
+    struct Tarda : Contenedor {
+        bool coloreaDespues() override { return true; }
+    } contenedor;
+    SistemaVigilado sistema;
+    CajaTexto caja;
+    Norvik norvik{caja, sistema, contenedor};
+    ASSERT_TRUE(norvik.CargaGramatica(mini) && norvik.GeneraCompilador());
+    norvik.Colorear(true);
+    norvik.ponAyudas({.coloreaAlEscribir = true});
+    norvik.Text(u"y\r\n" + std::u16string(ColoresAlDia::maximoAlMomento, u'x'));
+    for (const std::int16_t linea : {std::int16_t{1}, std::int16_t{3}}) {
+        norvik.MarcaErrorLinea(linea);
+        EXPECT_EQ(caja.colores().size(), 2U);
+        caja.selecciona(1, 0);
+        caja.reemplazaSeleccion(u"\r\n");
+        EXPECT_EQ(caja.colores().size(), 1U);
+    }
+}
+
+/// One reading tells the colours of a text and its literals.
+TEST(ColoresAlDia, LosLiteralesSonLosDelTextoDeAhora) {
+    Editor e(u"x 'a' /* b */");
+    const auto literales = [&] { return *e.norvik.literales(); };
+    EXPECT_EQ(literales(), (std::vector<Literal>{{2, 5}, {6, 13}}));
+    e.caja.selecciona(0, 1);
+    escribe(e, {});
+    EXPECT_EQ(literales(), (std::vector<Literal>{{1, 4}, {5, 12}}));
+    e.norvik.ponAyudas({});
+    escribe(e, u"zz");
+    EXPECT_EQ(literales(), (std::vector<Literal>{{3, 6}, {7, 14}}));
+    e.compila(u"Token id = \"[a-z]+\"; S -> id;");
+    EXPECT_EQ(literales(), std::vector<Literal>());
+}
+
 TEST(ColoresAlDia, TrasEdicionesAlAzar) {
     std::mt19937 azar(20261126);
     const std::array<std::u16string_view, 12> trozos = {

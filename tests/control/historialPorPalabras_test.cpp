@@ -157,7 +157,7 @@ TEST_F(PorPalabras, LoQueNoSeTecleaEsUnPaso) {
     pulsa(u"1{2");
     caja.eventos.acabaPaso();
     EXPECT_EQ(visto(), "c_d_cy2|1");
-    EXPECT_EQ(ida(), "c_d_cy| c_d_c| [xa_b_a] |a_b_a ");
+    EXPECT_EQ(ida(), "c_d_cy| c_d_c| x|a_b_a |a_b_a ");
     norvik.Text(u"z");
     EXPECT_EQ(ida(), "|a_b_a ");
     pulsa(u"x");
@@ -236,6 +236,25 @@ TEST_F(PorPalabras, LoRepuestoEnVariasLineasSeColorea) {
     pulsa(u"<");
     norvik.Undo();
     EXPECT_EQ(caja.colores(), antes);
+}
+
+/// A correction may have another length; going back corrects nothing.
+TEST_F(PorPalabras, LoQueElControlCorrigeVaConSuPaso) {
+    norvik.SetER(u"abx?", u"fija", true, Norvik_AutoExpReg);
+    norvik.Colorear(true);
+    norvik.AutoCorreccion(true);
+    for (const bool alDia : {false, true}) {
+        norvik.ponAyudas({.coloreaAlEscribir = alDia, .deshacePorPalabras = true});
+        norvik.BorraTodo();
+        pulsa(u"y\nab");
+        caja.selecciona(0, 0);
+        EXPECT_EQ(visto(), "|y/abx?");
+        pulsa(u"w");
+        for (int vez = 0; vez < 2; ++vez) {
+            EXPECT_EQ(ida(), "|y/abx? y/| y| | ");
+            EXPECT_EQ(vuelta(), "y| y/| y/abx?| w|y/abx? ");
+        }
+    }
 }
 
 TEST(HistorialPorPalabras, LoMasAntiguoSeOlvida) {

@@ -184,6 +184,27 @@ TEST(Reentrada, UnReceptorQueFalla) {
 }
 
 /// A text of sums parses or not, but what parses gives a tree of one language.
+/// Whoever shows the control hears of the changes in their order, although a receiver makes one in the
+/// middle.
+TEST(Reentrada, ElContenedorOyeLosCambiosEnSuOrden) {
+    struct Oyente : Contenedor {
+        void cambioElTexto(const CambioDeTexto& cambio) override { oidos.push_back(cambio.inicio); }
+        std::vector<std::int32_t> oidos;
+    } contenedor;
+    apoyo::SistemaVigilado sistema;
+    CajaTexto caja;
+    Norvik norvik{caja, sistema, contenedor};
+    caja.ponTexto(u"abc");
+    contenedor.oidos.clear();
+    norvik.eventos.change = [&] {
+        norvik.eventos.change = nullptr;
+        caja.reemplaza(0, 1, u"xyz");
+    };
+    caja.reemplaza(2, 1, u"");
+    EXPECT_EQ(caja.texto(), u"xyzb");
+    EXPECT_EQ(contenedor.oidos, (std::vector<std::int32_t>{2, 0}));
+}
+
 TEST(Reentrada, UnReceptorQueAnaliza) {
     paraCadaSuceso(
         [](Reentrante& a) {

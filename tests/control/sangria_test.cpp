@@ -114,6 +114,27 @@ TEST_F(Sangria, EsUnPasoYConservaLosColores) {
     }
 }
 
+/// Return, where lines have no number any more.
+TEST_F(Sangria, TrasLasLineasNumeradas) {
+    norvik.AutoTAB(true);
+    norvik.Colorear(true);
+    std::u16string texto;
+    for (int i = 0; i < 32'770; ++i) texto += u"\r\n";
+    for (const bool conAyudas : {true, false}) {
+        norvik.ponAyudas(conAyudas ? Ayudas{.coloreaAlEscribir = true} : Ayudas{});
+        caja.ponTexto(texto + u"  x\r\n");
+        const auto alFinal = [&] { caja.selecciona(static_cast<std::int32_t>(caja.texto().size()), 0); };
+        EXPECT_THROW(alFinal(), Desbordamiento); // its line is told by a number
+        std::int16_t codigo = tecla::retorno;
+        std::int16_t shift = 0;
+        if (conAyudas)
+            EXPECT_NO_THROW(caja.eventos.teclaArriba(codigo, shift));
+        else
+            EXPECT_THROW(caja.eventos.teclaArriba(codigo, shift), Desbordamiento);
+        EXPECT_EQ(caja.texto().ends_with(u"  x\r\n  "), conAyudas);
+    }
+}
+
 TEST_F(Sangria, ApagadaElTabuladorReemplaza) {
     norvik.ponAyudas({});
     pon(u"[a/b]");

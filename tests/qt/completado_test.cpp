@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -74,5 +75,52 @@ TEST_F(CompletadoTest, ProponeLoQuePuedeSeguirYLoEscribe) {
         editor.completa(false);
         pulsa(Qt::Key_Space, Qt::ControlModifier);
         EXPECT_EQ(propuestas(), QStringList());
+    }
+}
+
+TEST_F(CompletadoTest, TomarloEsUnPasoExacto) {
+    editor.completa(true);
+    for (const bool porPalabras : {false, true}) {
+        editor.deshacePorPalabras(porPalabras);
+        editor.Text("");
+        QTest::keyClicks(&vista, "MI");
+        pulsa(Qt::Key_Space, Qt::ControlModifier);
+        pulsa(Qt::Key_Down);
+        pulsa(Qt::Key_Return);
+        EXPECT_EQ(editor.Text(), "mira");
+        editor.control().Undo();
+        EXPECT_EQ(editor.Text(), "MI");
+        editor.control().Redo();
+        EXPECT_EQ(editor.Text(), "mira");
+    }
+}
+
+TEST_F(CompletadoTest, NadaSeEscribeEnLoQueSoloSeLee) {
+    editor.completa(true);
+    pulsa(Qt::Key_Space, Qt::ControlModifier);
+    editor.soloLectura(true);
+    pulsa(Qt::Key_Return);
+    EXPECT_EQ(editor.Text(), "");
+    EXPECT_EQ(propuestas(), QStringList());
+}
+
+/// On the screen's last lines, and with names that nobody reads to their end.
+TEST_F(CompletadoTest, LaListaCabeEnLaPantalla) {
+    const QRect pantalla = editor.screen()->availableGeometry();
+    editor.completa(true);
+    editor.Text("mira " + QString(2000, 'a') + "\n\n\n\nmira ");
+    editor.caja().selecciona(editor.caja().inicioDeLinea(4) + 5, 0);
+    for (const QPoint& esquina : {pantalla.topLeft(), pantalla.bottomRight() - QPoint(200, 100),
+                                  pantalla.bottomLeft() - QPoint(100, 90)}) {
+        editor.move(esquina);
+        QCoreApplication::processEvents();
+        pulsa(Qt::Key_Space, Qt::ControlModifier);
+        ASSERT_EQ(propuestas().size(), 2);
+        const QRect sitio = lista.geometry();
+        EXPECT_TRUE(pantalla.contains(sitio));
+        EXPECT_LE(sitio.width(), pantalla.width() / 2);
+        const QRect cursor = vista.cursorRect().translated(vista.viewport()->mapToGlobal(QPoint()));
+        EXPECT_FALSE(sitio.intersects(cursor.adjusted(0, 1, 0, -1)));
+        pulsa(Qt::Key_Escape);
     }
 }

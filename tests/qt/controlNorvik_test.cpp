@@ -505,6 +505,59 @@ TEST_F(ControlNorvikTest, DemasiadoTextoSeDiceUnaVezYSeSigue) {
     EXPECT_TRUE(sistema.mensajes.empty());
 }
 
+/// Between the two it was short enough: by Undo, of which `change` says nothing.
+TEST_F(ControlNorvikTest, DemasiadoTextoTrasDeshacerSeDiceOtraVez) {
+    norvik.control().ponAyudas({.deshacePorPalabras = true});
+    QApplication::clipboard()->setText(QString(40'000, u'x') + "\n");
+    norvik.Text("");
+    QTest::keyClicks(&editor, "a");
+    for (const std::size_t dichos : {1U, 2U}) {
+        pulsa(Qt::Key_Insert, Qt::ShiftModifier);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(sistema.mensajes.size(), dichos);
+        norvik.control().Undo();
+        EXPECT_EQ(norvik.Text(), "a");
+        QCoreApplication::processEvents();
+    }
+}
+
+/// The same key is the text's only once it has gone down there.
+TEST_F(ControlNorvikTest, UnaTeclaQueSeMantieneEsDeQuienLaOyoBajar) {
+    const auto repite = [&] {
+        QKeyEvent evento(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 36, 0, 0, "\r", true);
+        QApplication::sendEvent(&editor, &evento);
+    };
+    norvik.Text("x");
+    for (int vez = 1; vez <= 2; ++vez) {
+        repite();
+        EXPECT_EQ(norvik.caja().numeroDeLineas(), 3 * vez - 2);
+        QKeyEvent baja(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 36, 0, 0, "\r");
+        QApplication::sendEvent(&editor, &baja);
+        repite();
+        repite();
+        EXPECT_EQ(norvik.caja().numeroDeLineas(), 3 * vez + 1);
+        despues.setFocus(); // a message box, say
+        norvik.setFocus();
+    }
+}
+
+/// By their places, as X and Wayland number them.
+TEST_F(ControlNorvikTest, LasTeclasDeUnTecladoEspanol) {
+    const std::tuple<int, quint32, int> casos[] = {
+        {Qt::Key_exclamdown, 21, 221}, {Qt::Key_questiondown, 21, 221}, {Qt::Key_Ccedilla, 51, 191},
+        {Qt::Key_masculine, 49, 220},  {Qt::Key_ordfeminine, 49, 220},  {Qt::Key_Plus, 35, 187},
+        {Qt::Key_Asterisk, 35, 187},   {Qt::Key_Apostrophe, 20, 222},   {Qt::Key_Question, 20, 222},
+        {Qt::Key_Question, 61, 191},   {Qt::Key_Asterisk, 17, '8'},     {Qt::Key_Asterisk, 0, '8'},
+        {Qt::Key_questiondown, 0, 231}};
+    int codigo = 0;
+    QObject::connect(&norvik, &ControlNorvik::KeyDown, &norvik, [&](qint16& c) { codigo = c; });
+    for (const auto& [tecla, sitio, esperado] : casos) {
+        QKeyEvent evento(QEvent::KeyPress, tecla, Qt::NoModifier, sitio, 0, 0, "x");
+        QApplication::sendEvent(&editor, &evento);
+        EXPECT_EQ(codigo, esperado) << tecla << " " << sitio;
+    }
+}
+
 TEST_F(ControlNorvikTest, EnFondoOscuroTodoSeLee) {
     QPalette oscura;
     oscura.setColor(QPalette::Base, QColor(30, 30, 30));

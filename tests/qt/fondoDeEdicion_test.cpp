@@ -108,6 +108,60 @@ TEST(FondoDeEdicion, ElTextoCambiaMientrasSeLee) {
     EXPECT_EQ(v.colorEn(20), 0);
 }
 
+/// Keys that come faster than one reading ends: all but what they are changing has its colours.
+TEST(FondoDeEdicion, LosColoresLleganAunqueNoSeDejeDeEscribir) {
+    Ventana v;
+    v.norvik->Text(QString::fromStdU16String(largo()));
+    const std::int32_t medio = 16 * 3000;
+    v.norvik->caja().selecciona(medio, 0);
+    const auto deUnaVez = v.norvik->control().colorista();
+    int tecla = 0;
+    const auto ultima = [&] { return a32(v.norvik->caja().texto().size()) - 16; };
+    for (; tecla < 3000 && v.colorEn(ultima()) != azul; ++tecla) {
+        v.escribe(tecla % 7 == 3 ? u"\n" : u"y");
+        QTest::qWait(1);
+    }
+    ASSERT_EQ(v.colorEn(ultima()), azul);
+    CajaTexto todos;
+    todos.ponTexto(v.norvik->caja().texto());
+    for (const TramoDeColor& t : deUnaVez->colores(todos.texto(), Presupuesto()))
+        todos.pinta(t.inicio, t.longitud, t.color);
+    const auto coinciden = [&](std::int32_t desde, std::int32_t hasta) {
+        std::int32_t iguales = 0;
+        for (std::int32_t i = desde; i < hasta; ++i)
+            iguales += v.norvik->caja().colorDe(i) == todos.colorDe(i);
+        return iguales == hasta - desde;
+    };
+    EXPECT_TRUE(coinciden(0, medio));
+    EXPECT_TRUE(coinciden(v.norvik->caja().inicioSeleccion() + 16, a32(todos.texto().size())));
+    QTRY_VERIFY(coinciden(0, a32(todos.texto().size())));
+}
+
+TEST(FondoDeEdicion, LoQueTardaDemasiadoSeDiceUnaVez) {
+    for (const bool esLargo : {false, true}) {
+        Ventana v;
+        int fallos = 0;
+        v.norvik->coloreaAlEscribir(esLargo);
+        v.norvik->resaltaParejas(!esLargo);
+        QObject::connect(v.norvik.get(), &ControlNorvik::fallo, [&](const QString& texto, bool& contado) {
+            EXPECT_TRUE(texto.contains("desbocado")) << texto.toStdString();
+            ++fallos;
+            contado = true;
+        });
+        v.norvik->OlvidaLenguaje();
+        v.norvik->control().CargaGramatica(u"Token y = \"(a*)*\\1c\"; Token p = \"\\(\"; S -> y | p;");
+        v.norvik->control().GeneraCompilador();
+        v.norvik->Text(QString(esLargo ? 70'000 : 3'000, u'a') + "(");
+        v.norvik->caja().selecciona(a32(v.norvik->caja().texto().size()), 0);
+        static_cast<void>(QTest::qWaitFor([&] { return fallos > 0; }, 10'000));
+        for (int vez = 0; vez < 3; ++vez) {
+            v.escribe(u"(");
+            QTest::qWait(400);
+        }
+        EXPECT_EQ(fallos, 1) << esLargo;
+    }
+}
+
 TEST(FondoDeEdicion, OtroLenguajeMientrasSeLee) {
     Ventana v;
     v.norvik->Text(QString::fromStdU16String(largo()));
