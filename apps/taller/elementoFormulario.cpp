@@ -52,7 +52,7 @@ void ElementoFormulario::conecta() {
     auto& texto = static_cast<QAbstractScrollArea&>(norvik_.caja().ventana());
     texto.installEventFilter(this);
     texto.viewport()->installEventFilter(this);
-    connect(&norvik_, &ControlNorvik::change, this, &ElementoFormulario::cambiaTexto);
+    connect(&norvik_, &ControlNorvik::textoCambiado, this, &ElementoFormulario::cambiaTexto);
     connect(&documento_, &DocumentoTexto::cambiado, this, &ElementoFormulario::cambiaTexto);
     connect(&documento_, &DocumentoTexto::aviso, this, &ElementoFormulario::aviso);
     connect(&norvik_, &ControlNorvik::SelChange, this, &ElementoFormulario::otroLugar);

@@ -43,8 +43,6 @@ public:
     const QString& fichero() const { return documento_.fichero(); }
     QString tituloTexto() const { return documento_.titulo(); }
     bool textoModificado() const { return documento_.modificado(); }
-    /// The control tells nobody of what it does to the text by Undo and Redo.
-    void cambiaTexto();
     void nuevoTexto() { documento_.vacia(); }
     void abreTexto(const QString& fichero) { documento_.abre(fichero); }
 
@@ -91,6 +89,7 @@ protected:
 
 private:
     void cedeTeclas();
+    void cambiaTexto();
     void conecta();
     void actualizaTitulo();
     void anota(const QString& propiedad);

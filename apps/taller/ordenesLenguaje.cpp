@@ -9,6 +9,8 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/formatoTexto.hpp"
+#include "norvik/base/texto.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/sistemaQt.hpp"
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
@@ -126,17 +128,42 @@ bool OrdenesLenguaje::hayLenguaje() {
     return false;
 }
 
-bool OrdenesLenguaje::analiza() {
-    if (!hayLenguaje()) return false;
-    reconoceConAviso(sistema_, formulario_.activo().norvik());
-    Norvik& control = formulario_.activo().norvik().control();
+std::optional<std::size_t> OrdenesLenguaje::analiza() {
+    if (!hayLenguaje()) return std::nullopt;
+    ControlNorvik& norvik = formulario_.activo().norvik();
+    norvik.ponDiagnosticos({});
+    if (norvik.caja().texto().size() > maximoTexto) return analizaLargo(norvik);
+    reconoceConAviso(sistema_, norvik);
+    Norvik& control = norvik.control();
     if (control.ConstruyeArbolSintactico()) {
         arbol_.muestra(control.GetArbolSintactico());
-        return true;
+        return static_cast<std::size_t>(arbol_.modelo().nodos());
     }
     error_ = {control.LineaToken(), control.ColumnaToken(), {}};
     mensaje_.muestra(aQString(control.GetmensajeError()));
-    return false;
+    return std::nullopt;
+}
+
+/// One that the control does not parse. All its errors are shown in the text, the first one in words; nobody
+/// would look through its tree.
+std::optional<std::size_t> OrdenesLenguaje::analizaLargo(ControlNorvik& norvik) {
+    const Lenguaje lenguaje = norvik.control().lenguaje();
+    const std::u16string texto(norvik.caja().texto());
+    Analisis analisis;
+    {
+        const VentanaDeAmbito<Procesando> aviso(sistema_, norvik.window(), Procesando::Aparece::SiTarda);
+        sistema_.trabaja(
+            [&](const std::stop_token& parada) { analisis = norvik::analiza(lenguaje, texto, {parada}); });
+    }
+    if (analisis) return analisis.arbol.numNodos();
+    norvik.ponDiagnosticos(analisis.diagnosticos);
+    const Diagnostico& primero = analisis.diagnosticos.front();
+    error_ = {primero.rango.inicio.linea, primero.rango.inicio.columna, {}};
+    mensaje_.muestra(QStringLiteral("Línea %1, Columna %2: %3")
+                         .arg(error_.linea)
+                         .arg(error_.columna)
+                         .arg(aQString(norvik::mensaje(primero))));
+    return std::nullopt;
 }
 
 void OrdenesLenguaje::olvidaAnalisis() {

@@ -9,6 +9,9 @@
 #include "panelMensaje.hpp"
 #include "ventanaRevision.hpp"
 
+#include <cstddef>
+#include <optional>
+
 namespace norvik::taller {
 
 /// The commands on the language of the active control, and parsing with it.
@@ -28,8 +31,8 @@ public:
     /// Loads the languages that are not loaded yet, and tells what is wrong with them.
     void preparaTodos();
 
-    /// Parses the text: the tree, or the error. True when it was accepted.
-    bool analiza();
+    /// Parses the text: the tree, or the error. How many nodes it has, if it was accepted.
+    std::optional<std::size_t> analiza();
     /// What the last parse left is shown no more.
     void olvidaAnalisis();
     void vaAlError();
@@ -46,6 +49,7 @@ private:
     void cambia(ElementoFormulario& elemento, const std::function<void()>& cambio);
     bool puedePerder(ElementoFormulario& elemento);
     bool hayLenguaje();
+    std::optional<std::size_t> analizaLargo(ControlNorvik& norvik);
 
     Formulario& formulario_;
     SistemaQt& sistema_;

@@ -36,9 +36,8 @@ PanelMensaje::PanelMensaje(QWidget* padre) : QFrame(padre) {
 
 void PanelMensaje::muestra(const QString& error) {
     mensaje_.setText(error);
-    setVisible(!error.isEmpty());
-    if (error.isEmpty()) return;
-    avisaALectores(mensaje_, error); // the focus stays in the text
+    if (error.isEmpty()) return hide();
+    isHidden() ? apareceALectores(mensaje_, error, *this) : avisaALectores(mensaje_, error);
 }
 
 } // namespace norvik::taller

@@ -124,8 +124,6 @@ void VentanaPrincipal::conectaEdicion() {
         const AccionNorvik cual = suya;
         conecta(*accion, [this, cual] { formulario_.activo().norvik().accion(cual)->trigger(); });
     }
-    for (QAction* const accion : {&acciones_.deshacer, &acciones_.rehacer})
-        conecta(*accion, [this] { formulario_.activo().cambiaTexto(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &VentanaPrincipal::actualizaEdicion);
     conectaAparte(acciones_.acerca, [this] { formulario_.activo().norvik().control().Acerca(); });
 }
@@ -310,10 +308,10 @@ void VentanaPrincipal::muestraPropiedades(VentanaPropiedades::Pagina pagina) {
 void VentanaPrincipal::analiza() {
     analizado_ = &formulario_.activo();
     statusBar()->clearMessage();
-    if (!lenguajes_.analiza()) return;
-    arbol_.show();
-    statusBar()->showMessage(
-        QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(arbol_.modelo().nodos()), 8000);
+    const auto nodos = lenguajes_.analiza();
+    if (!nodos) return;
+    if (arbol_.modelo().nodos() > 0) arbol_.show();
+    statusBar()->showMessage(QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(*nodos), 8000);
 }
 
 // ---- the first hour
@@ -428,11 +426,11 @@ void VentanaPrincipal::otroActivo() {
     actualizaOrdenes();
 }
 
-/// Where it is in nobody's way.
+/// Where it is in nobody's way. Of a text that is too long for something it is said what can still be done.
 void VentanaPrincipal::cuentaFallo(const QString& texto) {
-    const bool largo = formulario_.activo().norvik().caja().texto().size() > maximoTexto;
-    statusBar()->showMessage(
-        largo ? texto + QStringLiteral(". Se edita, se colorea y se guarda, pero ya no se analiza") : texto);
+    const bool largo = texto.startsWith(QStringLiteral("Desbordamiento: el texto pasa de "));
+    statusBar()->showMessage(largo ? texto + QStringLiteral(". Se edita, se colorea, se analiza y se guarda")
+                                   : texto);
 }
 
 void VentanaPrincipal::actualizaTitulo() {

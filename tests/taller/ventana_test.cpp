@@ -488,7 +488,7 @@ TEST_F(TallerTest, UnLenguajeNuevoDePrincipioAFin) {
 TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
     constexpr int lineas = 33000;
     const QString texto = QStringLiteral("a\n").repeated(lineas);
-    const QString sigue = ". Se edita, se colorea y se guarda, pero ya no se analiza";
+    const QString sigue = ". Se edita, se colorea, se analiza y se guarda";
     const QString limiteDeLineas = "Desbordamiento: el texto pasa de 32767 líneas" + sigue;
     const auto editor = [&] { return static_cast<QPlainTextEdit*>(&norvik().caja().ventana()); };
     const auto pulsa = [&](Qt::Key tecla) {
@@ -527,6 +527,47 @@ TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
         norvik().TextoModificado(false);
         ordena(a.nuevoTexto);
     }
+}
+
+TEST_F(TallerTest, UnTextoDemasiadoLargoSeAnaliza) {
+    ventana.abre(pon("suma.nvk", calculadora));
+    const QString sumas = "1+" + QStringLiteral("2+\n").repeated(20'000) + "3";
+    const auto ondas = [&] {
+        QCoreApplication::processEvents();
+        return static_cast<QPlainTextEdit&>(norvik().caja().ventana()).extraSelections().size();
+    };
+    ventana.show();
+    for (int vez = 0; vez < 2; ++vez) {
+        norvik().Text(sumas);
+        ordena(a.analizar);
+        EXPECT_EQ(ventana.statusBar()->currentMessage(), "Análisis sintáctico correcto: 60005 nodos");
+        EXPECT_EQ(ventana.mensaje().texto(), "");
+        const auto bien = ondas();
+        norvik().Text("1+*" + sumas + "+");
+        ordena(a.analizar);
+        EXPECT_EQ(ventana.mensaje().texto().left(29), "Línea 1, Columna 3: Carácter ");
+        EXPECT_NE(ventana.statusBar()->currentMessage().left(8), "Análisis");
+        EXPECT_GT(ondas(), bien);
+        norvik().caja().selecciona(100, 0);
+        emit ventana.mensaje().pideIr();
+        EXPECT_EQ(norvik().SelStart(), 2);
+        norvik().Text("1");
+        ordena(a.analizar);
+        EXPECT_EQ(ondas(), bien);
+    }
+}
+
+/// What the control corrects once the text was saved is not saved.
+TEST_F(TallerTest, LoCorregidoTrasGuardarNoEstaGuardado) {
+    norvik().control().SetPalabraReservada(u"si");
+    norvik().AutoCorreccion(true);
+    ventana.abre(pon("uno.txt", "\nx\n"));
+    escribe("SI");
+    ordena(a.guardarTexto);
+    EXPECT_FALSE(ventana.isWindowModified());
+    QTest::keyClick(&norvik().caja().ventana(), Qt::Key_Down);
+    EXPECT_EQ(norvik().Text(), "si\r\nx");
+    EXPECT_TRUE(ventana.isWindowModified());
 }
 
 TEST_F(TallerTest, FicherosQueSeSueltan) {

@@ -36,12 +36,25 @@ void hazAviso(QWidget& elemento) {
     elemento.setProperty(esAviso, true);
 }
 
+namespace {
+
+void suceda(QWidget& elemento, QAccessible::Event suceso) {
+    QAccessibleEvent aviso(&elemento, suceso);
+    QAccessible::updateAccessibility(&aviso);
+}
+
+} // namespace
+
 void avisaALectores(QWidget& elemento, const QString& palabras) {
     elemento.setAccessibleName(palabras);
-    for (const auto suceso : {QAccessible::Alert, QAccessible::ObjectShow}) {
-        QAccessibleEvent aviso(&elemento, suceso);
-        QAccessible::updateAccessibility(&aviso);
-    }
+    suceda(elemento, QAccessible::Alert);
+    suceda(elemento, QAccessible::ObjectShow);
+}
+
+void apareceALectores(QWidget& elemento, const QString& palabras, QWidget& marco) {
+    elemento.setAccessibleName(palabras);
+    marco.show();
+    suceda(elemento, QAccessible::Alert);
 }
 
 } // namespace norvik

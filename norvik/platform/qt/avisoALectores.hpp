@@ -13,5 +13,7 @@ namespace norvik {
 void hazAviso(QWidget& elemento);
 /// Its words of now, and that they have come.
 void avisaALectores(QWidget& elemento, const QString& palabras);
+/// The same once, of an element of something that is not seen yet, and is shown.
+void apareceALectores(QWidget& elemento, const QString& palabras, QWidget& marco);
 
 } // namespace norvik
