@@ -146,6 +146,27 @@ void teclearEnUnMillonConAyudas(benchmark::State& estado) {
 }
 BENCHMARK(teclearEnUnMillonConAyudas)->Unit(benchmark::kMillisecond)->Iterations(600);
 
+/// A character in the middle of a text that is all one line, of so many characters.
+void teclearEnUnaLinea(benchmark::State& estado) {
+    Ventana v;
+    v.norvik.control().ponAyudas(todasLasAyudas());
+    std::u16string texto = unMillon();
+    std::ranges::replace(texto, u'\r', u' ');
+    std::ranges::replace(texto, u'\n', u' ');
+    texto.resize(static_cast<std::size_t>(estado.range(0)));
+    v.caja.ponTexto(texto);
+    v.caja.selecciona(static_cast<std::int32_t>(texto.size() / 2), 0);
+    QCoreApplication::processEvents();
+    for ([[maybe_unused]] auto vuelta : estado) v.pulsa(Qt::Key_A, QStringLiteral("a"));
+}
+BENCHMARK(teclearEnUnaLinea)
+    ->Unit(benchmark::kMillisecond)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(10);
+
 } // namespace
 } // namespace norvik::bench
 
