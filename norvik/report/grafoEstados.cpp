@@ -41,13 +41,13 @@ std::vector<Transicion> transicionesDe(const GramaticaLR& gramatica) {
     return todas;
 }
 
-GrafoEstados::GrafoEstados(const GramaticaLR& gramatica)
+GrafoEstados::GrafoEstados(const GramaticaLR& gramatica, const std::stop_token& parada)
     : transiciones_(transicionesDe(gramatica)), llegadas_(gramatica.automata.estados.size()),
       textos_(gramatica.partidas.numSimbolos()) {
     const exacto::Producciones producciones(gramatica.partidas);
     const DerivacionesMinimas minimas(producciones);
     std::vector<std::int64_t> tokens(textos_.size(), DerivacionesMinimas::maximo);
-    for (std::size_t s = 0; s < textos_.size(); ++s) {
+    for (std::size_t s = 0; s < textos_.size() && !parada.stop_requested(); ++s) {
         const auto simbolo = static_cast<Simbolo>(s);
         if (!minimas.produce(simbolo)) continue;
         tokens[s] = minimas.tokens({&simbolo, 1});
@@ -56,7 +56,7 @@ GrafoEstados::GrafoEstados(const GramaticaLR& gramatica)
         minimas.ponMinimo(arbol, simbolo);
         textos_[s] = hojas(arbol);
     }
-    buscaCaminos(tokens);
+    if (!parada.stop_requested()) buscaCaminos(tokens);
 }
 
 void GrafoEstados::buscaCaminos(const std::vector<std::int64_t>& tokens) {

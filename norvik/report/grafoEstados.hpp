@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,8 @@ std::vector<Transicion> transicionesDe(const GramaticaLR& gramatica);
 /// The ways of an automaton, to be drawn and told. It keeps nothing of the grammar.
 class GrafoEstados {
 public:
-    explicit GrafoEstados(const GramaticaLR& gramatica);
+    /// It may be told to end early: then it is of no use.
+    explicit GrafoEstados(const GramaticaLR& gramatica, const std::stop_token& parada = {});
 
     std::size_t estados() const { return llegadas_.size(); }
     const std::vector<Transicion>& transiciones() const { return transiciones_; }
