@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -38,11 +39,26 @@ VistaPila::VistaPila(QWidget* padre) : QTreeWidget(padre) {
             [this](QTreeWidgetItem* fila) { sinFallos([&] { alAbrir(fila); }); });
     connect(this, &QTreeWidget::itemCollapsed, this,
             [this](QTreeWidgetItem* fila) { sinFallos([&] { alCerrar(fila); }); });
+    connect(this, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* fila) {
+        const bool esMas = fila != nullptr && fila->data(Columna::Simbolo, Qt::UserRole).isNull();
+        // The rows are made anew once Qt is done with this one.
+        if (esMas) QTimer::singleShot(0, this, [this] { sinFallos([this] { muestraMas(); }); });
+    });
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* fila) {
         sinFallos([&] {
             if (fila != nullptr && nodoDe(*fila) != 0) emit elegida(nodoDe(*fila));
         });
     });
+}
+
+/// The chosen row stays the chosen one.
+void VistaPila::muestraMas() {
+    if (pelicula_ == nullptr) return;
+    const int filas = topLevelItemCount();
+    entradas_ += maximoEntradas;
+    muestra(*pelicula_, momento_);
+    const QSignalBlocker callada(this);
+    setCurrentItem(topLevelItem(std::max(0, topLevelItemCount() - filas)));
 }
 
 void VistaPila::vacia() {
@@ -54,15 +70,19 @@ void VistaPila::vacia() {
 
 void VistaPila::muestra(const Pelicula& pelicula, std::size_t momento) {
     const QSignalBlocker callada(this);
-    if (pelicula_ != &pelicula) cerrados_.clear();
+    if (pelicula_ != &pelicula) {
+        cerrados_.clear();
+        entradas_ = maximoEntradas;
+    }
     pelicula_ = &pelicula;
+    momento_ = momento;
     clear();
     const auto pila = pelicula.pila(momento);
     const AccionLR accion = pelicula.accion(momento);
-    const std::size_t altas = std::min(pila.size(), maximoEntradas);
+    const std::size_t altas = std::min(pila.size(), entradas_);
     if (const std::size_t omitidas = pila.size() - altas; omitidas > 0)
-        addTopLevelItem(
-            &nuevo<QTreeWidgetItem>(QStringList(QStringLiteral("… %1 entradas más abajo").arg(omitidas))));
+        addTopLevelItem(&nuevo<QTreeWidgetItem>(QStringList(
+            QStringLiteral("… %1 entradas más abajo (Intro o doble clic enseña más)").arg(omitidas))));
     // What the next reduction takes off.
     const std::size_t asa = accion.tipo == AccionLR::Tipo::Reduce
                                 ? pelicula.hijos(static_cast<Pelicula::Nodo>(momento + 1)).size()

@@ -13,7 +13,8 @@ namespace norvik::taller {
 
 /// The stack of a parse at a moment, its bottom above, as the text reads: a row an entry, each with the
 /// partial tree that has grown up to it. Trees stand open as far as there is room for them; what the person
-/// closes stays so at other moments.
+/// closes stays so at other moments. A deep stack is shown from its top down, and more of it when a person
+/// chooses the row that says how much is below.
 class VistaPila final : public QTreeWidget {
     Q_OBJECT
 
@@ -42,8 +43,11 @@ private:
     static Pelicula::Nodo nodoDe(const QTreeWidgetItem& fila);
     void alAbrir(QTreeWidgetItem* fila);
     void alCerrar(QTreeWidgetItem* fila);
+    void muestraMas();
 
     const Pelicula* pelicula_ = nullptr;
+    std::size_t momento_ = 0;
+    std::size_t entradas_ = maximoEntradas; ///< from the top, as many as a person has asked for
     std::set<Pelicula::Nodo> cerrados_;
 };
 
