@@ -196,6 +196,35 @@ TEST_F(PasosTest, CorreHastaElFinalYUnaFilaDeLaPilaEligeSuTexto) {
     EXPECT_EQ(lugares.back().rango.fin.desplazamiento, 1); // E of «1»
 }
 
+// What is still shown is of texts that the others do not have any more.
+TEST_F(PasosTest, LoQueQuedaDeAntesNoEligeNada) {
+    estudio(sumas, u"1 + 2");
+    pon(panel, sumas, u"1 + 2 + 3");
+    elegidos.clear();
+    teclas({Qt::Key_Right});
+    EXPECT_EQ(panel.momento(), 1U);
+    EXPECT_TRUE(elegidos.empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ve("resto").endsWith("+ 2 + 3"); }));
+    EXPECT_EQ(panel.windowTitle(), "Pasos");
+    teclas({Qt::Key_Right});
+    EXPECT_FALSE(elegidos.empty());
+}
+
+TEST_F(PasosTest, DeUnaPilaHondaSeEnsenaMasSiSePide) {
+    std::u16string muchas;
+    for (int i = 0; i < 500; ++i) muchas += u"a";
+    estudio(u"'% metodo: lalr\nToken a = \"a\"; S -> a S | a;", muchas);
+    panel.findChild<QSpinBox*>()->setValue(500);
+    EXPECT_EQ(pila.topLevelItemCount(), 201);
+    for (const int filas : {401, 501}) {
+        pila.setCurrentItem(pila.topLevelItem(0));
+        QTest::keyClick(&pila, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return pila.topLevelItemCount() == filas; }))
+            << pila.topLevelItemCount();
+    }
+    EXPECT_EQ(pila.topLevelItem(0)->text(0), "(fondo)");
+}
+
 TEST_F(PasosTest, UnPanelQueNoSeVeNoTrabaja) {
     panel.hide();
     pon(panel, sumas, u"1");
@@ -231,6 +260,21 @@ TEST_F(AutomataTest, LaListaElTextoYElDibujoDicenLoMismo) {
                       vista.mapFromScene(panel.dibujo().caja(1).center()));
     EXPECT_EQ(toma<DeEstado>().back().estado, 1);
     EXPECT_EQ(lista.currentRow(), 1);
+}
+
+TEST_F(AutomataTest, LoQueQuedaDeAntesNoEligeNadaYLoElegidoEspera) {
+    estudio(colgante);
+    pon(panel, sumas, u"");
+    panel.selecciona(DeRegla{3});
+    QTest::keyClick(&panel.estados(), Qt::Key_Down);
+    EXPECT_TRUE(elegidos.empty());
+    EXPECT_EQ(panel.estados().count(), 7);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel.estados().count() == 6; }));
+    EXPECT_TRUE(panel.palabras().contains("La regla 3. T → num está en: estado 0, estado 3, estado 4"))
+        << panel.palabras().toStdString();
+    EXPECT_EQ(panel.windowTitle(), "Autómata");
+    QTest::keyClick(&panel.estados(), Qt::Key_Down);
+    EXPECT_EQ(toma<DeEstado>().size(), 1U);
 }
 
 TEST_F(AutomataTest, DeUnoGrandeSeDibujaLoCercano) {

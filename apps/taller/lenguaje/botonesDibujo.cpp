@@ -16,7 +16,7 @@
 
 namespace norvik::taller {
 
-BotonesDibujo::BotonesDibujo(QWidget& panel, Dialogos& dialogos, Dibujo dibujo)
+BotonesDibujo::BotonesDibujo(Panel& panel, Dialogos& dialogos, Dibujo dibujo)
     : panel_(panel), dialogos_(dialogos), dibujo_(std::move(dibujo)) {
     fila_.setContentsMargins(0, 0, 0, 0);
     setLayout(&fila_);
@@ -37,14 +37,16 @@ void BotonesDibujo::pon(QAction& accion, const QString& texto, const QKeySequenc
     accion.setShortcutContext(Qt::WidgetWithChildrenShortcut);
     if (!tecla.isEmpty())
         accion.setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
-    connect(&accion, &QAction::triggered, this, [this, orden] {
-        if (const auto motivo = falloDe(orden); !motivo.empty()) emit fallo(aQString(motivo));
-    });
+    connect(&accion, &QAction::triggered, this, [this, orden] { haz(orden); });
     panel_.addAction(&accion);
     auto& boton = nuevo<QToolButton>(this);
     boton.setDefaultAction(&accion);
     boton.setFocusPolicy(Qt::StrongFocus);
     fila_.addWidget(&boton);
+}
+
+void BotonesDibujo::haz(const std::function<void()>& orden) {
+    if (const auto motivo = falloDe(orden); !motivo.empty()) emit panel_.fallo(aQString(motivo));
 }
 
 void BotonesDibujo::activa(bool hay) {
@@ -55,8 +57,7 @@ void BotonesDibujo::activa(bool hay) {
 /// The text goes without a picture, too.
 void BotonesDibujo::copia() {
     auto datos = std::make_unique<QMimeData>();
-    const auto motivo = falloDe([&] { datos->setImageData(enImagen(dibujo_.lamina())); });
-    if (!motivo.empty()) emit fallo(aQString(motivo));
+    haz([&] { datos->setImageData(enImagen(dibujo_.lamina())); });
     if (dibujo_.texto) datos->setText(dibujo_.texto());
     if (datos->formats().isEmpty()) return;
     QGuiApplication::clipboard()->setMimeData(datos.release());

@@ -4,6 +4,7 @@
 
 #include "../dialogos.hpp"
 #include "lamina.hpp"
+#include "panel.hpp"
 #include "vistaDibujo.hpp"
 
 #include <QAction>
@@ -26,22 +27,20 @@ public:
         VistaDibujo* vista = nullptr;
         std::function<QString()> texto{}; ///< what programs without pictures take, if there is one
     };
-    /// Panel, dialogs and view outlive it.
-    BotonesDibujo(QWidget& panel, Dialogos& dialogos, Dibujo dibujo);
+    /// Panel, dialogs and view outlive it. What fails is told by the panel.
+    BotonesDibujo(Panel& panel, Dialogos& dialogos, Dibujo dibujo);
 
     /// There is a picture.
     void activa(bool hay);
 
-signals:
-    void fallo(const QString& texto);
-
 private:
     void pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
              const std::function<void()>& orden);
+    void haz(const std::function<void()>& orden);
     void copia();
     void guarda();
 
-    QWidget& panel_;
+    Panel& panel_;
     Dialogos& dialogos_;
     const Dibujo dibujo_;
     QHBoxLayout fila_;

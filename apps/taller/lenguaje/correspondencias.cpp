@@ -90,6 +90,14 @@ std::optional<std::int16_t> reglaDeCelda(const Estudio& estudio, const DeCelda& 
     return entrada < 0 ? std::optional(static_cast<std::int16_t>(-entrada)) : std::nullopt;
 }
 
+/// Behind the point of an item; nothing at the end of its rule.
+std::optional<std::u16string> simboloTras(const GramaticaLR& g, Item item) {
+    const Cuerpo cuerpo = g.partidas.cuerpo(item.regla);
+    const auto lugar = static_cast<std::size_t>(item.punto);
+    if (lugar >= cuerpo.size() || cuerpo[lugar] == ReglasPartidas::vacio) return std::nullopt;
+    return std::u16string(g.partidas.texto(cuerpo[lugar]));
+}
+
 } // namespace
 
 std::optional<std::int16_t> reglaDe(const Estudio& estudio, const Eleccion& eleccion) {
@@ -127,6 +135,29 @@ std::optional<std::size_t> nodoDe(const Estudio& estudio, const Eleccion& elecci
         return nodoCon(estudio.arbol(), lugar->rango);
     if (const auto nodo = nodoElegido(estudio, eleccion)) return nodo->indice();
     return std::nullopt;
+}
+
+NodosDeRegla nodosDe(const Estudio& estudio, std::int16_t regla) {
+    NodosDeRegla suyos;
+    const ArbolAnalisis& arbol = estudio.arbol();
+    for (std::size_t i = 0; i < (arbol.esVacio() ? 0 : arbol.numNodos()); ++i) {
+        if (arbol[i].regla() != regla) continue;
+        if (suyos.cuantos++ == 0) suyos.primero = i;
+    }
+    return suyos;
+}
+
+std::optional<std::int16_t> columnaDe(const Estudio& estudio, const Eleccion& eleccion) {
+    if (const auto* const celda = std::get_if<DeCelda>(&eleccion)) return celda->codigo;
+    const GramaticaLR* const g = estudio.gramatica();
+    if (g == nullptr) return std::nullopt;
+    std::optional<std::u16string> simbolo;
+    if (const auto* const item = std::get_if<DeItem>(&eleccion))
+        simbolo = simboloTras(*g, item->item);
+    else
+        simbolo = simboloDe(estudio, eleccion);
+    const std::int16_t codigo = simbolo ? g->tabla.codigo(*simbolo) : std::int16_t{-1};
+    return codigo >= 0 ? std::optional(codigo) : std::nullopt;
 }
 
 std::optional<Rango> lugarEnEspecificacion(const Estudio& estudio, const Eleccion& eleccion) {

@@ -2,6 +2,8 @@
 
 #include "dibujoArbol.hpp"
 
+#include "lamina.hpp"
+
 #include "norvik/checks/recorridoEjemplo.hpp"
 #include "norvik/checks/trazadoArbol.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
@@ -37,10 +39,14 @@ void pintaNodo(const NodoDibujado& nodo, QPointF centro, const AspectoArbol& asp
     texto.setPos(centro - texto.boundingRect().center());
     texto.setZValue(1);
     if (nodo.numero >= 0) texto.setData(0, nodo.numero);
-    if (!elegido) return;
+    const double grosor = 2 * grosorDeLinea(aspecto.letra);
     const QRectF caja = texto.sceneBoundingRect().adjusted(-4, -2, 4, 2);
-    escena.addRect(caja, QPen(aspecto.colores.color(QPalette::Text), 2),
-                   aspecto.colores.color(QPalette::Highlight));
+    if (elegido)
+        escena.addRect(caja, QPen(aspecto.colores.color(QPalette::Text), grosor),
+                       aspecto.colores.color(QPalette::Highlight));
+    if (nodo.numero >= 0 && aspecto.marcado && aspecto.marcado(nodo.numero))
+        escena.addRect(caja.adjusted(-3, -3, 3, 3),
+                       QPen(aspecto.colores.color(QPalette::Text), grosor, Qt::DashLine));
 }
 
 } // namespace
@@ -66,7 +72,7 @@ QRectF pinta(const ArbolDibujado& arbol, const AspectoArbol& aspecto, QGraphicsS
     const auto lugar = [&](const TrazadoArbol::Sitio& sitio) {
         return aspecto.origen + QPointF(sitio.centro, alto + static_cast<double>(sitio.nivel) * nivel);
     };
-    const QPen pluma(aspecto.colores.color(QPalette::Text), 1);
+    const QPen pluma(aspecto.colores.color(QPalette::Text), grosorDeLinea(aspecto.letra));
     const QPointF baja(0, alto * 0.6);
     for (std::size_t i = 0; i < arbol.size(); ++i) {
         const TrazadoArbol::Sitio& sitio = trazado.sitios[i];

@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 namespace norvik::taller {
@@ -36,6 +37,8 @@ struct AspectoArbol {
     QPalette colores;
     int elegido = -1; ///< number of the node that stands out
     QPointF origen;   ///< upper left corner
+    /// Nodes that have a frame of dashes, by their numbers; none by default.
+    std::function<bool(int numero)> marcado{};
 };
 /// Draws it into a scene; its pieces know their node by `data(0)`. The place that it takes.
 QRectF pinta(const ArbolDibujado& arbol, const AspectoArbol& aspecto, QGraphicsScene& escena);

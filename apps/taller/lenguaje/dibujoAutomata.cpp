@@ -2,6 +2,8 @@
 
 #include "dibujoAutomata.hpp"
 
+#include "lamina.hpp"
+
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGraphicsItem>
@@ -51,8 +53,9 @@ void paraCadaLinea(const DibujoAutomata& dibujo, const EstadoDibujado& estado, c
 
 void pintaFlecha(const DibujoAutomata& dibujo, const GrafoColocado::Flecha& flecha, const QColor& color,
                  bool enCamino, QGraphicsScene& escena) {
-    escena.addPath(flecha.linea, QPen(color, enCamino ? 3 : 1));
-    escena.addPolygon(cabezaDe(flecha), QPen(color, enCamino ? 3 : 1), color);
+    const QPen pluma(color, (enCamino ? 3 : 1) * grosorDeLinea(dibujo.letra));
+    escena.addPath(flecha.linea, pluma);
+    escena.addPolygon(cabezaDe(flecha), pluma, color);
     QGraphicsSimpleTextItem& rotulo = *escena.addSimpleText(dibujo.grafo.flechas[flecha.numero].rotulo,
                                                             enCamino ? deTitulo(dibujo.letra) : dibujo.letra);
     rotulo.setBrush(color);
@@ -60,16 +63,24 @@ void pintaFlecha(const DibujoAutomata& dibujo, const GrafoColocado::Flecha& flec
 }
 
 void pintaEstado(const DibujoAutomata& dibujo, const EstadoDibujado& estado, const QPalette& colores,
-                 bool elegido, QGraphicsScene& escena) {
+                 const RealceAutomata& realce, QGraphicsScene& escena) {
+    const bool elegido = estado.numero == realce.estado;
+    const bool conRegla = realce.conRegla.contains(estado.numero);
     const QRectF caja = dibujo.caja(estado.numero);
     const QColor letra = colores.color(elegido ? QPalette::HighlightedText : QPalette::Text);
-    const QPen pluma(colores.color(QPalette::Text), elegido ? 3 : 1);
+    const double grosor = grosorDeLinea(dibujo.letra);
+    const QPen pluma(colores.color(QPalette::Text), (elegido ? 3 : 1) * grosor);
     QGraphicsRectItem& marco =
         *escena.addRect(caja, pluma, colores.color(elegido ? QPalette::Highlight : QPalette::Base));
     marco.setData(0, estado.numero);
     if (estado.conflicto) {
         const double m = entreMarcos;
-        escena.addRect(caja.adjusted(m, m, -m, -m), QPen(letra, 1))->setData(0, estado.numero);
+        escena.addRect(caja.adjusted(m, m, -m, -m), QPen(letra, grosor))->setData(0, estado.numero);
+    }
+    if (conRegla) {
+        QPen guiones(colores.color(QPalette::Text), 2 * grosor, Qt::DashLine);
+        const double m = entreMarcos;
+        escena.addRect(caja.adjusted(-m, -m, m, m), guiones)->setData(0, estado.numero);
     }
     paraCadaLinea(dibujo, estado, [&](const QString& linea, QPointF sitio, bool esTitulo) {
         QGraphicsSimpleTextItem& texto =
@@ -112,8 +123,7 @@ void pinta(const DibujoAutomata& dibujo, const QPalette& colores, const RealceAu
         pintaFlecha(dibujo, flecha, colores.color(QPalette::Text),
                     realce.camino.contains(std::pair(suya.desde, suya.hasta)), escena);
     }
-    for (const auto& estado : dibujo.estados)
-        pintaEstado(dibujo, estado, colores, estado.numero == realce.estado, escena);
+    for (const auto& estado : dibujo.estados) pintaEstado(dibujo, estado, colores, realce, escena);
 }
 
 } // namespace norvik::taller

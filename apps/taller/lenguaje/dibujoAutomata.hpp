@@ -36,10 +36,12 @@ struct DibujoAutomata {
 /// The states as boxes, as large as their words need, and the arrows between them.
 DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha> flechas, const QFont& letra);
 
-/// What stands out in it: a state, and a way of arrows, each from one state to another.
+/// What stands out in it: a state, a way of arrows, each from one state to another, and the states that have
+/// to do with the chosen rule, which have a frame of dashes.
 struct RealceAutomata {
     int estado = -1;
     QList<std::pair<int, int>> camino;
+    QList<int> conRegla{};
 
     bool operator==(const RealceAutomata&) const = default;
 };

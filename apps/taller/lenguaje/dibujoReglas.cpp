@@ -4,6 +4,8 @@
 // straight through, the others branch off downwards and come back behind the longest of them.
 #include "dibujoReglas.hpp"
 
+#include "lamina.hpp"
+
 #include "norvik/platform/qt/conversiones.hpp"
 
 #include <QFontMetricsF>
@@ -24,7 +26,7 @@ public:
                  QGraphicsScene& escena)
         : g_(g), letra_(letra), color_(colores.color(QPalette::Text)), fondo_(colores.color(QPalette::Base)),
           elegida_(elegida), escena_(escena), medidas_(letra), alto_(medidas_.height() + 8),
-          curva_(alto_ / 2) {}
+          curva_(alto_ / 2), grosor_(grosorDeLinea(letra)) {}
 
     void pinta() {
         std::set<Simbolo> puestas;
@@ -42,7 +44,7 @@ private:
         letra.setBold(true);
         return letra;
     }
-    QPen pluma(std::int16_t regla) const { return {color_, regla == elegida_ ? 3.0 : 1.0}; }
+    QPen pluma(std::int16_t regla) const { return {color_, (regla == elegida_ ? 3.0 : 1.0) * grosor_}; }
     QString texto(Simbolo simbolo) const { return aQString(g_.partidas.texto(simbolo)); }
     double anchoDe(Simbolo simbolo) const { return medidas_.horizontalAdvance(texto(simbolo)) + 2 * aire; }
     double anchoDe(std::int16_t regla) const {
@@ -124,7 +126,8 @@ private:
     const QFontMetricsF medidas_;
     const double alto_;  // of a box
     const double curva_; // radius
-    double y_ = 0;       // of the line that is drawn
+    const double grosor_;
+    double y_ = 0; // of the line that is drawn
 };
 
 } // namespace

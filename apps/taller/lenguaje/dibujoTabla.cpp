@@ -2,6 +2,8 @@
 
 #include "dibujoTabla.hpp"
 
+#include "lamina.hpp"
+
 #include <QFontMetricsF>
 #include <QGraphicsItem>
 #include <QStringList>
@@ -62,7 +64,7 @@ private:
     }
 
     void raya() {
-        const QPen pluma(color_, 1);
+        const QPen pluma(color_, grosorDeLinea(letra_));
         for (int f = -1; f <= tabla_.rowCount(); ++f)
             escena_.addLine(0, alto_ * (f + 1), bordes_.back(), alto_ * (f + 1), pluma);
         for (const double x : bordes_) escena_.addLine(x, 0, x, alto_ * (tabla_.rowCount() + 1), pluma);

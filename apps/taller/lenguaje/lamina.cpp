@@ -57,6 +57,23 @@ QString enSvg(const QPainterPath& linea) {
     return texto.trimmed();
 }
 
+/// XML has no way to write most control characters: they stand as their pictures.
+QString paraXml(QString texto) {
+    constexpr char16_t dibujoDelNulo = 0x2400;
+    for (qsizetype i = 0; i < texto.size(); ++i) {
+        const char16_t c = texto.at(i).unicode();
+        const bool conPareja =
+            texto.at(i).isHighSurrogate() && i + 1 < texto.size() && texto.at(i + 1).isLowSurrogate();
+        if (c < u' ')
+            texto[i] = QChar(static_cast<char16_t>(dibujoDelNulo + c));
+        else if (conPareja)
+            ++i;
+        else if (texto.at(i).isSurrogate() || c >= 0xFFFE)
+            texto[i] = QChar::ReplacementCharacter;
+    }
+    return texto;
+}
+
 QString color(const QBrush& brocha) {
     return brocha.style() == Qt::NoBrush ? QStringLiteral("none") : brocha.color().name();
 }
@@ -64,6 +81,8 @@ QString color(const QBrush& brocha) {
 class EscritorSvg {
 public:
     explicit EscritorSvg(QString titulo) : titulo_(std::move(titulo)), xml_(&svg_) {}
+
+    /// Raises `ErrorDeFichero` when there is no room for it.
 
     QByteArray escribe(const QGraphicsScene& escena) {
         const QRectF todo = escena.sceneRect();
@@ -75,6 +94,7 @@ public:
         pon("aria-label", titulo_);
         for (const QGraphicsItem* const pieza : escena.items(Qt::AscendingOrder)) escribe(*pieza);
         xml_.writeEndElement();
+        if (xml_.hasError()) throw ErrorDeFichero(u"No se puede componer el dibujo SVG");
         return svg_;
     }
 
@@ -130,7 +150,7 @@ private:
         if (texto.font().bold()) pon("font-weight", QStringLiteral("bold"));
         pon("textLength", QString::number(medidas.horizontalAdvance(texto.text()), 'f', 1));
         pon("fill", color(texto.brush()));
-        xml_.writeCharacters(texto.text());
+        xml_.writeCharacters(paraXml(texto.text()));
         xml_.writeEndElement();
     }
 
@@ -150,6 +170,11 @@ QByteArray enPng(const Lamina& lamina) {
 
 const QString filtroLaminas =
     QStringLiteral("Dibujos SVG (*.svg);;Imágenes PNG (*.png);;Documentos PDF (*.pdf)");
+
+double grosorDeLinea(const QFont& letra) {
+    constexpr double altoPorPunto = 10; // height of the letters that a line one point thick goes with
+    return std::max(1.0, std::floor(QFontMetricsF(letra).height() / altoPorPunto));
+}
 
 void ajustaEscena(QGraphicsScene& escena) {
     constexpr double aire = 7;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFont>
 #include <QGraphicsScene>
 #include <QImage>
 #include <QPalette>
@@ -30,6 +31,8 @@ QByteArray enSvg(const Lamina& lamina);
 QByteArray enPdf(const Lamina& lamina);
 /// Writes it to a file by what its ending says. Raises `ErrorDeFichero`.
 void guardaLamina(const Lamina& lamina, const QString& fichero);
+/// How thick lines are beside letters: on the wall of a classroom both are larger.
+double grosorDeLinea(const QFont& letra);
 /// The scene has what is drawn in it, and some air around.
 void ajustaEscena(QGraphicsScene& escena);
 

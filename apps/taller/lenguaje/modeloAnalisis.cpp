@@ -9,6 +9,7 @@
 #include "norvik/platform/qt/fallos.hpp"
 
 #include <QFont>
+#include <QStringView>
 
 #include <algorithm>
 #include <utility>
@@ -70,6 +71,43 @@ QModelIndex ModeloAnalisis::indice(Nodo cima, int columna) const {
 QModelIndex ModeloAnalisis::indiceDe(std::size_t nodo) const {
     if (esVacio() || nodo >= arbol().numNodos()) return {};
     return indice(cimaDe(arbol()[nodo]), Simbolo);
+}
+
+bool ModeloAnalisis::resaltado(std::size_t nodo) const {
+    if (resaltada_ == 0 || esVacio() || nodo >= arbol().numNodos()) return false;
+    auto suyo = std::optional(fondo(cimaDe(arbol()[nodo])));
+    while (suyo && suyo->regla() != resaltada_) suyo = enFila(*suyo) ? suyo->padre() : std::nullopt;
+    return suyo.has_value();
+}
+
+std::optional<std::size_t> ModeloAnalisis::busca(const QString& palabras, std::size_t desde) const {
+    if (esVacio() || palabras.isEmpty()) return std::nullopt;
+    const auto tiene = [&](std::u16string_view texto) {
+        return QStringView(texto.data(), static_cast<qsizetype>(texto.size()))
+            .contains(palabras, Qt::CaseInsensitive);
+    };
+    const std::size_t cuantos = arbol().numNodos();
+    for (std::size_t i = 1; i <= cuantos; ++i) {
+        const Nodo nodo = arbol()[(desde + i) % cuantos];
+        if (tiene(nodo.nombre()) || (nodo.esToken() && tiene(nodo.texto()))) return nodo.indice();
+    }
+    return std::nullopt;
+}
+
+std::vector<int> ModeloAnalisis::lugarDe(const QModelIndex& indice) {
+    std::vector<int> lugar;
+    for (QModelIndex i = indice; i.isValid(); i = i.parent()) lugar.push_back(i.row());
+    std::ranges::reverse(lugar);
+    return lugar;
+}
+
+QModelIndex ModeloAnalisis::filaEn(const std::vector<int>& lugar) const {
+    QModelIndex fila;
+    for (const int hijo : lugar) {
+        fila = index(hijo, Simbolo, fila);
+        if (!fila.isValid()) break;
+    }
+    return fila;
 }
 
 QModelIndex ModeloAnalisis::index(int fila, int columna, const QModelIndex& padre) const {
@@ -138,13 +176,19 @@ QVariant ModeloAnalisis::data(const QModelIndex& indice, int papel) const {
         if (papel == Qt::DisplayRole)
             dato = indice.column() == Simbolo ? enUnaLinea(cima(indice)) : resumen(nodo.texto());
         if (papel == Qt::ToolTipRole) dato = ayuda(nodo);
-        if (papel != Qt::FontRole || !nodo.esToken()) return;
-        QFont letra;
-        letra.setBold(indice.column() == Texto);
-        letra.setItalic(nodo.esInsertado());
-        dato = letra;
+        if (papel == Qt::FontRole) dato = letraDe(nodo, indice.column());
     });
     return dato;
+}
+
+QVariant ModeloAnalisis::letraDe(Nodo nodo, int columna) const {
+    const bool subrayada = columna == Simbolo && resaltado(nodo.indice());
+    if (!nodo.esToken() && !subrayada) return {};
+    QFont letra;
+    letra.setBold(nodo.esToken() && columna == Texto);
+    letra.setItalic(nodo.esToken() && nodo.esInsertado());
+    letra.setUnderline(subrayada);
+    return letra;
 }
 
 QVariant ModeloAnalisis::headerData(int seccion, Qt::Orientation orientacion, int papel) const {

@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace norvik::taller {
 
@@ -30,6 +32,17 @@ public:
     QModelIndex indiceDe(std::size_t nodo) const;
     /// The last node that a row stands for.
     std::size_t nodoDe(const QModelIndex& indice) const { return fondo(cima(indice)).indice(); }
+    /// Rows with a node that a rule has made stand out once they are painted again; 0 none.
+    void resalta(std::int16_t regla) { resaltada_ = regla; }
+    /// A node stands out by its rule, or by that of another one in its row.
+    bool resaltado(std::size_t nodo) const;
+    /// The first node behind another one, and from the root on behind the last, whose name or, of a token,
+    /// text has these words, as people write them; the other one comes last.
+    std::optional<std::size_t> busca(const QString& palabras, std::size_t desde) const;
+    /// Which child of its parent each row is, from the root down to this one.
+    static std::vector<int> lugarDe(const QModelIndex& indice);
+    /// The row at such a place; none when there is none.
+    QModelIndex filaEn(const std::vector<int>& lugar) const;
     /// The symbols from the root down to a row, and the rule of its last one.
     QString camino(const QModelIndex& indice) const;
 
@@ -51,8 +64,10 @@ private:
     QStringList simbolos(Nodo cima) const;
     QString enUnaLinea(Nodo cima) const;
     QString ayuda(Nodo nodo) const;
+    QVariant letraDe(Nodo nodo, int columna) const;
 
     std::shared_ptr<const Estudio> estudio_;
+    std::int16_t resaltada_ = 0;
     Cadenas cadenas_ = Cadenas::EnUnaFila;
 };
 

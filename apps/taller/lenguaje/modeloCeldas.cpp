@@ -10,6 +10,10 @@
 #include "norvik/report/informe.hpp"
 #include "norvik/tools/modeloTabla.hpp"
 
+#include <QFont>
+
+#include <utility>
+
 namespace norvik::taller {
 
 namespace {
@@ -30,6 +34,7 @@ const QString signoDeConflicto = QStringLiteral("⚠ ");
 void ModeloCeldas::muestra(std::shared_ptr<const LenguajeEstudiado> lenguaje) {
     beginResetModel();
     lenguaje_ = std::move(lenguaje);
+    resaltada_ = 0;
     reuneConflictos();
     endResetModel();
 }
@@ -68,6 +73,35 @@ QString ModeloCeldas::palabras(const QModelIndex& celda) const {
     return aQString(palabrasDeCelda(*gramatica(), lenguaje_->conflictos, celdaDe(celda)));
 }
 
+std::vector<DeCelda> ModeloCeldas::resalta(std::int16_t regla) {
+    std::vector<DeCelda> suyas;
+    if (rowCount() == 0 || columnCount() == 0) return suyas;
+    const bool esOtra = std::exchange(resaltada_, regla) != regla;
+    const TablaLR& tabla = gramatica()->tabla;
+    for (std::int16_t estado = 0; regla != 0 && estado < tabla.filasVigentes(); ++estado)
+        for (std::int16_t codigo = 0; codigo < tabla.columnasVigentes(); ++codigo)
+            if (tabla.entrada(estado, codigo) == -regla) suyas.push_back({estado, codigo});
+    if (esOtra)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                         {Qt::FontRole, Qt::BackgroundRole});
+    return suyas;
+}
+
+bool ModeloCeldas::reducePor(const QModelIndex& celda) const {
+    const DeCelda suya = celdaDe(celda);
+    return resaltada_ != 0 && gramatica()->tabla.entrada(suya.estado, suya.codigo) == -resaltada_;
+}
+
+/// By its letters what the chosen rule does, by its ground a conflict.
+QVariant ModeloCeldas::realce(const QModelIndex& celda, int papel) const {
+    const QVariant deConflicto = estaEnConflicto(celda) ? realceDeConflicto(papel) : QVariant();
+    if (papel != Qt::FontRole || !reducePor(celda)) return deConflicto;
+    QFont letra;
+    letra.setBold(true);
+    letra.setUnderline(true);
+    return letra;
+}
+
 QVariant ModeloCeldas::data(const QModelIndex& celda, int papel) const {
     QVariant dato;
     sinFallos([&] {
@@ -76,7 +110,7 @@ QVariant ModeloCeldas::data(const QModelIndex& celda, int papel) const {
         if (papel == Qt::TextAlignmentRole) dato = Qt::AlignCenter;
         if (papel == Qt::ToolTipRole) dato = ayudaLlana(palabras(celda));
         if (papel == Qt::AccessibleDescriptionRole) dato = palabras(celda);
-        if (!dato.isValid() && estaEnConflicto(celda)) dato = realceDeConflicto(papel);
+        if (!dato.isValid()) dato = realce(celda, papel);
     });
     return dato;
 }

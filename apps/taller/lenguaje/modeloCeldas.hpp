@@ -7,6 +7,7 @@
 
 #include <QAbstractTableModel>
 
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <utility>
@@ -27,6 +28,8 @@ public:
         return celdasEnConflicto_.contains({celda.row(), celda.column()});
     }
     QString palabras(const QModelIndex& celda) const;
+    /// Cells that reduce by a rule stand out from here on; 0 none. Those cells, in the order of the table.
+    std::vector<DeCelda> resalta(std::int16_t regla);
 
     int rowCount(const QModelIndex& padre = {}) const override;
     int columnCount(const QModelIndex& padre = {}) const override;
@@ -37,11 +40,14 @@ private:
     const GramaticaLR* gramatica() const { return lenguaje_ ? lenguaje_->gramatica() : nullptr; }
     void reuneConflictos();
     QString texto(const QModelIndex& celda) const;
+    bool reducePor(const QModelIndex& celda) const;
+    QVariant realce(const QModelIndex& celda, int papel) const;
 
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;
     std::vector<DeCelda> enConflicto_;
     std::set<std::pair<int, int>> celdasEnConflicto_;
     std::set<int> filasEnConflicto_;
+    std::int16_t resaltada_ = 0; ///< rule
 };
 
 } // namespace norvik::taller

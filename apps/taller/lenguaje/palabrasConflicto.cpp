@@ -2,7 +2,7 @@
 
 #include "palabrasConflicto.hpp"
 
-#include "palabrasLR.hpp"
+#include "palabrasEstado.hpp"
 
 #include "norvik/checks/palabrasHistoria.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
@@ -23,9 +23,9 @@ QString frase(std::u16string_view texto) {
     return QStringLiteral("<p><b><tt>%1</tt></b></p>").arg(aQString(texto).toHtmlEscaped());
 }
 
-QString lista(const QString& titulo, const QStringList& lineas) {
+QString listaEnHtml(const QString& titulo, const QStringList& lineas) {
     QString html = QStringLiteral("<p>%1</p><ul>").arg(titulo);
-    for (const QString& linea : lineas) html += QStringLiteral("<li>%1</li>").arg(linea.toHtmlEscaped());
+    for (const QString& linea : lineas) html += QStringLiteral("<li>%1</li>").arg(linea);
     return html + QStringLiteral("</ul>");
 }
 
@@ -41,11 +41,9 @@ QString ejemplo(const HistoriaConflicto& historia) {
     return html + parrafo(palabras::prueba(historia));
 }
 
-QString estado(const GramaticaLR& g, std::int16_t numero) {
-    QStringList items;
-    for (const Item item : g.automata.estados[static_cast<std::size_t>(numero)].items())
-        items += aQString(palabrasDeItem(g, item));
-    return lista(QStringLiteral("<a href=\"%1\">Estado %1</a>, con sus elementos:").arg(numero), items);
+QString estado(const GramaticaLR& g, std::int16_t numero, std::int16_t perdida) {
+    return listaEnHtml(QStringLiteral("<a href=\"%1\">Estado %1</a>, con sus elementos:").arg(numero),
+                       itemsEnHtml(g, numero, {perdida}));
 }
 
 } // namespace
@@ -57,10 +55,10 @@ QString historiaEnHtml(const LenguajeEstudiado& lenguaje, const HistoriaConflict
     const GramaticaLR* const g = lenguaje.gramatica();
     const bool hayEstado = historia.estado != HistoriaConflicto::sinEstado && g != nullptr &&
                            static_cast<std::size_t>(historia.estado) < g->automata.estados.size();
-    if (hayEstado) html += estado(*g, historia.estado);
+    if (hayEstado) html += estado(*g, historia.estado, historia.acciones[1].regla);
     QStringList pasos;
-    for (const std::u16string& paso : historia.porque) pasos += aQString(paso);
-    return pasos.isEmpty() ? html : html + lista(QStringLiteral("Por qué cabe reducir ahí:"), pasos);
+    for (const std::u16string& paso : historia.porque) pasos += aQString(paso).toHtmlEscaped();
+    return pasos.isEmpty() ? html : html + listaEnHtml(QStringLiteral("Por qué cabe reducir ahí:"), pasos);
 }
 
 } // namespace norvik::taller

@@ -11,7 +11,8 @@
 namespace norvik::taller {
 
 /// A conflict's story as a page, all but its trees: what there is to decide, the sentence, the state with its
-/// items (a link by its number), what the other sentence in tokens shows, and what cures it.
+/// items (links that `eleccionDeEnlace` reads, bold those of the rule that is lost), what the other sentence
+/// in tokens shows, and what cures it.
 QString historiaEnHtml(const LenguajeEstudiado& lenguaje, const HistoriaConflicto& historia);
 
 } // namespace norvik::taller

@@ -7,7 +7,9 @@
 #include "norvik/checks/conflictosDeTabla.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -30,11 +32,9 @@ QString lista(const QString& titulo, const QStringList& lineas) {
     return QStringLiteral("<p><b>%1</b><br>%2</p>").arg(titulo, lineas.join(QStringLiteral("<br>")));
 }
 
-QStringList items(const GramaticaLR& g, std::int16_t estado) {
-    QStringList lineas;
-    for (const Item item : g.automata.estados[static_cast<std::size_t>(estado)].items())
-        lineas.append(escapado(palabrasDeItem(g, item)));
-    return lineas;
+bool tieneRegla(const GramaticaLR& g, std::int16_t estado, std::int16_t regla) {
+    return std::ranges::any_of(g.automata.estados[static_cast<std::size_t>(estado)].items(),
+                               [&](const Item item) { return item.regla == regla; });
 }
 
 QStringList salidas(const GramaticaLR& g, const GrafoEstados& grafo, std::int16_t estado) {
@@ -88,7 +88,58 @@ QString llegada(const GramaticaLR& g, const GrafoEstados& grafo, std::int16_t es
     return lista(QStringLiteral("Cómo se llega"), lineas);
 }
 
+/// As many states as a person goes through.
+QString dondeEsta(const GramaticaLR& g, std::int16_t regla) {
+    constexpr std::size_t caben = 12;
+    if (regla == 0) return {};
+    const auto estados = estadosConRegla(g, regla);
+    QStringList enlaces;
+    for (const std::int16_t estado : estados) {
+        if (std::cmp_equal(enlaces.size(), caben)) break;
+        enlaces.append(enlace(estado));
+    }
+    const QString otros =
+        estados.size() > caben ? QStringLiteral(" y otros %1").arg(estados.size() - caben) : QString();
+    return QStringLiteral("<p>La regla <b>%1</b> está en: %2%3</p>")
+        .arg(escapado(palabrasDeRegla(g, regla)), enlaces.join(QStringLiteral(", ")), otros);
+}
+
 } // namespace
+
+QStringList itemsEnHtml(const GramaticaLR& gramatica, std::int16_t estado, const ReglaResaltada& resaltada) {
+    QStringList lineas;
+    for (const Item item : gramatica.automata.estados[static_cast<std::size_t>(estado)].items()) {
+        const bool resalta =
+            item.regla == resaltada.regla && (!resaltada.punto || *resaltada.punto == item.punto);
+        const QString linea = QStringLiteral("<a href=\"%1/%2/%3\">%4</a>")
+                                  .arg(estado)
+                                  .arg(item.regla)
+                                  .arg(item.punto)
+                                  .arg(escapado(palabrasDeItem(gramatica, item)));
+        lineas.append(resalta ? QStringLiteral("<b>%1</b>").arg(linea) : linea);
+    }
+    return lineas;
+}
+
+std::vector<std::int16_t> estadosConRegla(const GramaticaLR& gramatica, std::int16_t regla) {
+    std::vector<std::int16_t> estados;
+    for (std::size_t e = 0; e < gramatica.automata.estados.size(); ++e)
+        if (const auto estado = static_cast<std::int16_t>(e); tieneRegla(gramatica, estado, regla))
+            estados.push_back(estado);
+    return estados;
+}
+
+std::optional<Eleccion> eleccionDeEnlace(const QString& enlace) {
+    std::vector<std::int16_t> numeros;
+    for (const QString& parte : enlace.split(u'/')) {
+        bool es = false;
+        numeros.push_back(parte.toShort(&es));
+        if (!es) return std::nullopt;
+    }
+    if (numeros.size() == 1) return DeEstado{numeros[0]};
+    if (numeros.size() != 3) return std::nullopt;
+    return DeItem{numeros[0], {numeros[1], numeros[2]}};
+}
 
 QStringList nucleoDe(const GramaticaLR& gramatica, std::int16_t estado) {
     QStringList lineas;
@@ -119,11 +170,12 @@ QString entradaDeEstado(const GrafoEstados& grafo, std::int16_t estado) {
         .arg(nombres.isEmpty() ? QStringLiteral("ninguna, es el estado del comienzo") : nombres.join(u' '));
 }
 
-QString estadoEnHtml(const LenguajeEstudiado& lenguaje, const GrafoEstados& grafo, std::int16_t estado) {
+QString estadoEnHtml(const LenguajeEstudiado& lenguaje, const GrafoEstados& grafo, std::int16_t estado,
+                     const ReglaResaltada& resaltada) {
     const GramaticaLR& g = *lenguaje.gramatica();
     return QStringLiteral("<h3>%1</h3>").arg(tituloDeEstado(lenguaje, estado)) +
-           lista(QStringLiteral("Conflictos"), conflictos(lenguaje, estado)) +
-           lista(QStringLiteral("Elementos"), items(g, estado)) +
+           dondeEsta(g, resaltada.regla) + lista(QStringLiteral("Conflictos"), conflictos(lenguaje, estado)) +
+           lista(QStringLiteral("Elementos"), itemsEnHtml(g, estado, resaltada)) +
            lista(QStringLiteral("Desplaza y pasa"), salidas(g, grafo, estado)) +
            lista(QStringLiteral("Reduce"), reducciones(g, estado)) + llegada(g, grafo, estado);
 }

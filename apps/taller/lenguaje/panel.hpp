@@ -9,7 +9,9 @@
 #include "norvik/platform/qt/fallos.hpp"
 
 #include <QDockWidget>
+#include <QEvent>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
@@ -28,9 +30,7 @@ public:
     /// It has something to show of a specification that does not compile, too.
     virtual bool muestraLoQueNoCompila() const { return false; }
     /// What it shows is of an earlier version of the texts, or of theirs again.
-    void ponAtrasado(bool atrasado) {
-        setWindowTitle(atrasado ? titulo_ + QStringLiteral(" (versión anterior)") : titulo_);
-    }
+    void ponAtrasado(bool atrasado);
     const QString& titulo() const { return titulo_; }
 
 signals:
@@ -44,10 +44,19 @@ signals:
 
 protected:
     /// `nombre` is what the window's state knows it by.
-    Panel(const QString& nombre, const QString& titulo, QWidget* padre)
-        : QDockWidget(titulo, padre), titulo_(titulo) {
-        setObjectName(nombre);
-    }
+    Panel(const QString& nombre, const QString& titulo, QWidget* padre);
+
+    /// The person sees it.
+    bool seVe() const { return seVe_; }
+    /// The person sees it now, or does not any more.
+    virtual void alVerse() {}
+    /// What was laid out with the letters of before is to be laid out again.
+    virtual void alCambiarLetra() {}
+    /// It works on the version that it was given, and shows the one before: if that takes a while, its title
+    /// says so.
+    void ponTrabajando(bool trabajando);
+
+    void changeEvent(QEvent* evento) override;
 
     template <typename Orden>
     void protege(const Orden& orden) {
@@ -55,7 +64,13 @@ protected:
     }
 
 private:
+    void actualizaTitulo();
+
     QString titulo_;
+    QTimer espera_; ///< until work takes long enough to be told
+    bool seVe_ = false;
+    bool atrasado_ = false;
+    bool trabajando_ = false;
 };
 
 } // namespace norvik::taller

@@ -5,14 +5,28 @@
 #include "correspondencias.hpp"
 #include "dibujoAnalisis.hpp"
 
+#include "norvik/platform/qt/avisoALectores.hpp"
+
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
+#include <algorithm>
 #include <deque>
 #include <utility>
 #include <vector>
 
 namespace norvik::taller {
+
+namespace {
+
+QString cuenta(std::size_t cuantos, std::int16_t regla) {
+    if (cuantos == 0) return QStringLiteral("La regla %1 no está en el árbol. ").arg(regla);
+    if (cuantos == 1) return QStringLiteral("La regla %1 está en 1 nodo, subrayado: ").arg(regla);
+    return QStringLiteral("La regla %1 está en %2 nodos, subrayados: ").arg(regla).arg(cuantos);
+}
+
+} // namespace
 
 PanelAnalisis::PanelAnalisis(Dialogos& dialogos, QWidget* padre)
     : Panel(QStringLiteral("arbol"), QStringLiteral("Árbol"), padre),
@@ -20,26 +34,49 @@ PanelAnalisis::PanelAnalisis(Dialogos& dialogos, QWidget* padre)
       dibujo_(QStringLiteral("Dibujo del árbol"), QStringLiteral("El esquema dice lo mismo")),
       botones_(*this, dialogos, {[this] { return lamina(); }, QStringLiteral("arbol"), &dibujo_}) {
     compone();
-    connect(&enUnaFila_, &QCheckBox::toggled, this, [this] { protege([this] { muestra(); }); });
+    conecta();
+}
+
+void PanelAnalisis::conecta() {
+    connect(&enUnaFila_, &QCheckBox::toggled, this, [this] {
+        protege([this] {
+            abiertas_.clear(); // the rows are other ones
+            cerradas_.clear();
+            muestra();
+        });
+    });
     const auto elegida = [this](const QModelIndex& indice) { protege([&] { elige(indice); }); };
     connect(&vista_, &QTreeView::clicked, this, elegida);
     connect(&vista_, &QTreeView::activated, this, elegida);
     connect(vista_.selectionModel(), &QItemSelectionModel::currentChanged, this, elegida);
-    connect(&dibujo_, &VistaDibujo::elegido, this, [this](int nodo) {
-        protege([&] { vista_.setCurrentIndex(alAlcance(modelo_.indiceDe(static_cast<std::size_t>(nodo)))); });
-    });
+    connect(&vista_, &QTreeView::expanded, this,
+            [this](const QModelIndex& fila) { protege([&] { mueve(fila, abiertas_, cerradas_); }); });
+    connect(&vista_, &QTreeView::collapsed, this,
+            [this](const QModelIndex& fila) { protege([&] { mueve(fila, cerradas_, abiertas_); }); });
+    connect(&dibujo_, &VistaDibujo::elegido, this,
+            [this](int nodo) { protege([&] { ve(modelo_.indiceDe(static_cast<std::size_t>(nodo))); }); });
     connect(&maneras_, &QTabWidget::currentChanged, this, [this](int manera) {
         protege([&] {
             centro_.setFocusProxy(manera == 0 ? static_cast<QWidget*>(&vista_) : &dibujo_);
             dibuja();
         });
     });
-    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
-        protege([&] {
-            if (seVe && pendiente_) selecciona(*std::exchange(pendiente_, std::nullopt));
+    connect(&busca_, &QLineEdit::returnPressed, this, [this] { protege([this] { buscaSiguiente(); }); });
+    connect(&busca_, &QLineEdit::textChanged, &hallado_, &QLabel::hide);
+    connect(&irABuscar_, &QAction::triggered, this, [this] {
+        protege([this] {
+            busca_.setFocus(Qt::ShortcutFocusReason);
+            busca_.selectAll();
         });
     });
+}
+
+void PanelAnalisis::alVerse() {
+    if (seVe() && pendiente_) selecciona(*std::exchange(pendiente_, std::nullopt));
+}
+
+void PanelAnalisis::alCambiarLetra() {
+    vista_.setIndentation(fontMetrics().horizontalAdvance(u'x') * 2);
 }
 
 void PanelAnalisis::compone() {
@@ -51,15 +88,10 @@ void PanelAnalisis::compone() {
     camino_.setWordWrap(true);
     camino_.setAccessibleName(QStringLiteral("Camino desde la raíz"));
     camino_.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    vista_.setAccessibleName(QStringLiteral("Árbol sintáctico del texto"));
-    vista_.setUniformRowHeights(true);
-    vista_.setAlternatingRowColors(true);
-    vista_.setModel(&modelo_);
-    vista_.setIndentation(fontMetrics().horizontalAdvance(u'x') * 2);
-    vista_.header()->setSectionResizeMode(ModeloAnalisis::Simbolo, QHeaderView::ResizeToContents);
-    vista_.header()->setResizeContentsPrecision(0); // the rows in view count
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addWidget(&enUnaFila_);
+    componeBusqueda();
+    componeEsquema();
     ocultos_.setTextFormat(Qt::PlainText);
     ocultos_.setWordWrap(true);
     columnaDibujada_.setContentsMargins(0, 0, 0, 0);
@@ -78,43 +110,177 @@ void PanelAnalisis::compone() {
     setWidget(&centro_);
 }
 
+void PanelAnalisis::componeBusqueda() {
+    busca_.setPlaceholderText(QStringLiteral("Buscar un nodo (Intro: el siguiente)"));
+    busca_.setAccessibleName(QStringLiteral("Buscar un nodo por su símbolo o su texto"));
+    busca_.setClearButtonEnabled(true);
+    hazAviso(hallado_);
+    hallado_.setTextFormat(Qt::PlainText);
+    hallado_.setWordWrap(true);
+    hallado_.setAccessibleName(QStringLiteral("Resultado de la búsqueda"));
+    irABuscar_.setText(QStringLiteral("Buscar en el árbol"));
+    irABuscar_.setShortcut(QKeySequence::Find);
+    irABuscar_.setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(&irABuscar_);
+    filaBusqueda_.addWidget(&busca_, 1);
+    columna_.addLayout(&filaBusqueda_);
+    columna_.addWidget(&hallado_);
+    hallado_.hide();
+}
+
+void PanelAnalisis::componeEsquema() {
+    vista_.setAccessibleName(QStringLiteral("Árbol sintáctico del texto"));
+    vista_.setUniformRowHeights(true);
+    vista_.setAlternatingRowColors(true);
+    vista_.setModel(&modelo_);
+    vista_.header()->setSectionResizeMode(ModeloAnalisis::Simbolo, QHeaderView::ResizeToContents);
+    vista_.header()->setResizeContentsPrecision(0); // the rows in view count
+    alCambiarLetra();
+}
+
 void PanelAnalisis::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    if (estudio_ && estudio_->deLenguaje != estudio->deLenguaje) modelo_.resalta(0); // of other rules
     estudio_ = std::move(estudio);
     muestra();
 }
 
+/// It stays where the person looks, although the rows are new ones.
 void PanelAnalisis::muestra() {
     const QScopedValueRollback<bool> callado(callado_, true);
+    constexpr std::size_t cerca = 60; // levels: to open more takes longer than a key may
+    const Lugar elegida = ModeloAnalisis::lugarDe(vista_.currentIndex());
+    const int alto = vista_.verticalScrollBar()->value();
+    const int lado = vista_.horizontalScrollBar()->value();
     modelo_.muestra(estudio_, enUnaFila_.isChecked() ? Cadenas::EnUnaFila : Cadenas::Enteras);
+    nodo_.reset();
     abre();
+    const QModelIndex fila = elegida.size() < cerca ? modelo_.filaEn(elegida) : QModelIndex();
+    if (fila.isValid() && fila == aLaVista(fila)) vista_.setCurrentIndex(fila);
+    if (vista_.isVisible()) vista_.doItemsLayout(); // until then there is nothing to scroll
+    vista_.verticalScrollBar()->setValue(alto);
+    vista_.horizontalScrollBar()->setValue(lado);
     botones_.activa(modelo_.rowCount() > 0);
     dibuja();
     camino_.setText(modelo_.rowCount() > 0 ? QString() : QStringLiteral("El texto no tiene árbol."));
 }
 
-/// The upper rows, as many as a person looks over.
+// ---- what is open
+
+/// The upper rows, as many as a person looks over, and those that were opened.
 void PanelAnalisis::abre() {
     constexpr int filas = 200;
     std::deque<QModelIndex> pendientes{modelo_.index(0, 0)};
     for (int vistas = 0; vistas < filas && !pendientes.empty(); ++vistas) {
         const QModelIndex indice = pendientes.front();
         pendientes.pop_front();
+        if (!indice.isValid() || esDe(cerradas_, indice)) continue;
         vista_.expand(indice);
-        for (int i = 0; indice.isValid() && i < modelo_.rowCount(indice); ++i)
-            pendientes.push_back(modelo_.index(i, 0, indice));
+        for (int i = 0; i < modelo_.rowCount(indice); ++i) pendientes.push_back(modelo_.index(i, 0, indice));
+    }
+    for (const auto& [lugar, simbolo] : abiertas_)
+        if (const QModelIndex fila = modelo_.filaEn(lugar); fila.data().toString() == simbolo)
+            vista_.expand(fila);
+}
+
+/// A person has opened or closed a row.
+void PanelAnalisis::mueve(const QModelIndex& indice, Movidas& alli, Movidas& otras) const {
+    if (callado_) return;
+    Lugar lugar = ModeloAnalisis::lugarDe(indice);
+    otras.erase(lugar);
+    alli.insert_or_assign(std::move(lugar), indice.data().toString());
+}
+
+bool PanelAnalisis::esDe(const Movidas& movidas, const QModelIndex& indice) const {
+    if (movidas.empty()) return false;
+    const auto suya = movidas.find(ModeloAnalisis::lugarDe(indice));
+    return suya != movidas.end() && suya->second == indice.data().toString();
+}
+
+/// A person wants to see a row: those above it are closed no more.
+void PanelAnalisis::descubre(const QModelIndex& indice) {
+    if (cerradas_.empty()) return;
+    Lugar lugar = ModeloAnalisis::lugarDe(indice);
+    while (!lugar.empty()) {
+        lugar.pop_back();
+        cerradas_.erase(lugar);
     }
 }
 
+/// A row that is within reach, or the one above it that a person has closed.
+QModelIndex PanelAnalisis::aLaVista(const QModelIndex& indice) const {
+    const QModelIndex cercana = alAlcance(indice);
+    if (cerradas_.empty()) return cercana;
+    QModelIndex queda = cercana;
+    for (QModelIndex i = cercana.parent(); i.isValid(); i = i.parent())
+        if (esDe(cerradas_, i)) queda = i;
+    return queda;
+}
+
+// ---- what is chosen
+
 void PanelAnalisis::selecciona(const Eleccion& eleccion) {
+    if (std::holds_alternative<EnTexto>(eleccion)) return; // the node there comes, too
     pendiente_.reset();
     if (!estudio_) return;
     if (!isVisible()) return static_cast<void>(pendiente_ = eleccion);
-    const auto nodo = nodoDe(*estudio_, eleccion);
-    if (!nodo) return;
     const QScopedValueRollback<bool> callado(callado_, true);
-    const QModelIndex indice = modelo_.indiceDe(*nodo);
-    vista_.setCurrentIndex(alAlcance(indice));
-    sigue(indice);
+    const auto regla = reglaDe(*estudio_, eleccion);
+    modelo_.resalta(regla.value_or(0));
+    vista_.viewport()->update();
+    if (const auto nodo = nodoDe(*estudio_, eleccion)) {
+        const QModelIndex indice = modelo_.indiceDe(*nodo);
+        vista_.setCurrentIndex(aLaVista(indice));
+        sigue(indice);
+    } else if (regla) {
+        seleccionaRegla(*regla);
+    } else {
+        realza(vista_.currentIndex());
+    }
+}
+
+/// The nodes that it has made; one of them is chosen.
+void PanelAnalisis::seleccionaRegla(std::int16_t regla) {
+    const NodosDeRegla suyos = nodosDe(*estudio_, regla);
+    const bool esSuyo = nodo_ && modelo_.resaltado(*nodo_);
+    if (suyos.primero && !esSuyo) {
+        const QModelIndex indice = modelo_.indiceDe(*suyos.primero);
+        vista_.setCurrentIndex(aLaVista(indice));
+        sigue(indice);
+    } else {
+        realza(vista_.currentIndex());
+    }
+    if (estudio_->arbol().esVacio()) return;
+    const QString camino = nodo_ ? modelo_.camino(modelo_.indiceDe(*nodo_)) : QString();
+    camino_.setText(cuenta(suyos.cuantos, regla) + camino);
+}
+
+/// From the node that is told of.
+void PanelAnalisis::buscaSiguiente() {
+    if (!estudio_ || busca_.text().isEmpty()) return;
+    const std::size_t cuantos = modelo_.rowCount() > 0 ? estudio_->arbol().numNodos() : 1;
+    const std::size_t desde = nodo_.value_or(cuantos - 1);
+    const auto nodo = modelo_.busca(busca_.text(), desde);
+    QString palabras;
+    if (!nodo)
+        palabras = QStringLiteral("Ningún nodo se llama así ni tiene ese texto.");
+    else if (nodo_ && *nodo == desde)
+        palabras = QStringLiteral("No hay otro.");
+    else if (nodo_ && *nodo < desde)
+        palabras = QStringLiteral("Se ha vuelto a empezar por la raíz.");
+    hallado_.setText(palabras);
+    hallado_.setVisible(!palabras.isEmpty());
+    if (!palabras.isEmpty()) avisaALectores(hallado_, palabras);
+    if (nodo) ve(modelo_.indiceDe(*nodo));
+}
+
+/// A person wants to see a row.
+void PanelAnalisis::ve(const QModelIndex& indice) {
+    {
+        const QScopedValueRollback<bool> callado(callado_, true);
+        descubre(indice);
+        vista_.setCurrentIndex(alAlcance(indice));
+    }
+    elige(indice);
 }
 
 /// A row, or the last one above it that a view opens in no time: of a list as long as its text the rows are
@@ -133,6 +299,7 @@ void PanelAnalisis::elige(const QModelIndex& indice) {
 }
 
 void PanelAnalisis::sigue(const QModelIndex& indice) {
+    nodo_ = modelo_.nodoDe(indice);
     camino_.setText(modelo_.camino(indice));
     realza(indice);
 }
@@ -149,7 +316,13 @@ void PanelAnalisis::dibuja() {
         QStringLiteral("Es un árbol grande: se dibuja lo de arriba. Lo que cuelga de los nodos con "
                        "«…» está en el esquema."));
     dibujo_.muestra([this, arbol = suyo.arbol](const QPalette& colores, QGraphicsScene& escena) {
-        pinta(arbol, {font(), colores, realzado_, {}}, escena);
+        pinta(arbol,
+              {dibujo_.font(),
+               colores,
+               realzado_,
+               {},
+               [this](int nodo) { return modelo_.resaltado(static_cast<std::size_t>(nodo)); }},
+              escena);
     });
     realza(vista_.currentIndex());
 }
@@ -168,7 +341,7 @@ Lamina PanelAnalisis::lamina() const {
     constexpr std::size_t maximo = 5'000; // nodes of a picture
     return {titulo(), [arbol = dibujoDe(modelo_, maximo).arbol, letra = font()](const QPalette& colores,
                                                                                 QGraphicsScene& escena) {
-                pinta(arbol, {letra, colores, -1, {}}, escena);
+                pinta(arbol, {letra, colores, -1, {}, {}}, escena);
             }};
 }
 

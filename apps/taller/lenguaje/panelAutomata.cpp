@@ -8,6 +8,7 @@
 #include "norvik/platform/qt/nombra.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -42,7 +43,7 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
     connect(&estados_, &QListWidget::currentRowChanged, this,
             [this](int fila) { protege([&] { elegidoPorLaPersona(fila); }); });
     connect(&estado_, &QTextBrowser::anchorClicked, this,
-            [this](const QUrl& adonde) { protege([&] { elegidoPorLaPersona(adonde.toString().toInt()); }); });
+            [this](const QUrl& adonde) { protege([&] { pulsado(adonde.toString()); }); });
     connect(&vista_, &VistaAutomata::elegido, this,
             [this](int estado) { protege([&] { elegidoPorLaPersona(estado); }); });
     connect(&colocador_, &ColocadorGrafos::colocado, this, [this](const GrafoColocado& sitio) {
@@ -57,12 +58,6 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
             vista_.vacia();
             botones_.activa(false);
             avisa(motivo);
-        });
-    });
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
-        protege([&] {
-            seVe_ = seVe;
-            estudiaSiSeVe();
         });
     });
     sinAutomata(QStringLiteral("Todavía no hay ningún autómata."));
@@ -95,16 +90,51 @@ void PanelAutomata::compone() {
 }
 
 void PanelAutomata::ponEstudio(std::shared_ptr<const Estudio> estudio) {
-    pendiente_ = estudio->deLenguaje;
+    estudio_ = std::move(estudio);
+    pendiente_ = estudio_->deLenguaje;
+    porElegir_.reset();
     estudiaSiSeVe();
 }
 
 void PanelAutomata::selecciona(const Eleccion& eleccion) {
-    if (const auto estado = estadoDe(eleccion)) elige(*estado);
+    if (std::holds_alternative<EnTexto>(eleccion)) return; // the node there comes, too
+    if (!alDia() || !seVe()) return static_cast<void>(porElegir_ = eleccion);
+    resalta(eleccion);
+    const auto estado = estadoDe(eleccion);
+    const bool sirve = conRegla_.isEmpty() || conRegla_.contains(elegido_);
+    elige(estado ? *estado : sirve ? elegido_ : conRegla_.front());
+}
+
+/// Its rule, in all the states that have it.
+void PanelAutomata::resalta(const Eleccion& eleccion) {
+    const auto* const item = std::get_if<DeItem>(&eleccion);
+    const auto regla = reglaDe(*estudio_, eleccion);
+    resaltada_ = {regla.value_or(0), {}};
+    if (item != nullptr) resaltada_.punto = item->item.punto;
+    conRegla_.clear();
+    if (regla)
+        for (const std::int16_t estado : estadosConRegla(gramatica(), *regla)) conRegla_.append(estado);
+    for (int fila = 0; fila < estados_.count(); ++fila) {
+        QListWidgetItem& suya = *estados_.item(fila);
+        const bool laTiene = std::ranges::binary_search(conRegla_, fila);
+        if (suya.font().bold() == laTiene) continue;
+        QFont letra;
+        if (laTiene) letra.setBold(true);
+        suya.setFont(letra);
+    }
+}
+
+void PanelAutomata::alVerse() {
+    estudiaSiSeVe();
+    if (alDia() && seVe() && porElegir_) selecciona(*std::exchange(porElegir_, std::nullopt));
+}
+
+void PanelAutomata::alCambiarLetra() {
+    if (grafo_) dibuja();
 }
 
 void PanelAutomata::estudiaSiSeVe() {
-    if (!seVe_ || !pendiente_) return;
+    if (!seVe() || !pendiente_) return;
     const auto lenguaje = std::exchange(pendiente_, nullptr);
     if (std::exchange(deseado_, lenguaje) == lenguaje) return;
     trabajo_.para();
@@ -112,9 +142,10 @@ void PanelAutomata::estudiaSiSeVe() {
         sinAutomata(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene gramática."));
         return;
     }
+    ponTrabajando(grafo_ != nullptr);
     trabajo_.empieza(
-        [lenguaje](const std::stop_token& /*parada*/) {
-            return std::make_shared<const GrafoEstados>(*lenguaje->gramatica());
+        [lenguaje](const std::stop_token& parada) {
+            return std::make_shared<const GrafoEstados>(*lenguaje->gramatica(), parada);
         },
         [this, lenguaje](const std::optional<Resultado>& resultado) {
             protege([&] { toma(lenguaje, resultado); });
@@ -131,12 +162,17 @@ void PanelAutomata::toma(std::shared_ptr<const LenguajeEstudiado> lenguaje,
     botones_.activa(false);
     vista_.vacia(); // it is of another version
     elegido_ = std::min(elegido_, static_cast<int>(grafo_->estados()) - 1);
+    ponTrabajando(false);
+    resaltada_ = {};
+    conRegla_.clear();
     llenaEstados();
     muestraEstado();
     dibuja();
+    if (porElegir_) selecciona(*std::exchange(porElegir_, std::nullopt));
 }
 
 void PanelAutomata::sinAutomata(const QString& motivo) {
+    ponTrabajando(false);
     colocador_.para();
     grafo_ = nullptr;
     lenguaje_ = nullptr;
@@ -172,14 +208,23 @@ void PanelAutomata::llenaEstados() {
 void PanelAutomata::elegidoPorLaPersona(int estado) {
     if (!grafo_ || estado < 0 || estado >= static_cast<int>(grafo_->estados())) return;
     elige(estado);
-    emit elegido(DeEstado{static_cast<std::int16_t>(estado)});
+    if (alDia()) emit elegido(DeEstado{static_cast<std::int16_t>(estado)});
+}
+
+void PanelAutomata::pulsado(const QString& enlace) {
+    const auto suya = eleccionDeEnlace(enlace);
+    if (!suya || !grafo_) return;
+    if (std::holds_alternative<DeEstado>(*suya)) return elegidoPorLaPersona(*estadoDe(*suya));
+    if (!alDia()) return;
+    selecciona(*suya);
+    emit elegido(*suya);
 }
 
 // The drawing follows: of many states it may be another part.
 void PanelAutomata::elige(int estado) {
     elegido_ = estado;
     if (!grafo_ || estado >= static_cast<int>(grafo_->estados())) return;
-    muestraEstado();
+    if (enHtml_ != std::pair(estado, resaltada_)) muestraEstado();
     if (vista_.dibuja(estado))
         vista_.elige(realce());
     else if (porColocar_.estado(estado) == nullptr)
@@ -189,7 +234,10 @@ void PanelAutomata::elige(int estado) {
 void PanelAutomata::muestraEstado() {
     const QSignalBlocker callada(estados_);
     estados_.setCurrentRow(elegido_);
-    estado_.setHtml(estadoEnHtml(*lenguaje_, *grafo_, static_cast<std::int16_t>(elegido_)));
+    const int alto = estado_.verticalScrollBar()->value();
+    const bool esElMismo = std::exchange(enHtml_, std::pair(elegido_, resaltada_)).first == elegido_;
+    estado_.setHtml(estadoEnHtml(*lenguaje_, *grafo_, static_cast<std::int16_t>(elegido_), resaltada_));
+    if (esElMismo) estado_.verticalScrollBar()->setValue(alto);
     entrada_.setText(entradaDeEstado(*grafo_, static_cast<std::int16_t>(elegido_)));
 }
 
@@ -217,7 +265,7 @@ void PanelAutomata::dibuja() {
 }
 
 RealceAutomata PanelAutomata::realce() const {
-    RealceAutomata realce{elegido_, {}};
+    RealceAutomata realce{elegido_, {}, conRegla_};
     for (const Transicion& t : grafo_->camino(static_cast<std::int16_t>(elegido_)))
         realce.camino.append({t.desde, t.hasta});
     return realce;

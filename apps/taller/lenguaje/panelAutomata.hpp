@@ -21,6 +21,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace norvik::taller {
@@ -46,6 +47,10 @@ public:
     QString entrada() const { return entrada_.text(); }
     QString aviso() const { return aviso_.text(); }
 
+protected:
+    void alVerse() override;
+    void alCambiarLetra() override;
+
 private:
     using Resultado = std::shared_ptr<const GrafoEstados>;
     static constexpr std::size_t maximoEntero = 60; ///< states of a drawing of all
@@ -59,6 +64,10 @@ private:
     void llenaEstados();
     void elige(int estado);
     void elegidoPorLaPersona(int estado);
+    void pulsado(const QString& enlace);
+    void resalta(const Eleccion& eleccion);
+    /// It shows what it was given last.
+    bool alDia() const { return grafo_ && estudio_ && lenguaje_ == estudio_->deLenguaje; }
     void muestraEstado();
     void dibuja();
     RealceAutomata realce() const;
@@ -66,13 +75,17 @@ private:
 
     const GramaticaLR& gramatica() const { return *lenguaje_->gramatica(); }
 
+    std::shared_ptr<const Estudio> estudio_;             ///< the last one
     std::shared_ptr<const LenguajeEstudiado> pendiente_; ///< to be shown once the panel is seen
     std::shared_ptr<const LenguajeEstudiado> deseado_;   ///< the last that was to be shown
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;  ///< the one that is
     Resultado grafo_;
     DibujoAutomata porColocar_;
+    std::optional<Eleccion> porElegir_; ///< chosen elsewhere of what is not shown yet
+    ReglaResaltada resaltada_;
+    QList<int> conRegla_; ///< states
     int elegido_ = 0;
-    bool seVe_ = false;
+    std::pair<int, ReglaResaltada> enHtml_{-1, {}}; ///< what the text tells of
 
     QWidget centro_;
     QVBoxLayout columna_;

@@ -5,6 +5,7 @@
 #include "curas.hpp"
 #include "dibujoArbol.hpp"
 #include "palabrasConflicto.hpp"
+#include "palabrasEstado.hpp"
 #include "palabrasLR.hpp"
 
 #include "norvik/checks/palabrasHistoria.hpp"
@@ -31,7 +32,7 @@ void pintaJuntos(const HistoriaConflicto& historia, const QFont& letra, const QP
     double izquierda = 0;
     for (std::size_t i = 0; i < historia.cortos.size(); ++i) {
         const QRectF sitio = pinta(arbolDe(historia.cortos[i].arbol),
-                                   {letra, colores, -1, QPointF(izquierda, 2 * linea)}, escena);
+                                   {letra, colores, -1, QPointF(izquierda, 2 * linea), {}}, escena);
         QGraphicsSimpleTextItem& rotulo =
             *escena.addSimpleText(aQString(palabras::rotulo(historia, i)), letra);
         rotulo.setBrush(colores.color(QPalette::Text));
@@ -49,17 +50,14 @@ PanelConflicto::PanelConflicto(Historias& historias, Dialogos& dialogos, QWidget
     connect(&historias_, &Historias::contadas, this, [this] { protege([this] { llena(); }); });
     connect(&lista_, &QComboBox::currentIndexChanged, this, [this] {
         protege([this] {
+            for (LadoDibujado& lado : lados_) lado.vista.empiezaDeNuevo();
             muestra();
             eligeCelda();
         });
     });
-    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
     connect(&texto_, &QTextBrowser::anchorClicked, this, [this](const QUrl& adonde) {
-        protege([&] { emit elegido(DeEstado{static_cast<std::int16_t>(adonde.toString().toInt())}); });
-    });
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
         protege([&] {
-            if (std::exchange(seVe_, seVe) != seVe && seVe) muestra();
+            if (const auto suya = eleccionDeEnlace(adonde.toString())) emit elegido(*suya);
         });
     });
 }
@@ -108,7 +106,7 @@ void PanelConflicto::llena() {
     lista_.clear();
     cuales_.clear();
     for (std::size_t i = 0; i < lenguaje_->diagnosticos.size(); ++i)
-        if (esConflicto(lenguaje_->diagnosticos[i])) anade(i);
+        if (esConflicto(lenguaje_->diagnosticos[i]) && cuales_.size() < maximoDeFilas) anade(i);
     lista_.setEnabled(!cuales_.empty());
     lista_.setCurrentIndex(std::clamp(fila, std::min(0, lista_.count() - 1), lista_.count() - 1));
     if (historias_.conocidas() && pedida_) vaA(*std::exchange(pedida_, std::nullopt));
@@ -122,13 +120,24 @@ void PanelConflicto::anade(std::size_t diagnostico) {
     const std::size_t cuantas = suyas == nullptr ? 1 : std::max<std::size_t>(suyas->size(), 1);
     for (std::size_t i = 0; i < cuantas; ++i) {
         cuales_.push_back({diagnostico, i});
-        lista_.addItem(palabras);
+        lista_.addItem(cuantas == 1 ? palabras
+                                    : QStringLiteral("%1 — %2 de %3, %4")
+                                          .arg(palabras)
+                                          .arg(i + 1)
+                                          .arg(cuantas)
+                                          .arg(aQString((*suyas)[i].acciones[1].textoRegla)));
     }
 }
 
+int PanelConflicto::filaDe(const Cual& cual) {
+    if (std::ranges::find(cuales_, cual) == cuales_.end()) anade(cual.diagnostico);
+    const auto suya = std::ranges::find(cuales_, cual);
+    return suya == cuales_.end() ? lista_.currentIndex() : static_cast<int>(suya - cuales_.begin());
+}
+
 void PanelConflicto::cuenta(std::size_t diagnostico) {
-    const auto suya = std::ranges::find(cuales_, diagnostico, &Cual::diagnostico);
-    if (suya != cuales_.end()) lista_.setCurrentIndex(static_cast<int>(suya - cuales_.begin()));
+    if (diagnostico >= lenguaje_->diagnosticos.size()) return;
+    lista_.setCurrentIndex(filaDe({diagnostico, 0}));
     muestra();
 }
 
@@ -139,22 +148,39 @@ void PanelConflicto::cuenta(const DeCelda& celda) {
     historias_.de(cuales_.front().diagnostico); // begins the search
 }
 
+void PanelConflicto::selecciona(const Eleccion& eleccion) {
+    const auto* const celda = std::get_if<DeCelda>(&eleccion);
+    if (celda == nullptr || !lenguaje_ || !historias_.conocidas()) return;
+    const int antes = lista_.currentIndex();
+    {
+        const QSignalBlocker callada(lista_);
+        vaA(*celda);
+    }
+    if (lista_.currentIndex() == antes) return;
+    for (LadoDibujado& lado : lados_) lado.vista.empiezaDeNuevo();
+    muestra();
+}
+
 void PanelConflicto::vaA(const DeCelda& celda) {
-    for (std::size_t i = 0; i < cuales_.size(); ++i) {
-        const auto* const suyas = historias_.de(cuales_[i].diagnostico);
-        if (suyas == nullptr || cuales_[i].historia >= suyas->size()) continue;
-        if (esDe((*suyas)[cuales_[i].historia], celda)) return lista_.setCurrentIndex(static_cast<int>(i));
+    for (std::size_t d = 0; d < lenguaje_->diagnosticos.size(); ++d) {
+        if (!esConflicto(lenguaje_->diagnosticos[d])) continue;
+        const auto* const suyas = historias_.de(d);
+        for (std::size_t i = 0; suyas != nullptr && i < suyas->size(); ++i)
+            if (esDe({d, i}, (*suyas)[i], celda)) return lista_.setCurrentIndex(filaDe({d, i}));
     }
 }
 
-/// One that the classic table keeps quiet about names no state.
-bool PanelConflicto::esDe(const HistoriaConflicto& historia, const DeCelda& celda) const {
+/// One that the classic table keeps quiet about may be of several cells.
+bool PanelConflicto::esDe(const Cual& cual, const HistoriaConflicto& historia, const DeCelda& celda) const {
+    const GramaticaLR* const g = lenguaje_->gramatica();
     const auto columna = static_cast<std::int16_t>(celda.codigo + 1);
-    if (historia.simbolo != lenguaje_->gramatica()->tabla.simbolo(columna)) return false;
-    if (historia.estado != HistoriaConflicto::sinEstado) return historia.estado == celda.estado;
-    return std::ranges::any_of(lenguaje_->conflictos, [&](const Conflicto& c) {
-        return c.fila == celda.estado + 1 && c.columna == columna && c.regla == historia.acciones[1].regla;
-    });
+    if (g == nullptr || historia.simbolo != g->tabla.simbolo(columna)) return false;
+    if (historia.estado == celda.estado) return true;
+    return lenguaje_->diagnosticos[cual.diagnostico].codigo == Codigo::ConflictoCallado &&
+           std::ranges::any_of(lenguaje_->conflictos, [&](const Conflicto& c) {
+               return c.fila == celda.estado + 1 && c.columna == columna &&
+                      c.regla == historia.acciones[1].regla;
+           });
 }
 
 // ---- what is shown
@@ -168,7 +194,7 @@ const HistoriaConflicto* PanelConflicto::elegida() {
 }
 
 void PanelConflicto::muestra() {
-    if (!seVe_ || !lenguaje_) return;
+    if (!seVe() || !lenguaje_) return;
     const HistoriaConflicto* const historia = elegida();
     botones_.activa(historia != nullptr);
     ponArboles(historia);
@@ -207,8 +233,8 @@ void PanelConflicto::ponArboles(const HistoriaConflicto* historia) {
         lado.vista.setAccessibleName(lado.rotulo.text());
         lado.vista.setAccessibleDescription(aQString(palabras::arbol(arbol)));
         lado.vista.muestra(
-            [dibujado = arbolDe(arbol), letra = font()](const QPalette& colores, QGraphicsScene& escena) {
-                pinta(dibujado, {letra, colores, -1, {}}, escena);
+            [dibujado = arbolDe(arbol), &lado](const QPalette& colores, QGraphicsScene& escena) {
+                pinta(dibujado, {lado.vista.font(), colores, -1, {}, {}}, escena);
             });
     }
 }

@@ -36,6 +36,8 @@ public:
     /// The one of a diagnostic of the specification, by its number; the one of a cell.
     void cuenta(std::size_t diagnostico);
     void cuenta(const DeCelda& celda);
+    /// A cell whose story is known is told.
+    void selecciona(const Eleccion& eleccion) override;
 
     // For those who drive it from outside.
     QComboBox& lista() { return lista_; }
@@ -43,11 +45,18 @@ public:
     VistaDibujo& arbol(std::size_t cual) { return lados_[cual].vista; }
     QWidget& curas() { return curas_; }
 
+protected:
+    void alVerse() override { muestra(); }
+
 private:
+    static constexpr std::size_t maximoDeFilas = 500; ///< nobody looks through more of them
+
     /// A story: of which diagnostic, and which of its.
     struct Cual {
         std::size_t diagnostico = 0;
         std::size_t historia = 0;
+
+        bool operator==(const Cual&) const = default;
     };
     struct LadoDibujado {
         QWidget caja;
@@ -59,6 +68,8 @@ private:
     void compone();
     void llena();
     void anade(std::size_t diagnostico);
+    /// The row of a story; beyond the last one it gets one.
+    int filaDe(const Cual& cual);
     void muestra();
     void muestra(const HistoriaConflicto& historia);
     /// What there is to say without one.
@@ -67,7 +78,7 @@ private:
     void ponArboles(const HistoriaConflicto* historia);
     void ponCuras(const std::vector<Arreglo>& arreglos);
     const HistoriaConflicto* elegida();
-    bool esDe(const HistoriaConflicto& historia, const DeCelda& celda) const;
+    bool esDe(const Cual& cual, const HistoriaConflicto& historia, const DeCelda& celda) const;
     void vaA(const DeCelda& celda);
     Lamina lamina();
 
@@ -75,7 +86,6 @@ private:
     std::shared_ptr<const LenguajeEstudiado> lenguaje_;
     std::vector<Cual> cuales_;      ///< of each row of the list
     std::optional<DeCelda> pedida_; ///< to be told once the stories are known
-    bool seVe_ = false;
 
     QWidget centro_, curas_;
     QVBoxLayout columna_;

@@ -80,6 +80,10 @@ void PanelConjuntos::llena() {
     const int queda = std::max(0, filaDe(elegida));
     tabla_.setCurrentCell(queda, Variable); // coming here chooses nothing
     detalla(queda);
+    ajusta();
+}
+
+void PanelConjuntos::ajusta() {
     for (const int columna : {Variable, Anulable}) tabla_.resizeColumnToContents(columna);
     tabla_.setColumnWidth(Primeros, fontMetrics().horizontalAdvance(u'x') * 40);
 }

@@ -26,10 +26,14 @@ public:
     QTableWidget& tabla() { return tabla_; }
     QPlainTextEdit& detalle() { return detalle_; }
 
+protected:
+    void alCambiarLetra() override { ajusta(); }
+
 private:
     enum Columna { Variable, Anulable, Primeros, Siguientes, numeroDeColumnas };
 
     void llena();
+    void ajusta();
     void pon(int fila, std::int32_t variable);
     int filaDe(const QString& variable) const;
     void detalla(int fila);

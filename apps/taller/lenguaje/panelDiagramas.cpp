@@ -24,17 +24,10 @@ PanelDiagramas::PanelDiagramas(Dialogos& dialogos, QWidget* padre)
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
     setWidget(&centro_);
-    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
     connect(&vista_, &VistaDibujo::elegido, this, [this](int regla) {
         protege([&] {
             selecciona(DeRegla{static_cast<std::int16_t>(regla)});
             emit elegido(DeRegla{static_cast<std::int16_t>(regla)});
-        });
-    });
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
-        protege([&] {
-            seVe_ = seVe;
-            dibujaSiSeVe();
         });
     });
 }
@@ -45,7 +38,7 @@ void PanelDiagramas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 }
 
 void PanelDiagramas::dibujaSiSeVe() {
-    if (!seVe_ || !estudio_ || dibujado_ == estudio_->deLenguaje) return;
+    if (!seVe() || !estudio_ || dibujado_ == estudio_->deLenguaje) return;
     dibujado_ = estudio_->deLenguaje;
     elegida_ = 0;
     botones_.activa(dibujado_->gramatica() != nullptr);
@@ -54,14 +47,15 @@ void PanelDiagramas::dibujaSiSeVe() {
 }
 
 Lamina::Pinta PanelDiagramas::pinta(std::int16_t elegida) const {
-    return [lenguaje = dibujado_, letra = font(), elegida](const QPalette& colores, QGraphicsScene& escena) {
+    return [lenguaje = dibujado_, letra = vista_.font(), elegida](const QPalette& colores,
+                                                                  QGraphicsScene& escena) {
         if (lenguaje && lenguaje->gramatica() != nullptr)
             pintaReglas(*lenguaje->gramatica(), letra, colores, elegida, escena);
     };
 }
 
 void PanelDiagramas::selecciona(const Eleccion& eleccion) {
-    if (!estudio_ || dibujado_ != estudio_->deLenguaje || !seVe_) return;
+    if (!estudio_ || dibujado_ != estudio_->deLenguaje || !seVe()) return;
     const auto regla = reglaDe(*estudio_, eleccion);
     if (!regla || std::exchange(elegida_, *regla) == *regla) return;
     vista_.repinta();

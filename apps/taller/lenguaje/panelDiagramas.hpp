@@ -28,6 +28,9 @@ public:
     // For those who drive it from outside.
     VistaDibujo& vista() { return vista_; }
 
+protected:
+    void alVerse() override { dibujaSiSeVe(); }
+
 private:
     void dibujaSiSeVe();
     Lamina::Pinta pinta(std::int16_t elegida) const;
@@ -35,7 +38,6 @@ private:
     std::shared_ptr<const Estudio> estudio_;
     std::shared_ptr<const LenguajeEstudiado> dibujado_;
     std::int16_t elegida_ = 0;
-    bool seVe_ = false;
 
     QWidget centro_;
     QVBoxLayout columna_;

@@ -41,13 +41,6 @@ PanelPasos::PanelPasos(QWidget* padre) : Panel(QStringLiteral("panelPasos"), QSt
             [this](int valor) { protege([&] { va(static_cast<std::size_t>(valor)); }); });
     connect(&pila_, &VistaPila::elegida, this,
             [this](Pelicula::Nodo nodo) { protege([&] { eligeDeLaPila(nodo); }); });
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
-        protege([&] {
-            seVe_ = seVe;
-            if (!seVe) para();
-            filmaSiSeVe();
-        });
-    });
     sinPelicula(QStringLiteral("Todavía no hay ningún análisis."));
 }
 
@@ -123,25 +116,31 @@ const Pelicula* PanelPasos::pelicula() const {
 }
 
 void PanelPasos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
+    ultimoEstudio_ = estudio;
     pendiente_ = std::move(estudio);
     filmaSiSeVe();
 }
 
+void PanelPasos::alVerse() {
+    if (!seVe()) para();
+    filmaSiSeVe();
+}
+
 void PanelPasos::selecciona(const Eleccion& eleccion) {
-    const auto& suyo = pendiente_ ? pendiente_ : estudio_;
-    if (!suyo) return;
-    if (const auto lugar = lugarEnTexto(*suyo, eleccion))
+    if (!ultimoEstudio_) return;
+    if (const auto lugar = lugarEnTexto(*ultimoEstudio_, eleccion))
         cursor_ = static_cast<std::size_t>(std::max(lugar->inicio.desplazamiento, 0));
 }
 
 void PanelPasos::filmaSiSeVe() {
-    if (!seVe_ || !pendiente_) return;
+    if (!seVe() || !pendiente_) return;
     const auto estudio = std::exchange(pendiente_, nullptr);
     trabajo_.para();
     if (estudio->gramatica() == nullptr) {
         sinPelicula(QStringLiteral("No hay nada que enseñar: el lenguaje no tiene gramática."));
         return;
     }
+    ponTrabajando(pelicula() != nullptr);
     trabajo_.empieza(
         [estudio](const std::stop_token& parada) {
             return std::make_shared<const Filmada>(
@@ -156,6 +155,7 @@ void PanelPasos::toma(std::shared_ptr<const Estudio> estudio, const std::optiona
     if (!resultado) return sinPelicula(QStringLiteral("No hay memoria para los pasos de este análisis."));
     if (const auto* const motivo = std::get_if<Diagnostico>(resultado->get()))
         return sinPelicula(aQString(mensaje(*motivo)));
+    ponTrabajando(false);
     para();
     pila_.vacia();
     estudio_ = std::move(estudio);
@@ -166,6 +166,7 @@ void PanelPasos::toma(std::shared_ptr<const Estudio> estudio, const std::optiona
 }
 
 void PanelPasos::sinPelicula(const QString& motivo) {
+    ponTrabajando(false);
     para();
     pila_.vacia();
     filmada_ = nullptr;
@@ -216,12 +217,13 @@ void PanelPasos::muestraTexto(const Pelicula& pelicula) {
                    (resto.empty() ? QStringLiteral("nada") : enUnaLinea(resto, maximoResto)));
 }
 
-// As the person asks: the others show it, too.
+// As the person asks: the others show it, too, if they have the same texts.
 void PanelPasos::va(std::size_t momento) {
     if (pelicula() == nullptr) return;
     const Pelicula& suya = *pelicula();
     momento_ = std::min(momento, suya.ultimo());
     muestra();
+    if (!alDia()) return;
     const Pelicula::Siguiente siguiente = suya.siguiente(momento_);
     const std::int16_t regla = suya.accion(momento_).regla;
     const std::int16_t estado = suya.estado(momento_);
@@ -234,7 +236,7 @@ void PanelPasos::va(std::size_t momento) {
 }
 
 void PanelPasos::eligeDeLaPila(Pelicula::Nodo nodo) {
-    if (pelicula() == nullptr) return;
+    if (pelicula() == nullptr || !alDia()) return;
     const std::int16_t regla = pelicula()->regla(nodo);
     emit elegido(EnTexto{pelicula()->rango(nodo)});
     if (regla != 0) emit elegido(DeRegla{regla});

@@ -40,6 +40,9 @@ public:
     std::size_t momento() const { return momento_; }
     QString palabras() const { return accion_.text(); }
 
+protected:
+    void alVerse() override;
+
 private:
     using Filmada = std::variant<Pelicula, Diagnostico>;
     using Resultado = std::shared_ptr<const Filmada>;
@@ -53,6 +56,8 @@ private:
     void muestra();
     void muestraTexto(const Pelicula& pelicula);
     void activa();
+    /// The film is of the last study.
+    bool alDia() const { return estudio_ == ultimoEstudio_; }
     void va(std::size_t momento);
     void eligeDeLaPila(Pelicula::Nodo nodo);
 
@@ -64,12 +69,12 @@ private:
     void corre();
     void para();
 
+    std::shared_ptr<const Estudio> ultimoEstudio_;
     std::shared_ptr<const Estudio> pendiente_; ///< to be filmed once the panel is seen
     std::shared_ptr<const Estudio> estudio_;   ///< of the film
     Resultado filmada_;
     std::size_t momento_ = 0;
     std::size_t cursor_ = 0; ///< in the text
-    bool seVe_ = false;
 
     QSplitter partes_;
     QWidget centro_;

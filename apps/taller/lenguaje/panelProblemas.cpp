@@ -14,6 +14,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace norvik::taller {
@@ -88,7 +89,7 @@ void PanelProblemas::compone() {
     detalle_.setReadOnly(true);
     detalle_.setTabChangesFocus(true);
     detalle_.setLineWrapMode(QPlainTextEdit::NoWrap);
-    detalle_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // it has drawn trees
+    ponLetraDeDetalle();
     detalle_.setAccessibleName(QStringLiteral("Todo sobre el problema elegido"));
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&barra_);
@@ -102,6 +103,13 @@ void PanelProblemas::compone() {
     setWidget(&centro_);
 }
 
+/// It has drawn trees.
+void PanelProblemas::ponLetraDeDetalle() {
+    QFont letra = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (font().pointSizeF() > 0) letra.setPointSizeF(font().pointSizeF());
+    detalle_.setFont(letra);
+}
+
 const std::vector<Diagnostico>& PanelProblemas::diagnosticos(Lado lado) const {
     return lado == Lado::Especificacion ? estudio_->deLenguaje->diagnosticos
                                         : estudio_->analisis.diagnosticos;
@@ -112,7 +120,11 @@ void PanelProblemas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     const auto antes = std::exchange(estudio_, std::move(estudio));
     const bool dicenLoMismo = antes && antes->analisis.diagnosticos == estudio_->analisis.diagnosticos &&
                               antes->deLenguaje->diagnosticos == estudio_->deLenguaje->diagnosticos;
-    if (!dicenLoMismo) llena();
+    if (!dicenLoMismo) return llena();
+    if (antes->deLenguaje == estudio_->deLenguaje) return;
+    quitaCuras(); // they change the text of before
+    const Fila* const fila = filaDe(lista_.currentItem());
+    if (fila != nullptr && seVe()) detalla(*fila); // and asks for those of now
 }
 
 void PanelProblemas::llena() {
@@ -123,6 +135,7 @@ void PanelProblemas::llena() {
     detalle_.clear();
     llenaLado(Lado::Especificacion, QStringLiteral("Especificación"));
     llenaLado(Lado::Texto, QStringLiteral("Texto"));
+    filasSinCuras_ = filas_.size();
     cuentaFiltros();
     if (historias_.conocidas()) anadeCuras();
 }
@@ -173,18 +186,37 @@ void PanelProblemas::anade(QTreeWidgetItem& grupo, Lado lado, std::size_t numero
 }
 
 void PanelProblemas::anadeCuras() {
+    quitaCuras();
     QTreeWidgetItem& grupo = *lista_.topLevelItem(0);
     for (int i = 0; i < grupo.childCount(); ++i) {
         QTreeWidgetItem& elemento = *grupo.child(i);
         const Fila* const fila = filaDe(&elemento);
-        const auto* const historias = fila == nullptr ? nullptr : historias_.de(fila->diagnostico);
-        if (historias == nullptr || historias->empty()) continue;
+        if (fila == nullptr) continue;
         const Fila suya = *fila; // more rows move those that there are
-        for (const Arreglo& cura : curasDe(*estudio_->deLenguaje, historias->front()))
+        for (const Arreglo& cura : historias_.curas(suya.diagnostico))
             anadeFila(elemento, {suya.lado, suya.diagnostico, suya.lugar, cura},
                       QStringLiteral("Arreglar: ") + aQString(cura.titulo));
     }
-    elige(lista_.currentItem());
+    if (const Fila* const fila = filaDe(lista_.currentItem())) detalla(*fila);
+}
+
+/// Who had chosen one is at its problem.
+void PanelProblemas::quitaCuras() {
+    const QScopedValueRollback<bool> callado(callado_, true);
+    QTreeWidgetItem& grupo = *lista_.topLevelItem(0);
+    for (int i = 0; i < grupo.childCount(); ++i) {
+        QTreeWidgetItem& elemento = *grupo.child(i);
+        const auto esCura = [&] {
+            const QVariant numero = elemento.child(elemento.childCount() - 1)->data(Problema, Qt::UserRole);
+            return numero.isValid() && std::cmp_greater_equal(numero.toInt(), filasSinCuras_);
+        };
+        while (elemento.childCount() > 0 && esCura()) {
+            if (lista_.currentItem() == elemento.child(elemento.childCount() - 1))
+                lista_.setCurrentItem(&elemento);
+            const std::unique_ptr<QTreeWidgetItem> suya(elemento.takeChild(elemento.childCount() - 1));
+        }
+    }
+    filas_.erase(filas_.begin() + static_cast<std::ptrdiff_t>(filasSinCuras_), filas_.end());
 }
 
 void PanelProblemas::cuentaFiltros() {

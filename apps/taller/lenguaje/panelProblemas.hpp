@@ -40,6 +40,9 @@ signals:
     /// The person wants to be told the conflict of a diagnostic of the specification, by its number.
     void conflictoPedido(std::size_t diagnostico);
 
+protected:
+    void alCambiarLetra() override { ponLetraDeDetalle(); }
+
 private:
     /// What a row stands for: a problem, another place of it, a repair, or its story.
     struct Fila {
@@ -57,6 +60,8 @@ private:
     QTreeWidgetItem& anadeFila(QTreeWidgetItem& padre, const Fila& fila, const QString& texto);
     /// The stories are known, and with them what cures their conflicts.
     void anadeCuras();
+    void quitaCuras();
+    void ponLetraDeDetalle();
     void cuentaFiltros();
     const std::vector<Diagnostico>& diagnosticos(Lado lado) const;
     const Fila* filaDe(const QTreeWidgetItem* elemento) const;
@@ -75,7 +80,8 @@ private:
     QPlainTextEdit detalle_;
     std::shared_ptr<const Estudio> estudio_;
     std::vector<Fila> filas_;
-    bool callado_ = false; ///< the list is being filled
+    std::size_t filasSinCuras_ = 0; ///< those before the cures, which come last
+    bool callado_ = false;          ///< the list is being filled
 };
 
 } // namespace norvik::taller

@@ -27,7 +27,6 @@ PanelTabla::PanelTabla(Dialogos& dialogos, QWidget* padre)
     connect(&vista_, &QTableView::clicked, this,
             [this](const QModelIndex& celda) { protege([&] { elige(celda); }); });
     connect(&siguiente_, &QToolButton::clicked, this, [this] { protege([this] { vaAlSiguiente(); }); });
-    connect(&botones_, &BotonesDibujo::fallo, this, &Panel::fallo);
     const auto pide = [this] { protege([this] { pideConflicto(); }); };
     connect(&vista_, &QTableView::activated, this, pide);
     connect(&conflicto_, &QToolButton::clicked, this, pide);
@@ -67,6 +66,8 @@ void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     if (esElMismo) return;
     const QScopedValueRollback<bool> callado(callado_, true);
     modelo_.muestra(estudio_->deLenguaje);
+    deRegla_.clear();
+    palabrasDeRegla_.clear();
     ajusta();
     vista_.setCurrentIndex(modelo_.index(0, 0)); // coming here chooses nothing
     const auto conflictos = modelo_.enConflicto().size();
@@ -81,7 +82,8 @@ void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 void PanelTabla::muestraPalabras() {
     const QModelIndex celda = vista_.currentIndex();
     conflicto_.setEnabled(modelo_.estaEnConflicto(celda));
-    palabras_.setText(estudio_->gramatica() == nullptr ? aQString(sinTabla) : modelo_.palabras(celda));
+    palabras_.setText(estudio_->gramatica() == nullptr ? aQString(sinTabla)
+                                                       : modelo_.palabras(celda) + palabrasDeRegla_);
 }
 
 void PanelTabla::pideConflicto() {
@@ -102,6 +104,11 @@ void PanelTabla::ajusta() {
     for (const DeCelda& celda : modelo_.enConflicto())
         anchos[static_cast<std::size_t>(celda.codigo)] =
             letra.horizontalAdvance(QStringLiteral("⚠ D000 / R000"));
+    if (const GramaticaLR* const g = estudio_ ? estudio_->gramatica() : nullptr; g != nullptr)
+        if (const std::int16_t fin = g->tabla.codigoFin(); fin >= 0) {
+            int& suyo = anchos[static_cast<std::size_t>(fin)];
+            suyo = std::max(suyo, letra.horizontalAdvance(QStringLiteral("ACEPTAR")));
+        }
     for (int c = 0; c < modelo_.columnCount(); ++c) {
         const QString simbolo = modelo_.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
         vista_.setColumnWidth(
@@ -125,19 +132,52 @@ Lamina PanelTabla::lamina() const {
 }
 
 void PanelTabla::selecciona(const Eleccion& eleccion) {
-    const auto estado = estadoDe(eleccion);
-    if (!estado) return;
-    const auto* const celda = std::get_if<DeCelda>(&eleccion);
-    const int columna = celda != nullptr ? celda->codigo : std::max(0, vista_.currentIndex().column());
+    if (!estudio_ || std::holds_alternative<EnTexto>(eleccion)) return; // the node there comes, too
     const QScopedValueRollback<bool> callado(callado_, true);
-    vista_.setCurrentIndex(modelo_.index(*estado, columna));
+    resalta(eleccion);
+    if (const QModelIndex celda = celdaPara(eleccion); celda.isValid()) vista_.setCurrentIndex(celda);
     muestraPalabras();
+}
+
+/// What reduces by its rule.
+void PanelTabla::resalta(const Eleccion& eleccion) {
+    const auto regla = reglaDe(*estudio_, eleccion);
+    deRegla_ = modelo_.resalta(regla.value_or(0));
+    palabrasDeRegla_.clear();
+    if (!regla || estudio_->gramatica() == nullptr) return;
+    const auto cuantas = deRegla_.size();
+    palabrasDeRegla_ =
+        QStringLiteral("\n%1: %2")
+            .arg(aQString(palabrasDeRegla(*estudio_->gramatica(), *regla)),
+                 cuantas == 0   ? QStringLiteral("ninguna celda reduce por ella")
+                 : cuantas == 1 ? QStringLiteral("la reduce 1 celda, subrayada")
+                                : QStringLiteral("la reducen %1 celdas, subrayadas").arg(cuantas));
+}
+
+/// A state is told, or it is one that reduces by the chosen rule; of a rule alone the cell is one that does.
+QModelIndex PanelTabla::celdaPara(const Eleccion& eleccion) const {
+    const QModelIndex ahora = vista_.currentIndex();
+    auto estado = estadoDe(eleccion);
+    auto columna = columnaDe(*estudio_, eleccion);
+    const bool esLugar = std::holds_alternative<EnEspecificacion>(eleccion); // it is at a symbol
+    if (!deRegla_.empty() && !(columna && estado)) {
+        const auto cerca = [&](const DeCelda& c) { return c.estado == estado.value_or(ahora.row()); };
+        const auto suya = std::ranges::find_if(deRegla_, cerca);
+        const DeCelda& celda = suya == deRegla_.end() ? deRegla_.front() : *suya;
+        if (!columna || !esLugar) columna = celda.codigo;
+        if (!estado) estado = celda.estado;
+    }
+    if (!estado && !columna) return {};
+    return modelo_.index(estado.value_or(std::max(0, ahora.row())),
+                         columna.value_or(std::max(0, ahora.column())));
 }
 
 void PanelTabla::elige(const QModelIndex& celda) {
     if (callado_ || !celda.isValid()) return;
+    const DeCelda suya{static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())};
+    resalta(suya);
     muestraPalabras();
-    emit elegido(DeCelda{static_cast<std::int16_t>(celda.row()), static_cast<std::int16_t>(celda.column())});
+    emit elegido(suya);
 }
 
 /// In the order of the table, and from the last one to the first.

@@ -13,6 +13,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace norvik::taller {
 
 /// The table: what the chosen cell does, in words, and a way from conflict to conflict.
@@ -36,9 +38,14 @@ signals:
     /// The person wants to be told the conflict of a cell.
     void conflictoPedido(const norvik::taller::DeCelda& celda);
 
+protected:
+    void alCambiarLetra() override { ajusta(); }
+
 private:
     void compone();
     void ajusta();
+    void resalta(const Eleccion& eleccion);
+    QModelIndex celdaPara(const Eleccion& eleccion) const;
     void elige(const QModelIndex& celda);
     void muestraPalabras();
     void pideConflicto();
@@ -55,6 +62,8 @@ private:
     QTableView vista_;
     BotonesDibujo botones_;
     std::shared_ptr<const Estudio> estudio_;
+    std::vector<DeCelda> deRegla_; ///< those that reduce by the chosen rule
+    QString palabrasDeRegla_;
     bool callado_ = false; ///< what is chosen was chosen elsewhere
 };
 

@@ -62,12 +62,6 @@ PanelUsos::PanelUsos(QWidget* padre) : Panel(QStringLiteral("usos"), QStringLite
     };
     connect(&lista_, &QTreeWidget::itemActivated, this, va);
     connect(&lista_, &QTreeWidget::itemClicked, this, va);
-    connect(this, &QDockWidget::visibilityChanged, this, [this](bool seVe) {
-        protege([&] {
-            seVe_ = seVe;
-            llenaSiSeVe();
-        });
-    });
 }
 
 void PanelUsos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
@@ -83,7 +77,7 @@ void PanelUsos::busca(std::u16string nombre) {
 }
 
 void PanelUsos::llenaSiSeVe() {
-    if (seVe_ && estudio_ && llenado_ != estudio_->deLenguaje) llena();
+    if (seVe() && estudio_ && llenado_ != estudio_->deLenguaje) llena();
 }
 
 /// A list that is filled anew stays at its row.

@@ -28,6 +28,9 @@ public:
     // For those who drive it from outside.
     QTreeWidget& lista() { return lista_; }
 
+protected:
+    void alVerse() override { llenaSiSeVe(); }
+
 private:
     void llena();
     void llenaSiSeVe();
@@ -43,7 +46,6 @@ private:
     std::u16string nombre_;
     std::vector<Rango> lugares_; ///< of each row
     bool callado_ = false;       ///< the list is being filled
-    bool seVe_ = false;
 };
 
 } // namespace norvik::taller

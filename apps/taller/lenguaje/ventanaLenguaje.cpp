@@ -96,7 +96,7 @@ void VentanaLenguaje::colocaPaneles() {
     }
     problemas_.raise();
     resizeDocks({&arbol_}, {340}, Qt::Horizontal);
-    resizeDocks({&problemas_}, {240}, Qt::Vertical);
+    resizeDocks({&problemas_}, {340}, Qt::Vertical); // both trees of a conflict have room
 }
 
 QAction& VentanaLenguaje::accion(QMenu& menu, const QString& texto, const QKeySequence& teclas,
@@ -394,16 +394,27 @@ void VentanaLenguaje::sigueCursor() {
     const Rango rango = activo_->seleccion();
     const Eleccion eleccion =
         activo_ == &texto_ ? Eleccion(EnTexto{rango}) : Eleccion(EnEspecificacion{rango});
-    for (Panel* const panel : paneles()) panel->selecciona(eleccion);
+    reparte(eleccion, nullptr);
 }
 
 void VentanaLenguaje::elige(const Eleccion& eleccion, const Panel* desde) {
-    const auto& estudio = desde->muestraLoQueNoCompila() ? ultimo_ : mostrado_;
+    const auto& estudio = estudioDe(*desde);
     if (eligiendo_ || !estudio) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
-    for (Panel* const panel : paneles())
-        if (panel != desde && mostrado_) panel->selecciona(eleccion);
+    reparte(eleccion, desde);
     muestraEnEditores(*estudio, eleccion);
+}
+
+/// Among those that show the same version. A place of the text is a node of its tree, too; the place itself
+/// comes last.
+void VentanaLenguaje::reparte(const Eleccion& eleccion, const Panel* desde) {
+    const auto& estudio = desde != nullptr ? estudioDe(*desde) : mostrado_;
+    const auto nodo = std::holds_alternative<EnTexto>(eleccion) ? nodoDe(*estudio, eleccion) : std::nullopt;
+    for (Panel* const panel : paneles()) {
+        if (panel == desde || estudioDe(*panel) != estudio) continue;
+        if (nodo) panel->selecciona(DeNodo{*nodo});
+        panel->selecciona(eleccion);
+    }
 }
 
 /// Places are those of the study: in another text they mean nothing.

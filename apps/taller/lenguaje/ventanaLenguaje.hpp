@@ -124,6 +124,11 @@ private:
     void marca();
     void sigueCursor();
     void elige(const Eleccion& eleccion, const Panel* desde);
+    void reparte(const Eleccion& eleccion, const Panel* desde);
+    /// What a panel shows.
+    const std::shared_ptr<const Estudio>& estudioDe(const Panel& panel) const {
+        return panel.muestraLoQueNoCompila() ? ultimo_ : mostrado_;
+    }
     void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
     void arregla(Lado lado, const Arreglo& arreglo);
     QString palabrasDe(const NombreEscrito& nombre, AyudaDeNombres::Pregunta pregunta) const;

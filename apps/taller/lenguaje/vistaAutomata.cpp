@@ -14,7 +14,7 @@ void VistaAutomata::muestra(const DibujoAutomata& dibujo, const RealceAutomata& 
     VistaDibujo::muestra([this](const QPalette& colores, QGraphicsScene& escena) {
         pinta(dibujo_, colores, realce_, escena);
     });
-    elige(realce);
+    ensureVisible(dibujo_.caja(realce.estado));
 }
 
 void VistaAutomata::vacia() {
@@ -23,11 +23,9 @@ void VistaAutomata::vacia() {
 }
 
 void VistaAutomata::elige(const RealceAutomata& realce) {
-    if (!dibuja(realce.estado)) return;
-    if (realce_ != realce) {
-        realce_ = realce;
-        repinta();
-    }
+    if (!dibuja(realce.estado) || realce_ == realce) return;
+    realce_ = realce;
+    repinta();
     ensureVisible(dibujo_.caja(realce.estado));
 }
 

@@ -15,6 +15,12 @@
 
 namespace norvik::taller {
 
+namespace {
+
+constexpr double legible = 0.6; // smaller letters nobody reads
+
+} // namespace
+
 VistaDibujo::VistaDibujo(const QString& nombre, const QString& paraLectores, QWidget* padre)
     : QGraphicsView(padre) {
     setObjectName(QStringLiteral("dibujo"));
@@ -27,14 +33,24 @@ VistaDibujo::VistaDibujo(const QString& nombre, const QString& paraLectores, QWi
 }
 
 void VistaDibujo::muestra(Lamina::Pinta pinta) {
+    if (pinta_) centro_ = centro();
     pinta_ = std::move(pinta);
     repinta();
-    encaja();
+    if (std::exchange(porEncajar_, false))
+        encaja(legible);
+    else
+        centerOn(centro_);
 }
 
 void VistaDibujo::vacia() {
+    if (pinta_) centro_ = centro();
     pinta_ = nullptr;
     repinta();
+}
+
+void VistaDibujo::empiezaDeNuevo() {
+    porEncajar_ = true;
+    comoEncaja_ = true;
 }
 
 void VistaDibujo::repinta() {
@@ -52,18 +68,28 @@ void VistaDibujo::acerca(int numero) {
         if (pieza->data(0).isValid() && pieza->data(0).toInt() == numero) return ensureVisible(pieza);
 }
 
-void VistaDibujo::encaja() {
+void VistaDibujo::encaja(double minimo) {
+    comoEncaja_ = minimo > 0; // what a person asked for stays
     resetTransform();
-    const QSizeF sitio = viewport()->size();
+    // With or without scroll bars, which come and go with the size; what rounds up needs none.
+    const QSizeF sitio = maximumViewportSize() - QSize(4, 4);
     const QSizeF medida = escena_.sceneRect().size();
-    constexpr double legible = 0.6; // smaller letters nobody reads
-    const double escala = std::min(sitio.width() / medida.width(), sitio.height() / medida.height());
-    if (escala < 1) scale(std::max(escala, legible), std::max(escala, legible));
+    if (medida.isEmpty() || sitio.isEmpty()) return;
+    const double cabe = std::min(sitio.width() / medida.width(), sitio.height() / medida.height());
+    if (const double escala = std::max(cabe, minimo); escala < 1) scale(escala, escala);
 }
 
+/// A large drawing that fits may be smaller than anyone makes it step by step.
 void VistaDibujo::aumenta(double veces) {
+    comoEncaja_ = false;
     const double ahora = transform().m11() * veces;
-    if (ahora > 0.05 && ahora < 20) scale(veces, veces);
+    if (veces > 1 ? ahora < 20 : ahora > 0.05) scale(veces, veces);
+}
+
+/// Views are filled before they have their place in a window.
+void VistaDibujo::resizeEvent(QResizeEvent* evento) {
+    QGraphicsView::resizeEvent(evento);
+    if (pinta_ && comoEncaja_) sinFallos([this] { encaja(legible); });
 }
 
 void VistaDibujo::wheelEvent(QWheelEvent* evento) {
@@ -82,7 +108,8 @@ void VistaDibujo::mousePressEvent(QMouseEvent* evento) {
 
 void VistaDibujo::changeEvent(QEvent* evento) {
     QGraphicsView::changeEvent(evento);
-    if (evento->type() == QEvent::PaletteChange) sinFallos([&] { repinta(); });
+    if (evento->type() == QEvent::PaletteChange || evento->type() == QEvent::FontChange)
+        sinFallos([&] { repinta(); });
 }
 
 } // namespace norvik::taller

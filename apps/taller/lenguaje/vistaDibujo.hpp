@@ -6,6 +6,7 @@
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QPointF>
 
 #include <set>
 
@@ -19,9 +20,12 @@ class VistaDibujo : public QGraphicsView {
 public:
     VistaDibujo(const QString& nombre, const QString& paraLectores, QWidget* padre = nullptr);
 
-    /// Shows another one as large as it is, or as it fits.
+    /// Shows another one in the size and at the place of the one before; the first one as it fits, and no
+    /// smaller than people read.
     void muestra(Lamina::Pinta pinta);
     void vacia();
+    /// The next one is another thing: it is shown as the first one is.
+    void empiezaDeNuevo();
     /// Draws it again, in the same size and place.
     void repinta();
 
@@ -31,7 +35,7 @@ public:
     /// Brings a piece into view, by its number.
     void acerca(int numero);
     /// All of it, but no larger than it is.
-    void encaja();
+    void encaja() { encaja(0); }
 
 signals:
     void elegido(int numero);
@@ -40,13 +44,19 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void changeEvent(QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
+    void encaja(double minimo);
     void aumenta(double veces);
+    QPointF centro() const { return mapToScene(viewport()->rect().center()); }
 
     QGraphicsScene escena_;
     Lamina::Pinta pinta_;
-    std::set<int> numeros_; ///< of the pieces
+    QPointF centro_;         ///< of what was seen last
+    bool porEncajar_ = true; ///< nothing was shown yet
+    bool comoEncaja_ = true; ///< nobody has asked for another size
+    std::set<int> numeros_;  ///< of the pieces
 };
 
 } // namespace norvik::taller
