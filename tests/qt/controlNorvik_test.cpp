@@ -523,18 +523,26 @@ TEST_F(ControlNorvikTest, DemasiadoTextoTrasDeshacerSeDiceOtraVez) {
 
 /// The same key is the text's only once it has gone down there.
 TEST_F(ControlNorvikTest, UnaTeclaQueSeMantieneEsDeQuienLaOyoBajar) {
-    const auto repite = [&] {
-        QKeyEvent evento(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 36, 0, 0, "\r", true);
+    const auto da = [&](QEvent::Type suceso, bool repetida, ulong cuando) {
+        QKeyEvent evento(suceso, Qt::Key_Return, Qt::NoModifier, 36, 0, 0, "\r", repetida);
+        evento.setTimestamp(cuando);
         QApplication::sendEvent(&editor, &evento);
+    };
+    const auto repite = [&](ulong cuando) {
+        da(QEvent::KeyRelease, true, cuando);
+        da(QEvent::KeyPress, true, cuando);
+        da(QEvent::KeyRelease, false, cuando + 40); // of which Qt did not notice what it is
+        da(QEvent::KeyPress, false, cuando + 40);
     };
     norvik.Text("x");
     for (int vez = 1; vez <= 2; ++vez) {
-        repite();
+        const auto cuando = static_cast<ulong>(vez) * 1000;
+        repite(cuando);
+        repite(cuando + 80);
         EXPECT_EQ(norvik.caja().numeroDeLineas(), 3 * vez - 2);
-        QKeyEvent baja(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 36, 0, 0, "\r");
-        QApplication::sendEvent(&editor, &baja);
-        repite();
-        repite();
+        da(QEvent::KeyRelease, false, cuando + 200);
+        da(QEvent::KeyPress, false, cuando + 300);
+        repite(cuando + 400);
         EXPECT_EQ(norvik.caja().numeroDeLineas(), 3 * vez + 1);
         despues.setFocus(); // a message box, say
         norvik.setFocus();

@@ -137,10 +137,18 @@ bool esTabulador(const QKeyEvent& tecla) {
 
 } // namespace
 
+/// Qt does not always notice that one is repeated: then it goes up and down at the same moment.
+bool VistaTexto::seRepite(const QKeyEvent& tecla) const {
+    constexpr std::uint64_t momento = 5; // milliseconds
+    const bool soltada = soltadaAjena_.tecla == identidad(tecla) && tecla.timestamp() != 0 &&
+                         tecla.timestamp() - soltadaAjena_.cuando <= momento;
+    return tecla.isAutoRepeat() || soltada;
+}
+
 /// One that went down elsewhere, in a message box that it closed, writes nothing here however long it is
 /// held.
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
-    if (evento->isAutoRepeat() && !bajadas_.contains(identidad(*evento))) return;
+    if (!bajadas_.contains(identidad(*evento)) && seRepite(*evento)) return;
     atiende([&] {
         bajadas_.insert(identidad(*evento));
         pulsa(*evento);
@@ -192,6 +200,7 @@ QString VistaTexto::filtra(const QString& texto) {
 
 /// A key that went down elsewhere, in a message box that it closed, is not one of the text's.
 void VistaTexto::keyReleaseEvent(QKeyEvent* evento) {
+    if (!bajadas_.contains(identidad(*evento))) soltadaAjena_ = {identidad(*evento), evento->timestamp()};
     const bool suya =
         evento->isAutoRepeat() || bajadas_.erase(identidad(*evento)) > 0 || esTabulador(*evento);
     if (!suya) return;

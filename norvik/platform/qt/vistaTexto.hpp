@@ -77,6 +77,7 @@ private:
     bool hayCaja() const { return caja_ != nullptr; }
     template <typename Accion>
     void atiende(Accion accion);
+    bool seRepite(const QKeyEvent& tecla) const;
     void pulsa(QKeyEvent& evento);
     void escribe(QKeyEvent& evento);
     QString filtra(const QString& texto);
@@ -85,6 +86,11 @@ private:
 
     CajaTextoQt* caja_;               ///< null once it has gone
     std::set<std::uint64_t> bajadas_; ///< keys that went down here and have not come up
+    struct Soltada {
+        std::uint64_t tecla = 0;
+        std::uint64_t cuando = 0; ///< by the clock of the events
+    };
+    Soltada soltadaAjena_; ///< the last one that came up here and had gone down elsewhere
 };
 
 } // namespace norvik
