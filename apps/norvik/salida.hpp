@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "norvik/base/visible.hpp"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -49,12 +51,5 @@ private:
     std::string pendiente_;
     std::size_t vistos_ = 0; // bytes at its beginning that a terminal may have
 };
-
-/// The text with pictures in place of control characters other than tabs, those of the direction of writing
-/// too, for a person to look at.
-std::u16string visible(std::u16string_view texto);
-/// The same of text in UTF-8 of several lines, whose ends stay. A line that is no UTF-8 is read as
-/// Windows-1252.
-std::string lineasVisibles(std::string_view bytes);
 
 } // namespace norvik::orden

@@ -7,6 +7,7 @@
 #include "sistemaTaller.hpp"
 #include "ventanaPrincipal.hpp"
 
+#include "norvik/base/visible.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 #include "norvik/tools/iconos.hpp"
 
@@ -19,6 +20,7 @@
 
 #include <array>
 #include <iostream>
+#include <unistd.h>
 
 namespace {
 
@@ -36,8 +38,11 @@ public:
     }
 };
 
+/// A terminal is given nothing of a word that it could take for an order.
 int responde(const Contesta& respuesta) {
-    (respuesta.estado == 0 ? std::cout : std::cerr) << respuesta.texto;
+    const bool vale = respuesta.estado == 0;
+    const bool enTerminal = isatty(vale ? STDOUT_FILENO : STDERR_FILENO) == 1;
+    (vale ? std::cout : std::cerr) << (enTerminal ? lineasVisibles(respuesta.texto) : respuesta.texto);
     return respuesta.estado;
 }
 
