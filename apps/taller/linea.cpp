@@ -42,6 +42,15 @@ Contesta error(const std::string& motivo) {
     return {"norvik-taller: " + motivo + " (norvik-taller --help explica el uso)\n", 2};
 }
 
+/// The one that the line cannot be split for: the only option with a value lacks it, or another one has one.
+Contesta malEscrita(const std::vector<std::string>& palabras) {
+    for (const std::string& palabra : palabras)
+        if (palabra.starts_with("--") && !palabra.starts_with("--lenguaje") &&
+            palabra.find('=') != std::string::npos)
+            return error("la opción «" + palabra + "» no lleva valor");
+    return error("falta el valor de la opción «--lenguaje»");
+}
+
 /// What each file is, and what it is for; nothing when there is room for it.
 std::optional<Contesta> coloca(const std::string& palabra, Arranque& arranque) {
     const QString fichero = QString::fromLocal8Bit(palabra);
@@ -90,12 +99,8 @@ std::variant<Arranque, Contesta> leeLinea(int argc, const char* const* argv) {
     app.add_option("FICHERO", ficheros);
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ArgumentMismatch&) {
-        const std::string ultima = argv[argc - 1];
-        return error(ultima == "--lenguaje" ? "falta el valor de la opción «" + ultima + "»"
-                                            : "--help y --version no llevan valor");
     } catch (const CLI::ParseError&) {
-        return error("opción mal escrita");
+        return malEscrita({argv + 1, argv + argc});
     }
     if (pideAyuda) return Contesta{ayuda};
     if (pideVersion) return Contesta{"norvik-taller " NORVIK_VERSION "\n"};
