@@ -9,9 +9,7 @@
 
 #include <QAbstractScrollArea>
 #include <QAction>
-#include <QDropEvent>
 #include <QFileInfo>
-#include <QMimeData>
 
 #include <algorithm>
 #include <utility>
@@ -69,10 +67,6 @@ bool ElementoFormulario::eventFilter(QObject* objeto, QEvent* evento) {
     const bool otroSitio = evento->type() == QEvent::Resize || evento->type() == QEvent::Move;
     if (objeto == &norvik_ && otroSitio) velo_.setGeometry(norvik_.geometry());
     if (objeto != &norvik_ && evento->type() == QEvent::FocusIn) emit activado();
-    if (evento->type() == QEvent::DragEnter && static_cast<QDropEvent*>(evento)->mimeData()->hasUrls()) {
-        evento->ignore(); // files are the window's
-        return true;
-    }
     return QWidget::eventFilter(objeto, evento);
 }
 

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -334,16 +335,32 @@ void VistaTexto::insertFromMimeData(const QMimeData* datos) {
     atiende([&] { caja_->pega(datos->text()); });
 }
 
+namespace {
+
+/// Their addresses are no text that a person wants here; a window around may open them.
+bool traeFicheros(const QMimeData& datos) {
+    const QList<QUrl> direcciones = datos.urls();
+    return std::any_of(direcciones.begin(), direcciones.end(), [](const QUrl& u) { return u.isLocalFile(); });
+}
+
+} // namespace
+
+void VistaTexto::dragEnterEvent(QDragEnterEvent* evento) {
+    if (traeFicheros(*evento->mimeData())) return evento->ignore();
+    QPlainTextEdit::dragEnterEvent(evento);
+}
+
 /// The editor's own drop would take the text away and insert it in one edit, which no one outside could
 /// follow.
 void VistaTexto::dropEvent(QDropEvent* evento) {
     QDragLeaveEvent fin;
     QPlainTextEdit::dragLeaveEvent(&fin);
-    if (!canInsertFromMimeData(evento->mimeData())) return evento->ignore();
+    const QMimeData* const datos = evento->mimeData();
+    if (!canInsertFromMimeData(datos) || traeFicheros(*datos)) return evento->ignore();
     const bool mueve = evento->dropAction() == Qt::MoveAction && evento->source() == viewport();
     atiende([&] {
         const int posicion = cursorForPosition(evento->position().toPoint()).position();
-        caja_->suelta(evento->mimeData()->text(), posicion, mueve);
+        caja_->suelta(datos->text(), posicion, mueve);
     });
     evento->acceptProposedAction();
     if (hayCaja()) setFocus();

@@ -66,6 +66,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void focusInEvent(QFocusEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
     void changeEvent(QEvent* evento) override;
