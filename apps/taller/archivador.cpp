@@ -10,24 +10,25 @@
 
 namespace norvik::taller {
 
-bool Archivador::guarda(DocumentoTexto& documento, const ComoSeGuarda& como) const {
+Archivado Archivador::guarda(DocumentoTexto& documento, const ComoSeGuarda& como) const {
     if (documento.fichero().isEmpty()) return guardaComo(documento, como);
-    return documento.alDia() || escribe(documento, documento.fichero(), como);
+    return documento.alDia() ? Archivado::Si : escribe(documento, documento.fichero(), como);
 }
 
-bool Archivador::guardaComo(DocumentoTexto& documento, const ComoSeGuarda& como) const {
+Archivado Archivador::guardaComo(DocumentoTexto& documento, const ComoSeGuarda& como) const {
     const QString propuesto = documento.fichero().isEmpty() ? como.propuesto : documento.fichero();
     const auto fichero = dialogos_.eligeParaGuardar(como.titulo, como.filtros, propuesto, como.extension);
-    return fichero && escribe(documento, *fichero, como);
+    return fichero ? escribe(documento, *fichero, como) : Archivado::No;
 }
 
 bool Archivador::puedePerder(DocumentoTexto& documento, const ComoSeGuarda& como) const {
     if (!documento.modificado()) return true;
     const QString pregunta = QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(documento.titulo());
-    return dialogos_.guardaOPierde(pregunta, [&] { return guarda(documento, como); });
+    return dialogos_.guardaOPierde(pregunta, [&] { return guarda(documento, como) != Archivado::No; });
 }
 
-bool Archivador::escribe(DocumentoTexto& documento, const QString& fichero, const ComoSeGuarda& como) const {
+Archivado Archivador::escribe(DocumentoTexto& documento, const QString& fichero,
+                              const ComoSeGuarda& como) const {
     if (fichero != documento.fichero() || !documento.otroLoCambio()) return sobrescribe(documento, fichero);
     switch (dialogos_.preguntaChoque(preguntaDeChoque(fichero))) {
     case Choque::Sobrescribir:
@@ -36,14 +37,14 @@ bool Archivador::escribe(DocumentoTexto& documento, const QString& fichero, cons
         return guardaComo(documento, como);
     case Choque::Recargar:
         documento.abre(fichero);
-        return true;
+        return Archivado::Recargado;
     case Choque::Cancelar:
-        return false;
+        return Archivado::No;
     }
-    return false;
+    return Archivado::No;
 }
 
-bool Archivador::sobrescribe(DocumentoTexto& documento, const QString& fichero) const {
+Archivado Archivador::sobrescribe(DocumentoTexto& documento, const QString& fichero) const {
     std::u16string motivo;
     if (documento.esBinario())
         motivo = u"«" + documento.titulo().toStdU16String() +
@@ -54,7 +55,7 @@ bool Archivador::sobrescribe(DocumentoTexto& documento, const QString& fichero) 
         motivo = error.texto();
     }
     if (!motivo.empty()) sistema_.muestraMensaje({motivo, {}, Icono::Critico, Botones::Aceptar});
-    return motivo.empty();
+    return motivo.empty() ? Archivado::Si : Archivado::No;
 }
 
 QString preguntaDeChoque(const QString& fichero) {

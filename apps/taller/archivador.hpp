@@ -15,21 +15,28 @@ struct ComoSeGuarda {
     QString propuesto; ///< for a document without a file
 };
 
+/// What became of a document that was to be saved.
+enum class Archivado : std::uint8_t {
+    No, ///< why was told, or a person did not want it
+    Si,
+    Recargado, ///< a person preferred what another program had written
+};
+
 /// Saves the documents of the windows, and asks for what would be lost: what was typed here, and what another
-/// program wrote into the file meanwhile. Each returns false when nothing was saved or given up; why is told.
+/// program wrote into the file meanwhile.
 class Archivador {
 public:
     Archivador(SistemaQt& sistema, Dialogos& dialogos) : sistema_(sistema), dialogos_(dialogos) {}
 
     /// Writes nothing when the file has it already.
-    bool guarda(DocumentoTexto& documento, const ComoSeGuarda& como) const;
-    bool guardaComo(DocumentoTexto& documento, const ComoSeGuarda& como) const;
+    Archivado guarda(DocumentoTexto& documento, const ComoSeGuarda& como) const;
+    Archivado guardaComo(DocumentoTexto& documento, const ComoSeGuarda& como) const;
     /// The document is saved, or was not changed, or is given up.
     bool puedePerder(DocumentoTexto& documento, const ComoSeGuarda& como) const;
 
 private:
-    bool escribe(DocumentoTexto& documento, const QString& fichero, const ComoSeGuarda& como) const;
-    bool sobrescribe(DocumentoTexto& documento, const QString& fichero) const;
+    Archivado escribe(DocumentoTexto& documento, const QString& fichero, const ComoSeGuarda& como) const;
+    Archivado sobrescribe(DocumentoTexto& documento, const QString& fichero) const;
 
     SistemaQt& sistema_;
     Dialogos& dialogos_;

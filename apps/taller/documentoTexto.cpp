@@ -2,8 +2,6 @@
 
 #include "documentoTexto.hpp"
 
-#include "documentos.hpp"
-
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
@@ -16,7 +14,7 @@
 namespace norvik::taller {
 
 QString DocumentoTexto::titulo() const {
-    return fichero_.isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero_).fileName();
+    return fichero().isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero()).fileName();
 }
 
 bool DocumentoTexto::modificado() const {
@@ -30,22 +28,10 @@ QString DocumentoTexto::nombreDelFormato() const {
            aQString(nombreDe(formato_.salto));
 }
 
-bool DocumentoTexto::alDia() const {
-    const QString huella = huellaDe(fichero_);
-    return !modificado() && !huella.isEmpty() && huella == huella_;
-}
-
-/// Where there is nothing any more nothing is lost.
-bool DocumentoTexto::otroLoCambio() const {
-    const QString huella = huellaDe(fichero_);
-    return !huella.isEmpty() && huella != huella_;
-}
-
 void DocumentoTexto::vacia() {
     formato_ = {};
     esBinario_ = false;
-    fichero_.clear();
-    huella_.clear();
+    fichero_.olvida();
     try {
         norvik_.control().BorraTodo();
     } catch (const Desbordamiento&) { // there were more changes than it counts, and none is left
@@ -66,7 +52,7 @@ void DocumentoTexto::ponTexto(std::u16string_view texto) {
 }
 
 void DocumentoTexto::anotaEntregado() {
-    if (fichero_.isEmpty()) anotaGuardado(std::u16string(norvik_.caja().texto()));
+    if (fichero().isEmpty()) anotaGuardado(std::u16string(norvik_.caja().texto()));
 }
 
 /// The path may be the document's own, which is about to be forgotten.
@@ -82,13 +68,8 @@ void DocumentoTexto::abre(const QString& fichero) {
     }
     formato_ = formatoDe(bytes);
     esBinario_ = norvik::esBinario(bytes);
-    huella_ = huella;
-    pon(ruta, normalizaLineas(decodifica(bytes)));
-}
-
-void DocumentoTexto::pon(const QString& fichero, std::u16string_view texto) {
-    fichero_ = QFileInfo(fichero).absoluteFilePath();
-    anotaGuardado(texto);
+    fichero_.pon(ruta, huella);
+    anotaGuardado(normalizaLineas(decodifica(bytes)));
 }
 
 /// What colouring corrected in a text that was read is not yet in its file.
@@ -101,21 +82,20 @@ void DocumentoTexto::anotaGuardado(std::u16string_view texto) {
 void DocumentoTexto::guarda(const QString& fichero) {
     const std::u16string_view texto = norvik_.caja().texto();
     const TextoCodificado codificado = codifica(texto, formato_);
-    escribeDocumento(fichero, codificado.bytes);
-    huella_ = huellaDe(fichero);
+    fichero_.escribe(fichero, codificado.bytes);
     if (std::exchange(formato_, codificado.formato) != codificado.formato)
         emit aviso(QStringLiteral("Hay caracteres que no caben en Windows-1252: guardado en UTF-8"));
-    pon(fichero, texto);
+    anotaGuardado(texto);
 }
 
 EstadoDocumento DocumentoTexto::estado() const {
-    return {fichero_, huella_, formato_, esBinario_, modificado(), std::u16string(norvik_.caja().texto())};
+    return {fichero_.ruta(), fichero_.huella(), formato_,
+            esBinario_,      modificado(),      std::u16string(norvik_.caja().texto())};
 }
 
 void DocumentoTexto::repone(const EstadoDocumento& estado) {
     empieza(estado.texto);
-    fichero_ = estado.fichero;
-    huella_ = estado.huella;
+    fichero_.pon(estado.fichero, estado.huella);
     formato_ = estado.formato;
     esBinario_ = estado.esBinario;
     if (estado.modificado) guardado_.reset();

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "documentos.hpp"
+
 #include "norvik/base/formatoTexto.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 
@@ -33,7 +35,7 @@ public:
     /// The control outlives it.
     explicit DocumentoTexto(ControlNorvik& norvik) : norvik_(norvik) {}
 
-    const QString& fichero() const { return fichero_; }
+    const QString& fichero() const { return fichero_.ruta(); }
     /// What a person calls it.
     QString titulo() const;
     /// It is another text than that which was saved or read.
@@ -44,9 +46,9 @@ public:
     /// Encoding and line ends of its file, as people call them.
     QString nombreDelFormato() const;
     /// Its file has what the control has, as far as is known: there is nothing to write.
-    bool alDia() const;
+    bool alDia() const { return !modificado() && fichero_.esElMismo(); }
     /// What stands in the place of its file is not what was read from there or written.
-    bool otroLoCambio() const;
+    bool otroLoCambio() const { return fichero_.otroLoCambio(); }
 
     void vacia();
     /// A text without a file, which nobody would miss as it is.
@@ -70,12 +72,10 @@ signals:
 
 private:
     void ponTexto(std::u16string_view texto);
-    void pon(const QString& fichero, std::u16string_view texto);
     void anotaGuardado(std::u16string_view texto);
 
     ControlNorvik& norvik_;
-    QString fichero_;
-    QString huella_;
+    FicheroConocido fichero_;
     FormatoTexto formato_;
     bool esBinario_ = false;
     std::optional<std::u16string> guardado_ = std::u16string(); ///< nothing: it is not known here

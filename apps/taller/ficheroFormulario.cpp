@@ -179,9 +179,4 @@ FormularioGuardado leeFormulario(const QString& fichero) {
     }
 }
 
-void escribeFormulario(const QString& fichero, const FormularioGuardado& formulario) {
-    const QByteArray json = enJson(formulario, QFileInfo(fichero).absoluteDir());
-    escribeDocumento(fichero, {json.data(), static_cast<std::size_t>(json.size())});
-}
-
 } // namespace norvik::taller

@@ -40,7 +40,5 @@ FormularioGuardado formularioDeJson(const QByteArray& json, const QDir& carpeta)
 
 /// Raises `ErrorDeFichero`, and `NoCoincidenLosTipos`, with the place, for a file that is no form.
 FormularioGuardado leeFormulario(const QString& fichero);
-/// Writes the file whole and on the disk, or raises `ErrorDeFichero`.
-void escribeFormulario(const QString& fichero, const FormularioGuardado& formulario);
 
 } // namespace norvik::taller

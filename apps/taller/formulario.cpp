@@ -2,8 +2,6 @@
 
 #include "formulario.hpp"
 
-#include "documentos.hpp"
-
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
 
@@ -86,8 +84,7 @@ void Formulario::retira(std::size_t cuantos) {
     elementos_.erase(elementos_.begin(), elementos_.begin() + static_cast<std::ptrdiff_t>(cuantos));
     muestraTitulos();
     activa(*elementos_.front());
-    fichero_.clear();
-    huella_.clear();
+    fichero_.olvida();
     otros_ = {};
 }
 
@@ -111,8 +108,8 @@ void Formulario::vacia() {
 // ---- what is saved
 
 QString Formulario::titulo() const {
-    return fichero_.isEmpty() ? QStringLiteral("Formulario sin título")
-                              : QFileInfo(fichero_).completeBaseName();
+    return fichero().isEmpty() ? QStringLiteral("Formulario sin título")
+                               : QFileInfo(fichero()).completeBaseName();
 }
 
 void Formulario::ponModificado(bool modificado) {
@@ -124,18 +121,18 @@ void Formulario::ponModificado(bool modificado) {
 
 QStringList Formulario::abre(const QString& fichero) {
     const QString huella = huellaDe(fichero); // of what is read next, or of what was there before
-    QStringList avisos = pon(leeFormulario(fichero), QFileInfo(fichero).absoluteFilePath());
-    huella_ = huella;
+    const QString ruta = QFileInfo(fichero).absoluteFilePath(); // the path may be the form's own
+    QStringList avisos = pon(leeFormulario(fichero));
+    fichero_.pon(ruta, huella);
     ponModificado(false);
     return avisos;
 }
 
-QStringList Formulario::pon(const FormularioGuardado& formulario, const QString& fichero) {
+QStringList Formulario::pon(const FormularioGuardado& formulario) {
     const std::size_t antes = elementos_.size();
     anade(formulario.elementos);
     retira(antes);
     QStringList avisos = llena(formulario.elementos);
-    fichero_ = fichero;
     otros_ = formulario.otros;
     return avisos;
 }
@@ -196,15 +193,9 @@ QStringList Formulario::llena(const std::vector<ElementoGuardado>& guardados) {
 void Formulario::guarda(const QString& fichero) {
     FormularioGuardado formulario{{}, otros_};
     for (const auto& e : elementos_) formulario.elementos.push_back(e->guardado());
-    escribeFormulario(fichero, formulario);
-    fichero_ = QFileInfo(fichero).absoluteFilePath();
-    huella_ = huellaDe(fichero_);
+    const QByteArray json = enJson(formulario, QFileInfo(fichero).absoluteDir());
+    fichero_.escribe(fichero, {json.data(), static_cast<std::size_t>(json.size())});
     ponModificado(false);
-}
-
-bool Formulario::otroLoCambio() const {
-    const QString huella = huellaDe(fichero_);
-    return !huella.isEmpty() && huella != huella_;
 }
 
 bool Formulario::hayCambios() const {
@@ -213,7 +204,7 @@ bool Formulario::hayCambios() const {
 }
 
 EstadoFormulario Formulario::estado() const {
-    EstadoFormulario estado{{{}, otros_}, fichero_, huella_, modificado_, {}};
+    EstadoFormulario estado{{{}, otros_}, fichero_.ruta(), fichero_.huella(), modificado_, {}};
     for (const auto& e : elementos_) {
         estado.guardado.elementos.push_back(e->guardado());
         estado.guardado.elementos.back().texto.clear();
@@ -223,8 +214,8 @@ EstadoFormulario Formulario::estado() const {
 }
 
 QStringList Formulario::repone(const EstadoFormulario& estado) {
-    QStringList avisos = pon(estado.guardado, estado.fichero);
-    huella_ = estado.huella;
+    QStringList avisos = pon(estado.guardado);
+    fichero_.pon(estado.fichero, estado.huella);
     for (std::size_t i = 0; i < elementos_.size(); ++i)
         elementos_[i]->documento().repone(estado.textos.at(i));
     ponModificado(estado.modificado);

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "documentos.hpp"
 #include "elementoFormulario.hpp"
 #include "ficheroFormulario.hpp"
 
@@ -46,7 +47,7 @@ public:
     void vacia();
 
     // What is saved: the controls with their property bags, and where their texts and modules are.
-    const QString& fichero() const { return fichero_; }
+    const QString& fichero() const { return fichero_.ruta(); }
     QString titulo() const;
     bool modificado() const { return modificado_; }
     void ponModificado(bool modificado);
@@ -55,7 +56,7 @@ public:
     QStringList abre(const QString& fichero);
     void guarda(const QString& fichero);
     /// What stands in the place of its file is not what was read from there or written.
-    bool otroLoCambio() const;
+    bool otroLoCambio() const { return fichero_.otroLoCambio(); }
     /// It, or the text of a control, is not saved.
     bool hayCambios() const;
     EstadoFormulario estado() const;
@@ -77,7 +78,7 @@ private:
     void anade(const std::vector<ElementoGuardado>& guardados);
     void restaura(ElementoFormulario& elemento, const ElementoGuardado& guardado, std::size_t lugar);
     QStringList llena(const std::vector<ElementoGuardado>& guardados);
-    QStringList pon(const FormularioGuardado& formulario, const QString& fichero);
+    QStringList pon(const FormularioGuardado& formulario);
     void muestraTitulos();
     void conecta(ElementoFormulario& elemento);
 
@@ -85,8 +86,7 @@ private:
     Elementos elementos_;
     std::size_t activo_ = 0;
     Modo modo_ = Modo::Ejecucion;
-    QString fichero_;
-    QString huella_;
+    FicheroConocido fichero_;
     QJsonObject otros_; ///< of its file, for who knows them
     bool modificado_ = false;
 };

@@ -29,9 +29,9 @@ void OrdenesTexto::abre(const QString& fichero) {
     recientes_.anota(fichero);
 }
 
-bool OrdenesTexto::anota(bool guardado, const ElementoFormulario& elemento) {
-    if (guardado) recientes_.anota(elemento.fichero());
-    return guardado;
+bool OrdenesTexto::anota(Archivado archivado, const ElementoFormulario& elemento) {
+    if (archivado != Archivado::No) recientes_.anota(elemento.fichero());
+    return archivado != Archivado::No;
 }
 
 bool OrdenesTexto::guarda(ElementoFormulario& elemento) {

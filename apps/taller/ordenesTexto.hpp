@@ -29,7 +29,7 @@ public:
 
 private:
     bool guarda(ElementoFormulario& elemento);
-    bool anota(bool guardado, const ElementoFormulario& elemento);
+    bool anota(Archivado archivado, const ElementoFormulario& elemento);
 
     Formulario& formulario_;
     Dialogos& dialogos_;
