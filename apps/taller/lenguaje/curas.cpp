@@ -29,17 +29,33 @@ Arreglo arregloDe(std::u16string titulo, std::u16string_view antes, std::u16stri
             {{rango, std::u16string(despues.substr(inicio, despues.size() - cola - inicio)), false}}};
 }
 
+std::u16string lineaDe(std::u16string_view palabra, std::u16string_view valor) {
+    return std::u16string(marcaDeDirectiva).append(palabra).append(u": ").append(valor);
+}
+
 /// With one more directive, behind those that there are.
 std::u16string conDirectiva(std::u16string_view especificacion, std::u16string_view palabra,
                             std::u16string_view valor) {
-    const std::u16string linea = u"'% " + std::u16string(palabra) + u": " + std::u16string(valor);
+    const std::u16string linea = lineaDe(palabra, valor);
     const auto lineas = lineasDeDirectivas(cabecera(especificacion));
     std::u16string otra(especificacion);
     if (lineas.empty()) return linea + u"\r\n" + otra;
     return otra.insert(lineas.back().fin, u"\r\n" + linea);
 }
 
-/// Precedence is for the exact methods.
+/// So many conflicts are meant: of several lines that say so the last one counts.
+std::u16string conConflictos(std::u16string_view especificacion, std::size_t cuantos) {
+    constexpr std::u16string_view palabra = u"conflictos";
+    const std::u16string valor = aTexto(static_cast<std::int64_t>(cuantos));
+    auto lineas = lineasDeDirectivas(cabecera(especificacion));
+    std::ranges::reverse(lineas);
+    const auto suya = std::ranges::find(lineas, palabra, &LineaDirectiva::palabra);
+    if (suya == lineas.end()) return conDirectiva(especificacion, palabra, valor);
+    std::u16string otra(especificacion);
+    return otra.replace(suya->inicio, suya->fin - suya->inicio, lineaDe(palabra, valor));
+}
+
+/// Precedence, and that conflicts are meant, are for the exact methods.
 std::u16string conMetodoExacto(const LenguajeEstudiado& lenguaje) {
     const bool clasico = lenguaje.opciones().metodo == Metodo::Clasico;
     return clasico ? conMetodo(lenguaje.especificacion, Metodo::Lalr) : lenguaje.especificacion;
@@ -82,13 +98,14 @@ std::vector<Arreglo> prioridad(const LenguajeEstudiado& lenguaje, const Historia
     return {liga(lenguaje, otro, historia.simbolo), liga(lenguaje, historia.simbolo, otro)};
 }
 
-/// What the table does is what is wanted.
+/// What the table does is what is wanted. The line that says so is of all conflicts.
 std::vector<Arreglo> dejaloAsi(const LenguajeEstudiado& lenguaje) {
-    const auto cuantos = std::ranges::count(lenguaje.diagnosticos, Codigo::Conflicto, &Diagnostico::codigo);
-    if (lenguaje.opciones().metodo == Metodo::Clasico) return {};
-    return {arregloDe(
-        u"Dejarlo así: la tabla ya elige lo que se quiere", lenguaje.especificacion,
-        conDirectiva(lenguaje.especificacion, u"conflictos", aTexto(static_cast<std::int64_t>(cuantos))))};
+    const std::u16string despues = conConflictos(conMetodoExacto(lenguaje), lenguaje.dudas);
+    if (lenguaje.dudas == 0 || despues == lenguaje.especificacion) return {};
+    const std::u16string cuantos = aTexto(static_cast<std::int64_t>(lenguaje.dudas));
+    return {arregloDe((lenguaje.dudas == 1 ? u"Dejarlo así" : u"Dejar así los " + cuantos + u" conflictos") +
+                          u": la tabla ya elige lo que se quiere",
+                      lenguaje.especificacion, despues)};
 }
 
 } // namespace

@@ -5,12 +5,25 @@
 #include "norvik/checks/conflictosDeTabla.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/spec/datosDeLenguaje.hpp"
+#include "norvik/spec/directivas.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace norvik::taller {
 
 namespace {
+
+std::size_t dudasDe(const LenguajeEstudiado& lenguaje, const std::stop_token& parada) {
+    const auto cuenta = [](const std::vector<Diagnostico>& diagnosticos) {
+        return static_cast<std::size_t>(
+            std::ranges::count(diagnosticos, Codigo::Conflicto, &Diagnostico::codigo));
+    };
+    if (lenguaje.conflictos.empty()) return 0;
+    if (lenguaje.opciones().metodo != Metodo::Clasico) return cuenta(lenguaje.diagnosticos);
+    const std::u16string conLalr = conMetodo(lenguaje.especificacion, Metodo::Lalr);
+    return cuenta(Lenguaje::compila(conLalr, {{}, parada}).diagnosticos);
+}
 
 std::shared_ptr<const LenguajeEstudiado> estudiaLenguaje(const std::u16string& especificacion,
                                                          const std::stop_token& parada,
@@ -21,6 +34,7 @@ std::shared_ptr<const LenguajeEstudiado> estudiaLenguaje(const std::u16string& e
     ordena(lenguaje.diagnosticos);
     if (const GramaticaLR* const g = lenguaje.gramatica())
         lenguaje.conflictos = conflictosDeTabla(*g, lenguaje.opciones().metodo);
+    lenguaje.dudas = dudasDe(lenguaje, parada);
     return std::make_shared<const LenguajeEstudiado>(std::move(lenguaje));
 }
 

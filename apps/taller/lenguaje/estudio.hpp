@@ -7,6 +7,7 @@
 #include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/parser/analisis.hpp"
 
+#include <cstddef>
 #include <memory>
 #include <stop_token>
 #include <string>
@@ -20,6 +21,8 @@ struct LenguajeEstudiado : Revisada {
     std::vector<Diagnostico> diagnosticos{}; ///< what was found, in the order of the text
     /// Of its table, sorted by cell; those of which the classic method says nothing are among them.
     std::vector<Conflicto> conflictos{};
+    /// Cells in doubt of its table; where that is the classic one, of the `lalr` table in its place.
+    std::size_t dudas = 0;
     /// Of a text that cannot be read only the first error was looked for, and no repair.
     bool faltanArreglos = false;
 
