@@ -10,7 +10,8 @@
 
 namespace norvik::taller {
 
-Seguimiento::Seguimiento(std::function<Textos()> textos) : textos_(std::move(textos)) {
+Seguimiento::Seguimiento(std::function<Textos()> textos, Estudia estudia)
+    : textos_(std::move(textos)), estudia_(std::move(estudia)) {
     using namespace std::chrono_literals;
     pausa_.setSingleShot(true);
     pausa_.setInterval(150ms);
@@ -25,43 +26,43 @@ void Seguimiento::cambio() {
     ++version_;
     parada_.request_stop();
     paciencia_.stop();
+    sinArreglos_ = nullptr;
     pausa_.start();
 }
 
 /// Work that was told to end begins this when it has.
 void Seguimiento::empieza() {
     if (trabajo_.trabaja()) return;
-    const std::u16string motivo = falloDe([this] { estudia(textos_(), ultimo_, ErroresBuscados::Primero); });
-    if (!motivo.empty()) emit fallo(aQString(motivo));
+    const std::u16string motivo = falloDe([this] { lanza(textos_(), ultimo_, ErroresBuscados::Primero); });
+    if (!motivo.empty()) falla(motivo);
 }
 
-void Seguimiento::estudia(const Textos& textos, const Resultado& anterior, ErroresBuscados errores) {
+void Seguimiento::lanza(const Textos& textos, const Resultado& anterior, ErroresBuscados errores) {
     parada_ = std::stop_source();
     trabajo_.empieza(
-        [textos, anterior, errores, parada = parada_.get_token()](const auto&) {
-            return taller::estudia(textos.especificacion, textos.texto, anterior, parada, errores);
+        [estudia = estudia_, textos, anterior, errores, parada = parada_.get_token()](const auto&) {
+            Desenlace desenlace;
+            desenlace.motivo =
+                falloDe([&] { desenlace.resultado = estudia(textos, anterior, parada, errores); });
+            return desenlace;
         },
-        [this, version = version_, textos](const std::optional<Resultado>& resultado) {
-            const auto motivo = falloDe([&] { acaba(resultado, version, textos); });
-            if (!motivo.empty()) emit fallo(aQString(motivo));
+        [this, version = version_, textos](const std::optional<Desenlace>& desenlace) {
+            const auto motivo = falloDe([&] { acaba(desenlace.value_or(Desenlace()), version, textos); });
+            if (!motivo.empty()) falla(motivo);
         });
 }
 
-void Seguimiento::acaba(const std::optional<Resultado>& resultado, std::uint64_t version,
-                        const Textos& textos) {
+void Seguimiento::acaba(const Desenlace& desenlace, std::uint64_t version, const Textos& textos) {
     if (version != version_) {
         if (!pausa_.isActive()) empieza();
         return;
     }
-    if (!resultado || !*resultado) {
-        estudiada_ = version;
-        emit fallo(QStringLiteral("El lenguaje no se ha podido estudiar: no hay memoria suficiente"));
-        return;
-    }
-    if (!(*resultado)->faltanArreglos) return da(*resultado);
-    sinArreglos_ = *resultado;
+    const Resultado& resultado = desenlace.resultado;
+    if (!resultado) return falla(desenlace.motivo);
+    if (!resultado->faltanArreglos) return da(resultado);
+    sinArreglos_ = resultado;
     paciencia_.start();
-    estudia(textos, sinArreglos_, ErroresBuscados::Todos);
+    lanza(textos, sinArreglos_, ErroresBuscados::Todos);
 }
 
 void Seguimiento::da(const Resultado& resultado) {
@@ -70,6 +71,16 @@ void Seguimiento::da(const Resultado& resultado) {
     ultimo_ = resultado;
     sinArreglos_ = nullptr;
     emit estudiado(ultimo_);
+}
+
+/// What is known without the repairs is known.
+void Seguimiento::falla(const std::u16string& motivo) {
+    if (sinArreglos_) da(sinArreglos_);
+    if (!alDia()) fallida_ = version_;
+    emit fallo(
+        QStringLiteral("No se ha podido estudiar %1: %2")
+            .arg(alDia() ? QStringLiteral("cómo se arreglan los errores") : QStringLiteral("lo escrito"),
+                 motivo.empty() ? QStringLiteral("no hay memoria suficiente") : aQString(motivo)));
 }
 
 } // namespace norvik::taller
