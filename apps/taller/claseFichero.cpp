@@ -8,6 +8,8 @@
 #include "norvik/spec/lectorModulo.hpp"
 
 #include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
 
 namespace norvik::taller {
 
@@ -16,6 +18,13 @@ ClaseFichero claseDe(const QString& fichero) {
     if (extension == extensionFormulario) return ClaseFichero::Formulario;
     if (extension == extensionEspecificacion) return ClaseFichero::Especificacion;
     return esModulo(aRuta(fichero)) ? ClaseFichero::Modulo : ClaseFichero::Texto;
+}
+
+QStringList ficherosDe(const QMimeData& datos) {
+    QStringList ficheros;
+    for (const QUrl& url : datos.urls())
+        if (url.isLocalFile()) ficheros += url.toLocalFile();
+    return ficheros;
 }
 
 } // namespace norvik::taller

@@ -62,9 +62,13 @@ Recuperacion::~Recuperacion() {
 
 // ---- the copy of this workbench
 
-/// It is not put off by keys that follow.
+/// It is not put off by keys that follow. Of what was saved there is nothing to recover, not for a moment: it
+/// would be older than the file.
 void Recuperacion::pideCopia() {
-    if (!espera_.isActive()) espera_.start();
+    if (cerrojo_ && !ventana_.hayCambios())
+        copia();
+    else if (!espera_.isActive())
+        espera_.start();
 }
 
 bool Recuperacion::copia() {

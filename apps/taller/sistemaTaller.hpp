@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "ayuda/ayudaEnModal.hpp"
+
 #include "norvik/platform/qt/sistemaQt.hpp"
 
 #include <QSettings>
@@ -9,6 +11,7 @@
 namespace norvik::taller {
 
 /// Modal windows come up where, and as large as, they were left: each by its name, in the user's settings.
+/// The manual is a key away in them, too.
 class SistemaTaller final : public SistemaQt {
 public:
     explicit SistemaTaller(QSettings& ajustes) : ajustes_(ajustes) {}
@@ -16,6 +19,7 @@ public:
     void muestraModal(QWidget& ventana) override {
         const QString clave = QStringLiteral("ventanas/") + ventana.objectName();
         const QPointer<QWidget> viva(&ventana);
+        ponManual(ventana);
         ventana.restoreGeometry(ajustes_.value(clave).toByteArray());
         SistemaQt::muestraModal(ventana);
         if (!viva.isNull()) ajustes_.setValue(clave, ventana.saveGeometry());

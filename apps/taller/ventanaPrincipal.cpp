@@ -18,7 +18,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScopedValueRollback>
-#include <QStatusBar>
+
+#include <algorithm>
 
 namespace norvik::taller {
 
@@ -27,13 +28,6 @@ namespace {
 const QString claveGeometria = QStringLiteral("ventana/geometria");
 const QString claveEstado = QStringLiteral("ventana/estado");
 const QString claveInicio = QStringLiteral("inicio/alEmpezar");
-
-QStringList ficherosDe(const QMimeData& datos) {
-    QStringList ficheros;
-    for (const QUrl& url : datos.urls())
-        if (url.isLocalFile()) ficheros += url.toLocalFile();
-    return ficheros;
-}
 
 } // namespace
 
@@ -83,11 +77,11 @@ void VentanaPrincipal::compone() {
     ponTema(*this, {QStringLiteral("El taller")});
     acciones_.ver.addAction(arbol_.toggleViewAction());
     acciones_.ver.addAction(acciones_.barra.toggleViewAction());
-    statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
+    setStatusBar(&barra_);
     for (QLabel* const etiqueta : {&lenguaje_, &formato_, &lugar_}) {
         etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setContentsMargins(8, 0, 8, 0);
-        statusBar()->addPermanentWidget(etiqueta);
+        barra_.addPermanentWidget(etiqueta);
     }
 }
 
@@ -165,8 +159,7 @@ void VentanaPrincipal::conectaFormulario() {
         actualizaEdicion();
     });
     connect(&formulario_, &Formulario::fallo, this, &VentanaPrincipal::cuentaFallo);
-    connect(&formulario_, &Formulario::aviso, this,
-            [this](const QString& texto) { statusBar()->showMessage(texto); });
+    connect(&formulario_, &Formulario::aviso, this, [this](const QString& texto) { barra_.avisa(texto); });
     connect(&formulario_, &Formulario::otroTexto, this, &VentanaPrincipal::cambiado);
     connect(&formulario_, &Formulario::cambiado, this, &VentanaPrincipal::cambiado);
     connect(&formulario_, &Formulario::otroTexto, this, [this] {
@@ -206,7 +199,7 @@ void VentanaPrincipal::ordena(const std::function<void()>& orden) {
 }
 
 void VentanaPrincipal::avisa(const QString& texto) {
-    statusBar()->showMessage(texto);
+    barra_.avisa(texto);
     if (ventanaLenguaje_) ventanaLenguaje_->avisa(texto);
 }
 
@@ -215,6 +208,10 @@ CopiaTaller VentanaPrincipal::copia() {
     if (formulario_.hayCambios()) copia.formulario = formulario_.estado();
     if (ventanaLenguaje_) copia.lenguaje = ventanaLenguaje_->copia();
     return copia;
+}
+
+bool VentanaPrincipal::hayCambios() const {
+    return formulario_.hayCambios() || (ventanaLenguaje_ && ventanaLenguaje_->hayCambios());
 }
 
 bool VentanaPrincipal::repone(const CopiaTaller& copia) {
@@ -235,14 +232,20 @@ VentanaLenguaje& VentanaPrincipal::ventanaLenguaje() {
     ventanaLenguaje_ = std::make_unique<VentanaLenguaje>(sistema_, dialogos_, ajustes_);
     preparaAyuda(*ventanaLenguaje_);
     connect(ventanaLenguaje_.get(), &VentanaLenguaje::cambiado, this, &VentanaPrincipal::cambiado);
-    connect(ventanaLenguaje_.get(), &VentanaLenguaje::usado, this,
-            [this](const std::u16string& especificacion) {
-                ejecuta([&] {
-                    muestraFormulario();
-                    lenguajes_.toma(especificacion);
-                });
-            });
+    connect(ventanaLenguaje_.get(), &VentanaLenguaje::pideAbrir, this, &VentanaPrincipal::abre);
+    ventanaLenguaje_->ponUso([this](const std::u16string& especificacion) { return toma(especificacion); });
     return *ventanaLenguaje_;
+}
+
+/// The active control has it now, although it may be wrong; not when that failed, or a person cancelled it.
+bool VentanaPrincipal::toma(const std::u16string& especificacion) {
+    bool tomada = false;
+    ejecuta([&] {
+        muestraFormulario();
+        lenguajes_.toma(especificacion);
+        tomada = true;
+    });
+    return tomada;
 }
 
 /// With what the active control has, unless something is open there.
@@ -307,11 +310,11 @@ void VentanaPrincipal::muestraPropiedades(VentanaPropiedades::Pagina pagina) {
 
 void VentanaPrincipal::analiza() {
     analizado_ = &formulario_.activo();
-    statusBar()->clearMessage();
+    barra_.clearMessage();
     const auto nodos = lenguajes_.analiza();
     if (!nodos) return;
     if (arbol_.modelo().nodos() > 0) arbol_.show();
-    statusBar()->showMessage(QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(*nodos), 8000);
+    barra_.avisa(QStringLiteral("Análisis sintáctico correcto: %1 nodos").arg(*nodos), 8000);
 }
 
 // ---- the first hour
@@ -429,8 +432,7 @@ void VentanaPrincipal::otroActivo() {
 /// Where it is in nobody's way. Of a text that is too long for something it is said what can still be done.
 void VentanaPrincipal::cuentaFallo(const QString& texto) {
     const bool largo = texto.startsWith(QStringLiteral("Desbordamiento: el texto pasa de "));
-    statusBar()->showMessage(largo ? texto + QStringLiteral(". Se edita, se colorea, se analiza y se guarda")
-                                   : texto);
+    barra_.avisa(largo ? texto + QStringLiteral(". Se edita, se colorea, se analiza y se guarda") : texto);
 }
 
 void VentanaPrincipal::actualizaTitulo() {
@@ -489,7 +491,21 @@ void VentanaPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
 
 void VentanaPrincipal::dropEvent(QDropEvent* evento) {
     evento->acceptProposedAction();
-    for (const QString& fichero : ficherosDe(*evento->mimeData())) abre(fichero);
+    sinFallos([&] { abreLosSoltados(ficherosDe(*evento->mimeData())); });
+}
+
+/// As the command line has it: a text goes along with a specification.
+void VentanaPrincipal::abreLosSoltados(const QStringList& ficheros) {
+    const auto esEspecificacion = [](const QString& f) { return claseDe(f) == ClaseFichero::Especificacion; };
+    const bool enVentana = std::any_of(ficheros.begin(), ficheros.end(), esEspecificacion);
+    for (const QString& fichero : ficheros) {
+        if (esEspecificacion(fichero))
+            abreEnVentana(fichero);
+        else if (enVentana && claseDe(fichero) == ClaseFichero::Texto)
+            ejecuta([&] { ventanaLenguaje().abreTexto(fichero); });
+        else
+            abre(fichero);
+    }
 }
 
 } // namespace norvik::taller

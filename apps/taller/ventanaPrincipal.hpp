@@ -7,6 +7,7 @@
 #include "ayuda/paginaTeclas.hpp"
 #include "ayuda/ventanaManual.hpp"
 #include "ayuda/visita.hpp"
+#include "barraDeAvisos.hpp"
 #include "copiaTaller.hpp"
 #include "lenguaje/ventanaLenguaje.hpp"
 #include "ordenesFormulario.hpp"
@@ -51,6 +52,7 @@ public:
 
     /// What is not saved, here and in the language window.
     CopiaTaller copia();
+    bool hayCambios() const;
     /// Puts back what was copied; false, with nothing done, when a person does not want to lose what is
     /// there.
     bool repone(const CopiaTaller& copia);
@@ -100,6 +102,7 @@ private:
     void conectaInicio();
     void muestraVentanaLenguaje();
     void empiezaEnVentana(std::u16string_view especificacion, std::u16string_view texto);
+    bool toma(const std::u16string& especificacion);
     void preparaAyuda(VentanaLenguaje& ventana);
     void muestraInicio();
     void muestraFormulario();
@@ -109,6 +112,7 @@ private:
     void muestraPropiedades(VentanaPropiedades::Pagina pagina);
     void analiza();
     void otroActivo();
+    void abreLosSoltados(const QStringList& ficheros);
     void cuentaFallo(const QString& texto);
     void actualizaTitulo();
     void actualizaLugar();
@@ -128,6 +132,7 @@ private:
     PanelMensaje mensaje_{&centro_};
     PanelArbol arbol_{this};
     VentanaRevision revision_{this};
+    BarraDeAvisos barra_;
     QLabel lenguaje_, formato_, lugar_;
     OrdenesTexto textos_;
     OrdenesFormulario formularios_;

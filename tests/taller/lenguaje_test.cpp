@@ -365,8 +365,8 @@ TEST_F(LenguajeTest, NadaEscritoSePierdeAlCerrar) {
     EXPECT_FALSE(ventana.close());
     EXPECT_EQ(dialogos.toma().size(), 1);
     std::u16string usada;
-    QObject::connect(&ventana, &VentanaLenguaje::usado, [&](const std::u16string& e) { usada = e; });
-    QTest::keyClick(&ventana, Qt::Key_F6);
+    ventana.ponUso([&](const std::u16string& e) { return usada = e, true; });
+    QTest::keyClick(&ventana, Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_EQ(usada, u" " + u16(suma));
     EXPECT_TRUE(ventana.close());
 }
@@ -457,7 +457,7 @@ TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {
         QWidget& teclado = ventana.especificacion().norvik().caja().ventana();
         QTest::keyClicks(&teclado, "'x");
         QTest::keyClick(&teclado, Qt::Key_Return);
-        QTest::keyClick(&ventana, Qt::Key_F6);
+        QTest::keyClick(&ventana, Qt::Key_F6, Qt::ShiftModifier);
         ventana.close();
     }
     const QString llega = taller.formulario().activo().norvik().ContenidoG();

@@ -581,7 +581,12 @@ TEST_F(TallerTest, FicherosQueSeSueltan) {
     EXPECT_TRUE(entrada.isAccepted());
     QDropEvent evento({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(texto, &evento);
-    EXPECT_TRUE(tieneLenguaje(norvik()));
+    EXPECT_EQ(ventana.ventanaLenguaje().especificacion().texto().substr(0, 6), u"ExpReg");
+    EXPECT_EQ(ventana.ventanaLenguaje().texto().texto(), u"1"); // it goes along
+    datos.setUrls({QUrl::fromLocalFile(ruta("t.txt"))});
+    QApplication::sendEvent(texto, &entrada);
+    QDropEvent solo({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(texto, &solo);
     EXPECT_EQ(norvik().Text(), "1");
 }
 

@@ -2,9 +2,10 @@
 
 #include "paginaInicio.hpp"
 
+#include "enlaceOrden.hpp"
+
 #include "norvik/tools/ventanas.hpp"
 
-#include <QCommandLinkButton>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -65,11 +66,12 @@ QVBoxLayout& PaginaInicio::columna(int numero, const QString& titulo) {
 
 void PaginaInicio::boton(QVBoxLayout& columna, const QString& titulo, const QString& explicacion,
                          const std::function<void()>& orden) {
-    auto& boton = norvik::nuevo<QCommandLinkButton>(titulo, explicacion);
+    auto& boton = norvik::nuevo<EnlaceOrden>(titulo, explicacion);
     boton.setAutoDefault(true); // Return is as good as the space bar
     boton.setAccessibleDescription(explicacion);
     connect(&boton, &QPushButton::clicked, this, orden);
     columna.addWidget(&boton);
+    if (focusProxy() == nullptr) setFocusProxy(&boton); // the first one
 }
 
 void PaginaInicio::ponNuevos() {
@@ -112,9 +114,9 @@ void PaginaInicio::ponPie() {
     };
     pon(QStringLiteral("&Manual"), &PaginaInicio::pideManual);
     pon(QStringLiteral("&Teclas"), &PaginaInicio::pideTeclas);
-    pon(QStringLiteral("Ir al &formulario"), &PaginaInicio::pideFormulario);
+    pon(QStringLiteral("&Ir al formulario"), &PaginaInicio::pideFormulario);
     pie.addStretch(1);
-    siempre_.setText(QStringLiteral("Enseñar esta página al &empezar"));
+    siempre_.setText(QStringLiteral("Enseñar e&sta página al empezar"));
     connect(&siempre_, &QCheckBox::toggled, this, &PaginaInicio::siempre);
     pie.addWidget(&siempre_);
     todo_.addLayout(&pie);

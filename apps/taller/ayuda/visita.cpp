@@ -70,9 +70,8 @@ constexpr std::array pasosDeLaVisita = {
          "qué.",
          pasos},
     Paso{"Suyo",
-         "Ctrl+S guarda lo que escribe; F6 lleva el lenguaje al editor del formulario; F1 abre el manual por "
-         "lo que "
-         "tenga delante. Ahora cambie las reglas y mire qué pasa.",
+         "Ctrl+S guarda lo que escribe; Mayús+F6 lleva el lenguaje al editor del formulario; F1 abre el "
+         "manual por lo que tenga delante. Ahora cambie las reglas y mire qué pasa.",
          especificacion},
 };
 

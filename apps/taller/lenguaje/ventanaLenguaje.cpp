@@ -2,6 +2,7 @@
 
 #include "ventanaLenguaje.hpp"
 
+#include "../claseFichero.hpp"
 #include "../rutas.hpp"
 #include "correspondencias.hpp"
 #include "enControl.hpp"
@@ -15,8 +16,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScopedValueRollback>
-#include <QStatusBar>
 
 #include <algorithm>
 #include <chrono>
@@ -66,6 +67,7 @@ VentanaLenguaje::VentanaLenguaje(SistemaQt& sistema, Dialogos& dialogos, QSettin
 void VentanaLenguaje::compone() {
     mide(*this, {1280, 860});
     setAccessibleName(QStringLiteral("La ventana del lenguaje"));
+    setAcceptDrops(true);
     setDockNestingEnabled(true);
     CargaMetaLenguaje(especificacion_.norvik().control());
     especificacion_.norvik().proponCon(&continuacionesDeEspecificacion);
@@ -74,11 +76,11 @@ void VentanaLenguaje::compone() {
     editores_.setChildrenCollapsible(false);
     setCentralWidget(&editores_);
     colocaPaneles();
-    statusBar()->setAccessibleName(QStringLiteral("Barra de estado"));
+    setStatusBar(&barra_);
     for (QLabel* const etiqueta : {&estado_, &formato_, &lugar_}) {
         etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setContentsMargins(8, 0, 8, 0);
-        statusBar()->addPermanentWidget(etiqueta);
+        barra_.addPermanentWidget(etiqueta);
     }
 }
 
@@ -114,24 +116,20 @@ void VentanaLenguaje::ponMenus() {
         if (fichero) abreEspecificacion(*fichero);
     });
     archivo_.addMenu(&menuRecientes_);
-    accion(archivo_, QStringLiteral("Abrir &texto…"), QKeySequence::Open, [this] {
+    accion(archivo_, QStringLiteral("Abrir te&xto…"), QKeySequence::Open, [this] {
         const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir texto"), todos);
         if (fichero) abreTextoDe(*fichero);
     });
     archivo_.addSeparator();
-    accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save, [this] {
-        if (archivador_.guarda(activo_->documento(), como(*activo_))) avisaDeGuardado(*activo_);
-    });
-    accion(archivo_, QStringLiteral("Guardar &como…"), QStringLiteral("Ctrl+Shift+S"), [this] {
-        if (archivador_.guardaComo(activo_->documento(), como(*activo_))) avisaDeGuardado(*activo_);
-    });
+    accion(archivo_, QStringLiteral("&Guardar"), QKeySequence::Save,
+           [this] { anota(*activo_, archivador_.guarda(activo_->documento(), como(*activo_))); });
+    accion(archivo_, QStringLiteral("Guardar &como…"), QStringLiteral("Ctrl+Shift+S"),
+           [this] { anota(*activo_, archivador_.guardaComo(activo_->documento(), como(*activo_))); });
+    accion(archivo_, QStringLiteral("Guardar &todo"), QStringLiteral("Ctrl+Alt+S"), [this] { guardaTodo(); });
     archivo_.addSeparator();
-    accion(archivo_, QStringLiteral("&Usar en el formulario"), QStringLiteral("F6"), [this] {
-        emit usado(especificacion_.texto());
-        especificacion_.documento().anotaEntregado();
-    });
+    accion(archivo_, QStringLiteral("&Usar en el formulario"), QStringLiteral("Shift+F6"), [this] { usa(); });
     archivo_.addSeparator();
-    QAction& cerrar = *archivo_.addAction(QStringLiteral("Ce&rrar"));
+    QAction& cerrar = *archivo_.addAction(QStringLiteral("C&errar"));
     cerrar.setShortcut(QStringLiteral("Ctrl+W"));
     connect(&cerrar, &QAction::triggered, this, &QWidget::close);
     connect(&edicion_, &QMenu::aboutToShow, this, [this] {
@@ -212,7 +210,12 @@ void VentanaLenguaje::conecta() {
     connect(&seguimiento_, &Seguimiento::estudiado, this,
             [this](const std::shared_ptr<const Estudio>& estudio) { sinFallos([&] { recibe(estudio); }); });
     connect(&recientes_, &Recientes::elegido, this, &VentanaLenguaje::abre);
-    connect(&seguimiento_, &Seguimiento::fallo, this, &VentanaLenguaje::avisa);
+    connect(&seguimiento_, &Seguimiento::fallo, this, [this](const QString& motivo) {
+        sinFallos([&] {
+            marca();
+            avisa(motivo);
+        });
+    });
 }
 
 void VentanaLenguaje::conecta(Panel& panel) {
@@ -226,8 +229,9 @@ void VentanaLenguaje::conecta(Panel& panel) {
                 .setFocus();
         });
     });
-    connect(&panel, &Panel::arreglado, this,
-            [this](Lado lado, const Arreglo& arreglo) { ejecuta([&] { arregla(lado, arreglo); }); });
+    connect(&panel, &Panel::arreglado, this, [this, &panel](Lado lado, const Arreglo& arreglo) {
+        ejecuta([&] { arregla(panel, lado, arreglo); });
+    });
     connect(&panel, &Panel::fallo, this, &VentanaLenguaje::avisa);
 }
 
@@ -274,6 +278,18 @@ void VentanaLenguaje::abreTextoDe(const QString& fichero) {
     if (puedePerder(texto_)) texto_.documento().abre(fichero);
 }
 
+void VentanaLenguaje::abreSoltado(const QString& fichero) {
+    switch (claseDe(fichero)) {
+    case ClaseFichero::Especificacion:
+        return abreEspecificacion(fichero);
+    case ClaseFichero::Texto:
+        return abreTextoDe(fichero);
+    case ClaseFichero::Formulario:
+    case ClaseFichero::Modulo:
+        emit pideAbrir(fichero);
+    }
+}
+
 void VentanaLenguaje::trae() {
     show();
     raise();
@@ -296,14 +312,35 @@ ComoSeGuarda VentanaLenguaje::como(const EditorTexto& editor) const {
             QStringLiteral("lenguaje.") + extensionEspecificacion};
 }
 
-void VentanaLenguaje::avisaDeGuardado(const EditorTexto& editor) {
+bool VentanaLenguaje::anota(const EditorTexto& editor, Archivado archivado) {
+    if (archivado == Archivado::No) return false;
     if (&editor == &especificacion_) recientes_.anota(editor.documento().fichero());
-    statusBar()->showMessage(QStringLiteral("Guardado «%1»").arg(editor.documento().titulo()), 4000);
+    const QString palabra =
+        archivado == Archivado::Si ? QStringLiteral("Guardado") : QStringLiteral("Recargado del disco");
+    barra_.avisa(palabra + QStringLiteral(" «%1»").arg(editor.documento().titulo()), 4000);
+    return true;
+}
+
+void VentanaLenguaje::guardaTodo() {
+    for (EditorTexto* const editor : {&especificacion_, &texto_})
+        if (editor->documento().modificado() &&
+            !anota(*editor, archivador_.guarda(editor->documento(), como(*editor))))
+            return;
+}
+
+void VentanaLenguaje::usa() {
+    if (!uso_ || !uso_(especificacion_.texto()))
+        return avisa(QStringLiteral("El formulario no ha tomado la especificación"));
+    especificacion_.documento().anotaEntregado();
+    avisa(QStringLiteral("El editor activo del formulario tiene la especificación"));
+}
+
+bool VentanaLenguaje::hayCambios() const {
+    return !isHidden() && (especificacion_.documento().modificado() || texto_.documento().modificado());
 }
 
 std::optional<std::array<EstadoDocumento, 2>> VentanaLenguaje::copia() const {
-    if (isHidden() || (!especificacion_.documento().modificado() && !texto_.documento().modificado()))
-        return std::nullopt;
+    if (!hayCambios()) return std::nullopt;
     return std::array{especificacion_.documento().estado(), texto_.documento().estado()};
 }
 
@@ -313,7 +350,7 @@ void VentanaLenguaje::repone(const std::array<EstadoDocumento, 2>& documentos) {
 }
 
 void VentanaLenguaje::avisa(const QString& texto) {
-    statusBar()->showMessage(texto, 8000);
+    barra_.avisa(texto, 8000);
 }
 
 void VentanaLenguaje::actualizaTitulo() {
@@ -332,11 +369,22 @@ void VentanaLenguaje::closeEvent(QCloseEvent* evento) {
     ejecuta([&] {
         if (!puedePerder()) return;
         evento->accept();
+        for (EditorTexto* const editor : {&especificacion_, &texto_})
+            if (editor->documento().modificado()) editor->documento().vacia(); // it was given up
         emit cambiado();
         ajustes_.setValue(claveGeometria, saveGeometry());
         ajustes_.setValue(claveEstado, saveState());
         ajustes_.setValue(claveEditores, editores_.saveState());
     });
+}
+
+void VentanaLenguaje::dragEnterEvent(QDragEnterEvent* evento) {
+    if (!ficherosDe(*evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+}
+
+void VentanaLenguaje::dropEvent(QDropEvent* evento) {
+    evento->acceptProposedAction();
+    for (const QString& fichero : ficherosDe(*evento->mimeData())) ejecuta([&] { abreSoltado(fichero); });
 }
 
 // ---- what is known of them
@@ -374,7 +422,9 @@ void VentanaLenguaje::marca() {
     const bool compila = ultimo_ && ultimo_->deLenguaje->lenguaje;
     for (Panel* const panel : paneles())
         panel->ponAtrasado(!alDia || (!compila && !panel->muestraLoQueNoCompila()));
-    if (!alDia)
+    if (seguimiento_.fallido())
+        estado_.setText(QStringLiteral("No se ha podido estudiar lo escrito: se enseña lo anterior"));
+    else if (!alDia)
         estado_.setText(QStringLiteral("Estudiando lo escrito…"));
     else if (compila)
         estado_.setText(QStringLiteral("Al día"));
@@ -433,17 +483,22 @@ QString VentanaLenguaje::palabrasDe(const NombreEscrito& nombre, AyudaDeNombres:
 }
 
 bool VentanaLenguaje::hayProblemaEn(const NombreEscrito& nombre) const {
-    const auto& problemas = ultimo_ ? ultimo_->deLenguaje->diagnosticos : std::vector<Diagnostico>();
-    return std::ranges::any_of(problemas, [&](const Diagnostico& d) {
+    if (!ultimo_) return false;
+    return std::ranges::any_of(ultimo_->deLenguaje->diagnosticos, [&](const Diagnostico& d) {
         return d.rango.inicio.desplazamiento <= nombre.lugar.inicio.desplazamiento &&
                nombre.lugar.fin.desplazamiento <= d.rango.fin.desplazamiento;
     });
 }
 
-/// A repair is one of the text that was studied.
-void VentanaLenguaje::arregla(Lado lado, const Arreglo& arreglo) {
-    if (!seguimiento_.alDia()) return;
+/// A repair is one of the text that was studied, by the study that its panel shows.
+void VentanaLenguaje::arregla(const Panel& desde, Lado lado, const Arreglo& arreglo) {
     EditorTexto& editor = editorDe(lado);
+    const auto& estudio = desde.muestraLoQueNoCompila() ? ultimo_ : mostrado_;
+    if (!estudio) return;
+    const auto& estudiado =
+        lado == Lado::Especificacion ? estudio->deLenguaje->especificacion : estudio->texto;
+    if (estudiado != editor.norvik().caja().texto())
+        return avisa(QStringLiteral("El texto ya es otro: el arreglo es de uno anterior, y no se hace"));
     aplica(arreglo, editor.norvik());
     editor.norvik().setFocus();
 }

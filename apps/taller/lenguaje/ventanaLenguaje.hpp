@@ -3,6 +3,7 @@
 #pragma once
 
 #include "../archivador.hpp"
+#include "../barraDeAvisos.hpp"
 #include "../recientes.hpp"
 #include "ayudaDeNombres.hpp"
 #include "editorTexto.hpp"
@@ -28,7 +29,9 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -56,12 +59,18 @@ public:
     /// Asks what is to become of what was written and is not saved; false when it stays. What a closed window
     /// has was asked for.
     bool puedePerder();
-    /// Both documents, while one of them is changed and the window open.
+    /// One of the documents is changed, and the window open.
+    bool hayCambios() const;
+    /// Both documents, while there are changes.
     std::optional<std::array<EstadoDocumento, 2>> copia() const;
     /// Puts them back; the caller has asked for those that are there.
     void repone(const std::array<EstadoDocumento, 2>& documentos);
     /// Tells something where it is in nobody's way.
     void avisa(const QString& texto);
+    /// Who takes the specification for the control that the workbench has active; false when it was not
+    /// taken.
+    using Uso = std::function<bool(const std::u16string& especificacion)>;
+    void ponUso(Uso uso) { uso_ = std::move(uso); }
 
     // For those who drive it from outside.
     EditorTexto& especificacion() { return especificacion_; }
@@ -79,13 +88,15 @@ public:
     QMenu& ver() { return ver_; }
 
 signals:
-    /// The person wants the specification in the control that the workbench has active.
-    void usado(const std::u16string& especificacion);
+    /// A file that is not for this window was dropped on it.
+    void pideAbrir(const QString& fichero);
     /// Something that is not saved may be another.
     void cambiado();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
 
 private:
     enum class Foco : std::uint8_t { Queda, Va };
@@ -111,8 +122,11 @@ private:
     // The documents.
     void abreEspecificacion(const QString& fichero);
     void abreTextoDe(const QString& fichero);
+    void abreSoltado(const QString& fichero);
     ComoSeGuarda como(const EditorTexto& editor) const;
-    void avisaDeGuardado(const EditorTexto& editor);
+    bool anota(const EditorTexto& editor, Archivado archivado);
+    void guardaTodo();
+    void usa();
     bool puedePerder(EditorTexto& editor);
     void actualizaTitulo();
     void actualizaFormato();
@@ -130,7 +144,7 @@ private:
         return panel.muestraLoQueNoCompila() ? ultimo_ : mostrado_;
     }
     void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
-    void arregla(Lado lado, const Arreglo& arreglo);
+    void arregla(const Panel& desde, Lado lado, const Arreglo& arreglo);
     QString palabrasDe(const NombreEscrito& nombre, AyudaDeNombres::Pregunta pregunta) const;
     bool hayProblemaEn(const NombreEscrito& nombre) const;
     EditorTexto& editorDe(Lado lado) { return lado == Lado::Especificacion ? especificacion_ : texto_; }
@@ -155,7 +169,9 @@ private:
     AyudaDeNombres nombres_;
     QMenu archivo_, edicion_, menuNombres_, ver_, menuRecientes_;
     Recientes recientes_;
+    BarraDeAvisos barra_;
     QLabel estado_, formato_, lugar_;
+    Uso uso_;
     Seguimiento seguimiento_;
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
