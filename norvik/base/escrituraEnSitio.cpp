@@ -38,7 +38,9 @@ std::vector<NombresProvisionales> copiasDe(const fs::path& fichero) {
     const std::string ruta = fs::absolute(fichero, error).native();
     const std::string principio = "." + fichero.filename().native().substr(0, largoMaximo) + ".norvik-" +
                                   std::to_string(std::hash<std::string>()(ruta)) + "-";
-    return {{fichero.parent_path(), principio, ""}, {fs::temp_directory_path(error), principio, ""}};
+    fs::path temporal = fs::temp_directory_path(error);
+    if (error) temporal = "/tmp"; // TMPDIR names no folder
+    return {{fichero.parent_path(), principio, ""}, {temporal, principio, ""}};
 }
 
 // The old content, kept on the disk for as long as it may be needed.

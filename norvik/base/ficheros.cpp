@@ -125,6 +125,24 @@ bool copiaAtributos(const fs::path& origen, int destino) {
     return true;
 }
 
+// A folder may give each new file a list of access of its own, which a wider mode would open to those named.
+bool quitaListaHeredada(int fichero) {
+    return fremovexattr(fichero, "system.posix_acl_access") == 0 || errno == ENODATA || errno == ENOTSUP ||
+           errno == ENOSYS;
+}
+
+// Only the superuser gives files away, so that whoever writes another's file as one of its group becomes its
+// owner, and the group stays. What is right already is not asked for: not every system can set it.
+bool ponDuenios(int fichero, const struct stat& antiguo) {
+    struct stat nuevo {};
+    if (fstat(fichero, &nuevo) != 0) return false;
+    const bool esDelGrupo = nuevo.st_gid == antiguo.st_gid;
+    if (esDelGrupo && nuevo.st_uid == antiguo.st_uid) return true;
+    if (fchown(fichero, antiguo.st_uid, antiguo.st_gid) == 0) return true;
+    constexpr auto elMismo = std::numeric_limits<uid_t>::max();
+    return errno == EPERM && (esDelGrupo || fchown(fichero, elMismo, antiguo.st_gid) == 0);
+}
+
 fs::path carpetaDe(const fs::path& fichero) {
     return fichero.has_parent_path() ? fichero.parent_path() : fs::path(".");
 }
@@ -138,8 +156,8 @@ NombresProvisionales provisionalesDe(const fs::path& destino) {
 // A new file in the folder of another one; it disappears unless it takes that one's place.
 class FicheroProvisional {
 public:
-    explicit FicheroProvisional(fs::path destino)
-        : destino_(std::move(destino)), fichero_(provisionalesDe(destino_).crea(0666)) {}
+    FicheroProvisional(fs::path destino, mode_t modo)
+        : destino_(std::move(destino)), fichero_(provisionalesDe(destino_).crea(modo)) {}
     FicheroProvisional(const FicheroProvisional&) = delete;
     FicheroProvisional& operator=(const FicheroProvisional&) = delete;
     ~FicheroProvisional() {
@@ -150,17 +168,11 @@ public:
 
     bool creado() const { return fichero_.descriptor.abierto(); }
 
-    // Makes it look like the old one; false when it may not. Only the superuser gives files away, so that
-    // whoever writes another's file as one of its group becomes its owner, and the group stays.
+    // Makes it look like the old one; false when that cannot be.
     bool pareceA(const struct stat& antiguo) const {
         const int numero = fichero_.descriptor.numero();
-        struct stat nuevo {};
-        if (fchown(numero, antiguo.st_uid, antiguo.st_gid) != 0 &&
-            (errno != EPERM || fstat(numero, &nuevo) != 0 ||
-             (nuevo.st_gid != antiguo.st_gid &&
-              fchown(numero, std::numeric_limits<uid_t>::max(), antiguo.st_gid) != 0)))
-            return false;
-        return fchmod(numero, antiguo.st_mode & 07777U) == 0 && copiaAtributos(destino_, numero);
+        return ponDuenios(numero, antiguo) && quitaListaHeredada(numero) &&
+               fchmod(numero, antiguo.st_mode & 07777U) == 0 && copiaAtributos(destino_, numero);
     }
 
     // It stays open, and so locked, until it has its place.
@@ -175,6 +187,10 @@ public:
     bool ocupaSuPuesto() {
         enSuPuesto_ = rename(fichero_.nombre.c_str(), destino_.c_str()) == 0;
         return enSuPuesto_;
+    }
+    // Its name too reaches the disk, with all else of its file system.
+    bool vuelcaSistema() const {
+        return sinInterrupcion([&] { return syncfs(fichero_.descriptor.numero()); }) == 0;
     }
 
 private:
@@ -199,15 +215,17 @@ bool reemplaza(const fs::path& destino, const Llenado& llenado, const struct sta
         return antiguo != nullptr && noHaySitio() && escribeEnSuSitio(destino, llenado, durabilidad);
     };
     provisionalesDe(destino).quitaAbandonados();
-    FicheroProvisional provisional(destino);
-    if (!provisional.creado() || (antiguo != nullptr && !provisional.pareceA(*antiguo))) return enSuSitio();
+    FicheroProvisional provisional(destino, antiguo == nullptr ? 0666 : 0600); // nobody opens it meanwhile
+    if (!provisional.creado()) return enSuSitio();
+    if (antiguo != nullptr && !provisional.pareceA(*antiguo))
+        return escribeEnSuSitio(destino, llenado, durabilidad);
     if (!provisional.llena(llenado, durabilidad)) return false;
     if (durabilidad == Durabilidad::Normal) return provisional.ocupaSuPuesto() || enSuSitio();
     const Descriptor carpeta(sinInterrupcion(
         [&] { return open(carpetaDe(destino).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    if (!carpeta.abierto()) return false;
+    if (!carpeta.abierto() && errno != EACCES) return false; // it may be one to write in but not to read
     if (!provisional.ocupaSuPuesto()) return enSuSitio();
-    if (!vuelcaCarpeta(carpeta))
+    if (!(carpeta.abierto() ? vuelcaCarpeta(carpeta) : provisional.vuelcaSistema()))
         falla(u"asegurar en el disco", entreComillas(destino),
               causaDelSistema(errno) + u". El contenido nuevo ya está en su sitio");
     return true;

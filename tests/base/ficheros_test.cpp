@@ -216,9 +216,9 @@ TEST(Ficheros, UnMiembroDelGrupoNoSeLoQuitaALosDemas) {
     constexpr uid_t ana = 54321;
     constexpr gid_t equipo = 54322;
     constexpr Guardado filas[] = {
-        {"carpeta del equipo", 0660, 0, 0770, true, ana},  {"el suyo", 0660, ana, 0770, true, ana},
-        {"carpeta con sello", 0660, 0, 01770, true, 0},    {"carpeta de solo leer", 0660, 0, 0750, true, 0},
-        {"fichero de solo leer", 0640, 0, 0770, false, 0},
+        {"carpeta del equipo", 0660, 0, 0770, true, ana}, {"el suyo", 0660, ana, 0770, true, ana},
+        {"carpeta con sello", 0660, 0, 01770, true, 0},   {"carpeta de solo leer", 0660, 0, 0750, true, 0},
+        {"carpeta sin leer", 0660, 0, 0730, true, ana},   {"fichero de solo leer", 0640, 0, 0770, false, 0},
     };
     for (const auto& [nombre, modo, duenio, deCarpeta, puede, despues] : filas) {
         const CarpetaTemporal carpeta;
@@ -265,6 +265,27 @@ TEST(Ficheros, ListasDeAccesoYAtributosSeConservan) {
         const ssize_t largo = getxattr(fichero.c_str(), nombre, ahora.data(), ahora.size());
         EXPECT_EQ(ahora.substr(0, static_cast<std::size_t>(std::max<ssize_t>(0, largo))), valor) << nombre;
     }
+}
+
+// In a folder that gives what is new a list of its own nobody comes to a file who had no way to it.
+TEST(Ficheros, LaListaDeLaCarpetaNoEsDelFichero) {
+    const CarpetaTemporal carpeta;
+    const fs::path fichero = carpeta.pon("fichero", "antes");
+    ASSERT_EQ(chmod(fichero.c_str(), 0660), 0);
+    // Owner rw, user 54321 rw, group rw, at most rw, others nothing.
+    const std::string lista("\2\0\0\0\1\0\6\0\377\377\377\377\2\0\6\0\x31\xD4\0\0\4\0\6\0\377\377\377\377"
+                            "\x10\0\6\0\377\377\377\377\x20\0\0\0\377\377\377\377",
+                            44);
+    if (setxattr(carpeta.ruta().c_str(), "system.posix_acl_default", lista.data(), lista.size(), 0) != 0)
+        GTEST_SKIP() << "no such lists here";
+    for (const auto durabilidad : {Durabilidad::Normal, Durabilidad::EnDisco}) {
+        escribeBytes(fichero, "después", durabilidad);
+        EXPECT_LT(getxattr(fichero.c_str(), "system.posix_acl_access", nullptr, 0), 0);
+        EXPECT_EQ(fs::status(fichero).permissions(), fs::perms(0660));
+    }
+    escribeBytes(carpeta / "nuevo", "x", Durabilidad::Normal);
+    EXPECT_EQ(getxattr((carpeta / "nuevo").c_str(), "system.posix_acl_access", nullptr, 0), 44)
+        << "what is new is as its folder says";
 }
 
 TEST(Ficheros, UnaTuberiaSeEscribeDirectamente) {
