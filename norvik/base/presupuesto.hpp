@@ -6,10 +6,16 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <stop_token>
 #include <utility>
 
 namespace norvik::inline v0_2 {
+
+/// Raises `OperacionCancelada` when somebody has asked for the end.
+inline void exigeSeguir(const std::stop_token& parada) {
+    if (parada.stop_requested()) throw OperacionCancelada();
+}
 
 /// How long a whole operation (a recognition, a search, a parse) may take, and as long as nobody cancels it.
 class Presupuesto {
@@ -23,7 +29,7 @@ public:
     bool cancelado() const { return parada_.stop_requested(); }
     /// Raises `OperacionCancelada` when somebody has cancelled, `BusquedaDesbocada` when the time is spent.
     void exige() const {
-        if (cancelado()) throw OperacionCancelada();
+        exigeSeguir(parada_);
         if (agotado()) throw BusquedaDesbocada();
     }
 
@@ -53,13 +59,29 @@ private:
 /// now and then: the clock costs as much as a token.
 class Gasto {
 public:
-    Gasto(const Presupuesto& presupuesto, Cabida& cabida) : presupuesto_(&presupuesto), cabida_(&cabida) {}
+    /// Whether what is kept was all kept by this work, or earlier ones have left their own.
+    enum class Comienzo : std::uint8_t { DeNuevo, ConLoGuardado };
+
+    Gasto(const Presupuesto& presupuesto, Cabida& cabida, Comienzo comienzo = Comienzo::DeNuevo)
+        : presupuesto_(&presupuesto), cabida_(&cabida), comienzo_(comienzo) {}
 
     Cabida& cabida() { return *cabida_; }
     /// Takes room for what cannot be done without. Raises `BusquedaDesbocada` when there is none.
     void ocupa(std::size_t bytes) {
         if (!cabida_->toma(bytes)) throw BusquedaDesbocada();
     }
+
+    /// There is no room where earlier work has left something: whoever begins anew has more.
+    struct LoGuardadoEstorba {};
+    /// Something is not kept for want of room, and another way does. Raises `LoGuardadoEstorba`.
+    void anotaFalta() {
+        if (comienzo_ == Comienzo::ConLoGuardado) throw LoGuardadoEstorba();
+        falta_ = true;
+    }
+    /// The same where nothing but time depends on it.
+    void anotaDemora() { falta_ = true; }
+    /// What was kept fills its room.
+    bool estaLleno() const { return falta_; }
 
     /// Work just done or about to be done, in steps of some nanoseconds. Raises what `Presupuesto::exige`
     /// does.
@@ -75,6 +97,8 @@ private:
 
     const Presupuesto* presupuesto_;
     Cabida* cabida_;
+    Comienzo comienzo_;
+    bool falta_ = false;
     std::size_t pasos_ = 0;
 };
 

@@ -235,24 +235,47 @@ BuscadorConjunto::~BuscadorConjunto() = default;
 void BuscadorConjunto::busca(std::u16string_view texto, const Presupuesto& presupuesto,
                              MapaCoincidencias& mapa) {
     a32(texto.size());
-    Gasto gasto(presupuesto, cabida_);
     try {
-        if (!preparados_) {
-            cabida_ = Cabida();
-            auto preparados = std::make_unique<Preparados>();
-            for (std::size_t i = 0; i < patrones_.size(); ++i) {
-                ultimoPatron_ = static_cast<std::int32_t>(i);
-                preparados->aniade(*patrones_[i], ultimoPatron_, gasto);
-            }
-            preparados->reune();
-            preparados_ = std::move(preparados);
-        }
-        mapa.reinicia(texto.size());
-        preparados_->busca({texto, gasto, mapa, ultimoPatron_});
+        if (preparados_ && buscaConLoGuardado(texto, presupuesto, mapa)) return;
+        prepara(presupuesto);
+        buscaYRenueva(texto, Gasto(presupuesto, cabida_), mapa);
     } catch (...) {
         mapa.vacia();
         throw;
     }
+}
+
+void BuscadorConjunto::prepara(const Presupuesto& presupuesto) {
+    preparados_.reset();
+    cabida_ = Cabida();
+    Gasto gasto(presupuesto, cabida_);
+    auto preparados = std::make_unique<Preparados>();
+    for (std::size_t i = 0; i < patrones_.size(); ++i) {
+        ultimoPatron_ = static_cast<std::int32_t>(i);
+        preparados->aniade(*patrones_[i], ultimoPatron_, gasto);
+    }
+    preparados->reune();
+    preparados_ = std::move(preparados);
+    renovable_ = !gasto.estaLleno();
+}
+
+void BuscadorConjunto::buscaYRenueva(std::u16string_view texto, Gasto gasto, MapaCoincidencias& mapa) {
+    mapa.reinicia(texto.size());
+    preparados_->busca({texto, gasto, mapa, ultimoPatron_});
+    if (gasto.estaLleno() && renovable_) preparados_.reset();
+}
+
+// False when that leaves too little room, and all is to be made anew: what a text comes to depends on no
+// other one.
+bool BuscadorConjunto::buscaConLoGuardado(std::u16string_view texto, const Presupuesto& presupuesto,
+                                          MapaCoincidencias& mapa) {
+    const auto comienzo = renovable_ ? Gasto::Comienzo::ConLoGuardado : Gasto::Comienzo::DeNuevo;
+    try {
+        buscaYRenueva(texto, Gasto(presupuesto, cabida_, comienzo), mapa);
+    } catch (const Gasto::LoGuardadoEstorba&) {
+        return false;
+    }
+    return true;
 }
 
 } // namespace norvik::inline v0_2

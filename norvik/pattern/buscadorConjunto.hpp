@@ -14,7 +14,8 @@
 namespace norvik::inline v0_2 {
 
 /// The search of many patterns at once. It serves one search at a time, and any number of them: what texts
-/// have asked of its automata stays for the next one. After a failure it is as good as new.
+/// have asked of its automata stays for the next one, until its room is full. After a failure it is as good
+/// as new.
 class BuscadorConjunto {
 public:
     /// The patterns, fewer than `MapaCoincidencias::maximoPatrones` and known by their places, outlive the
@@ -36,10 +37,16 @@ public:
 private:
     class Preparados;
 
+    void prepara(const Presupuesto& presupuesto);
+    void buscaYRenueva(std::u16string_view texto, Gasto gasto, MapaCoincidencias& mapa);
+    bool buscaConLoGuardado(std::u16string_view texto, const Presupuesto& presupuesto,
+                            MapaCoincidencias& mapa);
+
     std::vector<const Emparejador*> patrones_;
     Cabida cabida_;                          ///< of all that is kept below
-    std::unique_ptr<Preparados> preparados_; ///< made by the first search
+    std::unique_ptr<Preparados> preparados_; ///< made by the first search, and anew when there is no room
     std::int32_t ultimoPatron_ = 0;
+    bool renovable_ = true; ///< new ones have room; else they fill it from the beginning
 };
 
 } // namespace norvik::inline v0_2

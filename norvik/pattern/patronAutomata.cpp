@@ -37,7 +37,7 @@ constexpr std::size_t pasoRecuerdo = 64; // positions between two that long walk
 void recuerda(const std::vector<std::uint64_t>& lugares, Automata::Recuerdo& recuerdo, Gasto& gasto) {
     for (const std::uint64_t lugar : lugares) {
         if (recuerdo.contains(lugar)) continue;
-        if (!gasto.cabida().toma(Automata::bytesPorRecuerdo)) return;
+        if (!gasto.cabida().toma(Automata::bytesPorRecuerdo)) return gasto.anotaDemora();
         recuerdo.insert(lugar);
     }
 }
@@ -266,7 +266,10 @@ Automata::Numero Automata::numeroDe(Estado estado, Gasto& gasto) {
     if (completo) estado.completaAntes = false;
     if (const auto conocido = numeros_.find(estado); conocido != numeros_.end()) return conocido->second;
     const std::size_t numero = numeros_.size();
-    if (numero >= estadosMaximos || !gasto.cabida().toma(bytesDe(estado))) return desconocido;
+    if (numero >= estadosMaximos || !gasto.cabida().toma(bytesDe(estado))) {
+        gasto.anotaFalta();
+        return desconocido;
+    }
     // Until the number is filed, what stands in its place is nobody's, and is written anew.
     estados_.resize(numero + 1);
     completa_.resize(numero + 1);

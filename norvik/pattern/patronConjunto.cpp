@@ -133,7 +133,10 @@ AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros, Gasto& ga
     if (const auto conocido = numeros_.find(miembros); conocido != numeros_.end()) return conocido->second;
     const std::size_t numero = numeros_.size();
     const std::size_t bytes = 128 + miembros.size() * sizeof(Miembro) + numClases_ * sizeof(Numero);
-    if (numero >= estadosMaximos || !gasto.cabida().toma(bytes)) return desconocido;
+    if (numero >= estadosMaximos || !gasto.cabida().toma(bytes)) {
+        gasto.anotaDemora();
+        return desconocido;
+    }
     // Until the number is filed, what stands in its place is nobody's, and is written anew.
     miembros_.resize(numero + 1);
     mascaras_.resize(numero + 1);
