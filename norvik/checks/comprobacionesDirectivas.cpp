@@ -29,12 +29,12 @@ Textos valoresDe(std::u16string_view palabra) {
 class RevisorDirectivas {
 public:
     RevisorDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
-                      const Directivas& directivas, std::vector<Diagnostico>& hallazgos)
+                      const Directivas& directivas, const std::stop_token& cancelacion,
+                      std::vector<Diagnostico>& hallazgos)
         : especificacion_(especificacion), lugares_(especificacion, Lugares::Unidad::Utf16),
-          directivas_(directivas), hallazgos_(hallazgos) {
-        for (const FuenteEspecificacion::Definicion& d : fuente.definiciones)
-            if (d.esToken) tokens_.insert(d.nombre);
-    }
+          directivas_(directivas), hallazgos_(hallazgos), tokens_(tokensDe(fuente)),
+          conocidos_(Textos(tokens_.begin(), tokens_.end()), cancelacion),
+          palabras_(Textos(palabrasDeDirectivas.begin(), palabrasDeDirectivas.end()), cancelacion) {}
 
     void revisa() {
         const std::size_t fin = cabecera(especificacion_).size();
@@ -44,7 +44,7 @@ public:
             if (linea.inicio >= fin) {
                 if (conocida) anota(Codigo::DirectivaTardia, linea, {}, {});
             } else if (!conocida) {
-                anota(Codigo::DirectivaDesconocida, linea, {}, cercano(linea.palabra, palabrasDeDirectivas));
+                anota(Codigo::DirectivaDesconocida, linea, {}, cercano(linea.palabra, palabras_));
             } else if (!vale(linea)) {
                 anota(Codigo::DirectivaIncorrecta, linea, std::u16string(linea.valor),
                       valoresDe(linea.palabra));
@@ -55,6 +55,13 @@ public:
     }
 
 private:
+    static std::set<std::u16string_view> tokensDe(const FuenteEspecificacion& fuente) {
+        std::set<std::u16string_view> tokens;
+        for (const FuenteEspecificacion::Definicion& d : fuente.definiciones)
+            if (d.esToken) tokens.insert(d.nombre);
+        return tokens;
+    }
+
     void anota(Codigo codigo, const LineaDirectiva& linea, std::u16string hallado, Textos esperados) {
         hallazgos_.push_back({codigo,
                               Gravedad::Aviso,
@@ -69,15 +76,14 @@ private:
         if (!asocia) return;
         for (const std::u16string_view token : nombresDe(linea.valor)) {
             if (tokens_.contains(token)) continue;
-            Textos esperados = cercano(token, tokens_);
+            Textos esperados = cercano(token, conocidos_);
             if (esperados.empty()) esperados = {u"un token definido"};
             anota(Codigo::DirectivaIncorrecta, linea, std::u16string(token), std::move(esperados));
         }
     }
 
-    template <typename Conocidos>
-    static Textos cercano(std::u16string_view nombre, const Conocidos& conocidos) {
-        std::u16string suyo = nombreCercano(nombre, Textos(conocidos.begin(), conocidos.end()));
+    static Textos cercano(std::u16string_view nombre, NombresConocidos& conocidos) {
+        std::u16string suyo = conocidos.cercanoA(nombre);
         return suyo.empty() ? Textos() : Textos{std::move(suyo)};
     }
 
@@ -86,13 +92,16 @@ private:
     const Directivas& directivas_;
     std::vector<Diagnostico>& hallazgos_;
     std::set<std::u16string_view> tokens_;
+    NombresConocidos conocidos_; // the same
+    NombresConocidos palabras_;
 };
 
 } // namespace
 
 void compruebaDirectivas(std::u16string_view especificacion, const FuenteEspecificacion& fuente,
-                         const Directivas& directivas, std::vector<Diagnostico>& hallazgos) {
-    RevisorDirectivas(especificacion, fuente, directivas, hallazgos).revisa();
+                         const Directivas& directivas, const std::stop_token& cancelacion,
+                         std::vector<Diagnostico>& hallazgos) {
+    RevisorDirectivas(especificacion, fuente, directivas, cancelacion, hallazgos).revisa();
 }
 
 } // namespace norvik::inline v0_2

@@ -5,6 +5,7 @@
 // alone, by walking back from it. All takes time in proportion to the rules, cycles but for their square.
 #include "norvik/checks/comprobaciones.hpp"
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
@@ -28,14 +29,16 @@ bool esVariable(std::u16string_view nombre) {
 
 class Revisor {
 public:
-    Revisor(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos)
-        : fuente_(fuente), metodo_(metodo), hallazgos_(hallazgos) {
+    Revisor(const FuenteEspecificacion& fuente, Metodo metodo, const std::stop_token& cancelacion,
+            std::vector<Diagnostico>& hallazgos)
+        : fuente_(fuente), metodo_(metodo), cancelacion_(cancelacion), hallazgos_(hallazgos) {
         for (const Regla& regla : fuente.reglas) reglasDe_[regla.cabeza.nombre].push_back(&regla);
     }
 
     void revisa() {
         compruebaCabezas();
         compruebaRepetidas();
+        exigeSeguir(cancelacion_);
         compruebaUsos();
         compruebaProductivas();
         compruebaCiclos();
@@ -189,6 +192,7 @@ private:
         std::map<std::u16string_view, std::u16string_view> desde;
         std::vector<std::u16string_view> cola{variable};
         for (std::size_t i = 0; i < cola.size() && !desde.contains(variable); ++i) {
+            exigeSeguir(cancelacion_);
             const auto suyas = llevan.find(cola[i]);
             if (suyas == llevan.end()) continue;
             for (const std::u16string_view otra : suyas->second)
@@ -207,14 +211,16 @@ private:
 
     const FuenteEspecificacion& fuente_;
     Metodo metodo_;
+    const std::stop_token& cancelacion_;
     std::vector<Diagnostico>& hallazgos_;
     std::map<std::u16string_view, std::vector<const Regla*>> reglasDe_;
 };
 
 } // namespace
 
-void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, std::vector<Diagnostico>& hallazgos) {
-    if (!fuente.reglas.empty()) Revisor(fuente, metodo, hallazgos).revisa();
+void compruebaReglas(const FuenteEspecificacion& fuente, Metodo metodo, const std::stop_token& cancelacion,
+                     std::vector<Diagnostico>& hallazgos) {
+    if (!fuente.reglas.empty()) Revisor(fuente, metodo, cancelacion, hallazgos).revisa();
 }
 
 } // namespace norvik::inline v0_2

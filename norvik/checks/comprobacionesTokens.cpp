@@ -140,6 +140,7 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible, const 
     pilaTokens lexico;
     std::vector<const Definicion*> deToken; // of each token of the lexer
     for (const Definicion& d : fuente.definiciones) {
+        exigeSeguir(cancelacion);
         const bool registrada =
             !lexico.registra({d.texto, d.nombre, d.esToken, sensible, d.pseudoToken, d.tipo});
         if (!registrada) situaDefecto(d, lexico.definiciones(), hallazgos);
@@ -170,8 +171,6 @@ void compruebaTokens(const FuenteEspecificacion& fuente, const Directivas& direc
     compruebaRepetidas(fuente, hallazgos);
     try {
         compruebaPatrones(fuente, directivas.distingueMayusculas, cancelacion, hallazgos);
-    } catch (const OperacionCancelada&) {
-        hallazgos.push_back({Codigo::Cancelado, Gravedad::Error, {}, {}});
     } catch (const Desbordamiento&) {
         return; // compiling tells which capacity was passed, and a text that runs away proves nothing
     }

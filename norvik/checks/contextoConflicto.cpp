@@ -111,6 +111,7 @@ std::vector<std::int16_t> ContextoConflicto::camino(const std::vector<ComienzoCo
     };
     constexpr std::size_t maximo = 100'000; // places looked at, in well under a second
     for (std::size_t vistos = 0; vistos < maximo; ++vistos) {
+        producciones_.exigeSeguir();
         const auto cual = frontera.saca();
         if (!cual) break;
         const Lugar& aqui = frontera.nodo(*cual);
@@ -146,6 +147,7 @@ std::optional<std::vector<Eslabon>> ContextoConflicto::cadena(const std::vector<
     Frontera<EnCamino> frontera;
     frontera.pon({camino.size() - 1, item, pideToken, Eslabon::Resto::Libre}, 0, {});
     while (const auto cual = frontera.saca()) {
+        producciones_.exigeSeguir();
         const EnCamino aqui = frontera.nodo(*cual);
         if (aqui.item.punto > 0) {
             if (aqui.lugar > 0)

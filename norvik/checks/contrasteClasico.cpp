@@ -57,8 +57,9 @@ std::u16string junta(const std::vector<std::u16string>& partes, std::u16string_v
 
 class Contraste {
 public:
-    Contraste(const GramaticaLR& clasica, const LugaresReglas& lugares)
-        : clasica_(clasica), lugares_(lugares), exacta_(exacto::genera(clasica.reglas, {Metodo::Slr, {}})) {}
+    Contraste(const GramaticaLR& clasica, const LugaresReglas& lugares, const std::stop_token& cancelacion)
+        : clasica_(clasica), lugares_(lugares), cancelacion_(cancelacion),
+          exacta_(exacto::genera(clasica.reglas, {Metodo::Slr, {}}, cancelacion)) {}
 
     std::vector<Diagnostico> contrasta() {
         contrastaConjuntos(Codigo::PrimerosDistintos, clasica_.conjuntos.primeros,
@@ -116,7 +117,7 @@ private:
     }
 
     void contrastaFrases() {
-        const exacto::Producciones producciones(exacta_.partidas);
+        const exacto::Producciones producciones(exacta_.partidas, cancelacion_);
         const FrasesDistintas frases = buscaFrasesDistintas(clasica_.reglas, producciones, clasica_.tabla);
         if (frases.rechazada) anotaFrase(Codigo::FraseRechazada, *frases.rechazada);
         if (frases.deMas) anotaFrase(Codigo::FraseDeMas, *frases.deMas);
@@ -133,9 +134,11 @@ private:
         for (const auto& [nombre, metodo] : metodos) {
             if (metodo == Metodo::Clasico || metodo == Metodo::Slr) continue;
             try {
-                const GramaticaLR otra = exacto::genera(clasica_.reglas, {metodo, {}});
+                const GramaticaLR otra = exacto::genera(clasica_.reglas, {metodo, {}}, cancelacion_);
                 if (arbolPorTabla(otra.tabla, otra.reglas, frase).has_value() == esDeLaGramatica)
                     return std::u16string(nombre);
+            } catch (const OperacionCancelada&) {
+                throw;
             } catch (const ErrorNorvik&) { // it has no table
             }
         }
@@ -144,15 +147,19 @@ private:
 
     const GramaticaLR& clasica_;
     const LugaresReglas& lugares_;
+    const std::stop_token& cancelacion_;
     GramaticaLR exacta_;
     std::vector<Diagnostico> diagnosticos_;
 };
 
 } // namespace
 
-std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const LugaresReglas& lugares) {
+std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const LugaresReglas& lugares,
+                                          const std::stop_token& cancelacion) {
     try {
-        return Contraste(clasica, lugares).contrasta();
+        return Contraste(clasica, lugares, cancelacion).contrasta();
+    } catch (const OperacionCancelada&) {
+        throw;
     } catch (const ErrorNorvik&) {
         return {}; // too large for an exact method: there is nothing to compare with
     }
@@ -161,7 +168,7 @@ std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const Luga
 ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const LimitesHistorias& limites) {
     ConflictosClasicos todos;
     try {
-        const GramaticaLR exacta = exacto::genera(clasica.reglas, {Metodo::Slr, {}});
+        const GramaticaLR exacta = exacto::genera(clasica.reglas, {Metodo::Slr, {}}, limites.cancelacion);
         const std::set<Firma> apuntados = firmas(clasica.tabla);
         std::map<Firma, HistoriaConflicto> conocidas;
         auto historias = cuentaConflictos(exacta, {Metodo::Slr, {}}, clasica.tabla, limites);
@@ -183,7 +190,7 @@ ConflictosClasicos cuentaConflictosClasicos(const GramaticaLR& clasica, const Li
             todos.apuntados.back().push_back(sitio->second);
             todos.apuntados.back().back().estado = static_cast<std::int16_t>(conflicto.fila - 1);
         }
-    } catch (const ErrorNorvik&) { // too large for an exact method
+    } catch (const ErrorNorvik&) { // too large for an exact method, or cancelled
     }
     return todos;
 }

@@ -7,6 +7,7 @@
 #include "norvik/grammar/gramaticaLR.hpp"
 
 #include <cstddef>
+#include <stop_token>
 #include <vector>
 
 namespace norvik::inline v0_2 {
@@ -20,8 +21,9 @@ struct LugaresReglas {
 /// En qué se aparta de la verdad lo que ha hecho el método clásico: conjuntos que no son los exactos,
 /// conflictos que la tabla no apunta (en el orden de la exacta), un texto de la gramática que rechaza y uno
 /// que acepta sin serlo, los más cortos que aparecen con un trabajo limitado. No cambia nada de lo que
-/// recibe.
-std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const LugaresReglas& lugares = {});
+/// recibe. Lanza `OperacionCancelada` cuando alguien lo pide.
+std::vector<Diagnostico> contrastaClasico(const GramaticaLR& clasica, const LugaresReglas& lugares = {},
+                                          const std::stop_token& cancelacion = {});
 
 /// Los conflictos de las reglas de una gramática hecha con el método clásico, contados. Los ejemplos se
 /// prueban con su tabla; los callados no tienen estado, porque los de las dos tablas no son los mismos.

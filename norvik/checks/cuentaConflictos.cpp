@@ -6,6 +6,7 @@
 // the budget; the others walk over states and items, and do.
 #include "norvik/checks/cuentaConflictos.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/checks/contextoConflicto.hpp"
 #include "norvik/checks/curaConflicto.hpp"
 #include "norvik/checks/ejemploUnificador.hpp"
@@ -29,10 +30,11 @@ class Narrador {
 public:
     Narrador(const GramaticaLR& gramatica, const OpcionesTabla& opciones, const TablaLR& enUso,
              const LimitesHistorias& limites)
-        : gramatica_(gramatica), enUso_(enUso), limites_(limites), producciones_(gramatica.partidas),
-          minimas_(producciones_), grafo_(producciones_, gramatica.automata, minimas_),
-          siguientes_(exacto::siguientes(producciones_)), curas_(gramatica, producciones_, opciones),
-          fin_(Reloj::now() + limites.enTotal), faltan_(gramatica.tabla.conflictos().size()) {}
+        : gramatica_(gramatica), enUso_(enUso), limites_(limites),
+          producciones_(gramatica.partidas, limites.cancelacion), minimas_(producciones_),
+          grafo_(producciones_, gramatica.automata, minimas_), siguientes_(exacto::siguientes(producciones_)),
+          curas_(gramatica, producciones_, opciones), fin_(Reloj::now() + limites.enTotal),
+          faltan_(gramatica.tabla.conflictos().size()) {}
 
     HistoriaConflicto cuenta(const Conflicto& conflicto) {
         const CasoConflicto caso = casoDe(conflicto);
@@ -40,20 +42,28 @@ public:
         historia.estado = caso.estado;
         historia.simbolo = gramatica_.partidas.texto(caso.token);
         historia.acciones = accionesDe(caso);
-        if (contados_++ >= limites_.contados || limites_.cancelacion.stop_requested() ||
-            Reloj::now() > fin_ + std::chrono::seconds(1)) { // the rest of it needs little
+        const HistoriaConflicto sinContar = historia;
+        try {
+            historia.agotado = contados_++ >= limites_.contados ||
+                               Reloj::now() > fin_ + std::chrono::seconds(1); // the rest of it needs little
+            if (!historia.agotado) cuenta(caso, historia);
+        } catch (const OperacionCancelada&) {
+            historia = sinContar;
             historia.agotado = true;
-            return historia;
         }
-        ContextoConflicto contexto(grafo_, producciones_, minimas_, caso.token);
-        if (!cuentaAmbigua(caso, contexto, historia)) cuentaDosFrases(caso, contexto, historia);
-        historia.cura = curas_.de(caso, historia);
-        historia.porque =
-            porqueSigue(producciones_, minimas_, gramatica_.partidas.cabeza(caso.reduccion), caso.token);
         return historia;
     }
 
 private:
+    void cuenta(const CasoConflicto& caso, HistoriaConflicto& historia) {
+        producciones_.exigeSeguir();
+        const ContextoConflicto contexto(grafo_, producciones_, minimas_, caso.token);
+        if (!cuentaAmbigua(caso, contexto, historia)) cuentaDosFrases(caso, contexto, historia);
+        historia.cura = curas_.de(caso, historia);
+        historia.porque =
+            porqueSigue(producciones_, minimas_, gramatica_.partidas.cabeza(caso.reduccion), caso.token);
+    }
+
     CasoConflicto casoDe(const Conflicto& conflicto) const {
         CasoConflicto caso;
         caso.estado = static_cast<std::int16_t>(conflicto.fila - 1);
@@ -289,9 +299,12 @@ std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, co
     std::vector<HistoriaConflicto> historias;
     // The table of a grammar without rules is still that of the language before it.
     if (gramatica.automata.estados.empty() || gramatica.tabla.conflictos().empty()) return historias;
-    Narrador narrador(gramatica, opciones, enUso, limites);
-    for (const Conflicto& conflicto : gramatica.tabla.conflictos())
-        historias.push_back(narrador.cuenta(conflicto));
+    try {
+        Narrador narrador(gramatica, opciones, enUso, limites);
+        for (const Conflicto& conflicto : gramatica.tabla.conflictos())
+            historias.push_back(narrador.cuenta(conflicto));
+    } catch (const OperacionCancelada&) { // before the first one
+    }
     return historias;
 }
 

@@ -12,7 +12,7 @@ namespace norvik::inline v0_2 {
 
 /// The stories of the conflicts of a grammar whose table was made by an exact method with these options, in
 /// the order of the table. The examples are tried on the table `enUso`: its own, or the classic one of the
-/// same rules.
+/// same rules. None when it is cancelled before the first one.
 std::vector<HistoriaConflicto> cuentaConflictos(const GramaticaLR& gramatica, const OpcionesTabla& opciones,
                                                 const TablaLR& enUso, const LimitesHistorias& limites = {});
 

@@ -84,7 +84,12 @@ bool CurasConflicto::tiene(Metodo metodo, const Firma& firma) {
     auto& suyas = metodo == Metodo::Lalr ? lalr_ : lr1_;
     try {
         if (!suyas)
-            suyas = firmas(exacto::genera(gramatica_.reglas, {metodo, opciones_.precedencias}).tabla, metodo);
+            suyas = firmas(
+                exacto::genera(gramatica_.reglas, {metodo, opciones_.precedencias}, producciones_.parada())
+                    .tabla,
+                metodo);
+    } catch (const OperacionCancelada&) {
+        throw;
     } catch (const ErrorNorvik&) {
         suyas = std::set<Firma>{};
         return true;

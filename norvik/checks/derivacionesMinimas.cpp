@@ -29,6 +29,7 @@ DerivacionesMinimas::DerivacionesMinimas(const Producciones& producciones)
 
 void DerivacionesMinimas::buscaMinimos() {
     for (bool mejora = true; mejora;) {
+        producciones_.exigeSeguir();
         mejora = false;
         for (const Simbolo cabeza : producciones_.cabezas()) {
             if (!producciones_.esVariable(cabeza)) continue;
@@ -73,6 +74,7 @@ const DerivacionesMinimas::Comienzos& DerivacionesMinimas::comienzos(Simbolo tok
     const auto [sitio, nuevo] = comienzos_.try_emplace(token, producciones_.numSimbolos());
     Comienzos& suyos = sitio->second;
     for (bool cambia = nuevo; cambia;) {
+        producciones_.exigeSeguir();
         cambia = false;
         for (const Simbolo cabeza : producciones_.cabezas())
             if (producciones_.esVariable(cabeza))

@@ -66,6 +66,7 @@ public:
                 break;
             }
             hallazgo.pasos = nodos_.size(); // a pair may have many successors
+            producciones_.exigeSeguir();
             const bool pideHora = ++vueltas % 64 == 0;
             if (hallazgo.pasos > limite.pasos ||
                 (pideHora && std::chrono::steady_clock::now() > limite.fin)) {

@@ -85,6 +85,7 @@ public:
         const auto fin = std::chrono::steady_clock::now() + limite.plazo;
         comienzos_.push_back({0, ReglasPartidas::sinSimbolo, {0}, 0});
         for (std::size_t i = 0; i < comienzos_.size() && !estaTodo(i); ++i) {
+            producciones_.exigeSeguir();
             if (gramatica_.trabajo() + pasos_ > limite.trabajo ||
                 (i % 64 == 0 && std::chrono::steady_clock::now() > fin)) {
                 halladas_.agotado = true;

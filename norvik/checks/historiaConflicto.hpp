@@ -83,7 +83,7 @@ struct LimitesHistorias {
     std::chrono::milliseconds porConflicto{1'500};
     std::chrono::milliseconds enTotal{8'000};
     std::size_t contados = 200; ///< de los demás se dicen solo las acciones
-    /// Desde que se pide, tampoco se cuentan los que falten.
+    /// Desde que se pide, tampoco se cuentan los que falten. Si no se da ninguna, la de la compilación.
     std::stop_token cancelacion{};
 };
 

@@ -4,12 +4,14 @@
 // Names whose lengths differ too much are not compared.
 #include "norvik/checks/nombreCercano.hpp"
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/pattern/mayusculas.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <numeric>
+#include <utility>
 
 namespace norvik::inline v0_2 {
 
@@ -49,6 +51,14 @@ std::u16string nombreCercano(std::u16string_view nombre, const std::vector<std::
         cercano = conocido;
     }
     return std::u16string(cercano);
+}
+
+NombresConocidos::NombresConocidos(std::vector<std::u16string> nombres, std::stop_token parada)
+    : nombres_(std::move(nombres)), parada_(std::move(parada)) {}
+
+std::u16string NombresConocidos::cercanoA(std::u16string_view nombre) {
+    exigeSeguir(parada_);
+    return pedidos_++ < maximo ? nombreCercano(nombre, nombres_) : std::u16string();
 }
 
 } // namespace norvik::inline v0_2

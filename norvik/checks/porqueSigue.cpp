@@ -31,6 +31,7 @@ public:
         desde_.try_emplace(cabeza, Sitio{});
         std::vector<Simbolo> cola{cabeza};
         for (std::size_t i = 0; i < cola.size(); ++i) {
+            producciones_.exigeSeguir();
             const Simbolo variable = cola[i];
             if (token_ == ReglasPartidas::finTexto && variable == producciones_.inicial())
                 return lineas(variable, std::nullopt);

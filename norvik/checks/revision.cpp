@@ -61,7 +61,9 @@ std::vector<Diagnostico> revisa(std::u16string_view especificacion, const Opcion
 std::vector<Hallazgo> revisaConHistorias(std::u16string_view especificacion,
                                          const OpcionesCompilacion& opciones,
                                          const LimitesHistorias& limites) {
-    return conHistorias(revisada(especificacion, opciones), limites);
+    LimitesHistorias suyos = limites;
+    if (!suyos.cancelacion.stop_possible()) suyos.cancelacion = opciones.cancelacion;
+    return conHistorias(revisada(especificacion, opciones), suyos);
 }
 
 std::vector<Hallazgo> conHistorias(const Revisada& revision, const LimitesHistorias& limites) {

@@ -27,12 +27,12 @@ AutomataLR automataDe(const ReglasPartidas& reglas, const OpcionesTabla& opcione
                       const std::stop_token& cancelacion) {
     switch (opciones.metodo) {
     case Metodo::Clasico:
-        return clasico::creaAutomata(reglas);
+        return clasico::creaAutomata(reglas, cancelacion);
     case Metodo::Slr:
     case Metodo::Lalr:
-        return exacto::creaAutomata(exacto::Producciones(reglas));
+        return exacto::creaAutomata(exacto::Producciones(reglas, cancelacion));
     case Metodo::Lr1:
-        return exacto::creaAutomataLr1(exacto::Producciones(reglas), opciones.precedencias, cancelacion);
+        return exacto::creaAutomataLr1(exacto::Producciones(reglas, cancelacion), opciones.precedencias);
     }
     return {};
 }
@@ -213,11 +213,12 @@ void gramatica::creaTablaSLR() {
     if (!partidas().hayInicial()) return;
     cambia();
     try {
-        valores_->tabla = metodo() == Metodo::Clasico
-                              ? clasico::creaTabla(valores_->partidas, valores_->conjuntos,
-                                                   valores_->automata, valores_->tabla.simbolos())
-                              : exacto::creaTabla(exacto::Producciones(valores_->partidas),
-                                                  valores_->automata, opciones_, valores_->tabla.simbolos());
+        valores_->tabla =
+            metodo() == Metodo::Clasico
+                ? clasico::creaTabla(valores_->partidas, valores_->conjuntos, valores_->automata,
+                                     valores_->tabla.simbolos(), cancelacion)
+                : exacto::creaTabla(exacto::Producciones(valores_->partidas, cancelacion), valores_->automata,
+                                    opciones_, valores_->tabla.simbolos());
     } catch (...) {
         olvidaGenerado();
         throw;

@@ -64,7 +64,8 @@ public:
     /// Los valores de que es la cara: reglas, conjuntos, autómata y tabla.
     const GramaticaLR& valores() const { return *valores_; }
 
-    /// Con lo que se deja a medias `creaAutomata`, que lanza entonces `OperacionCancelada`.
+    /// Con lo que se dejan a medias `creaConjuntos`, `creaAutomata` y `creaTablaSLR`, que lanzan entonces
+    /// `OperacionCancelada`.
     std::stop_token cancelacion;
 
     /// Recibe un texto, no hace nada y da uno vacío.

@@ -61,9 +61,10 @@ void gramatica::creaConjuntos() {
     inicializaConjuntos();
     try {
         if (metodo() == Metodo::Clasico) {
-            clasico::calculaConjuntos(valores_->partidas, valores_->conjuntos, *pendientes_);
+            clasico::calculaConjuntos(valores_->partidas, valores_->conjuntos, *pendientes_, cancelacion);
         } else {
-            valores_->conjuntos = exacto::creaConjuntos(exacto::Producciones(valores_->partidas));
+            valores_->conjuntos =
+                exacto::creaConjuntos(exacto::Producciones(valores_->partidas, cancelacion));
             *pendientes_ = clasico::Pendientes();
         }
     } catch (...) {

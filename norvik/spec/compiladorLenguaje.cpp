@@ -7,6 +7,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramaticaLR.hpp"
 #include "norvik/grammar/tablaLR.hpp"
@@ -70,9 +71,7 @@ private:
         diagnosticos_.push_back({codigo, gravedad, rango, std::move(partes)});
     }
 
-    void sigue() const {
-        if (cancelacion_.stop_requested()) throw OperacionCancelada();
-    }
+    void sigue() const { exigeSeguir(cancelacion_); }
 
     // False when a capacity was passed, or the compilation cancelled.
     bool registra() {
@@ -153,6 +152,7 @@ private:
             g.creaAutomata();
             sigue();
             g.creaTablaSLR();
+            anotaConflictos();
         } catch (const OperacionCancelada&) {
             anota(Codigo::Cancelado, Gravedad::Error, {}, {});
             return false;
@@ -160,14 +160,14 @@ private:
             anota(Codigo::CapacidadSuperada, Gravedad::Error, raiz_.rango(), {{}, error.texto(), {}, {}});
             return false;
         }
-        anotaConflictos();
         return true;
     }
 
     void anotaConflictos() {
         const gramatica& g = datos_->reglas;
         const std::size_t antes = diagnosticos_.size();
-        for (std::int16_t fila = 1; fila <= g.filasVigentes(); ++fila)
+        for (std::int16_t fila = 1; fila <= g.filasVigentes(); ++fila) {
+            sigue();
             for (std::int16_t columna = 1; columna <= g.columnasVigentes(); ++columna) {
                 if (!g.enConflicto(fila, columna)) continue;
                 const auto regla = static_cast<std::size_t>(g.conflicto(fila, columna));
@@ -178,6 +178,7 @@ private:
                        {},
                        {}});
             }
+        }
         comparaConLosQueridos(std::span(diagnosticos_).subspan(antes));
     }
 

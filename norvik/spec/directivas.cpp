@@ -110,6 +110,7 @@ bool vale(const LineaDirectiva& linea) {
 
 Directivas leeDirectivas(std::u16string_view especificacion, Lugares::Unidad unidad) {
     Directivas directivas;
+    std::optional<LineaDirectiva> conflictos; // the last line that says how many
     for (const LineaDirectiva& linea : lineasDeDirectivas(cabecera(especificacion))) {
         if (!vale(linea)) continue;
         if (linea.palabra == u"metodo")
@@ -117,11 +118,13 @@ Directivas leeDirectivas(std::u16string_view especificacion, Lugares::Unidad uni
         else if (linea.palabra == u"mayusculas")
             directivas.distingueMayusculas = true;
         else if (linea.palabra == u"conflictos")
-            directivas.conflictos = {*numeroDe(linea.valor),
-                                     Lugares(especificacion, unidad).rango(linea.inicio, linea.fin)};
+            conflictos = linea;
         else
             directivas.tabla.precedencias.push_back(nivelDe(linea));
     }
+    if (conflictos)
+        directivas.conflictos = {*numeroDe(conflictos->valor),
+                                 Lugares(especificacion, unidad).rango(conflictos->inicio, conflictos->fin)};
     return directivas;
 }
 

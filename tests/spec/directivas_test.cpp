@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 #include <random>
 #include <string>
@@ -128,6 +129,19 @@ TEST(Directivas, LoQueLaPrecedenciaNoResuelveSigueSiendoUnConflicto) {
             u"'% metodo: lalr\n'% izquierda: a\nToken a = \"a\";\nToken n = \"n\";\n" + reglas);
         EXPECT_EQ(compilacion.diagnosticos.size(), conflictos) << aUtf8(reglas);
     }
+}
+
+// Of many lines the last one holds, and the place is its own.
+TEST(Directivas, MuchasLineasNoCuestanSuCuadrado) {
+    constexpr int cuantas = 30'000;
+    std::u16string lineas;
+    for (int i = 0; i < cuantas; ++i) lineas += u"'% conflictos: 1\n";
+    const auto antes = std::chrono::steady_clock::now();
+    const auto conflictos = leeDirectivas(lineas + u"'% conflictos: 7\n", Lugares::Unidad::Utf8).conflictos;
+    EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(2));
+    ASSERT_TRUE(conflictos);
+    EXPECT_EQ(conflictos->numero, 7);
+    EXPECT_EQ(conflictos->lugar.inicio.linea, cuantas + 1);
 }
 
 TEST(Directivas, LosConflictosQueridosNoSeAvisan) {

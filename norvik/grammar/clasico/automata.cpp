@@ -4,6 +4,7 @@
 
 #include "norvik/base/errores.hpp"
 #include "norvik/base/numeros.hpp"
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
@@ -48,18 +49,18 @@ Nucleo nucleoInicial(const ReglasPartidas& reglas) {
 
 // State 1, which the table reaches from state 0 over the start symbol, is built apart and last; it has items
 // only for a start symbol that is left-recursive.
-AutomataLR creaAutomata(const ReglasPartidas& reglas) {
+AutomataLR creaAutomata(const ReglasPartidas& reglas, const std::stop_token& parada) {
     if (!reglas.hayInicial()) return {};
     ConstructorAutomata constructor(reglas, {}, 2);
     estadoAutomata inicial;
     inicial.setNumEstado(0);
     inicial.setInicial();
     constructor.aniadeRegla(reglas.cabeza(1), inicial);
-    constructor.construyeTransiciones(std::move(inicial));
+    constructor.construyeTransiciones(std::move(inicial), parada);
     estadoAutomata aceptacion;
     aceptacion.setNumEstado(1);
     constructor.aniadeNucleo(nucleoInicial(reglas), aceptacion);
-    constructor.construyeTransiciones(std::move(aceptacion));
+    constructor.construyeTransiciones(std::move(aceptacion), parada);
     AutomataLR automata{std::move(constructor).estados()};
     std::ranges::sort(automata.estados, {}, &estadoAutomata::getNumEstado);
     return automata;
@@ -147,10 +148,11 @@ void ConstructorAutomata::aniadeNucleo(const Nucleo& nucleo, estadoAutomata& est
     }
 }
 
-void ConstructorAutomata::construyeTransiciones(estadoAutomata estado) {
+void ConstructorAutomata::construyeTransiciones(estadoAutomata estado, const std::stop_token& parada) {
     pila_.clear();
     apila(std::move(estado));
     while (!pila_.empty()) {
+        exigeSeguir(parada);
         Marco& marco = pila_.back();
         if (marco.item < marco.grupoDe.size()) {
             avanza();

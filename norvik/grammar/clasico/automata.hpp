@@ -8,13 +8,15 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <vector>
 
 namespace norvik::inline v0_2::clasico {
 
 /// The LR(0) automaton of a grammar, empty when there is no start symbol.
-/// Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at a state's item 1001.
-AutomataLR creaAutomata(const ReglasPartidas& reglas);
+/// Raises `Desbordamiento` at the thousandth state, `SubindiceFueraDeIntervalo` at a state's item 1001,
+/// `OperacionCancelada` once that is asked for.
+AutomataLR creaAutomata(const ReglasPartidas& reglas, const std::stop_token& parada = {});
 
 /// Builds the automaton state by state.
 class ConstructorAutomata {
@@ -30,8 +32,8 @@ public:
     void aniadeRegla(Simbolo variable, estadoAutomata& estado);
     /// Adds the kernel's items, each with what follows from it.
     void aniadeNucleo(const Nucleo& nucleo, estadoAutomata& estado);
-    /// Adds a state and all that are reached from it. Raises `Desbordamiento` at the thousandth state.
-    void construyeTransiciones(estadoAutomata estado);
+    /// Adds a state and all that are reached from it. Raises what `creaAutomata` does.
+    void construyeTransiciones(estadoAutomata estado, const std::stop_token& parada = {});
 
     /// The states in the list's present order.
     std::vector<estadoAutomata> estados() &&;

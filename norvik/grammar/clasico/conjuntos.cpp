@@ -13,8 +13,9 @@ Pendientes::Pendientes(const ReglasPartidas& reglas) {
     siguientes = primeros;
 }
 
-void calculaConjuntos(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes) {
-    CalculoPrimeros primeros(reglas, conjuntos, pendientes);
+void calculaConjuntos(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                      const std::stop_token& parada) {
+    CalculoPrimeros primeros(reglas, conjuntos, pendientes, parada);
     primeros.calcula();
     CalculoSiguientes siguientes(reglas, conjuntos, pendientes, primeros);
     siguientes.calcula();

@@ -5,6 +5,7 @@
 #include "norvik/grammar/conjuntos.hpp"
 
 #include <cstddef>
+#include <stop_token>
 #include <vector>
 
 namespace norvik::inline v0_2::clasico {
@@ -23,7 +24,9 @@ struct Pendientes {
 /// The sets of a grammar, by the steps that come to an end too early for a fixpoint.
 /// Raises `SubindiceFueraDeIntervalo` when FOLLOW needs an undefined non-terminal.
 Conjuntos creaConjuntos(const ReglasPartidas& reglas);
-/// The same, into sets that are empty yet; nothing is pending afterwards.
-void calculaConjuntos(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes);
+/// The same, into sets that are empty yet; nothing is pending afterwards. Raises `OperacionCancelada` once
+/// that is asked for.
+void calculaConjuntos(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                      const std::stop_token& parada = {});
 
 } // namespace norvik::inline v0_2::clasico

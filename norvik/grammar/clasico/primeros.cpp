@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 // FIRST sets, head by head. A head's set is computed afresh in every pass over the rules, entering the rules
 // of symbols whose sets are not finished, until a pass leaves its flag clear; the set is then finished as it
@@ -24,8 +25,9 @@
 // long as no endless recursion can hide there.
 namespace norvik::inline v0_2::clasico {
 
-CalculoPrimeros::CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes)
-    : reglas_(reglas), conjuntos_(conjuntos), pendientes_(pendientes),
+CalculoPrimeros::CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                                 std::stop_token parada)
+    : reglas_(reglas), conjuntos_(conjuntos), pendientes_(pendientes), parada_(std::move(parada)),
       terminados_(conjuntos.primeros, reglas.numSimbolos()), conVacia_(reglas.numSimbolos()),
       situaciones_(2 * static_cast<std::size_t>(reglas.numReglas()) + 2) {
     indexa();
@@ -47,7 +49,7 @@ void CalculoPrimeros::calcula() {
     enteras_ = hayRecursionIndirectaAlPrincipio(reglas_);
     while (std::ranges::find(pendientes_.primeros, true) != pendientes_.primeros.end()) {
         if (pasada()) continue;
-        conjuntos_.primeros = creaPrimerosDeLibro(reglas_);
+        conjuntos_.primeros = creaPrimerosDeLibro(reglas_, parada_);
         pendientes_.primeros.assign(pendientes_.primeros.size(), false);
         indexa();
     }
@@ -103,6 +105,7 @@ bool CalculoPrimeros::empiezaVacia(Simbolo simbolo) const {
 
 bool CalculoPrimeros::recorre(Cuerpo cuerpo, bool recursivo, int indice) {
     if (recursivo && indice != 0 && indice == pendientes_.actual) return true;
+    exigeSeguir();
     pila_.assign(1, Marco{.cuerpo = cuerpo, .indice = indice, .recursivo = recursivo});
     while (!pila_.empty()) {
         Marco& marco = pila_.back();

@@ -2,16 +2,20 @@
 
 #pragma once
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/grammar/clasico/conjuntos.hpp"
 
+#include <stop_token>
 #include <vector>
 
 namespace norvik::inline v0_2::clasico {
 
-/// FIRST sets: of every head (`calcula`), and of a string of symbols (`recorre`).
+/// FIRST sets: of every head (`calcula`), and of a string of symbols (`recorre`). Both raise
+/// `OperacionCancelada` once that is asked for.
 class CalculoPrimeros {
 public:
-    CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes);
+    CalculoPrimeros(const ReglasPartidas& reglas, Conjuntos& conjuntos, Pendientes& pendientes,
+                    std::stop_token parada = {});
 
     /// Computes the FIRST set of every head.
     void calcula();
@@ -24,6 +28,7 @@ public:
     ConjuntoDeTrabajo& trabajo() { return trabajo_; }
     /// True when FIRST of a string that begins with this symbol contains Ø. All sets must be finished.
     bool empiezaVacia(Simbolo simbolo) const;
+    void exigeSeguir() const { norvik::exigeSeguir(parada_); }
 
 private:
     /// One call of the recursion: the scan of a string.
@@ -65,6 +70,7 @@ private:
     const ReglasPartidas& reglas_;
     Conjuntos& conjuntos_;
     Pendientes& pendientes_;
+    std::stop_token parada_;
     IndiceDeConjuntos terminados_;
     std::vector<bool> conVacia_; // FIRST is finished and contains Ø
     bool enteras_ = true;        // no index may be passed over
@@ -76,7 +82,8 @@ private:
 };
 
 /// The textbook FIRST sets (least fixpoint), one for every head, in order of first rule.
-std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas);
+std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas,
+                                                  const std::stop_token& parada = {});
 
 /// True when entering the rules of the symbols that a string may begin with can come back to a head through
 /// others. It errs on the side of true.

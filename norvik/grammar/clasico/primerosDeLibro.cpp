@@ -13,12 +13,14 @@ namespace {
 /// The FIRST sets of the heads, by number of symbol, growing.
 class PuntoFijo {
 public:
-    explicit PuntoFijo(const ReglasPartidas& reglas)
+    PuntoFijo(const ReglasPartidas& reglas, const std::stop_token& parada)
         : reglas_(reglas), conjuntos_(reglas.numSimbolos()), presentes_(reglas.numSimbolos()) {
         do {
             crece_ = false;
-            for (int regla = 1; regla <= reglas.numReglas(); ++regla)
+            for (int regla = 1; regla <= reglas.numReglas(); ++regla) {
+                exigeSeguir(parada);
                 if (reglas.cabeza(regla) != ReglasPartidas::sinSimbolo) aplica(regla);
+            }
         } while (crece_);
     }
     const std::vector<Simbolo>& de(Simbolo simbolo) const { return conjuntos_[indice(simbolo)]; }
@@ -95,8 +97,9 @@ std::vector<std::vector<Simbolo>> alcanzadosAlPrincipio(const ReglasPartidas& re
 
 } // namespace
 
-std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas) {
-    const PuntoFijo primeros(reglas);
+std::vector<ConjuntoNumerado> creaPrimerosDeLibro(const ReglasPartidas& reglas,
+                                                  const std::stop_token& parada) {
+    const PuntoFijo primeros(reglas, parada);
     std::vector<ConjuntoNumerado> conjuntos;
     for (int regla = 1; regla <= reglas.numReglas(); ++regla)
         if (reglas.abreTramo(regla) && reglas.primera(reglas.cabeza(regla)) == regla)

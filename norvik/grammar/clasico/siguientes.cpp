@@ -77,6 +77,7 @@ void CalculoSiguientes::recorre(Simbolo variable) {
 }
 
 void CalculoSiguientes::entra(Simbolo variable) {
+    primeros_.exigeSeguir();
     visitados_.inserta(variable);
     const Aportacion& suya = aportacion(variable);
     trabajo_.inserta(suya.elementos);

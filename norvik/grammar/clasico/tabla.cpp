@@ -2,6 +2,7 @@
 
 #include "norvik/grammar/clasico/tabla.hpp"
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/grammar/columnas.hpp"
 
 #include <algorithm>
@@ -35,10 +36,11 @@ private:
 };
 
 void rellena(const ReglasPartidas& reglas, const Columnas& columnas, const Reducciones& reducciones,
-             const AutomataLR& automata, TablaLR& tabla) {
+             const AutomataLR& automata, const std::stop_token& parada, TablaLR& tabla) {
     std::int16_t numero = 0;
     std::vector<std::int16_t> fila(static_cast<std::size_t>(tabla.celdas().columnas()));
     for (const estadoAutomata& estado : automata.estados) {
+        exigeSeguir(parada);
         ++numero;
         std::vector<Conflicto> conflictos;
         std::ranges::fill(fila, std::int16_t{0});
@@ -62,12 +64,12 @@ void rellena(const ReglasPartidas& reglas, const Columnas& columnas, const Reduc
 } // namespace
 
 TablaLR creaTabla(const ReglasPartidas& reglas, const Conjuntos& conjuntos, const AutomataLR& automata,
-                  SimbolosTabla otros) {
+                  SimbolosTabla otros, const std::stop_token& parada) {
     if (!reglas.hayInicial()) return {};
     reuneSimbolos(reglas, otros);
     TablaLR tabla(std::move(otros), reglas.texto(reglas.cabeza(1)), automata.estados.size());
     const Columnas columnas(reglas, tabla);
-    rellena(reglas, columnas, Reducciones(reglas, conjuntos, columnas), automata, tabla);
+    rellena(reglas, columnas, Reducciones(reglas, conjuntos, columnas), automata, parada, tabla);
     return tabla;
 }
 

@@ -25,8 +25,9 @@ using Relacion = std::vector<std::vector<std::size_t>>; // by node
 // stack a list).
 class Cierre {
 public:
-    Cierre(const Relacion& relacion, std::vector<Bits>& conjuntos)
-        : relacion_(relacion), conjuntos_(conjuntos), hondura_(relacion.size()) {}
+    Cierre(const Producciones& producciones, const Relacion& relacion, std::vector<Bits>& conjuntos)
+        : producciones_(producciones), relacion_(relacion), conjuntos_(conjuntos), hondura_(relacion.size()) {
+    }
 
     void une() {
         for (std::size_t nodo = 0; nodo < relacion_.size(); ++nodo)
@@ -42,6 +43,7 @@ private:
     };
 
     void entra(std::size_t nodo) {
+        producciones_.exigeSeguir();
         abiertos_.push_back(nodo);
         hondura_[nodo] = abiertos_.size();
         marcos_.push_back({nodo, abiertos_.size()});
@@ -82,6 +84,7 @@ private:
         }
     }
 
+    const Producciones& producciones_;
     const Relacion& relacion_;
     std::vector<Bits>& conjuntos_;
     std::vector<std::size_t> hondura_; // 0: not met yet
@@ -98,10 +101,11 @@ public:
     }
 
     std::vector<std::vector<Bits>> calcula() {
-        Cierre(lee_, siguen_).une();
-        Cierre(incluye_, siguen_).une();
+        Cierre(producciones_, lee_, siguen_).une();
+        Cierre(producciones_, incluye_, siguen_).une();
         std::vector<std::vector<Bits>> todos;
         for (std::size_t estado = 0; estado < destinos_.size(); ++estado) {
+            producciones_.exigeSeguir();
             std::vector<Bits>& suyos = todos.emplace_back();
             const auto& items = automata_.estados[estado].items();
             for (std::size_t i = 0; i < items.size(); ++i) {
@@ -125,6 +129,7 @@ private:
 
     void buscaTransiciones() {
         for (std::size_t estado = 0; estado < destinos_.size(); ++estado) {
+            producciones_.exigeSeguir();
             const auto& items = automata_.estados[estado].items();
             const auto& adyacentes = automata_.estados[estado].adyacentes();
             if (estado == 0) destinos_[0][producciones_.inicial()] = 1;
@@ -164,6 +169,7 @@ private:
 
     // From where a rule is begun to its end.
     void recorreRegla(std::size_t nodo, std::int16_t regla) {
+        producciones_.exigeSeguir();
         const Cuerpo cuerpo = producciones_.cuerpo(regla);
         std::size_t estado = transiciones_[nodo].desde;
         for (std::size_t i = 0; i < cuerpo.size(); ++i) {

@@ -28,7 +28,10 @@ public:
 
     std::vector<EstadoLR> estados() {
         estadoDe({{0, 0}});
-        for (std::size_t i = 0; i < estados_.size(); ++i) avanza(i);
+        for (std::size_t i = 0; i < estados_.size(); ++i) {
+            producciones_.exigeSeguir();
+            avanza(i);
+        }
         return std::move(estados_);
     }
 

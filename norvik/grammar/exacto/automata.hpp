@@ -6,8 +6,6 @@
 #include "norvik/grammar/exacto/producciones.hpp"
 #include "norvik/grammar/precedencia.hpp"
 
-#include <stop_token>
-
 namespace norvik::inline v0_2::exacto {
 
 /// The canonical LR(0) automaton, empty without rules. State 1 is where the start symbol leads from state 0,
@@ -16,9 +14,8 @@ namespace norvik::inline v0_2::exacto {
 AutomataLR creaAutomata(const Producciones& producciones);
 
 /// An LR(1) automaton whose states are merged wherever that changes nothing of what is done before a token,
-/// conflicts settled as the table settles them. Raises the same, `Desbordamiento` when there are too many
-/// conflicts or it takes longer than three seconds, and `OperacionCancelada`.
-AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias,
-                           const std::stop_token& cancelacion = {});
+/// conflicts settled as the table settles them. Raises the same, `Desbordamiento` also when there are too
+/// many conflicts or it takes longer than three seconds.
+AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias);
 
 } // namespace norvik::inline v0_2::exacto

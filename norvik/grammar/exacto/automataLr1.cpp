@@ -52,6 +52,7 @@ public:
             const std::size_t estado = pendientes_.front();
             pendientes_.pop_front();
             enCola_[estado] = false;
+            presupuesto_.exige();
             avanza(estado);
         }
     }
@@ -146,11 +147,10 @@ AutomataLR creaDentroDe(const Presupuesto& presupuesto, const Producciones& prod
 
 } // namespace
 
-AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias,
-                           const std::stop_token& cancelacion) {
+AutomataLR creaAutomataLr1(const Producciones& producciones, const Precedencias& precedencias) {
     if (producciones.cabezas().empty()) return {};
     try {
-        return creaDentroDe(Presupuesto(Presupuesto::plazoComun, cancelacion), producciones,
+        return creaDentroDe(Presupuesto(Presupuesto::plazoComun, producciones.parada()), producciones,
                             Prioridades(producciones.reglas(), precedencias));
     } catch (const BusquedaDesbocada&) {
         throw Desbordamiento(

@@ -38,8 +38,10 @@ std::vector<Bits> siguientes(const Producciones& producciones) {
     for (bool crece = true; crece;) {
         crece = false;
         for (const Simbolo cabeza : producciones.cabezas())
-            for (const std::int16_t regla : producciones.de(cabeza))
+            for (const std::int16_t regla : producciones.de(cabeza)) {
+                producciones.exigeSeguir();
                 crece = reparte(producciones, regla, siguientes) || crece;
+            }
     }
     return siguientes;
 }

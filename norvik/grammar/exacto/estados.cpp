@@ -90,6 +90,7 @@ AutomataLR acaba(const Producciones& producciones, const std::vector<EstadoLR>& 
                                     &std::pair<Simbolo, std::size_t>::first)
                       ->second);
     for (std::size_t i = 0; i < numeracion.orden().size(); ++i) {
+        producciones.exigeSeguir();
         const EstadoLR& estado = estados[numeracion.orden()[i]];
         automata.estados.push_back(conItems(producciones, estado, static_cast<std::int16_t>(i), numeracion));
     }

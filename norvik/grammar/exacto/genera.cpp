@@ -10,11 +10,11 @@
 
 namespace norvik::inline v0_2::exacto {
 
-GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones) {
+GramaticaLR genera(Reglas reglas, const OpcionesTabla& opciones, const std::stop_token& parada) {
     GramaticaLR g;
     g.reglas = std::move(reglas);
     g.partidas = ReglasPartidas(g.reglas);
-    const Producciones producciones(g.partidas);
+    const Producciones producciones(g.partidas, parada);
     g.conjuntos = creaConjuntos(producciones);
     g.automata = opciones.metodo == Metodo::Lr1 ? creaAutomataLr1(producciones, opciones.precedencias)
                                                 : creaAutomata(producciones);

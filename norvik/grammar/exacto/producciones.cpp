@@ -5,12 +5,13 @@
 #include "norvik/grammar/exacto/producciones.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace norvik::inline v0_2::exacto {
 
-Producciones::Producciones(const ReglasPartidas& reglas)
-    : reglas_(reglas), deCabeza_(reglas.numSimbolos()), anulables_(reglas.numSimbolos()),
-      primeros_(reglas.numSimbolos()) {
+Producciones::Producciones(const ReglasPartidas& reglas, std::stop_token parada)
+    : reglas_(reglas), parada_(std::move(parada)), deCabeza_(reglas.numSimbolos()),
+      anulables_(reglas.numSimbolos()), primeros_(reglas.numSimbolos()) {
     for (int regla = 1; regla <= reglas.numReglas(); ++regla) {
         const Simbolo cabeza = reglas.cabeza(regla);
         if (cabeza == ReglasPartidas::sinSimbolo) continue;
@@ -43,6 +44,7 @@ void Producciones::buscaAnulables() {
         crece = false;
         for (const Simbolo cabeza : cabezas_) {
             if (anulables_[indice(cabeza)]) continue;
+            exigeSeguir();
             const bool anulable = std::ranges::any_of(
                 de(cabeza), [this](std::int16_t regla) { return esAnulable(cuerpo(regla)); });
             anulables_[indice(cabeza)] = anulable;
@@ -56,6 +58,7 @@ void Producciones::buscaPrimeros() {
     for (bool crece = true; crece;) {
         crece = false;
         for (const Simbolo cabeza : cabezas_) {
+            exigeSeguir();
             Bits comienzo(numSimbolos());
             for (const std::int16_t regla : de(cabeza)) uneComienzo(cuerpo(regla), comienzo);
             crece = primeros_[indice(cabeza)].une(comienzo) || crece;

@@ -2,9 +2,11 @@
 
 #pragma once
 
+#include "norvik/base/presupuesto.hpp"
 #include "norvik/grammar/exacto/bits.hpp"
 #include "norvik/grammar/reglasPartidas.hpp"
 
+#include <stop_token>
 #include <vector>
 
 namespace norvik::inline v0_2::exacto {
@@ -14,8 +16,9 @@ namespace norvik::inline v0_2::exacto {
 /// case is a token in bodies.
 class Producciones {
 public:
-    /// The rules outlive it. Raises `SubindiceFueraDeIntervalo` for a Ø beside other symbols.
-    explicit Producciones(const ReglasPartidas& reglas);
+    /// The rules outlive it. Raises `SubindiceFueraDeIntervalo` for a Ø beside other symbols, and, as all
+    /// does that is made of it, `OperacionCancelada` once that is asked for.
+    explicit Producciones(const ReglasPartidas& reglas, std::stop_token parada = {});
 
     const ReglasPartidas& reglas() const { return reglas_; }
     std::size_t numSimbolos() const { return reglas_.numSimbolos(); }
@@ -34,6 +37,10 @@ public:
     /// Adds those of a string; says whether the string can be empty.
     bool uneComienzo(Cuerpo cuerpo, Bits& conjunto) const;
 
+    const std::stop_token& parada() const { return parada_; }
+    /// To be asked now and then by whatever grows with the grammar. Raises `OperacionCancelada`.
+    void exigeSeguir() const { norvik::exigeSeguir(parada_); }
+
     static std::size_t indice(Simbolo simbolo) { return static_cast<std::size_t>(simbolo); }
 
 private:
@@ -41,6 +48,7 @@ private:
     void buscaPrimeros();
 
     const ReglasPartidas& reglas_;
+    std::stop_token parada_;
     std::vector<Simbolo> cabezas_;
     std::vector<std::vector<std::int16_t>> deCabeza_; // by symbol
     std::vector<bool> anulables_;                     // by symbol

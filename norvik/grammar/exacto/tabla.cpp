@@ -22,6 +22,7 @@ std::vector<std::vector<Bits>> porSiguientes(const Producciones& producciones, c
     const std::vector<Bits> detras = siguientes(producciones);
     std::vector<std::vector<Bits>> todos;
     for (const estadoAutomata& estado : automata.estados) {
+        producciones.exigeSeguir();
         std::vector<Bits>& suyos = todos.emplace_back();
         for (const Item item : estado.items())
             suyos.push_back(detras[Producciones::indice(producciones.reglas().cabeza(item.regla))]);
@@ -91,8 +92,10 @@ TablaLR creaTabla(const Producciones& producciones, const AutomataLR& automata, 
     const Columnas columnas(producciones.reglas(), tabla);
     const Prioridades prioridades(producciones.reglas(), opciones.precedencias);
     Rellenador rellenador(producciones.reglas(), columnas, prioridades, tabla);
-    for (std::size_t i = 0; i < automata.estados.size(); ++i)
+    for (std::size_t i = 0; i < automata.estados.size(); ++i) {
+        producciones.exigeSeguir();
         rellenador.rellena(static_cast<std::int16_t>(i + 1), automata.estados[i], reducen[i]);
+    }
     return tabla;
 }
 
