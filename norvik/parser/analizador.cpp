@@ -36,7 +36,8 @@ public:
                  LenguajeAnalisis& lenguaje, std::vector<std::int16_t>& pasos,
                  const std::stop_token& cancelacion)
         : texto_(texto), lector_(texto.texto, lexico, mapa), lenguaje_(lenguaje), pasos_(pasos),
-          cancelacion_(cancelacion), maximoPasos_(pasosDeMas + pasosPorCaracter * texto.texto.size()) {
+          cancelacion_(cancelacion),
+          maximoReducciones_(reduccionesDeMas + reduccionesPorCaracter * texto.texto.size()) {
         lee();
     }
 
@@ -49,22 +50,30 @@ public:
         texto_.tokens.push_back({lectura.leido.definicion, static_cast<std::uint32_t>(lectura.inicio - 1),
                                  static_cast<std::uint32_t>(lectura.fin - 1)});
         pasos_.push_back(0);
-        if (texto_.tokens.size() % tokensPorConsulta == 0 && cancelacion_.stop_requested())
-            throw Corte{Codigo::Cancelado, {}};
+        desplazado_ = pasos_.size();
+        consulta();
         lee();
     }
     void reduce(std::int16_t regla) { reduce(std::span(&regla, 1)); }
     void reduce(std::span<const std::int16_t> reglas) {
-        if (pasos_.size() > maximoPasos_) throw Corte{Codigo::TablaIncorrecta, u"no deja de reducir"};
+        if (pasos_.size() - desplazado_ > maximoReducciones_)
+            throw Corte{Codigo::TablaIncorrecta, u"no deja de reducir"};
         pasos_.insert(pasos_.end(), reglas.begin(), reglas.end());
+        consulta();
     }
     LectorTexto& lector() { return lector_; }
 
 private:
-    // More than any tree needs that comes from a table without endless reductions, and bearable.
-    static constexpr std::size_t pasosDeMas = 1'000'000;
-    static constexpr std::size_t pasosPorCaracter = 100;
-    static constexpr std::size_t tokensPorConsulta = 1024;
+    // For one token: more than a table without endless reductions takes, and bearable.
+    static constexpr std::size_t reduccionesDeMas = 1'000'000;
+    static constexpr std::size_t reduccionesPorCaracter = 100;
+    static constexpr std::size_t pasosPorConsulta = 4096;
+
+    void consulta() {
+        if (pasos_.size() < proximaConsulta_) return;
+        proximaConsulta_ = pasos_.size() + pasosPorConsulta;
+        if (cancelacion_.stop_requested()) throw Corte{Codigo::Cancelado, {}};
+    }
 
     void lee() { columna_ = lenguaje_.columna(lector_.lee().leido); }
 
@@ -73,7 +82,9 @@ private:
     LenguajeAnalisis& lenguaje_;
     std::vector<std::int16_t>& pasos_;
     const std::stop_token& cancelacion_;
-    std::size_t maximoPasos_;
+    std::size_t maximoReducciones_;
+    std::size_t desplazado_ = 0; // steps up to the last shift
+    std::size_t proximaConsulta_ = pasosPorConsulta;
     std::int16_t columna_ = 0;
 };
 
@@ -164,23 +175,34 @@ Analizador::Recorrido Analizador::repara(TextoAnalizado& texto, LectorTexto& lec
 }
 
 Lexemas Analizador::lexemas(std::unique_ptr<TextoAnalizado> texto, const OpcionesAnalisis& opciones) {
-    std::vector<Diagnostico> errores;
     if (auto error = reconoce(*texto, opciones)) return Lexemas(nullptr, {std::move(*error)});
     const auto& definiciones = lexico_.tokensLenguaje();
+    std::vector<Diagnostico> errores;
+    std::size_t malos = 0; // the last wrong characters that stand together: from here …
+    std::size_t finDeMalos = 0;
+    const auto cuenta = [&] {
+        if (malos < finDeMalos && errores.size() < maximoErrores)
+            errores.push_back(caracteresIncorrectos(texto->texto, malos, finDeMalos, texto->lugares));
+    };
     // As reading does it, save that it stays on comments.
     for (std::int32_t posicion = 1;;) {
         const Lectura lectura = leeDesde<Comentarios::SeLeen>(posicion, texto->texto, mapa_, definiciones);
         if (lectura.leido.definicion == TokenLeido::fin) break;
         const auto inicio = static_cast<std::size_t>(lectura.inicio) - 1;
         if (lectura.leido.definicion == TokenLeido::desconocido) {
-            errores.push_back(caracterIncorrecto(texto->texto, inicio, texto->lugares));
-            posicion = lectura.inicio + static_cast<std::int32_t>(largoDeCaracter(texto->texto, inicio));
+            if (inicio != finDeMalos) {
+                cuenta();
+                malos = inicio;
+            }
+            finDeMalos = inicio + largoDeCaracter(texto->texto, inicio);
+            posicion = static_cast<std::int32_t>(finDeMalos) + 1;
             continue;
         }
         texto->tokens.push_back({lectura.leido.definicion, static_cast<std::uint32_t>(inicio),
                                  static_cast<std::uint32_t>(lectura.fin - 1)});
         posicion = lectura.fin;
     }
+    cuenta();
     return Lexemas(std::move(texto), std::move(errores));
 }
 

@@ -19,6 +19,9 @@ class FichasTokens;
 class LenguajeAnalisis;
 class pilaTokens;
 
+/// As many errors of one text are told: nobody reads on, and each takes memory.
+inline constexpr std::size_t maximoErrores = 10'000;
+
 /// What is said of the tokens of a language.
 struct VocesDeLenguaje {
     const pilaTokens& lexico;

@@ -36,7 +36,8 @@ public:
     Lexemas& operator=(const Lexemas&) = delete;
     ~Lexemas();
 
-    /// Uno por cada carácter incorrecto (se sigue leyendo detrás de él), o por qué no se pudo leer nada.
+    /// Uno por cada carácter incorrecto, o por cada grupo de ellos sin nada en medio (se sigue leyendo
+    /// detrás), hasta diez mil; o por qué no se pudo leer nada.
     std::vector<Diagnostico> diagnosticos;
 
     std::size_t size() const;

@@ -7,6 +7,8 @@
 // is spent. Texts without errors never come here.
 #include "norvik/parser/reparador.hpp"
 
+#include "norvik/parser/erroresTexto.hpp"
+
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -15,7 +17,6 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::size_t maximoErrores = 10'000; // nobody reads on, and each takes memory
 constexpr std::size_t tokensPorConsulta = 1024;
 // For one token: as many as the deepest text may need and a damaged table may take.
 constexpr std::size_t reduccionesDeMas = 100'000;
