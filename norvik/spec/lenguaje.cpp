@@ -93,6 +93,14 @@ Compilacion Lenguaje::cargaModulo(std::u16string_view modulo) {
     return lenguajeDeModulo([&](CargadorLenguaje& cargador) { return CargaModulo(modulo, cargador); });
 }
 
+Compilacion Lenguaje::cargaModulo(std::string_view moduloUtf8) {
+    constexpr std::string_view marca = "\xEF\xBB\xBF";
+    if (moduloUtf8.starts_with(marca)) moduloUtf8.remove_prefix(marca.size());
+    const auto modulo = desdeUtf8(moduloUtf8);
+    if (!modulo) return {std::nullopt, {utf8Incorrecto(moduloUtf8)}};
+    return cargaModulo(std::u16string_view(*modulo));
+}
+
 Compilacion Lenguaje::deFichero(const std::filesystem::path& fichero, const OpcionesCompilacion& opciones) {
     if (!esModulo(fichero)) return compila(leeTexto(fichero), opciones);
     return lenguajeDeModulo([&](CargadorLenguaje& cargador) {

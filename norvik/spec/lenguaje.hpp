@@ -39,12 +39,13 @@ struct OpcionesCompilacion {
 class NORVIK_API Lenguaje {
 public:
     /// Compila una especificación. Los rangos de los diagnósticos cuentan unidades UTF-16; los de una en
-    /// UTF-8, bytes.
+    /// UTF-8, bytes. Lanza `Desbordamiento` con una de 2^31 - 1 unidades o más.
     static Compilacion compila(std::u16string_view especificacion, const OpcionesCompilacion& opciones = {});
     static Compilacion compila(std::string_view especificacionUtf8, const OpcionesCompilacion& opciones = {});
     /// Toma un lenguaje del texto de un módulo de carga («NOMBRE.bas»), con los finales de línea de su
-    /// fichero.
+    /// fichero. El de uno en UTF-8 puede empezar por su marca.
     static Compilacion cargaModulo(std::u16string_view modulo);
+    static Compilacion cargaModulo(std::string_view moduloUtf8);
     /// Un fichero con una especificación o, cuando acaba en «.bas», con un módulo de carga; los rangos
     /// cuentan unidades UTF-16 del texto que da `leeTexto`. Lanza `ErrorDeFichero`.
     static Compilacion deFichero(const std::filesystem::path& fichero,

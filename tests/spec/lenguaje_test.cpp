@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "apoyo/repite.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/control/norvik.hpp"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -191,6 +193,61 @@ TEST(Lenguaje, LosLexemasSeLeenSinAnalizar) {
     EXPECT_THROW(lexemas[3], IndiceNoValido);
 }
 
+// A pattern takes units: half a character has all of its bytes, the other half none.
+TEST(Lenguaje, MedioCaracterTieneTodosLosBytesOTodosLosDeOtro) {
+    const Lenguaje lenguaje = lenguajeDe(u"Token uno = \".\"; S -> uno | S uno;");
+    const Lexemas leidos = norvik::lexemas(lenguaje, "a\xF0\x9F\x98\x80z");
+    std::string lugares;
+    for (std::size_t i = 0; i < leidos.size(); ++i) lugares += lugar(leidos[i].rango) + " ";
+    EXPECT_EQ(lugares, "1:1@0-1:2@1 1:2@1-1:6@5 1:6@5-1:6@5 1:6@5-1:7@6 ");
+}
+
+TEST(Lenguaje, LosCaracteresIncorrectosSeCuentanJuntosYNoSinFin) {
+    const Lenguaje lenguaje = lenguajeDe(sumas);
+    const std::string par = "\xF0\x9F\x98\x80"; // two units in UTF-16
+    EXPECT_EQ(texto(norvik::lexemas(lenguaje, "$" + par + "$ $1$").diagnosticos),
+              "error caracter-incorrecto 1:1@0-1:7@6 Caracteres '$" + par + "$' incorrectos.\n" +
+                  "error caracter-incorrecto 1:8@7-1:9@8 Carácter '$' incorrecto.\n"
+                  "error caracter-incorrecto 1:10@9-1:11@10 Carácter '$' incorrecto.\n");
+    const Lexemas muchos = norvik::lexemas(lenguaje, apoyo::repite(u"$ ", 10'500) + u"1");
+    EXPECT_EQ(muchos.diagnosticos.size(), 10'000U);
+    EXPECT_EQ(muchos.size(), 1U);
+}
+
+// What a text comes to depends on none that came before. These make an automaton as large as it may be, and
+// leave little room, or none, for the last: the exact machine would never be done with it.
+TEST(Lenguaje, UnTextoDaLoMismoTrasCualesquieraOtros) {
+    constexpr std::u16string_view dudosa =
+        u"Token t = \"(x+x+)+y|(a|b)*a[ab][ab][ab][ab][ab][ab][ab][ab][ab][ab]\"; Token x = \"x\";"
+        u"Token a = \"a\"; Token b = \"b\"; S -> x | x S;";
+    const std::u16string ultimo = apoyo::repite(u"x", 60);
+    const std::string esperado = texto(analiza(lenguajeDe(dudosa), ultimo).diagnosticos);
+    EXPECT_EQ(esperado, "");
+    std::mt19937 azar(7);
+    const auto deLetras = [&](std::size_t cuantas) {
+        std::u16string letras;
+        while (letras.size() < cuantas) letras += azar() % 2 == 0 ? u'a' : u'b';
+        return letras;
+    };
+    for (const std::size_t cuantas : {100U, 900U, 980U, 990U, 1000U, 3000U}) {
+        const Lenguaje lenguaje = lenguajeDe(dudosa);
+        for (std::size_t leidas = 0; leidas < cuantas; leidas += 20) lexemas(lenguaje, deLetras(20));
+        EXPECT_EQ(texto(analiza(lenguaje, ultimo).diagnosticos), esperado) << cuantas;
+    }
+    const Lenguaje lenguaje = lenguajeDe(dudosa);
+    lexemas(lenguaje, deLetras(5000));
+    EXPECT_EQ(texto(analiza(lenguaje, ultimo).diagnosticos), esperado);
+}
+
+// Long chains of reductions, token after token, are no endless ones.
+TEST(Lenguaje, MuchasReduccionesPorCaracterNoSonUnaTablaQueNoAcaba) {
+    std::string cadena = "Token a = \"a\"; S -> S A0 | A0;";
+    for (int i = 0; i < 150; ++i) cadena += "A" + std::to_string(i) + " -> A" + std::to_string(i + 1) + ";";
+    const Analisis analisis =
+        analiza(lenguajeDe(desdeUtf8(cadena + "A150 -> a;").value()), std::string(25'000, 'a'));
+    EXPECT_EQ(texto(analisis.diagnosticos), "");
+}
+
 TEST(Lenguaje, UnAnalisisSePuedeCancelar) {
     const Lenguaje lenguaje = lenguajeDe(sumas);
     std::string entrada = "1";
@@ -224,6 +281,17 @@ std::u16string moduloDe(std::u16string_view especificacion) {
     Norvik control(caja, sistema);
     EXPECT_TRUE(control.CargaGramatica(especificacion) && control.GeneraCompilador());
     return control.Gramatica().textoModulo(u"M", control.Lexico());
+}
+
+TEST(Lenguaje, UnModuloEnUtf8EsElMismo) {
+    const std::string modulo = aUtf8(moduloDe(sumas));
+    for (const std::string_view marca : {"", "\xEF\xBB\xBF"}) {
+        const auto compilacion = Lenguaje::cargaModulo(std::string(marca) + modulo);
+        ASSERT_TRUE(compilacion) << texto(compilacion.diagnosticos);
+        EXPECT_EQ(aUtf8(compilacion.lenguaje->vocabulario().tokens[0].visible), "número");
+    }
+    EXPECT_EQ(texto(Lenguaje::cargaModulo("\n\xF1").diagnosticos),
+              "error utf8-incorrecto 2:1@1-2:2@2 Los bytes del texto no son UTF-8.\n");
 }
 
 TEST(Lenguaje, UnModuloDaElMismoLenguajeOLoQueTieneMal) {
