@@ -84,15 +84,21 @@ std::string todo(std::FILE* fichero) {
     return bytes;
 }
 
-void cambia(std::string& texto, std::string_view viejo, std::string_view nuevo) {
-    for (std::size_t i = texto.find(viejo); i != std::string::npos; i = texto.find(viejo, i + nuevo.size()))
-        texto.replace(i, viejo.size(), nuevo);
+std::string cambiado(std::string_view texto, std::string_view viejo, std::string_view nuevo) {
+    std::string otro;
+    for (std::size_t desde = 0;;) {
+        const std::size_t i = texto.find(viejo, desde);
+        otro += texto.substr(desde, i - desde);
+        if (i == std::string_view::npos) return otro;
+        otro += nuevo;
+        desde = i + viejo.size();
+    }
 }
 
 } // namespace
 
 std::optional<std::string> dibujaGrafo(std::string_view grafo) {
-    constexpr std::chrono::seconds plazo{10};
+    constexpr std::chrono::seconds plazo{4}; // the page has its stories to tell, too
     const Fichero entrada = enFichero(grafo);
     const Fichero salida(std::tmpfile());
     if (!entrada || !salida || !Proceso(entrada.get(), salida.get()).acaba(plazo)) return std::nullopt;
@@ -100,10 +106,9 @@ std::optional<std::string> dibujaGrafo(std::string_view grafo) {
     const std::size_t principio = svg.find("<svg"); // behind what only a file of its own begins with
     if (principio == std::string::npos) return std::nullopt;
     svg.erase(0, principio);
-    cambia(svg, "<svg ", "<svg role=\"img\" aria-label=\"Autómata\" fill=\"currentColor\" ");
-    cambia(svg, "stroke=\"black\"", "stroke=\"currentColor\"");
-    cambia(svg, "fill=\"black\"", "fill=\"currentColor\"");
-    return svg;
+    svg = cambiado(svg, "<svg ", "<svg role=\"img\" aria-label=\"Autómata\" fill=\"currentColor\" ");
+    svg = cambiado(svg, "stroke=\"black\"", "stroke=\"currentColor\"");
+    return cambiado(svg, "fill=\"black\"", "fill=\"currentColor\"");
 }
 
 } // namespace norvik::orden

@@ -2,9 +2,11 @@
 
 #include "ordenes.hpp"
 
+#include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 
 #include <csignal>
+#include <exception>
 #include <new>
 #include <string_view>
 #include <variant>
@@ -33,6 +35,8 @@ int ejecutaLinea(int argc, const char* const* argv, Salida& salida) {
         return cuentaFallo(salida, error.texto());
     } catch (const std::bad_alloc&) {
         return cuentaFallo(salida, u"No hay memoria suficiente");
+    } catch (const std::exception& error) {
+        return cuentaFallo(salida, u"Fallo inesperado: " + norvik::decodifica(error.what()));
     }
 }
 

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <system_error>
 
 namespace norvik::orden {
 
@@ -34,14 +35,20 @@ std::vector<fs::path> textosDe(const fs::path& carpeta) {
     std::error_code error;
     if (!fs::exists(carpeta, error)) return textos;
     fs::recursive_directory_iterator entradas(carpeta, error);
+    const auto exige = [&](std::u16string_view que, const fs::path& ruta) {
+        if (error)
+            throw ErrorDeFichero(u"No se puede leer " + std::u16string(que) + u"«" +
+                                 decodifica(ruta.native()) + u"»: " + causaDelSistema(error.value()));
+    };
     for (; !error && entradas != fs::recursive_directory_iterator(); entradas.increment(error)) {
         const fs::path& fichero = entradas->path();
-        if (entradas->is_regular_file() && fichero.extension() != ".arbol" && fichero.extension() != ".mal")
+        const bool esFichero = entradas->is_regular_file(error);
+        if (error == std::errc::no_such_file_or_directory) error.clear(); // a link that leads nowhere
+        exige(u"", fichero);
+        if (esFichero && fichero.extension() != ".arbol" && fichero.extension() != ".mal")
             textos.push_back(fichero);
     }
-    if (error)
-        throw ErrorDeFichero(u"No se puede leer la carpeta «" + decodifica(carpeta.native()) + u"»: " +
-                             causaDelSistema(error.value()));
+    exige(u"la carpeta ", carpeta);
     std::ranges::sort(textos);
     return textos;
 }

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -130,12 +131,15 @@ TEST_F(Orden, ColoreaUnTextoAunqueTengaErrores) {
 TEST_F(Orden, UnTerminalNoRecibeControles) {
     const std::string direccion = {'\xE2', '\x80', '\xAE'}; // the text after it goes from right to left
     const std::string malo = "a\x1B]0;t\x07\xC2\x9B\x32J" + direccion + "\x7F";
-    const std::string modulo = pon(malo + ".nvk", R"(Token a = "\c(27)x\c(7)y" (")" + malo + R"(");
+    const std::string modulo =
+        pon(malo + ".nvk", R"(Token a = "\c(27)x\c(7)y", TipoToken = TTOperador (")" + malo + R"(");
 Token b = "b|)" + malo + R"(";
 S -> a b;
 )");
     const std::string texto = pon(malo + ".txt", "\x1Bx\x07y b " + malo + "\n");
     const std::string bien = pon("bien.txt", "\x1Bx\x07yb");
+    std::filesystem::create_directory(carpeta_ / "bien");
+    pon("bien/" + malo, "\x1Bx\x07y " + malo);
     const Palabras ordenes[] = {{"analiza", modulo, texto},
                                 {"analiza", modulo, bien},
                                 {"analiza", modulo, texto, "--formato", "json"},
@@ -148,6 +152,16 @@ S -> a b;
                                 {"modulo", modulo, malo},
                                 {"revisa", modulo},
                                 {"revisa", texto},
+                                {"colorea", modulo, texto, "--color", "siempre"},
+                                {"analiza", modulo, texto, "--color", "siempre"},
+                                {"revisa", modulo, "--color", "siempre"},
+                                {"revisa", modulo, "--formato", "json"},
+                                {"revisa", texto, "--formato", "sarif"},
+                                {"informe", modulo, "--formato", "html", "-o", "-"},
+                                {"lexemas", modulo, texto, "--formato", "json"},
+                                {"analiza", modulo, bien, "--formato", "lineas"},
+                                {"prueba", modulo, carpeta_.ruta()},
+                                {"prueba", modulo, carpeta_.ruta(), "--metodo", malo},
                                 {"frases", modulo},
                                 {"analiza", ruta(malo + "no hay"), texto},
                                 {malo}};
@@ -155,8 +169,12 @@ S -> a b;
         const Entorno terminal{
             .salida = Destino::Terminal, .errores = Destino::Terminal, .variables = {"TERM=dumb"}};
         const Resultado resultado = ejecuta(orden, terminal);
-        const std::string todo = resultado.salida + resultado.errores;
+        std::string todo = resultado.salida + resultado.errores;
         EXPECT_FALSE(todo.empty());
+        if (orden.back() == "siempre") { // colours are ours
+            const std::string sinColores = std::regex_replace(todo, std::regex("\x1B\\[[0-9;]*m"), "");
+            EXPECT_NE(std::exchange(todo, sinColores), sinColores) << orden.front();
+        }
         for (std::size_t i = 0; i < todo.size(); ++i) {
             const auto c = static_cast<unsigned char>(todo[i]);
             const bool esRetorno = c == '\r' && todo[i + 1] == '\n';
@@ -269,6 +287,11 @@ TEST_F(Orden, PruebaComparaLosTextosConLoQueSeEspera) {
     const std::string junit = leeBytes(ruta("j.xml"));
     EXPECT_NE(junit.find("tests=\"3\" failures=\"3\""), std::string::npos) << junit;
     EXPECT_EQ(ejecuta({"prueba", lenguaje_, ruta("nada")}).estado, 2);
+    std::filesystem::create_symlink("no hay", carpeta_ / "t/mal/colgado");
+    EXPECT_EQ(ejecuta(prueba).estado, 1);
+    std::filesystem::create_symlink("bucle", carpeta_ / "t/bien/bucle");
+    comprueba(ejecuta(prueba), 2, "",
+              "norvik: No se puede leer «" + ruta("t/bien/bucle") + "»: demasiados enlaces simbólicos\n");
 }
 
 TEST_F(Orden, RevisaDiceLoQueHayConSuLineaEnCadaFormato) {
