@@ -36,6 +36,21 @@ struct Lenguaje {
 const Lenguaje lenguajes[] = {{"pascal", [](Norvik& control) { modulo_pascal::CargaLenguaje(control); }},
                               {"c", [](Norvik& control) { modulo_c::CargaLenguaje(control); }}};
 
+/// The calls by which a host makes a language by itself, and then generates it: those of the definitions and
+/// the rules, as they stand in another control.
+void conLlamadas(const Lenguaje& l, Norvik& control) {
+    Anfitrion a;
+    EXPECT_TRUE(a.compila(l.especificacion()));
+    for (const auto& d : a.norvik.Lexico().expresionesRegulares())
+        control.SetER(d->expresion, d->nomER, !d->nomToken.empty(), d->tipo, d->pseudoToken, d->base);
+    const gramatica& g = a.norvik.Gramatica();
+    for (std::int16_t r = 1; r <= g.getNumReglas(); ++r) {
+        const std::u16string regla(g.GetLeftRegla(r));
+        control.SetRegla(regla + u" -> " + std::u16string(g.GetRightRegla(r)), r);
+    }
+    EXPECT_TRUE(control.GeneraCompilador());
+}
+
 using Via = std::function<void(Norvik&, const Lenguaje&)>;
 const std::pair<const char*, Via> vias[] = {{"especificación",
                                              [](Norvik& control, const Lenguaje& l) {
@@ -47,9 +62,14 @@ const std::pair<const char*, Via> vias[] = {{"especificación",
                                                  control.OlvidaLenguaje();
                                                  EXPECT_FALSE(CargaModulo(l.modulo(), control));
                                              }},
-                                            {"cabecera", [](Norvik& control, const Lenguaje& l) {
+                                            {"cabecera",
+                                             [](Norvik& control, const Lenguaje& l) {
                                                  control.OlvidaLenguaje();
                                                  l.cabecera(control);
+                                             }},
+                                            {"llamadas", [](Norvik& control, const Lenguaje& l) {
+                                                 control.OlvidaLenguaje();
+                                                 conLlamadas(l, control);
                                              }}};
 
 /// Whatever tells one language from another.
@@ -63,6 +83,14 @@ std::string retrato(Anfitrion& a, const Lenguaje& l) {
         }
     }
     return aUtf8(todo);
+}
+
+/// «E(T(1)+E(2))», of a small tree.
+std::string forma(const Arbol& nodo) {
+    if (nodo.GetEsHoja()) return aUtf8(nodo.GetLexema());
+    std::string texto = aUtf8(nodo.GetNomRegla()) + "(";
+    for (const Arbol* const hijo : nodo.hijos()) texto += forma(*hijo);
+    return texto + ")";
 }
 
 TEST(SegundoLenguaje, EsComoElPrimero) {
@@ -80,6 +108,45 @@ TEST(SegundoLenguaje, EsComoElPrimero) {
                 EXPECT_EQ(retrato(a, segundo), esperado)
                     << primero.nombre << " (" << unaVia << "), " << segundo.nombre << " (" << otraVia << ")";
             }
+        }
+    }
+}
+
+// Turn and turn about, by each way: the trees are those of the sums that were loaded last.
+TEST(SegundoLenguaje, SumasPorLaIzquierdaYPorLaDerechaUnaYOtraVez) {
+    const std::string tokens = "Token mas = \"\\+\"; Token n = \"[0-9]\"; ";
+    const std::pair<std::string, std::string> sumas[] = {
+        {tokens + "E -> E mas T | T; T -> n;", "E(E(E(T(1))+T(2))+T(3))"},
+        {tokens + "E -> T mas E | T; T -> n;", "E(T(1)+E(T(2)+E(T(3))))"}};
+    std::u16string modulos[2];
+    for (const std::size_t i : {0U, 1U}) {
+        Anfitrion a;
+        ASSERT_TRUE(a.compila(desdeUtf8(sumas[i].first).value()));
+        modulos[i] = a.norvik.Gramatica().textoModulo(u"M", a.norvik.Lexico());
+    }
+    Anfitrion a;
+    for (std::size_t vez = 0; vez < 10; ++vez) {
+        const std::size_t cual = vez % 2;
+        if (vez % 4 < 2) {
+            ASSERT_TRUE(a.compila(desdeUtf8(sumas[cual].first).value())) << vez;
+        } else {
+            a.norvik.OlvidaLenguaje();
+            ASSERT_FALSE(CargaModulo(modulos[cual], a.norvik)) << vez;
+        }
+        ASSERT_TRUE(a.analiza(u"1+2+3")) << vez;
+        EXPECT_EQ(forma(a.norvik.GetArbolSintactico()), sumas[cual].second) << vez;
+    }
+}
+
+TEST(SegundoLenguaje, LaQuintaCargaEsComoLaPrimera) {
+    for (const auto& [via, carga] : vias) {
+        Anfitrion a;
+        std::string primero;
+        for (int vez = 1; vez <= 5; ++vez) {
+            carga(a.norvik, lenguajes[1]);
+            const std::string suyo = retrato(a, lenguajes[1]);
+            if (vez == 1) primero = suyo;
+            EXPECT_EQ(suyo, primero) << via << ", " << vez;
         }
     }
 }

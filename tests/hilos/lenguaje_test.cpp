@@ -4,13 +4,16 @@
 
 #include "norvik/base/ficheros.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/checks/revision.hpp"
 #include "norvik/grammar/gramatica.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
+#include <stop_token>
 #include <string>
 #include <thread>
 #include <vector>
@@ -73,6 +76,37 @@ TEST(Hilos, LeenUnMismoArbol) {
     const Analisis analisis = analiza(lenguaje, "{\"ñ\": [1, 2]}");
     const std::string esperado = resultado(analisis);
     enVariosHilos([&] { EXPECT_EQ(resultado(analisis), esperado); });
+}
+
+// Of one language several threads ask for all there is to ask, and each is told to stop by another.
+TEST(Hilos, SeParanDesdeOtro) {
+    const fs::path fichero = ejemplos / "pascal" / "pascal.nvk";
+    const std::u16string especificacion = leeTexto(fichero);
+    const Lenguaje lenguaje = Lenguaje::deFichero(fichero).lenguaje.value();
+    const std::u16string texto = textosDe("pascal").front();
+    const std::function<void(const std::stop_token&)> tareas[] = {
+        [&](const std::stop_token& parada) { analiza(lenguaje, texto + u" begin ; )", {parada}); },
+        [&](const std::stop_token& parada) { lexemas(lenguaje, texto, {parada}); },
+        [&](const std::stop_token& parada) { continuaciones(lenguaje, texto, texto.size() / 2, {parada}); },
+        [&](const std::stop_token& parada) {
+            revisaConHistorias(especificacion, {Metodo::Lr1, parada});
+        },
+        [&](const std::stop_token& parada) {
+            Lenguaje::compila(especificacion, {Metodo::Clasico, parada});
+        }};
+    const std::string esperado = resultado(analiza(lenguaje, texto));
+    const std::size_t siguen = continuaciones(lenguaje, texto, texto.size() / 2).propuestas.size();
+    for (int vuelta = 0; vuelta < 3; ++vuelta) {
+        std::stop_source parada;
+        std::vector<std::jthread> hilos;
+        for (const auto& tarea : tareas) hilos.emplace_back([&] { tarea(parada.get_token()); });
+        std::this_thread::sleep_for(std::chrono::milliseconds(vuelta * 10));
+        parada.request_stop();
+    }
+    enVariosHilos([&] {
+        EXPECT_EQ(resultado(analiza(lenguaje, texto)), esperado);
+        EXPECT_EQ(continuaciones(lenguaje, texto, texto.size() / 2).propuestas.size(), siguen);
+    });
 }
 
 TEST(Hilos, LeenLosConjuntosDeUnaGramatica) {

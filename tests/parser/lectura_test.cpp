@@ -88,6 +88,17 @@ TEST(Lectura, UnaCoincidenciaVaciaSoloCuentaAlFinal) {
     }
 }
 
+TEST(Lectura, UnTokenQueEmpiezaPorUnSaltoEsDeLaLineaSiguiente) {
+    pilaTokens lexico;
+    lexico.SetER(u"\\n+", u"saltos", true, true, u"", Norvik_ExpReg, 0, sinColor);
+    lexico.SetER(u"a", u"a", true, true, u"", Norvik_ExpReg, 0, sinColor);
+    TextoInvisible editor;
+    LectorTokens lector(lexico, editor);
+    editor.ponTexto(u"a\n\na");
+    lector.InicializaLecturaTokens();
+    EXPECT_EQ(lee(lector, false), u"a:a(1,1) saltos:\n\n(2,1) a:a(3,1) EOF:EOF(3,2) ");
+}
+
 TEST(Lectura, UnTextoDemasiadoLargoNoSeLeeYElLectorSigueUtil) {
     pilaTokens lexico;
     registra(lexico);
