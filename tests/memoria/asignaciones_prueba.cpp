@@ -8,7 +8,9 @@
 #include "apoyo/carpetaTemporal.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/checks/revision.hpp"
 #include "norvik/control/bolsaPropiedades.hpp"
+#include "norvik/control/buscador.hpp"
 #include "norvik/report/modulo.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/spec/lenguaje.hpp"
@@ -100,12 +102,30 @@ Operacion conControl(const std::function<std::string(apoyo::Anfitrion&)>& que) {
     return [anfitrion, que] { return que(*anfitrion); };
 }
 
+std::u16string moduloDeLaCalculadora() {
+    apoyo::Anfitrion a;
+    EXPECT_TRUE(a.compila(especificacion()));
+    return a.norvik.Gramatica().textoModulo(u"M", a.norvik.Lexico());
+}
+
 // The text and its colours, one run after another.
 std::string coloreado(const apoyo::Anfitrion& a) {
     std::string visto = aUtf8(a.caja.texto());
     for (const auto& [inicio, longitud, color] : a.caja.colores())
         visto.append(std::to_string(inicio)).append(":").append(std::to_string(color)).append(" ");
     return visto;
+}
+
+// Patterns that need the exact machine, one that grows its automaton, and a long word.
+constexpr std::u16string_view exactos =
+    u"Token p = \"a(?=b)\"; Token c = \"x{70,90}\"; Token r = \"(d|e)\\1f\"; Token l = \"(a|b)*b[ab][ab]\";"
+    u"Token w = \"una_palabra_bastante_larga_para_ir_sola_que_no_cabe_en_el_indice_de_las_palabras_cortas\";"
+    u"S -> S T | T; T -> p | c | r | l | w;";
+
+std::string visto(const Continuaciones& siguen) {
+    std::string todas = std::to_string(siguen.inicio);
+    for (const Continuacion& c : siguen.propuestas) todas += " " + aUtf8(c.texto);
+    return todas;
 }
 
 const Caso casos[] = {
@@ -123,6 +143,29 @@ const Caso casos[] = {
              const Lexemas leidos = lexemas(l, texto);
              return std::to_string(leidos.size()) + aUtf8(leidos[leidos.size() - 1].texto);
          });
+     }},
+    {"MaquinaExacta",
+     [] {
+         const std::u16string suyo =
+             u"ab " + std::u16string(80, u'x') +
+             u" eef abbaab baaabb una_palabra_"
+             u"bastante_larga_para_ir_sola_que_no_cabe_en_el_indice_de_las_palabras_cortas";
+         return [suyo, lenguaje = Lenguaje::compila(exactos).lenguaje.value()] {
+             return contado(analiza(lenguaje, suyo)) + std::to_string(lexemas(lenguaje, suyo).size());
+         };
+     }},
+    {"Continuaciones",
+     [] { return conLenguaje([](const Lenguaje& l) { return visto(continuaciones(l, texto, 12)); }); }},
+    {"Revisa",
+     [] {
+         return [] {
+             std::string todo;
+             for (const Hallazgo& h : revisaConHistorias(u"Token si = \"si\"; Token no = \"no\"; Token a = "
+                                                         u"\"a<b>\"; S -> si S | si S no S | a;",
+                                                         {Metodo::Lalr}))
+                 todo += aUtf8(mensaje(h.diagnostico)) + std::to_string(h.historias.size()) + "\n";
+             return todo;
+         };
      }},
     {"ControlGenera",
      [] {
@@ -158,6 +201,28 @@ const Caso casos[] = {
              return visto;
          });
      }},
+    {"ControlBuscaYReemplaza",
+     [] {
+         return conControl([](apoyo::Anfitrion& a) {
+             estadoBusqueda() = {};
+             a.norvik.ShowBuscarDialog();
+             a.norvik.Text(texto);
+             a.caja.selecciona(0, 0);
+             Buscador buscador;
+             const bool hay = buscador.buscaSiguiente({u"(ñ|x)1", u"Abajo"});
+             buscador.reemplazaTodo({u"ñ(?=1)"}, u"total");
+             return std::to_string(static_cast<int>(hay)) + aUtf8(a.caja.texto());
+         });
+     }},
+    {"ControlCargaModulo",
+     [] {
+         return conControl([modulo = moduloDeLaCalculadora()](apoyo::Anfitrion& a) {
+             a.norvik.OlvidaLenguaje();
+             if (CargaModulo(modulo, a.norvik)) return std::string("(mal)");
+             a.analiza(texto);
+             return a.lexico() + aUtf8(a.norvik.GetArbolSintactico().toString());
+         });
+     }},
     {"GuardaYLee",
      [] {
          const auto carpeta = std::make_shared<apoyo::CarpetaTemporal>();
@@ -176,9 +241,7 @@ const Caso casos[] = {
      }},
     {"CargaModulo",
      [] {
-         apoyo::Anfitrion a;
-         EXPECT_TRUE(a.compila(especificacion()));
-         return [modulo = a.norvik.Gramatica().textoModulo(u"M", a.norvik.Lexico())] {
+         return [modulo = moduloDeLaCalculadora()] {
              return contado(analiza(Lenguaje::cargaModulo(modulo).lenguaje.value(), texto));
          };
      }},
