@@ -2,7 +2,7 @@
 
 // What a teacher does, from the start page to the end: by keys alone, and once by the mouse alone. Each key
 // and each click counts as a step, a text that is pasted as one: a walk that takes more of them than before
-// is a worse one. docs/rendimiento.md says what the same takes in the windows of the properties.
+// is a worse one.
 #include "taller/dialogosGuion.hpp"
 
 #include "apoyo/carpetaTemporal.hpp"
