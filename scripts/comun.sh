@@ -22,10 +22,15 @@ instala() {
     "${como[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${faltan[@]}"
 }
 
+# Configures a preset, with options, to be built whole: a folder is compiled as one file.
+configura() {
+    cmake --preset "$1" -DCMAKE_UNITY_BUILD=ON "${@:2}" >/dev/null
+}
+
 # Configures and builds a preset, or some targets of it.
 construye() {
     local preset=$1
     shift
-    cmake --preset "$preset" >/dev/null
+    configura "$preset"
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }

@@ -12,18 +12,18 @@ namespace norvik::orden {
 
 namespace {
 
-struct Linea {
+struct LineaMostrada {
     std::u16string texto; ///< as a terminal can show it, each character in one place
     std::size_t desde = 0;
     std::size_t hasta = 0;
 };
 
 // The line of a range, with the part of the range that stands in it.
-Linea lineaDe(const Rango& rango, std::u16string_view texto) {
+LineaMostrada lineaDe(const Rango& rango, std::u16string_view texto) {
     const auto inicio = static_cast<std::size_t>(rango.inicio.desplazamiento);
     const auto columna = static_cast<std::size_t>(rango.inicio.columna) - 1;
     const std::u16string_view resto = texto.substr(inicio - columna);
-    Linea linea;
+    LineaMostrada linea;
     linea.texto = visible(resto.substr(0, resto.find_first_of(u"\r\n")));
     std::replace(linea.texto.begin(), linea.texto.end(), u'\t',
                  u' '); // the caret has to stand under its place
@@ -48,7 +48,7 @@ std::u16string enUnaLinea(std::u16string_view texto) {
 }
 
 // Cuts a long line around the range.
-void acorta(Linea& linea) {
+void acorta(LineaMostrada& linea) {
     constexpr std::size_t antes = 60;
     constexpr std::size_t ancho = 78;
     if (linea.desde > antes) {
@@ -119,7 +119,7 @@ std::u16string muestraError(const Diagnostico& diagnostico, std::u16string_view 
                             std::u16string_view texto, Estilo estilo) {
     constexpr std::u16string_view verde = u"1;32";
     const Pintor pinta(estilo);
-    Linea linea = lineaDe(diagnostico.rango, texto);
+    LineaMostrada linea = lineaDe(diagnostico.rango, texto);
     acorta(linea);
     std::u16string muestra = cabecera(diagnostico, visible(fichero) + u":", pinta) + u"\n";
     muestra += linea.texto + u"\n" + std::u16string(linea.desde, u' ');

@@ -23,7 +23,7 @@ constexpr QLatin1String claveContenido("Contenido");
 constexpr QLatin1String claveFichero("Fichero");
 constexpr QLatin1String claveHuella("Huella");
 constexpr QLatin1String claveModificado("Modificado");
-constexpr QLatin1String claveTextos("Textos");
+constexpr QLatin1String claveDeLosTextos("Textos");
 constexpr QLatin1String claveCodificacion("Codificacion");
 constexpr QLatin1String claveSalto("Salto");
 constexpr QLatin1String claveAcabaEnSalto("AcabaEnSalto");
@@ -66,7 +66,7 @@ QJsonObject jsonDe(const EstadoFormulario& f, std::string& textos) {
             {claveFichero, f.fichero},
             {claveHuella, f.huella},
             {claveModificado, f.modificado},
-            {claveTextos, jsonDeTodos(f.textos, textos)}};
+            {claveDeLosTextos, jsonDeTodos(f.textos, textos)}};
 }
 
 // ---- reading
@@ -99,7 +99,7 @@ public:
         f.fichero = json[claveFichero].toString();
         f.huella = json[claveHuella].toString();
         f.modificado = json[claveModificado].toBool();
-        f.textos = documentos(json[claveTextos].toArray());
+        f.textos = documentos(json[claveDeLosTextos].toArray());
         if (f.textos.size() != f.guardado.elementos.size()) falla();
         return f;
     }

@@ -11,9 +11,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
-
-bool esAscii(std::string_view bytes) {
+bool todoAscii(std::string_view bytes) {
     return std::all_of(bytes.begin(), bytes.end(),
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
@@ -45,7 +43,7 @@ std::u16string decodifica(std::string_view bytes) {
 
 std::optional<std::string> CodificadorWindows1252::codifica(std::u16string_view lineas) {
     auto bytes = aWindows1252(lineas);
-    if (bytes && esUtf8_ && !esAscii(*bytes)) {
+    if (bytes && esUtf8_ && !todoAscii(*bytes)) {
         ascii_ = false;
         esUtf8_ = esUtf8(*bytes);
     }

@@ -9,6 +9,9 @@
 // The texts of files: their bytes and their line ends.
 namespace norvik::inline v0_2 {
 
+/// What a UTF-8 file with a mark begins with.
+inline constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
+
 /// UTF-16 begins with a mark, whose order its units have; nothing for bytes that are no such text.
 std::optional<std::u16string> desdeUtf16(std::string_view bytes);
 /// Text of a file's bytes: UTF-16 with its mark, UTF-8 (with or without one) when they are valid, else

@@ -14,8 +14,6 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
-
 template <typename Caracter>
 SaltoDeFichero saltoMasFrecuente(std::basic_string_view<Caracter> bytes) {
     std::size_t lf = 0;

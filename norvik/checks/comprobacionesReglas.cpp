@@ -20,7 +20,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-using Regla = FuenteEspecificacion::Regla;
+using ReglaEscrita = FuenteEspecificacion::Regla;
 using Nombres = std::set<std::u16string_view>;
 
 bool esVariable(std::u16string_view nombre) {
@@ -32,7 +32,7 @@ public:
     Revisor(const FuenteEspecificacion& fuente, Metodo metodo, const std::stop_token& cancelacion,
             std::vector<Diagnostico>& hallazgos)
         : fuente_(fuente), metodo_(metodo), cancelacion_(cancelacion), hallazgos_(hallazgos) {
-        for (const Regla& regla : fuente.reglas) reglasDe_[regla.cabeza.nombre].push_back(&regla);
+        for (const ReglaEscrita& regla : fuente.reglas) reglasDe_[regla.cabeza.nombre].push_back(&regla);
     }
 
     void revisa() {
@@ -59,7 +59,7 @@ private:
         Nombres cerradas; // heads that other ones have followed
         Nombres dichas;
         std::u16string_view anterior;
-        for (const Regla& regla : fuente_.reglas) {
+        for (const ReglaEscrita& regla : fuente_.reglas) {
             const std::u16string_view cabeza = regla.cabeza.nombre;
             if (cabeza != anterior && !anterior.empty()) cerradas.insert(anterior);
             const bool dispersa =
@@ -76,7 +76,7 @@ private:
         }
     }
 
-    static std::u16string cuerpoDe(const Regla& regla) {
+    static std::u16string cuerpoDe(const ReglaEscrita& regla) {
         std::u16string cuerpo;
         for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
             cuerpo += (cuerpo.empty() ? u"" : u" ") + simbolo.nombre;
@@ -84,8 +84,8 @@ private:
     }
 
     void compruebaRepetidas() {
-        std::map<std::pair<std::u16string_view, std::u16string>, const Regla*> vistas;
-        for (const Regla& regla : fuente_.reglas) {
+        std::map<std::pair<std::u16string_view, std::u16string>, const ReglaEscrita*> vistas;
+        for (const ReglaEscrita& regla : fuente_.reglas) {
             const auto [sitio, nueva] = vistas.try_emplace(
                 std::pair(std::u16string_view(regla.cabeza.nombre), cuerpoDe(regla)), &regla);
             if (nueva) continue;
@@ -96,7 +96,7 @@ private:
 
     void compruebaUsos() {
         Nombres usadas;
-        for (const Regla& regla : fuente_.reglas)
+        for (const ReglaEscrita& regla : fuente_.reglas)
             for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo)
                 if (simbolo.nombre != regla.cabeza.nombre) usadas.insert(simbolo.nombre);
         const Nombres alcanzadas = alcanzadasDesde(inicial());
@@ -116,7 +116,7 @@ private:
             const auto suyas = reglasDe_.find(pendientes.back());
             pendientes.pop_back();
             if (suyas == reglasDe_.end()) continue;
-            for (const Regla* regla : suyas->second)
+            for (const ReglaEscrita* regla : suyas->second)
                 for (const FuenteEspecificacion::Simbolo& simbolo : regla->cuerpo)
                     if (esVariable(simbolo.nombre) && alcanzadas.insert(simbolo.nombre).second)
                         pendientes.push_back(simbolo.nombre);
@@ -128,10 +128,10 @@ private:
     // not yet.
     template <typename Vale>
     Nombres cierre(const Vale& vale) const {
-        std::map<const Regla*, std::size_t> faltan;
-        std::map<std::u16string_view, std::vector<const Regla*>> esperan;
-        std::vector<const Regla*> listas;
-        for (const Regla& regla : fuente_.reglas) {
+        std::map<const ReglaEscrita*, std::size_t> faltan;
+        std::map<std::u16string_view, std::vector<const ReglaEscrita*>> esperan;
+        std::vector<const ReglaEscrita*> listas;
+        for (const ReglaEscrita& regla : fuente_.reglas) {
             if (!std::ranges::all_of(regla.cuerpo,
                                      [&](const auto& s) { return esVariable(s.nombre) || vale(s.nombre); }))
                 continue;
@@ -144,7 +144,7 @@ private:
             const std::u16string_view cabeza = listas.back()->cabeza.nombre;
             listas.pop_back();
             if (!dentro.insert(cabeza).second) continue;
-            for (const Regla* regla : esperan[cabeza])
+            for (const ReglaEscrita* regla : esperan[cabeza])
                 if (--faltan[regla] == 0) listas.push_back(regla);
         }
         return dentro;
@@ -158,8 +158,8 @@ private:
     }
 
     // What an undefined variable hides is told once it is defined.
-    bool pideIndefinida(const std::vector<const Regla*>& reglas) const {
-        return std::ranges::any_of(reglas, [&](const Regla* regla) {
+    bool pideIndefinida(const std::vector<const ReglaEscrita*>& reglas) const {
+        return std::ranges::any_of(reglas, [&](const ReglaEscrita* regla) {
             return std::ranges::any_of(regla->cuerpo, [&](const FuenteEspecificacion::Simbolo& s) {
                 return esVariable(s.nombre) && !reglasDe_.contains(s.nombre);
             });
@@ -170,7 +170,7 @@ private:
     void compruebaCiclos() {
         const Nombres anulables = cierre([](std::u16string_view) { return false; });
         std::map<std::u16string_view, Nombres> llevan;
-        for (const Regla& regla : fuente_.reglas) {
+        for (const ReglaEscrita& regla : fuente_.reglas) {
             const auto anulable = [&](const FuenteEspecificacion::Simbolo& s) {
                 return anulables.contains(s.nombre);
             };
@@ -182,7 +182,7 @@ private:
                     llevan[regla.cabeza.nombre].insert(simbolo.nombre);
         }
         Nombres dichas;
-        for (const Regla& regla : fuente_.reglas)
+        for (const ReglaEscrita& regla : fuente_.reglas)
             if (!dichas.contains(regla.cabeza.nombre)) anotaCiclo(regla.cabeza.nombre, llevan, dichas);
     }
 
@@ -213,7 +213,7 @@ private:
     Metodo metodo_;
     const std::stop_token& cancelacion_;
     std::vector<Diagnostico>& hallazgos_;
-    std::map<std::u16string_view, std::vector<const Regla*>> reglasDe_;
+    std::map<std::u16string_view, std::vector<const ReglaEscrita*>> reglasDe_;
 };
 
 } // namespace

@@ -25,7 +25,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-using Definicion = FuenteEspecificacion::Definicion;
+using DefinicionEscrita = FuenteEspecificacion::Definicion;
 
 constexpr auto plazoDePatrones = std::chrono::seconds(3); // for all tokens together
 
@@ -33,18 +33,18 @@ Diagnostico aviso(Codigo codigo, const Rango& lugar, Partes partes) {
     return {codigo, Gravedad::Aviso, lugar, std::move(partes)};
 }
 
-bool esComentario(const Definicion& d) {
+bool esComentario(const DefinicionEscrita& d) {
     return d.tipo == Norvik_ComentarioBloque || d.tipo == Norvik_ComentarioLinea;
 }
 
 void compruebaUsos(const FuenteEspecificacion& fuente, std::vector<Diagnostico>& hallazgos) {
     std::set<std::u16string_view> usados;
-    for (const Definicion& d : fuente.definiciones)
+    for (const DefinicionEscrita& d : fuente.definiciones)
         for (const std::u16string_view nombre : referenciasDe(d.texto)) usados.insert(nombre);
     for (const FuenteEspecificacion::Regla& regla : fuente.reglas)
         for (const FuenteEspecificacion::Simbolo& simbolo : regla.cuerpo) usados.insert(simbolo.nombre);
     std::set<std::u16string_view> dichos;
-    for (const Definicion& d : fuente.definiciones) {
+    for (const DefinicionEscrita& d : fuente.definiciones) {
         const bool seUsa =
             usados.contains(d.nombre) || (d.esToken && (esComentario(d) || fuente.reglas.empty()));
         if (!seUsa && dichos.insert(d.nombre).second)
@@ -54,8 +54,8 @@ void compruebaUsos(const FuenteEspecificacion& fuente, std::vector<Diagnostico>&
 }
 
 void compruebaRepetidas(const FuenteEspecificacion& fuente, std::vector<Diagnostico>& hallazgos) {
-    std::map<std::pair<std::u16string_view, std::u16string_view>, const Definicion*> vistas;
-    for (const Definicion& d : fuente.definiciones) {
+    std::map<std::pair<std::u16string_view, std::u16string_view>, const DefinicionEscrita*> vistas;
+    for (const DefinicionEscrita& d : fuente.definiciones) {
         const auto [sitio, nueva] = vistas.try_emplace({d.nombre, d.texto}, &d);
         if (nueva || !d.esToken) continue;
         hallazgos.push_back(aviso(Codigo::TokenRepetido, d.lugarNombre,
@@ -110,7 +110,7 @@ private:
 };
 
 // Narrows what compiling told of a definition to the place in it that is wrong, and says why.
-void situaDefecto(const Definicion& d, const DefinicionesTokens& anteriores,
+void situaDefecto(const DefinicionEscrita& d, const DefinicionesTokens& anteriores,
                   std::vector<Diagnostico>& hallazgos) {
     const auto defecto = defectoDeDefinicion(d.texto, anteriores);
     const auto suyo = std::ranges::find(hallazgos, d.lugarTexto, &Diagnostico::rango);
@@ -122,14 +122,14 @@ void situaDefecto(const Definicion& d, const DefinicionesTokens& anteriores,
 }
 
 // A token whose pattern can take nothing, or that never wins.
-void compruebaPatron(std::size_t numero, const std::vector<const Definicion*>& deToken, Concurso& concurso,
+void compruebaPatron(std::size_t numero, const std::vector<const DefinicionEscrita*>& deToken, Concurso& concurso,
                      std::vector<Diagnostico>& hallazgos) {
-    const Definicion& d = *deToken[numero];
+    const DefinicionEscrita& d = *deToken[numero];
     if (concurso.puedeNoTomarNada(numero))
         hallazgos.push_back(aviso(Codigo::PatronVacio, d.lugarTexto, {d.nombre, {}, {}, {}}));
     const auto perdida = concurso.pierdeSiempre(numero);
     if (!perdida) return;
-    const Definicion& ganador = *deToken[perdida->ganador];
+    const DefinicionEscrita& ganador = *deToken[perdida->ganador];
     hallazgos.push_back(
         aviso(Codigo::TokenTapado, d.lugarNombre,
               {d.nombre, perdida->texto, {ganador.nombre}, {{ganador.lugarNombre, ganador.nombre}}}));
@@ -138,8 +138,8 @@ void compruebaPatron(std::size_t numero, const std::vector<const Definicion*>& d
 void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible, const std::stop_token& cancelacion,
                        std::vector<Diagnostico>& hallazgos) {
     pilaTokens lexico;
-    std::vector<const Definicion*> deToken; // of each token of the lexer
-    for (const Definicion& d : fuente.definiciones) {
+    std::vector<const DefinicionEscrita*> deToken; // of each token of the lexer
+    for (const DefinicionEscrita& d : fuente.definiciones) {
         exigeSeguir(cancelacion);
         const bool registrada =
             !lexico.registra({d.texto, d.nombre, d.esToken, sensible, d.pseudoToken, d.tipo});
@@ -156,7 +156,7 @@ void compruebaPatrones(const FuenteEspecificacion& fuente, bool sensible, const 
             compruebaPatron(i, deToken, concurso, hallazgos);
         } catch (const BusquedaDesbocada&) {
             if (!presupuesto.agotado()) throw;
-            const Definicion& d = *deToken[i];
+            const DefinicionEscrita& d = *deToken[i];
             return hallazgos.push_back(
                 aviso(Codigo::BusquedaDesbocada, d.lugarTexto, {d.nombre, {}, {}, {}}));
         }

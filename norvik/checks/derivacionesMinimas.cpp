@@ -16,7 +16,7 @@ namespace {
 
 using exacto::Producciones;
 
-std::int32_t suma(std::int32_t uno, std::int32_t otro) {
+std::int32_t sumaAcotada(std::int32_t uno, std::int32_t otro) {
     return std::min(uno + otro, DerivacionesMinimas::maximo);
 }
 
@@ -36,7 +36,7 @@ void DerivacionesMinimas::buscaMinimos() {
             for (const std::int16_t regla : producciones_.de(cabeza)) {
                 Coste suyo = coste(producciones_.cuerpo(regla));
                 if (suyo.tokens == infinito) continue;
-                suyo.nodos = suma(suyo.nodos, 1);
+                suyo.nodos = sumaAcotada(suyo.nodos, 1);
                 if (!(suyo < costes_[Producciones::indice(cabeza)])) continue;
                 costes_[Producciones::indice(cabeza)] = suyo;
                 minimas_[Producciones::indice(cabeza)] = regla;
@@ -55,7 +55,7 @@ DerivacionesMinimas::Coste DerivacionesMinimas::coste(Cuerpo cuerpo) const {
     for (const Simbolo simbolo : cuerpo) {
         const Coste suyo = coste(simbolo);
         if (suyo.tokens == infinito) return {};
-        todo = {suma(todo.tokens, suyo.tokens), suma(todo.nodos, suyo.nodos)};
+        todo = {sumaAcotada(todo.tokens, suyo.tokens), sumaAcotada(todo.nodos, suyo.nodos)};
     }
     return todo;
 }
@@ -93,8 +93,8 @@ bool DerivacionesMinimas::mejora(Comienzos& comienzos, std::int16_t regla, Simbo
         const auto detras = static_cast<std::int32_t>(cuerpo.size() - i - 1);
         const std::int32_t aqui =
             cuerpo[i] == token ? 1 : comienzos[Producciones::indice(cuerpo[i])].simbolos;
-        if (aqui < infinito && suma(aqui, detras) < mejor.simbolos) {
-            mejor = {suma(aqui, detras), regla, i};
+        if (aqui < infinito && sumaAcotada(aqui, detras) < mejor.simbolos) {
+            mejor = {sumaAcotada(aqui, detras), regla, i};
             cambia = true;
         }
         if (!producciones_.esAnulable(cuerpo[i])) break;
@@ -215,7 +215,8 @@ std::optional<ArbolEjemplo> DerivacionesMinimas::enTokens(const ArbolEjemplo& ar
     constexpr std::int32_t maximoNodos = 5'000;
     std::int32_t nodos = 0;
     for (const NodoEjemplo& nodo : arbol.nodos)
-        if (nodo.regla == 0) nodos = suma(nodos, coste(producciones_.reglas().simbolo(nodo.simbolo)).nodos);
+        if (nodo.regla == 0)
+            nodos = sumaAcotada(nodos, coste(producciones_.reglas().simbolo(nodo.simbolo)).nodos);
     if (nodos > maximoNodos) return std::nullopt;
     ArbolEjemplo crecido;
     std::vector<std::int32_t> nuevos; // where each node is in it

@@ -24,7 +24,7 @@ namespace {
 using Azar = std::minstd_rand; // the same on every machine
 using Textos = std::vector<std::u16string>;
 
-std::size_t menorQue(Azar& azar, std::size_t tope) {
+std::size_t sacaDe(Azar& azar, std::size_t tope) {
     return azar() % tope;
 }
 
@@ -84,14 +84,14 @@ public:
     Frases alAzar(std::size_t cuantas) {
         constexpr std::size_t intentos = 20;
         const auto cualquiera = [this](std::span<const std::int16_t> reglas) {
-            return reglas[menorQue(azar_, reglas.size())];
+            return reglas[sacaDe(azar_, reglas.size())];
         };
         for (std::size_t i = 0; i / intentos < cuantas && textos_.size() < cuantas; ++i) {
             if (plazo_.agotado()) break;
             const std::vector<std::int16_t> iniciales = deLaInicial();
             if (iniciales.empty()) break;
-            const std::size_t hueco = 5 + menorQue(azar_, 60);
-            anota(derivaciones_.conRegla(iniciales[menorQue(azar_, iniciales.size())], hueco, cualquiera));
+            const std::size_t hueco = 5 + sacaDe(azar_, 60);
+            anota(derivaciones_.conRegla(iniciales[sacaDe(azar_, iniciales.size())], hueco, cualquiera));
         }
         return {std::move(textos_), {}};
     }
@@ -156,10 +156,10 @@ private:
         const std::vector<std::int16_t> todos = escribibles();
         for (int i = 0; i < intentos && !todos.empty(); ++i) {
             Derivaciones::Frase otra = frase;
-            const std::size_t lugar = menorQue(azar_, frase.size() + 1);
-            const std::int16_t token = todos[menorQue(azar_, todos.size())];
+            const std::size_t lugar = sacaDe(azar_, frase.size() + 1);
+            const std::int16_t token = todos[sacaDe(azar_, todos.size())];
             const auto sitio = otra.begin() + static_cast<std::ptrdiff_t>(lugar);
-            const std::size_t que = lugar == frase.size() ? 0 : menorQue(azar_, 3);
+            const std::size_t que = lugar == frase.size() ? 0 : sacaDe(azar_, 3);
             if (que == 0) otra.insert(sitio, token);
             if (que == 1) otra.erase(sitio);
             if (que == 2) *sitio = token;
@@ -180,7 +180,7 @@ private:
         std::vector<std::u16string_view> tokens;
         for (const std::int16_t token : frase) {
             const Textos& suyos = escrituras_[static_cast<std::size_t>(token) - 1];
-            tokens.push_back(suyos[menorQue(azar_, suyos.size())]);
+            tokens.push_back(suyos[sacaDe(azar_, suyos.size())]);
         }
         return tokens;
     }

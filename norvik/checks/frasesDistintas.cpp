@@ -19,7 +19,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-using Pila = std::vector<std::int16_t>;
+using PilaDeEstados = std::vector<std::int16_t>;
 
 // A table that is asked of one token after another.
 class Conductora {
@@ -33,7 +33,7 @@ public:
     }
 
     /// Whether it takes a token, or accepts before the end: the stack is that behind it.
-    bool lee(Pila& pila, Simbolo token) const {
+    bool lee(PilaDeEstados& pila, Simbolo token) const {
         const std::int16_t codigo = codigos_[static_cast<std::size_t>(token)];
         if (codigo < 0) return false;
         const std::size_t maximo = 100 + 50 * pila.size(); // beyond that it reduces for ever
@@ -49,13 +49,13 @@ public:
         }
         return false;
     }
-    bool espera(const Pila& pila, Simbolo token) const {
+    bool espera(const PilaDeEstados& pila, Simbolo token) const {
         const std::int16_t codigo = codigos_[static_cast<std::size_t>(token)];
         return codigo >= 0 && tabla_.entrada(pila.back(), codigo) != 0;
     }
 
 private:
-    bool reduce(Pila& pila, std::int16_t regla) const {
+    bool reduce(PilaDeEstados& pila, std::int16_t regla) const {
         const auto largo = static_cast<std::size_t>(reglas_.en(regla).elementos);
         const std::int16_t cabeza = cabezas_[static_cast<std::size_t>(regla) - 1];
         if (largo >= pila.size() || cabeza < 0) return false;
@@ -72,9 +72,9 @@ private:
     std::vector<std::int16_t> cabezas_; // by rule
 };
 
-class Buscador {
+class BuscadorDeDosFrases {
 public:
-    Buscador(const Reglas& reglas, const exacto::Producciones& producciones, const TablaLR& tabla)
+    BuscadorDeDosFrases(const Reglas& reglas, const exacto::Producciones& producciones, const TablaLR& tabla)
         : producciones_(producciones), minimas_(producciones), tabla_(reglas, producciones.reglas(), tabla),
           gramatica_(producciones, minimas_) {
         for (std::size_t i = 2; i < producciones.numSimbolos(); ++i)
@@ -101,7 +101,7 @@ private:
     struct Comienzo {
         std::size_t anterior;
         Simbolo token;
-        Pila pila; // of the table, empty once it has refused
+        PilaDeEstados pila; // of the table, empty once it has refused
         std::size_t largo;
     };
 
@@ -112,7 +112,7 @@ private:
     }
 
     void mira(std::size_t cual) {
-        Pila pila = comienzos_[cual].pila;
+        PilaDeEstados pila = comienzos_[cual].pila;
         const bool seAcepta = !pila.empty() && tabla_.lee(pila, ReglasPartidas::finTexto);
         const bool esDeLaGramatica = gramatica_.acepta(cual);
         if (seAcepta && !esDeLaGramatica && !halladas_.deMas) halladas_.deMas = frase(cual, {});
@@ -125,7 +125,7 @@ private:
 
     std::set<Simbolo> siguientes(std::size_t cual) const {
         std::set<Simbolo> todos = gramatica_.siguientes(cual);
-        const Pila& pila = comienzos_[cual].pila;
+        const PilaDeEstados& pila = comienzos_[cual].pila;
         if (!pila.empty())
             for (const Simbolo token : tokens_)
                 if (tabla_.espera(pila, token)) todos.insert(token);
@@ -135,7 +135,7 @@ private:
     // Columns and beginnings have the same numbers.
     void sigue(std::size_t cual, Simbolo token) {
         pasos_ += comienzos_[cual].pila.size() + 1;
-        Pila pila = comienzos_[cual].pila;
+        PilaDeEstados pila = comienzos_[cual].pila;
         if (!pila.empty() && !tabla_.lee(pila, token)) pila.clear();
         const bool viveLaTabla = !pila.empty();
         const std::size_t nueva = gramatica_.avanza(cual, token);
@@ -183,7 +183,7 @@ private:
 FrasesDistintas buscaFrasesDistintas(const Reglas& reglas, const exacto::Producciones& producciones,
                                      const TablaLR& tabla, const LimiteFrases& limite) {
     if (producciones.cabezas().empty()) return {};
-    return Buscador(reglas, producciones, tabla).busca(limite);
+    return BuscadorDeDosFrases(reglas, producciones, tabla).busca(limite);
 }
 
 } // namespace norvik::inline v0_2

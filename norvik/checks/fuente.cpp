@@ -14,8 +14,8 @@ FuenteEspecificacion::Simbolo simboloDe(const NodoEspecificacion& hoja) {
     return {std::u16string(hoja.lexema()), hoja.rango()};
 }
 
-void anota(FuenteEspecificacion& fuente, const NodoEspecificacion& cabeza,
-           const NodoEspecificacion& alternativas) {
+void anotaReglas(FuenteEspecificacion& fuente, const NodoEspecificacion& cabeza,
+                 const NodoEspecificacion& alternativas) {
     especificacion::cuerpoDe(
         alternativas,
         [&](const NodoEspecificacion& simbolo) { fuente.reglas.back().cuerpo.push_back(simboloDe(simbolo)); },
@@ -49,7 +49,7 @@ FuenteEspecificacion fuenteDe(const Analisis& especificacion) {
                                            d.perfil.tipo, std::u16string(d.pseudoToken)});
         },
         [&](const NodoEspecificacion& cabeza, const NodoEspecificacion& alternativas) {
-            anota(fuente, cabeza, alternativas);
+            anotaReglas(fuente, cabeza, alternativas);
         });
     return fuente;
 }

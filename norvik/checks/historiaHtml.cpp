@@ -25,9 +25,9 @@ std::u16string codigo(std::u16string_view texto) {
     return u"<p><code>" + escapaHtml(texto) + u"</code></p>\n";
 }
 
-class Dibujo {
+class DibujoHtml {
 public:
-    explicit Dibujo(const ArbolEjemplo& arbol) : arbol_(arbol) {
+    explicit DibujoHtml(const ArbolEjemplo& arbol) : arbol_(arbol) {
         std::vector<NodoPorTrazar> porTrazar;
         recorre(
             arbol, [](const NodoEjemplo&, std::size_t) {},
@@ -89,7 +89,7 @@ std::u16string lado(const HistoriaConflicto& historia, std::size_t cual) {
     std::u16string html = u"<figure>\n<figcaption>" + escapaHtml(palabras::rotulo(historia, cual));
     if (historia.clase != HistoriaConflicto::Clase::Ambigua)
         html += u" <code>" + escapaHtml(palabras::frase(historia.cortos[cual])) + u"</code>";
-    return html + u"</figcaption>\n" + Dibujo(historia.cortos[cual].arbol).svg() + u"</figure>\n";
+    return html + u"</figcaption>\n" + DibujoHtml(historia.cortos[cual].arbol).svg() + u"</figure>\n";
 }
 
 std::u16string ejemplo(const HistoriaConflicto& historia) {

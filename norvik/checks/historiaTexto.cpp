@@ -20,7 +20,7 @@ constexpr std::size_t nivelesDibujados = 12;
 constexpr std::size_t lineasDibujadas = 60;
 
 // Words into lines, each behind its margin.
-void pliega(std::u16string& salida, std::u16string_view texto, std::size_t margen) {
+void pliegaLineas(std::u16string& salida, std::u16string_view texto, std::size_t margen) {
     std::u16string linea(margen, u' ');
     std::size_t llenos = 0;
     while (!texto.empty()) {
@@ -38,9 +38,9 @@ void pliega(std::u16string& salida, std::u16string_view texto, std::size_t marge
 }
 
 // One line of a drawing: what stands before it, and its text.
-class Dibujo {
+class DibujoTexto {
 public:
-    explicit Dibujo(const ArbolEjemplo& arbol) : arbol_(arbol) {}
+    explicit DibujoTexto(const ArbolEjemplo& arbol) : arbol_(arbol) {}
 
     std::u16string texto() {
         std::vector<std::pair<std::size_t, std::size_t>> abiertos; // node, next child
@@ -98,48 +98,48 @@ private:
 };
 
 void cuentaLado(std::u16string& salida, const HistoriaConflicto& historia, std::size_t cual) {
-    pliega(salida, palabras::rotulo(historia, cual), 2);
+    pliegaLineas(salida, palabras::rotulo(historia, cual), 2);
     if (historia.clase != HistoriaConflicto::Clase::Ambigua)
-        pliega(salida, palabras::frase(historia.cortos[cual]), 6);
-    salida += Dibujo(historia.cortos[cual].arbol).texto();
+        pliegaLineas(salida, palabras::frase(historia.cortos[cual]), 6);
+    salida += DibujoTexto(historia.cortos[cual].arbol).texto();
 }
 
 void cuentaTokens(std::u16string& salida, const HistoriaConflicto& historia) {
     const auto& [una, otra] = historia.completos;
     if (una.arbol.nodos.empty() || otra.arbol.nodos.empty()) {
-        pliega(salida, u"Del todo en tokens es demasiado largo para escribirlo.", 2);
+        pliegaLineas(salida, u"Del todo en tokens es demasiado largo para escribirlo.", 2);
         return;
     }
-    pliega(salida, u"Desde la variable inicial y en tokens:", 2);
-    pliega(salida, palabras::frase(una), 6);
-    if (palabras::frase(otra) != palabras::frase(una)) pliega(salida, palabras::frase(otra), 6);
-    if (const auto dicho = palabras::prueba(historia); !dicho.empty()) pliega(salida, dicho, 2);
+    pliegaLineas(salida, u"Desde la variable inicial y en tokens:", 2);
+    pliegaLineas(salida, palabras::frase(una), 6);
+    if (palabras::frase(otra) != palabras::frase(una)) pliegaLineas(salida, palabras::frase(otra), 6);
+    if (const auto dicho = palabras::prueba(historia); !dicho.empty()) pliegaLineas(salida, dicho, 2);
 }
 
 } // namespace
 
 std::u16string enTexto(const HistoriaConflicto& historia) {
     std::u16string salida;
-    pliega(salida, palabras::planteamiento(historia), 2);
-    pliega(salida, palabras::explicacion(historia), 2);
+    pliegaLineas(salida, palabras::planteamiento(historia), 2);
+    pliegaLineas(salida, palabras::explicacion(historia), 2);
     if (historia.clase != HistoriaConflicto::Clase::SinEjemplo) {
         if (historia.clase == HistoriaConflicto::Clase::Ambigua)
-            pliega(salida, palabras::frase(historia.cortos[0]), 6);
+            pliegaLineas(salida, palabras::frase(historia.cortos[0]), 6);
         cuentaLado(salida, historia, 0);
         cuentaLado(salida, historia, 1);
         cuentaTokens(salida, historia);
     }
     if (!historia.porque.empty()) {
-        pliega(salida, u"Por qué cabe reducir ahí:", 2);
-        for (const std::u16string& paso : historia.porque) pliega(salida, paso, 6);
+        pliegaLineas(salida, u"Por qué cabe reducir ahí:", 2);
+        for (const std::u16string& paso : historia.porque) pliegaLineas(salida, paso, 6);
     }
-    pliega(salida, u"Qué hacer: " + palabras::remedio(historia), 2);
+    pliegaLineas(salida, u"Qué hacer: " + palabras::remedio(historia), 2);
     return salida;
 }
 
 bool seCuentanIgual(const HistoriaConflicto& una, const HistoriaConflicto& otra) {
-    using Cura = HistoriaConflicto::Cura;
-    const bool esDelOperador = una.cura == Cura::Asociatividad || una.cura == Cura::Prioridad;
+    const bool esDelOperador =
+        una.cura == HistoriaConflicto::Cura::Asociatividad || una.cura == HistoriaConflicto::Cura::Prioridad;
     return !esDelOperador && una.estado == otra.estado && una.cura == otra.cura && una.clase == otra.clase &&
            una.acciones[0].tipo == otra.acciones[0].tipo && una.acciones[1].regla == otra.acciones[1].regla;
 }

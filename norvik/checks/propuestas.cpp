@@ -22,7 +22,6 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-using Clase = Continuacion::Clase;
 using Papel = NombreEscrito::Papel;
 
 /// What is written of the line before a position.
@@ -44,7 +43,7 @@ std::set<std::u16string> nombresCon(std::span<const NombreEscrito> nombres, std:
 }
 
 template <typename Textos>
-void anota(const Textos& textos, Clase clase, std::vector<Continuacion>& propuestas) {
+void anota(const Textos& textos, Continuacion::Clase clase, std::vector<Continuacion>& propuestas) {
     for (const auto& texto : textos) propuestas.push_back({clase, std::u16string(texto)});
 }
 
@@ -57,15 +56,16 @@ Continuaciones enDirectiva(std::u16string_view texto, std::size_t posicion, std:
     const std::u16string_view palabra = linea.substr(0, fin);
     if (fin == std::u16string_view::npos) {
         for (const std::u16string_view conocida : palabrasDeDirectivas)
-            siguen.propuestas.push_back({Clase::Palabra, std::u16string(conocida) + u": "});
+            siguen.propuestas.push_back({Continuacion::Clase::Palabra, std::u16string(conocida) + u": "});
     } else if (palabra == u"metodo") {
         for (const auto& [nombre, metodo] : metodos)
-            siguen.propuestas.push_back({Clase::Palabra, std::u16string(nombre)});
+            siguen.propuestas.push_back({Continuacion::Clase::Palabra, std::u16string(nombre)});
     } else if (palabra == u"mayusculas") {
-        siguen.propuestas.push_back({Clase::Palabra, std::u16string(valorDeMayusculas)});
+        siguen.propuestas.push_back({Continuacion::Clase::Palabra, std::u16string(valorDeMayusculas)});
     } else if (asociatividadDe(palabra)) {
         const auto nombres = nombresEscritos(texto);
-        anota(nombresCon(nombres, texto.size() + 1, {Papel::Token}), Clase::DelTexto, siguen.propuestas);
+        anota(nombresCon(nombres, texto.size() + 1, {Papel::Token}), Continuacion::Clase::DelTexto,
+              siguen.propuestas);
     }
     return siguen;
 }
@@ -98,7 +98,7 @@ Continuaciones enPatron(std::u16string_view texto, std::size_t posicion, std::si
     const auto nombres = nombresEscritos(texto);
     for (const std::u16string& nombre :
          nombresCon(nombres, inicioDeDefinicion(nombres, inicio), {Papel::Auxiliar, Papel::Token}))
-        siguen.propuestas.push_back({Clase::DelTexto, cerrada ? nombre : nombre + u">"});
+        siguen.propuestas.push_back({Continuacion::Clase::DelTexto, cerrada ? nombre : nombre + u">"});
     return siguen;
 }
 
@@ -114,7 +114,7 @@ void quitaNombres(std::u16string_view texto, Continuaciones& siguen) {
     const bool nuevo = seEstrena(texto.substr(0, siguen.inicio));
     const auto auxiliares = nombresCon(nombresEscritos(texto), texto.size() + 1, {Papel::Auxiliar});
     std::erase_if(siguen.propuestas, [&](const Continuacion& c) {
-        return c.clase == Clase::DelTexto && (nuevo || auxiliares.contains(c.texto));
+        return c.clase == Continuacion::Clase::DelTexto && (nuevo || auxiliares.contains(c.texto));
     });
 }
 

@@ -105,7 +105,7 @@ void ensanchaANombre(Diagnostico& diagnostico, std::u16string_view especificacio
     std::size_t inicio = sitio;
     while (inicio > 0 && sitio - inicio < maximo && esDeNombre(especificacion[inicio - 1])) --inicio;
     const std::u16string_view nombre = especificacion.substr(inicio, fin - inicio);
-    const auto esLetra = [](char16_t c) { return tiene(Propiedad::Letra, c); };
+    const auto esLetra = [](char16_t c) { return tiene(PropiedadDeUnidad::Letra, c); };
     if (std::ranges::none_of(nombre, esLetra)) return;
     diagnostico.codigo = Codigo::NombreIncorrecto;
     diagnostico.partes.nombre = nombre;

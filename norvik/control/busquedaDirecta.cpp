@@ -19,7 +19,7 @@ std::u16string literal(std::u16string_view texto) {
     return patron;
 }
 
-std::u16string patronDe(const BusquedaDirecta& b) {
+std::u16string patronDirecto(const BusquedaDirecta& b) {
     const std::u16string patron = b.esExpresion ? b.texto : literal(b.texto);
     return b.palabrasCompletas ? uR"(\b(?:)" + patron + uR"()\b)" : patron;
 }
@@ -48,7 +48,8 @@ coincidenciasDe(const BusquedaDirecta& busqueda, std::u16string_view texto, cons
     const bool buenPatron = !busqueda.esExpresion ||
                             Emparejador::compila(busqueda.texto, false); // what is put around could mend it
     const auto emparejador =
-        buenPatron ? Emparejador::compila(patronDe(busqueda), !busqueda.coincidirMayusculas) : std::nullopt;
+        buenPatron ? Emparejador::compila(patronDirecto(busqueda), !busqueda.coincidirMayusculas)
+                   : std::nullopt;
     if (!emparejador) return std::nullopt;
     auto halladas = emparejador->ejecuta(texto, Presupuesto(Presupuesto::plazoComun, parada));
     ensancha(halladas, texto);

@@ -23,7 +23,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::size_t tramo = 1024; // positions between two looks at the budget
+constexpr std::size_t posicionesPorTramo = 1024; // positions between two looks at the budget
 
 constexpr std::uint64_t mascara(char16_t segundo) {
     return std::uint64_t{1} << (segundo % 64);
@@ -121,9 +121,9 @@ void IndicePalabras::buscaSignos() {
 void IndicePalabras::busca(std::u16string_view texto, Gasto& gasto, MapaCoincidencias& mapa) {
     for (Palabra& palabra : palabras_) palabra.libre = 0;
     if (palabras_.empty()) return;
-    for (std::size_t desde = 0; desde < texto.size(); desde += tramo) {
-        gasto.anota(tramo * maximo);
-        const std::size_t hasta = std::min(texto.size(), desde + tramo);
+    for (std::size_t desde = 0; desde < texto.size(); desde += posicionesPorTramo) {
+        gasto.anota(posicionesPorTramo * maximo);
+        const std::size_t hasta = std::min(texto.size(), desde + posicionesPorTramo);
         for (std::size_t i = desde; i < hasta; ++i) {
             const Cubo& cubo = cubos_[texto[i] % 256U];
             if ((cubo.segundos & mascara(plegadaEn(texto, i + 1))) == 0) continue;

@@ -17,22 +17,22 @@ namespace norvik::inline v0_2 {
 namespace {
 
 constexpr std::array<char16_t, 65536> despliega() {
-    std::array<char16_t, 65536> tabla{};
-    for (std::uint32_t unidad = 0; unidad < tabla.size(); ++unidad)
-        tabla[unidad] = static_cast<char16_t>(unidad);
+    std::array<char16_t, 65536> imagenes{};
+    for (std::uint32_t unidad = 0; unidad < imagenes.size(); ++unidad)
+        imagenes[unidad] = static_cast<char16_t>(unidad);
     for (const TramoDeCaja& tramo : unicode::tramosDeCaja)
         for (std::uint32_t unidad = tramo.desde; unidad <= tramo.hasta; unidad += tramo.paso)
-            tabla[unidad] = static_cast<char16_t>(tramo.imagen + (unidad - tramo.desde));
-    return tabla;
+            imagenes[unidad] = static_cast<char16_t>(tramo.imagen + (unidad - tramo.desde));
+    return imagenes;
 }
 
-constexpr std::array<char16_t, 65536> tabla = despliega();
+constexpr std::array<char16_t, 65536> imagenes = despliega();
 
 constexpr std::array<bool, 65536> acompaniadas() {
     std::array<bool, 65536> marcas{};
     for (const TramoDeCaja& tramo : unicode::tramosDeCaja)
         for (std::uint32_t unidad = tramo.desde; unidad <= tramo.hasta; unidad += tramo.paso)
-            marcas[unidad] = marcas[tabla[unidad]] = true;
+            marcas[unidad] = marcas[imagenes[unidad]] = true;
     return marcas;
 }
 
@@ -62,13 +62,13 @@ constexpr Acompaniadas reune() {
     std::array<char16_t, 65536> primera{};
     std::array<char16_t, 65536> siguiente{};
     for (std::size_t i = enOrden.size(); i-- > 0;) {
-        siguiente[enOrden[i]] = primera[tabla[enOrden[i]]];
-        primera[tabla[enOrden[i]]] = enOrden[i];
+        siguiente[enOrden[i]] = primera[imagenes[enOrden[i]]];
+        primera[imagenes[enOrden[i]]] = enOrden[i];
     }
     Acompaniadas unidades{};
     std::size_t sitio = 0;
     for (const char16_t cabeza : enOrden)
-        if (tabla[cabeza] == cabeza)
+        if (imagenes[cabeza] == cabeza)
             for (char16_t unidad = cabeza; unidad != 0; unidad = siguiente[unidad])
                 unidades[sitio++] = unidad;
     return unidades;
@@ -78,7 +78,7 @@ constexpr Acompaniadas porConjunto = reune();
 
 } // namespace
 
-constinit const std::array<char16_t, 65536> pliegues = tabla;
+constinit const std::array<char16_t, 65536> pliegues = imagenes;
 
 std::u16string_view equivalentes(char16_t unidad) {
     const std::u16string_view todos(porConjunto.data(), porConjunto.size());

@@ -151,7 +151,7 @@ bool Automata::reparteUnidades() {
             tomas.push_back(i);
     }
     if (conFronteras_)
-        for (const RangoUnidades& rango : rangosDe(Propiedad::Palabra)) corta(rango);
+        for (const RangoUnidades& rango : rangosDe(PropiedadDeUnidad::Palabra)) corta(rango);
     std::sort(inicios_.begin(), inicios_.end());
     inicios_.erase(std::unique(inicios_.begin(), inicios_.end()), inicios_.end());
     if (inicios_.size() * tomas.size() > repartoMaximo) return false;

@@ -10,7 +10,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr char16_t ultima = 0xFFFF;
+constexpr char16_t ultimaUnidad = 0xFFFF;
 
 void ordenaYFunde(std::vector<RangoUnidades>& rangos) {
     std::sort(rangos.begin(), rangos.end(),
@@ -35,7 +35,7 @@ std::vector<RangoUnidades> complemento(std::span<const RangoUnidades> rangos) {
             resultado.push_back({static_cast<char16_t>(desde), static_cast<char16_t>(rango.desde - 1)});
         desde = rango.hasta + 1U;
     }
-    if (desde <= ultima) resultado.push_back({static_cast<char16_t>(desde), ultima});
+    if (desde <= ultimaUnidad) resultado.push_back({static_cast<char16_t>(desde), ultimaUnidad});
     return resultado;
 }
 

@@ -13,11 +13,11 @@
 namespace norvik::inline v0_2 {
 
 /// The sets of units that escapes name.
-enum class Propiedad : std::uint8_t { Digito, Palabra, Espacio, Letra };
+enum class PropiedadDeUnidad : std::uint8_t { Digito, Palabra, Espacio, Letra };
 
 /// The units with a property, by Unicode: ranges in order, with gaps between them.
-std::span<const RangoUnidades> rangosDe(Propiedad propiedad);
-bool tiene(Propiedad propiedad, char16_t unidad);
+std::span<const RangoUnidades> rangosDe(PropiedadDeUnidad propiedad);
+bool tiene(PropiedadDeUnidad propiedad, char16_t unidad);
 
 /// Whether a unit belongs to a word, as boundaries understand it.
 bool esDePalabra(char16_t unidad);
@@ -25,7 +25,7 @@ bool esDePalabra(char16_t unidad);
 /// A class as it is written.
 struct ClaseLeida {
     struct Escape {
-        Propiedad propiedad;
+        PropiedadDeUnidad propiedad;
         bool negado;
     };
     std::vector<RangoUnidades> rangos;

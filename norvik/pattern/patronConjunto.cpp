@@ -15,7 +15,7 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-constexpr std::size_t estadosMaximos = 500;
+constexpr std::size_t estadosConjuntosMaximos = 500;
 constexpr std::size_t camino = 256; // characters walked together
 
 } // namespace
@@ -106,7 +106,7 @@ AutomataConjunto::Numero AutomataConjunto::inicial(std::uint64_t cuales, std::u1
     const std::pair clave(detras, cuales);
     auto sitio = iniciales_.find(clave);
     if (sitio == iniciales_.end()) {
-        if (iniciales_.size() >= estadosMaximos) return desconocido;
+        if (iniciales_.size() >= estadosConjuntosMaximos) return desconocido;
         Miembros miembros;
         paraCadaBit(cuales, [&](std::size_t lugar) {
             miembros.push_back({static_cast<std::uint8_t>(lugar), automatas_[lugar]->inicial(detras)});
@@ -133,7 +133,7 @@ AutomataConjunto::Numero AutomataConjunto::numeroDe(Miembros miembros, Gasto& ga
     if (const auto conocido = numeros_.find(miembros); conocido != numeros_.end()) return conocido->second;
     const std::size_t numero = numeros_.size();
     const std::size_t bytes = 128 + miembros.size() * sizeof(Miembro) + numClases_ * sizeof(Numero);
-    if (numero >= estadosMaximos || !gasto.cabida().toma(bytes)) {
+    if (numero >= estadosConjuntosMaximos || !gasto.cabida().toma(bytes)) {
         gasto.anotaDemora();
         return desconocido;
     }

@@ -26,7 +26,7 @@ constexpr bool esLetraAscii(char16_t c) {
 
 bool esLetra(char16_t c) {
     if (c < 0x80) return esLetraAscii(c);
-    return tiene(Propiedad::Letra, c);
+    return tiene(PropiedadDeUnidad::Letra, c);
 }
 
 constexpr int valorHexadecimal(char16_t c) {
@@ -39,17 +39,17 @@ constexpr int valorHexadecimal(char16_t c) {
 std::optional<ClaseLeida::Escape> escapeDeClase(char16_t c) {
     switch (c) {
     case u'd':
-        return ClaseLeida::Escape{Propiedad::Digito, false};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Digito, false};
     case u'D':
-        return ClaseLeida::Escape{Propiedad::Digito, true};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Digito, true};
     case u'w':
-        return ClaseLeida::Escape{Propiedad::Palabra, false};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Palabra, false};
     case u'W':
-        return ClaseLeida::Escape{Propiedad::Palabra, true};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Palabra, true};
     case u's':
-        return ClaseLeida::Escape{Propiedad::Espacio, false};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Espacio, false};
     case u'S':
-        return ClaseLeida::Escape{Propiedad::Espacio, true};
+        return ClaseLeida::Escape{PropiedadDeUnidad::Espacio, true};
     default:
         return std::nullopt;
     }

@@ -29,25 +29,25 @@ constexpr auto otrosEspacios =
 
 } // namespace
 
-std::span<const RangoUnidades> rangosDe(Propiedad propiedad) {
+std::span<const RangoUnidades> rangosDe(PropiedadDeUnidad propiedad) {
     switch (propiedad) {
-    case Propiedad::Digito:
+    case PropiedadDeUnidad::Digito:
         return unicode::cifras;
-    case Propiedad::Letra:
+    case PropiedadDeUnidad::Letra:
         return unicode::letras;
-    case Propiedad::Palabra: {
+    case PropiedadDeUnidad::Palabra: {
         static const auto rangos =
             reune({unicode::letras, unicode::cifras, unicode::otrosNumeros, deUnaPalabra});
         return rangos;
     }
-    case Propiedad::Espacio:
+    case PropiedadDeUnidad::Espacio:
         break;
     }
     static const auto espacios = reune({unicode::espacios, otrosEspacios});
     return espacios;
 }
 
-bool tiene(Propiedad propiedad, char16_t unidad) {
+bool tiene(PropiedadDeUnidad propiedad, char16_t unidad) {
     const auto rangos = rangosDe(propiedad);
     const auto siguiente =
         std::ranges::partition_point(rangos, [&](const RangoUnidades& r) { return r.hasta < unidad; });
@@ -56,7 +56,7 @@ bool tiene(Propiedad propiedad, char16_t unidad) {
 
 bool esDePalabra(char16_t unidad) {
     static const ClaseUnidades palabra = [] {
-        const auto rangos = rangosDe(Propiedad::Palabra);
+        const auto rangos = rangosDe(PropiedadDeUnidad::Palabra);
         return ClaseUnidades({rangos.begin(), rangos.end()});
     }();
     return palabra.contiene(unidad);

@@ -17,11 +17,11 @@ namespace {
 
 constexpr std::u16string_view sangria = u"    ";
 constexpr std::u16string_view nota = u"(NOTA: El símbolo 'Ø' representa la cadena vacía)";
-const std::u16string raya(48, u'-');
+const std::u16string rayaDeSeccion(48, u'-');
 const std::u16string barras(110, u'/');
 
 void escribeSeparador(EscritorLineas& salida) {
-    salida.escribe(raya);
+    salida.escribe(rayaDeSeccion);
     salida.escribe();
 }
 

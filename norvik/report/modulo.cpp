@@ -21,7 +21,7 @@ constexpr int maximoEntradas = 2000;
 constexpr std::u16string_view llamada = u"\tNorvikRefParam.";
 
 /// A literal in which every quote is joined in by its code.
-std::u16string literal(std::u16string_view texto) {
+std::u16string literalBasic(std::u16string_view texto) {
     std::u16string resultado = u"\"";
     for (const char16_t c : texto) {
         if (c == u'"')
@@ -79,7 +79,7 @@ void escribeTokens(EscritorLineas& salida, const pilaTokens& lexico) {
     if (lexico.distingueMayusculas) salida.escribe(llamada, u"LenguajeSensible = True");
     for (std::int16_t i = 1; i <= lexico.getNumTokensLenguaje(); ++i) {
         const expresionRegular& token = lexico.getTokenLenguaje(i);
-        salida.escribe(llamada, u"SetER ", literal(token.getExpReg()), u", \"", token.GetToken(),
+        salida.escribe(llamada, u"SetER ", literalBasic(token.getExpReg()), u", \"", token.GetToken(),
                        u"\", True, ", token.GetTipo(), u", \"", token.GetPseudoToken(), u"\", ", token.base,
                        u", ", token.GetColor());
     }

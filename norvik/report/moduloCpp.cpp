@@ -40,7 +40,7 @@ std::u16string escapa(char16_t c) {
     return {c};
 }
 
-std::u16string literal(std::u16string_view texto) {
+std::u16string literalCpp(std::u16string_view texto) {
     std::u16string resultado = u"u\"";
     for (const char16_t c : texto) resultado += escapa(c);
     return resultado + u"\"sv";
@@ -99,16 +99,16 @@ bool escribeConstante(EscritorLineas& salida, std::u16string_view tipo, std::u16
 bool escribeTextos(EscritorLineas& salida, std::u16string_view nombre,
                    const std::vector<std::u16string>& textos) {
     return escribeConstante(salida, u"std::u16string_view", nombre, textos, [&](const std::u16string& texto) {
-        salida.escribe(u"    ", literal(texto), u",");
+        salida.escribe(u"    ", literalCpp(texto), u",");
     });
 }
 
 bool escribeDefiniciones(EscritorLineas& salida, const pilaTokens& lexico) {
     return escribeConstante(salida, u"norvik::DatosLenguaje::Definicion", u"definiciones",
                             lexico.tokensLenguaje(), [&](const expresionRegular* d) {
-                                salida.escribe(u"    {", literal(d->getExpReg()), u", ",
-                                               literal(d->GetToken()), u", ", d->GetTipo(), u", ",
-                                               literal(d->GetPseudoToken()), u", ", d->base, u", ",
+                                salida.escribe(u"    {", literalCpp(d->getExpReg()), u", ",
+                                               literalCpp(d->GetToken()), u", ", d->GetTipo(), u", ",
+                                               literalCpp(d->GetPseudoToken()), u", ", d->base, u", ",
                                                d->GetColor(), u"},");
                             });
 }

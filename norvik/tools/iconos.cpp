@@ -15,7 +15,7 @@ namespace norvik {
 namespace {
 
 // Every picture is drawn in a square of 16 units with a fine pen.
-constexpr int lado = 16;
+constexpr int ladoDelIcono = 16;
 constexpr double trazo = 1.15;
 
 void hoja(QPainter& p) {
@@ -49,7 +49,7 @@ void vuelta(QPainter& p) {
 }
 
 void otraVuelta(QPainter& p) {
-    p.translate(lado, 0);
+    p.translate(ladoDelIcono, 0);
     p.scale(-1, 1);
     vuelta(p);
 }
@@ -134,7 +134,7 @@ public:
         pintor->save();
         pintor->setRenderHint(QPainter::Antialiasing);
         pintor->translate(sitio.topLeft());
-        pintor->scale(sitio.width() / double{lado}, sitio.height() / double{lado});
+        pintor->scale(sitio.width() / double{ladoDelIcono}, sitio.height() / double{ladoDelIcono});
         pintor->setPen(QPen(fondo, trazo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         fondo.setAlpha(30);
         pintor->setBrush(fondo);

@@ -34,7 +34,7 @@ namespace {
 constexpr int tardanza = 200; // milliseconds until a search is said to run
 constexpr int reposo = 150;   // without a change of the text until it is searched again
 
-QPlainTextEdit& editorDe(ControlNorvik& control) {
+QPlainTextEdit& editorBuscado(ControlNorvik& control) {
     return static_cast<QPlainTextEdit&>(control.caja().ventana());
 }
 
@@ -102,7 +102,7 @@ void BarraBusqueda::conecta() {
     repaso_.setSingleShot(true);
     connect(&repaso_, &QTimer::timeout, this, &BarraBusqueda::lanza);
     connect(&fondo_, &BuscadorDeFondo::acabado, this, &BarraBusqueda::recibe);
-    QPlainTextEdit& editor = editorDe(control_);
+    QPlainTextEdit& editor = editorBuscado(control_);
     connect(&editor, &QPlainTextEdit::textChanged, this, &BarraBusqueda::cambiaTexto);
     connect(&editor, &QPlainTextEdit::selectionChanged, this, [this] {
         if (!isHidden()) actualizaCuenta();
@@ -229,7 +229,7 @@ void BarraBusqueda::salta(Salto salto) {
     CajaTextoQt& caja = control_.caja();
     caja.atiende([&] { caja.selecciona(c.indice, c.longitud); });
     if (viva.isNull() || estado_ != Estado::AlDia) return;
-    editorDe(control_).ensureCursorVisible();
+    editorBuscado(control_).ensureCursorVisible();
     if (!hallada.daLaVuelta) return;
     avisa(cuenta().texto +
               (atras ? QStringLiteral(", desde el final") : QStringLiteral(", desde el principio")),
@@ -243,7 +243,7 @@ std::vector<Resalte> BarraBusqueda::halladas(std::int32_t desde, std::int32_t ha
     constexpr double parte = 0.3;
     QTextCharFormat formato;
     formato.setBackground(
-        mezcla(QColor(255, 190, 0), editorDe(control_).palette().color(QPalette::Base), parte));
+        mezcla(QColor(255, 190, 0), editorBuscado(control_).palette().color(QPalette::Base), parte));
     const auto fin = [](const Coincidencia& c) { return c.indice + c.longitud; };
     auto c = std::ranges::lower_bound(resultado_.halladas, desde, {}, fin);
     for (; c != resultado_.halladas.end() && c->indice <= hasta; ++c)

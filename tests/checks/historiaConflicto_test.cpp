@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // Every example of a conflict is proved by what shares nothing with the search: rule by rule, and by Earley.
+#include "apoyo/pasos.hpp"
 #include "norvik/checks/cuentaConflictos.hpp"
 
 #include "apoyo/earley.hpp"
@@ -170,7 +171,7 @@ TEST(Historia, CadaEjemploDeGramaticasAlAzarSePrueba) {
     int solas = 0;
     int comoSeDice = 0;
     const Metodo metodos[] = {Metodo::Slr, Metodo::Lalr, Metodo::Lr1};
-    for (int i = 0; i < 2000 && !::testing::Test::HasFailure(); ++i) {
+    for (int i = 0; i < pasos(400) && !::testing::Test::HasFailure(); ++i) {
         const std::u16string texto = apoyo::gramaticaAlAzar(azar);
         const Reglas reglas = apoyo::reglasDe(texto);
         const auto todas = historias(texto, metodos[i % 3], {1'000, 4'000});

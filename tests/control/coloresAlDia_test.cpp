@@ -16,16 +16,16 @@ using namespace norvik::apoyo;
 
 namespace {
 
-constexpr std::u16string_view mini = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
-                                     u"Token cad = \"'[^'\\r\\n]*'\", TipoToken = TTCadena;"
-                                     u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
-                                     u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
-                                     u"Token mas = \"\\+\", TipoToken = TTOperador;"
-                                     u"Token id = \"[a-z]+\";"
-                                     u"S -> S mas T | T; T -> num | id | ini id | cad;";
+constexpr std::u16string_view conCadenas = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
+                                           u"Token cad = \"'[^'\\r\\n]*'\", TipoToken = TTCadena;"
+                                           u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
+                                           u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
+                                           u"Token mas = \"\\+\", TipoToken = TTOperador;"
+                                           u"Token id = \"[a-z]+\";"
+                                           u"S -> S mas T | T; T -> num | id | ini id | cad;";
 
-struct Editor : Anfitrion {
-    explicit Editor(std::u16string_view texto = {}, std::u16string_view especificacion = mini) {
+struct EditorAlDia : Anfitrion {
+    explicit EditorAlDia(std::u16string_view texto = {}, std::u16string_view especificacion = conCadenas) {
         caja.ponOcultaSeleccion(false);
         compila(especificacion);
         norvik.ColorCadena(0x123456);
@@ -37,22 +37,23 @@ struct Editor : Anfitrion {
 };
 
 /// The colours that the whole text has when it is coloured at once, without the aid.
-std::vector<TramoDeColor> deUnaVez(std::u16string_view texto, std::u16string_view especificacion = mini) {
-    Editor e({}, especificacion);
+std::vector<TramoDeColor> deUnaVez(std::u16string_view texto,
+                                   std::u16string_view especificacion = conCadenas) {
+    EditorAlDia e({}, especificacion);
     e.norvik.ponAyudas({});
     e.norvik.Text(texto);
     e.norvik.ColoreaTodo();
     return e.caja.colores();
 }
 
-void escribe(Editor& e, std::u16string_view texto) {
+void escribe(EditorAlDia& e, std::u16string_view texto) {
     e.caja.reemplazaSeleccion(texto);
 }
 
 } // namespace
 
 TEST(ColoresAlDia, TrasCadaTecla) {
-    Editor e;
+    EditorAlDia e;
     std::u16string escrito;
     for (const char16_t c : std::u16string_view(u"begin x + 12 'a b' /* y\r\n + */ + 'z\r\nbegin")) {
         escribe(e, {&c, 1});
@@ -64,7 +65,7 @@ TEST(ColoresAlDia, TrasCadaTecla) {
 }
 
 TEST(ColoresAlDia, UnComentarioQueSeAbreOSeCierraCambiaLoQueSigue) {
-    Editor e(u"1 + x\r\n2 + 3 */ 4");
+    EditorAlDia e(u"1 + x\r\n2 + 3 */ 4");
     e.caja.selecciona(0, 0);
     escribe(e, u"/*");
     EXPECT_EQ(e.caja.colores(),
@@ -74,7 +75,7 @@ TEST(ColoresAlDia, UnComentarioQueSeAbreOSeCierraCambiaLoQueSigue) {
 }
 
 TEST(ColoresAlDia, LaMarcaDeUnErrorDuraHastaElCambio) {
-    Editor e(u"begin 12\r\nx + 1");
+    EditorAlDia e(u"begin 12\r\nx + 1");
     e.norvik.MarcaErrorLinea(1);
     const std::vector<TramoDeColor> marcada = e.caja.colores();
     EXPECT_EQ(marcada.front(), (TramoDeColor{0, 8, 0x0000FF}));
@@ -87,7 +88,7 @@ TEST(ColoresAlDia, LaMarcaDeUnErrorDuraHastaElCambio) {
 }
 
 TEST(ColoresAlDia, SeEnciendenYSeApaganConElTextoPuesto) {
-    Editor e(u"begin 12");
+    EditorAlDia e(u"begin 12");
     e.norvik.ponAyudas({});
     e.caja.selecciona(8, 0);
     escribe(e, u"3");
@@ -102,7 +103,7 @@ TEST(ColoresAlDia, SeEnciendenYSeApaganConElTextoPuesto) {
 }
 
 TEST(ColoresAlDia, LasPalabrasSeCorrigenAlDejarLaLinea) {
-    Editor e(u"BEGIN x\r\ny");
+    EditorAlDia e(u"BEGIN x\r\ny");
     e.norvik.AutoCorreccion(true);
     e.caja.selecciona(7, 0);
     escribe(e, u"z");
@@ -113,7 +114,7 @@ TEST(ColoresAlDia, LasPalabrasSeCorrigenAlDejarLaLinea) {
 }
 
 TEST(ColoresAlDia, OtroLenguaje) {
-    Editor e(u"begin 12 fin");
+    EditorAlDia e(u"begin 12 fin");
     constexpr std::u16string_view otro = u"Token fin = \"fin\", TipoToken = TTPalabraReservada;"
                                          u"Token id = \"[a-z0-9]+\"; S -> id | fin;";
     e.norvik.OlvidaLenguaje();
@@ -131,7 +132,7 @@ TEST(ColoresAlDia, TextosLargos) {
     for (const std::size_t largo : {std::size_t{40'000}, 2 * ColoresAlDia::maximoAlMomento}) {
         std::u16string texto;
         while (texto.size() < largo) texto += u"begin x + 12\r\n";
-        Editor e(texto);
+        EditorAlDia e(texto);
         e.caja.selecciona(a32(texto.size()), 0);
         EXPECT_NO_THROW(escribe(e, u"begin")); //
         EXPECT_EQ(e.caja.colores().back(), (TramoDeColor{a32(texto.size()), 5, 0x800000}));
@@ -141,7 +142,7 @@ TEST(ColoresAlDia, TextosLargos) {
 }
 
 TEST(ColoresAlDia, UnPatronQueSeDesbocaDesisteUnaVez) {
-    Editor e;
+    EditorAlDia e;
     e.norvik.OlvidaLenguaje();
     ASSERT_TRUE(e.compila(u"Token x = \"(?=(a*)*b)a\"; Token y = \"(a*)*\\1c\"; S -> x | y;"));
     e.caja.ponTexto(u"b");
@@ -168,7 +169,7 @@ TEST(ColoresAlDia, UnTextoLargoEsperaAQuienLoEnsena) {
     SistemaVigilado sistema;
     CajaTexto caja;
     Norvik norvik{caja, sistema, contenedor};
-    ASSERT_TRUE(norvik.CargaGramatica(mini) && norvik.GeneraCompilador());
+    ASSERT_TRUE(norvik.CargaGramatica(conCadenas) && norvik.GeneraCompilador());
     norvik.Colorear(true);
     norvik.ponAyudas({.coloreaAlEscribir = true});
     norvik.Text(u"begin " + std::u16string(ColoresAlDia::maximoAlMomento, u'1'));
@@ -220,7 +221,7 @@ TEST(ColoresAlDia, TrasEdicionesAlAzar) {
     std::mt19937 azar(20261126);
     const std::array<std::u16string_view, 12> trozos = {
         u"/*", u"*/", u"'", u"begin", u" 12", u" x", u"+", u"\r\n", u"*", u"/", u" ", u"begin 1 /*"};
-    Editor e;
+    EditorAlDia e;
     int comparados = 0;
     for (int paso = 0; paso < 10000; ++paso) {
         const auto largo = static_cast<std::int32_t>(e.caja.texto().size());

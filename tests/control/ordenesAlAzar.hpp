@@ -4,13 +4,13 @@
 // its control is given keys.
 #pragma once
 
+#include "apoyo/pasos.hpp"
 #include "control/editorPorPasos.hpp"
 #include "norvik/control/historial.hpp"
 #include "norvik/control/norvik.hpp"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <deque>
 #include <functional>
 #include <random>
@@ -24,12 +24,6 @@ struct Golpe {
     std::int16_t shift = 0;
     std::u16string_view escrito{}; ///< what it types, or what is pasted
 };
-
-/// How many are tried: so many more by hand, NORVIK_PASOS=1000000.
-inline int pasos(int cuantos) {
-    const char* const pedidos = std::getenv("NORVIK_PASOS");  // NOLINT(concurrency-mt-unsafe): one thread
-    return pedidos == nullptr ? cuantos : std::atoi(pedidos); // NOLINT(cert-err34-c)
-}
 
 namespace golpe {
 inline constexpr std::int16_t tabulador = 9;

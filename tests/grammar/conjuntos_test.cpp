@@ -12,7 +12,7 @@ namespace {
 
 // Worked out by hand, step by step.
 const std::vector<std::tuple<const char*, std::u16string, std::u16string, std::u16string, std::u16string>>
-    casos = {
+    casosAMano = {
         {"recursiva por la izquierda", u"E -> E + T; E -> T; T -> id", u"T{id} E{id}", u"E{$, +} T{$, +}",
          u"E{id} E{id} T{id}"},
         {"Ø se queda aunque lo que sigue no sea anulable", u"S -> A b; A -> a; A -> Ø", u"A{a, Ø} S{a, Ø, b}",
@@ -42,7 +42,7 @@ const std::vector<std::tuple<const char*, std::u16string, std::u16string, std::u
 };
 
 TEST(Conjuntos, GramaticasAMano) {
-    for (const auto& [nombre, reglas, primeros, siguientes, predict] : casos) {
+    for (const auto& [nombre, reglas, primeros, siguientes, predict] : casosAMano) {
         const auto g = gramaticaDe(reglas);
         g->creaConjuntos();
         EXPECT_EQ(aUtf8(enTexto(g->primeros())), aUtf8(primeros)) << nombre;

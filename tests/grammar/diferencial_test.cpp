@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "apoyo/pasos.hpp"
 #include "apoyoGramatica.hpp"
 #include "lecturaLiteral.hpp"
 
@@ -16,9 +17,9 @@ using namespace norvik;
 
 namespace {
 
-using Reglas = std::vector<std::pair<std::u16string, std::u16string>>;
+using Parejas = std::vector<std::pair<std::u16string, std::u16string>>;
 
-std::string enUtf8(const Reglas& reglas) {
+std::string enUtf8(const Parejas& reglas) {
     std::u16string texto;
     for (const auto& [cabeza, cuerpo] : reglas) texto += cabeza + u" -> " + cuerpo + u"\n";
     return aUtf8(texto);
@@ -30,7 +31,7 @@ public:
     std::size_t hasta(std::size_t n) { return motor_() % n; } // the same everywhere, unlike distributions
     bool unoDe(std::size_t n) { return hasta(n) == 0; }
 
-    Reglas reglas() {
+    Parejas reglas() {
         // Names that begin like others, and one that begins like a terminal.
         static const std::vector<std::u16string> nombres = {u"S", u"A", u"B", u"BB", u"AB", u"Bx", u"C"};
         const std::size_t total = 1 + hasta(nombres.size());
@@ -43,7 +44,7 @@ public:
         if (unoDe(15)) simbolos.emplace_back(u"Sinregla");
         if (std::find(simbolos.begin(), simbolos.end(), u"B1") != simbolos.end()) cabezas.emplace_back(u"B1");
         const bool vaciaSuelta = unoDe(4);
-        Reglas lista;
+        Parejas lista;
         for (const auto& cabeza : cabezas)
             for (std::size_t k = 1 + hasta(3); k > 0; --k)
                 lista.emplace_back(cabeza, cuerpo(simbolos, vaciaSuelta));
@@ -116,7 +117,7 @@ void comparaTabla(const gramatica& suya, const literal::Lectura& lectura) {
 }
 
 /// Members without order: the rounds of a fixpoint may meet them in any.
-void comparaConElPuntoFijo(const gramatica& suya, const Reglas& reglas) {
+void comparaConElPuntoFijo(const gramatica& suya, const Parejas& reglas) {
     std::map<std::u16string, std::set<std::u16string>> primeros;
     for (bool crece = true; crece;) {
         crece = false;
@@ -155,7 +156,7 @@ struct Cuenta {
     int completas = 0, sinFin = 0, sinColumna = 0, indefinidas = 0;
 };
 
-void compara(const Reglas& reglas, Cuenta& cuenta) {
+void compara(const Parejas& reglas, Cuenta& cuenta) {
     gramatica suya;
     for (const auto& [cabeza, cuerpo] : reglas) suya.SetRegla(cabeza, cuerpo);
     literal::Lectura lectura(reglas);
@@ -195,8 +196,8 @@ void compara(const Reglas& reglas, Cuenta& cuenta) {
 TEST(Diferencial, GramaticasAlAzar) {
     Azar azar(20);
     Cuenta cuenta;
-    for (int i = 0; i < 4000; ++i) {
-        const Reglas reglas = azar.reglas();
+    for (int i = 0; i < pasos(1000); ++i) {
+        const Parejas reglas = azar.reglas();
         compara(reglas, cuenta);
         ASSERT_FALSE(HasFatalFailure()) << "grammar " << i << ":\n" << enUtf8(reglas);
     }
@@ -209,7 +210,7 @@ TEST(Diferencial, GramaticasAlAzar) {
 
 TEST(Diferencial, EstaEnReglaSobreElTexto) {
     Azar azar(3);
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < pasos(1000); ++i)
         for (const auto& [cabeza, cuerpo] : azar.reglas())
             for (const std::u16string simbolo : {u"B", u"A", u"BB", u"a", u"S"})
                 ASSERT_EQ(gramatica::estaEnRegla(cuerpo, simbolo),

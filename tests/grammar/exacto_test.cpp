@@ -4,6 +4,7 @@
 // canonical LR(1) automaton of the textbook.
 #include "apoyo/anfitrion.hpp"
 #include "apoyo/earley.hpp"
+#include "apoyo/pasos.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/conjuntos.hpp"
 #include "norvik/grammar/gramatica.hpp"
@@ -349,7 +350,7 @@ TEST(MetodosExactos, SinConflictosAceptanLoQueLaGramaticaTieneYNadaMas) {
     std::mt19937 azar(14);
     const std::vector<Frase> todas = frases({u"a", u"b", u"c"}, 4);
     int sinConflictos = 0;
-    for (int i = 0; i < 1500; ++i) sinConflictos += comparaConElLibro(gramaticaAlAzar(azar, 3), todas);
+    for (int i = 0; i < pasos(500); ++i) sinConflictos += comparaConElLibro(gramaticaAlAzar(azar, 3), todas);
     EXPECT_GT(sinConflictos, 500);
 }
 
@@ -403,7 +404,7 @@ std::multiset<Reducciones> reduccionesDe(const gramatica& g) {
 TEST(MetodosExactos, LalrEsElCanonicoFundido) {
     std::mt19937 azar(7);
     int probadas = 0;
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < pasos(500); ++i) {
         const std::u16string texto = gramaticaAlAzar(azar, 5);
         gramatica g;
         pon(g, texto, Metodo::Lalr);
@@ -445,7 +446,7 @@ std::string cambiadas(const gramatica& g) {
 TEST(MetodosExactos, NingunaUnionDeLr1CambiaUnaAccion) {
     std::mt19937 azar(26);
     int enConflicto = 0;
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < pasos(500); ++i) {
         const std::u16string texto = gramaticaAlAzar(azar, 5);
         gramatica g;
         pon(g, texto, Metodo::Lr1);

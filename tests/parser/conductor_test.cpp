@@ -15,7 +15,7 @@ using namespace norvik;
 namespace {
 
 // Lower-case letters, one token each; numbers, strings, and words of capitals.
-struct Lenguaje {
+struct LenguajePequenio {
     std::unique_ptr<gramatica> reglas;
     pilaTokens lexico;
     TextoInvisible editor;
@@ -23,7 +23,7 @@ struct Lenguaje {
     ConductorSLR conductor;
     std::vector<Mensaje> mensajes;
 
-    explicit Lenguaje(std::unique_ptr<gramatica> g)
+    explicit LenguajePequenio(std::unique_ptr<gramatica> g)
         : reglas(std::move(g)), conductor(lector, lexico, *reglas) {
         conductor.alFallar = [this](const Mensaje& mensaje) { mensajes.push_back(mensaje); };
         for (char16_t c = u'a'; c <= u'h'; ++c) token({&c, 1}, {&c, 1}, u"", Norvik_ExpReg);
@@ -62,7 +62,7 @@ TEST(Conductor, UnTextoAceptadoDaSuArbol) {
         {u"S -> A $; A -> a", u"a", u"S -> A $ [1]\n  'a' (1, 1)\n  '2' (0, 0)\n"},
     };
     for (const auto& [reglas, texto, arbol] : casos) {
-        Lenguaje lenguaje(generada(reglas));
+        LenguajePequenio lenguaje(generada(reglas));
         if (arbol.empty()) {
             EXPECT_THROW(lenguaje.analiza(texto), IndiceNoValido) << aUtf8(reglas);
             EXPECT_EQ(lenguaje.arbol(), u"'' (0, 0)\n");
@@ -86,7 +86,7 @@ TEST(Conductor, ElPrimerErrorAcabaElAnalisis) {
         {u"a b 1 1", u"Error: Se ha encontrado número (Línea 1, Columna 7). Se esperaba .", errorSintactico},
         {u"a h", u"Error: Se ha encontrado 'h' (Línea 1, Columna 3). Se esperaba 'b'.", errorSintactico},
     };
-    Lenguaje lenguaje(generada(u"S -> a b T; T -> num"));
+    LenguajePequenio lenguaje(generada(u"S -> a b T; T -> num"));
     for (const auto& [texto, mensaje, codigo] : casos) {
         lenguaje.mensajes.clear();
         for (const bool invisible : {false, true}) {
@@ -110,7 +110,7 @@ TEST(Conductor, ElPrimerErrorAcabaElAnalisis) {
 }
 
 TEST(Conductor, LosNombresDeDefinicionQueUsaElLectorValenComoTales) {
-    Lenguaje lenguaje(generada(u"S -> a"));
+    LenguajePequenio lenguaje(generada(u"S -> a"));
     lenguaje.token(u"!", tokenFin, u"", Norvik_ExpReg);
     lenguaje.token(u"\\?", tokenError, u"", Norvik_ExpReg);
     EXPECT_TRUE(lenguaje.analiza(u"a!"));
@@ -119,7 +119,7 @@ TEST(Conductor, LosNombresDeDefinicionQueUsaElLectorValenComoTales) {
 }
 
 TEST(Conductor, UnLenguajeCambiadoNoSeConfundeConElAnterior) {
-    Lenguaje lenguaje(generada(u"S -> A; A -> B; B -> a"));
+    LenguajePequenio lenguaje(generada(u"S -> A; A -> B; B -> a"));
     ASSERT_TRUE(lenguaje.analiza(u"a"));
     lenguaje.reglas->inicializaGramatica();
     lenguaje.reglas->SetRegla(u"S", u"B");
@@ -135,14 +135,14 @@ TEST(Conductor, UnLenguajeCambiadoNoSeConfundeConElAnterior) {
 }
 
 TEST(Conductor, UnAnalisisDesdeElAvisoDeErrorEsPosible) {
-    Lenguaje lenguaje(generada(u"S -> a"));
+    LenguajePequenio lenguaje(generada(u"S -> a"));
     lenguaje.conductor.alFallar = [&](const Mensaje&) { EXPECT_TRUE(lenguaje.analiza(u"a")); };
     EXPECT_FALSE(lenguaje.analiza(u"b"));
     EXPECT_EQ(lenguaje.arbol(), u"S -> a [1]\n  'a' (1, 1)\n");
 }
 
 TEST(Conductor, AguantaLaMayorProfundidad) {
-    Lenguaje lenguaje(generada(u"S -> a S b | c"));
+    LenguajePequenio lenguaje(generada(u"S -> a S b | c"));
     const std::size_t n = 16382;
     EXPECT_TRUE(lenguaje.analiza(std::u16string(n, u'a') + u"c" + std::u16string(n, u'b')));
     Arbol* nodo = &lenguaje.conductor.GetArbolSintactico();
@@ -175,19 +175,19 @@ TEST(Conductor, UnaTablaDaniadaAcabaEnUnFallo) {
         {{1, 1, 2}, {3, 2, 999}}, // shift to a state, then to none
     };
     for (const auto& celdas : ajenas) {
-        Lenguaje lenguaje(tablaAMano(3, celdas));
+        LenguajePequenio lenguaje(tablaAMano(3, celdas));
         EXPECT_THROW(lenguaje.analiza(u"a"), SubindiceFueraDeIntervalo) << celdas.front().valor;
         EXPECT_EQ(lenguaje.lector.ultimoToken(), celdas.front().valor > 0 ? u"EOF" : u"a");
         EXPECT_EQ(lenguaje.arbol(), u"'' (0, 0)\n");
     }
-    Lenguaje minimo(tablaAMano(3, {{1, 1, -32768}}));
+    LenguajePequenio minimo(tablaAMano(3, {{1, 1, -32768}}));
     EXPECT_THROW(minimo.analiza(u"a"), Desbordamiento);
-    Lenguaje vacio(tablaAMano(3, {{1, 2, 1000}}));
+    LenguajePequenio vacio(tablaAMano(3, {{1, 2, 1000}}));
     EXPECT_THROW(vacio.analiza(u""), IndiceNoValido); // accepted without a single step
-    Lenguaje pronto(tablaAMano(3, {{1, 1, 1}}));
+    LenguajePequenio pronto(tablaAMano(3, {{1, 1, 1}}));
     EXPECT_TRUE(pronto.analiza(u"a"));
     EXPECT_EQ(pronto.arbol(), u"'a' (1, 1)\n");
-    Lenguaje sinTabla(gramaticaDe(u"S -> a"));
+    LenguajePequenio sinTabla(gramaticaDe(u"S -> a"));
     EXPECT_FALSE(sinTabla.analiza(u"a"));
     sinTabla.reglas->SetDimensionTablaSLR(3, 0);
     EXPECT_FALSE(sinTabla.analiza(u"a"));
@@ -196,19 +196,19 @@ TEST(Conductor, UnaTablaDaniadaAcabaEnUnFallo) {
 }
 
 TEST(Conductor, UnaTablaQueNoDejaDeReducirAcabaEnUnFallo) {
-    Lenguaje lenguaje(tablaAMano(4, {{1, 1, -2}, {1, 4, 3}, {4, 1, -2}, {4, 4, 3}}));
+    LenguajePequenio lenguaje(tablaAMano(4, {{1, 1, -2}, {1, 4, 3}, {4, 1, -2}, {4, 4, 3}}));
     EXPECT_THROW(lenguaje.analiza(u"a"), Desbordamiento);
     lenguaje.reglas->SetElementoTablaSLR(1, 1, 2);
     lenguaje.reglas->SetElementoTablaSLR(3, 2, -1);
     EXPECT_TRUE(lenguaje.analiza(u"a"));
     // The end of the text, shifted again and again, must not take the time and memory of so many tokens.
-    Lenguaje alFinal(tablaAMano(3, {{1, 2, 2}, {3, 2, 2}}));
+    LenguajePequenio alFinal(tablaAMano(3, {{1, 2, 2}, {3, 2, 2}}));
     EXPECT_THROW(alFinal.analiza(u""), Desbordamiento);
     EXPECT_LT(alFinal.conductor.traza().numElementosTraza(), 100'000U);
 }
 
 TEST(Conductor, ElArbolSobreviveALaGramaticaYAlTexto) {
-    Lenguaje lenguaje(generada(u"S -> palabra"));
+    LenguajePequenio lenguaje(generada(u"S -> palabra"));
     ASSERT_TRUE(lenguaje.analiza(u"UNA"));
     lenguaje.reglas->inicializaGramatica();
     lenguaje.lexico.Inicializa();

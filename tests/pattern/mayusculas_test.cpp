@@ -71,11 +71,11 @@ TEST(Unicode, DiceQueEsPalabraCifraYEspacio) {
                           {char16_t{0xD800}, false, false, false, false},
                           {u'-', false, false, false, false}};
     for (const auto& [unidad, letra, cifra, palabra, espacio] : filas) {
-        EXPECT_EQ(tiene(Propiedad::Letra, unidad), letra) << unsigned{unidad};
-        EXPECT_EQ(tiene(Propiedad::Digito, unidad), cifra) << unsigned{unidad};
-        EXPECT_EQ(tiene(Propiedad::Palabra, unidad), palabra) << unsigned{unidad};
+        EXPECT_EQ(tiene(PropiedadDeUnidad::Letra, unidad), letra) << unsigned{unidad};
+        EXPECT_EQ(tiene(PropiedadDeUnidad::Digito, unidad), cifra) << unsigned{unidad};
+        EXPECT_EQ(tiene(PropiedadDeUnidad::Palabra, unidad), palabra) << unsigned{unidad};
         EXPECT_EQ(esDePalabra(unidad), palabra) << unsigned{unidad};
-        EXPECT_EQ(tiene(Propiedad::Espacio, unidad), espacio) << unsigned{unidad};
+        EXPECT_EQ(tiene(PropiedadDeUnidad::Espacio, unidad), espacio) << unsigned{unidad};
     }
 }
 

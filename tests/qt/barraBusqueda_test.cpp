@@ -28,7 +28,7 @@ using namespace norvik;
 
 namespace {
 
-void borra(QObject* objeto) {
+void borraYa(QObject* objeto) {
     const std::unique_ptr<QObject> suyo(objeto);
 }
 
@@ -268,7 +268,7 @@ TEST_F(Busca, ElControlSeBorraAlHallar) {
             QTest::keyClicks(&campo(), "a");
             EXPECT_EQ(cuenta("1 de 3"), "1 de 3");
         }
-        QObject::connect(norvik, &ControlNorvik::SelChange, norvik, [this] { borra(norvik); });
+        QObject::connect(norvik, &ControlNorvik::SelChange, norvik, [this] { borraYa(norvik); });
         QTest::keyClick(&campo(), tecla);
         if (tecla == Qt::Key_Escape) continue;
         EXPECT_TRUE(QTest::qWaitFor([&] { return norvik.isNull(); })) << tecla;
@@ -325,7 +325,7 @@ TEST_F(Busca, IrALinea) {
         EXPECT_EQ(static_cast<QInputDialog&>(ventana).intValue(), 3);
         static_cast<QInputDialog&>(ventana).reject();
     });
-    sistema.usos.emplace_back([&](QWidget&) { borra(norvik); });
+    sistema.usos.emplace_back([&](QWidget&) { borraYa(norvik); });
     norvik->accion(AccionNorvik::IrALinea)->trigger();
     EXPECT_EQ(norvik->SelStart(), 6);
     norvik->accion(AccionNorvik::IrALinea)->trigger();

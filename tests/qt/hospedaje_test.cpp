@@ -29,7 +29,7 @@ using namespace norvik;
 
 namespace {
 
-const QString sumas =
+const QString gramaticaDeSumas =
     QStringLiteral(R"(Token mas = "\+"; Token num = "[0-9]+", TipoToken = TTNumero; E -> E mas num | num;)");
 
 class Hospedaje : public testing::Test {
@@ -292,7 +292,7 @@ TEST_F(Hospedaje, LasPalabrasDeUnDiagnosticoSeLeen) {
 TEST_F(Hospedaje, CargaUnLenguajeYDiceQueEstaMal) {
     editor.Colorear(true);
     editor.Text("1+2");
-    const auto sinErrores = editor.cargaLenguaje(sumas);
+    const auto sinErrores = editor.cargaLenguaje(gramaticaDeSumas);
     EXPECT_TRUE(sinErrores);
     EXPECT_TRUE(editor.control().ConstruyeArbolSintactico());
     EXPECT_EQ(editor.caja().colorDe(0), editor.ColorNumeros());
@@ -304,7 +304,7 @@ TEST_F(Hospedaje, CargaUnLenguajeYDiceQueEstaMal) {
         EXPECT_TRUE(editor.control().ConstruyeArbolSintactico()) << mala.toStdString();
     }
     EXPECT_TRUE(sistema.mensajes.empty());
-    EXPECT_FALSE(editor.cargaLenguaje(QString(40000, u' ') + sumas));
+    EXPECT_FALSE(editor.cargaLenguaje(QString(40000, u' ') + gramaticaDeSumas));
     QCoreApplication::processEvents();
     EXPECT_EQ(sistema.dameMensajes().size(), 1U);
     EXPECT_TRUE(editor.control().ConstruyeArbolSintactico());
@@ -317,7 +317,7 @@ TEST_F(Hospedaje, CargaUnLenguajeYDiceQueEstaMal) {
 
 TEST_F(Hospedaje, CargaUnLenguajeDeUnFichero) {
     const apoyo::CarpetaTemporal carpeta;
-    const auto fichero = carpeta.pon("sumas.nvk", sumas.toStdString());
+    const auto fichero = carpeta.pon("gramaticaDeSumas.nvk", sumas.toStdString());
     editor.Text("1+2");
     EXPECT_TRUE(editor.cargaLenguajeDe(deRuta(fichero)));
     EXPECT_TRUE(editor.control().ConstruyeArbolSintactico());

@@ -16,9 +16,9 @@ namespace norvik::taller {
 
 namespace {
 
-constexpr double aire = 7;        // around the words of a box
-constexpr double entreMarcos = 3; // of a state with a conflict
-constexpr double ancho = 8;       // of an arrow's head
+constexpr double aire = 7;         // around the words of a box
+constexpr double entreMarcos = 3;  // of a state with a conflict
+constexpr double anchoDePunta = 8; // of an arrow's head
 
 QFont deTitulo(QFont letra) {
     letra.setBold(true);
@@ -38,7 +38,7 @@ QPolygonF cabezaDe(const GrafoColocado::Flecha& flecha) {
     const QPointF eje = flecha.punta - flecha.llegada;
     const double largo = std::hypot(eje.x(), eje.y());
     if (largo == 0) return {};
-    const QPointF lado = QPointF(-eje.y(), eje.x()) / largo * (ancho / 2);
+    const QPointF lado = QPointF(-eje.y(), eje.x()) / largo * (anchoDePunta / 2);
     return QPolygonF({flecha.llegada + lado, flecha.punta, flecha.llegada - lado});
 }
 

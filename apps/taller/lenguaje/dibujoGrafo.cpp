@@ -19,7 +19,7 @@ namespace {
 constexpr double porPulgada = 72;
 constexpr std::chrono::seconds maximo{10};
 
-QString entreComillas(QString texto) {
+QString entreComillasDot(QString texto) {
     return u'"' + texto.replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\"")) + u'"';
 }
 
@@ -39,7 +39,7 @@ QByteArray enDot(const Grafo& grafo) {
                    .arg(flecha.desde)
                    .arg(flecha.hasta)
                    .arg(i)
-                   .arg(entreComillas(flecha.rotulo));
+                   .arg(entreComillasDot(flecha.rotulo));
     }
     return (dot + QStringLiteral("}\n")).toUtf8();
 }

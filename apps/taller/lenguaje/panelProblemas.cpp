@@ -21,7 +21,7 @@ namespace norvik::taller {
 
 namespace {
 
-enum Columna { Problema, Lugar, numeroDeColumnas };
+enum ColumnaDeProblemas { Problema, LugarDeProblemas, columnasDeProblemas };
 
 constexpr std::array gravedades = {Gravedad::Error, Gravedad::Aviso, Gravedad::Nota};
 constexpr std::size_t maximoDeFilas = 500; ///< of a side: nobody reads more
@@ -79,13 +79,13 @@ void PanelProblemas::compone() {
         barra_.addWidget(&boton);
     }
     barra_.addStretch(1);
-    lista_.setColumnCount(numeroDeColumnas);
+    lista_.setColumnCount(columnasDeProblemas);
     lista_.setHeaderLabels({QStringLiteral("Problema"), QStringLiteral("Lugar")});
     lista_.setAccessibleName(QStringLiteral("Problemas de la especificación y del texto"));
     lista_.setUniformRowHeights(true);
     lista_.header()->setStretchLastSection(false);
     lista_.header()->setSectionResizeMode(Problema, QHeaderView::Stretch);
-    lista_.header()->setSectionResizeMode(Lugar, QHeaderView::ResizeToContents);
+    lista_.header()->setSectionResizeMode(LugarDeProblemas, QHeaderView::ResizeToContents);
     detalle_.setReadOnly(true);
     detalle_.setTabChangesFocus(true);
     detalle_.setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -163,7 +163,7 @@ QTreeWidgetItem& PanelProblemas::anadeFila(QTreeWidgetItem& padre, const Fila& f
     auto& elemento = nuevo<QTreeWidgetItem>(&padre);
     elemento.setText(Problema, texto);
     elemento.setToolTip(Problema, ayudaLlana(texto));
-    elemento.setText(Lugar, lugar(fila.lugar));
+    elemento.setText(LugarDeProblemas, lugar(fila.lugar));
     elemento.setData(Problema, Qt::UserRole, QVariant::fromValue(static_cast<int>(filas_.size())));
     filas_.push_back(fila);
     return elemento;

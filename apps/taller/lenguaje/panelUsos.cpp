@@ -16,7 +16,7 @@ namespace norvik::taller {
 
 namespace {
 
-enum Columna { Linea, Lugar, numeroDeColumnas };
+enum ColumnaDeUsos { Linea, LugarDeUsos, columnasDeUsos };
 
 /// What stands around a place in its line: of a line as long as its text nobody reads more.
 QString alrededorDe(std::u16string_view texto, std::size_t sitio) {
@@ -35,14 +35,14 @@ QString alrededorDe(std::u16string_view texto, std::size_t sitio) {
 PanelUsos::PanelUsos(QWidget* padre) : Panel(QStringLiteral("usos"), QStringLiteral("Usos"), padre) {
     cuenta_.setTextFormat(Qt::PlainText);
     cuenta_.setText(QStringLiteral("Mayús+F12 en un nombre de la especificación busca sus usos."));
-    lista_.setColumnCount(numeroDeColumnas);
+    lista_.setColumnCount(columnasDeUsos);
     lista_.setHeaderLabels({QStringLiteral("Línea"), QStringLiteral("Lugar")});
     lista_.setAccessibleName(QStringLiteral("Lugares en que está el nombre"));
     lista_.setRootIsDecorated(false);
     lista_.setUniformRowHeights(true);
     lista_.header()->setStretchLastSection(false);
     lista_.header()->setSectionResizeMode(Linea, QHeaderView::Stretch);
-    lista_.header()->setSectionResizeMode(Lugar, QHeaderView::ResizeToContents);
+    lista_.header()->setSectionResizeMode(LugarDeUsos, QHeaderView::ResizeToContents);
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addWidget(&cuenta_);
     columna_.addWidget(&lista_, 1);
@@ -103,7 +103,7 @@ void PanelUsos::llena() {
 void PanelUsos::anade(const QString& linea, const Rango& lugar) {
     auto& fila = nuevo<QTreeWidgetItem>(&lista_);
     fila.setText(Linea, linea.simplified());
-    fila.setText(Lugar, QStringLiteral("%1:%2").arg(lugar.inicio.linea).arg(lugar.inicio.columna));
+    fila.setText(LugarDeUsos, QStringLiteral("%1:%2").arg(lugar.inicio.linea).arg(lugar.inicio.columna));
     lugares_.push_back(lugar);
 }
 

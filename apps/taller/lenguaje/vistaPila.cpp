@@ -19,7 +19,7 @@ namespace norvik::taller {
 
 namespace {
 
-enum Columna : int { Simbolo, Estado, Numero, Texto };
+enum ColumnaDePila : int { Simbolo, Estado, Numero, Texto };
 
 constexpr std::size_t maximoTexto = 80;
 
@@ -90,12 +90,13 @@ void VistaPila::muestra(const Pelicula& pelicula, std::size_t momento) {
     QList<QTreeWidgetItem*> filas;
     for (std::size_t i = pila.size() - altas; i < pila.size(); ++i) {
         QTreeWidgetItem& fila = hazFila(pila[i].nodo);
-        fila.setText(Columna::Estado, QString::number(pila[i].estado));
+        fila.setText(ColumnaDePila::Estado, QString::number(pila[i].estado));
         if (i + asa >= pila.size()) {
             QFont letra = font();
             letra.setBold(true);
-            fila.setFont(Columna::Simbolo, letra);
-            fila.setToolTip(Columna::Simbolo, QStringLiteral("La reducción siguiente lo quita de la pila"));
+            fila.setFont(ColumnaDePila::Simbolo, letra);
+            fila.setToolTip(ColumnaDePila::Simbolo,
+                            QStringLiteral("La reducción siguiente lo quita de la pila"));
         }
         addTopLevelItem(&fila);
         filas.prepend(&fila);
@@ -106,15 +107,15 @@ void VistaPila::muestra(const Pelicula& pelicula, std::size_t momento) {
 
 QTreeWidgetItem& VistaPila::hazFila(Pelicula::Nodo nodo) const {
     auto& fila = nuevo<QTreeWidgetItem>();
-    fila.setData(Columna::Simbolo, Qt::UserRole, nodo);
+    fila.setData(ColumnaDePila::Simbolo, Qt::UserRole, nodo);
     if (nodo == 0) {
-        fila.setText(Columna::Simbolo, QStringLiteral("(fondo)"));
+        fila.setText(ColumnaDePila::Simbolo, QStringLiteral("(fondo)"));
         return fila;
     }
-    fila.setText(Columna::Simbolo, aQString(pelicula_->simbolo(nodo)));
+    fila.setText(ColumnaDePila::Simbolo, aQString(pelicula_->simbolo(nodo)));
     if (const std::int16_t regla = pelicula_->regla(nodo); regla != 0)
-        fila.setText(Columna::Numero, QString::number(regla));
-    fila.setText(Columna::Texto, enUnaLinea(pelicula_->texto(nodo), maximoTexto));
+        fila.setText(ColumnaDePila::Numero, QString::number(regla));
+    fila.setText(ColumnaDePila::Texto, enUnaLinea(pelicula_->texto(nodo), maximoTexto));
     if (!pelicula_->hijos(nodo).empty()) fila.setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
     return fila;
 }
@@ -139,7 +140,7 @@ void VistaPila::abre(QList<QTreeWidgetItem*> filas) {
 }
 
 Pelicula::Nodo VistaPila::nodoDe(const QTreeWidgetItem& fila) {
-    return fila.data(Columna::Simbolo, Qt::UserRole).toUInt();
+    return fila.data(ColumnaDePila::Simbolo, Qt::UserRole).toUInt();
 }
 
 void VistaPila::alAbrir(QTreeWidgetItem* fila) {
