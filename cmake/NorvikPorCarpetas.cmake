@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # With -DCMAKE_UNITY_BUILD=ON, as the scripts build, the files of a folder are compiled as one: the headers of others, two
 # thirds of a file's time, are read once a folder. What a file keeps to itself must then have a name of its own in its
-# folder. Packages are built file by file, where each must include what it uses.
+# folder.
 function(norvik_por_carpetas target)
   get_target_property(fuentes ${target} SOURCES)
   foreach(fuente IN LISTS fuentes)
