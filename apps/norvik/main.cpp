@@ -19,7 +19,7 @@ constexpr int fallo = 2;
 
 // A failure is one line, whatever names and texts it quotes.
 int cuentaFallo(Salida& salida, std::u16string_view texto) {
-    salida.avisa(u"norvik: " + visible(texto));
+    salida.avisa(u"norvik: " + norvik::visible(texto));
     return fallo;
 }
 

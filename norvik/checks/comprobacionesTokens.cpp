@@ -122,8 +122,8 @@ void situaDefecto(const DefinicionEscrita& d, const DefinicionesTokens& anterior
 }
 
 // A token whose pattern can take nothing, or that never wins.
-void compruebaPatron(std::size_t numero, const std::vector<const DefinicionEscrita*>& deToken, Concurso& concurso,
-                     std::vector<Diagnostico>& hallazgos) {
+void compruebaPatron(std::size_t numero, const std::vector<const DefinicionEscrita*>& deToken,
+                     Concurso& concurso, std::vector<Diagnostico>& hallazgos) {
     const DefinicionEscrita& d = *deToken[numero];
     if (concurso.puedeNoTomarNada(numero))
         hallazgos.push_back(aviso(Codigo::PatronVacio, d.lugarTexto, {d.nombre, {}, {}, {}}));

@@ -204,7 +204,7 @@ TEST(ColoresAlDia, NingunaMarcaEsperaALosColores) {
 
 /// One reading tells the colours of a text and its literals.
 TEST(ColoresAlDia, LosLiteralesSonLosDelTextoDeAhora) {
-    Editor e(u"x 'a' /* b */");
+    EditorAlDia e(u"x 'a' /* b */");
     const auto literales = [&] { return *e.norvik.literales(); };
     EXPECT_EQ(literales(), (std::vector<Literal>{{2, 5}, {6, 13}}));
     e.caja.selecciona(0, 1);

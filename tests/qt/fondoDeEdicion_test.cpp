@@ -18,11 +18,11 @@ using namespace norvik;
 
 namespace {
 
-constexpr std::u16string_view mini = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
-                                     u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
-                                     u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
-                                     u"Token fin = \"end\"; Token id = \"[a-z]+\";"
-                                     u"S -> S T | T; T -> num | id | ini S fin;";
+constexpr std::u16string_view conBloques = u"Token com = \"/\\*([^*])*\\*/\", TipoToken = TTComentarioBloque;"
+                                           u"Token num = \"[0-9]+\", TipoToken = TTNumero;"
+                                           u"Token ini = \"begin\", TipoToken = TTPalabraReservada;"
+                                           u"Token fin = \"end\"; Token id = \"[a-z]+\";"
+                                           u"S -> S T | T; T -> num | id | ini S fin;";
 
 std::u16string largo() {
     std::u16string texto;
@@ -32,7 +32,7 @@ std::u16string largo() {
 
 struct Ventana {
     Ventana() {
-        norvik->control().CargaGramatica(mini);
+        norvik->control().CargaGramatica(conBloques);
         norvik->control().GeneraCompilador();
         norvik->Colorear(true);
         norvik->coloreaAlEscribir(true);

@@ -22,15 +22,15 @@ using namespace norvik::taller;
 
 namespace {
 
-constexpr std::u16string_view suma = u"'% metodo: lalr\r\n"
-                                     u"Token num = \"[0-9]+\";\r\n"
-                                     u"Token mas = \"\\+\";\r\n"
-                                     u"E -> E mas T | T;\r\n"
-                                     u"T -> num;\r\n";
-constexpr std::u16string_view ambigua = u"'% metodo: lalr\r\n"
-                                        u"Token num = \"[0-9]+\";\r\n"
-                                        u"Token mas = \"\\+\";\r\n"
-                                        u"E -> E mas E | num;\r\n";
+constexpr std::u16string_view gramaticaSuma = u"'% metodo: lalr\r\n"
+                                              u"Token num = \"[0-9]+\";\r\n"
+                                              u"Token mas = \"\\+\";\r\n"
+                                              u"E -> E mas T | T;\r\n"
+                                              u"T -> num;\r\n";
+constexpr std::u16string_view gramaticaAmbigua = u"'% metodo: lalr\r\n"
+                                                 u"Token num = \"[0-9]+\";\r\n"
+                                                 u"Token mas = \"\\+\";\r\n"
+                                                 u"E -> E mas E | num;\r\n";
 
 struct PanelesLenguaje : testing::Test {
     PanelesLenguaje() {
@@ -121,7 +121,7 @@ struct PanelesLenguaje : testing::Test {
 } // namespace
 
 TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
-    empieza(suma, u"1+2");
+    empieza(gramaticaSuma, u"1+2");
     traeAutomata();
     const struct {
         const char* nombre;
@@ -162,7 +162,7 @@ TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
 }
 
 TEST_F(PanelesLenguaje, ElCursorYLosEnlacesEligenEnTodos) {
-    empieza(suma, u"1+2");
+    empieza(gramaticaSuma, u"1+2");
     traeAutomata();
     cursor(especificacion, u"E mas");
     EXPECT_EQ(enTabla(), "5 mas/2");
@@ -185,7 +185,7 @@ TEST_F(PanelesLenguaje, ElCursorYLosEnlacesEligenEnTodos) {
 }
 
 TEST_F(PanelesLenguaje, SeBuscaEnElArbol) {
-    empieza(suma, u"1+2");
+    empieza(gramaticaSuma, u"1+2");
     QLineEdit& busca = ventana.arbol().busca();
     ventana.arbol().vista().setFocus();
     QTest::keyClick(&ventana.arbol().vista(), Qt::Key_F, Qt::ControlModifier);
@@ -217,7 +217,7 @@ TEST_F(PanelesLenguaje, SeBuscaEnElArbol) {
     }
     std::u16string larga = u"7";
     for (int i = 0; i < 5'000; ++i) larga += u"+1";
-    empieza(suma, larga);
+    empieza(gramaticaSuma, larga);
     busca.setText(QStringLiteral("7"));
     QTest::keyClick(&busca, Qt::Key_Return);
     EXPECT_EQ(texto.norvik().SelText(), "7"); // too deep for the outline, and found all the same
@@ -226,7 +226,7 @@ TEST_F(PanelesLenguaje, SeBuscaEnElArbol) {
 }
 
 TEST_F(PanelesLenguaje, LoPlegadoYLoAmpliadoDuranMasDeUnaTecla) {
-    empieza(suma, u"1+2+3");
+    empieza(gramaticaSuma, u"1+2+3");
     QTreeView& vista = ventana.arbol().vista();
     const auto fila = [&] { return vista.model()->index(0, 0, vista.model()->index(0, 0)); }; // E of «1+2»
     vista.setFocus();
@@ -261,10 +261,11 @@ TEST_F(PanelesLenguaje, LoPlegadoYLoAmpliadoDuranMasDeUnaTecla) {
 }
 
 TEST_F(PanelesLenguaje, UnDibujoQueNoSePuedeGuardarLoDice) {
-    empieza(ambigua, u"1+2");
+    empieza(gramaticaAmbigua, u"1+2");
     traeAutomata();
     trae(ventana.conflicto());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
     int paneles = 0;
     for (Panel* const panel : ventana.findChildren<Panel*>()) {
         trae(*panel);
@@ -301,7 +302,7 @@ TEST_F(PanelesLenguaje, UnCaracterDeControlNoRompeElSvg) {
 }
 
 TEST_F(PanelesLenguaje, LasCurasNoSeRepitenYSonDelTextoDeAhora) {
-    empieza(ambigua, u"1");
+    empieza(gramaticaAmbigua, u"1");
     QTreeWidget& lista = ventana.problemas().lista();
     const auto curas = [&] {
         return lista.findItems("Arreglar: «mas» asocia por la izquierda",
@@ -327,8 +328,9 @@ TEST_F(PanelesLenguaje, UnConflictoCalladoTieneEstadoYCelda) {
     empieza(u"Token si = \"si\";\r\nToken no = \"no\";\r\nToken a = \"a\";\r\nS -> si S | si S no S | a;\r\n",
             u"a");
     trae(ventana.conflicto());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }))
-        << ventana.conflicto().palabras().toStdString();
+    ASSERT_TRUE(QTest::qWaitFor([this] {
+        return ventana.conflicto().palabras().contains("ambigua");
+    })) << ventana.conflicto().palabras().toStdString();
     EXPECT_TRUE(ventana.conflicto().palabras().contains("con sus elementos:"))
         << ventana.conflicto().palabras().toStdString();
     ventana.tabla().siguiente().click();
@@ -339,9 +341,10 @@ TEST_F(PanelesLenguaje, UnConflictoCalladoTieneEstadoYCelda) {
 }
 
 TEST_F(PanelesLenguaje, LaLetraDelProyectorLlegaATodo) {
-    empieza(ambigua, u"1+2");
+    empieza(gramaticaAmbigua, u"1+2");
     trae(ventana.conflicto());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
     ventana.arbol().maneras().setCurrentIndex(1);
     const auto mide = [&] {
         QApplication::processEvents();

@@ -40,7 +40,7 @@ VistaPila::VistaPila(QWidget* padre) : QTreeWidget(padre) {
     connect(this, &QTreeWidget::itemCollapsed, this,
             [this](QTreeWidgetItem* fila) { sinFallos([&] { alCerrar(fila); }); });
     connect(this, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* fila) {
-        const bool esMas = fila != nullptr && fila->data(Columna::Simbolo, Qt::UserRole).isNull();
+        const bool esMas = fila != nullptr && fila->data(ColumnaDePila::Simbolo, Qt::UserRole).isNull();
         // The rows are made anew once Qt is done with this one.
         if (esMas) QTimer::singleShot(0, this, [this] { sinFallos([this] { muestraMas(); }); });
     });
