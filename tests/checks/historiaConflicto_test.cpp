@@ -77,7 +77,7 @@ void compruebaHistoria(const HistoriaConflicto& historia, const Reglas& reglas) 
     }
 }
 
-struct Caso {
+struct CasoHistoria {
     std::u16string_view reglas;
     Metodo metodo;
     Clase clase;
@@ -86,7 +86,7 @@ struct Caso {
 };
 
 TEST(Historia, LasConocidas) {
-    const Caso casos[] = {
+    const CasoHistoria casos[] = {
         {u"S -> si c entonces S | si c entonces S sino S | a", Metodo::Slr, Clase::Ambigua,
          Cura::SinoColgante, "si c entonces si c entonces S . sino S"},
         {u"E -> E mas E | num", Metodo::Lalr, Clase::Ambigua, Cura::Asociatividad, "E mas E . mas E"},
