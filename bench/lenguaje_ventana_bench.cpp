@@ -2,8 +2,8 @@
 
 // Times the language window while a person types in the specification and in the text: from the end of the
 // pause after a word to all panels shown and painted, and how long the window's thread is held by a key, by
-// the clock. Then the film's jump in its panel, and a drawn automaton. The window is drawn in memory, each
-// panel in a window of its own.
+// the clock. Then the film's jump in its panel, and a drawn automaton. The window is drawn in memory, with no
+// panel behind another one.
 #include "lenguaje.hpp"
 
 #include "dialogos.hpp"
@@ -60,17 +60,18 @@ constexpr Documentos deC{"ejemplos/c/c.nvk", "ejemplos/c/bien/grande.c"};
 constexpr Documentos pequenos{"ejemplos/calculadora/calculadora.nvk",
                               "ejemplos/calculadora/bien/interes.txt"};
 
-/// Both files open, and each panel in a window of its own, so that all of them are painted.
+/// Both files open, and no panel behind another one, so that all of them are painted.
 class Ventana {
 public:
     explicit Ventana(const Documentos& documentos) {
-        ventana.resize(1400, 1000);
+        ventana.resize(3000, 2000);
         ventana.trae();
         ventana.abre(QString::fromStdString(delRepositorio(documentos.especificacion).string()));
         ventana.abreTexto(QString::fromStdString(delRepositorio(documentos.texto).string()));
+        int numero = 0; // one beside the other: a tab behind others is not seen
         for (auto* const panel : ventana.findChildren<taller::Panel*>()) {
-            panel->setFloating(true);
-            panel->resize(700, 500);
+            const bool abajo = numero++ % 2 == 0;
+            ventana.addDockWidget(abajo ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea, panel);
             panel->show();
         }
         espera();
