@@ -92,7 +92,7 @@ TEST(Contraste, LasFrasesSonLasMasCortas) {
         if (frases.rechazada) ++rechazadas;
         if (frases.deMas) ++deMas;
     }
-    EXPECT_GT(rechazadas, 100);
+    EXPECT_GT(rechazadas, 30);
     EXPECT_GT(deMas, 0);
 }
 
