@@ -53,6 +53,7 @@ struct PaseoTest : testing::Test {
     }
     void pega(const char* texto) {
         QApplication::clipboard()->setText(QString::fromUtf8(texto));
+        QApplication::processEvents(); // there is something to paste
         tecla(Qt::Key_V, Qt::ControlModifier);
     }
     /// A new language, and a text.
