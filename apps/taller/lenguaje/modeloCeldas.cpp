@@ -94,7 +94,7 @@ bool ModeloCeldas::reducePor(const QModelIndex& celda) const {
 
 /// By its letters what the chosen rule does, by its ground a conflict.
 QVariant ModeloCeldas::realce(const QModelIndex& celda, int papel) const {
-    const QVariant deConflicto = estaEnConflicto(celda) ? realceDeConflicto(papel) : QVariant();
+    QVariant deConflicto = estaEnConflicto(celda) ? realceDeConflicto(papel) : QVariant();
     if (papel != Qt::FontRole || !reducePor(celda)) return deConflicto;
     QFont letra;
     letra.setBold(true);
