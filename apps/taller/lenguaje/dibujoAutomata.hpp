@@ -10,6 +10,7 @@
 #include <QPalette>
 #include <QStringList>
 
+#include <set>
 #include <utility>
 
 namespace norvik::taller {
@@ -41,7 +42,7 @@ DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha>
 struct RealceAutomata {
     int estado = -1;
     QList<std::pair<int, int>> camino;
-    QList<int> conRegla{};
+    std::set<int> conRegla{};
 
     bool operator==(const RealceAutomata&) const = default;
 };

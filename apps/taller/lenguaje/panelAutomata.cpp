@@ -101,8 +101,8 @@ void PanelAutomata::selecciona(const Eleccion& eleccion) {
     if (!alDia() || !seVe()) return static_cast<void>(porElegir_ = eleccion);
     resalta(eleccion);
     const auto estado = estadoDe(eleccion);
-    const bool sirve = conRegla_.isEmpty() || conRegla_.contains(elegido_);
-    elige(estado ? *estado : sirve ? elegido_ : conRegla_.front());
+    const bool sirve = conRegla_.empty() || conRegla_.contains(elegido_);
+    elige(estado ? *estado : sirve ? elegido_ : *conRegla_.begin());
 }
 
 /// Its rule, in all the states that have it.
@@ -113,10 +113,10 @@ void PanelAutomata::resalta(const Eleccion& eleccion) {
     if (item != nullptr) resaltada_.punto = item->item.punto;
     conRegla_.clear();
     if (regla)
-        for (const std::int16_t estado : estadosConRegla(gramatica(), *regla)) conRegla_.append(estado);
+        for (const std::int16_t estado : estadosConRegla(gramatica(), *regla)) conRegla_.insert(estado);
     for (int fila = 0; fila < estados_.count(); ++fila) {
         QListWidgetItem& suya = *estados_.item(fila);
-        const bool laTiene = std::ranges::binary_search(conRegla_, fila);
+        const bool laTiene = conRegla_.contains(fila);
         if (suya.font().bold() == laTiene) continue;
         QFont letra;
         if (laTiene) letra.setBold(true);

@@ -21,6 +21,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -83,7 +84,7 @@ private:
     DibujoAutomata porColocar_;
     std::optional<Eleccion> porElegir_; ///< chosen elsewhere of what is not shown yet
     ReglaResaltada resaltada_;
-    QList<int> conRegla_; ///< states
+    std::set<int> conRegla_; ///< states
     int elegido_ = 0;
     std::pair<int, ReglaResaltada> enHtml_{-1, {}}; ///< what the text tells of
 
