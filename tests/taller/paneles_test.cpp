@@ -264,8 +264,7 @@ TEST_F(PanelesLenguaje, UnDibujoQueNoSePuedeGuardarLoDice) {
     empieza(gramaticaAmbigua, u"1+2");
     traeAutomata();
     trae(ventana.conflicto());
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
     int paneles = 0;
     for (Panel* const panel : ventana.findChildren<Panel*>()) {
         trae(*panel);
@@ -328,9 +327,8 @@ TEST_F(PanelesLenguaje, UnConflictoCalladoTieneEstadoYCelda) {
     empieza(u"Token si = \"si\";\r\nToken no = \"no\";\r\nToken a = \"a\";\r\nS -> si S | si S no S | a;\r\n",
             u"a");
     trae(ventana.conflicto());
-    ASSERT_TRUE(QTest::qWaitFor([this] {
-        return ventana.conflicto().palabras().contains("ambigua");
-    })) << ventana.conflicto().palabras().toStdString();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }))
+        << ventana.conflicto().palabras().toStdString();
     EXPECT_TRUE(ventana.conflicto().palabras().contains("con sus elementos:"))
         << ventana.conflicto().palabras().toStdString();
     ventana.tabla().siguiente().click();
@@ -343,8 +341,7 @@ TEST_F(PanelesLenguaje, UnConflictoCalladoTieneEstadoYCelda) {
 TEST_F(PanelesLenguaje, LaLetraDelProyectorLlegaATodo) {
     empieza(gramaticaAmbigua, u"1+2");
     trae(ventana.conflicto());
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.conflicto().palabras().contains("ambigua"); }));
     ventana.arbol().maneras().setCurrentIndex(1);
     const auto mide = [&] {
         QApplication::processEvents();
