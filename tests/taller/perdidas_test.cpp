@@ -361,7 +361,7 @@ TEST_F(PerdidasTest, UnArregloDeOtroTextoNoSeHace) {
 
 TEST(CurasLenguaje, UnSinoColganteSeDejaComoEsta) {
     const std::string tokens = "Token si = \"si\"; Token no = \"no\"; Token a = \"a\";\r\n";
-    const std::string colgante = tokens + "S -> si S | si S no S | a;\r\n";
+    const std::string conColgante = tokens + "S -> si S | si S no S | a;\r\n";
     const std::string dos =
         tokens + "Token mas = \"\\+\";\r\nS -> si S | si S no S | E;\r\nE -> E mas E | a;\r\n";
     const struct {
@@ -369,16 +369,16 @@ TEST(CurasLenguaje, UnSinoColganteSeDejaComoEsta) {
         const char* titulo; ///< nothing is offered without one
         std::string despues;
     } casos[] = {
-        {colgante, "Dejarlo así: la tabla ya elige lo que se quiere",
-         "'% metodo: lalr\r\n'% conflictos: 1\r\n" + colgante},
-        {"'% metodo: slr\r\n" + colgante, "Dejarlo así: la tabla ya elige lo que se quiere",
-         "'% metodo: slr\r\n'% conflictos: 1\r\n" + colgante},
-        {"'% conflictos: 7\r\n'% metodo: lalr\r\n" + colgante,
+        {conColgante, "Dejarlo así: la tabla ya elige lo que se quiere",
+         "'% metodo: lalr\r\n'% conflictos: 1\r\n" + conColgante},
+        {"'% metodo: slr\r\n" + conColgante, "Dejarlo así: la tabla ya elige lo que se quiere",
+         "'% metodo: slr\r\n'% conflictos: 1\r\n" + conColgante},
+        {"'% conflictos: 7\r\n'% metodo: lalr\r\n" + conColgante,
          "Dejarlo así: la tabla ya elige lo que se quiere",
-         "'% conflictos: 1\r\n'% metodo: lalr\r\n" + colgante},
+         "'% conflictos: 1\r\n'% metodo: lalr\r\n" + conColgante},
         {"'% metodo: lalr\r\n" + dos, "Dejar así los 2 conflictos: la tabla ya elige lo que se quiere",
          "'% metodo: lalr\r\n'% conflictos: 2\r\n" + dos},
-        {"'% metodo: lalr\r\n'% conflictos: 1\r\n" + colgante, nullptr, ""},
+        {"'% metodo: lalr\r\n'% conflictos: 1\r\n" + conColgante, nullptr, ""},
     };
     for (const auto& c : casos) {
         SCOPED_TRACE(c.antes);

@@ -177,17 +177,17 @@ TEST_F(RecuperacionTest, LoQueImpideCopiarSeDiceYSeVuelveAIntentar) {
 TEST_F(RecuperacionTest, UnaCopiaDanadaSeDiceYSeDejaAparte) {
     auto vida = nace();
     Vida::escribe(vida->norvik(), "abc");
-    const std::string buena = bytesDe(vida->ventana.copia());
-    EXPECT_EQ(copiaDe(buena).formulario->textos.at(0).texto, u"abc");
-    for (std::size_t largo = 0; largo < buena.size(); ++largo)
-        EXPECT_THROW(static_cast<void>(copiaDe(std::string_view(buena).substr(0, largo))),
+    const std::string copiaBuena = bytesDe(vida->ventana.copia());
+    EXPECT_EQ(copiaDe(copiaBuena).formulario->textos.at(0).texto, u"abc");
+    for (std::size_t largo = 0; largo < copiaBuena.size(); ++largo)
+        EXPECT_THROW(static_cast<void>(copiaDe(std::string_view(copiaBuena).substr(0, largo))),
                      NoCoincidenLosTipos);
-    EXPECT_THROW(static_cast<void>(copiaDe(buena + "x")), NoCoincidenLosTipos);
+    EXPECT_THROW(static_cast<void>(copiaDe(copiaBuena + "x")), NoCoincidenLosTipos);
     muere(std::exchange(vida, nullptr));
     carpeta.pon(("estado/copias/" + copias().first()).toStdString(), "{}");
     for (int otro = 1; otro < 10; ++otro) // and beyond those of workbenches that left nothing
         carpeta.pon("estado/copias/taller-" + std::to_string(otro) + ".cerrojo", "");
-    carpeta.pon("estado/copias/taller-9.copia", buena);
+    carpeta.pon("estado/copias/taller-9.copia", copiaBuena);
     vida = nace();
     vida->dialogos.destinos = {Destino::Descartar};
     vida->recuperacion.ofrece();

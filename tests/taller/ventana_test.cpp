@@ -531,19 +531,19 @@ TEST_F(TallerTest, UnTextoDemasiadoLargoSeEdita) {
 
 TEST_F(TallerTest, UnTextoDemasiadoLargoSeAnaliza) {
     ventana.abre(pon("suma.nvk", calculadora));
-    const QString sumas = "1+" + QStringLiteral("2+\n").repeated(20'000) + "3";
+    const QString sumasLargas = "1+" + QStringLiteral("2+\n").repeated(20'000) + "3";
     const auto ondas = [&] {
         QCoreApplication::processEvents();
         return static_cast<QPlainTextEdit&>(norvik().caja().ventana()).extraSelections().size();
     };
     ventana.show();
     for (int vez = 0; vez < 2; ++vez) {
-        norvik().Text(sumas);
+        norvik().Text(sumasLargas);
         ordena(a.analizar);
         EXPECT_EQ(ventana.statusBar()->currentMessage(), "Análisis sintáctico correcto: 60005 nodos");
         EXPECT_EQ(ventana.mensaje().texto(), "");
         const auto bien = ondas();
-        norvik().Text("1+*" + sumas + "+");
+        norvik().Text("1+*" + sumasLargas + "+");
         ordena(a.analizar);
         EXPECT_EQ(ventana.mensaje().texto().left(29), "Línea 1, Columna 3: Carácter ");
         EXPECT_NE(ventana.statusBar()->currentMessage().left(8), "Análisis");
