@@ -114,7 +114,7 @@ TEST(SegundoLenguaje, EsComoElPrimero) {
 
 // Turn and turn about, by each way: the trees are those of the sums that were loaded last.
 TEST(SegundoLenguaje, SumasPorLaIzquierdaYPorLaDerechaUnaYOtraVez) {
-    const std::string tokens = "Token mas = \"\\+\"; Token n = \"[0-9]\"; ";
+    const std::string tokens = R"(Token mas = "\+"; Token n = "[0-9]"; )";
     const std::pair<std::string, std::string> sumas[] = {
         {tokens + "E -> E mas T | T; T -> n;", "E(E(E(T(1))+T(2))+T(3))"},
         {tokens + "E -> T mas E | T; T -> n;", "E(T(1)+E(T(2)+E(T(3))))"}};
