@@ -48,7 +48,7 @@ bool haPerdidoSuNombre(const Descriptor& descriptor) {
 }
 
 /// A file system of another machine locks for one alone only what is open for writing.
-Descriptor crea(const std::filesystem::path& nombre) {
+Descriptor abreAbandonado(const std::filesystem::path& nombre) {
     constexpr int opciones = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const auto con = [&](int acceso) {
         return Descriptor(sinInterrupcion([&] { return open(nombre.c_str(), acceso | opciones); }));
@@ -58,7 +58,7 @@ Descriptor crea(const std::filesystem::path& nombre) {
 }
 
 Descriptor tomaSiEsDeNadie(const std::filesystem::path& nombre) {
-    Descriptor descriptor = crea(nombre);
+    Descriptor descriptor = abreAbandonado(nombre);
     if (!descriptor.abierto() || echaCerrojo(descriptor) != Cerrojo::Mio || !sigueSiendo(nombre, descriptor))
         return Descriptor(-1);
     return descriptor;
