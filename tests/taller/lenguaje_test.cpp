@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // The language window, driven as a person does: keys in the editors, clicks in the panels.
-#include "taller/dialogosGuion.hpp"
+#include "taller/conVentanaLenguaje.hpp"
 
-#include "apoyo/carpetaTemporal.hpp"
 #include "lenguaje/correspondencias.hpp"
 #include "lenguaje/enControl.hpp"
 #include "lenguaje/palabrasLR.hpp"
@@ -42,19 +41,8 @@ std::u16string u16(const char* texto) {
     return QString::fromUtf8(texto).replace(u'\n', "\r\n").toStdU16String();
 }
 
-struct LenguajeTest : testing::Test {
-    LenguajeTest() {
-        ventana.show();
-        QApplication::setActiveWindow(&ventana);
-    }
-    void empieza(const char* suya, const char* suyo) {
-        ventana.empieza(u16(suya), u16(suyo));
-        espera();
-    }
-    void espera() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().completo(); }));
-        QApplication::processEvents();
-    }
+struct LenguajeTest : ConVentanaLenguaje {
+    void empieza(const char* suya, const char* suyo) { ConVentanaLenguaje::empieza(u16(suya), u16(suyo)); }
     QWidget& teclado(EditorTexto& editor) { return editor.norvik().caja().ventana(); }
     /// Puts the caret behind a piece of the text, as a click there does.
     void cursor(EditorTexto& editor, const char16_t* detras) {
@@ -91,14 +79,6 @@ struct LenguajeTest : testing::Test {
         return halladas.isEmpty() ? nullptr : halladas.first();
     }
     QString camino() { return ventana.arbol().camino().text(); }
-
-    apoyo::CarpetaTemporal carpeta;
-    DialogosGuion dialogos;
-    SistemaGuion sistema{dialogos};
-    QSettings ajustes{QString::fromStdString((carpeta / "ajustes.ini").string()), QSettings::IniFormat};
-    VentanaLenguaje ventana{sistema, dialogos, ajustes};
-    EditorTexto& especificacion = ventana.especificacion();
-    EditorTexto& texto = ventana.texto();
 };
 
 } // namespace

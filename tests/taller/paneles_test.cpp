@@ -2,9 +2,8 @@
 
 // The panels of the language window together: what is chosen in one is seen in the others, what a person has
 // opened and enlarged stays so while the typing goes on, and what fails is told.
-#include "taller/dialogosGuion.hpp"
+#include "taller/conVentanaLenguaje.hpp"
 
-#include "apoyo/carpetaTemporal.hpp"
 #include "lenguaje/ventanaLenguaje.hpp"
 
 #include "norvik/platform/qt/cajaTextoQt.hpp"
@@ -32,19 +31,7 @@ constexpr std::u16string_view gramaticaAmbigua = u"'% metodo: lalr\r\n"
                                                  u"Token mas = \"\\+\";\r\n"
                                                  u"E -> E mas E | num;\r\n";
 
-struct PanelesLenguaje : testing::Test {
-    PanelesLenguaje() {
-        ventana.show();
-        QApplication::setActiveWindow(&ventana);
-    }
-    void empieza(std::u16string_view suya, std::u16string_view suyo) {
-        ventana.empieza(suya, suyo);
-        espera();
-    }
-    void espera() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().completo(); }));
-        QApplication::processEvents();
-    }
+struct PanelesLenguaje : ConVentanaLenguaje {
     void alFinal(EditorTexto& editor, const char* teclas) {
         QWidget& teclado = editor.norvik().caja().ventana();
         QTest::keyClick(&teclado, Qt::Key_End, Qt::ControlModifier);
@@ -108,14 +95,6 @@ struct PanelesLenguaje : testing::Test {
                 return static_cast<std::int16_t>(c);
         return -1;
     }
-
-    apoyo::CarpetaTemporal carpeta;
-    DialogosGuion dialogos;
-    SistemaGuion sistema{dialogos};
-    QSettings ajustes{QString::fromStdString((carpeta / "ajustes.ini").string()), QSettings::IniFormat};
-    VentanaLenguaje ventana{sistema, dialogos, ajustes};
-    EditorTexto& especificacion = ventana.especificacion();
-    EditorTexto& texto = ventana.texto();
 };
 
 } // namespace
