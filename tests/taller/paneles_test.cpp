@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 using namespace norvik;
@@ -98,6 +99,26 @@ struct PanelesLenguaje : ConVentanaLenguaje {
 };
 
 } // namespace
+
+TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
+    empieza(gramaticaSuma, u"1+2");
+    const auto gruesas = [this] {
+        std::set<double> grosores;
+        for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
+            if (const auto* const linea = qgraphicsitem_cast<const QGraphicsPathItem*>(suya))
+                grosores.insert(linea->pen().widthF());
+        return grosores.size() > 1; // one is thicker than the others
+    };
+    ventana.diagramas().hide();
+    emit ventana.pasos().elegido(DeRegla{2});
+    trae(ventana.diagramas());
+    EXPECT_TRUE(gruesas());
+    ventana.diagramas().hide();
+    emit ventana.pasos().elegido(DeRegla{1});
+    empieza(gramaticaAmbigua, u"1+2"); // of which nothing is chosen
+    trae(ventana.diagramas());
+    EXPECT_FALSE(gruesas());
+}
 
 TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
     empieza(gramaticaSuma, u"1+2");

@@ -34,7 +34,13 @@ PanelDiagramas::PanelDiagramas(Dialogos& dialogos, QWidget* padre)
 
 void PanelDiagramas::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     estudio_ = std::move(estudio);
+    if (dibujado_ != estudio_->deLenguaje) porElegir_.reset();
     dibujaSiSeVe();
+}
+
+void PanelDiagramas::alVerse() {
+    dibujaSiSeVe();
+    if (seVe() && porElegir_) selecciona(*std::exchange(porElegir_, std::nullopt));
 }
 
 void PanelDiagramas::dibujaSiSeVe() {
@@ -55,7 +61,8 @@ Lamina::Pinta PanelDiagramas::pinta(std::int16_t elegida) const {
 }
 
 void PanelDiagramas::selecciona(const Eleccion& eleccion) {
-    if (!estudio_ || dibujado_ != estudio_->deLenguaje || !seVe()) return;
+    if (!estudio_) return;
+    if (!seVe()) return static_cast<void>(porElegir_ = eleccion);
     const auto regla = reglaDe(*estudio_, eleccion);
     if (!regla || std::exchange(elegida_, *regla) == *regla) return;
     vista_.repinta();

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace norvik::taller {
 
@@ -29,7 +30,7 @@ public:
     VistaDibujo& vista() { return vista_; }
 
 protected:
-    void alVerse() override { dibujaSiSeVe(); }
+    void alVerse() override;
 
 private:
     void dibujaSiSeVe();
@@ -38,6 +39,7 @@ private:
     std::shared_ptr<const Estudio> estudio_;
     std::shared_ptr<const LenguajeEstudiado> dibujado_;
     std::int16_t elegida_ = 0;
+    std::optional<Eleccion> porElegir_; ///< chosen elsewhere while the panel is not seen
 
     QWidget centro_;
     QVBoxLayout columna_;
