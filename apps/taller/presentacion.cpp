@@ -14,6 +14,7 @@ namespace {
 
 constexpr int aumentoDeTextos = 160; ///< per cent
 constexpr double aumentoDeLetra = 1.4;
+constexpr const char* titulosDePaneles = "QDockWidgetTitle"; ///< the desktop gives them letters of their own
 
 /// A projector leaves little of a contrast.
 QPalette deProyector() {
@@ -40,11 +41,15 @@ void Presentacion::pon(bool puesta) {
     puesta_ = puesta;
     if (puesta) {
         letra_ = QApplication::font();
+        letraDePaneles_ = QApplication::font(titulosDePaneles);
         paleta_ = QApplication::palette();
     }
-    QFont letra = letra_;
-    letra.setPointSizeF(letra.pointSizeF() * (puesta ? aumentoDeLetra : 1));
-    QApplication::setFont(letra);
+    const auto escala = [&](QFont letra) {
+        letra.setPointSizeF(letra.pointSizeF() * (puesta ? aumentoDeLetra : 1));
+        return letra;
+    };
+    QApplication::setFont(escala(letra_));
+    QApplication::setFont(escala(letraDePaneles_), titulosDePaneles);
     QApplication::setPalette(puesta ? deProyector() : paleta_);
     for (const Antes& antes : std::exchange(antes_, {}))
         if (antes.norvik) antes.norvik->aumento(antes.aumento);

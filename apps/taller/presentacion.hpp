@@ -32,6 +32,7 @@ private:
 
     bool puesta_ = false;
     QFont letra_; ///< before
+    QFont letraDePaneles_;
     QPalette paleta_;
     std::vector<Antes> antes_;
 };
