@@ -117,8 +117,13 @@ std::vector<Arreglo> arreglosDe(const Diagnostico& diagnostico) {
                           diagnostico.codigo == Codigo::TokenIndefinido;
     if (!esNombre || diagnostico.partes.esperados.empty()) return arreglos;
     const std::u16string& querido = diagnostico.partes.esperados.front();
-    arreglos.push_back({u"escriba " + querido,
-                        {{diagnostico.rango, esReferencia ? u"<" + querido + u">" : querido, false}}});
+    const std::u16string escrito = esReferencia ? u"<" + querido + u">" : querido;
+    Arreglo enTodas{u"escriba " + querido, {{diagnostico.rango, escrito, false}}};
+    for (const Relacionado& otro : diagnostico.partes.relacionados)
+        if (otro.texto == diagnostico.partes.hallado) enTodas.cambios.push_back({otro.rango, escrito, false});
+    const std::size_t lugares = enTodas.cambios.size();
+    if (lugares > 1) enTodas.titulo += u" en los " + aTexto(static_cast<std::int64_t>(lugares)) + u" lugares";
+    arreglos.push_back(std::move(enTodas));
     return arreglos;
 }
 

@@ -10,7 +10,7 @@
 
 namespace norvik::taller {
 
-/// The repairs of a diagnostic, and the name that was meant in the place of one that nobody knows.
+/// The repairs of a diagnostic, and the name that was meant in all places of one that nobody knows.
 std::vector<Arreglo> arreglosDe(const Diagnostico& diagnostico);
 /// What cures a conflict by a line at the head of the specification; nothing when its rules have to be
 /// thought over.

@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QStyle>
+#include <QTreeWidgetItemIterator>
 
 #include <algorithm>
 #include <memory>
@@ -256,6 +257,28 @@ void PanelProblemas::ve(const QTreeWidgetItem* elemento) {
         emit arreglado(fila->lado, Arreglo(*fila->arreglo)); // who does it may fill the list again
     else
         emit ido(eleccionDe(*fila));
+}
+
+PanelProblemas::Peticion PanelProblemas::arregla(Lado lado, std::int32_t lugar) {
+    const auto primero = [this](const auto& sirve) {
+        return std::ranges::find_if(filas_, [&](const Fila& f) { return f.arreglo && sirve(f); });
+    };
+    auto fila = primero([&](const Fila& f) {
+        return f.lado == lado && f.lugar.inicio.desplazamiento <= lugar &&
+               lugar <= f.lugar.fin.desplazamiento;
+    });
+    if (fila == filas_.end()) fila = primero([](const Fila& /*fila*/) { return true; });
+    if (fila == filas_.end()) return Peticion::NoHay;
+    const auto suyas = std::ranges::count_if(filas_, [&](const Fila& f) {
+        return f.arreglo && f.lado == fila->lado && f.diagnostico == fila->diagnostico;
+    });
+    if (suyas == 1) {
+        emit arreglado(fila->lado, Arreglo(*fila->arreglo));
+        return Peticion::Hecha;
+    }
+    for (QTreeWidgetItemIterator elemento(&lista_); *elemento != nullptr; ++elemento)
+        if (filaDe(*elemento) == &*fila) lista_.setCurrentItem(*elemento);
+    return Peticion::PorElegir;
 }
 
 void PanelProblemas::detalla(const Fila& fila) {

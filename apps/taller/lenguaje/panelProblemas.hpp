@@ -30,6 +30,11 @@ public:
 
     void ponEstudio(std::shared_ptr<const Estudio> estudio) override;
     bool muestraLoQueNoCompila() const override { return true; }
+    /// What came of asking for a repair.
+    enum class Peticion : std::uint8_t { NoHay, Hecha, PorElegir };
+    /// The repair of the first problem in the list that has any, of those at a place of a text (0-based, in
+    /// characters) if there are. Of several the person chooses: the list is at the first one.
+    Peticion arregla(Lado lado, std::int32_t lugar);
 
     // For those who drive it from outside.
     QTreeWidget& lista() { return lista_; }

@@ -137,8 +137,13 @@ void VentanaLenguaje::ponMenus() {
             edicion_.clear();
             for (int i = 0; i < numeroDeAcciones; ++i)
                 edicion_.addAction(activo_->norvik().accion(static_cast<AccionNorvik>(i)));
+            edicion_.addSeparator();
+            edicion_.addAction(&arreglar_);
         });
     });
+    arreglar_.setShortcut(QStringLiteral("Ctrl+."));
+    addAction(&arreglar_); // the menu is empty until it is seen
+    connect(&arreglar_, &QAction::triggered, this, [this] { sinFallos([this] { arreglaLoDelCursor(); }); });
     ponMenuNombres();
     ponMenuVer();
 }
@@ -501,6 +506,19 @@ void VentanaLenguaje::arregla(const Panel& desde, Lado lado, const Arreglo& arre
         return avisa(QStringLiteral("El texto ya es otro: el arreglo es de uno anterior, y no se hace"));
     aplica(arreglo, editor.norvik());
     editor.norvik().setFocus();
+    avisa(QStringLiteral("Arreglo hecho: ") + aQString(arreglo.titulo));
+}
+
+void VentanaLenguaje::arreglaLoDelCursor() {
+    switch (problemas_.arregla(activo_ == &texto_ ? Lado::Texto : Lado::Especificacion,
+                               activo_->seleccion().inicio.desplazamiento)) {
+    case PanelProblemas::Peticion::NoHay:
+        return avisa(QStringLiteral("Ningún problema de la lista tiene arreglo"));
+    case PanelProblemas::Peticion::Hecha:
+        return;
+    case PanelProblemas::Peticion::PorElegir:
+        return abrePanel(problemas_);
+    }
 }
 
 } // namespace norvik::taller

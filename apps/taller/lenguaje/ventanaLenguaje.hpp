@@ -145,6 +145,7 @@ private:
     }
     void muestraEnEditores(const Estudio& estudio, const Eleccion& eleccion);
     void arregla(const Panel& desde, Lado lado, const Arreglo& arreglo);
+    void arreglaLoDelCursor();
     QString palabrasDe(const NombreEscrito& nombre, AyudaDeNombres::Pregunta pregunta) const;
     bool hayProblemaEn(const NombreEscrito& nombre) const;
     EditorTexto& editorDe(Lado lado) { return lado == Lado::Especificacion ? especificacion_ : texto_; }
@@ -168,6 +169,7 @@ private:
     PanelDiagramas diagramas_{dialogos_, this};
     AyudaDeNombres nombres_;
     QMenu archivo_, edicion_, menuNombres_, ver_, menuRecientes_;
+    QAction arreglar_{QStringLiteral("&Arreglar el problema")};
     Recientes recientes_;
     BarraDeAvisos barra_;
     QLabel estado_, formato_, lugar_;
