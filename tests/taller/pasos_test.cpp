@@ -289,6 +289,30 @@ TEST_F(AutomataTest, DeUnoGrandeSeDibujaLoCercano) {
     EXPECT_EQ(panel.dibujo().estado(0), nullptr);
 }
 
+// Each operator of a language with many leads from each operand: arrows grow with their square.
+TEST_F(AutomataTest, DeUnoDensoLosSimbolosVanEnLosEstadosYDeUnoMuyDensoSoloLoCercano) {
+    if (!hayGraphviz()) GTEST_SKIP();
+    const auto conOperadores = [](int cuantos) {
+        QString tokens = QStringLiteral("'% metodo: lalr\nToken n = \"n\";\n"), reglas;
+        for (int i = 0; i < cuantos; ++i) {
+            tokens += QStringLiteral("Token o%1 = \"o%1\";\n").arg(i);
+            reglas += QStringLiteral("E -> E o%1 E;\n").arg(i);
+        }
+        return (tokens + reglas + QStringLiteral("E -> n;")).toStdU16String();
+    };
+    estudio(conOperadores(14));
+    ASSERT_TRUE(dibujado()) << panel.aviso().toStdString();
+    EXPECT_EQ(panel.aviso(), "");
+    EXPECT_EQ(panel.dibujo().sitio.flechas.size(), 2 + 14 * 2 + 14 + 14 * 14);
+    EXPECT_TRUE(panel.dibujo().estado(1)->titulo.endsWith(" · tras E"));
+    EXPECT_EQ(panel.dibujo().estado(0)->titulo, "Estado 0");
+    estudio(conOperadores(20));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel.aviso().startsWith("Se dibujan los "); }));
+    ASSERT_TRUE(dibujado()) << panel.aviso().toStdString();
+    EXPECT_LE(panel.dibujo().sitio.flechas.size(), 300);
+    EXPECT_NE(panel.dibujo().estado(0), nullptr);
+}
+
 TEST_F(AutomataTest, SeGuardaComoDibujo) {
     if (!hayGraphviz()) GTEST_SKIP();
     const apoyo::CarpetaTemporal carpeta;

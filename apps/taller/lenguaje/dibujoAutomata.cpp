@@ -56,6 +56,7 @@ void pintaFlecha(const DibujoAutomata& dibujo, const GrafoColocado::Flecha& flec
     const QPen pluma(color, (enCamino ? 3 : 1) * grosorDeLinea(dibujo.letra));
     escena.addPath(flecha.linea, pluma);
     escena.addPolygon(cabezaDe(flecha), pluma, color);
+    if (dibujo.grafo.esDenso()) return;
     QGraphicsSimpleTextItem& rotulo = *escena.addSimpleText(dibujo.grafo.flechas[flecha.numero].rotulo,
                                                             enCamino ? deTitulo(dibujo.letra) : dibujo.letra);
     rotulo.setBrush(color);
@@ -91,6 +92,15 @@ void pintaEstado(const DibujoAutomata& dibujo, const EstadoDibujado& estado, con
     });
 }
 
+/// All arrows that lead to a state have the same symbol.
+void escribeSimbolosEnLosEstados(DibujoAutomata& dibujo) {
+    QHash<int, QString> simbolos;
+    for (const Grafo::Flecha& flecha : dibujo.grafo.flechas) simbolos.insert(flecha.hasta, flecha.rotulo);
+    for (EstadoDibujado& estado : dibujo.estados)
+        if (const auto suyo = simbolos.constFind(estado.numero); suyo != simbolos.constEnd())
+            estado.titulo += QStringLiteral(" · tras ") + *suyo;
+}
+
 } // namespace
 
 const EstadoDibujado* DibujoAutomata::estado(int numero) const {
@@ -111,6 +121,7 @@ DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha>
     DibujoAutomata dibujo{letra, std::move(estados), {}, {}};
     dibujo.grafo.letra = QFontInfo(letra).pixelSize();
     dibujo.grafo.flechas = std::move(flechas);
+    if (dibujo.grafo.esDenso()) escribeSimbolosEnLosEstados(dibujo);
     for (const EstadoDibujado& estado : dibujo.estados)
         dibujo.grafo.cajas.append({estado.numero, medidaDe(estado, letra)});
     return dibujo;

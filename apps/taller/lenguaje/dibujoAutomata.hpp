@@ -34,7 +34,8 @@ struct DibujoAutomata {
     QRectF caja(int numero) const;
 };
 
-/// The states as boxes, as large as their words need, and the arrows between them.
+/// The states as boxes, as large as their words need, and the arrows between them. When there are very many,
+/// the symbols stand in the boxes that they lead to.
 DibujoAutomata preparaDibujo(QList<EstadoDibujado> estados, QList<Grafo::Flecha> flechas, const QFont& letra);
 
 /// What stands out in it: a state, a way of arrows, each from one state to another, and the states that have

@@ -28,6 +28,7 @@ QByteArray enDot(const Grafo& grafo) {
                                  "node [shape=box, fixedsize=true, label=\"\"];\n"
                                  "edge [fontname=\"sans\", fontsize=%1];\n")
                       .arg(grafo.letra);
+    if (grafo.esDenso()) dot += QStringLiteral("nslimit=1; nslimit1=1; mclimit=0.1;\n");
     for (const Grafo::Caja& caja : grafo.cajas)
         dot += QStringLiteral("%1 [width=%2, height=%3];\n")
                    .arg(caja.numero)
@@ -39,7 +40,7 @@ QByteArray enDot(const Grafo& grafo) {
                    .arg(flecha.desde)
                    .arg(flecha.hasta)
                    .arg(i)
-                   .arg(entreComillasDot(flecha.rotulo));
+                   .arg(entreComillasDot(grafo.esDenso() ? QString() : flecha.rotulo));
     }
     return (dot + QStringLiteral("}\n")).toUtf8();
 }

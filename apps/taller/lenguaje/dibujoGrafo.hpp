@@ -16,7 +16,8 @@
 
 namespace norvik::taller {
 
-/// A directed graph to be laid out. Its nodes are boxes of a size that is given.
+/// A directed graph to be laid out. Its nodes are boxes of a size that is given. A dense one is laid out
+/// without its labels, and with less effort.
 struct Grafo {
     struct Caja {
         int numero = 0;
@@ -30,6 +31,11 @@ struct Grafo {
     QList<Caja> cajas;
     QList<Flecha> flechas;
     double letra = 12; ///< height of the labels' letters
+
+    /// With more arrows than these, a label on each takes Graphviz most of its time, and nobody can tell
+    /// whose it is.
+    static constexpr qsizetype maximoRotulos = 100;
+    bool esDenso() const { return flechas.size() > maximoRotulos; }
 };
 
 /// Where everything of it stands, in the units of the boxes, `y` downwards.

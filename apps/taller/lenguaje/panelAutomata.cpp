@@ -34,6 +34,12 @@ QStringList paraCaja(QStringList lineas) {
     return lineas;
 }
 
+/// The states in order.
+bool entreEllos(const std::vector<std::int16_t>& estados, const Transicion& transicion) {
+    return std::ranges::binary_search(estados, transicion.desde) &&
+           std::ranges::binary_search(estados, transicion.hasta);
+}
+
 } // namespace
 
 PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
@@ -241,24 +247,34 @@ void PanelAutomata::muestraEstado() {
     entrada_.setText(entradaDeEstado(*grafo_, static_cast<std::int16_t>(elegido_)));
 }
 
+/// All of them, or those around the chosen one, fewer as they have more arrows.
+std::vector<std::int16_t> PanelAutomata::porDibujar(const GrafoEstados& grafo) const {
+    std::vector<std::int16_t> todos(grafo.estados());
+    std::iota(todos.begin(), todos.end(), std::int16_t{0});
+    if (todos.size() <= maximoEntero && grafo.transiciones().size() <= maximoFlechas) return todos;
+    for (std::size_t maximo = maximoVecinos;; maximo /= 2) {
+        auto suyos = grafo.vecindad(static_cast<std::int16_t>(elegido_), maximo);
+        const auto flechas = std::ranges::count_if(grafo.transiciones(),
+                                                   [&](const Transicion& t) { return entreEllos(suyos, t); });
+        if (maximo == 1 || static_cast<std::size_t>(flechas) <= maximoFlechas) return suyos;
+    }
+}
+
 void PanelAutomata::dibuja() {
     const GrafoEstados& grafo = *grafo_;
-    std::vector<std::int16_t> suyos(grafo.estados());
-    std::iota(suyos.begin(), suyos.end(), std::int16_t{0});
+    const std::vector<std::int16_t> suyos = porDibujar(grafo);
     avisa({});
-    if (grafo.estados() > maximoEntero) {
-        suyos = grafo.vecindad(static_cast<std::int16_t>(elegido_), maximoVecinos);
+    if (suyos.size() < grafo.estados())
         avisa(QStringLiteral("Se dibujan los %1 estados más cercanos al elegido, de %2.")
                   .arg(suyos.size())
                   .arg(grafo.estados()));
-    }
     QList<EstadoDibujado> cajas;
     for (const std::int16_t estado : suyos)
         cajas.append({estado, tituloDeEstado(*lenguaje_, estado), paraCaja(nucleoDe(gramatica(), estado)),
                       !conflictosEn(lenguaje_->conflictos, static_cast<std::int16_t>(estado + 1)).empty()});
     QList<Grafo::Flecha> flechas;
     for (const Transicion& t : grafo.transiciones())
-        if (std::ranges::binary_search(suyos, t.desde) && std::ranges::binary_search(suyos, t.hasta))
+        if (entreEllos(suyos, t))
             flechas.append({t.desde, t.hasta, aQString(gramatica().partidas.texto(t.simbolo))});
     porColocar_ = preparaDibujo(std::move(cajas), std::move(flechas), font());
     colocador_.coloca(porColocar_.grafo);

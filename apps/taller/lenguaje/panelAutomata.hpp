@@ -56,6 +56,7 @@ private:
     using Resultado = std::shared_ptr<const GrafoEstados>;
     static constexpr std::size_t maximoEntero = 60; ///< states of a drawing of all
     static constexpr std::size_t maximoVecinos = 30;
+    static constexpr std::size_t maximoFlechas = 300; ///< of any drawing
 
     void compone();
     void estudiaSiSeVe();
@@ -70,6 +71,7 @@ private:
     /// It shows what it was given last.
     bool alDia() const { return grafo_ && estudio_ && lenguaje_ == estudio_->deLenguaje; }
     void muestraEstado();
+    std::vector<std::int16_t> porDibujar(const GrafoEstados& grafo) const;
     void dibuja();
     RealceAutomata realce() const;
     Lamina lamina() const;
