@@ -164,6 +164,7 @@ BENCHMARK(teclearEnUnaLinea)
     ->Arg(1'000)
     ->Arg(10'000)
     ->Arg(100'000)
+    ->Arg(1'000'000)
     ->Iterations(10);
 
 } // namespace

@@ -6,7 +6,9 @@
 #include "norvik/platform/qt/vistaTexto.hpp"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace norvik {
 
@@ -27,16 +29,26 @@ void Resaltes::refresca() {
     caja_.pideAlDia();
 }
 
+namespace {
+
+/// So much of it as matters in what is seen; of no characters, it is of its whole line.
+std::optional<CajaTextoQt::Tramo> recortado(const Resalte& r, const std::vector<CajaTextoQt::Tramo>& vistos) {
+    if (r.inicio == r.fin) return CajaTextoQt::Tramo{r.inicio, r.fin};
+    const auto primero = std::ranges::lower_bound(vistos, r.inicio, {}, &CajaTextoQt::Tramo::fin);
+    if (primero == vistos.end() || primero->inicio > r.fin) return std::nullopt;
+    return CajaTextoQt::Tramo{std::max(r.inicio, primero->inicio), std::min(r.fin, vistos.back().fin)};
+}
+
+} // namespace
+
 void Resaltes::muestra() const {
-    const CajaTextoQt::Tramo visto = caja_.tramoVisto();
+    const auto vistos = caja_.tramosVistos();
     QList<QTextEdit::ExtraSelection> puestos;
     for (const Fuente& fuente : capas_) {
-        if (!fuente) continue;
-        for (const Resalte& r : fuente(visto.inicio, visto.fin)) {
-            if (r.fin < visto.inicio || r.inicio > visto.fin) continue;
-            const QTextCursor cursor =
-                caja_.cursorDe({std::max(r.inicio, visto.inicio), std::min(r.fin, visto.fin)});
-            puestos.append({cursor, r.formato});
+        if (!fuente || vistos.empty()) continue;
+        for (const Resalte& r : fuente(vistos.front().inicio, vistos.back().fin)) {
+            const auto tramo = recortado(r, vistos);
+            if (tramo) puestos.append({caja_.cursorDe(*tramo), r.formato});
         }
     }
     caja_.vista().setExtraSelections(puestos);

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTimer>
 
@@ -16,6 +17,16 @@
 #include <utility>
 
 namespace norvik {
+
+namespace {
+
+constexpr int lineaLarga = 10'000; ///< characters that are laid out in a few milliseconds
+
+bool esLarga(const QTextBlock& bloque) {
+    return bloque.length() > lineaLarga;
+}
+
+} // namespace
 
 CajaTextoQt::CajaTextoQt(QWidget* padre)
     : vista_(&nuevo<VistaTexto>(*this, padre)), espejo_(*vista_->document(), *this) {
@@ -33,7 +44,16 @@ void CajaTextoQt::conecta() {
     QObject::connect(vista_->document(), &QTextDocument::contentsChange, &contexto_,
                      [this](int desde, int quitados, int puestos) {
                          if (!copiando_) espejo_.anota(desde, quitados, puestos);
+                         sinFallos([&] { llevaEstilos(desde, quitados, puestos); });
                      });
+    const auto otraParte = [this] {
+        otraParteVista_ = true;
+        pideAlDia();
+    };
+    for (const QScrollBar* const barra : {vista_->horizontalScrollBar(), vista_->verticalScrollBar()}) {
+        QObject::connect(barra, &QAbstractSlider::valueChanged, &contexto_, otraParte);
+        QObject::connect(barra, &QAbstractSlider::rangeChanged, &contexto_, otraParte);
+    }
     QObject::connect(vista_.get(), &QPlainTextEdit::textChanged, &contexto_, [this] { recogeEdicion(); });
     for (const auto senal : {&QPlainTextEdit::selectionChanged, &QPlainTextEdit::cursorPositionChanged})
         QObject::connect(vista_.get(), senal, &contexto_, [this] { recogeSeleccion(); });
@@ -132,6 +152,7 @@ void CajaTextoQt::ponAlDia() {
     if (bloqueos_ > 0) return;
     const QScopedValueRollback<bool> copiando(copiando_, true);
     if (vistaPorRehacer_) rehaceVista();
+    if (std::exchange(otraParteVista_, false)) ensuciaLargas();
     ponEstilosEnVista();
     ponSeleccionEnVista();
 }
@@ -182,12 +203,14 @@ CajaTextoQt::Tramo CajaTextoQt::seleccionVista() const {
     return {espejo_.enTexto(cursor.selectionStart()), espejo_.enTexto(cursor.selectionEnd())};
 }
 
-CajaTextoQt::Tramo CajaTextoQt::tramoVisto() const {
-    const auto vistas = vista_->lineasVistas();
-    if (vistas.empty()) return {};
-    const std::int32_t siguiente = inicioDeLinea(vistas.back().numero + 1);
-    return {inicioDeLinea(vistas.front().numero),
-            siguiente < 0 ? static_cast<std::int32_t>(texto().size()) : siguiente - 1};
+std::vector<CajaTextoQt::Tramo> CajaTextoQt::tramosVistos() const {
+    std::vector<Tramo> tramos;
+    for (const VistaTexto::Linea& l : vista_->lineasVistas()) {
+        const Tramo columnas = columnasCerca(vista_->document()->findBlockByNumber(l.numero), 1);
+        const std::int32_t inicio = inicioDeLinea(l.numero);
+        tramos.push_back({inicio + columnas.inicio, inicio + columnas.fin});
+    }
+    return tramos;
 }
 
 QTextCursor CajaTextoQt::cursorDe(const Tramo& tramo) const {
@@ -248,22 +271,87 @@ void CajaTextoQt::ponEstilosEnLineas(std::int32_t primera, std::int32_t ultima) 
     QTextBlock bloque = documento.findBlockByNumber(primera);
     const int desde = bloque.position();
     int hasta = desde;
-    for (std::int32_t linea = primera; linea <= ultima; ++linea, bloque = bloque.next()) {
-        QTextLayout& trazado = *bloque.layout();
-        if (!trazado.preeditAreaText().isEmpty()) continue; // its formats are the input method's
-        const auto nuevos = formatos(inicioDeLinea(linea), bloque.length() - 1);
-        if (nuevos == trazado.formats()) continue;
-        trazado.setFormats(nuevos);
-        hasta = bloque.position() + bloque.length();
-    }
+    for (std::int32_t linea = primera; linea <= ultima; ++linea, bloque = bloque.next())
+        if (ponEstilosEnLinea(bloque)) hasta = bloque.position() + bloque.length();
     if (hasta > desde) documento.markContentsDirty(desde, hasta - desde);
 }
 
-QList<QTextLayout::FormatRange> CajaTextoQt::formatos(std::int32_t inicio, std::int32_t longitud) const {
+namespace {
+
+/// Those of a line as far as they are in [desde, hasta) of it.
+QList<QTextLayout::FormatRange> recortados(const QList<QTextLayout::FormatRange>& tramos, int desde,
+                                           int hasta) {
+    QList<QTextLayout::FormatRange> quedan;
+    for (const auto& t : tramos) {
+        const int inicio = std::max(t.start, desde);
+        const int fin = std::min(t.start + t.length, hasta);
+        if (inicio < fin) quedan.append({inicio, fin - inicio, t.format});
+    }
+    return quedan;
+}
+
+} // namespace
+
+/// True when it showed others. A long one keeps those that are right where it is seen, and is given more than
+/// that, so that it is not laid out at each step to the side; what its layout finds out is kept for whoever
+/// asks next.
+bool CajaTextoQt::ponEstilosEnLinea(const QTextBlock& bloque) {
+    constexpr int anchos = 16;
+    QTextLayout& trazado = *bloque.layout();
+    if (!trazado.preeditAreaText().isEmpty()) return false; // its formats are the input method's
+    const std::int32_t inicio = inicioDeLinea(bloque.blockNumber());
+    const bool larga = esLarga(bloque);
+    const Tramo vistas = columnasCerca(bloque, 1);
+    const auto nuevos = formatos(inicio, vistas);
+    const auto puestos = trazado.formats();
+    if (larga) trazado.setCacheEnabled(vistas.fin > vistas.inicio);
+    if (nuevos == (larga ? recortados(puestos, vistas.inicio, vistas.fin) : puestos)) return false;
+    trazado.setFormats(larga ? formatos(inicio, columnasCerca(bloque, anchos)) : nuevos);
+    return true;
+}
+
+/// All of a line, but of a long one those that are seen, and so many times as many to both sides.
+CajaTextoQt::Tramo CajaTextoQt::columnasCerca(const QTextBlock& bloque, int anchos) const {
+    constexpr int menos = 100;
+    const int largo = bloque.length() - 1;
+    if (!esLarga(bloque)) return {0, largo};
+    const auto [desde, hasta] = vista_->columnasVistas(bloque);
+    if (hasta == 0) return {};
+    const int lado = std::max(hasta - desde, menos) * anchos;
+    return {std::max(desde - lado, 0), std::min(hasta + lado, largo)};
+}
+
+/// Qt leaves the runs of a line where they were when its text changes. Moved before it lays the line out,
+/// they are those that the line will be found to have, and it is not laid out again for them.
+void CajaTextoQt::llevaEstilos(int desde, int quitados, int puestos) {
+    const QTextBlock bloque = vista_->document()->findBlock(desde);
+    const int lugar = desde - bloque.position();
+    const bool enUnaLinea = bloque.isValid() && lugar + puestos < bloque.length();
+    if (quitados == puestos || !enUnaLinea || !bloque.layout()->preeditAreaText().isEmpty()) return;
+    const auto antes = bloque.layout()->formats();
+    const CambioDeTexto cambio{lugar, quitados, puestos, false, {}, {}};
+    QList<QTextLayout::FormatRange> ahora;
+    for (const auto& f : antes) {
+        const int inicio = cambio.lleva(f.start);
+        const int fin = cambio.lleva(f.start + f.length);
+        if (inicio < fin) ahora.append({inicio, fin - inicio, f.format});
+    }
+    if (ahora != antes) bloque.layout()->setFormats(ahora);
+}
+
+/// Other columns of them are seen.
+void CajaTextoQt::ensuciaLargas() {
+    for (const VistaTexto::Linea& l : vista_->lineasVistas()) {
+        const std::int32_t inicio = inicioDeLinea(l.numero);
+        if (esLarga(vista_->document()->findBlockByNumber(l.numero))) ensucia({inicio, inicio});
+    }
+}
+
+QList<QTextLayout::FormatRange> CajaTextoQt::formatos(std::int32_t inicio, const Tramo& columnas) const {
     const auto comienzo = estilos().begin() + inicio;
-    const auto final = comienzo + longitud;
+    const auto final = comienzo + columnas.fin;
     QList<QTextLayout::FormatRange> tramos;
-    for (auto i = comienzo; i != final;) {
+    for (auto i = comienzo + columnas.inicio; i != final;) {
         const auto fin = std::find_if(i, final, [&](const Estilo& e) { return e != *i; });
         if (*i != Estilo{}) {
             tramos.append({static_cast<int>(i - comienzo), static_cast<int>(fin - i), formato(*i)});

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace norvik {
 
@@ -27,6 +28,9 @@ class VistaTexto;
 // Text is copied at once, selection and colours when the work at hand is over: thousands of changes of the
 // selection and of colours while a text is coloured cost the editor one update, and no state between them is
 // ever seen. Colours are layout formats of the lines, not text formats: they are no edits and are cheap.
+//
+// Qt lays a line out as a whole whenever something in it changes, at a cost of the square of its runs. So
+// they are moved with the text before it does, and of a long line those alone are put that can be seen soon.
 
 /// The text box shown by Qt. Must be destroyed before its parent; any receiver of its events may do that.
 class CajaTextoQt final : public CajaTexto {
@@ -60,8 +64,9 @@ public:
     const NoticiasDeCaja& noticias() const { return noticias_; }
     /// `noticias().alDia()` will be told once what is being done is over.
     void pideAlDia();
-    /// The characters of the lines that are seen, wholly or in part.
-    Tramo tramoVisto() const;
+    /// The characters that are seen: one tramo for each line that is, wholly or in part, in their order. Of
+    /// a long line there is no more than what is near, of any other the whole.
+    std::vector<Tramo> tramosVistos() const;
     /// A tramo as the editor has it, when it is up to date.
     QTextCursor cursorDe(const Tramo& tramo) const;
     /// The character at a point of the editor's view.
@@ -128,7 +133,11 @@ private:
     void ponSeleccionEnVista();
     void ponEstilosEnVista();
     void ponEstilosEnLineas(std::int32_t primera, std::int32_t ultima);
-    QList<QTextLayout::FormatRange> formatos(std::int32_t inicio, std::int32_t longitud) const;
+    bool ponEstilosEnLinea(const QTextBlock& bloque);
+    Tramo columnasCerca(const QTextBlock& bloque, int anchos) const;
+    QList<QTextLayout::FormatRange> formatos(std::int32_t inicio, const Tramo& columnas) const;
+    void llevaEstilos(int desde, int quitados, int puestos);
+    void ensuciaLargas();
     QTextCharFormat formato(const Estilo& estilo) const;
     void ensucia(Tramo tramo);
 
@@ -149,7 +158,8 @@ private:
     bool seleccionALaVista_ = false; ///< the editor has the focus
     bool vistaPorRehacer_ = false;   ///< the editor has an edit that could not be done to the model
     bool alDiaPedido_ = false;
-    bool hayNovedad_ = false; ///< since it was last told that the editor is up to date
+    bool otraParteVista_ = false; ///< the editor shows other lines or columns
+    bool hayNovedad_ = false;     ///< since it was last told that the editor is up to date
     bool falloPendiente_ = false;
 };
 

@@ -57,6 +57,14 @@ std::vector<VistaTexto::Linea> VistaTexto::lineasVistas() const {
     return vistas;
 }
 
+VistaTexto::Columnas VistaTexto::columnasVistas(const QTextBlock& linea) const {
+    const auto vistas = lineasVistas(); // which are laid out
+    if (std::ranges::find(vistas, linea.blockNumber(), &Linea::numero) == vistas.end()) return {};
+    const QTextLine trazo = linea.layout()->lineAt(0);
+    const double izquierda = -contentOffset().x();
+    return {trazo.xToCursor(izquierda), trazo.xToCursor(izquierda + viewport()->width())};
+}
+
 std::optional<int> VistaTexto::lineaEn(int altura) const {
     for (const Linea& l : lineasVistas())
         if (altura >= l.arriba && altura < l.arriba + l.alto) return l.numero;

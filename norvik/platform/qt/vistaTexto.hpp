@@ -46,6 +46,12 @@ public:
     };
     /// From the first one down.
     std::vector<Linea> lineasVistas() const;
+    /// Characters [desde, hasta) of a line that are seen of it; none when it is not.
+    struct Columnas {
+        int desde = 0;
+        int hasta = 0;
+    };
+    Columnas columnasVistas(const QTextBlock& linea) const;
     /// The line at a height of the view.
     std::optional<int> lineaEn(int altura) const;
     /// Position in the document of the character at a point of the view.
