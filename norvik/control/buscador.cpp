@@ -6,6 +6,7 @@
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace norvik::inline v0_2 {
 
@@ -55,21 +56,32 @@ void Buscador::cierra() {
     estado_.dialogoAbierto = false;
 }
 
-/// Every match in the whole text; nothing when there is nothing to search with or in.
+/// Every match in the whole text; nothing when there is nothing to search with or in, or whoever waited for
+/// it gave up.
 std::optional<Buscador::Coincidencias> Buscador::coincidencias(const Peticion& peticion) const {
-    if (peticion.texto.empty() || destino_.textoDestino == nullptr) return std::nullopt;
+    const CajaTexto* const caja = destino_.textoDestino;
+    if (peticion.texto.empty() || caja == nullptr) return std::nullopt;
     const auto emparejador = Emparejador::compila(patronDe(peticion), !peticion.coincidirMayusculas);
     if (!emparejador) {
         avisa(u"El texto de búsqueda no es una expresión regular correcta", {}, Icono::Exclamacion);
         return std::nullopt;
     }
+    const std::u16string texto(caja->texto());
+    Coincidencias halladas;
+    const auto busca = [&](const std::stop_token& parada) {
+        halladas = emparejador->ejecuta(texto, Presupuesto(Presupuesto::plazoComun, parada));
+    };
     try {
-        return emparejador->ejecuta(destino_.textoDestino->texto(), Presupuesto());
+        trabaja ? trabaja(busca) : busca({});
+    } catch (const OperacionCancelada&) {
+        return std::nullopt;
     } catch (const BusquedaDesbocada&) {
         avisa(u"La búsqueda se ha interrumpido: la expresión regular necesita demasiado tiempo", {},
               Icono::Exclamacion);
         return std::nullopt;
     }
+    const bool esElMismo = destino_.textoDestino == caja && caja->texto() == texto;
+    return esElMismo ? std::optional(std::move(halladas)) : std::nullopt;
 }
 
 void Buscador::empieza(const Peticion& peticion) {

@@ -9,6 +9,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,6 +52,10 @@ public:
                Icono icono = Icono::Informacion) const;
     /// The dialog gives up its place above all windows (false) while a message is shown, and takes it again.
     std::function<void(bool encima)> ponEncima;
+    /// Does what may take long, and touches no window, where a person can cancel it; without it that is done
+    /// there and then. Who cancels is told nothing. Meanwhile the text may change or go: nothing was found
+    /// then.
+    std::function<void(const std::function<void(std::stop_token)>& trabajo)> trabaja;
 
 private:
     using Coincidencias = std::vector<Coincidencia>;

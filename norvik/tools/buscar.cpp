@@ -4,6 +4,7 @@
 
 #include "norvik/tools/ventanas.hpp"
 #include "norvik/widget/controlNorvik.hpp"
+#include "norvik/widget/ventanasDelControl.hpp"
 
 #include <QEvent>
 #include <QWindow>
@@ -68,6 +69,7 @@ void buscar::conecta() {
 /// Modal windows let only those be used that belong to them, so the dialog goes from window to window.
 void buscar::apunta(ControlNorvik& control) {
     control_ = &control;
+    buscador_.trabaja = [&control](const auto& trabajo) { ventanasDelControl::trabaja(control, trabajo); };
     if (parentWidget() != control.window()) {
         const QPoint donde = pos();
         setParent(control.window(), windowFlags());

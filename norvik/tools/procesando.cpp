@@ -15,7 +15,8 @@ namespace norvik {
 
 Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
     : QFrame(sobre, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), sistema_(sistema),
-      anterior_(sistema.ponAviso(this)), cancelar_(QStringLiteral("&Cancelar"), this) {
+      sistemaVivo_(&sistema.testigo()), anterior_(sistema.ponAviso(this)),
+      cancelar_(QStringLiteral("&Cancelar"), this) {
     nombra(*this, "Procesando", QStringLiteral("Procesando ..."));
     setWindowTitle(QStringLiteral("Procesando ..."));
     setFrameStyle(QFrame::Panel | QFrame::Raised);
@@ -29,7 +30,8 @@ Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
 }
 
 Procesando::~Procesando() {
-    sistema_.ponAviso(anterior_);
+    parada().request_stop();
+    if (!sistemaVivo_.isNull()) sistema_.ponAviso(anterior_);
 }
 
 void Procesando::dispone() {

@@ -6,6 +6,7 @@
 #include "norvik/widget/controlNorvik.hpp"
 
 #include <QFrame>
+#include <QPointer>
 #include <QPushButton>
 
 namespace norvik {
@@ -19,7 +20,7 @@ class Procesando final : public QFrame, public AvisoDeTrabajo {
 public:
     enum class Aparece : std::uint8_t { Ya, SiTarda };
 
-    /// In the middle of a window. The system outlives it.
+    /// In the middle of a window. When it goes before its work is over, that is cancelled.
     Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando = Aparece::Ya);
     Procesando(const Procesando&) = delete;
     Procesando& operator=(const Procesando&) = delete;
@@ -36,6 +37,7 @@ private:
     void cancela();
 
     SistemaQt& sistema_;
+    const QPointer<const QObject> sistemaVivo_; ///< that of a control goes with it
     AvisoDeTrabajo* const anterior_;
     QPushButton cancelar_;
 };

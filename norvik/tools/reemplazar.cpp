@@ -5,6 +5,7 @@
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/ventanas.hpp"
 #include "norvik/widget/controlNorvik.hpp"
+#include "norvik/widget/ventanasDelControl.hpp"
 
 #include <algorithm>
 
@@ -18,6 +19,9 @@ void Reemplazar::muestra(ControlNorvik& control) {
 
 Reemplazar::Reemplazar(ControlNorvik& control) : QDialog(control.window()) {
     busqueda_->destino = control.control().destinoBusqueda();
+    busqueda_->buscador.trabaja = [&control](const auto& trabajo) { // there is a text, so there is a control
+        ventanasDelControl::trabaja(control, trabajo);
+    };
     setObjectName(QStringLiteral("Reemplazar"));
     setWindowTitle(QStringLiteral("Reemplazar"));
     nombraElementos();

@@ -7,6 +7,7 @@
 #include "norvik/tools/acerca.hpp"
 #include "norvik/tools/buscar.hpp"
 #include "norvik/tools/informe.hpp"
+#include "norvik/tools/procesando.hpp"
 #include "norvik/tools/reemplazar.hpp"
 #include "norvik/tools/ventanas.hpp"
 #include "norvik/widget/controlNorvik.hpp"
@@ -68,6 +69,12 @@ void muestraBuscar(ControlNorvik& control) {
 
 void olvida(const ControlNorvik& control) {
     buscar::olvida(control);
+}
+
+void trabaja(ControlNorvik& control, const std::function<void(std::stop_token)>& trabajo) {
+    const VentanaDeAmbito<Procesando> aviso(control.sistema(), control.window(),
+                                            Procesando::Aparece::SiTarda);
+    control.sistema().trabaja(trabajo);
 }
 
 } // namespace norvik::ventanasDelControl

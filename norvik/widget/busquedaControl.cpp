@@ -5,6 +5,7 @@
 #include "norvik/control/buscador.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/widget/controlNorvik.hpp"
+#include "norvik/widget/ventanasDelControl.hpp"
 
 namespace norvik {
 
@@ -35,8 +36,10 @@ void BusquedaControl::sigue(BarraBusqueda::Salto salto) {
     if (estado.ultimaBusqueda.empty()) return control_.control().ShowBuscarDialog();
     estado.apunta(control_.control().destinoBusqueda());
     const bool atras = salto == BarraBusqueda::Salto::Anterior;
-    Buscador().buscaSiguiente({estado.ultimaBusqueda, std::u16string(direccionesBusqueda[atras ? 1 : 2]),
-                               estado.soloPalabrasCompletas, false});
+    Buscador buscador;
+    buscador.trabaja = [this](const auto& trabajo) { ventanasDelControl::trabaja(control_, trabajo); };
+    buscador.buscaSiguiente({estado.ultimaBusqueda, std::u16string(direccionesBusqueda[atras ? 1 : 2]),
+                             estado.soloPalabrasCompletas, false});
 }
 
 void BusquedaControl::atiendeAyudas() {

@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include <functional>
+#include <stop_token>
+
 namespace norvik {
 
 class ControlNorvik;
@@ -19,6 +22,10 @@ void preguntaLinea(ControlNorvik& control);
 void muestraBuscar(ControlNorvik& control);
 /// The control goes, and the find dialog that was for it.
 void olvida(const ControlNorvik& control);
+
+/// Does work that touches no window where a person can cancel it, with a notice once it takes long
+/// (`SistemaQt::trabaja`). The control may go meanwhile.
+void trabaja(ControlNorvik& control, const std::function<void(std::stop_token)>& trabajo);
 
 } // namespace ventanasDelControl
 

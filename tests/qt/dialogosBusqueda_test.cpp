@@ -7,9 +7,11 @@
 #include "norvik/widget/controlNorvik.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -202,6 +204,37 @@ TEST_F(DialogosBusquedaTest, Reemplazar) {
     EXPECT_EQ(norvik.Text(), "ab xyz cabo abc");
 }
 
+/// Nobody has to wait for a pattern that runs away: a notice lets them give up, and nothing is said of it.
+TEST_F(DialogosBusquedaTest, LoQueTardaSeCancela) {
+    norvik.control().Text(std::u16string(3000, u'a') + u"b");
+    const QString desbocada = R"((a|aa)*(a|aa)*(a|aa)*\1c)";
+    int cancelados = 0;
+    QTimer impaciente;
+    QObject::connect(&impaciente, &QTimer::timeout, [&] {
+        QWidget* const aviso = QApplication::activeModalWidget();
+        if (aviso == nullptr || aviso->objectName() != "Procesando") return;
+        cancelados += en<QPushButton>(aviso, "cancelar").isEnabled() ? 1 : 0;
+        QTest::keyClick(aviso, Qt::Key_Escape);
+    });
+    impaciente.start(10);
+    QElapsedTimer reloj;
+    reloj.start();
+    norvik.control().ShowBuscarDialog();
+    escribe(abierto(), "Combo1", desbocada);
+    for (int vez = 0; vez < 2; ++vez) en<QPushButton>(abierto(), "Command1").click();
+    sistema.usos.emplace_back([&](QWidget& dialogo) {
+        escribe(&dialogo, "Combo1", desbocada);
+        en<QPushButton>(&dialogo, "Command3").click();
+    });
+    norvik.control().ShowReemplazarDialog();
+    estadoBusqueda().ultimaBusqueda = desbocada.toStdU16String();
+    norvik.accion(AccionNorvik::BuscarSiguiente)->trigger();
+    EXPECT_EQ(cancelados, 4);
+    EXPECT_LT(reloj.elapsed(), 4 * 2000) << "of three seconds each";
+    EXPECT_TRUE(sistema.mensajes.empty());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 /// The control goes while a dialog is open, or while something is told about its text.
 TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeBusca) {
     std::unique_ptr<QWidget> suForm;
@@ -218,6 +251,13 @@ TEST_F(DialogosBusquedaTest, ElControlSeVaMientrasSeBusca) {
     en<QPushButton>(abierto(), "Command1").click(); // its message waits for an answer
     EXPECT_EQ(suForm, nullptr);
     EXPECT_EQ(abierto(), nullptr);
+    ControlNorvik& conTarea = otro();
+    conTarea.control().Text(std::u16string(3000, u'a') + u"b");
+    conTarea.control().ShowBuscarDialog();
+    escribe(abierto(), "Combo1", R"((a|aa)*(a|aa)*(a|aa)*\1c)");
+    QTimer::singleShot(0, [&] { seVa(); });
+    en<QPushButton>(abierto(), "Command1").click(); // searched while events run
+    EXPECT_EQ(suForm, nullptr);
     for (const char* const boton : {"Command1", "Command3", ""}) {
         ControlNorvik& conReemplazar = otro();
         QTimer::singleShot(0, suForm.get(), [&] {

@@ -56,6 +56,8 @@ public:
 
     /// Printing goes to a PDF file instead of the default printer.
     void imprimeEnFichero(const QString& fichero) { fichero_ = fichero; }
+    /// Goes with this object.
+    const QObject& testigo() const { return testigo_; }
     /// From now on work has this notice, or none; the one before.
     AvisoDeTrabajo* ponAviso(AvisoDeTrabajo* aviso) { return std::exchange(aviso_, aviso); }
 
