@@ -353,6 +353,36 @@ TEST_F(TallerTest, TrasMasCambiosDeLosQueSeCuentanHayUnTextoNuevo) {
     }
 }
 
+// More lines than the control numbers: each key is too much for it, of which a person hears once, until they
+// fit.
+TEST_F(TallerTest, UnLimiteQueSePasaSeDiceUnaVez) {
+    ventana.show();
+    QWidget& editor = norvik().caja().ventana();
+    QStatusBar& barra = *ventana.findChild<QStatusBar*>();
+    const auto pulsa = [&](Qt::Key tecla, Qt::KeyboardModifiers teclas = Qt::NoModifier) {
+        QTest::keyClick(&editor, tecla, teclas);
+        QCoreApplication::processEvents();
+        const QString dice = barra.currentMessage();
+        barra.clearMessage(); // as other words do
+        return dice.startsWith("Desbordamiento: ") ? 1 : 0;
+    };
+    QApplication::clipboard()->setText(QString("a\n").repeated(33'000));
+    for (int vez = 0; vez < 2; ++vez) {
+        int dichos = 0;
+        dichos += pulsa(Qt::Key_Insert, Qt::ShiftModifier);
+        for (const Qt::Key tecla :
+             {Qt::Key_Up, Qt::Key_Down, Qt::Key_X, Qt::Key_Return, Qt::Key_Up, Qt::Key_Z})
+            dichos += pulsa(tecla);
+        EXPECT_EQ(dichos, 1);
+        EXPECT_TRUE(norvik().Text().contains("z")) << "edited all the same";
+        ordena(a.seleccionarTodo);
+        dichos = pulsa(Qt::Key_Delete);
+        EXPECT_EQ(dichos, 0);
+        EXPECT_EQ(norvik().Text(), "");
+    }
+    EXPECT_TRUE(dialogos.toma().isEmpty());
+}
+
 TEST_F(TallerTest, NingunNombreSeTomaPorUnaPagina) {
     const QString imagen = "<img src=/dev/zero>";
     norvik().NomLenguaje(imagen);
