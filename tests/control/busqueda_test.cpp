@@ -2,10 +2,14 @@
 
 // Searching and replacing, as the find and the replace dialog do it.
 #include "apoyo/anfitrion.hpp"
+#include "norvik/base/errores.hpp"
 #include "norvik/control/buscador.hpp"
 #include "norvik/control/historial.hpp"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
 
 using namespace norvik;
 using namespace norvik::apoyo;
@@ -124,6 +128,26 @@ TEST_F(BusquedaTest, LaExpresionDesbocadaSeDice) {
     ASSERT_EQ(a.sistema.mensajes.size(), 1U);
     EXPECT_TRUE(a.sistema.mensajes[0].texto.starts_with(u"La búsqueda se ha interrumpido"));
     EXPECT_EQ(a.norvik.Text(), antes);
+}
+
+// What was found in a text that is another by then is not put into that one, and who gives up hears nothing.
+TEST_F(BusquedaTest, MientrasSeBusca) {
+    const std::pair<std::function<void()>, std::string> casos[] = {
+        {[] {}, "x x[] | Reemplazo completado: Se han hecho 2 reemplazos"},
+        {[&] { a.norvik.Text(u"a"); }, "[]a"},
+        {[&] { a.norvik.Text(u"ba ba"); }, "[]ba ba"},
+        {[] { throw OperacionCancelada(); }, "[]ab ab"},
+        {[] { estadoBusqueda() = {}; }, "[]ab ab"}, // the control is gone, as far as the search knows
+    };
+    for (const auto& [sucede, queda] : casos) {
+        empieza(u"ab ab", 0);
+        buscador.trabaja = [&](const auto& trabajo) {
+            trabajo({});
+            sucede();
+        };
+        buscador.reemplazaTodo({u"ab"}, u"x");
+        EXPECT_EQ(foto(), queda);
+    }
 }
 
 TEST_F(BusquedaTest, Reemplazar) {
