@@ -139,14 +139,14 @@ TEST_F(BusquedaTest, MientrasSeBusca) {
         {[] { throw OperacionCancelada(); }, "[]ab ab"},
         {[] { estadoBusqueda() = {}; }, "[]ab ab"}, // the control is gone, as far as the search knows
     };
-    for (const auto& [sucede, queda] : casos) {
+    for (const auto& caso : casos) {
         empieza(u"ab ab", 0);
         buscador.trabaja = [&](const auto& trabajo) {
             trabajo({});
-            sucede();
+            caso.first();
         };
         buscador.reemplazaTodo({u"ab"}, u"x");
-        EXPECT_EQ(foto(), queda);
+        EXPECT_EQ(foto(), caso.second);
     }
 }
 
