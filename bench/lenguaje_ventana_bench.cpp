@@ -2,8 +2,8 @@
 
 // Times the language window while a person types in the specification and in the text: from the end of the
 // pause after a word to all panels shown and painted, and how long the window's thread is held by a key, by
-// the clock. Then the film's jump in its panel, and a drawn automaton. The window is drawn in memory, with no
-// panel behind another one.
+// the clock. Then the film's jump in its panel, and a drawn automaton. The window is drawn in memory, as
+// large as a usual screen, and its panels are one beside the other: a tab behind others is not seen.
 #include "lenguaje.hpp"
 
 #include "dialogos.hpp"
@@ -60,19 +60,23 @@ constexpr Documentos deC{"ejemplos/c/c.nvk", "ejemplos/c/bien/grande.c"};
 constexpr Documentos pequenos{"ejemplos/calculadora/calculadora.nvk",
                               "ejemplos/calculadora/bien/interes.txt"};
 
-/// Both files open, and no panel behind another one, so that all of them are painted.
+const QStringList deLaEspecificacion{QStringLiteral("Problemas"), QStringLiteral("Árbol"),
+                                     QStringLiteral("Conjuntos"), QStringLiteral("Tabla")};
+
+/// Both files open, and these panels to be seen.
 class Ventana {
 public:
-    explicit Ventana(const Documentos& documentos) {
-        ventana.resize(3000, 2000);
+    explicit Ventana(const Documentos& documentos, const QStringList& paneles = deLaEspecificacion) {
+        ventana.resize(1920, 1080);
         ventana.trae();
         ventana.abre(QString::fromStdString(delRepositorio(documentos.especificacion).string()));
         ventana.abreTexto(QString::fromStdString(delRepositorio(documentos.texto).string()));
-        int numero = 0; // one beside the other: a tab behind others is not seen
+        int numero = 0;
         for (auto* const panel : ventana.findChildren<taller::Panel*>()) {
+            panel->setVisible(paneles.contains(panel->titulo()));
+            if (panel->isHidden()) continue;
             const bool abajo = numero++ % 2 == 0;
             ventana.addDockWidget(abajo ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea, panel);
-            panel->show();
         }
         espera();
     }
@@ -179,7 +183,8 @@ BENCHMARK(textoPequeno)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterati
 
 /// The film of the text goes anywhere, and the panel shows it.
 void saltoDeLaPelicula(benchmark::State& estado) {
-    Ventana v(deC);
+    Ventana v(deC, deLaEspecificacion + QStringList{QStringLiteral("Pasos"), QStringLiteral("Autómata"),
+                                                    QStringLiteral("Diagramas")});
     taller::PanelPasos& panel = v.ventana.pasos();
     auto& paso = *panel.findChild<QSpinBox*>();
     while (panel.pelicula() == nullptr) v.vuelta();
@@ -200,7 +205,7 @@ BENCHMARK(saltoDeLaPelicula)->Unit(benchmark::kMillisecond)->UseManualTime()->It
 
 /// From a language of sixty states to its drawing; each time another one.
 void dibujoDe60Estados(benchmark::State& estado) {
-    Ventana v(pequenos);
+    Ventana v(pequenos, {QStringLiteral("Problemas"), QStringLiteral("Autómata")});
     int numero = 0;
     for ([[maybe_unused]] auto vuelta : estado) {
         QString especificacion =

@@ -121,7 +121,7 @@ TEST_F(PasosTest, ElAnalisisHaciaDelanteYHaciaAtras) {
               "pila, queda a la vista el estado 0, y con T pasa al estado 2.");
     EXPECT_EQ(filas(), QStringList({"(fondo) 0", "num 3"}));
     EXPECT_TRUE(pila.topLevelItem(1)->font(0).bold()); // the reduction takes it
-    EXPECT_EQ(toma<DeRegla>().back().regla, 3);
+    EXPECT_EQ(toma<DeCelda>().back().estado, 3);
     teclas({Qt::Key_Right, Qt::Key_Right, Qt::Key_Right});
     const auto celdas = toma<DeCelda>();
     ASSERT_EQ(celdas.size(), 3U);

@@ -20,6 +20,11 @@ namespace norvik::taller {
 
 namespace {
 
+/// The chosen rule stands out.
+double grosorDe(bool elegida, double grosor) {
+    return (elegida ? 3.0 : 1.0) * grosor;
+}
+
 class PintorReglas {
 public:
     PintorReglas(const GramaticaLR& g, const QFont& letra, const QPalette& colores, std::int16_t elegida,
@@ -44,7 +49,7 @@ private:
         letra.setBold(true);
         return letra;
     }
-    QPen pluma(std::int16_t regla) const { return {color_, (regla == elegida_ ? 3.0 : 1.0) * grosor_}; }
+    QPen pluma(std::int16_t regla) const { return {color_, grosorDe(regla == elegida_, grosor_)}; }
     QString texto(Simbolo simbolo) const { return aQString(g_.partidas.texto(simbolo)); }
     double anchoDe(Simbolo simbolo) const { return medidas_.horizontalAdvance(texto(simbolo)) + 2 * aire; }
     double anchoDe(std::int16_t regla) const {
@@ -135,6 +140,17 @@ private:
 void pintaReglas(const GramaticaLR& gramatica, const QFont& letra, const QPalette& colores,
                  std::int16_t elegida, QGraphicsScene& escena) {
     PintorReglas(gramatica, letra, colores, elegida, escena).pinta();
+}
+
+void realzaRegla(std::int16_t regla, const QFont& letra, QGraphicsScene& escena) {
+    const double grosor = grosorDeLinea(letra);
+    for (QGraphicsItem* const pieza : escena.items()) {
+        auto* const linea = qgraphicsitem_cast<QGraphicsPathItem*>(pieza);
+        if (linea == nullptr) continue;
+        QPen pluma = linea->pen();
+        pluma.setWidthF(grosorDe(linea->data(0).toInt() == regla, grosor));
+        linea->setPen(pluma);
+    }
 }
 
 } // namespace norvik::taller

@@ -18,5 +18,7 @@ namespace norvik::taller {
 /// out.
 void pintaReglas(const GramaticaLR& gramatica, const QFont& letra, const QPalette& colores,
                  std::int16_t elegida, QGraphicsScene& escena);
+/// Of a drawing with the same letters: another rule stands out.
+void realzaRegla(std::int16_t regla, const QFont& letra, QGraphicsScene& escena);
 
 } // namespace norvik::taller

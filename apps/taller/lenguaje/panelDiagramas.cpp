@@ -65,7 +65,7 @@ void PanelDiagramas::selecciona(const Eleccion& eleccion) {
     if (!seVe()) return static_cast<void>(porElegir_ = eleccion);
     const auto regla = reglaDe(*estudio_, eleccion);
     if (!regla || std::exchange(elegida_, *regla) == *regla) return;
-    vista_.repinta();
+    realzaRegla(*regla, vista_.font(), *vista_.scene());
     vista_.acerca(*regla);
 }
 

@@ -225,11 +225,9 @@ void PanelPasos::va(std::size_t momento) {
     muestra();
     if (!alDia()) return;
     const Pelicula::Siguiente siguiente = suya.siguiente(momento_);
-    const std::int16_t regla = suya.accion(momento_).regla;
     const std::int16_t estado = suya.estado(momento_);
     emit elegido(EnTexto{siguiente.rango});
-    if (regla != 0) emit elegido(DeRegla{regla});
-    if (siguiente.codigo >= 0)
+    if (siguiente.codigo >= 0) // it knows its rule
         emit elegido(DeCelda{estado, siguiente.codigo});
     else
         emit elegido(DeEstado{estado});

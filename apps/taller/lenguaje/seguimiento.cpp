@@ -18,7 +18,7 @@ Seguimiento::Seguimiento(std::function<Textos()> textos, Estudia estudia)
     pausa_.setTimerType(Qt::PreciseTimer); // it is short already
     connect(&pausa_, &QTimer::timeout, this, &Seguimiento::empieza);
     paciencia_.setSingleShot(true);
-    paciencia_.setInterval(60ms);
+    paciencia_.setInterval(20ms);
     connect(&paciencia_, &QTimer::timeout, this, [this] { da(sinArreglos_); });
 }
 

@@ -199,6 +199,8 @@ void VentanaLenguaje::conecta() {
     using namespace std::chrono_literals;
     atraso_.setSingleShot(true);
     atraso_.setInterval(400ms);
+    porMostrar_.setSingleShot(true);
+    connect(&porMostrar_, &QTimer::timeout, this, [this] { sinFallos([this] { muestra(); }); });
     connect(&atraso_, &QTimer::timeout, this, [this] { sinFallos([this] { marca(); }); });
     conecta(especificacion_);
     conecta(texto_);
@@ -401,24 +403,30 @@ void VentanaLenguaje::cambio() {
 }
 
 void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
+    if (porMostrar_.isActive()) muestra();
     const bool otroLenguaje = !ultimo_ || ultimo_->deLenguaje != estudio->deLenguaje;
     ultimo_ = estudio;
     historias_.pon(estudio->deLenguaje);
     for (Panel* const panel : paneles())
         if (panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
     if (otroLenguaje) especificacion_.norvik().ponDiagnosticos(estudio->deLenguaje->diagnosticos);
-    if (estudio->deLenguaje->lenguaje) muestra(estudio);
-    marca();
-    sigueCursor();
+    if (estudio->deLenguaje->lenguaje)
+        porMostrar_.start();
+    else
+        marca();
 }
 
-void VentanaLenguaje::muestra(const std::shared_ptr<const Estudio>& estudio) {
-    const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != estudio->deLenguaje;
-    mostrado_ = estudio;
-    if (otroLenguaje) carga(*estudio->deLenguaje->lenguaje, texto_.norvik());
-    texto_.norvik().ponDiagnosticos(estudio->analisis.diagnosticos);
+/// The last one, in the panels that show what compiles.
+void VentanaLenguaje::muestra() {
+    porMostrar_.stop();
+    const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
+    mostrado_ = ultimo_;
+    if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
+    texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
     for (Panel* const panel : paneles())
-        if (!panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
+        if (!panel->muestraLoQueNoCompila()) panel->ponEstudio(mostrado_);
+    marca();
+    sigueCursor();
 }
 
 /// What is older than the texts says so.

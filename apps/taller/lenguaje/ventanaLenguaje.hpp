@@ -134,7 +134,7 @@ private:
     // What is known of them.
     void cambio();
     void recibe(const std::shared_ptr<const Estudio>& estudio);
-    void muestra(const std::shared_ptr<const Estudio>& estudio);
+    void muestra();
     void marca();
     void sigueCursor();
     void elige(const Eleccion& eleccion, const Panel* desde);
@@ -175,6 +175,8 @@ private:
     QLabel estado_, formato_, lugar_;
     Uso uso_;
     Seguimiento seguimiento_;
+    /// The problems come first: keys pass between them and the other panels.
+    QTimer porMostrar_;
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
     std::shared_ptr<const Estudio> mostrado_; ///< the last one with a language, which the other panels show
