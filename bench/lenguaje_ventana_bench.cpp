@@ -91,7 +91,7 @@ public:
     /// Until the panels are up to date and painted, repairs and pictures apart.
     void espera() {
         do vuelta();
-        while (!ventana.seguimiento().alDia());
+        while (!ventana.seguimiento().alDia() || ventana.mostrando());
         vuelta();
     }
     void pulsa(taller::EditorTexto& editor, Qt::Key tecla, const QString& texto) {

@@ -29,7 +29,8 @@ struct ConVentanaLenguaje : testing::Test {
     }
     /// Until what was written is known.
     void espera() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.seguimiento().completo(); }));
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return ventana.seguimiento().completo() && !ventana.mostrando(); }));
         QApplication::processEvents();
     }
 

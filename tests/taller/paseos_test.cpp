@@ -28,7 +28,8 @@ struct PaseoTest : testing::Test {
     VentanaLenguaje& ventana() { return taller.ventanaLenguaje(); }
     /// Until what was done is known.
     void espera() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return ventana().seguimiento().completo(); }));
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return ventana().seguimiento().completo() && !ventana().mostrando(); }));
         QApplication::processEvents();
     }
     void esperaElArreglo() {

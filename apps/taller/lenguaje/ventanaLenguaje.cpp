@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScopedValueRollback>
@@ -30,6 +31,7 @@ namespace {
 const QString claveGeometria = QStringLiteral("lenguaje/geometria");
 const QString claveEstado = QStringLiteral("lenguaje/estado");
 const QString claveEditores = QStringLiteral("lenguaje/editores");
+constexpr std::chrono::milliseconds turno{4}; ///< what is shown in one: to be painted takes as long again
 
 } // namespace
 
@@ -403,30 +405,45 @@ void VentanaLenguaje::cambio() {
 }
 
 void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
-    if (porMostrar_.isActive()) muestra();
+    acabaDeMostrar();
     const bool otroLenguaje = !ultimo_ || ultimo_->deLenguaje != estudio->deLenguaje;
     ultimo_ = estudio;
     historias_.pon(estudio->deLenguaje);
     for (Panel* const panel : paneles())
         if (panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
     if (otroLenguaje) especificacion_.norvik().ponDiagnosticos(estudio->deLenguaje->diagnosticos);
-    if (estudio->deLenguaje->lenguaje)
-        porMostrar_.start();
-    else
-        marca();
+    if (!estudio->deLenguaje->lenguaje) return marca();
+    dados_ = 0;
+    muestra();
 }
 
-/// The last one, in the panels that show what compiles.
+/// The last one, which compiles: in the text, then in the panels. Those that take long come in turns of the
+/// event loop.
 void VentanaLenguaje::muestra() {
-    porMostrar_.stop();
-    const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
-    mostrado_ = ultimo_;
-    if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
-    texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
-    for (Panel* const panel : paneles())
-        if (!panel->muestraLoQueNoCompila()) panel->ponEstudio(mostrado_);
+    QElapsedTimer reloj;
+    reloj.start();
+    if (mostrado_ != ultimo_) {
+        const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
+        mostrado_ = ultimo_;
+        if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
+        texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
+    }
+    for (const auto suyos = paneles(); dados_ < suyos.size(); ++dados_) {
+        Panel& panel = *suyos[dados_];
+        if (panel.muestraLoQueNoCompila()) continue;
+        if (panel.isVisible() && reloj.hasExpired(turno.count())) return porMostrar_.start();
+        panel.ponEstudio(mostrado_);
+    }
     marca();
     sigueCursor();
+}
+
+/// For who needs them all to show the same.
+void VentanaLenguaje::acabaDeMostrar() {
+    while (porMostrar_.isActive()) {
+        porMostrar_.stop();
+        muestra();
+    }
 }
 
 /// What is older than the texts says so.
@@ -461,6 +478,7 @@ void VentanaLenguaje::sigueCursor() {
 }
 
 void VentanaLenguaje::elige(const Eleccion& eleccion, const Panel* desde) {
+    acabaDeMostrar();
     const auto& estudio = estudioDe(*desde);
     if (eligiendo_ || !estudio) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
@@ -505,6 +523,7 @@ bool VentanaLenguaje::hayProblemaEn(const NombreEscrito& nombre) const {
 
 /// A repair is one of the text that was studied, by the study that its panel shows.
 void VentanaLenguaje::arregla(const Panel& desde, Lado lado, const Arreglo& arreglo) {
+    acabaDeMostrar();
     EditorTexto& editor = editorDe(lado);
     const auto& estudio = desde.muestraLoQueNoCompila() ? ultimo_ : mostrado_;
     if (!estudio) return;

@@ -85,6 +85,8 @@ public:
     PanelConflicto& conflicto() { return conflicto_; }
     PanelDiagramas& diagramas() { return diagramas_; }
     Seguimiento& seguimiento() { return seguimiento_; }
+    /// Some panels have still to be given what was studied last.
+    bool mostrando() const { return porMostrar_.isActive(); }
     QMenu& ver() { return ver_; }
 
 signals:
@@ -135,6 +137,7 @@ private:
     void cambio();
     void recibe(const std::shared_ptr<const Estudio>& estudio);
     void muestra();
+    void acabaDeMostrar();
     void marca();
     void sigueCursor();
     void elige(const Eleccion& eleccion, const Panel* desde);
@@ -175,8 +178,8 @@ private:
     QLabel estado_, formato_, lugar_;
     Uso uso_;
     Seguimiento seguimiento_;
-    /// The problems come first: keys pass between them and the other panels.
-    QTimer porMostrar_;
+    QTimer porMostrar_;                       ///< another turn: keys pass between
+    std::size_t dados_ = 0;                   ///< panels that have what was studied last
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
     std::shared_ptr<const Estudio> mostrado_; ///< the last one with a language, which the other panels show
