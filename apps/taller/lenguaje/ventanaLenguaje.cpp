@@ -3,6 +3,7 @@
 #include "ventanaLenguaje.hpp"
 
 #include "../claseFichero.hpp"
+#include "../lenguaje.hpp"
 #include "../rutas.hpp"
 #include "correspondencias.hpp"
 #include "enControl.hpp"
@@ -264,6 +265,9 @@ bool VentanaLenguaje::empieza(std::u16string_view especificacion, std::u16string
         if (!puedePerder()) return;
         especificacion_.documento().empieza(especificacion);
         texto_.documento().empieza(texto);
+        CajaTextoQt& caja = especificacion_.norvik().caja();
+        if (caja.texto() == plantilla) // the language is written behind it
+            caja.atiende([&] { caja.selecciona(static_cast<std::int32_t>(plantilla.size()), 0); });
         hecho = true;
     });
     return hecho;
