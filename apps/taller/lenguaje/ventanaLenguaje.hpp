@@ -101,8 +101,6 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
-    enum class Foco : std::uint8_t { Queda, Va };
-
     std::array<Panel*, 9> paneles() {
         return {&problemas_, &arbol_, &conjuntos_, &tabla_,    &pasos_,
                 &automata_,  &usos_,  &conflicto_, &diagramas_};
