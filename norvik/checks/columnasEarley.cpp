@@ -15,15 +15,27 @@ namespace norvik::inline v0_2 {
 
 ColumnasEarley::ColumnasEarley(const exacto::Producciones& producciones, const DerivacionesMinimas& minimas)
     : producciones_(producciones), minimas_(minimas) {
+    numeraItems();
     columnas_.emplace_back();
+    largos_.push_back(0);
     predice(0, producciones_.inicial());
     cierra(0);
+}
+
+void ColumnasEarley::numeraItems() {
+    std::size_t items = 0;
+    primerItem_.push_back(0); // rules count from 1
+    for (int regla = 1; regla <= producciones_.reglas().numReglas(); ++regla) {
+        primerItem_.push_back(items);
+        items += producciones_.cuerpo(static_cast<std::int16_t>(regla)).size() + 1;
+    }
+    puestos_.resize(items);
 }
 
 std::size_t ColumnasEarley::avanza(std::size_t columna, Simbolo token) {
     const std::size_t nueva = columnas_.size();
     columnas_.emplace_back();
-    puestos_.clear();
+    largos_.push_back(largos_[columna] + 1);
     for (const Item& item : columnas_[columna])
         if (tras(item) == token)
             pon(nueva, {item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen});
@@ -41,9 +53,19 @@ Cuerpo ColumnasEarley::resto(const Item& item, std::size_t desde) const {
     return producciones_.cuerpo(item.regla).subspan(static_cast<std::size_t>(item.punto) + desde);
 }
 
+// Those of one column began in columns of its own beginning: no two are of the same length.
+std::vector<bool>::reference ColumnasEarley::puesto(const Item& item) {
+    const std::size_t primero = primerItem_[static_cast<std::size_t>(item.regla)];
+    std::vector<bool>& suyos = puestos_[primero + static_cast<std::size_t>(item.punto)];
+    const std::size_t largo = largos_[item.origen];
+    if (largo >= suyos.size()) suyos.resize(largo + 1);
+    return suyos[largo];
+}
+
 void ColumnasEarley::pon(std::size_t cual, Item item) {
-    const auto lugar = (static_cast<std::int32_t>(item.regla) << 16) + item.punto;
-    if (!puestos_.emplace(lugar, item.origen).second) return;
+    auto esta = puesto(item);
+    if (esta) return;
+    esta = true;
     columnas_[cual].push_back(item);
     ++trabajo_;
 }
@@ -69,6 +91,7 @@ void ColumnasEarley::cierra(std::size_t cual) {
             if (producciones_.esAnulable(simbolo)) pon(cual, pasado);
         }
     }
+    for (const Item& item : columnas_[cual]) puesto(item) = false;
 }
 
 bool ColumnasEarley::acepta(std::size_t columna) const {

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <set>
-#include <utility>
 #include <vector>
 
 namespace norvik::inline v0_2 {
@@ -47,6 +46,8 @@ private:
 
     Simbolo tras(const Item& item) const;
     Cuerpo resto(const Item& item, std::size_t desde) const;
+    void numeraItems();
+    std::vector<bool>::reference puesto(const Item& item);
     void cierra(std::size_t cual);
     void pon(std::size_t cual, Item item);
     void predice(std::size_t cual, Simbolo variable);
@@ -54,7 +55,10 @@ private:
     const exacto::Producciones& producciones_;
     const DerivacionesMinimas& minimas_;
     std::vector<Columna> columnas_;
-    std::set<std::pair<std::int32_t, std::size_t>> puestos_; // of the column being made
+    std::vector<std::size_t> primerItem_; // of each rule, in the numbering of all items
+    std::vector<std::size_t> largos_;     // of the beginning of each column
+    // Of each item, whether the column being made has it from a beginning of so many tokens.
+    std::vector<std::vector<bool>> puestos_;
     std::size_t trabajo_ = 0;
 };
 

@@ -10,6 +10,7 @@ Panel::Panel(const QString& nombre, const QString& titulo, QWidget* padre)
     : QDockWidget(titulo, padre), titulo_(titulo) {
     using namespace std::chrono_literals;
     setObjectName(nombre);
+    setWidget(&marco_);
     espera_.setSingleShot(true);
     espera_.setInterval(200ms);
     connect(&espera_, &QTimer::timeout, this, [this] { protege([this] { actualizaTitulo(); }); });

@@ -4,6 +4,7 @@
 
 #include "eleccion.hpp"
 #include "estudio.hpp"
+#include "marco.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/fallos.hpp"
@@ -46,6 +47,8 @@ protected:
     /// `nombre` is what the window's state knows it by.
     Panel(const QString& nombre, const QString& titulo, QWidget* padre);
 
+    /// What it consists of.
+    void ponDentro(QWidget& dentro) { marco_.pon(dentro); }
     /// The person sees it.
     bool seVe() const { return seVe_; }
     /// The person sees it now, or does not any more.
@@ -67,6 +70,7 @@ private:
     void actualizaTitulo();
 
     QString titulo_;
+    Marco marco_{this};
     QTimer espera_; ///< until work takes long enough to be told
     bool seVe_ = false;
     bool atrasado_ = false;

@@ -77,6 +77,7 @@ void PanelAnalisis::alVerse() {
 
 void PanelAnalisis::alCambiarLetra() {
     vista_.setIndentation(fontMetrics().horizontalAdvance(u'x') * 2);
+    camino_.setMinimumHeight(2 * fontMetrics().lineSpacing()); // with the rule's and without
 }
 
 void PanelAnalisis::compone() {
@@ -107,7 +108,7 @@ void PanelAnalisis::compone() {
     columna_.addWidget(&camino_);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
 }
 
 void PanelAnalisis::componeBusqueda() {
@@ -161,7 +162,8 @@ void PanelAnalisis::muestra() {
     vista_.horizontalScrollBar()->setValue(lado);
     botones_.activa(modelo_.rowCount() > 0);
     dibuja();
-    camino_.setText(modelo_.rowCount() > 0 ? QString() : QStringLiteral("El texto no tiene árbol."));
+    camino_.setText(modelo_.rowCount() > 0 ? modelo_.camino(vista_.currentIndex())
+                                           : QStringLiteral("El texto no tiene árbol."));
 }
 
 // ---- what is open

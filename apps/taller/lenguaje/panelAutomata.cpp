@@ -92,7 +92,7 @@ void PanelAutomata::compone() {
     columna_.addWidget(&partes_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&estados_);
-    setWidget(&centro_);
+    ponDentro(centro_);
 }
 
 void PanelAutomata::ponEstudio(std::shared_ptr<const Estudio> estudio) {

@@ -88,7 +88,7 @@ void PanelConflicto::compone() {
     columna_.addWidget(&curas_);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&lista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
 }
 
 void PanelConflicto::ponEstudio(std::shared_ptr<const Estudio> estudio) {

@@ -53,7 +53,7 @@ PanelConjuntos::PanelConjuntos(QWidget* padre)
     centro_.setStretchFactor(0, 3);
     centro_.setStretchFactor(1, 2);
     centro_.setFocusProxy(&tabla_);
-    setWidget(&centro_);
+    ponDentro(centro_);
     connect(&tabla_, &QTableWidget::currentCellChanged, this,
             [this](int fila) { protege([&] { elige(fila); }); });
     connect(&tabla_, &QTableWidget::cellClicked, this, [this](int fila) { protege([&] { elige(fila); }); });
@@ -65,22 +65,21 @@ void PanelConjuntos::ponEstudio(std::shared_ptr<const Estudio> estudio) {
     if (!esElMismo) llena();
 }
 
+/// Of one key to the next nearly all of it stays: only what is another is set.
 void PanelConjuntos::llena() {
     const QScopedValueRollback<bool> callado(callado_, true);
     const QString elegida = tabla_.currentRow() < 0 ? QString() : tabla_.item(tabla_.currentRow(), 0)->text();
-    tabla_.clearContents();
-    tabla_.setRowCount(0);
-    detalle_.clear();
     const GramaticaLR* const g = estudio_->gramatica();
-    if (g == nullptr) return;
-    const std::vector<Simbolo> variables = variablesDe(g->partidas);
+    const std::vector<Simbolo> variables = g == nullptr ? std::vector<Simbolo>() : variablesDe(g->partidas);
     tabla_.setRowCount(static_cast<int>(variables.size()));
+    if (variables.empty()) return detalle_.clear();
+    bool hayOtroNombre = false;
     int fila = 0;
-    for (const Simbolo variable : variables) pon(fila++, variable);
+    for (const Simbolo variable : variables) hayOtroNombre = pon(fila++, variable) || hayOtroNombre;
     const int queda = std::max(0, filaDe(elegida));
     tabla_.setCurrentCell(queda, Variable); // coming here chooses nothing
     detalla(queda);
-    ajusta();
+    if (hayOtroNombre) ajusta();
 }
 
 void PanelConjuntos::ajusta() {
@@ -88,17 +87,24 @@ void PanelConjuntos::ajusta() {
     tabla_.setColumnWidth(Primeros, fontMetrics().horizontalAdvance(u'x') * 40);
 }
 
-void PanelConjuntos::pon(int fila, std::int32_t variable) {
+/// Whether the row had another name or none.
+bool PanelConjuntos::pon(int fila, std::int32_t variable) {
     const GramaticaLR& g = *estudio_->gramatica();
     const std::array<QString, numeroDeColumnas> textos = {aQString(g.partidas.texto(variable)),
                                                           esAnulable(g, variable) ? QStringLiteral("sí")
                                                                                   : QStringLiteral("no"),
                                                           primerosDe(g, variable), siguientesDe(g, variable)};
+    bool esOtroNombre = false;
     for (int columna = 0; columna < numeroDeColumnas; ++columna) {
-        auto& celda = nuevo<QTableWidgetItem>(textos[static_cast<std::size_t>(columna)]);
-        if (columna >= Primeros) celda.setToolTip(ayudaLlana(celda.text()));
-        tabla_.setItem(fila, columna, &celda);
+        const QString& texto = textos[static_cast<std::size_t>(columna)];
+        QTableWidgetItem* celda = tabla_.item(fila, columna);
+        if (celda != nullptr && celda->text() == texto) continue;
+        if (celda == nullptr) tabla_.setItem(fila, columna, celda = &nuevo<QTableWidgetItem>());
+        celda->setText(texto);
+        if (columna >= Primeros) celda->setToolTip(ayudaLlana(texto));
+        esOtroNombre = esOtroNombre || columna == Variable;
     }
+    return esOtroNombre;
 }
 
 /// −1 when it has none.
@@ -111,7 +117,8 @@ int PanelConjuntos::filaDe(const QString& variable) const {
 void PanelConjuntos::detalla(int fila) {
     const QString variable = tabla_.item(fila, Variable)->text();
     const GramaticaLR& g = *estudio_->gramatica();
-    detalle_.setPlainText(conjuntosEnPalabras(g, g.partidas.simbolo(vistaDe(variable))));
+    const QString palabras = conjuntosEnPalabras(g, g.partidas.simbolo(vistaDe(variable)));
+    if (palabras != detalle_.toPlainText()) detalle_.setPlainText(palabras);
 }
 
 void PanelConjuntos::selecciona(const Eleccion& eleccion) {

@@ -34,7 +34,7 @@ private:
 
     void llena();
     void ajusta();
-    void pon(int fila, std::int32_t variable);
+    bool pon(int fila, std::int32_t variable);
     int filaDe(const QString& variable) const;
     void detalla(int fila);
     void elige(int fila);

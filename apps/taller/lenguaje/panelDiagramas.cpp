@@ -23,7 +23,7 @@ PanelDiagramas::PanelDiagramas(Dialogos& dialogos, QWidget* padre)
     columna_.addWidget(&vista_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
     connect(&vista_, &VistaDibujo::elegido, this, [this](int regla) {
         protege([&] {
             selecciona(DeRegla{static_cast<std::int16_t>(regla)});

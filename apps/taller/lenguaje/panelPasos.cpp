@@ -93,7 +93,7 @@ void PanelPasos::compone() {
     partes_.addWidget(&pila_);
     partes_.setChildrenCollapsible(false);
     partes_.setFocusProxy(&pila_);
-    setWidget(&partes_);
+    ponDentro(partes_);
 }
 
 void PanelPasos::conecta(QAction& accion, const QString& texto, const QKeySequence& tecla,

@@ -101,7 +101,7 @@ void PanelProblemas::compone() {
     centro_.setStretchFactor(0, 3);
     centro_.setStretchFactor(1, 2);
     centro_.setFocusProxy(&lista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
 }
 
 /// It has drawn trees.

@@ -57,7 +57,7 @@ void PanelTabla::compone() {
     columna_.addWidget(&vista_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
 }
 
 void PanelTabla::ponEstudio(std::shared_ptr<const Estudio> estudio) {
@@ -115,6 +115,7 @@ void PanelTabla::ajusta() {
             c, std::max(anchos[static_cast<std::size_t>(c)], letra.horizontalAdvance(simbolo)) + margen);
     }
     vista_.verticalHeader()->setDefaultSectionSize(letra.height() * 3 / 2);
+    palabras_.setMinimumHeight(2 * letra.lineSpacing()); // with those of a rule and without
 }
 
 Lamina PanelTabla::lamina() const {

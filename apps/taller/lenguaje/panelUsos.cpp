@@ -48,7 +48,7 @@ PanelUsos::PanelUsos(QWidget* padre) : Panel(QStringLiteral("usos"), QStringLite
     columna_.addWidget(&lista_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&lista_);
-    setWidget(&centro_);
+    ponDentro(centro_);
     connect(&lista_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* fila) {
         protege([&] {
             const Rango* const lugar = lugarDe(fila);

@@ -32,7 +32,19 @@ namespace {
 const QString claveGeometria = QStringLiteral("lenguaje/geometria");
 const QString claveEstado = QStringLiteral("lenguaje/estado");
 const QString claveEditores = QStringLiteral("lenguaje/editores");
-constexpr std::chrono::milliseconds turno{4}; ///< what is shown in one: to be painted takes as long again
+constexpr std::chrono::milliseconds turno{
+    2}; ///< what is shown in one: to be laid out and painted takes longer
+
+/// A place of the text is a node of its tree, too.
+std::optional<std::size_t> nodoEn(const Estudio& estudio, const Eleccion& eleccion) {
+    return std::holds_alternative<EnTexto>(eleccion) ? nodoDe(estudio, eleccion) : std::nullopt;
+}
+
+/// The place itself comes last.
+void lleva(const Eleccion& eleccion, const std::optional<std::size_t>& nodo, Panel& panel) {
+    if (nodo) panel.selecciona(DeNodo{*nodo});
+    panel.selecciona(eleccion);
+}
 
 } // namespace
 
@@ -203,7 +215,14 @@ void VentanaLenguaje::conecta() {
     atraso_.setSingleShot(true);
     atraso_.setInterval(400ms);
     porMostrar_.setSingleShot(true);
-    connect(&porMostrar_, &QTimer::timeout, this, [this] { sinFallos([this] { muestra(); }); });
+    connect(
+        &porMostrar_, &QTimer::timeout, this,
+        [this] {
+            sinFallos([this] {
+                if (mostrando()) muestra();
+            });
+        },
+        Qt::QueuedConnection); // a timer's own turn may be that of what was posted before
     connect(&atraso_, &QTimer::timeout, this, [this] { sinFallos([this] { marca(); }); });
     conecta(especificacion_);
     conecta(texto_);
@@ -417,34 +436,38 @@ void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
         if (panel->muestraLoQueNoCompila()) panel->ponEstudio(estudio);
     if (otroLenguaje) especificacion_.norvik().ponDiagnosticos(estudio->deLenguaje->diagnosticos);
     if (!estudio->deLenguaje->lenguaje) return marca();
-    dados_ = 0;
+    porDar_ = paneles().size();
     muestra();
 }
 
-/// The last one, which compiles: in the text, then in the panels. Those that take long come in turns of the
-/// event loop.
+/// The last one, which compiles: in the text, then in the panels, with what the caret is at. Those that take
+/// long come in turns of the event loop.
 void VentanaLenguaje::muestra() {
     QElapsedTimer reloj;
     reloj.start();
-    if (mostrado_ != ultimo_) {
-        const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
-        mostrado_ = ultimo_;
-        if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
-        texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
-    }
-    for (const auto suyos = paneles(); dados_ < suyos.size(); ++dados_) {
-        Panel& panel = *suyos[dados_];
-        if (panel.muestraLoQueNoCompila()) continue;
+    if (mostrado_ != ultimo_) muestraEnTexto();
+    const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
+    const Eleccion eleccion = enCursor();
+    const auto nodo = nodoEn(*mostrado_, eleccion);
+    for (const auto suyos = paneles(); porDar_ > 0; --porDar_) {
+        Panel& panel = *suyos[suyos.size() - porDar_];
         if (panel.isVisible() && reloj.hasExpired(turno.count())) return porMostrar_.start();
-        panel.ponEstudio(mostrado_);
+        if (!panel.muestraLoQueNoCompila()) panel.ponEstudio(mostrado_);
+        if (seguimiento_.alDia()) lleva(eleccion, nodo, panel);
     }
     marca();
-    sigueCursor();
+}
+
+void VentanaLenguaje::muestraEnTexto() {
+    const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
+    mostrado_ = ultimo_;
+    if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
+    texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
 }
 
 /// For who needs them all to show the same.
 void VentanaLenguaje::acabaDeMostrar() {
-    while (porMostrar_.isActive()) {
+    while (mostrando()) {
         porMostrar_.stop();
         muestra();
     }
@@ -473,33 +496,32 @@ void VentanaLenguaje::sigueCursor() {
                        .arg(activo_->nombre())
                        .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
                        .arg(activo_->norvik().control().ColumnaActual()));
-    if (eligiendo_ || !mostrado_ || mostrado_ != ultimo_ || !seguimiento_.alDia()) return;
+    if (eligiendo_ || mostrando() || !mostrado_ || mostrado_ != ultimo_ || !seguimiento_.alDia()) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
+    reparte(enCursor(), nullptr);
+}
+
+Eleccion VentanaLenguaje::enCursor() {
     const Rango rango = activo_->seleccion();
-    const Eleccion eleccion =
-        activo_ == &texto_ ? Eleccion(EnTexto{rango}) : Eleccion(EnEspecificacion{rango});
-    reparte(eleccion, nullptr);
+    return activo_ == &texto_ ? Eleccion(EnTexto{rango}) : Eleccion(EnEspecificacion{rango});
 }
 
 void VentanaLenguaje::elige(const Eleccion& eleccion, const Panel* desde) {
+    if (eligiendo_) return;
     acabaDeMostrar();
     const auto& estudio = estudioDe(*desde);
-    if (eligiendo_ || !estudio) return;
+    if (!estudio) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
     reparte(eleccion, desde);
     muestraEnEditores(*estudio, eleccion);
 }
 
-/// Among those that show the same version. A place of the text is a node of its tree, too; the place itself
-/// comes last.
+/// Among those that show the same version.
 void VentanaLenguaje::reparte(const Eleccion& eleccion, const Panel* desde) {
     const auto& estudio = desde != nullptr ? estudioDe(*desde) : mostrado_;
-    const auto nodo = std::holds_alternative<EnTexto>(eleccion) ? nodoDe(*estudio, eleccion) : std::nullopt;
-    for (Panel* const panel : paneles()) {
-        if (panel == desde || estudioDe(*panel) != estudio) continue;
-        if (nodo) panel->selecciona(DeNodo{*nodo});
-        panel->selecciona(eleccion);
-    }
+    const auto nodo = nodoEn(*estudio, eleccion);
+    for (Panel* const panel : paneles())
+        if (panel != desde && estudioDe(*panel) == estudio) lleva(eleccion, nodo, *panel);
 }
 
 /// Places are those of the study: in another text they mean nothing.

@@ -86,7 +86,7 @@ public:
     PanelDiagramas& diagramas() { return diagramas_; }
     Seguimiento& seguimiento() { return seguimiento_; }
     /// Some panels have still to be given what was studied last.
-    bool mostrando() const { return porMostrar_.isActive(); }
+    bool mostrando() const { return porDar_ > 0; }
     QMenu& ver() { return ver_; }
 
 signals:
@@ -135,9 +135,11 @@ private:
     void cambio();
     void recibe(const std::shared_ptr<const Estudio>& estudio);
     void muestra();
+    void muestraEnTexto();
     void acabaDeMostrar();
     void marca();
     void sigueCursor();
+    Eleccion enCursor();
     void elige(const Eleccion& eleccion, const Panel* desde);
     void reparte(const Eleccion& eleccion, const Panel* desde);
     /// What a panel shows.
@@ -177,7 +179,7 @@ private:
     Uso uso_;
     Seguimiento seguimiento_;
     QTimer porMostrar_;                       ///< another turn: keys pass between
-    std::size_t dados_ = 0;                   ///< panels that have what was studied last
+    std::size_t porDar_ = 0;                  ///< panels that do not have yet what was studied last
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
     std::shared_ptr<const Estudio> mostrado_; ///< the last one with a language, which the other panels show
