@@ -15,6 +15,6 @@ TEST(PorPasos, TeclasYLlamadasAlAzar) {
                               {[&](const Golpe& g) { pulsa(caja, g); }, [&] { norvik.tabuladorEnfocado(); },
                                [&] { caja.eventos.pierdeFoco(); }},
                               semilla);
-        ordenes.haz(pasos(50'000));
+        ordenes.haz(pasos(25'000));
     }
 }
