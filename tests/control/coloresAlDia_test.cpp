@@ -2,6 +2,7 @@
 
 // Colours that are up to date after every change.
 #include "apoyo/anfitrion.hpp"
+#include "apoyo/pasos.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/control/coloresAlDia.hpp"
 #include "norvik/control/colorista.hpp"
@@ -223,7 +224,7 @@ TEST(ColoresAlDia, TrasEdicionesAlAzar) {
         u"/*", u"*/", u"'", u"begin", u" 12", u" x", u"+", u"\r\n", u"*", u"/", u" ", u"begin 1 /*"};
     EditorAlDia e;
     int comparados = 0;
-    for (int paso = 0; paso < 5000; ++paso) {
+    for (int paso = 0, todos = pasos(5000); paso < todos; ++paso) {
         const auto largo = static_cast<std::int32_t>(e.caja.texto().size());
         e.caja.selecciona(static_cast<std::int32_t>(azar() % (static_cast<unsigned>(largo) + 1)),
                           azar() % 4 == 0 ? 3 : 0);

@@ -2,6 +2,8 @@
 
 // With colours up to date at all times the editor shows, after each key, what colouring all of the text
 // shows.
+#include "apoyo/pasos.hpp"
+
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 
@@ -81,7 +83,7 @@ TEST(ColoresAlEscribir, TeclasAlAzar) {
     bool marcada = false;
     QObject::connect(&norvik, &ControlNorvik::change, &norvik, [&] { marcada = false; });
     int comparados = 0;
-    for (int paso = 0; paso < 800; ++paso) {
+    for (int paso = 0, todos = pasos(800); paso < todos; ++paso) {
         if (azar() % 6 == 0) {
             const auto lineas = static_cast<unsigned>(norvik.caja().numeroDeLineas());
             norvik.control().MarcaErrorLinea(static_cast<std::int16_t>(azar() % lineas + 1));

@@ -32,8 +32,7 @@ namespace {
 const QString claveGeometria = QStringLiteral("lenguaje/geometria");
 const QString claveEstado = QStringLiteral("lenguaje/estado");
 const QString claveEditores = QStringLiteral("lenguaje/editores");
-constexpr std::chrono::milliseconds turno{
-    2}; ///< what is shown in one: to be laid out and painted takes longer
+constexpr std::chrono::milliseconds turno{2}; ///< what is shown in one: laying out and painting take longer
 
 /// A place of the text is a node of its tree, too.
 std::optional<std::size_t> nodoEn(const Estudio& estudio, const Eleccion& eleccion) {
