@@ -18,19 +18,26 @@ struct LineaMostrada {
     std::size_t hasta = 0;
 };
 
-// The line of a range, with the part of the range that stands in it.
+// The line of a range, with the part of the range that stands in it. A long one is cut around the range, and
+// nothing else of it is read: there may be as many errors in one line as it has characters.
 LineaMostrada lineaDe(const Rango& rango, std::u16string_view texto) {
+    constexpr std::size_t antes = 60;
+    constexpr std::size_t ancho = 78;
     const auto inicio = static_cast<std::size_t>(rango.inicio.desplazamiento);
     const auto columna = static_cast<std::size_t>(rango.inicio.columna) - 1;
-    const std::u16string_view resto = texto.substr(inicio - columna);
+    const std::size_t fuera = columna - std::min(columna, antes);
+    const std::u16string_view trozo = texto.substr(inicio - columna + fuera, ancho + 1);
     LineaMostrada linea;
-    linea.texto = visible(resto.substr(0, resto.find_first_of(u"\r\n")));
+    linea.texto = (fuera > 0 ? u"…" : u"") + visible(trozo.substr(0, trozo.find_first_of(u"\r\n")));
     std::replace(linea.texto.begin(), linea.texto.end(), u'\t',
                  u' '); // the caret has to stand under its place
-    linea.desde = std::min(columna, linea.texto.size());
+    linea.desde = std::min(columna - fuera + (fuera > 0 ? 1 : 0), linea.texto.size());
     const auto largo = static_cast<std::size_t>(rango.fin.desplazamiento) - inicio;
     linea.hasta = std::min(linea.desde + std::max<std::size_t>(largo, 1),
                            std::max(linea.texto.size(), linea.desde + 1));
+    if (linea.texto.size() <= ancho) return linea;
+    linea.texto = linea.texto.substr(0, ancho) + u"…";
+    linea.hasta = std::min(linea.hasta, ancho);
     return linea;
 }
 
@@ -45,21 +52,6 @@ std::u16string enUnaLinea(std::u16string_view texto) {
             linea += u' ';
     }
     return linea;
-}
-
-// Cuts a long line around the range.
-void acorta(LineaMostrada& linea) {
-    constexpr std::size_t antes = 60;
-    constexpr std::size_t ancho = 78;
-    if (linea.desde > antes) {
-        const std::size_t fuera = linea.desde - antes;
-        linea.texto = u"…" + linea.texto.substr(fuera);
-        linea.desde -= fuera - 1;
-        linea.hasta -= fuera - 1;
-    }
-    if (linea.texto.size() <= ancho) return;
-    linea.texto = linea.texto.substr(0, ancho) + u"…";
-    linea.hasta = std::min(linea.hasta, ancho);
 }
 
 // Of the terminal's own sixteen, those that can be read on light and dark.
@@ -119,8 +111,7 @@ std::u16string muestraError(const Diagnostico& diagnostico, std::u16string_view 
                             std::u16string_view texto, Estilo estilo) {
     constexpr std::u16string_view verde = u"1;32";
     const Pintor pinta(estilo);
-    LineaMostrada linea = lineaDe(diagnostico.rango, texto);
-    acorta(linea);
+    const LineaMostrada linea = lineaDe(diagnostico.rango, texto);
     std::u16string muestra = cabecera(diagnostico, visible(fichero) + u":", pinta) + u"\n";
     muestra += linea.texto + u"\n" + std::u16string(linea.desde, u' ');
     muestra += pinta(colorDe(diagnostico.gravedad), std::u16string(linea.hasta - linea.desde, u'^'));
