@@ -6,6 +6,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/tools/procesando.hpp"
 
 #include <QFileInfo>
 
@@ -48,7 +49,7 @@ void DocumentoTexto::empieza(std::u16string_view texto) {
 
 void DocumentoTexto::ponTexto(std::u16string_view texto) {
     norvik_.caja().protege([&] { norvik_.control().Text(texto); });
-    norvik_.caja().protege([this] { norvik_.control().ColoreaTodo(); });
+    norvik_.caja().protege([this] { coloreaConAviso(norvik_); });
 }
 
 void DocumentoTexto::anotaEntregado() {

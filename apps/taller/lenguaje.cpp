@@ -15,9 +15,9 @@ namespace norvik::taller {
 namespace {
 
 /// Without a language the text is plain.
-std::u16string acaba(Norvik& control, const std::u16string& error) {
-    if (!error.empty()) control.OlvidaLenguaje();
-    control.ColoreaTodo();
+std::u16string acaba(ControlNorvik& norvik, const std::u16string& error) {
+    if (!error.empty()) norvik.control().OlvidaLenguaje();
+    coloreaConAviso(norvik);
     return error;
 }
 
@@ -63,7 +63,7 @@ std::u16string compilaLenguaje(ControlNorvik& norvik) {
     } catch (const ErrorNorvik& capacidad) { // half a language is none
         error = capacidad.texto();
     }
-    return acaba(control, error);
+    return acaba(norvik, error);
 }
 
 void descargaLenguaje(ControlNorvik& norvik) {
@@ -75,7 +75,7 @@ std::u16string cargaModulo(ControlNorvik& norvik, const QString& fichero) {
     exigeFicheroCorriente(fichero, u"leer");
     norvik.control().OlvidaLenguaje();
     const auto error = CargaModulo(aRuta(fichero), norvik.control());
-    return acaba(norvik.control(), error ? error->mensaje() : std::u16string());
+    return acaba(norvik, error ? error->mensaje() : std::u16string());
 }
 
 } // namespace norvik::taller

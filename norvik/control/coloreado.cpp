@@ -12,8 +12,31 @@
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
+#include <stop_token>
+#include <string>
+#include <utility>
 
 namespace norvik::inline v0_2 {
+
+namespace {
+
+/// While it lives who may stop a work stops its recognition; otherwise who could before.
+class QuienCancela {
+public:
+    QuienCancela(pilaTokens& lexico, const std::stop_token& parada)
+        : lexico_(lexico), antes_(lexico.cancelacion) {
+        if (parada.stop_possible()) lexico_.cancelacion = parada;
+    }
+    QuienCancela(const QuienCancela&) = delete;
+    QuienCancela& operator=(const QuienCancela&) = delete;
+    ~QuienCancela() { lexico_.cancelacion = std::move(antes_); }
+
+private:
+    pilaTokens& lexico_;
+    std::stop_token antes_;
+};
+
+} // namespace
 
 void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras) {
     const std::int32_t inicioSeleccion = caja_->inicioSeleccion();
@@ -22,10 +45,19 @@ void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras pala
     caja_->selecciona(inicioSeleccion, longitudSeleccion);
 }
 
+/// The text is taken along: whoever waits for a long recognition may change it.
+const MapaTokens& Coloreado::reconoce(std::int16_t desde, std::int16_t hasta) {
+    sistema_->trabaja([&, texto = std::u16string(caja_->texto())](const std::stop_token& parada) {
+        const QuienCancela quien(lexico_, parada);
+        lexico_.ReconoceTokens(texto, desde, hasta);
+    });
+    return lexico_.mapaTokens();
+}
+
 /// Paints the tokens of the positions [desde, hasta), 1-based.
 void Coloreado::recorre(std::int32_t desde, std::int32_t hasta, Palabras palabras) {
     if (hasta - 1 > a32(maximoTexto)) throw TextoDemasiadoLargo();
-    const MapaTokens& mapa = lexico_.ReconoceTokens(caja_->texto(), a16(desde), a16(hasta));
+    const MapaTokens& mapa = reconoce(a16(desde), a16(hasta));
     for (std::int32_t pos = desde; pos < hasta;) {
         const auto token = mapa.en(pos);
         if (!token || token->longitud == 0) {

@@ -6,6 +6,7 @@
 #include "norvik/control/prestado.hpp"
 #include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/cajaTexto.hpp"
+#include "norvik/platform/sistema.hpp"
 
 #include <cstdint>
 
@@ -14,22 +15,26 @@ namespace norvik::inline v0_2 {
 /// Paints the tokens of a range of the text box, and nothing else.
 class Coloreado {
 public:
-    Coloreado(const Prestado<CajaTexto>& caja, pilaTokens& lexico, const Opciones& opciones)
-        : caja_(caja), lexico_(lexico), opciones_(opciones) {}
+    Coloreado(const Prestado<CajaTexto>& caja, const Prestado<Sistema>& sistema, pilaTokens& lexico,
+              const Opciones& opciones)
+        : caja_(caja), sistema_(sistema), lexico_(lexico), opciones_(opciones) {}
 
     /// Whether words that are written otherwise than their definition says are corrected, if that is an
     /// option.
     enum class Palabras : std::uint8_t { Corrige, Deja };
     /// The tokens that lie wholly in [inicio, fin), 0-based; the selection stays as it was. Raises
-    /// `Desbordamiento` for positions that do not fit 16 bits.
+    /// `Desbordamiento` for positions that do not fit 16 bits, and what recognising them raises. That is work
+    /// of the system's, which may let events in.
     void pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras = Palabras::Corrige);
 
 private:
+    const MapaTokens& reconoce(std::int16_t desde, std::int16_t hasta);
     void recorre(std::int32_t desde, std::int32_t hasta, Palabras palabras);
     void pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion,
                     Palabras palabras);
 
     const Prestado<CajaTexto>& caja_;
+    const Prestado<Sistema>& sistema_;
     pilaTokens& lexico_;
     const Opciones& opciones_;
 };

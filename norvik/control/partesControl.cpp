@@ -13,7 +13,7 @@ namespace norvik::inline v0_2 {
 PartesControl::PartesControl(CajaTexto& suCaja, Sistema& suSistema, Contenedor& suContenedor)
     : caja(suCaja), sistema(suSistema), contenedor(suContenedor), lenguaje(lexico, laGramatica),
       lector(lexico, suCaja), conductor(lector, lexico, laGramatica), colocacion(caja, opciones, contenedor),
-      propiedades(opciones, lexico, caja, colocacion, contenedor), coloreado(caja, lexico, opciones),
+      propiedades(opciones, lexico, caja, colocacion, contenedor), coloreado(caja, sistema, lexico, opciones),
       coloresAlDia(caja, contenedor, lenguaje),
       lineas(caja, opciones, ayudas, coloreado, coloresAlDia, colocacion), historial(caja, lineas),
       edicion(caja, opciones, ayudas, lineas, historial, eventos, contenedor) {

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <bit>
 #include <string>
+#include <utility>
 
 namespace norvik::inline v0_2 {
 
@@ -133,22 +134,36 @@ Intento Automata::caminaLargo(std::u16string_view sujeto, std::size_t i, Numero 
     return intento;
 }
 
+// The instructions that take a unit, one of those that are equal: the others tell no units apart.
+std::vector<std::uint32_t> Automata::tomasDistintas() const {
+    const auto& codigo = programa_->codigo;
+    std::vector<std::uint32_t> tomas;
+    for (std::uint32_t i = 0; i < codigo.size(); ++i)
+        if (codigo[i].operacion == Operacion::Unidad || codigo[i].operacion == Operacion::Clase)
+            tomas.push_back(i);
+    const auto clave = [&](std::uint32_t i) { return std::pair(codigo[i].operacion, codigo[i].a); };
+    std::ranges::sort(tomas, {}, clave);
+    const auto repetidas = std::ranges::unique(tomas, {}, clave);
+    tomas.erase(repetidas.begin(), repetidas.end());
+    return tomas;
+}
+
 // Cuts the units where a class begins or ends, and gathers the intervals that the same instructions take.
 bool Automata::reparteUnidades() {
     inicios_.push_back(0);
-    std::vector<std::uint32_t> tomas;
+    const std::vector<std::uint32_t> tomas = tomasDistintas();
     const auto corta = [&](RangoUnidades rango) {
         inicios_.push_back(rango.desde);
         if (rango.hasta < 0xFFFF) inicios_.push_back(static_cast<char16_t>(rango.hasta + 1));
     };
-    for (std::uint32_t i = 0; i < programa_->codigo.size(); ++i) {
+    for (const std::uint32_t i : tomas) {
         const Instruccion& instruccion = programa_->codigo[i];
         const auto unidad = static_cast<char16_t>(instruccion.a);
-        if (instruccion.operacion == Operacion::Unidad) corta({unidad, unidad});
-        if (instruccion.operacion == Operacion::Clase)
+        if (instruccion.operacion == Operacion::Unidad) {
+            corta({unidad, unidad});
+        } else {
             for (const RangoUnidades& rango : programa_->clases[instruccion.a].rangos()) corta(rango);
-        if (instruccion.operacion == Operacion::Unidad || instruccion.operacion == Operacion::Clase)
-            tomas.push_back(i);
+        }
     }
     if (conFronteras_)
         for (const RangoUnidades& rango : rangosDe(PropiedadDeUnidad::Palabra)) corta(rango);

@@ -83,6 +83,7 @@ private:
     };
 
     explicit Automata(const Programa& programa) : programa_(&programa) {}
+    std::vector<std::uint32_t> tomasDistintas() const;
     bool reparteUnidades();
     std::uint8_t grupoDeAlta(char16_t unidad) const;
     bool toma(std::uint32_t instruccion, char16_t unidad) const;

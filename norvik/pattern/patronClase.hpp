@@ -5,6 +5,7 @@
 #include "norvik/pattern/rangoUnidades.hpp"
 
 #include <array>
+#include <compare>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -27,10 +28,14 @@ struct ClaseLeida {
     struct Escape {
         PropiedadDeUnidad propiedad;
         bool negado;
+
+        auto operator<=>(const Escape&) const = default;
     };
     std::vector<RangoUnidades> rangos;
     std::vector<Escape> escapes;
     bool negada = false;
+
+    auto operator<=>(const ClaseLeida&) const = default;
 };
 
 /// A set of units, ready to be asked.

@@ -8,6 +8,7 @@
 #include "norvik/pattern/patron.hpp"
 
 #include <algorithm>
+#include <set>
 
 namespace norvik::inline v0_2 {
 
@@ -54,6 +55,12 @@ std::optional<ClaseLeida::Escape> escapeDeClase(char16_t c) {
         return std::nullopt;
     }
 }
+
+// The order of some classes by what they are.
+struct PorContenido {
+    const std::vector<ClaseLeida>* clases;
+    bool operator()(std::uint32_t a, std::uint32_t b) const { return (*clases)[a] < (*clases)[b]; }
+};
 
 class LectorPatron {
 public:
@@ -109,6 +116,8 @@ private:
     std::size_t i_ = 0;
     std::size_t pieza_ = 0; // where the one being read begins
     Patron patron_;
+    // Its classes by what they are: references bring the same ones often.
+    std::set<std::uint32_t, PorContenido> clases_{PorContenido{&patron_.clases}};
     std::vector<std::size_t> abiertos_;
     std::vector<std::size_t> lugaresAbiertos_; // their brackets
     std::optional<std::size_t> repetible_;     // the piece that a repetition would join
@@ -384,9 +393,10 @@ void LectorPatron::aniadeClase(ClaseLeida clase) {
     const bool esUnidad = !clase.negada && clase.escapes.empty() && clase.rangos.size() == 1 &&
                           clase.rangos[0].desde == clase.rangos[0].hasta;
     if (esUnidad) return aniadeUnidad(clase.rangos[0].desde);
-    const auto numero = static_cast<std::uint32_t>(patron_.clases.size());
     patron_.clases.push_back(std::move(clase));
-    aniade({.tipo = TipoPieza::Clase, .numero = numero}, true);
+    const auto [numero, nueva] = clases_.insert(static_cast<std::uint32_t>(patron_.clases.size() - 1));
+    if (!nueva) patron_.clases.pop_back();
+    aniade({.tipo = TipoPieza::Clase, .numero = *numero}, true);
 }
 
 // What a group has shown so far, while the list is gone through.

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <compare>
 #include <cstdint>
 
 namespace norvik::inline v0_2 {
@@ -11,7 +12,7 @@ struct RangoUnidades {
     char16_t desde = 0;
     char16_t hasta = 0;
 
-    bool operator==(const RangoUnidades&) const = default;
+    auto operator<=>(const RangoUnidades&) const = default;
 };
 
 /// Every `paso`-th unit from `desde` to `hasta`, and the one that stands for the first of them; those of the

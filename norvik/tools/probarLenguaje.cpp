@@ -19,7 +19,7 @@ ProbarLenguaje::ProbarLenguaje(SistemaQt& sistema, QWidget* padre)
 void ProbarLenguaje::carga() {
     cargada_ = true;
     Norvik1().control().Text(ranurasDisenio().textoPrueba);
-    Norvik1().control().ColoreaTodo();
+    coloreaConAviso(Norvik1());
 }
 
 void ProbarLenguaje::alCerrar() {

@@ -2,6 +2,7 @@
 
 #include "norvik/tools/procesando.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/ventanas.hpp"
 
@@ -80,6 +81,15 @@ void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
         const QScopedValueRollback<std::stop_token> cancelable(lexico.cancelacion, parada);
         lexico.ReconoceTokens(texto);
     });
+}
+
+void coloreaConAviso(ControlNorvik& norvik) {
+    const VentanaDeAmbito<Procesando> aviso(norvik.sistema(), norvik.window(), Procesando::Aparece::SiTarda);
+    try {
+        norvik.control().ColoreaTodo();
+    } catch (const OperacionCancelada&) {
+        return;
+    }
 }
 
 } // namespace norvik

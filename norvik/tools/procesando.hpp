@@ -46,4 +46,8 @@ private:
 /// comes next finds nothing there that it has to wait for. Nobody may use the control's lexer meanwhile.
 void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik);
 
+/// Colours the text of a control where it can be cancelled, which leaves it as it was; raises what
+/// `ColoreaTodo` raises.
+void coloreaConAviso(ControlNorvik& norvik);
+
 } // namespace norvik
