@@ -143,8 +143,8 @@ std::vector<std::uint32_t> Automata::tomasDistintas() const {
             tomas.push_back(i);
     const auto clave = [&](std::uint32_t i) { return std::pair(codigo[i].operacion, codigo[i].a); };
     std::ranges::sort(tomas, {}, clave);
-    const auto repetidas = std::ranges::unique(tomas, {}, clave);
-    tomas.erase(repetidas.begin(), repetidas.end());
+    const auto iguales = [&](std::uint32_t i, std::uint32_t j) { return clave(i) == clave(j); };
+    tomas.erase(std::unique(tomas.begin(), tomas.end(), iguales), tomas.end());
     return tomas;
 }
 
