@@ -2,6 +2,8 @@
 
 #include "panelArbol.hpp"
 
+#include "presentacion.hpp"
+
 #include "norvik/platform/qt/fallos.hpp"
 
 #include <QHeaderView>
@@ -10,6 +12,7 @@ namespace norvik::taller {
 
 PanelArbol::PanelArbol(QWidget* padre) : QDockWidget(QStringLiteral("Árbol sintáctico"), padre) {
     setObjectName(QStringLiteral("panelArbol"));
+    ponLetraDelTitulo(*this);
     vista_.setAccessibleName(windowTitle());
     vista_.setUniformRowHeights(true);
     vista_.setAlternatingRowColors(true);

@@ -2,10 +2,14 @@
 
 #include "presentacion.hpp"
 
+#include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/controlNorvik.hpp"
 
 #include <QApplication>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace norvik::taller {
@@ -14,7 +18,7 @@ namespace {
 
 constexpr int aumentoDeTextos = 160; ///< per cent
 constexpr double aumentoDeLetra = 1.4;
-constexpr const char* titulosDePaneles = "QDockWidgetTitle"; ///< the desktop gives them letters of their own
+constexpr std::chrono::milliseconds hastaColocarse{100}; ///< what windows take for their new letters
 
 /// A projector leaves little of a contrast.
 QPalette deProyector() {
@@ -34,22 +38,34 @@ QPalette deProyector() {
     return p;
 }
 
+/// The line that one writes on, if it can be seen, can be seen with the other letters, too.
+void conservaElCursor(ControlNorvik& norvik) {
+    VistaTexto& vista = norvik.caja().vista();
+    if (!vista.viewport()->rect().intersects(vista.cursorRect())) return;
+    QTimer::singleShot(hastaColocarse, &vista, [&vista] { vista.ensureCursorVisible(); });
+}
+
 } // namespace
+
+/// A dock whose font is not just the program's paints its title with its own.
+void ponLetraDelTitulo(QDockWidget& panel) {
+    QFont casiIgual;
+    casiIgual.setStyleStrategy(QFont::PreferAntialias);
+    panel.setFont(casiIgual);
+}
 
 void Presentacion::pon(bool puesta) {
     if (puesta == puesta_) return;
     puesta_ = puesta;
     if (puesta) {
         letra_ = QApplication::font();
-        letraDePaneles_ = QApplication::font(titulosDePaneles);
         paleta_ = QApplication::palette();
     }
-    const auto escala = [&](QFont letra) {
-        letra.setPointSizeF(letra.pointSizeF() * (puesta ? aumentoDeLetra : 1));
-        return letra;
-    };
-    QApplication::setFont(escala(letra_));
-    QApplication::setFont(escala(letraDePaneles_), titulosDePaneles);
+    for (QWidget* const ventana : QApplication::topLevelWidgets())
+        for (auto* const norvik : ventana->findChildren<ControlNorvik*>()) conservaElCursor(*norvik);
+    QFont letra = letra_;
+    if (puesta) letra.setPointSizeF(letra.pointSizeF() * aumentoDeLetra);
+    QApplication::setFont(letra);
     QApplication::setPalette(puesta ? deProyector() : paleta_);
     for (const Antes& antes : std::exchange(antes_, {}))
         if (antes.norvik) antes.norvik->aumento(antes.aumento);

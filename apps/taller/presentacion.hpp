@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <QDockWidget>
 #include <QFont>
 #include <QPalette>
 #include <QPointer>
@@ -32,9 +33,12 @@ private:
 
     bool puesta_ = false;
     QFont letra_; ///< before
-    QFont letraDePaneles_;
     QPalette paleta_;
     std::vector<Antes> antes_;
 };
+
+/// The title of a dock keeps the letters that the program had when the dock was made. With this it has those
+/// of the rest, also after they have changed.
+void ponLetraDelTitulo(QDockWidget& panel);
 
 } // namespace norvik::taller

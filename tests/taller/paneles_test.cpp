@@ -144,6 +144,9 @@ TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
         {"estado", DeEstado{4}, "4 mas/0", "4/0", "E/0", "E", ""},
         {"variable", DeSimbolo{u"T"}, "0 T/0", "0/0", "E/0", "T", "T"},
         {"nodo", DeNodo{0}, "5 mas/2", "0/4", "E/1", "E", "E mas T"},
+        {"paso que reduce", DePaso{{{1, 1, 2}, {2, 1, 3}}, 2, columna("mas")}, "2 mas/2", "2/2", "E › mas/1",
+         "E", "T"},
+        {"paso ante un error", DePaso{{{1, 1, 2}, {2, 1, 3}}, 2, {}}, "2 mas/0", "2/0", "E › mas/0", "E", ""},
     };
     for (const auto& c : casos) {
         SCOPED_TRACE(c.nombre);

@@ -121,9 +121,9 @@ TEST_F(PasosTest, ElAnalisisHaciaDelanteYHaciaAtras) {
               "pila, queda a la vista el estado 0, y con T pasa al estado 2.");
     EXPECT_EQ(filas(), QStringList({"(fondo) 0", "num 3"}));
     EXPECT_TRUE(pila.topLevelItem(1)->font(0).bold()); // the reduction takes it
-    EXPECT_EQ(toma<DeCelda>().back().estado, 3);
+    EXPECT_EQ(toma<DePaso>().back().estado, 3);
     teclas({Qt::Key_Right, Qt::Key_Right, Qt::Key_Right});
-    const auto celdas = toma<DeCelda>();
+    const auto celdas = toma<DePaso>();
     ASSERT_EQ(celdas.size(), 3U);
     EXPECT_EQ(celdas.back().estado, 4);
     EXPECT_EQ(filas(), QStringList({"(fondo) 0", "E 1", "mas 4"}));
@@ -168,7 +168,7 @@ TEST_F(PasosTest, VaAlErrorYDiceQueSeEsperaba) {
     teclas({Qt::Key_Return});
     EXPECT_EQ(panel.palabras(),
               "En el estado 4, ante «+» (mas): error. Se ha encontrado '+'. Se esperaba '[0-9]+'.");
-    EXPECT_EQ(toma<EnTexto>().back().rango.inicio.desplazamiento, 4);
+    EXPECT_EQ(toma<DePaso>().back().rango.inicio.desplazamiento, 4);
     estudio(sumas, u"1 ? 2");
     EXPECT_EQ(panel.momento(), 1U); // no further than it goes
     EXPECT_EQ(panel.palabras(), "En el estado 3, ante el carácter «?»: error. Carácter '?' incorrecto.");
@@ -185,9 +185,9 @@ TEST_F(PasosTest, CorreHastaElFinalYUnaFilaDeLaPilaEligeSuTexto) {
     panel.findChild<QTimer*>()->setInterval(1);
     teclas({Qt::Key_Down});
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.momento() == panel.pelicula()->ultimo(); }));
-    toma<EnTexto>();
+    toma<DePaso>();
     QTest::qWait(20);
-    EXPECT_TRUE(toma<EnTexto>().empty()); // it has stopped
+    EXPECT_TRUE(elegidos.empty()); // it has stopped
     QTest::keyClick(&pila, Qt::Key_Right);
     QTest::keyClick(&pila, Qt::Key_Asterisk);
     QTest::keyClick(&pila, Qt::Key_Down);

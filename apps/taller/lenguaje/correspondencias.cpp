@@ -84,6 +84,12 @@ std::optional<Nodo> nodoElegido(const Estudio& estudio, const Eleccion& eleccion
     return estudio.arbol()[nodo->nodo];
 }
 
+std::optional<Rango> rangoDelTexto(const Eleccion& eleccion) {
+    if (const auto* const lugar = std::get_if<EnTexto>(&eleccion)) return lugar->rango;
+    if (const auto* const paso = std::get_if<DePaso>(&eleccion)) return paso->rango;
+    return std::nullopt;
+}
+
 std::optional<std::int16_t> reglaDeCelda(const Estudio& estudio, const DeCelda& celda) {
     if (estudio.gramatica() == nullptr) return std::nullopt;
     const std::int16_t entrada = estudio.gramatica()->tabla.entrada(celda.estado, celda.codigo);
@@ -100,10 +106,17 @@ std::optional<std::u16string> simboloTras(const GramaticaLR& g, Item item) {
 
 } // namespace
 
+std::optional<DeCelda> celdaDe(const Eleccion& eleccion) {
+    if (const auto* const celda = std::get_if<DeCelda>(&eleccion)) return *celda;
+    const auto* const paso = std::get_if<DePaso>(&eleccion);
+    return paso != nullptr && paso->codigo ? std::optional(DeCelda{paso->estado, *paso->codigo})
+                                           : std::nullopt;
+}
+
 std::optional<std::int16_t> reglaDe(const Estudio& estudio, const Eleccion& eleccion) {
     if (const auto* const regla = std::get_if<DeRegla>(&eleccion)) return regla->regla;
     if (const auto* const item = std::get_if<DeItem>(&eleccion)) return item->item.regla;
-    if (const auto* const celda = std::get_if<DeCelda>(&eleccion)) return reglaDeCelda(estudio, *celda);
+    if (const auto celda = celdaDe(eleccion)) return reglaDeCelda(estudio, *celda);
     if (const auto* const lugar = std::get_if<EnEspecificacion>(&eleccion))
         return reglaEn(estudio, lugar->rango);
     if (const auto nodo = nodoElegido(estudio, eleccion); nodo && !nodo->esToken()) return nodo->regla();
@@ -117,7 +130,7 @@ std::optional<std::u16string> simboloDe(const Estudio& estudio, const Eleccion& 
     if (const auto nodo = nodoElegido(estudio, eleccion)) return std::u16string(nodo->nombre());
     const GramaticaLR* const g = estudio.gramatica();
     if (g == nullptr) return std::nullopt;
-    if (const auto* const celda = std::get_if<DeCelda>(&eleccion))
+    if (const auto celda = celdaDe(eleccion))
         return std::u16string(g->tabla.simbolo(static_cast<std::int16_t>(celda->codigo + 1)));
     if (const auto regla = reglaDe(estudio, eleccion)) return g->reglas.en(*regla).cabeza;
     return std::nullopt;
@@ -126,13 +139,13 @@ std::optional<std::u16string> simboloDe(const Estudio& estudio, const Eleccion& 
 std::optional<std::int16_t> estadoDe(const Eleccion& eleccion) {
     if (const auto* const estado = std::get_if<DeEstado>(&eleccion)) return estado->estado;
     if (const auto* const item = std::get_if<DeItem>(&eleccion)) return item->estado;
-    if (const auto* const celda = std::get_if<DeCelda>(&eleccion)) return celda->estado;
+    if (const auto* const paso = std::get_if<DePaso>(&eleccion)) return paso->estado;
+    if (const auto celda = celdaDe(eleccion)) return celda->estado;
     return std::nullopt;
 }
 
 std::optional<std::size_t> nodoDe(const Estudio& estudio, const Eleccion& eleccion) {
-    if (const auto* const lugar = std::get_if<EnTexto>(&eleccion))
-        return nodoCon(estudio.arbol(), lugar->rango);
+    if (const auto rango = rangoDelTexto(eleccion)) return nodoCon(estudio.arbol(), *rango);
     if (const auto nodo = nodoElegido(estudio, eleccion)) return nodo->indice();
     return std::nullopt;
 }
@@ -148,7 +161,7 @@ NodosDeRegla nodosDe(const Estudio& estudio, std::int16_t regla) {
 }
 
 std::optional<std::int16_t> columnaDe(const Estudio& estudio, const Eleccion& eleccion) {
-    if (const auto* const celda = std::get_if<DeCelda>(&eleccion)) return celda->codigo;
+    if (const auto celda = celdaDe(eleccion)) return celda->codigo;
     const GramaticaLR* const g = estudio.gramatica();
     if (g == nullptr) return std::nullopt;
     std::optional<std::u16string> simbolo;
@@ -168,7 +181,7 @@ std::optional<Rango> lugarEnEspecificacion(const Estudio& estudio, const Eleccio
 }
 
 std::optional<Rango> lugarEnTexto(const Estudio& estudio, const Eleccion& eleccion) {
-    if (const auto* const lugar = std::get_if<EnTexto>(&eleccion)) return lugar->rango;
+    if (const auto rango = rangoDelTexto(eleccion)) return rango;
     if (const auto nodo = nodoElegido(estudio, eleccion)) return nodo->rango();
     return std::nullopt;
 }

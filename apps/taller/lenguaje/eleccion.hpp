@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -43,8 +44,14 @@ struct DeCelda {
 struct DeNodo {
     std::size_t nodo = 0; ///< its place in the study's tree
 };
+/// What a parse does next, seen as its place in the text, its state and its cell.
+struct DePaso {
+    Rango rango;                        ///< of the text
+    std::int16_t estado = 0;            ///< from 0
+    std::optional<std::int16_t> codigo; ///< of the column, from 0; none where no token can be read
+};
 
 using Eleccion =
-    std::variant<EnEspecificacion, EnTexto, DeSimbolo, DeRegla, DeItem, DeEstado, DeCelda, DeNodo>;
+    std::variant<EnEspecificacion, EnTexto, DeSimbolo, DeRegla, DeItem, DeEstado, DeCelda, DeNodo, DePaso>;
 
 } // namespace norvik::taller

@@ -2,6 +2,8 @@
 
 #include "panel.hpp"
 
+#include "presentacion.hpp"
+
 #include <chrono>
 
 namespace norvik::taller {
@@ -11,6 +13,7 @@ Panel::Panel(const QString& nombre, const QString& titulo, QWidget* padre)
     using namespace std::chrono_literals;
     setObjectName(nombre);
     setWidget(&marco_);
+    ponLetraDelTitulo(*this);
     espera_.setSingleShot(true);
     espera_.setInterval(200ms);
     connect(&espera_, &QTimer::timeout, this, [this] { protege([this] { actualizaTitulo(); }); });

@@ -2,6 +2,7 @@
 
 #include "panelConflicto.hpp"
 
+#include "correspondencias.hpp"
 #include "curas.hpp"
 #include "dibujoArbol.hpp"
 #include "palabrasConflicto.hpp"
@@ -149,8 +150,8 @@ void PanelConflicto::cuenta(const DeCelda& celda) {
 }
 
 void PanelConflicto::selecciona(const Eleccion& eleccion) {
-    const auto* const celda = std::get_if<DeCelda>(&eleccion);
-    if (celda == nullptr || !lenguaje_ || !historias_.conocidas()) return;
+    const auto celda = celdaDe(eleccion);
+    if (!celda || !lenguaje_ || !historias_.conocidas()) return;
     const int antes = lista_.currentIndex();
     {
         const QSignalBlocker callada(lista_);

@@ -225,12 +225,8 @@ void PanelPasos::va(std::size_t momento) {
     muestra();
     if (!alDia()) return;
     const Pelicula::Siguiente siguiente = suya.siguiente(momento_);
-    const std::int16_t estado = suya.estado(momento_);
-    emit elegido(EnTexto{siguiente.rango});
-    if (siguiente.codigo >= 0) // it knows its rule
-        emit elegido(DeCelda{estado, siguiente.codigo});
-    else
-        emit elegido(DeEstado{estado});
+    const auto codigo = siguiente.codigo >= 0 ? std::optional(siguiente.codigo) : std::nullopt;
+    emit elegido(DePaso{siguiente.rango, suya.estado(momento_), codigo});
 }
 
 void PanelPasos::eligeDeLaPila(Pelicula::Nodo nodo) {
