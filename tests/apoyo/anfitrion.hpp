@@ -76,7 +76,7 @@ struct Anfitrion {
         }
         return texto;
     }
-    std::u16string tabla() { return ::norvik::tabla(norvik.Gramatica()); }
+    std::u16string tabla() { return enTexto(norvik.Gramatica().valores().tabla); }
 };
 
 inline std::string mensajes(const std::vector<Mensaje>& todos) {

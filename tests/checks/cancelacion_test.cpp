@@ -3,6 +3,8 @@
 // Whoever asks for the end of long work, at any moment and from another thread, is heard.
 #include "apoyo/gramaticaLarga.hpp"
 #include "apoyo/repite.hpp"
+#include "grammar/apoyoGramatica.hpp"
+#include "norvik/base/errores.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/revision.hpp"
 
@@ -147,6 +149,21 @@ TEST(Cancelacion, SeAtiendeEnDosSegundosDondequieraQueEste) {
         }
     }
     EXPECT_GT(cancelados, 20);
+}
+
+// The later steps do not lean on the earlier ones having heard.
+TEST(Cancelacion, LaOyeCadaPasoDeLaTablaClasica) {
+    constexpr void (gramatica::*pasos[])() = {&gramatica::creaConjuntos, &gramatica::creaAutomata,
+                                              &gramatica::creaTablaSLR};
+    for (std::size_t cual = 0; cual < std::size(pasos); ++cual) {
+        const auto g = gramaticaDe(u"E -> E mas T | T; T -> id");
+        g->inicializaConjuntos();
+        for (std::size_t antes = 0; antes < cual; ++antes) ((*g).*pasos[antes])();
+        std::stop_source parada;
+        parada.request_stop();
+        g->cancelacion = parada.get_token();
+        EXPECT_THROW(((*g).*pasos[cual])(), OperacionCancelada) << cual;
+    }
 }
 
 } // namespace

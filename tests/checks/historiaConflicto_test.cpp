@@ -7,6 +7,7 @@
 #include "apoyo/earley.hpp"
 #include "apoyo/gramaticas.hpp"
 #include "norvik/base/texto.hpp"
+#include "norvik/checks/historiaTexto.hpp"
 #include "norvik/grammar/exacto/genera.hpp"
 
 #include <gtest/gtest.h>
@@ -113,6 +114,60 @@ TEST(Historia, LasConocidas) {
         EXPECT_EQ(enTexto(todas.front().cortos[0]), corto);
         EXPECT_EQ(todas.front().prueba == HistoriaConflicto::Prueba::DaElPrimero, clase == Clase::Ambigua);
     }
+}
+
+TEST(Historia, EnPalabrasConSusDosArbolesYSusTokens) {
+    const auto enPalabras = [](std::u16string_view reglas) {
+        return aUtf8(norvik::enTexto(historias(reglas, Metodo::Lalr).front()));
+    };
+    EXPECT_EQ(enPalabras(u"E -> E mas E | num"),
+              R"(  En el estado 4, ante «mas» cabe desplazar «mas» y cabe reducir por E -> E mas
+    E. La tabla elige desplazar «mas».
+  La gramática es ambigua: esta frase de E tiene dos árboles, que se separan en
+    •.
+      E mas E • mas E
+  Lo que elige la tabla, desplazar «mas»:
+      E
+      ├─ E mas
+      └─ E
+         └─ E mas E
+  Lo otro, reducir por E -> E mas E:
+      E
+      ├─ E
+      │  └─ E mas E
+      └─ mas E
+  Desde la variable inicial y en tokens:
+      num mas num • mas num
+  Del texto en tokens la tabla da el primer árbol.
+  Por qué cabe reducir ahí:
+      «mas» sigue a E en la regla E -> E mas E
+  Qué hacer: El operador no dice hacia qué lado se agrupa. Escriba la recursión
+    a un solo lado: E -> E mas Termino agrupa por la izquierda; con un método
+    exacto vale también la directiva '% izquierda: mas.
+)");
+    EXPECT_EQ(enPalabras(u"S -> A a | B a; A -> Ø | b; B -> Ø"),
+              R"(  En el estado 0, ante «a» cabe reducir por A -> Ø y cabe reducir por B -> Ø. La
+    tabla elige la regla anterior.
+  La gramática es ambigua: esta frase de S tiene dos árboles, que se separan en
+    •.
+      • a
+  Lo que elige la tabla, reducir por A -> Ø:
+      S
+      ├─ A (vacía)
+      └─ a
+  Lo otro, reducir por B -> Ø:
+      S
+      ├─ B (vacía)
+      └─ a
+  Desde la variable inicial y en tokens:
+      • a
+  Del texto en tokens la tabla da el primer árbol.
+  Por qué cabe reducir ahí:
+      «a» sigue a B en la regla S -> B a
+  Qué hacer: Lo mismo, repetido o vacío, sale de dos maneras. Deje una sola: una
+    recursión a un lado (Lista -> Lista Elemento | Elemento) y el vacío en un
+    solo sitio.
+)");
 }
 
 // «E0 -> E0 o0 E0 | E1; …», and what follows the last.

@@ -82,9 +82,9 @@ TEST(Revision, CadaFaltaEnSuLugarYSolaElla) {
         {u"'% metodo: slr\n'% derecha: a  m\u00e1s\nToken a = \"a\";\nToken mas = \"m\";\nS -> a mas;",
          "2:1 directiva-incorrecta derecha m\u00e1s ~mas\n"},
         {u"Token a = \"a\";\n'% metodo: lalr\n' % metodo: lalr\nS -> a;", "2:1 directiva-tardia metodo\n"},
-        {u"'%%% metodo: lalr\n'%metodo: lalr\n'nada\nToken a = \"a\";\nS -> a;", ""},
-        {u"'% metodo: lalr\n'% conflictos: 2\nToken a = \"a\";\nS -> S S | a;",
-         "2:1 conflictos-distintos 1 ~2\n"},
+        {u"'%%% metodo: lalr\n'%metodo: lalr\n'% una nota: a\n'nada\nToken a = \"a\";\nS -> a;", ""},
+        {u"'% metodo: lalr\n'% conflictos: 9\nToken a = \"a\";\nS -> S S | a;",
+         "2:1 conflictos-distintos 1 ~9\n"},
         {u"'% metodo: lalr\n'% conflictos: 1\nToken a = \"a\";\nS -> S S | a;", ""},
     };
     for (const auto& [especificacion, esperados] : casos)
@@ -108,6 +108,7 @@ TEST(Revision, UnPatronMalEscritoSeSitua) {
         {u"<r>*", "2:15 delante no hay nada que se pueda repetir"},
         {u"ab\\c(300)", "2:14 el código de un carácter no pasa de 255"},
         {u"ab\\c300", "2:14 se escribe '\\c(numero)'"},
+        {u"ab\\cx65)", "2:14 se escribe '\\c(numero)'"},
     };
     for (const auto& [patron, esperado] : casos) {
         const auto todos = revisa(u"ExpReg r = \"[ab]+\";\nToken a = \"" + patron + u"\";\nS -> a;");

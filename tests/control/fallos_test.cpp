@@ -42,6 +42,12 @@ TEST(Fallos, DelLenguaje) {
     compruebaTextos({
         {"regla sin flecha", [](Norvik& n) { n.SetRegla(u"S a"); },
          "No coinciden los tipos: la regla «S a» no tiene «->» entre su cabeza y su cuerpo"},
+        {"la única fila y otra",
+         [](Norvik& n) {
+             n.SetDimensionTablaSLR(1, 1);
+             n.SetElementoTablaSLR(2, 1, 0);
+         },
+         "Subíndice fuera de intervalo: en la tabla, la fila 2 no está entre 1 y 1"},
         {"mil una reglas",
          [](Norvik& n) {
              for (int i = 0; i < 1001; ++i) n.SetRegla(u"S -> a");

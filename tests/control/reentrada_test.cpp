@@ -246,14 +246,14 @@ TEST(Reentrada, UnReceptorQueCompila) {
 
 TEST(Reentrada, DuranteLaCompilacionSeVeElLenguajeDeAntes) {
     Reentrante a;
-    const std::u16string tabla = ::norvik::tabla(a.norvik->Gramatica());
+    const std::u16string tabla = enTexto(a.norvik->Gramatica().valores().tabla);
     int veces = 0;
     a.accion = [&](Reentrante&) {
         a.faltan = 1;
         ++veces;
         a.norvik->SetTextoInvisible(u"1+2");
         EXPECT_TRUE(a.norvik->ConstruyeArbolSintacticoTextoInvisible());
-        EXPECT_EQ(::norvik::tabla(a.norvik->Gramatica()), tabla);
+        EXPECT_EQ(enTexto(a.norvik->Gramatica().valores().tabla), tabla);
         for (const auto& carga : std::initializer_list<std::function<void(Norvik&)>>{
                  [](auto& n) { n.SetER(u"x", u"x", true); }, [](auto& n) { n.SetPalabraReservada(u"x"); },
                  [](auto& n) { n.SetOperador(u"x", u"x"); }, [](auto& n) { n.SetComentarioLinea(u"x"); },
@@ -267,7 +267,7 @@ TEST(Reentrada, DuranteLaCompilacionSeVeElLenguajeDeAntes) {
     a.faltan = 1;
     EXPECT_TRUE(a.norvik->GeneraCompilador());
     EXPECT_EQ(veces, 5);
-    EXPECT_EQ(::norvik::tabla(a.norvik->Gramatica()), tabla);
+    EXPECT_EQ(enTexto(a.norvik->Gramatica().valores().tabla), tabla);
     a.accion = nullptr;
     EXPECT_TRUE(a.norvik->CargaGramatica(restas) && a.norvik->GeneraCompilador());
 }

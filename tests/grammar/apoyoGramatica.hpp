@@ -4,6 +4,7 @@
 
 #include "norvik/base/texto.hpp"
 #include "norvik/grammar/gramatica.hpp"
+#include "norvik/grammar/gramaticaLR.hpp"
 
 #include <memory>
 #include <string>
@@ -45,23 +46,6 @@ inline std::u16string enTexto(const std::vector<conjunto>& conjuntos) {
     for (const conjunto& conj : conjuntos) {
         if (!texto.empty()) texto += u' ';
         texto += conj.nombre + u"{" + conj.toStringConjunto() + u"}";
-    }
-    return texto;
-}
-
-/// «0: a=2 S=1; 1: $=1000; 2: $=-1/2»: entries other than 0 as they are read, and the loser of a conflict.
-inline std::u16string tabla(const gramatica& g) {
-    std::u16string texto;
-    for (std::int16_t e = 0; e < g.GetDimensionFilasSLR(); ++e) {
-        texto += (e == 0 ? u"" : u"; ") + aTexto(e) + u":";
-        for (std::int16_t c = 0; c < g.GetNumSimbolos(); ++c) {
-            const std::int16_t valor = g.GetElementoTablaSLR(e, c);
-            if (valor == 0) continue;
-            const auto columna = static_cast<std::int16_t>(c + 1);
-            texto += u' ' + std::u16string(g.encabezadoColumna(columna)) + u'=' + aTexto(valor);
-            const auto perdedora = g.conflicto(static_cast<std::int16_t>(e + 1), columna);
-            if (perdedora != 0) texto += u'/' + aTexto(perdedora);
-        }
     }
     return texto;
 }

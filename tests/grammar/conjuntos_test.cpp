@@ -58,6 +58,9 @@ TEST(Conjuntos, PorNombre) {
     EXPECT_TRUE(g->quedanPrimerosPendientes() && g->estaPendientePrimeros(u"A"));
     g->creaConjuntos();
     EXPECT_EQ(g->numItemPrimeros(u"S"), 2);
+    conjunto primeros;
+    for (const std::int16_t fuera : {std::int16_t{-1}, std::int16_t{4}})
+        EXPECT_THROW(g->creaPrimeros(u"A b", primeros, false, fuera), SubindiceFueraDeIntervalo) << fuera;
     EXPECT_EQ(g->numItemSiguientes(u"A"), 2);
     EXPECT_EQ(g->numItemPrimeros(u"X"), 0);
     EXPECT_TRUE(g->estaPendienteSiguientes(u"X"));

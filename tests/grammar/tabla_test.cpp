@@ -34,7 +34,7 @@ TEST(Tabla, GramaticasAMano) {
          }) {
         const auto g = generada(reglas);
         EXPECT_EQ(g->simbolos().toStringConjunto(), simbolos) << nombre;
-        EXPECT_EQ(aUtf8(tabla(*g)), aUtf8(esperada)) << nombre;
+        EXPECT_EQ(aUtf8(enTexto(g->valores().tabla)), aUtf8(esperada)) << nombre;
     }
 }
 
@@ -110,6 +110,8 @@ TEST(Automata, EscalerasYPalabras) {
 
 TEST(Automata, PasoAPaso) {
     const auto g = generada(u"E -> E + T; E -> T; T -> id");
+    EXPECT_EQ(aUtf8(enTexto(g->valores().automata)),
+              "0: 1.0>2 2.0>6 3.0>5\n1: 1.1>3\n2: 1.1>3\n3: 1.2>4 3.0>5\n4: 1.3>-1\n5: 3.1>-1\n6: 2.1>-1\n");
     estadoAutomata estado;
     EXPECT_EQ(estado.getNumEstado(), -1);
     g->aniadeReglaAEstado(u"E", estado);

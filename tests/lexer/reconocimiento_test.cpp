@@ -97,6 +97,8 @@ TEST(Reconocimiento, ElMapaGuardaElTextoYSusDefiniciones) {
     mapa.borra(2);
     EXPECT_FALSE(mapa.en(2));
     EXPECT_EQ(lexico.ReconoceTokens(u"b").toString(), u"1 1 id\n");
+    registra(lexico, {{u"num", u"[0-9]"}});
+    EXPECT_EQ(lexico.ReconoceTokens(u"b1").toString(), u"1 1 id\n2 1 num\n");
 }
 
 TEST(Reconocimiento, UnaBusquedaDesbocadaNombraSuDefinicion) {
@@ -174,8 +176,9 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
     };
     // Their walks fail late and begin again within what they have walked over.
     const auto solapado = [&] {
-        constexpr std::u16string_view piezas[] = {u"a", u"[ab]", u"[^d]", u"a+", u"b?", u"c", u"d"};
-        std::u16string texto;
+        constexpr std::u16string_view piezas[] = {u"a", u"[ab]", u"[^d]", u"a+", u"b?",
+                                                  u"c", u"d",    u"\\b",  u"\\B"};
+        std::u16string texto(azar() % 8 == 0 ? u"^" : u"");
         for (std::size_t n = 2 + azar() % 3; n > 0; --n) texto += piezas[azar() % std::size(piezas)];
         return texto;
     };
@@ -189,7 +192,7 @@ TEST(Reconocimiento, LaBusquedaConjuntaDaLoMismoQueCadaDefinicionSola) {
         pilaTokens lexico;
         for (int i = 0; i < 12; ++i)
             lexico.SetER(patron(i % 5), u"t" + aTexto(i), true, azar() % 2 == 0, u"", 0, 0, sinColor);
-        const std::u16string texto = cadena(vuelta % 10 == 0 ? 900 : 40, u"aaabbABñÑcdŁA");
+        const std::u16string texto = cadena(vuelta % 10 == 0 ? 900 : 40, u"aaabbABñÑcdŁA  ");
         EXPECT_EQ(lexico.ReconoceTokens(texto).toString(), mapaIngenuo(lexico, texto)) << aUtf8(texto);
     }
 }

@@ -76,6 +76,7 @@ TEST(Reparaciones, CadaErrorDiceComoSeArreglaYElAnalisisSigue) {
         {u"x := 1 + @ @# 2;", "9-13 caracter-incorrecto: quite '@ @#';\n", u"x := 1 +  2;"},
         {u"x := ; y := 3;", "5-6 token-inesperado: inserte nombre; inserte número;\n", {}},
         {u"x := 1", "6-6 token-inesperado: inserte ';';\n", u"x := 1;"},
+        {u"x(1);", "1-2 token-inesperado: inserte ':='", u"x:=(1);"},
         {u"", "0-0 token-inesperado:", {}},
         {u"x := 1 y := 2 z := (3;\n",
          "7-8 token-inesperado: inserte ';';\n14-15 token-inesperado: inserte ';';\n"

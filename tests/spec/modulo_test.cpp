@@ -152,6 +152,9 @@ TEST(Modulo, DevuelveLoQueSeEscribio) {
         EXPECT_EQ(destino.reglas(), origen.reglas());
         EXPECT_EQ(destino.tabla(), origen.tabla());
     }
+    // Where the end of the text has the first column.
+    EXPECT_NE(modulo(u"Token a = \"a\"; S -> Ø;").find(u"SetElementoTablaSLR 2, 1, 1000"),
+              std::u16string::npos);
 }
 
 TEST(Modulo, LoDemasSeNombraConSuLinea) {
