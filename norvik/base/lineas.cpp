@@ -22,6 +22,11 @@ void IndiceLineas::reconstruye(std::u16string_view texto) {
     ultima_ = 0;
 }
 
+void IndiceLineas::vacia() noexcept {
+    inicios_.resize(1);
+    ultima_ = 0;
+}
+
 bool IndiceLineas::contiene(std::size_t linea, std::int32_t pos) const {
     return linea < inicios_.size() && inicios_[linea] <= pos &&
            (linea + 1 == inicios_.size() || pos < inicios_[linea + 1]);

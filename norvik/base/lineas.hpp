@@ -16,6 +16,8 @@ std::vector<std::int32_t> iniciosDeLineas(std::u16string_view texto);
 class IndiceLineas {
 public:
     void reconstruye(std::u16string_view texto);
+    /// Those of an empty text.
+    void vacia() noexcept;
     /// Line of the character at a position; a position beyond the text is on the last line, one before it
     /// on the first.
     std::int32_t lineaDe(std::int32_t pos) const;

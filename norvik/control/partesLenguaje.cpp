@@ -59,7 +59,7 @@ public:
     }
     TextoPuesto(const TextoPuesto&) = delete;
     TextoPuesto& operator=(const TextoPuesto&) = delete;
-    ~TextoPuesto() { invisible_.ponTexto({}); }
+    ~TextoPuesto() { invisible_.vacia(); }
 
 private:
     TextoInvisible& invisible_;

@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace norvik::inline v0_2 {
 
@@ -14,8 +15,13 @@ namespace norvik::inline v0_2 {
 class TextoInvisible final : public FuenteTexto {
 public:
     void ponTexto(std::u16string_view texto) {
-        texto_ = texto;
-        lineas_.reconstruye(texto_);
+        std::u16string suyo(texto);
+        lineas_.reconstruye(suyo);
+        texto_ = std::move(suyo);
+    }
+    void vacia() noexcept {
+        texto_.clear();
+        lineas_.vacia();
     }
     std::u16string_view texto() const override { return texto_; }
     std::int32_t lineaDeCaracter(std::int32_t posicion) const override { return lineas_.lineaDe(posicion); }

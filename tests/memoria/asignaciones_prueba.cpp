@@ -283,7 +283,7 @@ class Asignaciones : public testing::TestWithParam<Caso> {};
 TEST_P(Asignaciones, TrasCualquieraQueFalleElObjetoSirve) {
     const Caso& caso = GetParam();
     const bool todas = std::getenv("NORVIK_ASIGNACIONES") != nullptr;
-    constexpr std::size_t muestra = 60;
+    constexpr std::size_t muestra = 250;
     const std::string esperado = caso.prepara()();
     const std::size_t total = asignacionesDe(caso, esperado);
     const std::size_t paso = todas ? 1 : std::max<std::size_t>(1, total / muestra);
