@@ -8,6 +8,8 @@
 #include "norvik/platform/cajaTexto.hpp"
 #include "norvik/platform/memoria/sistemaMemoria.hpp"
 
+#include <functional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,9 +29,11 @@ public:
         SistemaMemoria::ponPuntero(puntero);
     }
     void procesaEventos() override { pasos += 'e'; }
+    void trabaja(const std::function<void(std::stop_token)>& trabajo) override { trabajo(parada); }
 
     std::vector<Mensaje> mensajes;
     std::string pasos;
+    std::stop_token parada; ///< of its works
 };
 
 /// Counts the locks that are still on.

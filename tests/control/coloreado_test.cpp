@@ -69,6 +69,23 @@ TEST(Coloreado, UnaLineaNoVeLoQueSaleDeElla) {
     EXPECT_EQ(colores(e), "0-1:808000 2-12:008000 13-14:808000 ");
 }
 
+TEST(Coloreado, SePuedeCancelar) {
+    Editor e(std::u16string(30000, u'x'));
+    e.norvik.Lexico().SetER(u"(x*x*)*y", u"mala", true, false, u"", Norvik_Numero, Norvik_SinBase, sinColor);
+    std::stop_source parada;
+    parada.request_stop();
+    for (int vez = 0; vez < 2; ++vez) {
+        e.sistema.parada = parada.get_token();
+        EXPECT_THROW(e.norvik.ColoreaTodo(), OperacionCancelada);
+        EXPECT_TRUE(e.enReposo());
+        EXPECT_FALSE(e.norvik.Lexico().cancelacion.stop_possible());
+    }
+    e.sistema.parada = {};
+    e.norvik.Text(u"begin");
+    e.norvik.ColoreaTodo();
+    EXPECT_EQ(colores(e), "0-5:800000 ");
+}
+
 TEST(Coloreado, ApagadoNoHaceNada) {
     Editor e(u"begin 12");
     e.norvik.Colorear(false);
@@ -169,7 +186,7 @@ TEST(Marcas, SignosNumeradosDesdeElDos) {
 TEST(Analisis, UnErrorSeMuestraYSeMarcaSiSeQuiere) {
     const std::tuple<std::u16string_view, std::string, std::string> casos[] = {
         {u"1 +\r\n# 2", "ERROR Léxico", "5-8:0000ff "},
-        {u"1 +", "ERROR de Sintaxis", "0-3:0000ff "},
+        {u"1 +", "ERROR de Sintaxis", "0-3:808000 "},
         {u"fija", "ERROR de Sintaxis", "0-4:0000ff "}};
     for (const auto& [texto, titulo, vistos] : casos) {
         for (const bool activo : {false, true}) {
