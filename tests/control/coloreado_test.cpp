@@ -186,7 +186,7 @@ TEST(Marcas, SignosNumeradosDesdeElDos) {
 TEST(Analisis, UnErrorSeMuestraYSeMarcaSiSeQuiere) {
     const std::tuple<std::u16string_view, std::string, std::string> casos[] = {
         {u"1 +\r\n# 2", "ERROR Léxico", "5-8:0000ff "},
-        {u"1 +", "ERROR de Sintaxis", "0-3:808000 "},
+        {u"1 +", "ERROR de Sintaxis", "0-3:0000ff "},
         {u"fija", "ERROR de Sintaxis", "0-4:0000ff "}};
     for (const auto& [texto, titulo, vistos] : casos) {
         for (const bool activo : {false, true}) {
