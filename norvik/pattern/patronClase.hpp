@@ -29,13 +29,13 @@ struct ClaseLeida {
         PropiedadDeUnidad propiedad;
         bool negado;
 
-        auto operator<=>(const Escape&) const = default;
+        auto operator<=>(const Escape&) const = default; // NOLINT(modernize-use-nullptr): no pointers
     };
     std::vector<RangoUnidades> rangos;
     std::vector<Escape> escapes;
     bool negada = false;
 
-    auto operator<=>(const ClaseLeida&) const = default;
+    auto operator<=>(const ClaseLeida&) const = default; // NOLINT(modernize-use-nullptr): no pointers
 };
 
 /// A set of units, ready to be asked.

@@ -12,7 +12,7 @@ struct RangoUnidades {
     char16_t desde = 0;
     char16_t hasta = 0;
 
-    auto operator<=>(const RangoUnidades&) const = default;
+    auto operator<=>(const RangoUnidades&) const = default; // NOLINT(modernize-use-nullptr): no pointers
 };
 
 /// Every `paso`-th unit from `desde` to `hasta`, and the one that stands for the first of them; those of the
