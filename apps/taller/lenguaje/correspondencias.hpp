@@ -15,12 +15,12 @@
 namespace norvik::taller {
 
 std::optional<Rango> lugarEnEspecificacion(const Estudio& estudio, const Eleccion& eleccion);
-/// The cell of the table that it is.
-std::optional<DeCelda> celdaDe(const Eleccion& eleccion);
 std::optional<Rango> lugarEnTexto(const Estudio& estudio, const Eleccion& eleccion);
 std::optional<std::int16_t> reglaDe(const Estudio& estudio, const Eleccion& eleccion);
 std::optional<std::u16string> simboloDe(const Estudio& estudio, const Eleccion& eleccion);
 std::optional<std::int16_t> estadoDe(const Eleccion& eleccion);
+/// The cell of the table that it is.
+std::optional<DeCelda> celdaDe(const Eleccion& eleccion);
 /// How many nodes of the tree a rule has made, and the first of them.
 struct NodosDeRegla {
     std::size_t cuantos = 0;
