@@ -7,7 +7,6 @@
 #include "norvik/control/tablaPropiedades.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
-#include <QAbstractScrollArea>
 #include <QAction>
 #include <QFileInfo>
 
@@ -47,9 +46,7 @@ void ElementoFormulario::cedeTeclas() {
 
 void ElementoFormulario::conecta() {
     norvik_.installEventFilter(this);
-    auto& texto = static_cast<QAbstractScrollArea&>(norvik_.caja().ventana());
-    texto.installEventFilter(this);
-    texto.viewport()->installEventFilter(this);
+    norvik_.caja().ventana().installEventFilter(this);
     connect(&norvik_, &ControlNorvik::textoCambiado, this, &ElementoFormulario::cambiaTexto);
     connect(&documento_, &DocumentoTexto::cambiado, this, &ElementoFormulario::cambiaTexto);
     connect(&documento_, &DocumentoTexto::aviso, this, &ElementoFormulario::aviso);

@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <regex>
 #include <string>
+#include <sys/resource.h>
 #include <utility>
 #include <vector>
 
@@ -339,6 +340,26 @@ TEST_F(Orden, RevisaCuentaLosConflictos) {
         << json.salida;
 }
 
+TEST_F(Orden, RevisaNoRepiteLaMismaHistoria) {
+    const std::string tokens = "Token a = \"a\";\nToken b = \"b\";\nToken c = \"c\";\n";
+    const std::pair<std::string, int> filas[] = {
+        {"S -> S S | a | b | c X | c Y;\nX -> a | b;\nY -> a | b;\n", 8}, // once for each state
+        {"S -> c X a | c Y a | c Z a | c X | c Y | c Z;\nX -> b;\nY -> b;\nZ -> b;\n",
+         0},                              // two reductions, in turn
+        {"E -> E a E | E b E | c;\n", 0}, // what is meant differs by operator
+    };
+    for (const auto& [reglas, repetidas] : filas) {
+        std::string salida =
+            ejecuta({"revisa", pon("dudosa.nvk", tokens + reglas), "--metodo", "lalr"}).salida;
+        int veces = 0;
+        for (std::size_t lugar = 0;
+             (lugar = salida.find("\n  Se cuenta como el anterior.\n", lugar)) != std::string::npos; ++lugar)
+            ++veces;
+        EXPECT_EQ(veces, repetidas) << salida;
+        EXPECT_NE(salida.find("Conflicto"), std::string::npos);
+    }
+}
+
 TEST_F(Orden, LaEntradaEstandarSirveDeFichero) {
     const std::string texto = pon("texto", "si x");
     const std::string salida = ejecuta({"analiza", lenguaje_, texto}).salida;
@@ -487,6 +508,19 @@ TEST_F(Orden, LosFicherosImposiblesTienenSuMensaje) {
              {Palabras{"analiza", lenguaje_, texto}, Palabras{"informe", lenguaje_, "-o", "-"}})
             comprueba(ejecuta(palabras, {.salida = destino}), 2, "", salida + causa);
     EXPECT_EQ(ejecuta({"analiza", lenguaje_, ruta("no")}, {.errores = Destino::LectorQueSeFue}).estado, 2);
+}
+
+TEST_F(Orden, UnLimiteDeTamanoNoMataLaOrden) {
+    const std::string informe = pon("informeGramatica.txt", "antes");
+    rlimit limite{};
+    getrlimit(RLIMIT_FSIZE, &limite);
+    const rlimit pequeno{200, limite.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &pequeno);
+    const Resultado resultado = ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta().string()});
+    setrlimit(RLIMIT_FSIZE, &limite);
+    comprueba(resultado, 2, "",
+              "norvik: No se puede escribir «" + informe + "»: el fichero es demasiado grande\n");
+    EXPECT_EQ(bytesDe(informe), "antes");
 }
 
 TEST_F(Orden, LosTextosImposiblesTienenSuMensaje) {

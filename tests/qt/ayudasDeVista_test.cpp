@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -199,6 +200,10 @@ TEST_F(AyudasDeVista, ElZoomCambiaLoQueSeVeYNoLaFuente) {
     }
     QMetaObject::invokeMethod(&editor, "tamanoNormal");
     EXPECT_EQ(vista.font().pointSizeF(), 20);
+    editor.permiteZoom(true);
+    editor.Text(QString(500, '\n'));
+    gira(-240, Qt::ControlModifier);
+    EXPECT_EQ(vista.verticalScrollBar()->value(), 0); // the wheel does one thing
 }
 
 /// Where nothing can be edited Qt's own editor would change its size, asked or not.

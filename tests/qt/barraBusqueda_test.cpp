@@ -51,6 +51,7 @@ struct Busca : testing::Test {
     QString cuenta(const QString& esperada) const {
         const auto& rotulo = *norvik->findChild<QLabel*>("cuenta");
         static_cast<void>(QTest::qWaitFor([&] { return rotulo.text() == esperada; }, 3000));
+        EXPECT_EQ(rotulo.accessibleName(), rotulo.text());
         return rotulo.text();
     }
     /// A key for whoever has the focus; shortcuts are those of the window.
@@ -288,6 +289,11 @@ TEST_F(Busca, LasAccionesHacenYSeActivan) {
         return todas;
     };
     const QString siempre = "buscar buscarSiguiente buscarAnterior reemplazar irALinea ";
+    for (int i = 0; i < numeroDeAcciones; ++i) // the text knows the others itself
+        for (const QKeySequence& tecla : norvik->accion(static_cast<AccionNorvik>(i))->shortcuts())
+            EXPECT_TRUE(tecla[0].keyboardModifiers().testFlag(Qt::ControlModifier) ||
+                        tecla[0].key() == Qt::Key_F3)
+                << tecla.toString().toStdString();
     QApplication::clipboard()->clear();
     norvik->Text("");
     norvik->control().InicializaUndosYRedos();

@@ -59,6 +59,11 @@ TEST_F(CompletadoTest, ProponeLoQuePuedeSeguirYLoEscribe) {
         QTest::keyClicks(&vista, "mi");
         QCoreApplication::processEvents();
         EXPECT_EQ(propuestas(), QStringList({"mientras", "mira"}));
+        pulsa(Qt::Key_Home, Qt::ShiftModifier);
+        EXPECT_EQ(propuestas(), QStringList()); // what is selected is not being written
+        pulsa(Qt::Key_End);
+        pulsa(Qt::Key_Space, Qt::ControlModifier);
+        EXPECT_EQ(propuestas(), QStringList({"mientras", "mira"}));
         pulsa(Qt::Key_Down);
         pulsa(Qt::Key_Return);
         EXPECT_EQ(editor.Text(), "mira");

@@ -331,7 +331,9 @@ TEST_F(ControlNorvikTest, UnaLetraVuelveComoSePuso) {
     norvik.control().Font({.juegoCaracteres = 238});
     for (const int peso : {300, 400, 600, 700, 900}) {
         QFont letra(QStringLiteral("Monospace"), 11, peso);
+        letra.setUnderline(peso > 600);
         norvik.Font(letra);
+        EXPECT_EQ(editor.font().underline(), peso > 600);
         EXPECT_EQ(norvik.Font().weight(), peso);
         EXPECT_EQ(norvik.control().Font().negrita, peso >= 700);
     }
@@ -357,6 +359,11 @@ TEST_F(ControlNorvikTest, ElClickDeLaSuperficieEsDelBotonIzquierdoAlSoltarlo) {
     EXPECT_EQ(clicks, 1);
     QTest::mousePress(&norvik, Qt::LeftButton, {}, enElMarco);
     QTest::mouseRelease(&norvik, Qt::LeftButton, {}, {-20, -20}); // thought better of
+    EXPECT_EQ(clicks, 1);
+    norvik.LeftBorderVisible(true);
+    despues.setFocus();
+    QTest::mouseClick(elemento("debugBox"), Qt::LeftButton);
+    EXPECT_TRUE(editor.hasFocus());
     EXPECT_EQ(clicks, 1);
 }
 

@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -115,8 +116,9 @@ TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
     EXPECT_EQ(sistema.dameMensajes(), (std::vector<Mensaje>{{u"Se ha buscado en la región especificada",
                                                              u"Busqueda completada", Icono::Informacion}}));
     escribe(dialogo, "Combo1", "a(");
-    en<QPushButton>(dialogo, "Command1").click();
+    QTest::keyClick(lista.lineEdit(), Qt::Key_Return);
     EXPECT_EQ(sistema.dameMensajes()[0].icono, Icono::Exclamacion);
+    EXPECT_EQ(lista.count(), 3);
     QTest::keyClick(lista.lineEdit(), Qt::Key_Escape);
     EXPECT_EQ(abierto(), nullptr);
     EXPECT_TRUE(norvik.caja().ocultaSeleccion());
@@ -175,7 +177,15 @@ TEST_F(DialogosBusquedaTest, LoQueFallaAlBuscarSeDice) {
 
 TEST_F(DialogosBusquedaTest, Reemplazar) {
     estadoBusqueda().ultimaBusqueda = u"ab";
+    norvik.control().ShowBuscarDialog();
+    QCoreApplication::processEvents();
+    const auto porEncima = [] { // both as the widget and as its window know it
+        const auto suyas = abierto()->windowFlags() | abierto()->windowHandle()->flags();
+        return suyas.testFlag(Qt::WindowStaysOnTopHint);
+    };
+    EXPECT_TRUE(porEncima());
     sistema.usos.emplace_back([&](QWidget& d) {
+        EXPECT_FALSE(porEncima());
         EXPECT_EQ(d.windowTitle(), "Reemplazar");
         EXPECT_TRUE(titulos(&d).endsWith("Buscar &siguiente|&Reemplazar|Reemplazar &todo|&Cancelar|"));
         EXPECT_FALSE(norvik.caja().ocultaSeleccion());
@@ -198,6 +208,8 @@ TEST_F(DialogosBusquedaTest, Reemplazar) {
     });
     norvik.control().ShowReemplazarDialog();
     EXPECT_EQ(sistema.ventanas, "Reemplazar ");
+    EXPECT_TRUE(porEncima());
+    abierto()->reject();
     EXPECT_TRUE(norvik.caja().ocultaSeleccion());
     EXPECT_EQ(sistema.dameMensajes()[0].texto, u"Se han hecho 3 reemplazos");
     norvik.control().Undo();

@@ -23,6 +23,7 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -160,6 +161,7 @@ TEST_F(DisenioTest, UnLenguajeDeLaPaginaAlModulo) {
         EXPECT_EQ(v.windowTitle(), "Ventana para código de pruebas");
         teclea(prueba.Norvik1(), "1+\n+2");
         dispara(v, "Test");
+        EXPECT_EQ(colores(prueba.Norvik1()), "ab..cc"); // up to where it was read
         QTest::keyClick(&prueba.Norvik1().caja().ventana(), Qt::Key_Home);
         QTest::keyClick(&prueba.Norvik1().caja().ventana(), Qt::Key_Delete);
         dispara(v, "Test");
@@ -365,6 +367,9 @@ TEST_F(DisenioTest, HerramientasDelEditor) {
               "Edición: Undo. Redo. Copiar. Cortar. Pegar. Seleccionar todo; Borrar todo;\n"
               "Ayuda: Indice. Acerca de ...;\n");
     const auto texto = [&] { return aUtf8(editor.Norvik1().control().Text()); };
+    QString barra;
+    for (const QAction* a : editor.findChild<QToolBar*>()->actions()) barra += a->iconText() + '|';
+    EXPECT_EQ(barra.toStdString(), "Probar el lenguaje ...|Ver Informe ...||Imprimir||Undo|Redo||Buscar|");
     teclea(editor.Norvik1(), "xy");
     dispara(editor, "ID_Undo");
     EXPECT_EQ(texto(), "xA -> a;");

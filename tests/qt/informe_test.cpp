@@ -96,6 +96,7 @@ TEST_F(InformeTest, LaTablaYSusConflictos) {
                 EXPECT_EQ(celda.data(Qt::TextAlignmentRole).toInt(), Qt::AlignCenter);
                 const bool realzada = celda.data(Qt::BackgroundRole).isValid();
                 EXPECT_EQ(realzada, celda.data().toString().contains('/'));
+                EXPECT_EQ(realzada, celda.data(Qt::FontRole).value<QFont>().bold());
                 realzadas += realzada ? 1 : 0;
                 EXPECT_GT(tabla.columnWidth(c),
                           tabla.fontMetrics().horizontalAdvance(celda.data().toString()));

@@ -31,6 +31,9 @@ TEST_F(PaginasTest, GeneralMuestraYEscribeLasOpciones) {
     norvik.MargenIzquierdo(-7);
     pagina.cambiaSeleccion({&norvik, &segundo});
     const auto casillas = pagina.findChildren<QCheckBox*>();
+    pagina.show();
+    for (int i = 1; i < casillas.size(); ++i)
+        EXPECT_GE(casillas[i]->y(), casillas[i - 1]->geometry().bottom());
     std::string marcadas;
     for (const QCheckBox* c : casillas) marcadas += c->isChecked() ? '1' : '0';
     EXPECT_EQ(marcadas, "00110001");

@@ -59,6 +59,32 @@ protected:
 
 } // namespace
 
+/// Something stands at the left of a line that is wrong, and at the right of one that can be folded.
+TEST_F(PlegadoTest, ElMargenSenalaLoMaloYLoPlegable) {
+    const auto pintadas = [&](int x, int ancho) {
+        QCoreApplication::processEvents();
+        QString lineas;
+        const QImage imagen = margen.grab().toImage();
+        for (int linea = 0; linea < 7; ++linea) {
+            const QTextCursor cursor(vista.document()->findBlockByNumber(linea));
+            const QRect sitio(x, vista.cursorRect(cursor).top() + 1, ancho,
+                              vista.cursorRect(cursor).height() - 2);
+            const QImage trozo = imagen.copy(sitio);
+            QImage liso = trozo;
+            liso.fill(imagen.pixelColor(imagen.width() - 1, imagen.height() - 1));
+            if (trozo != liso) lineas += QString::number(linea);
+        }
+        return lineas;
+    };
+    const int lado = margen.fontMetrics().height() * 3 / 4;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pintadas(margen.width() - lado, lado) == "02"; }));
+    EXPECT_EQ(pintadas(0, 12), "");
+    Diagnostico malo;
+    malo.rango = {{3, 2, 1}, {4, 2, 2}};
+    editor.ponDiagnosticos({malo});
+    EXPECT_EQ(pintadas(0, 12), "1");
+}
+
 TEST_F(PlegadoTest, UnTrianguloPliegaYDespliega) {
     espera();
     for (int vez = 0; vez < 2; ++vez) {

@@ -29,6 +29,9 @@ Vista contesta(SistemaQt& sistema, const Mensaje& mensaje, const QString& boton,
         auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(caja, nullptr);
         const auto* resto = caja->findChild<QPlainTextEdit*>();
+        QFont negrita = caja->font();
+        negrita.setBold(true);
+        EXPECT_GT(caja->width(), QFontMetrics(negrita).horizontalAdvance(caja->windowTitle()));
         vista = {caja->windowTitle(),
                  caja->text(),
                  {},
@@ -49,9 +52,10 @@ Vista contesta(SistemaQt& sistema, const Mensaje& mensaje, const QString& boton,
 
 TEST(SistemaQt, CajasDeMensaje) {
     SistemaQt sistema;
-    const Mensaje error{u"<b>texto</b>", u"ERROR Léxico", Icono::Exclamacion};
+    const Mensaje error{u"<b>texto</b>", u"ERROR Léxico en la especificación que se ha abierto",
+                        Icono::Exclamacion};
     const Vista vista = contesta(sistema, error, "Aceptar", Respuesta::Aceptar);
-    EXPECT_EQ(vista.titulo, "ERROR Léxico");
+    EXPECT_EQ(vista.titulo, "ERROR Léxico en la especificación que se ha abierto");
     EXPECT_EQ(vista.texto, "<b>texto</b>");
     EXPECT_EQ(vista.botones, "Aceptar ");
     EXPECT_EQ(vista.icono, QMessageBox::Warning);

@@ -109,10 +109,21 @@ TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
                 grosores.insert(linea->pen().widthF());
         return grosores.size() > 1; // one is thicker than the others
     };
+    const auto alto = [this](int regla) { // of the track of a rule, which is wider than its boxes
+        QRectF via;
+        for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
+            if (const auto* const linea = qgraphicsitem_cast<const QGraphicsPathItem*>(suya);
+                linea != nullptr && suya->data(0) == regla &&
+                linea->path().boundingRect().width() > via.width())
+                via = linea->path().boundingRect();
+        return via.height();
+    };
     ventana.diagramas().hide();
     emit ventana.pasos().elegido(DeRegla{2});
     trae(ventana.diagramas());
     EXPECT_TRUE(gruesas());
+    EXPECT_EQ(alto(1), 0); // the first one goes straight on, the next one aside
+    EXPECT_GT(alto(2), 0);
     ventana.diagramas().hide();
     emit ventana.pasos().elegido(DeRegla{1});
     empieza(gramaticaAmbigua, u"1+2"); // of which nothing is chosen

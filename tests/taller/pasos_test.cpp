@@ -260,6 +260,15 @@ TEST_F(AutomataTest, LaListaElTextoYElDibujoDicenLoMismo) {
                       vista.mapFromScene(panel.dibujo().caja(1).center()));
     EXPECT_EQ(toma<DeEstado>().back().estado, 1);
     EXPECT_EQ(lista.currentRow(), 1);
+    for (const int estado : {1, 5}) {
+        const auto suyas = vista.scene()->items(panel.dibujo().caja(estado).center());
+        const auto* const marco = qgraphicsitem_cast<const QGraphicsRectItem*>(suyas.back());
+        ASSERT_NE(marco, nullptr);
+        EXPECT_EQ(marco->brush().color() == vista.palette().color(QPalette::Highlight), estado == 1);
+    }
+    pon(panel, u"Token a = \"a\";", u"");
+    EXPECT_EQ(panel.aviso(), "No hay nada que enseñar: el lenguaje no tiene gramática.");
+    EXPECT_TRUE(vista.scene()->items().isEmpty());
 }
 
 TEST_F(AutomataTest, LoQueQuedaDeAntesNoEligeNadaYLoElegidoEspera) {

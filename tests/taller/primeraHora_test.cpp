@@ -5,6 +5,7 @@
 
 #include "apoyo/carpetaTemporal.hpp"
 #include "ayuda/plantillas.hpp"
+#include "ejemplos.hpp"
 #include "linea.hpp"
 #include "ventanaPrincipal.hpp"
 
@@ -61,6 +62,30 @@ TEST(Plantillas, SonLenguajesSinNadaQueDecirYSuTextoEsSuyo) {
         EXPECT_GT(p.texto().size(), 10U);
         EXPECT_TRUE(analisis.diagnosticos.empty());
     }
+}
+
+/// A text of an example can be read at a glance, and they are found from wherever the program was installed
+/// to.
+TEST(Ejemplos, SeEncuentranDesdeElPrograma) {
+    const apoyo::CarpetaTemporal carpeta;
+    for (const char* sitio : {"ejemplos", "usr/share/norvik/ejemplos"}) {
+        for (const char* cual : {"otra/bien", "suma/bien"})
+            std::filesystem::create_directories(carpeta / sitio / cual);
+        carpeta.pon(std::string(sitio) + "/suma/suma.nvk", "");
+        carpeta.pon(std::string(sitio) + "/otra/suma.nvk", "");
+        for (const auto& [nombre, largo] : {std::pair("a", 10U), {"b", 4000U}, {"c", 4001U}, {"d", 20U}})
+            carpeta.pon(std::string(sitio) + "/suma/bien/" + nombre, std::string(largo, 'x'));
+    }
+    for (const char* programa : {"usr/bin", "build/apps"})
+        std::filesystem::create_directories(carpeta / programa);
+    const QString raiz = QString::fromStdString(carpeta.ruta().string());
+    const auto ejemplos = ejemplosDe(raiz + "/ejemplos");
+    ASSERT_EQ(ejemplos.size(), 1);
+    EXPECT_EQ(ejemplos[0].nombre, "suma");
+    EXPECT_EQ(ejemplos[0].texto, raiz + "/ejemplos/suma/bien/b");
+    EXPECT_TRUE(ejemplosDe({}).isEmpty());
+    EXPECT_EQ(carpetaDeEjemplos(raiz + "/usr/bin"), raiz + "/usr/share/norvik/ejemplos");
+    EXPECT_EQ(carpetaDeEjemplos(raiz + "/build/apps"), raiz + "/ejemplos");
 }
 
 TEST_F(PrimeraHoraTest, DeLaPaginaDeInicioSeVaATodo) {

@@ -206,7 +206,10 @@ TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
     const QModelIndex raiz = modelo.index(0, 0);
     EXPECT_EQ(raiz.data().toString(), "1. E → E mas num");
     EXPECT_EQ(modelo.parent(modelo.index(2, 0, raiz)), raiz);
-    emit ventana.arbol().elegida(modelo.hojaDe(modelo.index(2, 0, raiz)));
+    ventana.show();
+    auto& vista = *ventana.arbol().findChild<QTreeView*>();
+    QTest::mouseClick(vista.viewport(), Qt::LeftButton, {},
+                      vista.visualRect(modelo.index(2, 0, raiz)).center());
     EXPECT_EQ(norvik().control().SelText(), u"23");
     EXPECT_EQ(modelo.hojaDe(raiz).lexema, "1");
     norvik().control().Text(u"1\r\n+ +");
@@ -237,7 +240,8 @@ TEST_F(TallerTest, ElFormularioGuardaSusControles) {
     ordena(a.nuevoFormulario);
     EXPECT_EQ(ventana.formulario().elementos().size(), 1U);
     EXPECT_TRUE(norvik().Borde3D());
-    ventana.abre(ruta("f.nvf"));
+    dialogos.ficheros = {ruta("f.nvf")};
+    ordena(a.abrirFormulario);
     ASSERT_EQ(ventana.formulario().elementos().size(), 2U);
     ElementoFormulario& primero = *ventana.formulario().elementos()[0];
     EXPECT_FALSE(primero.norvik().Borde3D());
@@ -246,6 +250,7 @@ TEST_F(TallerTest, ElFormularioGuardaSusControles) {
     EXPECT_EQ(primero.norvik().Text(), "1 2");
     EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().EspaciosXTAB(), 7);
     EXPECT_EQ(ventana.formulario().elementos()[1]->norvik().Text(), "sin fichero");
+    primero.norvik().Borde3D(false); // as it is
     EXPECT_FALSE(ventana.formulario().modificado());
 }
 
@@ -463,6 +468,9 @@ TEST_F(TallerTest, ModoDeDisenio) {
     ASSERT_TRUE(velo->isVisible());
     QTest::keyClick(ventana.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(norvik().Text(), "");
+    ventana.resize(ventana.size() + QSize(150, 100));
+    QApplication::processEvents();
+    EXPECT_EQ(velo->geometry(), primero.norvik().geometry());
     QTest::mouseClick(velo, Qt::LeftButton);
     EXPECT_EQ(&ventana.formulario().activo(), &primero);
     ordena(a.quitar);
@@ -618,6 +626,23 @@ TEST_F(TallerTest, FicherosQueSeSueltan) {
     QDropEvent solo({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(texto, &solo);
     EXPECT_EQ(norvik().Text(), "1");
+}
+
+TEST_F(TallerTest, LosRecientesSeAbrenDeNuevo) {
+    const QString uno = pon("a&b.txt", "1"), otro = pon("otro.txt", "2");
+    ventana.abre(uno);
+    ventana.abre(otro);
+    ASSERT_TRUE(QFile::remove(otro));
+    for (int vez = 0; vez < 2; ++vez) {
+        a.textosRecientes.popup({});
+        a.textosRecientes.hide();
+        const auto entradas = a.textosRecientes.actions();
+        ASSERT_EQ(entradas.size(), 2);
+        EXPECT_EQ(entradas[0]->text() + '|' + entradas[1]->text(), "&1 otro.txt|&2 a&&b.txt");
+        EXPECT_FALSE(entradas[0]->isEnabled());
+    }
+    a.textosRecientes.actions()[1]->trigger();
+    EXPECT_EQ(ventana.formulario().activo().tituloTexto(), "a&b.txt");
 }
 
 TEST_F(TallerTest, CadaVentanaVuelveComoSeDejo) {

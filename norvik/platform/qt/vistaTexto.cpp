@@ -294,7 +294,7 @@ void VistaTexto::muestraMenu(const QPoint& lugar) {
     };
     pon(QStringLiteral("Cor&tar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::ShiftModifier); });
     pon(QStringLiteral("&Copiar"), hay, [this] { copia(); });
-    pon(QStringLiteral("&Pegar"), edita && canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
+    pon(QStringLiteral("&Pegar"), canPaste(), [this] { teclea(Qt::Key_Insert, Qt::ShiftModifier); });
     pon(QStringLiteral("&Eliminar"), hay && edita, [this] { teclea(Qt::Key_Delete, Qt::NoModifier); });
     menu.addSeparator();
     pon(QStringLiteral("&Seleccionar todo"), !document()->isEmpty(), [this] { selectAll(); });
