@@ -85,16 +85,12 @@ void PanelAnalisis::compone() {
     enUnaFila_.setToolTip(
         QStringLiteral("E › T › F ocupa una sola fila, cuando cada una viene de una regla de un "
                        "símbolo"));
-    camino_.setTextFormat(Qt::PlainText);
-    camino_.setWordWrap(true);
     camino_.setAccessibleName(QStringLiteral("Camino desde la raíz"));
     camino_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addWidget(&enUnaFila_);
     componeBusqueda();
     componeEsquema();
-    ocultos_.setTextFormat(Qt::PlainText);
-    ocultos_.setWordWrap(true);
     columnaDibujada_.setContentsMargins(0, 0, 0, 0);
     columnaDibujada_.addWidget(&botones_, 0, Qt::AlignLeft);
     columnaDibujada_.addWidget(&ocultos_);
@@ -116,8 +112,6 @@ void PanelAnalisis::componeBusqueda() {
     busca_.setAccessibleName(QStringLiteral("Buscar un nodo por su símbolo o su texto"));
     busca_.setClearButtonEnabled(true);
     hazAviso(hallado_);
-    hallado_.setTextFormat(Qt::PlainText);
-    hallado_.setWordWrap(true);
     hallado_.setAccessibleName(QStringLiteral("Resultado de la búsqueda"));
     irABuscar_.setText(QStringLiteral("Buscar en el árbol"));
     irABuscar_.setShortcut(QKeySequence::Find);

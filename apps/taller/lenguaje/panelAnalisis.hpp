@@ -7,11 +7,11 @@
 #include "botonesDibujo.hpp"
 #include "modeloAnalisis.hpp"
 #include "panel.hpp"
+#include "rotulo.hpp"
 #include "vistaDibujo.hpp"
 
 #include <QAction>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -85,15 +85,15 @@ private:
     QHBoxLayout filaBusqueda_;
     QCheckBox enUnaFila_;
     QLineEdit busca_;
-    QLabel hallado_; ///< what came of a search
+    Rotulo hallado_; ///< what came of a search
     QAction irABuscar_;
-    QLabel camino_;
+    Rotulo camino_;
     ModeloAnalisis modelo_; ///< goes after its view
     QTabWidget maneras_;
     VistaArbol vista_;
     QWidget dibujada_;
     QVBoxLayout columnaDibujada_;
-    QLabel ocultos_;
+    Rotulo ocultos_;
     VistaDibujo dibujo_;
     BotonesDibujo botones_;
     int realzado_ = -1;

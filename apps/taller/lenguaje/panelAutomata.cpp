@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <chrono>
 #include <initializer_list>
 #include <numeric>
 #include <utility>
@@ -22,6 +23,7 @@ namespace {
 
 constexpr qsizetype maximoLineas = 6; // of a box
 constexpr qsizetype maximoLargo = 40;
+constexpr std::chrono::milliseconds pausa{100}; // before another part is drawn
 
 QStringList paraCaja(QStringList lineas) {
     if (lineas.size() > maximoLineas) {
@@ -52,6 +54,9 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
             [this](const QUrl& adonde) { protege([&] { pulsado(adonde.toString()); }); });
     connect(&vista_, &VistaAutomata::elegido, this,
             [this](int estado) { protege([&] { elegidoPorLaPersona(estado); }); });
+    porDibujarse_.setSingleShot(true);
+    porDibujarse_.setInterval(pausa);
+    connect(&porDibujarse_, &QTimer::timeout, this, [this] { protege([this] { dibujaElElegido(); }); });
     connect(&colocador_, &ColocadorGrafos::colocado, this, [this](const GrafoColocado& sitio) {
         protege([&] {
             porColocar_.sitio = sitio;
@@ -71,11 +76,7 @@ PanelAutomata::PanelAutomata(Dialogos& dialogos, QWidget* padre)
 
 void PanelAutomata::compone() {
     nombra(aviso_, "aviso", QStringLiteral("Aviso"));
-    aviso_.setTextFormat(Qt::PlainText);
-    aviso_.setWordWrap(true);
     nombra(entrada_, "entrada", QStringLiteral("Entrada más corta que lleva al estado elegido"));
-    entrada_.setTextFormat(Qt::PlainText);
-    entrada_.setWordWrap(true);
     entrada_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     barra_.addWidget(&botones_);
     barra_.addWidget(&aviso_, 1);
@@ -231,10 +232,13 @@ void PanelAutomata::elige(int estado) {
     elegido_ = estado;
     if (!grafo_ || estado >= static_cast<int>(grafo_->estados())) return;
     if (enHtml_ != std::pair(estado, resaltada_)) muestraEstado();
-    if (vista_.dibuja(estado))
-        vista_.elige(realce());
-    else if (porColocar_.estado(estado) == nullptr)
-        dibuja();
+    if (vista_.dibuja(estado)) return vista_.elige(realce());
+    porDibujarse_.start();
+}
+
+/// To begin another program takes longer than a step of the film should.
+void PanelAutomata::dibujaElElegido() {
+    if (grafo_ && porColocar_.estado(elegido_) == nullptr) dibuja();
 }
 
 void PanelAutomata::muestraEstado() {

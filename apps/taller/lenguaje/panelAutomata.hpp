@@ -7,15 +7,16 @@
 #include "dibujoGrafo.hpp"
 #include "palabrasEstado.hpp"
 #include "panel.hpp"
+#include "rotulo.hpp"
 #include "vistaAutomata.hpp"
 
 #include "norvik/widget/trabajoDeFondo.hpp"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QListWidget>
 #include <QSplitter>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstdint>
@@ -73,6 +74,7 @@ private:
     void muestraEstado();
     std::vector<std::int16_t> porDibujar(const GrafoEstados& grafo) const;
     void dibuja();
+    void dibujaElElegido();
     RealceAutomata realce() const;
     Lamina lamina() const;
 
@@ -93,14 +95,15 @@ private:
     QWidget centro_;
     QVBoxLayout columna_;
     QHBoxLayout barra_;
-    QLabel entrada_; ///< the shortest that leads to the chosen state
-    QLabel aviso_;
+    Rotulo entrada_; ///< the shortest that leads to the chosen state
+    Rotulo aviso_;
     QSplitter partes_;
     QListWidget estados_;
     QTextBrowser estado_;
     VistaAutomata vista_;
     BotonesDibujo botones_; ///< goes before its view
     ColocadorGrafos colocador_;
+    QTimer porDibujarse_{this};         ///< another part, once nobody goes further
     TrabajoDeFondo<Resultado> trabajo_; ///< goes first
 };
 

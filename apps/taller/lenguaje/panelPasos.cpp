@@ -74,12 +74,9 @@ void PanelPasos::compone() {
     nombra(accion_, "accion", QStringLiteral("Acción"));
     nombra(conflicto_, "conflicto", QStringLiteral("Conflicto"));
     nombra(resto_, "resto", QStringLiteral("Lo que falta por leer"));
-    for (QLabel* const rotulo : {&accion_, &conflicto_, &resto_}) {
-        rotulo->setTextFormat(Qt::PlainText);
+    resto_.setTextFormat(Qt::PlainText);
+    for (QLabel* const rotulo : std::initializer_list<QLabel*>{&accion_, &conflicto_, &resto_})
         rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    }
-    accion_.setWordWrap(true);
-    conflicto_.setWordWrap(true);
     resto_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     columna_.addLayout(&botones_);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "panel.hpp"
+#include "rotulo.hpp"
 #include "vistaPila.hpp"
 
 #include "norvik/parser/pelicula.hpp"
@@ -83,7 +84,8 @@ private:
     QAction primero_, atras_, adelante_, correr_, ultimo_, alCursor_, alError_;
     QSpinBox paso_;
     QSlider corredera_{Qt::Horizontal};
-    QLabel accion_, conflicto_, resto_;
+    Rotulo accion_, conflicto_;
+    QLabel resto_;
     VistaPila pila_;
     QTimer reloj_{this};
     TrabajoDeFondo<Resultado> trabajo_; ///< goes first

@@ -41,8 +41,6 @@ void PanelTabla::compone() {
     vista_.setSelectionMode(QTableView::SingleSelection);
     vista_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     vista_.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    palabras_.setTextFormat(Qt::PlainText);
-    palabras_.setWordWrap(true);
     palabras_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     palabras_.setAccessibleName(QStringLiteral("Lo que hace la celda elegida"));
     fila_.addWidget(&palabras_, 1);

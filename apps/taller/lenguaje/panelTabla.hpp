@@ -6,9 +6,9 @@
 #include "botonesDibujo.hpp"
 #include "modeloCeldas.hpp"
 #include "panel.hpp"
+#include "rotulo.hpp"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -56,7 +56,7 @@ private:
     QWidget centro_;
     QVBoxLayout columna_;
     QHBoxLayout fila_;
-    QLabel palabras_;
+    Rotulo palabras_;
     QToolButton siguiente_, conflicto_;
     ModeloCeldas modelo_; ///< goes after its view
     QTableView vista_;

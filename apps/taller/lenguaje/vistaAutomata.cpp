@@ -14,7 +14,7 @@ void VistaAutomata::muestra(const DibujoAutomata& dibujo, const RealceAutomata& 
     VistaDibujo::muestra([this](const QPalette& colores, QGraphicsScene& escena) {
         pinta(dibujo_, colores, realce_, escena);
     });
-    ensureVisible(dibujo_.caja(realce.estado));
+    if (dibuja(realce.estado)) ensureVisible(dibujo_.caja(realce.estado));
 }
 
 void VistaAutomata::vacia() {
