@@ -52,6 +52,26 @@ TEST_F(DialogosDePersona, UnNombreMaloNoSeAcepta) {
     EXPECT_EQ(pide(""), "antes");
 }
 
+TEST_F(DialogosDePersona, AnteUnChoqueLaTeclaSinMirarNadaPierde) {
+    QWidget ventana;
+    ventana.show();
+    for (const auto& [titulo, respuesta] : {std::pair("&Sobrescribir", Choque::Sobrescribir),
+                                            {"&Guardar como…", Choque::GuardarComo},
+                                            {"&Recargar", Choque::Recargar},
+                                            {"&Cancelar", Choque::Cancelar},
+                                            {"(Escape)", Choque::Cancelar},
+                                            {"(Intro)", Choque::GuardarComo}}) {
+        QApplication::setActiveWindow(&ventana);
+        enElSiguiente<QMessageBox>([&ventana, titulo](QMessageBox& caja) {
+            EXPECT_EQ(caja.parentWidget(), &ventana);
+            for (auto* const boton : caja.buttons())
+                if (boton->text() == titulo) return boton->click();
+            QTest::keyClick(&caja, QByteArray(titulo) == "(Intro)" ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        EXPECT_EQ(dialogos.preguntaChoque("<b>otro</b> lo cambió"), respuesta) << titulo;
+    }
+}
+
 TEST_F(DialogosDePersona, ElFicheroQueNoSeAceptaNoSeElige) {
     const QString uno = pon("uno.txt"), otro = pon("otro.txt");
     const auto abre = [&](bool acepta) {

@@ -124,6 +124,15 @@ TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
     EXPECT_TRUE(gruesas());
     EXPECT_EQ(alto(1), 0); // the first one goes straight on, the next one aside
     EXPECT_GT(alto(2), 0);
+    QStringList enSuCaja;
+    for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
+        if (const auto* const letra = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(suya))
+            for (const QGraphicsItem* const debajo : ventana.diagramas().vista().scene()->items())
+                if (debajo != suya && debajo->data(0) == suya->data(0) &&
+                    debajo->sceneBoundingRect().contains(letra->sceneBoundingRect()))
+                    enSuCaja += letra->text();
+    enSuCaja.sort();
+    EXPECT_EQ(enSuCaja.join(' '), "E T T mas num");
     ventana.diagramas().hide();
     emit ventana.pasos().elegido(DeRegla{1});
     empieza(gramaticaAmbigua, u"1+2"); // of which nothing is chosen
@@ -133,7 +142,11 @@ TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
 
 TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
     empieza(gramaticaSuma, u"1+2");
+    trae(ventana.tabla());
+    EXPECT_TRUE(ventana.tabla().vista().isVisible() && ventana.arbol().vista().isVisible());
     traeAutomata();
+    for (const auto* const boton : ventana.tabla().findChildren<QToolButton*>())
+        EXPECT_FALSE(boton->isEnabled() && boton->text().contains("onflicto")); // there is none
     const struct {
         const char* nombre;
         Eleccion eleccion;

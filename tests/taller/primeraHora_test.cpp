@@ -142,6 +142,8 @@ TEST_F(PrimeraHoraTest, LaVisitaPasaPorTodoYEnsenaLoQueDice) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return lenguaje.seguimiento().alDia(); }));
         EXPECT_GE(lenguaje.problemas().lista().topLevelItem(0)->childCount(), 2); // as it says
         lenguaje.arbol().hide();
+        for (const auto* const boton : visita.findChildren<QPushButton*>())
+            EXPECT_EQ(boton->isEnabled(), boton->text() != "An&terior") << boton->text().toStdString();
         int pasos = 1;
         for (; visita.siguiente().isEnabled(); ++pasos)
             QTest::mouseClick(&visita.siguiente(), Qt::LeftButton);
@@ -156,6 +158,8 @@ TEST_F(PrimeraHoraTest, ElManualSeAbrePorLoQueSeTieneDelante) {
     const auto aqui = [&] { return pagina.textCursor().block().text(); };
     EXPECT_EQ(aqui(), "El taller");
     EXPECT_GE(ventana.manual().indice().topLevelItemCount(), 7);
+    EXPECT_TRUE(ventana.manual().indice().isVisible());
+    EXPECT_TRUE(ventana.manual().indice().topLevelItem(0)->isExpanded());
     VentanaLenguaje& lenguaje = ventana.ventanaLenguaje();
     for (auto* const panel : lenguaje.findChildren<Panel*>()) {
         ventana.manual().muestra(temaDe(panel->widget()));
@@ -185,6 +189,12 @@ TEST_F(PrimeraHoraTest, ElManualSeAbrePorLoQueSeTieneDelante) {
 
 TEST_F(PrimeraHoraTest, UnaTeclaEsLoMismoEnTodasLasVentanas) {
     ventana.acciones().teclas.trigger();
+    QStringList todas; // each once, in its place
+    for (QTreeWidgetItemIterator i(&ventana.teclas().lista(), QTreeWidgetItemIterator::NoChildren);
+         *i != nullptr; ++i)
+        todas += (*i)->parent()->parent()->text(0) + '|' + (*i)->parent()->text(0) + '|' + (*i)->text(0);
+    EXPECT_TRUE(todas.contains("El formulario|Archivo|Guardar texto")) << todas.join('\n').toStdString();
+    EXPECT_EQ(todas.removeDuplicates(), 0);
     QMap<QString, QStringList> ordenes; // the first words of each key's captions
     QTreeWidgetItemIterator fila(&ventana.teclas().lista());
     int filas = 0;

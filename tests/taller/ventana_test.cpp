@@ -215,8 +215,14 @@ TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
     norvik().control().Text(u"1\r\n+ +");
     ordena(a.analizar);
     EXPECT_EQ(ventana.mensaje().texto(), QString::fromStdU16String(norvik().control().GetmensajeError()));
-    emit ventana.mensaje().pideIr();
+    const auto pulsa = [this](const QString& titulo) {
+        for (auto* const boton : ventana.mensaje().findChildren<QToolButton*>())
+            if (boton->isVisible() && boton->text() == titulo) QTest::mouseClick(boton, Qt::LeftButton);
+    };
+    pulsa("&Ir al error");
     EXPECT_EQ(norvik().control().SelStart(), 5);
+    pulsa("✕");
+    EXPECT_TRUE(ventana.mensaje().isHidden());
     ventana.abre(pon("mal.nvk", "E -> ;; x"));
     EXPECT_TRUE(dialogos.toma().last().startsWith("aviso El lenguaje de Norvik1 no se ha podido cargar:"));
     EXPECT_FALSE(tieneLenguaje(norvik()));
