@@ -191,6 +191,36 @@ TEST_F(CajaTextoQtTest, PegarYCopiarSinPerderNada) {
     EXPECT_EQ(coloresVistos(), "....\n....\n");
 }
 
+TEST_F(CajaTextoQtTest, ElMenuOfreceLoQueSePuede) {
+    const struct {
+        int elegidos;
+        bool soloLectura;
+        const char* pegable;
+        QString ofrece;
+    } casos[] = {{0, false, "", "&Seleccionar todo|"},
+                 {0, false, "p", "&Pegar|&Seleccionar todo|"},
+                 {2, false, "p", "Cor&tar|&Copiar|&Pegar|&Eliminar|&Seleccionar todo|"},
+                 {2, true, "p", "&Copiar|&Seleccionar todo|"}};
+    caja.ponTexto(u"uno");
+    for (const auto& c : casos) {
+        QApplication::clipboard()->clear();
+        if (*c.pegable != '\0') QApplication::clipboard()->setText(c.pegable);
+        editor.setReadOnly(c.soloLectura);
+        caja.selecciona(0, c.elegidos);
+        QString ofrece;
+        QTimer::singleShot(0, &editor, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (const QAction* a : menu->actions())
+                if (a->isEnabled() && !a->isSeparator()) ofrece += a->text() + '|';
+            menu->close();
+        });
+        QContextMenuEvent pide(QContextMenuEvent::Keyboard, {5, 5}, editor.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(editor.viewport(), &pide);
+        EXPECT_EQ(ofrece, c.ofrece) << c.elegidos << c.soloLectura << c.pegable;
+    }
+}
+
 TEST_F(CajaTextoQtTest, SoltarTexto) {
     caja.ponTexto(u"uno\r\ndos");
     QMimeData datos;

@@ -344,6 +344,20 @@ TEST_F(ControlNorvikTest, UnaLetraVuelveComoSePuso) {
     EXPECT_EQ(norvik.control().Font().juegoCaracteres, 238);
 }
 
+TEST_F(ControlNorvikTest, AcercaDiceQueVersionEsYLaCierraIntro) {
+    for (int vez = 0; vez < 2; ++vez) {
+        sistema.usos.emplace_back([](QWidget& ventana) {
+            const QLabel& nombre = *ventana.findChild<QLabel*>();
+            EXPECT_TRUE(nombre.text().startsWith("Norvik ")) << nombre.text().toStdString();
+            EXPECT_GT(nombre.font().pointSizeF(), ventana.font().pointSizeF());
+            QTest::keyClick(&ventana, Qt::Key_Return);
+            EXPECT_FALSE(ventana.isVisible());
+        });
+        norvik.control().Acerca();
+        EXPECT_TRUE(sistema.usos.empty());
+    }
+}
+
 TEST_F(ControlNorvikTest, ElClickDeLaSuperficieEsDelBotonIzquierdoAlSoltarlo) {
     int clicks = 0;
     QObject::connect(&norvik, &ControlNorvik::Click, [&] { ++clicks; });

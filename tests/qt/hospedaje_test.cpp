@@ -275,7 +275,7 @@ TEST_F(Hospedaje, LasPalabrasDeUnDiagnosticoSeLeen) {
         return QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 400) ? QString() : QToolTip::text();
     };
     QTextCursor cursor(vista.document());
-    cursor.setPosition(5);
+    cursor.setPosition(4);
     const QString palabras = ayudaEn(vista.viewport(), vista.cursorRect(cursor).center() + QPoint(2, 0));
     EXPECT_TRUE(palabras.contains("&lt;b&gt;")) << palabras.toStdString();
     EXPECT_EQ(ayudaEn(vista.viewport(), {2, 5}), "");

@@ -60,6 +60,7 @@ TEST_F(InformeTest, TresPartes) {
         EXPECT_EQ(partes.tabText(0) + partes.tabText(1) + partes.tabText(2),
                   "&Informe general&Autómata SLR&Tabla SLR");
         QTest::qWait(0);
+        EXPECT_EQ(v.focusWidget(), &en<QPlainTextEdit>(v, "Texto"));
         EXPECT_EQ(partes.geometry(), QRect(0, 33, v.width(), v.height() - 33)); // 33 pixels are 500 twips
         const auto sinRetornos = [](std::u16string texto) {
             std::erase(texto, u'\r');

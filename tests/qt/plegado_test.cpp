@@ -77,7 +77,14 @@ TEST_F(PlegadoTest, ElMargenSenalaLoMaloYLoPlegable) {
         return lineas;
     };
     const int lado = margen.fontMetrics().height() * 3 / 4;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return pintadas(margen.width() - lado, lado) == "02"; }));
+    const auto esperadas = [&](const QString& lineas) {
+        return QTest::qWaitFor([&] { return pintadas(margen.width() - lado, lado) == lineas; });
+    };
+    EXPECT_TRUE(esperadas("02"));
+    EXPECT_TRUE(editor.cargaLenguaje(R"(Token todo = "[^Ø]+"; S -> todo;)"));
+    EXPECT_TRUE(esperadas(""));
+    EXPECT_TRUE(editor.cargaLenguaje(bloques));
+    EXPECT_TRUE(esperadas("02"));
     EXPECT_EQ(pintadas(0, 12), "");
     Diagnostico malo;
     malo.rango = {{3, 2, 1}, {4, 2, 2}};

@@ -19,6 +19,7 @@
 #include <QElapsedTimer>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -444,13 +445,17 @@ void VentanaLenguaje::recibe(const std::shared_ptr<const Estudio>& estudio) {
 void VentanaLenguaje::muestra() {
     QElapsedTimer reloj;
     reloj.start();
+    const auto elResto = qScopeGuard([this] {
+        if (mostrando()) porMostrar_.start();
+    });
     if (mostrado_ != ultimo_) muestraEnTexto();
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
     const Eleccion eleccion = enCursor();
     const auto nodo = nodoEn(*mostrado_, eleccion);
-    for (const auto suyos = paneles(); porDar_ > 0; --porDar_) {
+    for (const auto suyos = paneles(); mostrando();) {
         Panel& panel = *suyos[suyos.size() - porDar_];
-        if (panel.isVisible() && reloj.hasExpired(turno.count())) return porMostrar_.start();
+        if (panel.isVisible() && reloj.hasExpired(turno.count())) return;
+        --porDar_; // where one fails the others have theirs all the same
         if (!panel.muestraLoQueNoCompila()) panel.ponEstudio(mostrado_);
         if (seguimiento_.alDia()) lleva(eleccion, nodo, panel);
     }
