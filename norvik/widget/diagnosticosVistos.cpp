@@ -5,6 +5,7 @@
 #include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 #include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/widget/signo.hpp"
 
@@ -15,6 +16,13 @@
 #include <map>
 
 namespace norvik {
+
+namespace {
+
+/// Of a place: nobody reads more, and a table has conflicts by the ten thousands.
+constexpr int maximoDePalabras = 20;
+
+} // namespace
 
 DiagnosticosVistos::DiagnosticosVistos(CajaTextoQt& caja, Resaltes& resaltes)
     : caja_(caja), resaltes_(resaltes) {
@@ -28,10 +36,14 @@ void DiagnosticosVistos::pon(const std::vector<Diagnostico>& diagnosticos) {
     const auto total = static_cast<std::int32_t>(caja_.texto().size());
     std::vector<Marca> nuevas;
     nuevas.reserve(diagnosticos.size());
+    int delMismoLugar = 0;
     for (const Diagnostico& d : diagnosticos) {
         const std::int32_t inicio = std::clamp(d.rango.inicio.desplazamiento, 0, total);
         const std::int32_t fin = std::clamp(d.rango.fin.desplazamiento, inicio, total);
-        nuevas.push_back({inicio, fin, d.gravedad, aQString(mensaje(d))});
+        Marca nueva{inicio, fin, d.gravedad, {}};
+        delMismoLugar = !nuevas.empty() && nueva.esDondeOtra(nuevas.back()) ? delMismoLugar + 1 : 0;
+        if (delMismoLugar < maximoDePalabras) nueva.palabras = aQString(mensaje(d));
+        nuevas.push_back(std::move(nueva));
     }
     marcas_ = std::move(nuevas);
     resaltes_.refresca();
@@ -49,10 +61,16 @@ void DiagnosticosVistos::sigue(const CambioDeTexto& cambio) {
     if (std::erase_if(marcas_, desaparece) > 0) emit otros();
 }
 
+/// Those of one place, which follow one another, are seen as the worst of them.
 std::vector<Resalte> DiagnosticosVistos::resaltes(std::int32_t desde, std::int32_t hasta) const {
     std::vector<Resalte> vistos;
-    for (const Marca& m : marcas_)
-        if (m.inicio <= hasta && m.fin >= desde) vistos.push_back(resalte(m));
+    for (auto primera = marcas_.begin(); primera != marcas_.end();) {
+        const auto siguiente =
+            std::find_if_not(primera, marcas_.end(), [&](const Marca& m) { return m.esDondeOtra(*primera); });
+        if (primera->inicio <= hasta && primera->fin >= desde)
+            vistos.push_back(resalte(*std::ranges::min_element(primera, siguiente, {}, &Marca::gravedad)));
+        primera = siguiente;
+    }
     return vistos;
 }
 
@@ -91,8 +109,15 @@ std::vector<DiagnosticosVistos::EnLinea> DiagnosticosVistos::enLineas(std::int32
 template <typename Condicion>
 QString DiagnosticosVistos::palabrasDe(Condicion condicion) const {
     QStringList palabras;
-    for (const Marca& m : marcas_)
-        if (condicion(m)) palabras.append(m.palabras);
+    std::size_t otras = 0;
+    for (const Marca& m : marcas_) {
+        if (!condicion(m)) continue;
+        if (palabras.size() < maximoDePalabras && !m.palabras.isEmpty())
+            palabras.append(m.palabras);
+        else
+            ++otras;
+    }
+    if (otras > 0) palabras.append(QStringLiteral("… y otros %1").arg(otras));
     return palabras.join(u'\n');
 }
 
@@ -122,10 +147,13 @@ QString DiagnosticosVistos::resumen() const {
 bool DiagnosticosVistos::eventFilter(QObject* vista, QEvent* evento) {
     if (evento->type() != QEvent::ToolTip) return QObject::eventFilter(vista, evento);
     const auto& ayuda = static_cast<const QHelpEvent&>(*evento);
-    const auto posicion = caja_.caracterEn(ayuda.pos());
-    const QString palabras = posicion ? palabrasEn(*posicion) : QString();
-    palabras.isEmpty() ? QToolTip::hideText()
-                       : QToolTip::showText(ayuda.globalPos(), ayudaLlana(palabras), &caja_.vista());
+    QString palabras;
+    sinFallos([&] {
+        const auto posicion = caja_.caracterEn(ayuda.pos());
+        if (posicion) palabras = palabrasEn(*posicion);
+        palabras.isEmpty() ? QToolTip::hideText()
+                           : QToolTip::showText(ayuda.globalPos(), ayudaLlana(palabras), &caja_.vista());
+    });
     return !palabras.isEmpty();
 }
 

@@ -34,7 +34,7 @@ public:
         Gravedad gravedad = Gravedad::Error;
     };
     std::vector<EnLinea> enLineas(std::int32_t primera, std::int32_t ultima) const;
-    /// The words of those that a position, or a line, has.
+    /// The words of those that a position, or a line, has; of many, how many more there are.
     QString palabrasEn(std::int32_t posicion) const;
     QString palabrasDeLinea(std::int32_t linea) const;
     /// «2 errores, 1 aviso», for those who do not see them.
@@ -52,7 +52,9 @@ private:
         std::int32_t inicio = 0;
         std::int32_t fin = 0;
         Gravedad gravedad = Gravedad::Error;
-        QString palabras;
+        QString palabras; ///< none behind many of the same place
+
+        bool esDondeOtra(const Marca& otra) const { return inicio == otra.inicio && fin == otra.fin; }
     };
 
     void sigue(const CambioDeTexto& cambio);

@@ -90,9 +90,11 @@ bool MargenDeLineas::eventFilter(QObject* borde, QEvent* evento) {
 bool MargenDeLineas::event(QEvent* evento) {
     if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
     const auto& ayuda = static_cast<const QHelpEvent&>(*evento);
-    const auto linea = caja_.vista().lineaEn(ayuda.pos().y());
-    const QString palabras = linea ? diagnosticos_.palabrasDeLinea(*linea) : QString();
-    QToolTip::showText(ayuda.globalPos(), ayudaLlana(palabras), this);
+    sinFallos([&] {
+        const auto linea = caja_.vista().lineaEn(ayuda.pos().y());
+        const QString palabras = linea ? diagnosticos_.palabrasDeLinea(*linea) : QString();
+        QToolTip::showText(ayuda.globalPos(), ayudaLlana(palabras), this);
+    });
     return true;
 }
 

@@ -6,11 +6,13 @@
 #include "qt/sistemaDePrueba.hpp"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -230,4 +232,29 @@ TEST_F(AyudasDeVista, SoloSeResaltaLoQueSeVe) {
     EXPECT_NE(resaltes().front(), primero);
     EXPECT_LT(seVen(), 40);
     EXPECT_TRUE(resaltes().contains("12000-12003"));
+}
+
+/// A table has conflicts by the ten thousands, of a few rules: each would be one cursor and one wave more.
+TEST_F(AyudasDeVista, MilesDeUnLugarSeVenComoElPeorYSeCuentan) {
+    editor.Text("abc def");
+    std::vector<Diagnostico> todos(20'000, {Codigo::TokenInesperado, Gravedad::Aviso, {{0}, {3}}, {}});
+    todos[19'998].gravedad = Gravedad::Error;
+    todos.push_back({Codigo::TokenInesperado, Gravedad::Nota, {{4}, {7}}, {}});
+    editor.ponDiagnosticos(todos);
+    EXPECT_EQ(resaltes(), QStringList({"0-3", "4-7"}));
+    const QColor visto = vista.extraSelections().constFirst().format.underlineColor();
+    editor.ponDiagnosticos({todos[19'998]});
+    EXPECT_EQ(resaltes(), QStringList("0-3"));
+    EXPECT_EQ(vista.extraSelections().constFirst().format.underlineColor(), visto);
+    editor.ponDiagnosticos(todos);
+    auto& margen = *editor.findChild<QWidget*>("margenDeLineas");
+    for (QWidget* const donde : {vista.viewport(), &margen}) {
+        QHelpEvent pide(QEvent::ToolTip, {6, 6}, donde->mapToGlobal(QPoint(6, 6)));
+        QApplication::sendEvent(donde, &pide);
+        const QString ayuda = QToolTip::text();
+        EXPECT_EQ(ayuda.count("<br>"), 20);
+        EXPECT_TRUE(ayuda.contains(donde == &margen ? "… y otros 19981" : "… y otros 19980"))
+            << ayuda.right(80).toStdString();
+    }
+    EXPECT_EQ(margen.accessibleName(), "1 error, 19999 avisos, 1 nota");
 }
