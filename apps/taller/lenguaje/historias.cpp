@@ -4,8 +4,9 @@
 
 #include "curas.hpp"
 
-#include <algorithm>
 #include <chrono>
+#include <cstdint>
+#include <map>
 #include <utility>
 
 namespace norvik::taller {
@@ -13,14 +14,22 @@ namespace norvik::taller {
 namespace {
 
 /// Of a quiet conflict only the actions are known: the first cell that has them is its own.
-void ponEstado(HistoriaConflicto& historia, const LenguajeEstudiado& lenguaje) {
-    if (historia.estado != HistoriaConflicto::sinEstado || lenguaje.gramatica() == nullptr) return;
-    const auto suyo = std::ranges::find_if(lenguaje.conflictos, [&](const Conflicto& c) {
-        return c.regla == historia.acciones[1].regla &&
-               lenguaje.gramatica()->tabla.simbolo(c.columna) == historia.simbolo;
-    });
-    if (suyo != lenguaje.conflictos.end()) historia.estado = static_cast<std::int16_t>(suyo->fila - 1);
-}
+class CeldasPorAccion {
+public:
+    explicit CeldasPorAccion(const LenguajeEstudiado& lenguaje) : gramatica_(lenguaje.gramatica()) {
+        for (const Conflicto& c : lenguaje.conflictos) filas_.try_emplace({c.regla, c.columna}, c.fila);
+    }
+    void ponEstado(HistoriaConflicto& historia) const {
+        if (historia.estado != HistoriaConflicto::sinEstado || gramatica_ == nullptr) return;
+        const auto columna = static_cast<std::int16_t>(gramatica_->tabla.codigo(historia.simbolo) + 1);
+        const auto suya = filas_.find({historia.acciones[1].regla, columna});
+        if (suya != filas_.end()) historia.estado = static_cast<std::int16_t>(suya->second - 1);
+    }
+
+private:
+    const GramaticaLR* gramatica_;
+    std::map<std::pair<std::int16_t, std::int16_t>, std::int16_t> filas_; ///< of a rule and a column
+};
 
 } // namespace
 
@@ -48,13 +57,14 @@ Historias::Contados Historias::cuenta(const LenguajeEstudiado& lenguaje, const s
     limites.porConflicto = 500ms;
     limites.enTotal = 3'000ms; // a person waits for it
     limites.cancelacion = parada;
+    const CeldasPorAccion celdas(lenguaje);
     Contados contados;
     for (Hallazgo& hallazgo : conHistorias(lenguaje, limites)) {
+        if (parada.stop_requested()) break;
         contados.push_back({std::move(hallazgo.historias), {}});
         Contado& suyo = contados.back();
-        for (HistoriaConflicto& historia : suyo.historias) ponEstado(historia, lenguaje);
-        if (!suyo.historias.empty() && !parada.stop_requested())
-            suyo.curas = curasDe(lenguaje, suyo.historias.front());
+        for (HistoriaConflicto& historia : suyo.historias) celdas.ponEstado(historia);
+        if (!suyo.historias.empty()) suyo.curas = curasDe(lenguaje, suyo.historias.front());
     }
     return contados;
 }

@@ -98,10 +98,10 @@ void PanelTabla::ajusta() {
     const QFontMetrics letra(negrita);
     const int margen = letra.horizontalAdvance(QStringLiteral("00"));
     const int entrada = letra.horizontalAdvance(QStringLiteral("D000"));
+    const int dudosa = letra.horizontalAdvance(QStringLiteral("⚠ D000 / R000"));
     std::vector<int> anchos(static_cast<std::size_t>(modelo_.columnCount()), entrada);
     for (const DeCelda& celda : modelo_.enConflicto())
-        anchos[static_cast<std::size_t>(celda.codigo)] =
-            letra.horizontalAdvance(QStringLiteral("⚠ D000 / R000"));
+        anchos[static_cast<std::size_t>(celda.codigo)] = dudosa;
     if (const GramaticaLR* const g = estudio_ ? estudio_->gramatica() : nullptr; g != nullptr)
         if (const std::int16_t fin = g->tabla.codigoFin(); fin >= 0) {
             int& suyo = anchos[static_cast<std::size_t>(fin)];
