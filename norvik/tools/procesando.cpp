@@ -12,6 +12,8 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace norvik {
 
 Procesando::Procesando(SistemaQt& sistema, QWidget* sobre, Aparece cuando)
@@ -73,9 +75,11 @@ void Procesando::closeEvent(QCloseEvent* evento) {
     cancela();
 }
 
+/// The notice takes the focus, and a line that loses it is coloured: with the lexer that is at work.
 void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
     const std::u16string texto(norvik.caja().texto());
     pilaTokens& lexico = norvik.control().Lexico();
+    const QScopedValueRollback<std::function<void()>> sinColorear(norvik.caja().eventos.pierdeFoco, nullptr);
     const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
     sistema.trabaja([&](const std::stop_token& parada) {
         const QScopedValueRollback<std::stop_token> cancelable(lexico.cancelacion, parada);

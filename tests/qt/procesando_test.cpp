@@ -4,6 +4,7 @@
 #include "apoyo/gramaticaLarga.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/control/ranurasDisenio.hpp"
+#include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/tools/codigoGramatica.hpp"
 #include "norvik/tools/ppControl.hpp"
 #include "norvik/tools/probarLenguaje.hpp"
@@ -11,6 +12,7 @@
 #include "norvik/tools/ventanas.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QPushButton>
 #include <QTest>
@@ -138,16 +140,20 @@ TEST(Procesando, UnaGramaticaInterminableSeCancelaEnLasVentanas) {
     EXPECT_EQ(sistema.ventanas, "");
 }
 
+// The line that is being typed on waits for its colours until the focus is lost, which goes to the notice.
 TEST(Procesando, UnTextoDesbocadoSeDejaDeReconocer) {
     SistemaDePrueba sistema;
     ProbarLenguaje prueba(sistema);
     Norvik& control = prueba.Norvik1().control();
-    control.Colorear(false);
     control.CargaGramatica(uR"(Token t = "(a*)*\1c"; S -> t;)");
     control.GeneraCompilador();
-    prueba.show();
     control.Text(std::u16string(30'000, u'a'));
+    prueba.show();
+    QApplication::setActiveWindow(&prueba);
+    QWidget& caja = prueba.Norvik1().caja().ventana();
     for (int vez = 0; vez < 2; ++vez) {
+        caja.setFocus();
+        QTest::keyClick(&caja, Qt::Key_A);
         const Impaciente persona(pulsaCancelar);
         prueba.findChild<QAction*>("Test")->trigger();
         ASSERT_TRUE(persona.cronometro.isValid());
