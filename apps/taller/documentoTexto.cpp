@@ -6,6 +6,7 @@
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/procesando.hpp"
 
 #include <QFileInfo>
@@ -62,15 +63,27 @@ void DocumentoTexto::abre(const QString& fichero) {
     const QString huella = huellaDe(ruta); // of what is read next, or of what was there before
     const std::string bytes = leeDocumento(fichero);
     vacia();
-    try {
-        norvik_.control().CargarFichero(aRuta(ruta));
-    } catch (const Desbordamiento&) {
-        norvik_.caja().protege([] { throw; }); // it is told as at any key
-    }
+    carga(ruta);
     formato_ = formatoDe(bytes);
     esBinario_ = norvik::esBinario(bytes);
     fichero_.pon(ruta, huella);
     anotaGuardado(normalizaLineas(decodifica(bytes)));
+}
+
+/// A text is there, too, when its colours are not: that it is too long for them, or takes too long, is told
+/// as at any key.
+void DocumentoTexto::carga(const QString& ruta) {
+    try {
+        const VentanaDeAmbito<Procesando> aviso(norvik_.sistema(), norvik_.window(),
+                                                Procesando::Aparece::SiTarda);
+        norvik_.control().CargarFichero(aRuta(ruta));
+    } catch (const OperacionCancelada&) {
+        return;
+    } catch (const ErrorDeFichero&) {
+        throw;
+    } catch (const ErrorNorvik&) {
+        norvik_.caja().protege([] { throw; });
+    }
 }
 
 /// What colouring corrected in a text that was read is not yet in its file.

@@ -55,8 +55,8 @@ public:
     void empieza(std::u16string_view texto);
     /// What there is of it has gone where the person wants it: without a file it is as good as saved.
     void anotaEntregado();
-    /// Raises `ErrorDeFichero`, the document is then what it was. A text that is too long to be coloured is
-    /// loaded, and that is told.
+    /// Raises `ErrorDeFichero`, the document is then what it was. A text that cannot be coloured is loaded,
+    /// and why is told; colouring that takes long can be cancelled.
     void abre(const QString& fichero);
     /// As it was read. Raises `ErrorDeFichero`.
     void guarda(const QString& fichero);
@@ -72,6 +72,7 @@ signals:
 
 private:
     void ponTexto(std::u16string_view texto);
+    void carga(const QString& ruta);
     void anotaGuardado(std::u16string_view texto);
 
     ControlNorvik& norvik_;
