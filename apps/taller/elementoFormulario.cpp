@@ -5,6 +5,7 @@
 #include "lenguaje.hpp"
 
 #include "norvik/control/tablaPropiedades.hpp"
+#include "norvik/lexer/pilaTokens.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 
 #include <QAction>
@@ -154,6 +155,17 @@ std::u16string ElementoFormulario::preparaLenguaje() {
     if (hayEspecificacion(norvik_)) return compilaLenguaje(norvik_);
     descargaLenguaje(norvik_);
     return {};
+}
+
+bool ElementoFormulario::faltaLenguaje() {
+    return !lenguajeAlDia_ && (!modulo_.isEmpty() || hayEspecificacion(norvik_));
+}
+
+std::size_t ElementoFormulario::patrones() {
+    std::size_t total = 0;
+    for (const auto& definicion : norvik_.control().Lexico().expresionesRegulares())
+        total += definicion->expresion.size();
+    return total;
 }
 
 ElementoFormulario::Origen ElementoFormulario::origen() {

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <cstddef>
 #include <string>
 
 namespace norvik::taller {
@@ -56,6 +57,10 @@ public:
     /// Loads it unless it is loaded. What is wrong with it, empty when nothing is. Raises
     /// `OperacionCancelada` with the one before in its place.
     std::u16string preparaLenguaje();
+    /// It has a language, which is not loaded as it is now.
+    bool faltaLenguaje();
+    /// How many characters the patterns of the loaded language have, with those of the names in them.
+    std::size_t patrones();
     /// What the language is made of, to be put back when nothing comes of another one.
     struct Origen {
         QString nombre;

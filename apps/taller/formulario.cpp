@@ -75,6 +75,14 @@ void Formulario::ponModo(Modo modo) {
     emit cambiado();
 }
 
+/// All together have what a single one may have; each of their characters takes about twelve bytes.
+bool Formulario::estaLleno() const {
+    constexpr std::size_t maximo = std::size_t{8} << 20;
+    std::size_t total = 0;
+    for (const auto& e : elementos_) total += e->patrones();
+    return total >= maximo;
+}
+
 void Formulario::muestraTitulos() {
     for (const auto& e : elementos_) e->muestraTitulo(elementos_.size() > 1 || modo_ == Modo::Disenio);
 }
@@ -173,6 +181,12 @@ QStringList Formulario::llena(const std::vector<ElementoGuardado>& guardados) {
     };
     bool cancelada = false;
     const auto prepara = [&](ElementoFormulario& elemento) {
+        if (elemento.faltaLenguaje() && estaLleno()) {
+            avisos += elemento.nombre() +
+                      QStringLiteral(": su lenguaje no se ha cargado, porque los patrones de los anteriores "
+                                     "ocupan demasiado. Se carga cuando se analiza con él");
+            return;
+        }
         try {
             const std::u16string error = elemento.preparaLenguaje();
             if (!error.empty()) avisos += elemento.nombre() + QStringLiteral(": ") + aQString(error);

@@ -38,6 +38,9 @@ public:
     void activa(ElementoFormulario& elemento);
     Modo modo() const { return modo_; }
     void ponModo(Modo modo);
+    /// Its languages, those that are loaded, take as much memory as is left to them: the others are loaded
+    /// one by one, by who uses them.
+    bool estaLleno() const;
 
     /// A new control behind the others, which becomes the active one. An empty name is the first free one.
     ElementoFormulario& anade(const QString& nombre = {});

@@ -114,7 +114,8 @@ void OrdenesLenguaje::cambia(ElementoFormulario& elemento, const std::function<v
 }
 
 void OrdenesLenguaje::preparaTodos() {
-    for (const auto& e : formulario_.elementos()) prepara(*e);
+    for (const auto& e : formulario_.elementos())
+        if (!e->faltaLenguaje() || !formulario_.estaLleno()) prepara(*e);
 }
 
 bool OrdenesLenguaje::hayLenguaje() {

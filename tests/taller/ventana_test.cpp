@@ -416,6 +416,61 @@ TEST_F(TallerTest, UnLenguajeQueNoCabeNoSeQuedaAMedias) {
     }
 }
 
+// With words to be corrected it is coloured at once, aids or not.
+TEST_F(TallerTest, ColorearElTextoQueSeAbreSeCancela) {
+    norvik().AutoCorreccion(true);
+    ventana.abre(pon("d.nvk", R"(Token t = "(a*)*\1c"; S -> t;)"));
+    const QString texto = pon("a.txt", std::string(30'000, 'a'));
+    bool cancelado = false;
+    QTimer persona;
+    QObject::connect(&persona, &QTimer::timeout, [&] {
+        if (QWidget* const aviso = QApplication::activeModalWidget(); aviso != nullptr && !cancelado) {
+            cancelado = true;
+            aviso->findChild<QPushButton*>("cancelar")->click();
+        }
+    });
+    persona.start(10);
+    for (int vez = 0; vez < 2; ++vez) {
+        cancelado = false;
+        ventana.abre(texto);
+        EXPECT_TRUE(cancelado);
+        EXPECT_EQ(dialogos.toma(), QStringList());
+        EXPECT_EQ(ventana.formulario().activo().fichero(), texto);
+        EXPECT_EQ(norvik().caja().texto().size(), 30'000U);
+        EXPECT_FALSE(ventana.formulario().activo().textoModificado());
+    }
+}
+
+// Each of them fits, all together are gigabytes of automata: what is left is loaded by who uses it.
+TEST_F(TallerTest, LosLenguajesDeUnFormularioCabenJuntos) {
+    std::string grande = "ExpReg x = \"" + std::string(15'900, 'a') + "\";\n";
+    for (int i = 0; i < 300; ++i) grande += "Token t" + std::to_string(i) + " = \"<x>b\";\n";
+    const std::string grandes = grande + "S -> t1;";
+    const std::string chica(calculadora);
+    QJsonArray controles;
+    for (const std::string& lenguaje : {grandes, chica, grandes, std::string(), chica})
+        controles.append(
+            QJsonObject{{"Nombre", QString("N%1").arg(controles.size())},
+                        {"Bolsa", QJsonObject{{"ContenidoG", QString::fromStdString(lenguaje)}}}});
+    const QByteArray formulario = QJsonDocument(QJsonObject{{"Controles", controles}}).toJson();
+    ventana.formulario().ponModificado(false);
+    ventana.abre(pon("f.nvf", formulario.toStdString()));
+    const QStringList avisos = dialogos.toma();
+    ASSERT_EQ(avisos.size(), 1);
+    EXPECT_EQ(avisos[0].count('\n'), 0);
+    EXPECT_TRUE(avisos[0].startsWith("aviso N4: su lenguaje no se ha cargado")) << avisos[0].toStdString();
+    ElementoFormulario& ultimo = *ventana.formulario().elementos()[4];
+    a.disenio.setChecked(true);
+    a.disenio.setChecked(false);
+    EXPECT_FALSE(tieneLenguaje(ultimo.norvik()));
+    ventana.formulario().activa(ultimo);
+    ultimo.norvik().Text("1+2");
+    ordena(a.analizar);
+    EXPECT_EQ(dialogos.toma(), QStringList());
+    EXPECT_TRUE(tieneLenguaje(ultimo.norvik()));
+    EXPECT_GT(ventana.arbol().modelo().nodos(), 0);
+}
+
 // The language and the specification that were there stay, whatever was opened or asked for.
 TEST_F(TallerTest, UnLenguajeInterminableSeCancela) {
     ventana.abre(pon("suma.nvk", calculadora));
