@@ -11,6 +11,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QMetaProperty>
 #include <QPlainTextEdit>
 #include <QPushButton>
