@@ -20,6 +20,7 @@
 
 #include <array>
 #include <iostream>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -44,6 +45,14 @@ int responde(const Contesta& respuesta) {
     const bool enTerminal = isatty(vale ? STDOUT_FILENO : STDERR_FILENO) == 1;
     (vale ? std::cout : std::cerr) << (enTerminal ? lineasVisibles(respuesta.texto) : respuesta.texto);
     return respuesta.estado;
+}
+
+/// Long work is done by one thread after the other, in large pieces: each would keep a heap of its own, with
+/// what it has freed.
+void comparteMonton() {
+    constexpr int grande = 1 << 20; // bytes
+    mallopt(M_ARENA_MAX, 2);
+    mallopt(M_MMAP_THRESHOLD, grande);
 }
 
 /// Qt ends a program that has no display, in words of its own.
@@ -106,6 +115,7 @@ int main(int argc, char** argv) {
     const auto linea = leeLinea(argc, argv);
     if (const auto* const respuesta = std::get_if<Contesta>(&linea)) return responde(*respuesta);
     if (!hayPantalla()) return responde({"norvik-taller: no hay ninguna pantalla (DISPLAY)\n", 2});
+    comparteMonton();
     int soloElNombre = 1; // the other words are ours
     const Aplicacion aplicacion(soloElNombre, argv);
     QApplication::setApplicationName(QStringLiteral("Norvik")); // no display name: it would end every title
