@@ -4,6 +4,7 @@
 #include "apoyo/carpetaTemporal.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/widget/controlNorvik.hpp"
+#include "qt/anfitrionHostil.hpp"
 #include "qt/sistemaDePrueba.hpp"
 
 #include <QAccessible>

@@ -62,11 +62,11 @@ TEST_F(DialogosDePersona, AnteUnChoqueLaTeclaSinMirarNadaPierde) {
                                             {"(Escape)", Choque::Cancelar},
                                             {"(Intro)", Choque::GuardarComo}}) {
         QApplication::setActiveWindow(&ventana);
-        enElSiguiente<QMessageBox>([&ventana, titulo](QMessageBox& caja) {
+        enElSiguiente<QMessageBox>([&ventana, cual = QString(titulo)](QMessageBox& caja) {
             EXPECT_EQ(caja.parentWidget(), &ventana);
             for (auto* const boton : caja.buttons())
-                if (boton->text() == titulo) return boton->click();
-            QTest::keyClick(&caja, QByteArray(titulo) == "(Intro)" ? Qt::Key_Return : Qt::Key_Escape);
+                if (boton->text() == cual) return boton->click();
+            QTest::keyClick(&caja, cual == "(Intro)" ? Qt::Key_Return : Qt::Key_Escape);
         });
         EXPECT_EQ(dialogos.preguntaChoque("<b>otro</b> lo cambió"), respuesta) << titulo;
     }
