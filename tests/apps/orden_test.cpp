@@ -518,8 +518,10 @@ TEST_F(Orden, UnLimiteDeTamanoNoMataLaOrden) {
     setrlimit(RLIMIT_FSIZE, &pequeno);
     const Resultado resultado = ejecuta({"informe", lenguaje_, "-o", carpeta_.ruta().string()});
     setrlimit(RLIMIT_FSIZE, &limite);
-    comprueba(resultado, 2, "",
-              "norvik: No se puede escribir «" + informe + "»: el fichero es demasiado grande\n");
+    EXPECT_EQ(resultado.estado, 2);
+    EXPECT_EQ(resultado.errores.find("norvik: No se puede escribir «" + informe +
+                                     "»: el fichero es demasiado grande\n"),
+              0U);
     EXPECT_EQ(bytesDe(informe), "antes");
 }
 
