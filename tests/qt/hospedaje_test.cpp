@@ -318,7 +318,7 @@ TEST_F(Hospedaje, CargaUnLenguajeYDiceQueEstaMal) {
 
 TEST_F(Hospedaje, CargaUnLenguajeDeUnFichero) {
     const apoyo::CarpetaTemporal carpeta;
-    const auto fichero = carpeta.pon("gramaticaDeSumas.nvk", sumas.toStdString());
+    const auto fichero = carpeta.pon("gramaticaDeSumas.nvk", hostil::sumas.toStdString());
     editor.Text("1+2");
     EXPECT_TRUE(editor.cargaLenguajeDe(deRuta(fichero)));
     EXPECT_TRUE(editor.control().ConstruyeArbolSintactico());
