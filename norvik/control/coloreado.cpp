@@ -45,11 +45,14 @@ void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras pala
     caja_->selecciona(inicioSeleccion, longitudSeleccion);
 }
 
-/// The text is taken along: whoever waits for a long recognition may change it.
+/// The range is taken along: whoever waits for a long recognition may change the text.
 const MapaTokens& Coloreado::reconoce(std::int16_t desde, std::int16_t hasta) {
-    sistema_->trabaja([&, texto = std::u16string(caja_->texto())](const std::stop_token& parada) {
+    const std::u16string_view texto = caja_->texto();
+    const std::size_t inicio = std::min(texto.size(), static_cast<std::size_t>(desde) - 1);
+    const std::u16string rango(texto.substr(inicio, static_cast<std::size_t>(hasta - desde)));
+    sistema_->trabaja([&](const std::stop_token& parada) {
         const QuienCancela quien(lexico_, parada);
-        lexico_.ReconoceTokens(texto, desde, hasta);
+        lexico_.reconoceRango(rango, desde);
     });
     return lexico_.mapaTokens();
 }

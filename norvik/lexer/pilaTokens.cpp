@@ -67,7 +67,10 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
                                 u"posiciones de " +
                                 aTexto(inicio) + u" a " + aTexto(fin));
     const auto desde = std::min(Texto.size(), static_cast<std::size_t>(inicio) - 1);
-    const auto rango = Texto.substr(desde, static_cast<std::size_t>(longitud));
+    return reconoceRango(Texto.substr(desde, static_cast<std::size_t>(longitud)), inicio);
+}
+
+MapaTokens& pilaTokens::reconoceRango(std::u16string_view rango, std::int16_t inicio) {
     if (!reconocedor_) reconocedor_ = std::make_unique<Reconocedor>(*definiciones_);
     reconocedor_->reconoce(rango, Presupuesto(Presupuesto::plazoComun, cancelacion),
                            mapaTokens_.reinicia(inicio, rango));

@@ -103,6 +103,8 @@ public:
     /// el mapa está vacío.
     MapaTokens& ReconoceTokens(std::u16string_view Texto, std::int16_t TextStart = -1,
                                std::int16_t TextEnd = -1);
+    /// Lo mismo con las posiciones desde `inicio` de un texto del que se tiene sólo ese rango.
+    MapaTokens& reconoceRango(std::u16string_view rango, std::int16_t inicio);
     /// El mapa del último reconocimiento.
     MapaTokens& mapaTokens() { return mapaTokens_; }
     const MapaTokens& mapaTokens() const { return mapaTokens_; }
