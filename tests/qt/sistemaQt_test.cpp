@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace norvik;
 
 namespace {
@@ -143,6 +145,44 @@ TEST(SistemaQt, LoImpresoCabeEnteroEnLaPagina) {
         EXPECT_LE(impresora.masALaDerecha, impresora.ancho() + 0.5);
         EXPECT_LE(impresora.masAbajo, impresora.alto() + 0.5);
     }
+}
+
+/// Of a file, by a program of others.
+TEST(SistemaQt, LoImpresoSeLeeEnteroDentroDeLaPagina) {
+    const QString lector = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (lector.isEmpty()) GTEST_SKIP() << "there is no pdftotext (poppler-utils)";
+    const apoyo::CarpetaTemporal carpeta;
+    const QString fichero = QString::fromStdString((carpeta / "x.pdf").string());
+    const std::u16string texto = apoyo::repite(u"a\tb", 60) + u"\r\n" + std::u16string(30, u'\t') + u"z\r\n" +
+                                 apoyo::repite(u"ñe\u0301", 90) + u"\r\n" + std::u16string(79, u'x') +
+                                 u"\tfin\r\n" + std::u16string(15'000, u'y') + u"\r\n" +
+                                 std::u16string(200, u' ') + u"w";
+    SistemaQt sistema;
+    sistema.imprimeEnFichero(fichero);
+    sistema.imprime(texto);
+    QProcess proceso;
+    proceso.start(lector, {QStringLiteral("-bbox"), fichero, QStringLiteral("-")});
+    ASSERT_TRUE(proceso.waitForFinished());
+
+    QRectF pagina;
+    QString leido;
+    for (QXmlStreamReader xml(proceso.readAllStandardOutput()); !xml.atEnd(); xml.readNext()) {
+        const auto numero = [&](const char* nombre) {
+            return xml.attributes().value(QLatin1String(nombre)).toDouble();
+        };
+        if (!xml.isStartElement()) continue;
+        if (xml.name() == u"page") pagina = {0, 0, numero("width"), numero("height")};
+        if (xml.name() != u"word") continue;
+        const QRectF sitio(QPointF(numero("xMin"), numero("yMin")), QPointF(numero("xMax"), numero("yMax")));
+        leido += xml.readElementText();
+        EXPECT_TRUE(pagina.contains(sitio)) << sitio.right() << " " << sitio.bottom();
+    }
+    const auto letras = [](const QString& t) {
+        QString suyas = t.simplified().remove(u' ').normalized(QString::NormalizationForm_C);
+        std::ranges::sort(suyas);
+        return suyas;
+    };
+    EXPECT_EQ(letras(leido), letras(QString::fromStdU16String(texto)));
 }
 
 TEST(SistemaQt, ImprimeEnPdf) {
