@@ -122,14 +122,14 @@ void ElementoFormulario::cambiaTexto() {
     emit otroTexto();
 }
 
-void ElementoFormulario::vaA(int linea, int columna, const QString& lexema) {
+void ElementoFormulario::vaA(int linea, int columna, const QString& texto) {
     CajaTextoQt& caja = norvik_.caja();
     const std::int32_t inicio = caja.inicioDeLinea(linea - 1);
     if (inicio < 0) return;
     const std::int32_t posicion = inicio + columna - 1;
-    const auto longitud = static_cast<std::int32_t>(lexema.size());
+    const auto longitud = static_cast<std::int32_t>(texto.size());
     const auto desde = std::min(static_cast<std::size_t>(posicion), caja.texto().size());
-    const bool esta = caja.texto().substr(desde).starts_with(vistaDe(lexema));
+    const bool esta = caja.texto().substr(desde).starts_with(vistaDe(texto));
     caja.atiende([&] { caja.selecciona(posicion, esta ? longitud : 0); });
     norvik_.setFocus();
 }

@@ -47,8 +47,8 @@ public:
     void nuevoTexto() { documento_.vacia(); }
     void abreTexto(const QString& fichero) { documento_.abre(fichero); }
 
-    /// Puts the caret at a place (1-based), with the lexeme selected that stands there.
-    void vaA(int linea, int columna, const QString& lexema);
+    /// Puts the caret at a place (1-based), with the text selected that is expected there.
+    void vaA(int linea, int columna, const QString& texto);
 
     // The language: of a loading module when there is one, else of the specification that the control keeps.
     // Another specification takes a module's place.

@@ -3,95 +3,82 @@
 #include "modeloArbol.hpp"
 
 #include "norvik/platform/qt/conversiones.hpp"
+#include "norvik/platform/qt/fallos.hpp"
 
 #include <QFont>
+
+#include <utility>
+#include <vector>
 
 namespace norvik::taller {
 
 namespace {
 
-/// A node made by a rule, even by one with an empty body; the others are tokens.
-bool esInterior(const Arbol& nodo) {
-    return nodo.GetNumRegla() > 0;
+QString textoDe(Nodo nodo) {
+    if (nodo.esToken()) return aQString(nodo.lexema());
+    return QStringLiteral("%1. %2 → %3")
+        .arg(nodo.regla())
+        .arg(aQString(nodo.nombre()), aQString(nodo.cuerpo()));
 }
 
-QString textoDe(const Arbol& nodo) {
-    if (!esInterior(nodo)) return aQString(nodo.GetLexema());
-    return QStringLiteral("%1. %2 → %3")
-        .arg(nodo.GetNumRegla())
-        .arg(aQString(nodo.GetNomRegla()), aQString(nodo.GetRegla()));
+QVariant letraDeToken() {
+    QFont letra;
+    letra.setBold(true);
+    return letra;
 }
 
 } // namespace
 
-void ModeloArbol::muestra(const Arbol& raiz) {
+void ModeloArbol::muestra(ArbolAnalisis arbol) {
     beginResetModel();
-    nodos_.assign(1, {raiz, -1});
-    for (std::size_t i = 0; i < nodos_.size(); ++i) copiaHijos(i);
+    arbol_ = std::move(arbol);
     endResetModel();
 }
 
-void ModeloArbol::vacia() {
-    beginResetModel();
-    nodos_.clear();
-    endResetModel();
-}
-
-void ModeloArbol::copiaHijos(std::size_t numero) {
-    const Arbol& original = *nodos_[numero].original;
-    const auto hijos = original.hijos();
-    Nodo& nodo = nodos_[numero];
-    nodo.original = nullptr;
-    nodo.primero = nodos();
-    nodo.hijos = static_cast<int>(hijos.size());
-    nodo.texto = textoDe(original);
-    if (!esInterior(original)) {
-        nodo.linea = original.GetLinea();
-        nodo.columna = original.GetColumna();
-    }
-    for (const Arbol* const hijo : hijos) nodos_.emplace_back(*hijo, static_cast<int>(numero));
-}
-
+/// Nodes stand before their children: of a rule that has tokens the first one behind it is its own.
 ModeloArbol::Hoja ModeloArbol::hojaDe(const QModelIndex& indice) const {
-    std::vector<std::size_t> pendientes{indice.internalId()};
-    while (!pendientes.empty()) {
-        const Nodo& n = nodos_[pendientes.back()];
-        pendientes.pop_back();
-        if (n.linea > 0) return {n.linea, n.columna, n.texto};
-        for (int i = n.hijos; i > 0; --i) pendientes.push_back(static_cast<std::size_t>(n.primero + i - 1));
-    }
-    return {};
+    if (nodo(indice).texto().empty()) return {};
+    std::size_t i = nodo(indice).indice();
+    while (!arbol_[i].esToken()) ++i;
+    const Punto lugar = arbol_[i].rango().inicio;
+    return {lugar.linea, lugar.columna, aQString(arbol_[i].texto())};
 }
 
-QModelIndexList ModeloArbol::porAbrir(int filas) const {
+QModelIndexList ModeloArbol::porAbrir(std::size_t filas) const {
     QModelIndexList indices;
-    for (int i = 0; i < nodos() && nodos_[static_cast<std::size_t>(i)].primero < filas; ++i)
-        if (nodos_[static_cast<std::size_t>(i)].hijos > 0) indices.append(indiceDe(i));
+    if (arbol_.esVacio()) return indices;
+    std::vector<Nodo> porNiveles{arbol_.raiz()};
+    for (std::size_t i = 0; i < porNiveles.size() && porNiveles.size() < filas; ++i) {
+        const Hijos hijos = porNiveles[i].hijos();
+        if (!hijos.empty()) indices.append(indiceDe(porNiveles[i]));
+        porNiveles.insert(porNiveles.end(), hijos.begin(), hijos.end());
+    }
     return indices;
 }
 
 // ---- for views
 
-QModelIndex ModeloArbol::indiceDe(int numero) const {
-    const int padre = nodos_[static_cast<std::size_t>(numero)].padre;
-    const int fila = padre < 0 ? 0 : numero - nodos_[static_cast<std::size_t>(padre)].primero;
-    return createIndex(fila, 0, static_cast<quintptr>(numero));
+QModelIndex ModeloArbol::indiceDe(Nodo nodo) const {
+    int fila = 0;
+    if (const auto padre = nodo.padre())
+        for (auto hijo = padre->hijos().begin(); *hijo != nodo; ++hijo) ++fila;
+    return createIndex(fila, 0, static_cast<quintptr>(nodo.indice()));
 }
 
 QModelIndex ModeloArbol::index(int fila, int columna, const QModelIndex& padre) const {
     if (!hasIndex(fila, columna, padre)) return {};
-    const int numero = padre.isValid() ? nodo(padre).primero + fila : 0;
-    return createIndex(fila, columna, static_cast<quintptr>(numero));
+    const Nodo suyo = padre.isValid() ? nodo(padre)[static_cast<std::size_t>(fila)] : arbol_.raiz();
+    return createIndex(fila, columna, static_cast<quintptr>(suyo.indice()));
 }
 
 QModelIndex ModeloArbol::parent(const QModelIndex& indice) const {
-    if (!indice.isValid() || nodo(indice).padre < 0) return {};
-    return indiceDe(nodo(indice).padre);
+    const auto padre = indice.isValid() ? nodo(indice).padre() : std::nullopt;
+    return padre ? indiceDe(*padre) : QModelIndex();
 }
 
 int ModeloArbol::rowCount(const QModelIndex& padre) const {
-    if (!padre.isValid()) return nodos_.empty() ? 0 : 1;
-    return nodo(padre).hijos;
+    if (!padre.isValid()) return arbol_.esVacio() ? 0 : 1;
+    return static_cast<int>(nodo(padre).numHijos());
 }
 
 int ModeloArbol::columnCount(const QModelIndex& /*padre*/) const {
@@ -99,16 +86,18 @@ int ModeloArbol::columnCount(const QModelIndex& /*padre*/) const {
 }
 
 QVariant ModeloArbol::data(const QModelIndex& indice, int papel) const {
-    if (!indice.isValid()) return {};
-    const Nodo& n = nodo(indice);
-    const bool hoja = n.linea > 0;
-    if (papel == Qt::DisplayRole) return n.texto;
-    if (papel == Qt::ToolTipRole && hoja)
-        return QStringLiteral("Línea %1, Columna %2").arg(n.linea).arg(n.columna);
-    if (papel != Qt::FontRole || !hoja) return {};
-    QFont letra;
-    letra.setBold(true);
-    return letra;
+    QVariant dato;
+    sinFallos([&] {
+        if (!indice.isValid()) return;
+        const Nodo suyo = nodo(indice);
+        if (papel == Qt::DisplayRole) dato = textoDe(suyo);
+        if (!suyo.esToken()) return;
+        const Punto lugar = suyo.rango().inicio;
+        if (papel == Qt::ToolTipRole)
+            dato = QStringLiteral("Línea %1, Columna %2").arg(lugar.linea).arg(lugar.columna);
+        if (papel == Qt::FontRole) dato = letraDeToken();
+    });
+    return dato;
 }
 
 } // namespace norvik::taller

@@ -20,6 +20,7 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <utility>
 
 namespace norvik::taller {
 
@@ -136,27 +137,16 @@ std::optional<std::size_t> OrdenesLenguaje::analiza() {
     if (norvik.caja().texto().size() > maximoTexto) return analizaLargo(norvik);
     reconoceConAviso(sistema_, norvik);
     Norvik& control = norvik.control();
-    if (control.ConstruyeArbolSintactico()) {
-        arbol_.muestra(control.GetArbolSintactico());
-        return static_cast<std::size_t>(arbol_.modelo().nodos());
-    }
+    if (control.ConstruyeArbolSintactico()) return muestra(comoValor(norvik).arbol);
     error_ = {control.LineaToken(), control.ColumnaToken(), {}};
     mensaje_.muestra(aQString(control.GetmensajeError()));
     return std::nullopt;
 }
 
-/// One that the control does not parse. All its errors are shown in the text, the first one in words; nobody
-/// would look through its tree.
+/// One that the control does not parse. All its errors are shown in the text, the first one in words.
 std::optional<std::size_t> OrdenesLenguaje::analizaLargo(ControlNorvik& norvik) {
-    const Lenguaje lenguaje = norvik.control().lenguaje();
-    const std::u16string texto(norvik.caja().texto());
-    Analisis analisis;
-    {
-        const VentanaDeAmbito<Procesando> aviso(sistema_, norvik.window(), Procesando::Aparece::SiTarda);
-        sistema_.trabaja(
-            [&](const std::stop_token& parada) { analisis = norvik::analiza(lenguaje, texto, {parada}); });
-    }
-    if (analisis) return analisis.arbol.numNodos();
+    Analisis analisis = comoValor(norvik);
+    if (analisis) return muestra(std::move(analisis.arbol));
     norvik.ponDiagnosticos(analisis.diagnosticos);
     const Diagnostico& primero = analisis.diagnosticos.front();
     error_ = {primero.rango.inicio.linea, primero.rango.inicio.columna, {}};
@@ -165,6 +155,21 @@ std::optional<std::size_t> OrdenesLenguaje::analizaLargo(ControlNorvik& norvik) 
                          .arg(error_.columna)
                          .arg(aQString(norvik::mensaje(primero))));
     return std::nullopt;
+}
+
+Analisis OrdenesLenguaje::comoValor(ControlNorvik& norvik) {
+    const Lenguaje lenguaje = norvik.control().lenguaje();
+    const std::u16string texto(norvik.caja().texto());
+    Analisis analisis;
+    const VentanaDeAmbito<Procesando> aviso(sistema_, norvik.window(), Procesando::Aparece::SiTarda);
+    sistema_.trabaja(
+        [&](const std::stop_token& parada) { analisis = norvik::analiza(lenguaje, texto, {parada}); });
+    return analisis;
+}
+
+std::size_t OrdenesLenguaje::muestra(ArbolAnalisis arbol) {
+    arbol_.muestra(std::move(arbol));
+    return static_cast<std::size_t>(arbol_.modelo().nodos());
 }
 
 void OrdenesLenguaje::olvidaAnalisis() {

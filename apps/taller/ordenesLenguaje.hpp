@@ -50,6 +50,8 @@ private:
     bool puedePerder(ElementoFormulario& elemento);
     bool hayLenguaje();
     std::optional<std::size_t> analizaLargo(ControlNorvik& norvik);
+    Analisis comoValor(ControlNorvik& norvik);
+    std::size_t muestra(ArbolAnalisis arbol);
 
     Formulario& formulario_;
     SistemaQt& sistema_;

@@ -8,6 +8,8 @@
 
 #include <QHeaderView>
 
+#include <utility>
+
 namespace norvik::taller {
 
 PanelArbol::PanelArbol(QWidget* padre) : QDockWidget(QStringLiteral("Árbol sintáctico"), padre) {
@@ -33,9 +35,9 @@ PanelArbol::PanelArbol(QWidget* padre) : QDockWidget(QStringLiteral("Árbol sint
     connect(&vista_, &QTreeView::activated, this, elige);
 }
 
-void PanelArbol::muestra(const Arbol& raiz) {
-    modelo_.muestra(raiz);
-    constexpr int filasAbiertas = 300;
+void PanelArbol::muestra(ArbolAnalisis arbol) {
+    modelo_.muestra(std::move(arbol));
+    constexpr std::size_t filasAbiertas = 300;
     for (const QModelIndex& indice : modelo_.porAbrir(filasAbiertas)) vista_.expand(indice);
 }
 

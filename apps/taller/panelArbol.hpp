@@ -16,7 +16,7 @@ class PanelArbol final : public QDockWidget {
 public:
     explicit PanelArbol(QWidget* padre = nullptr);
 
-    void muestra(const Arbol& raiz);
+    void muestra(ArbolAnalisis arbol);
     void vacia() { modelo_.vacia(); }
     const ModeloArbol& modelo() const { return modelo_; }
 

@@ -188,7 +188,7 @@ void VentanaPrincipal::conectaLenguaje() {
             [this] { ejecuta([&] { lenguajes_.pasaALalr(); }); });
     connect(&mensaje_, &PanelMensaje::pideIr, this, [this] { ejecuta([this] { lenguajes_.vaAlError(); }); });
     connect(&arbol_, &PanelArbol::elegida, this, [this](const ModeloArbol::Hoja& hoja) {
-        ejecuta([&] { formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.lexema); });
+        ejecuta([&] { formulario_.activo().vaA(hoja.linea, hoja.columna, hoja.texto); });
     });
 }
 

@@ -211,7 +211,7 @@ TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
     QTest::mouseClick(vista.viewport(), Qt::LeftButton, {},
                       vista.visualRect(modelo.index(2, 0, raiz)).center());
     EXPECT_EQ(norvik().control().SelText(), u"23");
-    EXPECT_EQ(modelo.hojaDe(raiz).lexema, "1");
+    EXPECT_EQ(modelo.hojaDe(raiz).texto, "1");
     norvik().control().Text(u"1\r\n+ +");
     ordena(a.analizar);
     EXPECT_EQ(ventana.mensaje().texto(), QString::fromStdU16String(norvik().control().GetmensajeError()));
@@ -641,6 +641,10 @@ TEST_F(TallerTest, UnTextoDemasiadoLargoSeAnaliza) {
         ordena(a.analizar);
         EXPECT_EQ(ventana.statusBar()->currentMessage(), "Análisis sintáctico correcto: 60005 nodos");
         EXPECT_EQ(ventana.mensaje().texto(), "");
+        const ModeloArbol& arbol = ventana.arbol().modelo();
+        EXPECT_EQ(arbol.nodos(), 60005);
+        emit ventana.arbol().elegida(arbol.hojaDe(arbol.index(2, 0, arbol.index(0, 0))));
+        EXPECT_EQ(norvik().SelText(), "3");
         const auto bien = ondas();
         norvik().Text("1+*" + sumasLargas + "+");
         ordena(a.analizar);
