@@ -147,6 +147,24 @@ TEST(SistemaQt, LoImpresoCabeEnteroEnLaPagina) {
     }
 }
 
+/// What waits for a person is not hidden by a window that stays above the others.
+TEST(SistemaQt, LaCajaNoQuedaDetras) {
+    SistemaQt sistema;
+    QWidget encima;
+    encima.setWindowFlag(Qt::WindowStaysOnTopHint);
+    for (const bool hay : {false, true, false}) {
+        encima.setVisible(hay);
+        bool delante = !hay;
+        QTimer::singleShot(0, [&] {
+            QWidget* const caja = QApplication::activeModalWidget();
+            delante = caja->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+            caja->close();
+        });
+        sistema.muestraMensaje({u"x", {}, Icono::Ninguno, Botones::Aceptar});
+        EXPECT_EQ(delante, hay);
+    }
+}
+
 /// Of a file, by a program of others.
 TEST(SistemaQt, LoImpresoSeLeeEnteroDentroDeLaPagina) {
     const QString lector = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));

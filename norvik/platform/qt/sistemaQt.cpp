@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <system_error>
 
@@ -93,6 +94,16 @@ void daSitioAlTitulo(QMessageBox& caja) {
     rejilla.addItem(&nuevo<QSpacerItem>(ancho, 0), rejilla.rowCount(), 0, 1, rejilla.columnCount());
 }
 
+/// Whoever is waited for stands above windows that stay above the others, too.
+void ponDelante(QWidget& ventana) {
+    const auto estaDelante = [](const QWidget* otra) {
+        return otra->isVisible() && otra->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    const QWidgetList ventanas = QApplication::topLevelWidgets();
+    if (std::any_of(ventanas.begin(), ventanas.end(), estaDelante))
+        ventana.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
 bool acabado(const std::future<void>& trabajo) {
     return trabajo.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
@@ -103,6 +114,7 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const QString titulo =
         mensaje.titulo.empty() ? QApplication::applicationDisplayName() : aQString(mensaje.titulo);
     QWidget* encimaDe = QApplication::activeModalWidget();
+    if (encimaDe == nullptr) encimaDe = QApplication::activeWindow(); // the one to go on in
     const VentanaDeAmbito<QMessageBox> caja(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto),
                                             QMessageBox::NoButton,
                                             encimaDe != nullptr ? encimaDe : ventana_.data());
@@ -114,6 +126,7 @@ Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
                                      : aceptar);
     acortaTexto(*caja);
     daSitioAlTitulo(*caja);
+    ponDelante(*caja);
     const Puntero antes = puntero_;
     SistemaQt::ponPuntero(Puntero::Normal); // the box waits for the user, not the user for it
     const QPointer<QObject> vivo(&testigo_);
@@ -173,6 +186,7 @@ void SistemaQt::muestraModal(QWidget& ventana) {
     QEventLoop hastaQueSeCierre;
     const FinAlOcultar fin(ventana, hastaQueSeCierre);
     ventana.setWindowModality(Qt::ApplicationModal);
+    ponDelante(ventana);
     ventana.show();
     hastaQueSeCierre.exec();
 }

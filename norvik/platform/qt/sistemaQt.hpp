@@ -37,7 +37,8 @@ private:
 /// application's pointer, its event loop, and the default printer. Windows that work together share one.
 class SistemaQt : public Sistema {
 public:
-    /// Boxes stand above the modal window on top, else above `ventana`, when it is given and lives.
+    /// Boxes stand above the modal window on top, else above the one that is used, else above `ventana`, when
+    /// it is given and lives.
     explicit SistemaQt(QWidget* ventana = nullptr) : ventana_(ventana) {}
     SistemaQt(const SistemaQt&) = delete;
     SistemaQt& operator=(const SistemaQt&) = delete;
