@@ -151,10 +151,11 @@ public:
             grabaDeshacer = false;
             const Instantanea e = redos.back();
             redos.pop_back();
-            const std::u16string t(caja.texto());
-            if (e.TextLen < longitud()) {
+            const std::u16string t(caja.texto()); // moving the caret may correct words
+            const std::int32_t sobran = longitud() - e.TextLen;
+            if (sobran > 0) {
                 ponCursor(e.SelStart);
-                caja.selecciona(SelStart(), longitud() - e.TextLen);
+                caja.selecciona(SelStart(), sobran);
                 caja.reemplazaSeleccion({});
             } else {
                 const std::u16string r = textoDiferencia(t, e.Text, e.SelStart + 1);
@@ -227,6 +228,7 @@ private:
         const std::int32_t SelStart = this->SelStart();
         const std::int32_t ini = indice(linea - 1);
         std::int32_t fin = indice(linea);
+        if (ini == -1) return; // besides: corrections may have taken the line since
         if (fin < ini && fin != -1) return;
         if (fin == -1) fin = longitud();
         olvidaMarca(ini, fin);
