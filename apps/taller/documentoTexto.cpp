@@ -5,15 +5,31 @@
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/errores.hpp"
 #include "norvik/base/ficheros.hpp"
+#include "norvik/base/texto.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
 #include "norvik/tools/procesando.hpp"
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace norvik::taller {
+
+namespace {
+
+/// Line ends of several kinds.
+bool mezclaSaltos(const std::u16string& texto) {
+    std::ptrdiff_t dobles = 0;
+    for (auto i = texto.find(saltoDeLinea); i != texto.npos; i = texto.find(saltoDeLinea, i + 1)) ++dobles;
+    const bool lf = std::ranges::count(texto, u'\n') > dobles;
+    const bool cr = std::ranges::count(texto, u'\r') > dobles;
+    return (lf && cr) || (dobles > 0 && (lf || cr));
+}
+
+} // namespace
 
 QString DocumentoTexto::titulo() const {
     return fichero().isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero()).fileName();
@@ -67,7 +83,11 @@ void DocumentoTexto::abre(const QString& fichero) {
     formato_ = formatoDe(bytes);
     esBinario_ = norvik::esBinario(bytes);
     fichero_.pon(ruta, huella);
-    anotaGuardado(normalizaLineas(decodifica(bytes)));
+    const std::u16string leido = decodifica(bytes);
+    anotaGuardado(normalizaLineas(leido));
+    if (!esBinario_ && mezclaSaltos(leido))
+        emit aviso(QStringLiteral("Mezcla finales de línea: guardado, todos serán ") +
+                   aQString(nombreDe(formato_.salto)));
 }
 
 /// A text is there, too, when its colours are not: that it is too long for them, or takes too long, is told

@@ -112,6 +112,8 @@ TEST_F(TallerTest, CadaFicheroSigueComoEra) {
         EXPECT_EQ(barra.findChildren<QLabel*>()[1]->text(), formato);
     }
     EXPECT_TRUE(barra.currentMessage().contains("guardado en UTF-8"));
+    ventana.abre(pon("f.txt", "a\r\nb\n\r\n"));
+    EXPECT_EQ(barra.currentMessage(), "Mezcla finales de línea: guardado, todos serán CR LF");
     const std::string binario("MZ\0\xF1\n", 5);
     ventana.abre(pon("f.bin", binario));
     EXPECT_EQ(barra.findChildren<QLabel*>()[1]->text(), "No es texto");
