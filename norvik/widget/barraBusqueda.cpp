@@ -33,6 +33,7 @@ namespace {
 
 constexpr int tardanza = 200; // milliseconds until a search is said to run
 constexpr int reposo = 150;   // without a change of the text until it is searched again
+constexpr int letrasALaVista = 6;
 
 QPlainTextEdit& editorBuscado(ControlNorvik& control) {
     return static_cast<QPlainTextEdit&>(control.caja().ventana());
@@ -67,6 +68,7 @@ void BarraBusqueda::compone() {
     nombra(campo_, "campo", QStringLiteral("Buscar"));
     campo_.setPlaceholderText(QStringLiteral("Buscar"));
     campo_.setClearButtonEnabled(true);
+    campo_.setMinimumWidth(campo_.fontMetrics().horizontalAdvance(u'x') * letrasALaVista);
     ponMenuDeTexto(campo_);
     pon(anterior_, "anterior", {}, QStringLiteral("Anterior (Mayúsculas+Entrar)"));
     anterior_.setArrowType(Qt::UpArrow);
@@ -80,6 +82,7 @@ void BarraBusqueda::compone() {
     hazAviso(cuenta_);
     nombra(cuenta_, "cuenta", {});
     cuenta_.setTextFormat(Qt::PlainText);
+    cuenta_.setMinimumWidth(1); // of a narrow bar what is looked for comes first
     auto& fila = nuevo<QHBoxLayout>(this);
     fila.setContentsMargins(4, 2, 4, 2);
     fila.setSpacing(2);

@@ -76,7 +76,6 @@ void Completado::muestra() {
     inicio_ = static_cast<std::int32_t>(siguen.inicio);
     llena(siguen);
     if (lista_.count() == 0) return lista_.hide();
-    coloca();
     lista_.show();
     sigue();
 }
@@ -93,17 +92,19 @@ void Completado::llena(const Continuaciones& continuaciones) {
     }
 }
 
-/// Below the caret, or above it where the screen ends; never wider than half of it.
-void Completado::coloca() {
+/// Below what is completed, or above it where the screen ends; never wider than half of it, and as high as
+/// the rows that are left.
+void Completado::coloca(const QString& escrito, int filas) {
     constexpr int mayor = 8;
     constexpr int lados = 40;
     const VistaTexto& vista = caja_.vista();
     const QRect pantalla = vista.screen()->availableGeometry();
     const QRect cursor = vista.cursorRect().translated(vista.viewport()->mapToGlobal(QPoint()));
-    const int alto = lista_.sizeHintForRow(0) * std::min(lista_.count(), mayor) + 2 * lista_.frameWidth();
+    const int alto = lista_.sizeHintForRow(0) * std::min(filas, mayor) + 2 * lista_.frameWidth();
     const int ancho = std::min(lista_.sizeHintForColumn(0) + lados, pantalla.width() / 2);
     const bool debajo = cursor.bottom() + alto <= pantalla.bottom();
-    const int x = std::clamp(cursor.left(), pantalla.left(), pantalla.right() - ancho);
+    const int inicio = cursor.left() - vista.fontMetrics().horizontalAdvance(escrito);
+    const int x = std::clamp(inicio, pantalla.left(), pantalla.right() - ancho);
     lista_.setGeometry(x, std::max(debajo ? cursor.bottom() : cursor.top() - alto, pantalla.top()), ancho,
                        alto);
 }
@@ -117,16 +118,17 @@ void Completado::sigue() {
         return lista_.hide();
     const auto desde = static_cast<std::size_t>(inicio_);
     const QString escrito = aQString(caja_.texto().substr(desde, static_cast<std::size_t>(cursor) - desde));
-    bool queda = false;
+    int quedan = 0;
     for (int i = 0; i < lista_.count(); ++i) {
         QListWidgetItem& fila = *lista_.item(i);
         const bool sirve = fila.flags() != Qt::NoItemFlags
                                ? fila.text().startsWith(escrito, Qt::CaseInsensitive)
                                : escrito.isEmpty();
         fila.setHidden(!sirve);
-        queda |= sirve;
+        if (sirve) ++quedan;
     }
-    if (!queda) return lista_.hide();
+    if (quedan == 0) return lista_.hide();
+    coloca(escrito, quedan);
     const QListWidgetItem* const elegida = lista_.currentItem();
     if (elegida == nullptr || elegida->isHidden()) {
         lista_.setCurrentRow(-1);

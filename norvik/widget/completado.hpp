@@ -47,7 +47,7 @@ private:
     bool pulsa(const QKeyEvent& tecla);
     void muestra();
     void llena(const Continuaciones& continuaciones);
-    void coloca();
+    void coloca(const QString& escrito, int filas);
     void mueve(int pasos);
     void toma();
 

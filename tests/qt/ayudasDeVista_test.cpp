@@ -258,3 +258,23 @@ TEST_F(AyudasDeVista, MilesDeUnLugarSeVenComoElPeorYSeCuentan) {
     }
     EXPECT_EQ(margen.accessibleName(), "1 error, 19999 avisos, 1 nota");
 }
+
+/// What opens below takes a part of its room.
+TEST_F(AyudasDeVista, LaLineaQueSeEscribeSigueALaVista) {
+    editor.Text(QString(100, u'\n').replace("\n", "abc\n"));
+    const auto deAlto = [&](int alto) {
+        editor.resize(400, alto);
+        QCoreApplication::processEvents();
+    };
+    for (const int linea : {2, 60}) {
+        deAlto(200);
+        editor.caja().selecciona(editor.caja().inicioDeLinea(linea), 0);
+        vista.ensureCursorVisible();
+        deAlto(60);
+        EXPECT_TRUE(vista.viewport()->rect().contains(vista.cursorRect()));
+    }
+    deAlto(200);
+    vista.verticalScrollBar()->setValue(10);
+    deAlto(60);
+    EXPECT_EQ(vista.verticalScrollBar()->value(), 10); // it was not seen before either
+}

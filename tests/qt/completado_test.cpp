@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace norvik;
 
 namespace {
@@ -107,6 +109,23 @@ TEST_F(CompletadoTest, NadaSeEscribeEnLoQueSoloSeLee) {
     pulsa(Qt::Key_Return);
     EXPECT_EQ(editor.Text(), "");
     EXPECT_EQ(propuestas(), QStringList());
+}
+
+/// It is where the word begins, and no larger than what is left.
+TEST_F(CompletadoTest, LaListaEsComoLoQueQueda) {
+    editor.completa(true);
+    QTest::keyClicks(&vista, "si a ");
+    const int inicio = vista.viewport()->mapToGlobal(vista.cursorRect().topLeft()).x();
+    pulsa(Qt::Key_Space, Qt::ControlModifier);
+    const int lados = 2 * lista.frameWidth();
+    const int fila = (lista.height() - lados) / 3;
+    EXPECT_EQ(fila, lista.sizeHintForRow(0));
+    for (const auto& [escrito, filas] : {std::pair{"", 3}, {"m", 2}, {"i", 2}, {"r", 1}}) {
+        QTest::keyClicks(&vista, escrito);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(lista.height() - lados, fila * filas);
+        EXPECT_NEAR(lista.geometry().x(), inicio, 1);
+    }
 }
 
 /// On the screen's last lines, and with names that nobody reads to their end.

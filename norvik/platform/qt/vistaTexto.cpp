@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QUrl>
 
@@ -99,6 +100,24 @@ void VistaTexto::acerca(int posicion) {
 void VistaTexto::wheelEvent(QWheelEvent* evento) {
     QAbstractScrollArea::wheelEvent(evento); // NOLINT(bugprone-parent-virtual-call)
     updateMicroFocus();
+}
+
+/// The caret that was seen stays so when what opens below takes its place.
+void VistaTexto::resizeEvent(QResizeEvent* evento) {
+    const bool seVeia = seVeElCursor(evento->oldSize().height());
+    QPlainTextEdit::resizeEvent(evento);
+    if (seVeia && evento->size().height() < evento->oldSize().height()) ensureCursorVisible();
+}
+
+/// Of a view so high; `cursorRect` knows nothing beyond the height of now.
+bool VistaTexto::seVeElCursor(int alto) const {
+    const QTextBlock suya = textCursor().block();
+    double arriba = contentOffset().y();
+    for (QTextBlock linea = firstVisibleBlock(); linea.isValid() && arriba < alto; linea = linea.next()) {
+        if (linea == suya) return true;
+        arriba += blockBoundingRect(linea).height();
+    }
+    return false;
 }
 
 /// Shortcuts with the control key belong to the host's menus first.

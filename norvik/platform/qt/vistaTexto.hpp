@@ -75,6 +75,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     bool canInsertFromMimeData(const QMimeData* datos) const override;
     void insertFromMimeData(const QMimeData* datos) override;
@@ -82,6 +83,7 @@ protected:
 
 private:
     bool hayCaja() const { return caja_ != nullptr; }
+    bool seVeElCursor(int alto) const;
     template <typename Accion>
     void atiende(Accion accion);
     bool seRepite(const QKeyEvent& tecla) const;
