@@ -162,7 +162,7 @@ void LineasEditadas::quitaMarca(PasosFirmes& paso) {
     const bool enEdicion = lineaEnEdicion_;
     const Tramo tramo = marcado_;
     const std::int32_t primera = tramo.vacio() ? lineaMarcada_ : caja_->lineaDeCaracter(tramo.inicio) + 1;
-    const std::int32_t ultima = tramo.vacio() ? primera : caja_->lineaDeCaracter(tramo.fin) + 1;
+    const std::int32_t ultima = tramo.vacio() ? primera : caja_->lineaDeCaracter(tramo.fin - 1) + 1;
     for (std::int32_t linea = primera; linea <= ultima; ++linea) paso([&] { quitaMarca(linea); });
     marcado_ = {};
     lineaEnEdicion_ = enEdicion;
