@@ -5,9 +5,11 @@
 #include <QMetaObject>
 #include <QObject>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <new>
 #include <optional>
 #include <stop_token>
 #include <thread>
@@ -41,28 +43,46 @@ public:
     /// system does that has no thread left.
     void empieza(Trabajo trabajo, AlAcabar alAcabar) {
         if (trabaja_) return;
-        hilo_ = std::jthread([this, numero = numero_, trabajo = std::move(trabajo),
-                              alAcabar = std::move(alAcabar)](const std::stop_token& parada) mutable {
-            const auto resultado = std::make_shared<std::optional<Resultado>>();
-            try {
-                *resultado = trabajo(parada);
-            } catch (...) {
-                resultado->reset();
-            }
-            if (parada.stop_requested()) return;
-            QMetaObject::invokeMethod(
-                &contexto_,
-                [this, numero, resultado, alAcabar = std::move(alAcabar)] {
-                    if (numero != numero_) return;
-                    trabaja_ = false;
-                    alAcabar(std::move(*resultado));
-                },
-                Qt::QueuedConnection);
-        });
+        auto encargo = std::make_shared<Encargo>(Encargo{std::move(trabajo), std::move(alAcabar), {}});
+        hilo_ = std::jthread(
+            [this, numero = numero_, encargo = std::move(encargo)](const std::stop_token& parada) {
+                try {
+                    encargo->resultado = encargo->trabajo(parada);
+                } catch (...) {
+                    encargo->resultado.reset();
+                }
+                encargo->trabajo = nullptr; // what it holds is freed here: nobody waits
+                while (!parada.stop_requested() && !entrega(numero, encargo))
+                    std::this_thread::sleep_for(sinMemoria);
+            });
         trabaja_ = true;
     }
 
 private:
+    struct Encargo {
+        Trabajo trabajo;
+        AlAcabar alAcabar;
+        std::optional<Resultado> resultado;
+    };
+    static constexpr std::chrono::milliseconds sinMemoria{50}; ///< until it is asked for again
+
+    /// False when there is no memory for it: nothing may leave a thread, and whoever waits would wait for
+    /// ever.
+    bool entrega(std::uint64_t numero, const std::shared_ptr<Encargo>& encargo) noexcept {
+        try {
+            return QMetaObject::invokeMethod(
+                &contexto_,
+                [this, numero, encargo] {
+                    if (numero != numero_) return;
+                    trabaja_ = false;
+                    encargo->alAcabar(std::move(encargo->resultado));
+                },
+                Qt::QueuedConnection);
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+    }
+
     QObject contexto_;         ///< of what comes back
     std::uint64_t numero_ = 0; ///< of the work that is awaited
     bool trabaja_ = false;

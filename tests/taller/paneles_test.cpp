@@ -109,27 +109,28 @@ TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
                 grosores.insert(linea->pen().widthF());
         return grosores.size() > 1; // one is thicker than the others
     };
-    const auto alto = [this](int regla) { // of the track of a rule, which is wider than its boxes
-        QRectF via;
-        for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
-            if (const auto* const linea = qgraphicsitem_cast<const QGraphicsPathItem*>(suya);
-                linea != nullptr && suya->data(0) == regla &&
-                linea->path().boundingRect().width() > via.width())
-                via = linea->path().boundingRect();
-        return via.height();
+    const auto via = [this](int regla) { // of a rule: it is wider than its boxes
+        QRectF suya;
+        for (const QGraphicsItem* const pieza : ventana.diagramas().vista().scene()->items())
+            if (const auto* const linea = qgraphicsitem_cast<const QGraphicsPathItem*>(pieza);
+                linea != nullptr && pieza->data(0) == regla &&
+                linea->path().boundingRect().width() > suya.width())
+                suya = linea->path().boundingRect();
+        return suya;
     };
     ventana.diagramas().hide();
     emit ventana.pasos().elegido(DeRegla{2});
     trae(ventana.diagramas());
     EXPECT_TRUE(gruesas());
-    EXPECT_EQ(alto(1), 0); // the first one goes straight on, the next one aside
-    EXPECT_GT(alto(2), 0);
+    EXPECT_EQ(via(1).height(), 0); // the first one goes straight on, the next one aside
+    EXPECT_GT(via(2).height(), 0);
     QStringList enSuCaja;
     for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
         if (const auto* const letra = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(suya))
             for (const QGraphicsItem* const debajo : ventana.diagramas().vista().scene()->items())
                 if (debajo != suya && debajo->data(0) == suya->data(0) &&
-                    debajo->sceneBoundingRect().contains(letra->sceneBoundingRect()))
+                    debajo->sceneBoundingRect().contains(letra->sceneBoundingRect()) &&
+                    debajo->sceneBoundingRect().right() < via(suya->data(0).toInt()).right())
                     enSuCaja += letra->text();
     enSuCaja.sort();
     EXPECT_EQ(enSuCaja.join(' '), "E T T mas num");
