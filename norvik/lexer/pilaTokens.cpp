@@ -71,6 +71,7 @@ MapaTokens& pilaTokens::ReconoceTokens(std::u16string_view Texto, std::int16_t T
 }
 
 MapaTokens& pilaTokens::reconoceRango(std::u16string_view rango, std::int16_t inicio) {
+    mapaTokens_.vacia();
     if (!reconocedor_) reconocedor_ = std::make_unique<Reconocedor>(*definiciones_);
     reconocedor_->reconoce(rango, Presupuesto(Presupuesto::plazoComun, cancelacion),
                            mapaTokens_.reinicia(inicio, rango));

@@ -76,6 +76,10 @@ void Completado::muestra() {
     inicio_ = static_cast<std::int32_t>(siguen.inicio);
     llena(siguen);
     if (lista_.count() == 0) return lista_.hide();
+    constexpr int lados = 40;
+    lista_.resize(std::min(lista_.sizeHintForColumn(0) + lados,
+                           caja_.vista().screen()->availableGeometry().width() / 2),
+                  lista_.height());
     lista_.show();
     sigue();
 }
@@ -92,16 +96,14 @@ void Completado::llena(const Continuaciones& continuaciones) {
     }
 }
 
-/// Below what is completed, or above it where the screen ends; never wider than half of it, and as high as
-/// the rows that are left.
+/// Below what is completed, or above it where the screen ends; as high as the rows that are left.
 void Completado::coloca(const QString& escrito, int filas) {
     constexpr int mayor = 8;
-    constexpr int lados = 40;
     const VistaTexto& vista = caja_.vista();
     const QRect pantalla = vista.screen()->availableGeometry();
     const QRect cursor = vista.cursorRect().translated(vista.viewport()->mapToGlobal(QPoint()));
     const int alto = lista_.sizeHintForRow(0) * std::min(filas, mayor) + 2 * lista_.frameWidth();
-    const int ancho = std::min(lista_.sizeHintForColumn(0) + lados, pantalla.width() / 2);
+    const int ancho = lista_.width(); // of all rows, which are many to measure at each key
     const bool debajo = cursor.bottom() + alto <= pantalla.bottom();
     const int inicio = cursor.left() - vista.fontMetrics().horizontalAdvance(escrito);
     const int x = std::clamp(inicio, pantalla.left(), pantalla.right() - ancho);
