@@ -12,24 +12,9 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
-#include <cstddef>
 #include <utility>
 
 namespace norvik::taller {
-
-namespace {
-
-/// Line ends of several kinds.
-bool mezclaSaltos(const std::u16string& texto) {
-    std::ptrdiff_t dobles = 0;
-    for (auto i = texto.find(saltoDeLinea); i != texto.npos; i = texto.find(saltoDeLinea, i + 1)) ++dobles;
-    const bool lf = std::ranges::count(texto, u'\n') > dobles;
-    const bool cr = std::ranges::count(texto, u'\r') > dobles;
-    return (lf && cr) || (dobles > 0 && (lf || cr));
-}
-
-} // namespace
 
 QString DocumentoTexto::titulo() const {
     return fichero().isEmpty() ? QStringLiteral("Sin título") : QFileInfo(fichero()).fileName();

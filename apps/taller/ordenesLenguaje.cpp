@@ -135,7 +135,7 @@ std::optional<std::size_t> OrdenesLenguaje::analiza() {
     ControlNorvik& norvik = formulario_.activo().norvik();
     norvik.ponDiagnosticos({});
     if (norvik.caja().texto().size() > maximoTexto) return analizaLargo(norvik);
-    reconoceConAviso(sistema_, norvik);
+    reconoceConAviso(norvik);
     Norvik& control = norvik.control();
     if (control.ConstruyeArbolSintactico()) return muestra(comoValor(norvik).arbol);
     error_ = {control.LineaToken(), control.ColumnaToken(), {}};

@@ -14,20 +14,29 @@ namespace norvik::inline v0_2 {
 
 namespace {
 
-template <typename Caracter>
-SaltoDeFichero saltoMasFrecuente(std::basic_string_view<Caracter> bytes) {
+/// How many line ends there are of each kind.
+struct Saltos {
     std::size_t lf = 0;
     std::size_t crLf = 0;
     std::size_t cr = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (bytes[i] == '\n') ++lf;
-        if (bytes[i] != '\r') continue;
-        const bool doble = i + 1 < bytes.size() && bytes[i + 1] == '\n';
-        ++(doble ? crLf : cr);
+
+    SaltoDeFichero masFrecuente() const {
+        if (crLf > 0 && crLf >= lf && crLf >= cr) return SaltoDeFichero::CrLf;
+        return cr > lf ? SaltoDeFichero::Cr : SaltoDeFichero::Lf;
+    }
+};
+
+template <typename Caracter>
+Saltos cuentaSaltos(std::basic_string_view<Caracter> texto) {
+    Saltos saltos;
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] == '\n') ++saltos.lf;
+        if (texto[i] != '\r') continue;
+        const bool doble = i + 1 < texto.size() && texto[i + 1] == '\n';
+        ++(doble ? saltos.crLf : saltos.cr);
         if (doble) ++i;
     }
-    if (crLf > 0 && crLf >= lf && crLf >= cr) return SaltoDeFichero::CrLf;
-    return cr > lf ? SaltoDeFichero::Cr : SaltoDeFichero::Lf;
+    return saltos;
 }
 
 std::u16string_view saltoEnFichero(SaltoDeFichero salto) {
@@ -81,7 +90,7 @@ std::string enUtf16(std::u16string_view texto, bool primeroElMayor) {
 FormatoTexto formatoDeUtf16(std::string_view bytes, std::u16string_view texto) {
     FormatoTexto formato;
     formato.codificacion = bytes.starts_with('\xFE') ? Codificacion::Utf16Be : Codificacion::Utf16Le;
-    formato.salto = saltoMasFrecuente(texto);
+    formato.salto = cuentaSaltos(texto).masFrecuente();
     formato.acabaEnSalto = texto.ends_with(u'\n') || texto.ends_with(u'\r');
     return formato;
 }
@@ -98,9 +107,14 @@ FormatoTexto formatoDe(std::string_view bytes) {
     FormatoTexto formato;
     if (bytes.starts_with(marcaUtf8)) formato.codificacion = Codificacion::Utf8ConMarca;
     if (!esUtf8(bytes)) formato.codificacion = Codificacion::Windows1252;
-    formato.salto = saltoMasFrecuente(bytes);
+    formato.salto = cuentaSaltos(bytes).masFrecuente();
     formato.acabaEnSalto = bytes.ends_with('\n') || bytes.ends_with('\r');
     return formato;
+}
+
+bool mezclaSaltos(std::u16string_view texto) {
+    const Saltos saltos = cuentaSaltos(texto);
+    return (saltos.lf > 0) + (saltos.crLf > 0) + (saltos.cr > 0) > 1;
 }
 
 TextoCodificado codifica(std::u16string_view texto, const FormatoTexto& formato) {

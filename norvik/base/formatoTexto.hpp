@@ -25,6 +25,8 @@ struct FormatoTexto {
 bool esBinario(std::string_view bytes);
 /// Of line ends of several kinds the one that there is most of; where there is none, that of a new document.
 FormatoTexto formatoDe(std::string_view bytes);
+/// Line ends of several kinds.
+bool mezclaSaltos(std::u16string_view texto);
 
 struct TextoCodificado {
     std::string bytes;

@@ -38,6 +38,14 @@ private:
 
 } // namespace
 
+void Coloreado::reconoceTodo() {
+    const std::u16string texto(caja_->texto());
+    sistema_->trabaja([&](const std::stop_token& parada) {
+        const QuienCancela quien(lexico_, parada);
+        lexico_.ReconoceTokens(texto);
+    });
+}
+
 void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras) {
     const std::int32_t inicioSeleccion = caja_->inicioSeleccion();
     const std::int32_t longitudSeleccion = caja_->longitudSeleccion();

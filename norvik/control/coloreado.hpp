@@ -12,7 +12,8 @@
 
 namespace norvik::inline v0_2 {
 
-/// Paints the tokens of a range of the text box, and nothing else.
+/// Recognises the text of the box and paints the tokens of a range of it, and nothing else. To recognise is
+/// work of the system's, which may let events in; it raises what the lexer raises.
 class Coloreado {
 public:
     Coloreado(const Prestado<CajaTexto>& caja, const Prestado<Sistema>& sistema, pilaTokens& lexico,
@@ -23,9 +24,10 @@ public:
     /// option.
     enum class Palabras : std::uint8_t { Corrige, Deja };
     /// The tokens that lie wholly in [inicio, fin), 0-based; the selection stays as it was. Raises
-    /// `Desbordamiento` for positions that do not fit 16 bits, and what recognising them raises. That is work
-    /// of the system's, which may let events in.
+    /// `Desbordamiento` for positions that do not fit 16 bits.
     void pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras = Palabras::Corrige);
+    /// For the parse that comes next, which then has nothing to wait for.
+    void reconoceTodo();
 
 private:
     const MapaTokens& reconoce(std::int16_t desde, std::int16_t hasta);

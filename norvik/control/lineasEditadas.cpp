@@ -73,6 +73,11 @@ void LineasEditadas::coloreaTodo() {
     lineaEnEdicion_ = false;
 }
 
+void LineasEditadas::reconoceTodo() {
+    const MarcaOcupado ocupado(ocupado_);
+    coloreado_.reconoceTodo();
+}
+
 /// Paints a line in colour 0, whether colouring is on or not; a mark on it goes.
 void LineasEditadas::descoloreaLinea(std::int32_t linea) {
     if (lineaMarcada_ == linea) lineaMarcada_ = ninguna;

@@ -37,6 +37,8 @@ public:
     void coloreaPuesto(std::int32_t inicio, std::int32_t fin);
     /// Where the colours are to be up to date at all times, they are now.
     void ponAlDia();
+    /// Recognises the text, whose lines nobody paints meanwhile.
+    void reconoceTodo();
     /// The colours of the text as it is now, for one that waited for them.
     void tomaColores(std::span<const TramoDeColor> tramos);
     /// Paints a line without its line break; one that the text does not have is only remembered.

@@ -63,6 +63,10 @@ void Norvik::ColoreaLineaActual() {
     partes->conAviso([&] { partes->lineas.coloreaLinea(partes->edicion.lineaActual()); });
 }
 
+void Norvik::reconoceTexto() {
+    vivo()->lineas.reconoceTodo();
+}
+
 void Norvik::actualizaColores() {
     vivo()->lineas.ponAlDia();
 }

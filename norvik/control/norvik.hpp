@@ -149,6 +149,10 @@ public:
     /// @name Analizar
     /// @{
 
+    /// Reconoce el texto de la caja con lo que el sistema da para trabajos largos, que pueden cancelarse; el
+    /// análisis que venga después no tiene ya nada que esperar. Mientras tanto no se hace caso a la caja.
+    /// Lanza `Desbordamiento` con 32 767 caracteres o más, `BusquedaDesbocada` y `OperacionCancelada`.
+    void reconoceTexto();
     /// Analiza el texto de la caja. Verdadero si se acepta; si no, `GetCodigoError`, `GetmensajeError` y
     /// `GetDiagnostico` dicen qué está mal, y según las opciones se enseña un mensaje
     /// (`MuestraMensajesDeError`) y se marca la línea (`MarcarErrores`). Lanza `Desbordamiento` con 32 767

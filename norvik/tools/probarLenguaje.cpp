@@ -27,7 +27,7 @@ void ProbarLenguaje::alCerrar() {
 }
 
 void ProbarLenguaje::test() {
-    reconoceConAviso(sistema(), Norvik1());
+    reconoceConAviso(Norvik1());
     if (!Norvik1().control().ConstruyeArbolSintactico()) return;
     sistema().muestraMensaje(
         {u"Análisis sintáctico correcto", u"Prueba de la gramática", Icono::Informacion});

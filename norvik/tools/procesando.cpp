@@ -9,10 +9,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QScopedValueRollback>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace norvik {
 
@@ -75,16 +72,9 @@ void Procesando::closeEvent(QCloseEvent* evento) {
     cancela();
 }
 
-/// The notice takes the focus, and a line that loses it is coloured: with the lexer that is at work.
-void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik) {
-    const std::u16string texto(norvik.caja().texto());
-    pilaTokens& lexico = norvik.control().Lexico();
-    const QScopedValueRollback<std::function<void()>> sinColorear(norvik.caja().eventos.pierdeFoco, nullptr);
-    const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
-    sistema.trabaja([&](const std::stop_token& parada) {
-        const QScopedValueRollback<std::stop_token> cancelable(lexico.cancelacion, parada);
-        lexico.ReconoceTokens(texto);
-    });
+void reconoceConAviso(ControlNorvik& norvik) {
+    const VentanaDeAmbito<Procesando> aviso(norvik.sistema(), norvik.window(), Procesando::Aparece::SiTarda);
+    norvik.control().reconoceTexto();
 }
 
 void coloreaConAviso(ControlNorvik& norvik) {

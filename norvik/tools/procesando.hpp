@@ -43,8 +43,8 @@ private:
 };
 
 /// Recognises the text of a control where it can be cancelled, and raises what that raises; the parse that
-/// comes next finds nothing there that it has to wait for. Nobody may use the control's lexer meanwhile.
-void reconoceConAviso(SistemaQt& sistema, ControlNorvik& norvik);
+/// comes next finds nothing there that it has to wait for.
+void reconoceConAviso(ControlNorvik& norvik);
 
 /// Colours the text of a control where it can be cancelled, which leaves it as it was; raises what
 /// `ColoreaTodo` raises.

@@ -191,6 +191,27 @@ TEST_F(CajaTextoQtTest, PegarYCopiarSinPerderNada) {
     EXPECT_EQ(coloresVistos(), "....\n....\n");
 }
 
+/// A letter with thousands of marks is not laid out for seconds, and none of them is lost.
+TEST_F(CajaTextoQtTest, LasMarcasDeMasSeVenAparte) {
+    constexpr int cuantas = 3000;
+    constexpr int seVen = 64;
+    std::u16string marcas;
+    for (int i = 0; i < cuantas; ++i) marcas += i % 2 == 0 ? u"\u0301" : u"\U0001E8D0";
+    const std::u16string guion = u"\u200D";
+    caja.ponTexto(u"a" + marcas + u"b" + guion + u"\u0301c");
+    const auto visto = [this] { return editor.toPlainText().toStdU16String(); };
+    const std::size_t vistas = seVen / 2 * 3;
+    EXPECT_EQ(visto(), u"a" + marcas.substr(0, vistas) + std::u16string(marcas.size() - vistas, u'\u25A1') +
+                           u"b" + guion + u"\u0301c");
+    caja.selecciona(1001, 0);
+    teclea("x");
+    EXPECT_EQ(texto(),
+              u"a" + marcas.substr(0, 1000) + u"x" + marcas.substr(1000) + u"b" + guion + u"\u0301c");
+    pulsa(Qt::Key_A, Qt::ControlModifier);
+    pulsa(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdU16String(), texto());
+}
+
 TEST_F(CajaTextoQtTest, ElMenuOfreceLoQueSePuede) {
     const struct {
         int elegidos;

@@ -13,13 +13,35 @@ namespace norvik {
 
 namespace {
 
+constexpr char16_t cuadro = 0x25A1;
+
 /// What shows a character: signs that common fonts have.
 char16_t visible(char16_t c) {
     constexpr char16_t flechaDeRetorno = 0x21B5;
-    constexpr char16_t cuadro = 0x25A1;
     if (c == 0x2028 || c == 0x2029) return flechaDeRetorno;
     const bool control = (c < u' ' && c != u'\t') || c == 0x7F;
     return control || c == 0xFDD0 || c == 0xFDD1 || c == 0xFFFC ? cuadro : c;
+}
+
+/// It is drawn over the letter before it, or not at all.
+bool esMarca(char32_t c) {
+    constexpr char32_t primera = 0x300;
+    return c >= primera && (QChar::isMark(c) || QChar::category(c) == QChar::Other_Format);
+}
+
+/// To lay out a mark, all those before it are gone through back to their letter: where there are more than
+/// anybody writes, the others are shown as characters of their own.
+void muestraMarcasDeMas(QString& visto) {
+    constexpr int maximo = 64;
+    int marcas = 0;
+    for (qsizetype i = 0; i < visto.size(); ++i) {
+        const QStringView par = QStringView(visto).mid(i, 2);
+        const bool doble = par.size() == 2 && par[0].isHighSurrogate() && par[1].isLowSurrogate();
+        marcas = esMarca(doble ? QChar::surrogateToUcs4(par[0], par[1]) : par[0].unicode()) ? marcas + 1 : 0;
+        if (marcas > maximo) visto[i] = cuadro;
+        if (doble && marcas > maximo) visto[i + 1] = cuadro;
+        if (doble) ++i;
+    }
 }
 
 QString comoSeVe(std::u16string_view texto) {
@@ -29,6 +51,7 @@ QString comoSeVe(std::u16string_view texto) {
         if (texto[i] == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') ++i;
         visto += texto[i] == u'\r' || texto[i] == u'\n' ? QChar(u'\n') : QChar(visible(texto[i]));
     }
+    muestraMarcasDeMas(visto);
     return visto;
 }
 
@@ -123,7 +146,8 @@ EspejoDocumento::Edicion EspejoDocumento::recortada(Edicion e) const {
     const std::u16string_view texto = fuente_.texto();
     const auto seVe = [&](std::int32_t posicion, char16_t c) {
         const char16_t suyo = texto[static_cast<std::size_t>(posicion)];
-        return c == suyo || (c == visible(suyo) && suyo != u'\r' && suyo != u'\n');
+        const bool deMas = c == cuadro && (QChar::isSurrogate(suyo) || esMarca(suyo));
+        return c == suyo || deMas || (c == visible(suyo) && suyo != u'\r' && suyo != u'\n');
     };
     std::size_t iguales = 0;
     while (e.inicio < e.fin && iguales < e.nuevo.size() && seVe(e.inicio, e.nuevo[iguales])) {

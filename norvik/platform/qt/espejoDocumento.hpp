@@ -18,8 +18,8 @@ namespace norvik {
 // the text; all else is one position for one character. Positions are mapped by line: by its number from the
 // start, or by its number from the end where a change stands before it and only one side knows of it yet.
 //
-// Characters that a document takes for a break of its own, or that cannot be seen, are shown by a
-// substitute; the text keeps them.
+// Characters that a document takes for a break of its own, that cannot be seen, or that are more marks than a
+// letter has, are shown by a substitute; the text keeps them.
 class EspejoDocumento {
 public:
     EspejoDocumento(QTextDocument& documento, const FuenteTexto& fuente)
