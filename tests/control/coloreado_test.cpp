@@ -176,6 +176,20 @@ TEST(Marcas, ElUltimoTokenLeido) {
     EXPECT_EQ(colores(par), "0-2:0000ff ");
 }
 
+TEST(Marcas, LaQueAcabaConElSaltoDejaComoEstaLaLineaSiguiente) {
+    Editor e(u"ab\r\ncd\r\nef");
+    e.norvik.SetER(u"ab\\s+", u"conSalto", true);
+    e.caja.selecciona(4, 2);
+    e.caja.ponColorSeleccion(0x00FF00); // the host's own
+    e.norvik.InicializaLecturaTokens();
+    e.norvik.Lex();
+    e.norvik.MarcaErrorToken();
+    EXPECT_EQ(colores(e), "0-4:0000ff 4-6:00ff00 ");
+    e.caja.selecciona(8, 0);
+    e.caja.reemplazaSeleccion(u"x");
+    EXPECT_EQ(colores(e), "4-6:00ff00 ");
+}
+
 TEST(Marcas, SignosNumeradosDesdeElDos) {
     Editor e(u"ab");
     e.norvik.PonSignoError(7);
