@@ -160,7 +160,7 @@ QString ModeloAnalisis::ayuda(Nodo nodo) const {
 
 QString ModeloAnalisis::camino(const QModelIndex& indice) const {
     QStringList nombres;
-    constexpr int caben = 40; // of a list as long as its text the way is as long
+    constexpr int caben = 16; // of a list as long as its text the way is as long
     for (QModelIndex i = indice; i.isValid(); i = parent(i)) {
         if (nombres.size() > caben) return QStringLiteral("… › ") + nombres.join(entreSimbolos);
         nombres = simbolos(cima(i)) + nombres;

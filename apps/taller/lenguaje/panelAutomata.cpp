@@ -84,6 +84,7 @@ void PanelAutomata::compone() {
     estados_.setUniformItemSizes(true);
     nombra(estado_, "estado", QStringLiteral("Estado"));
     estado_.setOpenLinks(false);
+    estado_.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // one that comes and goes is a layout more
     for (QWidget* const parte : std::initializer_list<QWidget*>{&estados_, &estado_, &vista_})
         partes_.addWidget(parte);
     partes_.setStretchFactor(2, 1);

@@ -43,15 +43,16 @@ void PanelTabla::compone() {
     vista_.verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     palabras_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     palabras_.setAccessibleName(QStringLiteral("Lo que hace la celda elegida"));
-    fila_.addWidget(&palabras_, 1);
     fila_.addWidget(&botones_);
     conflicto_.setText(QStringLiteral("&Ver el conflicto"));
     for (QToolButton* const boton : {&conflicto_, &siguiente_}) {
         boton->setFocusPolicy(Qt::StrongFocus);
         fila_.addWidget(boton);
     }
+    fila_.addStretch();
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&fila_);
+    columna_.addWidget(&palabras_);
     columna_.addWidget(&vista_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);

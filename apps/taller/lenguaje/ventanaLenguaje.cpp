@@ -21,6 +21,7 @@
 #include <QMimeData>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <chrono>
@@ -33,7 +34,7 @@ namespace {
 const QString claveGeometria = QStringLiteral("lenguaje/geometria");
 const QString claveEstado = QStringLiteral("lenguaje/estado");
 const QString claveEditores = QStringLiteral("lenguaje/editores");
-constexpr std::chrono::milliseconds turno{2}; ///< what is shown in one: laying out and painting take longer
+constexpr std::chrono::milliseconds turno{1}; ///< what is shown in one: laying out and painting take longer
 
 /// A place of the text is a node of its tree, too.
 std::optional<std::size_t> nodoEn(const Estudio& estudio, const Eleccion& eleccion) {
@@ -44,6 +45,11 @@ std::optional<std::size_t> nodoEn(const Estudio& estudio, const Eleccion& elecci
 void lleva(const Eleccion& eleccion, const std::optional<std::size_t>& nodo, Panel& panel) {
     if (nodo) panel.selecciona(DeNodo{*nodo});
     panel.selecciona(eleccion);
+}
+
+/// A tree of thousands of nodes takes longer to be given up than a panel to be shown.
+void olvidaAparte(std::shared_ptr<const Estudio> estudio) {
+    QThreadPool::globalInstance()->start([suyo = std::move(estudio)]() mutable { suyo.reset(); });
 }
 
 } // namespace
@@ -459,12 +465,13 @@ void VentanaLenguaje::muestra() {
         if (!panel.muestraLoQueNoCompila()) panel.ponEstudio(mostrado_);
         if (seguimiento_.alDia()) lleva(eleccion, nodo, panel);
     }
+    if (anterior_) olvidaAparte(std::move(anterior_));
     marca();
 }
 
 void VentanaLenguaje::muestraEnTexto() {
     const bool otroLenguaje = !mostrado_ || mostrado_->deLenguaje != ultimo_->deLenguaje;
-    mostrado_ = ultimo_;
+    anterior_ = std::exchange(mostrado_, ultimo_);
     if (otroLenguaje) carga(*mostrado_->deLenguaje->lenguaje, texto_.norvik());
     texto_.norvik().ponDiagnosticos(mostrado_->analisis.diagnosticos);
 }

@@ -183,6 +183,7 @@ private:
     QTimer atraso_;                           ///< until what is shown is marked as older than the texts
     std::shared_ptr<const Estudio> ultimo_;   ///< what the problems are of
     std::shared_ptr<const Estudio> mostrado_; ///< the last one with a language, which the other panels show
+    std::shared_ptr<const Estudio> anterior_; ///< the one before it, while some panels show that
     EditorTexto* activo_ = &especificacion_;  ///< where the person writes
     bool eligiendo_ = false;
     bool ocupada_ = false; ///< a command runs
