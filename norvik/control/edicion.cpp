@@ -81,7 +81,7 @@ void Edicion::alCambiar(const CambioDeTexto& cambio) {
 }
 
 void Edicion::avisaTexto() {
-    if (std::exchange(textoPorAvisar_, false)) avisa(eventos_.textoCambiado);
+    if (porAcabar_ == 0 && std::exchange(textoPorAvisar_, false)) avisa(eventos_.textoCambiado);
 }
 
 void Edicion::alCambiarLaSeleccion() {

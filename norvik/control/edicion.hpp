@@ -8,6 +8,7 @@
 #include "norvik/control/historial.hpp"
 #include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/opciones.hpp"
+#include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/prestado.hpp"
 #include "norvik/platform/cajaTexto.hpp"
 
@@ -37,6 +38,17 @@ public:
     /// Tells the host that the text is another, if it is and nobody has told yet. What changes the text while
     /// the host hears of no change does this at its end.
     void avisaTexto();
+    /// Does something that changes the text, perhaps in several steps, or while the host hears of no change:
+    /// the host is told once, afterwards.
+    template <typename Operacion>
+    void conAviso(Operacion operacion) {
+        PasosFirmes paso;
+        ++porAcabar_;
+        paso(operacion);
+        --porAcabar_;
+        paso([this] { avisaTexto(); });
+        paso.acaba();
+    }
 
     /// 1-based; raises `Desbordamiento` beyond 32767.
     std::int16_t lineaActual() const;
@@ -70,6 +82,7 @@ private:
     const Prestado<Contenedor>& contenedor_;
     bool callada_ = false;
     bool textoPorAvisar_ = false;
+    int porAcabar_ = 0; ///< operations that will tell of the text
 };
 
 } // namespace norvik::inline v0_2

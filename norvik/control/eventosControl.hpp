@@ -16,7 +16,8 @@ struct EventosControl {
     using Raton = std::function<void(std::int16_t& Button, std::int16_t& Shift, float& x, float& y)>;
 
     std::function<void(std::int16_t& LineaActual)> CambioDeLinea; ///< la nueva línea del cursor, desde 1
-    std::function<void()> change; ///< no mientras Undo y Redo reescriben el texto
+    std::function<void()> change; ///< no mientras Undo y Redo reescriben el texto: quien siga el texto oiga
+                                  ///< `textoCambiado`
     std::function<void()> Click;
     Tecla KeyDown;
     std::function<void(std::int16_t& KeyAscii)> KeyPress;

@@ -55,12 +55,12 @@ void Norvik::PonSignoError(std::int16_t numLinea) {
 
 void Norvik::ColoreaTodo() {
     const auto partes = vivo();
-    partes->conAviso([&] { partes->lineas.coloreaTodo(); });
+    partes->edicion.conAviso([&] { partes->lineas.coloreaTodo(); });
 }
 
 void Norvik::ColoreaLineaActual() {
     const auto partes = vivo();
-    partes->conAviso([&] { partes->lineas.coloreaLinea(partes->edicion.lineaActual()); });
+    partes->edicion.conAviso([&] { partes->lineas.coloreaLinea(partes->edicion.lineaActual()); });
 }
 
 void Norvik::reconoceTexto() {

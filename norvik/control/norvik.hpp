@@ -126,7 +126,8 @@ public:
     /// escrito se enseña en una caja de mensaje y su token falta; un token sin definición no se nota: quien
     /// quiera saberlo, y con su lugar, compile con `Lenguaje`.
     ///
-    /// El lenguaje anterior se pierde siempre, también con falso: si está mal escrita, el control se queda
+    /// El lenguaje anterior se pierde siempre, también con falso o si lanza otra cosa que
+    /// `ArgumentoNoValido`: si está mal escrita o no cabe, el control se queda
     /// con el de las especificaciones, que no es el de ningún texto suyo; si no, con las definiciones y
     /// reglas nuevas, y hasta `GeneraCompilador` con una tabla que no es la suya. Usa el texto invisible, y
     /// lo deja vacío; el árbol pasa a ser el de la especificación.
@@ -295,8 +296,9 @@ public:
     /// Vacía el texto, el color de lo que se escriba a continuación y el historial. Lanza como
     /// `InicializaUndosYRedos`.
     void BorraTodo();
-    /// Sustituye el texto por el de un fichero (`leeTexto`) y lo colorea. Verdadero, o lanza:
-    /// `ErrorDeFichero` con el texto vacío, o lo que lance `ColoreaTodo`.
+    /// Sustituye el texto por el de un fichero (`leeTexto`) y lo colorea; `change` se da dos veces, la
+    /// primera con el texto vacío, y `textoCambiado` una, al final. Verdadero, o lanza: `ErrorDeFichero` con
+    /// el texto vacío, o lo que lance `ColoreaTodo`.
     bool CargarFichero(const std::filesystem::path& nomFichero);
     /// Escribe el texto y un salto de línea (`escribeTexto`); falso si no se pudo, y el fichero sigue como
     /// estaba.
@@ -329,7 +331,8 @@ public:
     /// Pide al contenedor la ventana con el informe de la gramática y del analizador léxico.
     void MuestraInforme();
     /// El lenguaje de ahora como valor, que no cambia cuando cambia el del control: para analizar en otro
-    /// hilo, o un texto más largo que los del control. Sin tabla, con los tokens solos.
+    /// hilo, o un texto más largo que los del control. Sin tabla, con los tokens solos. Se hace la primera
+    /// vez que se pide tras un cambio.
     Lenguaje lenguaje();
     /// Las ayudas de edición encendidas, y otras; no se guardan con las propiedades.
     const Ayudas& ayudas() const;

@@ -5,6 +5,7 @@
 
 #include "norvik/control/colorista.hpp"
 #include "norvik/control/partesControl.hpp"
+#include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/tablaPropiedades.hpp"
 
 #include <type_traits>
@@ -60,12 +61,12 @@ void Norvik::InicializaUndosYRedos() {
 
 void Norvik::Undo() {
     const auto partes = vivo();
-    partes->conAviso([&] { partes->historial.Undo(); });
+    partes->edicion.conAviso([&] { partes->historial.Undo(); });
 }
 
 void Norvik::Redo() {
     const auto partes = vivo();
-    partes->conAviso([&] { partes->historial.Redo(); });
+    partes->edicion.conAviso([&] { partes->historial.Redo(); });
 }
 
 bool Norvik::puedeDeshacer() const {
@@ -130,7 +131,7 @@ const std::vector<Literal>* Norvik::literales() {
 
 void Norvik::reemplaza(std::int32_t inicio, std::int32_t longitud, std::u16string_view nuevo) {
     const auto partes = vivo();
-    partes->conAviso([&] { partes->historial.sustituye(inicio, longitud, nuevo); });
+    partes->edicion.conAviso([&] { partes->historial.sustituye(inicio, longitud, nuevo); });
 }
 
 const Ayudas& Norvik::ayudas() const {

@@ -85,14 +85,15 @@ void PartesControl::BorraTodo() {
 }
 
 void PartesControl::CargarFichero(const std::filesystem::path& nomFichero) {
-    BorraTodo();
-    const std::u16string texto = leeTexto(nomFichero);
-    const TextoOculto oculto(colocacion);
-    PasosFirmes paso;
-    paso([&] { caja->ponTexto(texto); });
-    paso([this] { lineas.coloreaTodo(); });
-    paso([this] { edicion.avisaTexto(); });
-    paso.acaba();
+    edicion.conAviso([&] {
+        BorraTodo();
+        const std::u16string texto = leeTexto(nomFichero);
+        const TextoOculto oculto(colocacion);
+        PasosFirmes paso;
+        paso([&] { caja->ponTexto(texto); });
+        paso([this] { lineas.coloreaTodo(); });
+        paso.acaba();
+    });
 }
 
 void PartesControl::Imprimir() const {

@@ -13,7 +13,6 @@
 #include "norvik/control/lenguajeDeAhora.hpp"
 #include "norvik/control/lineasEditadas.hpp"
 #include "norvik/control/opciones.hpp"
-#include "norvik/control/pasosFirmes.hpp"
 #include "norvik/control/prestado.hpp"
 #include "norvik/control/propiedades.hpp"
 #include "norvik/control/signosDelBorde.hpp"
@@ -65,14 +64,6 @@ public:
     void Imprimir() const;
     void clickEnSuperficie() const;
     void ponAyudas(const Ayudas& otras);
-    /// Does something that may change the text while the host hears of no change, and tells it afterwards.
-    template <typename Operacion>
-    void conAviso(Operacion operacion) {
-        PasosFirmes paso;
-        paso(operacion);
-        paso([this] { edicion.avisaTexto(); });
-        paso.acaba();
-    }
     /// Raises `ArgumentoNoValido` while a language is being loaded or compiled.
     void compruebaQueNadaCarga() const;
 

@@ -259,7 +259,7 @@ public:
     /// Carga el lenguaje de una especificación, o el de un fichero con una especificación o con un módulo de
     /// carga («.bas»), en lugar del que hay, y colorea el texto con él. Da lo que está mal en ella; con
     /// errores el lenguaje anterior se queda. Un fichero que no se puede leer, o una especificación que no
-    /// cabe en el control, es un `fallo`, y lo que se da entonces no tiene lenguaje.
+    /// cabe en el control, es un `fallo`, y lo que se da entonces no tiene lenguaje ni diagnósticos.
     Q_INVOKABLE norvik::Compilacion cargaLenguaje(const QString& especificacion);
     Q_INVOKABLE norvik::Compilacion cargaLenguajeDe(const QString& fichero);
 
@@ -323,8 +323,9 @@ Q_SIGNALS:
 
     /// Una propiedad que se guarda tiene otro valor.
     void propiedadCambiada(const QString& nombre);
-    /// Se ha lanzado algo que no tenía adónde ir. Quien lo cuente pone `contado`; si nadie lo hace, se enseña
-    /// en una caja de mensaje.
+    /// Se ha lanzado algo que no tenía adónde ir. Llega con los eventos siguientes; de lo que se lance hasta
+    /// entonces, solo lo primero. Quien lo cuente pone `contado`; si nadie lo hace, se enseña en una caja de
+    /// mensaje.
     void fallo(const QString& texto, bool& contado);
 
 protected:

@@ -6,14 +6,12 @@
 
 #include "editor.hpp"
 
-#include <norvik/base/ficheros.hpp>
-
 #include <QApplication>
 
 int main(int argc, char** argv) {
     const QApplication aplicacion(argc, argv);
     if (argc != 2) return 2;
-    Editor editor(norvik::leeTexto(argv[1]));
+    Editor editor(QString::fromLocal8Bit(argv[1]));
     editor.resize(800, 600);
     editor.show();
     return QApplication::exec();

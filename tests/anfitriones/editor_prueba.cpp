@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-// The editor as its user sees it: the list of errors of a text, and what a click on one selects.
+// The editor as its user sees it: the list of errors of a text, and what a click on one selects, and the list
+// after an undo.
 
 #include "editor.hpp"
 
-#include <norvik/base/ficheros.hpp>
 #include <norvik/base/texto.hpp>
 
 #include <QApplication>
@@ -14,7 +14,7 @@
 int main(int argc, char** argv) {
     const QApplication aplicacion(argc, argv);
     if (argc != 2) return 2;
-    Editor editor(norvik::leeTexto(argv[1]));
+    Editor editor(QString::fromLocal8Bit(argv[1]));
     editor.show();
     editor.texto->Colorear(false); // one of the texts is too long for it
     for (const auto& texto :
@@ -29,4 +29,9 @@ int main(int argc, char** argv) {
             std::cout << editor.errores->item(i)->text().toStdString() << '\n';
         std::cout << norvik::aUtf8(editor.texto->control().SelText()) << '\n';
     }
+    editor.texto->Text("1");
+    editor.texto->SelText("+");
+    std::cout << editor.errores->count();
+    editor.texto->control().Undo();
+    std::cout << editor.errores->count() << '\n';
 }

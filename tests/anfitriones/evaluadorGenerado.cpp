@@ -16,6 +16,14 @@
 
 namespace {
 
+// The compiler tells of a rule that is new or gone; these, of one that is now another.
+consteval bool es(Aritmetica::Regla regla, std::u16string_view texto) {
+    return Aritmetica::datos.reglas[static_cast<std::size_t>(regla) - 1] == texto;
+}
+static_assert(es(Aritmetica::Regla::E_1, u"E -> E mas T") && es(Aritmetica::Regla::E_2, u"E -> E menos T"));
+static_assert(es(Aritmetica::Regla::T_1, u"T -> T por F") && es(Aritmetica::Regla::T_2, u"T -> T entre F"));
+static_assert(es(Aritmetica::Regla::F_1, u"F -> num") && es(Aritmetica::Regla::F_3, u"F -> menos F"));
+
 // What stands below a node has been evaluated when the walk leaves it: no depth of parentheses is too much.
 double evalua(norvik::Nodo raiz) {
     std::vector<double> valores;

@@ -479,16 +479,21 @@ TEST_P(ControlTest, CargarEsElPrimerEstado) {
     empieza(u"antes");
     teclea(u"xy");
     dameSucesos();
+    std::u16string oido;
+    norvik.eventos.textoCambiado = [&] { oido += norvik.Text() + u'|'; };
     EXPECT_TRUE(norvik.CargarFichero(carpeta.pon("f.txt", "begin\n12\n")));
     EXPECT_EQ(dameSucesos(), "s c c ");
+    EXPECT_EQ(std::exchange(oido, {}), u"begin\r\n12|"); // once, and never the text between
     EXPECT_EQ(colores(), "PPPPP..NN");
     norvik.Undo();
     EXPECT_EQ(foto(), u"|begin\r\n12");
     EXPECT_FALSE(norvik.TextoModificado());
     for (const auto& malo : {carpeta / "no.txt", carpeta.ruta()}) {
         teclea(u"x");
+        oido.clear();
         EXPECT_THROW(norvik.CargarFichero(malo), ErrorDeFichero);
         EXPECT_EQ(foto(), u"|"); // emptied first
+        EXPECT_EQ(oido, u"|");
     }
     EXPECT_TRUE(norvik.CargarFichero(carpeta.pon("f.txt", "")));
     EXPECT_EQ(norvik.historial().undos().cuantas(), 1U);
