@@ -116,7 +116,7 @@ public:
     }
     /// El subárbol en un texto canónico, un nodo por línea y dos espacios por nivel: `cabeza -> cuerpo
     /// [número]`, o
-    /// `'lexema' (línea, columna)`.
+    /// ``'lexema' (línea, columna)``.
     std::u16string toString() const;
 
 private:

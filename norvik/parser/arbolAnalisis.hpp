@@ -104,7 +104,7 @@ public:
     static void recorre(Nodo raiz, const Entra& entra, const Sale& sale);
 
     /// Un texto canónico, un nodo por línea y dos espacios por nivel: `cabeza -> cuerpo [número]`, o
-    /// `'lexema' (línea, columna)`.
+    /// ``'lexema' (línea, columna)``.
     std::u16string toString() const;
 
     /// El árbol de un texto, de los pasos de su análisis: la regla de cada reducción, 0 de un token. Nada

@@ -147,10 +147,7 @@ void ControlNorvik::conectaEventos() {
     };
     e.MouseUp = [this](auto& boton, auto& shift, auto& x, auto& y) { Q_EMIT MouseUp(boton, shift, x, y); };
     e.SelChange = [this] { Q_EMIT SelChange(); };
-    e.textoCambiado = [this] {
-        if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
-        Q_EMIT textoCambiado();
-    };
+    e.textoCambiado = [this] { Q_EMIT textoCambiado(); };
 }
 
 /// The elements go one by one, and nobody is there to see the last events of one.
@@ -311,6 +308,7 @@ QAction* ControlNorvik::accion(AccionNorvik cual) {
 }
 
 void ControlNorvik::cambioElTexto(const CambioDeTexto& cambio) {
+    if (piezas_->caja.texto().size() <= maximoTexto) fallosContados_.clear();
     piezas_->fondo.cambioElTexto(cambio);
 }
 
