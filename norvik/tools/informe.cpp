@@ -2,17 +2,23 @@
 
 #include "norvik/tools/informe.hpp"
 
+#include "norvik/base/errores.hpp"
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/medidas.hpp"
 #include "norvik/tools/directorio.hpp"
+#include "norvik/tools/procesando.hpp"
 #include "norvik/tools/ventanas.hpp"
 #include "norvik/widget/menuDeTexto.hpp"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QPlainTextDocumentLayout>
+#include <QPointer>
 #include <QTextBlock>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvik {
 
@@ -42,11 +48,26 @@ void realzaEstados(QTextDocument& documento) {
     cursor.endEditBlock();
 }
 
+/// Half a million lines, of which Qt makes paragraphs, take seconds: apart from the windows, until it is
+/// stopped.
+std::unique_ptr<QTextDocument> documentoDe(const QString& texto, const std::stop_token& parada) {
+    constexpr qsizetype trozo = 1 << 16;
+    auto documento = std::make_unique<QTextDocument>();
+    documento->setUndoRedoEnabled(false);
+    QTextCursor cursor(documento.get());
+    for (qsizetype desde = 0; desde < texto.size() && !parada.stop_requested(); desde += trozo)
+        cursor.insertText(texto.mid(desde, trozo));
+    realzaEstados(*documento);
+    documento->moveToThread(QCoreApplication::instance()->thread());
+    return documento;
+}
+
 } // namespace
 
-Informe::Informe(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema, QWidget* padre)
+Informe::Informe(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema, QWidget* padre,
+                 std::unique_ptr<QTextDocument> automata)
     : QDialog(padre), gramatica_(gramatica), sistema_(sistema), modelo_(gramatica, lexico),
-      tabla_(modelo_, nullptr) {
+      textoAutomata_(std::move(automata)), tabla_(modelo_, nullptr) {
     setObjectName(QStringLiteral("Informe"));
     setWindowTitle(QStringLiteral("Informe sobre la gramática especificada"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -115,6 +136,10 @@ void Informe::conecta() {
 }
 
 void Informe::llena() {
+    textoAutomata_->setDocumentLayout(&nuevo<QPlainTextDocumentLayout>(textoAutomata_.get()));
+    textoAutomata_->setDefaultFont(automata_.font());
+    automata_.setLineWrapMode(QPlainTextEdit::NoWrap);
+    automata_.setDocument(textoAutomata_.get());
     soloLectura(texto_);
     soloLectura(automata_);
     QFont verdana(QStringLiteral("Verdana"));
@@ -123,9 +148,6 @@ void Informe::llena() {
     texto_.setTabStopDistance(
         QFontMetricsF(verdana).horizontalAdvance(QStringLiteral("0000.  "))); // after numbers
     texto_.setPlainText(aQString(gramatica_.textoInformeGeneral()));
-    automata_.setLineWrapMode(QPlainTextEdit::NoWrap);
-    automata_.setPlainText(aQString(gramatica_.textoAutomata()));
-    realzaEstados(*automata_.document());
 }
 
 void Informe::guarda() {
@@ -141,7 +163,17 @@ void Informe::guarda() {
 
 void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema,
                     QWidget* padre) {
-    muestraModal<Informe>(sistema, gramatica, lexico, sistema, padre);
+    const QPointer<QWidget> vivo(padre);
+    std::unique_ptr<QTextDocument> automata;
+    try {
+        const QString texto = conSaltosDeQt(aQString(gramatica.textoAutomata()));
+        const VentanaDeAmbito<Procesando> aviso(sistema, padre, Procesando::Aparece::SiTarda);
+        sistema.trabaja([&](const std::stop_token& parada) { automata = documentoDe(texto, parada); });
+    } catch (const OperacionCancelada&) {
+        return;
+    }
+    if (padre != nullptr && vivo.isNull()) return; // and the grammar with it
+    muestraModal<Informe>(sistema, gramatica, lexico, sistema, padre, std::move(automata));
 }
 
 } // namespace norvik

@@ -12,6 +12,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTextDocument>
+
+#include <memory>
 
 namespace norvik {
 
@@ -21,8 +24,9 @@ class Informe final : public QDialog {
     Q_OBJECT
 
 public:
-    Informe(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema,
-            QWidget* padre = nullptr);
+    /// With the text of the automaton.
+    Informe(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema, QWidget* padre,
+            std::unique_ptr<QTextDocument> automata);
 
 private:
     void nombraElementos();
@@ -40,12 +44,14 @@ private:
     QPushButton command3_{QStringLiteral("Problemas"), this};
     EtiquetaDeRuta guardado_{this}; ///< says where the report was written
     QTabWidget ssTab1_{this};
+    const std::unique_ptr<QTextDocument> textoAutomata_;
     QPlainTextEdit texto_;
     QPlainTextEdit automata_;
     TablaInforme tabla_;
 };
 
-/// Shows the report window and comes back when it is closed.
+/// Shows the report window and comes back when it is closed, or at once when a person cancels what takes
+/// long.
 void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, SistemaQt& sistema,
                     QWidget* padre = nullptr);
 

@@ -140,6 +140,32 @@ TEST(Procesando, UnaGramaticaInterminableSeCancelaEnLasVentanas) {
     EXPECT_EQ(sistema.ventanas, "");
 }
 
+// Each operator meets each other one: a short specification, and an automaton of hundreds of thousands of
+// lines.
+TEST(Procesando, UnInformeEnormeSeDejaDeEscribir) {
+    SistemaDePrueba sistema;
+    ControlNorvik norvik(sistema, nullptr);
+    std::string especificacion = "'% metodo: lalr\r\nToken n = \"n\";\r\n";
+    std::string reglas = "E -> n";
+    for (int i = 0; i < 350; ++i) {
+        const std::string operador = "o" + std::to_string(i);
+        especificacion += "Token " + operador + " = \"" + operador + "\";\r\n";
+        reglas += " | E " + operador + " E";
+    }
+    especificacion += reglas + ";";
+    ASSERT_TRUE(
+        norvik.control().CargaGramatica(std::u16string(especificacion.begin(), especificacion.end())));
+    ASSERT_TRUE(norvik.control().GeneraCompilador());
+    for (int vez = 0; vez < 2; ++vez) {
+        const Impaciente persona(pulsaCancelar);
+        norvik.control().MuestraInforme();
+        ASSERT_TRUE(persona.cronometro.isValid());
+        EXPECT_LT(persona.cronometro.elapsed(), 2000);
+        EXPECT_EQ(aviso(), nullptr);
+    }
+    EXPECT_EQ(sistema.ventanas, "");
+}
+
 // The line that is being typed on waits for its colours until the focus is lost, which goes to the notice.
 TEST(Procesando, UnTextoDesbocadoSeDejaDeReconocer) {
     SistemaDePrueba sistema;
