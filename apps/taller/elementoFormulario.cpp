@@ -107,7 +107,6 @@ void ElementoFormulario::restaura(const ElementoGuardado& guardado) {
     lenguajeAlDia_ = false;
     norvik_.control().restauraPropiedades(guardado.bolsa);
     especificacion_ = especificacionDe(norvik_);
-    anotaGuardado();
 }
 
 // ---- text
