@@ -73,6 +73,7 @@ TEST_F(CompletadoTest, ProponeLoQuePuedeSeguirYLoEscribe) {
         QTest::keyClicks(&vista, " ");
         pulsa(Qt::Key_Space, Qt::ControlModifier);
         EXPECT_EQ(propuestas(), QStringList{"nombre"}); // nobody can take it
+        EXPECT_TRUE(lista.item(0)->font().italic());
         pulsa(Qt::Key_Tab);
         EXPECT_EQ(editor.Text(), "mira ");
         editor.Text("");

@@ -140,6 +140,8 @@ TEST_F(ControlNorvikTest, LoCompuestoEsLoEscrito) {
     };
     const auto& undos = norvik.control().historial().undos();
     const auto cuantas = undos.cuantas();
+    for (const char* const aMedias : {"3", ""}) compone(aMedias, "");
+    EXPECT_EQ(colores(0), "rrpnn"); // it was given up
     compone("3", "");
     EXPECT_EQ(texto(), u"si 12");
     EXPECT_EQ(undos.cuantas(), cuantas);

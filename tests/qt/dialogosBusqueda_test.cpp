@@ -73,7 +73,7 @@ protected:
 };
 
 TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
-    estadoBusqueda().historialBusquedas = {u"uno", u"otro"};
+    estadoBusqueda().historialBusquedas = {u"uno", std::u16string(500, u'x')};
     estadoBusqueda().ultimaBusqueda = u"uno";
     norvik.HideSelection(true);
     norvik.control().ShowBuscarDialog();
@@ -90,6 +90,7 @@ TEST_F(DialogosBusquedaTest, BuscarDeUnoEnUno) {
               "&Reemplazar ...-|");
     auto& lista = en<QComboBox>(dialogo, "Combo1");
     EXPECT_EQ(lista.count(), 2);
+    EXPECT_LT(lista.sizeHint().width(), 1000); // whatever was looked for
     EXPECT_EQ(lista.currentText(), "uno");
     EXPECT_EQ(en<QComboBox>(dialogo, "Combo2").currentText(), "Todo");
     EXPECT_TRUE(lista.lineEdit()->hasFocus());

@@ -373,6 +373,8 @@ TEST_F(DisenioTest, HerramientasDelEditor) {
     teclea(editor.Norvik1(), "xy");
     dispara(editor, "ID_Undo");
     EXPECT_EQ(texto(), "xA -> a;");
+    dispara(editor, "ID_Undo"); // the first key begins it: what was loaded is no part of it
+    EXPECT_EQ(texto(), "xA -> a;");
     dispara(editor, "ID_Redo");
     dispara(editor, "seleccionarTodo");
     EXPECT_EQ(editor.Norvik1().SelLength(), 9);

@@ -56,24 +56,25 @@ struct PanelesLenguaje : ConVentanaLenguaje {
         trae(ventana.automata());
         ASSERT_TRUE(QTest::qWaitFor([this] { return ventana.automata().estados().count() > 0; }));
     }
-    int subrayadas(const QAbstractItemModel& modelo, const QModelIndex& padre = {}) const {
+    int subrayadas(const QAbstractItemModel& modelo, bool enNegrita, const QModelIndex& padre = {}) const {
         int cuantas = 0;
         for (int f = 0; f < modelo.rowCount(padre); ++f)
             for (int c = 0; c < modelo.columnCount(padre); ++c) {
                 const QModelIndex celda = modelo.index(f, c, padre);
-                cuantas += celda.data(Qt::FontRole).value<QFont>().underline() ? 1 : 0;
-                if (c == 0) cuantas += subrayadas(modelo, celda);
+                const auto letra = celda.data(Qt::FontRole).value<QFont>();
+                cuantas += letra.underline() && letra.bold() == enNegrita ? 1 : 0;
+                if (c == 0) cuantas += subrayadas(modelo, enNegrita, celda);
             }
         return cuantas;
     }
-    /// «3 mas», and how many cells are underlined: «3 mas/2».
+    /// «3 mas», and how many cells are bold and underlined: «3 mas/2».
     QString enTabla() {
         const QModelIndex celda = ventana.tabla().vista().currentIndex();
         const QAbstractItemModel& modelo = *celda.model();
         return QStringLiteral("%1 %2/%3")
             .arg(celda.row())
             .arg(modelo.headerData(celda.column(), Qt::Horizontal).toString())
-            .arg(subrayadas(modelo));
+            .arg(subrayadas(modelo, true));
     }
     /// The chosen state, and how many are bold: «3/3».
     QString enAutomata() {
@@ -84,7 +85,7 @@ struct PanelesLenguaje : ConVentanaLenguaje {
     }
     QString enArbol() {
         return ventana.arbol().camino().text() + u'/' +
-               QString::number(subrayadas(*ventana.arbol().vista().model()));
+               QString::number(subrayadas(*ventana.arbol().vista().model(), false));
     }
     QString enConjuntos() {
         return ventana.conjuntos().tabla().item(ventana.conjuntos().tabla().currentRow(), 0)->text();
@@ -124,6 +125,15 @@ TEST_F(PanelesLenguaje, LosDiagramasEnsenanLaReglaQueSeEligioSinVerlos) {
     EXPECT_TRUE(gruesas());
     EXPECT_EQ(via(1).height(), 0); // the first one goes straight on, the next one aside
     EXPECT_GT(via(2).height(), 0);
+    for (const QGraphicsItem* const pieza : ventana.diagramas().vista().scene()->items())
+        if (const auto* const linea = qgraphicsitem_cast<const QGraphicsPathItem*>(pieza))
+            for (int i = 1; i < linea->path().elementCount(); ++i) { // corners are round: nothing is aslant
+                const QPainterPath::Element antes = linea->path().elementAt(i - 1);
+                const QPainterPath::Element suyo = linea->path().elementAt(i);
+                EXPECT_TRUE(!suyo.isLineTo() || qFuzzyCompare(1 + suyo.x, 1 + antes.x) ||
+                            qFuzzyCompare(1 + suyo.y, 1 + antes.y))
+                    << pieza->data(0).toInt() << ", " << i;
+            }
     QStringList enSuCaja;
     for (const QGraphicsItem* const suya : ventana.diagramas().vista().scene()->items())
         if (const auto* const letra = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(suya))
@@ -145,6 +155,8 @@ TEST_F(PanelesLenguaje, LoElegidoEsLoMismoEnTodos) {
     empieza(gramaticaSuma, u"1+2");
     trae(ventana.tabla());
     EXPECT_TRUE(ventana.tabla().vista().isVisible() && ventana.arbol().vista().isVisible());
+    for (const auto* const dibujo : ventana.findChildren<VistaDibujo*>())
+        EXPECT_EQ(dibujo->accessibleDescription().isEmpty(), dibujo->accessibleName().isEmpty());
     traeAutomata();
     for (const auto* const boton : ventana.tabla().findChildren<QToolButton*>())
         EXPECT_FALSE(boton->isEnabled() && boton->text().contains("onflicto")); // there is none

@@ -11,6 +11,7 @@
 
 #include "norvik/checks/revision.hpp"
 #include "norvik/platform/qt/cajaTextoQt.hpp"
+#include "norvik/platform/qt/vistaTexto.hpp"
 #include "norvik/spec/lenguaje.hpp"
 
 #include <QTest>
@@ -91,6 +92,9 @@ TEST(Ejemplos, SeEncuentranDesdeElPrograma) {
 TEST_F(PrimeraHoraTest, DeLaPaginaDeInicioSeVaATodo) {
     EXPECT_TRUE(ventana.inicio().isVisible());
     EXPECT_TRUE(ventana.arbol().isHidden());
+    QStringList titulos;
+    for (const auto* const rotulo : ventana.inicio().findChildren<QLabel*>()) titulos += rotulo->text();
+    EXPECT_EQ(titulos.filter(QRegularExpression("^(Un lenguaje nuevo|Aprender|Seguir)$")).size(), 3);
     for (int vez = 0; vez < 2; ++vez) {
         pulsa<QCommandLinkButton>("Expresiones");
         VentanaLenguaje& lenguaje = ventana.ventanaLenguaje();
@@ -160,6 +164,10 @@ TEST_F(PrimeraHoraTest, ElManualSeAbrePorLoQueSeTieneDelante) {
     EXPECT_GE(ventana.manual().indice().topLevelItemCount(), 7);
     EXPECT_TRUE(ventana.manual().indice().isVisible());
     EXPECT_TRUE(ventana.manual().indice().topLevelItem(0)->isExpanded());
+    const int ancho = ventana.manual().indice().width();
+    ventana.manual().resize(ventana.manual().width() + 300, ventana.manual().height());
+    QApplication::processEvents();
+    EXPECT_EQ(ventana.manual().indice().width(), ancho); // there is more of the page
     VentanaLenguaje& lenguaje = ventana.ventanaLenguaje();
     for (auto* const panel : lenguaje.findChildren<Panel*>()) {
         ventana.manual().muestra(temaDe(panel->widget()));
@@ -193,7 +201,8 @@ TEST_F(PrimeraHoraTest, UnaTeclaEsLoMismoEnTodasLasVentanas) {
     for (QTreeWidgetItemIterator i(&ventana.teclas().lista(), QTreeWidgetItemIterator::NoChildren);
          *i != nullptr; ++i)
         todas += (*i)->parent()->parent()->text(0) + '|' + (*i)->parent()->text(0) + '|' + (*i)->text(0);
-    EXPECT_TRUE(todas.contains("El formulario|Archivo|Guardar texto")) << todas.join('\n').toStdString();
+    for (const char* const una : {"El formulario|Archivo|Guardar texto", "El formulario|Edición|Deshacer"})
+        EXPECT_TRUE(todas.contains(una)) << todas.join('\n').toStdString();
     EXPECT_EQ(todas.removeDuplicates(), 0);
     QMap<QString, QStringList> ordenes; // the first words of each key's captions
     QTreeWidgetItemIterator fila(&ventana.teclas().lista());
@@ -211,9 +220,34 @@ TEST_F(PrimeraHoraTest, UnaTeclaEsLoMismoEnTodasLasVentanas) {
 }
 
 TEST_F(PrimeraHoraTest, LaPresentacionAgrandaYTodoVuelve) {
+    ventana.show();
+    ventana.arbol().show();
+    ventana.resize(1200, 700);
+    ventana.resizeDocks({&ventana.arbol()}, {500}, Qt::Horizontal);
     ventana.ventanaLenguaje().trae();
     const QFont letra = QApplication::font();
     const QPalette paleta = QApplication::palette();
+    const auto titulos = [this] { // what is black in the title of each panel that is seen
+        QApplication::processEvents();
+        std::vector<int> puntos;
+        for (QWidget* const v :
+             {static_cast<QWidget*>(&ventana), static_cast<QWidget*>(&ventana.ventanaLenguaje())})
+            for (auto* const panel : v->findChildren<QDockWidget*>()) {
+                const QImage titulo = panel->grab({0, 0, panel->width(), panel->widget()->y()}).toImage();
+                int suyos = 0;
+                for (int y = 0; y < titulo.height(); ++y)
+                    for (int x = 0; x < titulo.width(); ++x) suyos += qGray(titulo.pixel(x, y)) < 128 ? 1 : 0;
+                puntos.push_back(suyos);
+            }
+        return puntos;
+    };
+    const std::vector<int> antes = titulos();
+    ControlNorvik& norvik = ventana.ventanaLenguaje().texto().norvik();
+    norvik.Text(QString(200, '\n'));
+    QApplication::processEvents();
+    VistaTexto& vista = norvik.caja().vista();
+    QTest::mouseClick(vista.viewport(), Qt::LeftButton, {},
+                      vista.viewport()->rect().bottomLeft() + QPoint(5, -20));
     QAction& accion = ventana.acciones().presentacion;
     for (int vez = 0; vez < 2; ++vez) {
         QTest::keyClick(&ventana.ventanaLenguaje(), Qt::Key_F11);
@@ -221,6 +255,15 @@ TEST_F(PrimeraHoraTest, LaPresentacionAgrandaYTodoVuelve) {
         EXPECT_GT(QApplication::font().pointSizeF(), letra.pointSizeF());
         EXPECT_EQ(ventana.formulario().activo().norvik().aumento(), 160);
         EXPECT_EQ(ventana.ventanaLenguaje().texto().norvik().aumento(), 160);
+        QApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitFor([&] { // one goes on writing there
+            return vista.viewport()->rect().contains(vista.cursorRect());
+        }));
+        const std::vector<int> mayores = titulos();
+        for (std::size_t i = 0; i < antes.size(); ++i) {
+            EXPECT_GT(antes[i], 0) << i;
+            EXPECT_GT(mayores[i], antes[i] * 1.2) << i;
+        }
         accion.trigger();
         EXPECT_EQ(QApplication::font(), letra);
         EXPECT_EQ(QApplication::palette(), paleta);

@@ -214,9 +214,19 @@ TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
                       vista.visualRect(modelo.index(2, 0, raiz)).center());
     EXPECT_EQ(norvik().control().SelText(), u"23");
     EXPECT_EQ(modelo.hojaDe(raiz).texto, "1");
+    norvik().control().Text(u"1" + apoyo::repite(u"+1", 200)); // what is deep can be scrolled to
+    ordena(a.analizar);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return vista.horizontalScrollBar()->maximum() > 0; }));
     norvik().control().Text(u"1\r\n+ +");
     ordena(a.analizar);
     EXPECT_EQ(ventana.mensaje().texto(), QString::fromStdU16String(norvik().control().GetmensajeError()));
+    const auto diceAlLector = [this] {
+        for (auto* const rotulo : ventana.mensaje().findChildren<QLabel*>())
+            if (rotulo->text() == ventana.mensaje().texto())
+                return QAccessible::queryAccessibleInterface(rotulo)->text(QAccessible::Name);
+        return QString();
+    };
+    EXPECT_EQ(diceAlLector(), ventana.mensaje().texto());
     const auto pulsa = [this](const QString& titulo) {
         for (auto* const boton : ventana.mensaje().findChildren<QToolButton*>())
             if (boton->isVisible() && boton->text() == titulo) QTest::mouseClick(boton, Qt::LeftButton);
@@ -225,6 +235,9 @@ TEST_F(TallerTest, AnalizaYMuestraArbolOError) {
     EXPECT_EQ(norvik().control().SelStart(), 5);
     pulsa("✕");
     EXPECT_TRUE(ventana.mensaje().isHidden());
+    norvik().control().Text(u"+");
+    ordena(a.analizar);
+    EXPECT_EQ(diceAlLector(), ventana.mensaje().texto());
     ventana.abre(pon("mal.nvk", "E -> ;; x"));
     EXPECT_TRUE(dialogos.toma().last().startsWith("aviso El lenguaje de Norvik1 no se ha podido cargar:"));
     EXPECT_FALSE(tieneLenguaje(norvik()));
@@ -446,11 +459,14 @@ TEST_F(TallerTest, ColorearElTextoQueSeAbreSeCancela) {
 // Each of them fits, all together are gigabytes of automata: what is left is loaded by who uses it.
 TEST_F(TallerTest, LosLenguajesDeUnFormularioCabenJuntos) {
     std::string grande = "ExpReg x = \"" + std::string(15'900, 'a') + "\";\n";
-    for (int i = 0; i < 300; ++i) grande += "Token t" + std::to_string(i) + " = \"<x>b\";\n";
-    const std::string grandes = grande + "S -> t1;";
+    for (int i = 0; i < 30; ++i) grande += "Token t" + std::to_string(i) + " = \"<x>b\";\n";
+    grande += "S -> t1;";
     const std::string chica(calculadora);
+    std::vector<std::string> lenguajes(18, grande); // each one is far from what one alone may take
+    lenguajes.insert(lenguajes.begin() + 1, chica);
+    lenguajes.insert(lenguajes.end(), {"", chica});
     QJsonArray controles;
-    for (const std::string& lenguaje : {grandes, chica, grandes, std::string(), chica})
+    for (const std::string& lenguaje : lenguajes)
         controles.append(
             QJsonObject{{"Nombre", QString("N%1").arg(controles.size())},
                         {"Bolsa", QJsonObject{{"ContenidoG", QString::fromStdString(lenguaje)}}}});
@@ -460,8 +476,8 @@ TEST_F(TallerTest, LosLenguajesDeUnFormularioCabenJuntos) {
     const QStringList avisos = dialogos.toma();
     ASSERT_EQ(avisos.size(), 1);
     EXPECT_EQ(avisos[0].count('\n'), 0);
-    EXPECT_TRUE(avisos[0].startsWith("aviso N4: su lenguaje no se ha cargado")) << avisos[0].toStdString();
-    ElementoFormulario& ultimo = *ventana.formulario().elementos()[4];
+    EXPECT_TRUE(avisos[0].startsWith("aviso N20: su lenguaje no se ha cargado")) << avisos[0].toStdString();
+    ElementoFormulario& ultimo = *ventana.formulario().elementos()[20];
     a.disenio.setChecked(true);
     a.disenio.setChecked(false);
     EXPECT_FALSE(tieneLenguaje(ultimo.norvik()));
