@@ -354,7 +354,7 @@ TEST(Ventanas, Editores) {
 TEST(Ventanas, Informe) {
     enTodas(hacer<Informe>([](Disenio& d) {
         return std::make_unique<Informe>(d.norvik.control().Gramatica(), d.norvik.control().Lexico(),
-                                         d.sistema);
+                                         d.sistema, nullptr, std::make_unique<QTextDocument>());
     }));
     enTodas(hacer<directorio>([](Disenio& d) { return std::make_unique<directorio>(d.sistema); }));
 }
