@@ -78,9 +78,14 @@ std::vector<DeCelda> ModeloCeldas::resalta(std::int16_t regla) {
     if (rowCount() == 0 || columnCount() == 0) return suyas;
     const bool esOtra = std::exchange(resaltada_, regla) != regla;
     const TablaLR& tabla = gramatica()->tabla;
-    for (std::int16_t estado = 0; regla != 0 && estado < tabla.filasVigentes(); ++estado)
-        for (std::int16_t codigo = 0; codigo < tabla.columnasVigentes(); ++codigo)
-            if (tabla.entrada(estado, codigo) == -regla) suyas.push_back({estado, codigo});
+    for (std::int16_t estado = 0; regla != 0 && estado < tabla.filasVigentes(); ++estado) {
+        const auto fila = tabla.fila(estado);
+        for (std::int16_t codigo = 0; codigo < tabla.columnasVigentes(); ++codigo) {
+            const auto lugar = static_cast<std::size_t>(codigo);
+            const std::int16_t entrada = lugar < fila.size() ? fila[lugar] : tabla.entrada(estado, codigo);
+            if (entrada == -regla) suyas.push_back({estado, codigo});
+        }
+    }
     if (esOtra)
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
                          {Qt::FontRole, Qt::BackgroundRole});

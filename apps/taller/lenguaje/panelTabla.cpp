@@ -7,14 +7,33 @@
 #include "palabrasLR.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/platform/qt/nuevo.hpp"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
 
 namespace norvik::taller {
+
+namespace {
+
+/// Most cells of a table are empty, and a style takes as long for one of them as for a full one.
+class PintorDeCeldas final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* pintor, const QStyleOptionViewItem& opcion,
+               const QModelIndex& celda) const override {
+        const bool senalada =
+            (opcion.state & (QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver)) != 0;
+        if (senalada || !celda.data().toString().isEmpty()) QStyledItemDelegate::paint(pintor, opcion, celda);
+    }
+};
+
+} // namespace
 
 PanelTabla::PanelTabla(Dialogos& dialogos, QWidget* padre)
     : Panel(QStringLiteral("tabla"), QStringLiteral("Tabla"), padre),
@@ -35,6 +54,7 @@ PanelTabla::PanelTabla(Dialogos& dialogos, QWidget* padre)
 void PanelTabla::compone() {
     vista_.setAccessibleName(QStringLiteral("Tabla del analizador: estados y símbolos"));
     vista_.setModel(&modelo_);
+    vista_.setItemDelegate(&nuevo<PintorDeCeldas>(&vista_));
     vista_.setWordWrap(false);
     vista_.setTabKeyNavigation(false);
     vista_.setHorizontalScrollMode(QTableView::ScrollPerPixel);

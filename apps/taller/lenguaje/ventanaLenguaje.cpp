@@ -34,7 +34,7 @@ namespace {
 const QString claveGeometria = QStringLiteral("lenguaje/geometria");
 const QString claveEstado = QStringLiteral("lenguaje/estado");
 const QString claveEditores = QStringLiteral("lenguaje/editores");
-constexpr std::chrono::milliseconds turno{1}; ///< what is shown in one: laying out and painting take longer
+constexpr std::chrono::microseconds turno{500}; ///< what is shown in one: laying out and painting take longer
 
 /// A place of the text is a node of its tree, too.
 std::optional<std::size_t> nodoEn(const Estudio& estudio, const Eleccion& eleccion) {
@@ -460,7 +460,7 @@ void VentanaLenguaje::muestra() {
     const auto nodo = nodoEn(*mostrado_, eleccion);
     for (const auto suyos = paneles(); mostrando();) {
         Panel& panel = *suyos[suyos.size() - porDar_];
-        if (panel.isVisible() && reloj.hasExpired(turno.count())) return;
+        if (panel.isVisible() && std::chrono::nanoseconds(reloj.nsecsElapsed()) > turno) return;
         --porDar_; // where one fails the others have theirs all the same
         if (!panel.muestraLoQueNoCompila()) panel.ponEstudio(mostrado_);
         if (seguimiento_.alDia()) lleva(eleccion, nodo, panel);
