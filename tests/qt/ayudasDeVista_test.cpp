@@ -133,6 +133,19 @@ TEST_F(AyudasDeVista, LaParejaDelCursor) {
     EXPECT_EQ(resaltes(), QStringList{"0-1"}); // alone
 }
 
+/// Until another thread has read a long one, brackets of two colours do not belong together.
+TEST_F(AyudasDeVista, LaParejaDeUnTextoLargoPorSuColor) {
+    editor.control().SetComentarioLinea(u"'");
+    editor.Text("( ) )\n" + (QString(100, 'a') + '\n').repeated(20'000));
+    CajaTextoQt& caja = editor.caja();
+    for (const std::int32_t lugar : {0, 4}) caja.pinta(lugar, 1, 0x800000);
+    caja.pinta(2, 1, 0x008000);
+    editor.SelStart(0);
+    editor.resaltaParejas(true);
+    EXPECT_EQ(resaltes(), QStringList({"0-1", "4-5"}));
+    QTRY_COMPARE(resaltes(), QStringList({"0-1", "2-3"})); // none of them is in a comment
+}
+
 /// A bracket in a comment or a string belongs to none outside, whatever their colours are.
 TEST_F(AyudasDeVista, UnaParejaNoSaleDeUnComentarioNiDeUnaCadena) {
     editor.resaltaParejas(true);
