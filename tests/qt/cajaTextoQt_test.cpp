@@ -194,7 +194,7 @@ TEST_F(CajaTextoQtTest, PegarYCopiarSinPerderNada) {
 /// A letter with thousands of marks is not laid out for seconds, and none of them is lost.
 TEST_F(CajaTextoQtTest, LasMarcasDeMasSeVenAparte) {
     constexpr int cuantas = 3000;
-    constexpr int seVen = 64;
+    constexpr std::size_t seVen = 64;
     std::u16string marcas;
     for (int i = 0; i < cuantas; ++i) marcas += i % 2 == 0 ? u"\u0301" : u"\U0001E8D0";
     const std::u16string guion = u"\u200D";
