@@ -38,12 +38,17 @@ private:
 
 } // namespace
 
-void Coloreado::reconoceTodo() {
-    const std::u16string texto(caja_->texto());
+template <typename Reconoce>
+void Coloreado::trabaja(const Reconoce& reconoce) {
     sistema_->trabaja([&](const std::stop_token& parada) {
         const QuienCancela quien(lexico_, parada);
-        lexico_.ReconoceTokens(texto);
+        reconoce();
     });
+}
+
+void Coloreado::reconoceTodo() {
+    const std::u16string texto(caja_->texto());
+    trabaja([&] { lexico_.ReconoceTokens(texto); });
 }
 
 void Coloreado::pintaTokens(std::int32_t inicio, std::int32_t fin, Palabras palabras) {
@@ -58,10 +63,7 @@ const MapaTokens& Coloreado::reconoce(std::int16_t desde, std::int16_t hasta) {
     const std::u16string_view texto = caja_->texto();
     const std::size_t inicio = std::min(texto.size(), static_cast<std::size_t>(desde) - 1);
     const std::u16string rango(texto.substr(inicio, static_cast<std::size_t>(hasta - desde)));
-    sistema_->trabaja([&](const std::stop_token& parada) {
-        const QuienCancela quien(lexico_, parada);
-        lexico_.reconoceRango(rango, desde);
-    });
+    trabaja([&] { lexico_.reconoceRango(rango, desde); });
     return lexico_.mapaTokens();
 }
 

@@ -30,6 +30,8 @@ public:
     void reconoceTodo();
 
 private:
+    template <typename Reconoce>
+    void trabaja(const Reconoce& reconoce);
     const MapaTokens& reconoce(std::int16_t desde, std::int16_t hasta);
     void recorre(std::int32_t desde, std::int32_t hasta, Palabras palabras);
     void pintaToken(std::int32_t posicion, std::int32_t longitud, const expresionRegular& definicion,

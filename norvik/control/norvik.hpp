@@ -127,10 +127,10 @@ public:
     /// quiera saberlo, y con su lugar, compile con `Lenguaje`.
     ///
     /// El lenguaje anterior se pierde siempre, también con falso o si lanza otra cosa que
-    /// `ArgumentoNoValido`: si está mal escrita o no cabe, el control se queda
-    /// con el de las especificaciones, que no es el de ningún texto suyo; si no, con las definiciones y
-    /// reglas nuevas, y hasta `GeneraCompilador` con una tabla que no es la suya. Usa el texto invisible, y
-    /// lo deja vacío; el árbol pasa a ser el de la especificación.
+    /// `ArgumentoNoValido`: si está mal escrita o no cabe, el control se queda con el de las
+    /// especificaciones, que no es el de ningún texto suyo; si no, con las definiciones y reglas nuevas, y
+    /// hasta `GeneraCompilador` con una tabla que no es la suya. Usa el texto invisible, y lo deja vacío; el
+    /// árbol pasa a ser el de la especificación.
     ///
     /// Lanza `Desbordamiento` con 32 767 caracteres o más, `BusquedaDesbocada`, `SubindiceFueraDeIntervalo`
     /// en la regla 1001 (con lo anterior ya cargado) y `ArgumentoNoValido` mientras el control carga o
