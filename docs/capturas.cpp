@@ -193,13 +193,15 @@ private:
     }
     void informe() {
         Norvik& control = norvik().control();
-        Informe informe(control.Gramatica(), control.Lexico(), sistema_);
-        informe.show();
-        auto* const fichas = informe.findChild<QTabWidget*>();
-        for (int i = 0; fichas != nullptr && i < fichas->count(); ++i) {
-            fichas->setCurrentIndex(i);
-            album_.guarda(informe, QStringLiteral("informe_%1").arg(i + 1));
-        }
+        sistema_.retrata = [this](QWidget& informe) {
+            auto* const fichas = informe.findChild<QTabWidget*>();
+            for (int i = 0; fichas != nullptr && i < fichas->count(); ++i) {
+                fichas->setCurrentIndex(i);
+                album_.guarda(informe, QStringLiteral("informe_%1").arg(i + 1));
+            }
+        };
+        MuestraInforme(control.Gramatica(), control.Lexico(), sistema_, &ventana_);
+        sistema_.retrata = nullptr;
     }
     void busqueda() {
         norvik().control().ShowBuscarDialog();
