@@ -44,10 +44,11 @@ std::vector<Transicion> transicionesDe(const GramaticaLR& gramatica) {
 GrafoEstados::GrafoEstados(const GramaticaLR& gramatica, const std::stop_token& parada)
     : transiciones_(transicionesDe(gramatica)), llegadas_(gramatica.automata.estados.size()),
       textos_(gramatica.partidas.numSimbolos()) {
-    const exacto::Producciones producciones(gramatica.partidas);
+    const exacto::Producciones producciones(gramatica.partidas, parada);
     const DerivacionesMinimas minimas(producciones);
     std::vector<std::int64_t> tokens(textos_.size(), DerivacionesMinimas::maximo);
-    for (std::size_t s = 0; s < textos_.size() && !parada.stop_requested(); ++s) {
+    for (std::size_t s = 0; s < textos_.size(); ++s) {
+        producciones.exigeSeguir();
         const auto simbolo = static_cast<Simbolo>(s);
         if (!minimas.produce(simbolo)) continue;
         tokens[s] = minimas.tokens({&simbolo, 1});
@@ -56,7 +57,7 @@ GrafoEstados::GrafoEstados(const GramaticaLR& gramatica, const std::stop_token& 
         minimas.ponMinimo(arbol, simbolo);
         textos_[s] = hojas(arbol);
     }
-    if (!parada.stop_requested()) buscaCaminos(tokens);
+    buscaCaminos(tokens);
 }
 
 void GrafoEstados::buscaCaminos(const std::vector<std::int64_t>& tokens) {

@@ -29,7 +29,7 @@ std::vector<Transicion> transicionesDe(const GramaticaLR& gramatica);
 /// The ways of an automaton, to be drawn and told. It keeps nothing of the grammar.
 class GrafoEstados {
 public:
-    /// It may be told to end early: then it is of no use.
+    /// Raises `OperacionCancelada` once that is asked for.
     explicit GrafoEstados(const GramaticaLR& gramatica, const std::stop_token& parada = {});
 
     std::size_t estados() const { return llegadas_.size(); }
