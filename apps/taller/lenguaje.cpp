@@ -8,7 +8,6 @@
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/spec/lenguaje.hpp"
 #include "norvik/tools/procesando.hpp"
-#include "norvik/tools/ventanas.hpp"
 
 namespace norvik::taller {
 
@@ -42,12 +41,12 @@ void ponEspecificacion(ControlNorvik& norvik, std::u16string_view especificacion
 
 std::u16string ensayaLenguaje(SistemaQt& sistema, ControlNorvik& norvik) {
     std::u16string fallo;
-    const VentanaDeAmbito<Procesando> aviso(sistema, norvik.window(), Procesando::Aparece::SiTarda);
-    sistema.trabaja([&, especificacion = especificacionDe(norvik)](const std::stop_token& parada) {
-        const Compilacion compilacion = Lenguaje::compila(especificacion, {{}, parada});
-        for (const Diagnostico& d : compilacion.diagnosticos)
-            if (d.codigo == Codigo::CapacidadSuperada) fallo = d.partes.hallado;
-    });
+    trabajaConAviso(sistema, norvik.window(),
+                    [&, especificacion = especificacionDe(norvik)](const auto& parada) {
+                        const Compilacion compilacion = Lenguaje::compila(especificacion, {{}, parada});
+                        for (const Diagnostico& d : compilacion.diagnosticos)
+                            if (d.codigo == Codigo::CapacidadSuperada) fallo = d.partes.hallado;
+                    });
     return fallo;
 }
 

@@ -15,7 +15,6 @@
 #include "norvik/spec/directivas.hpp"
 #include "norvik/spec/lectorModulo.hpp"
 #include "norvik/tools/procesando.hpp"
-#include "norvik/tools/ventanas.hpp"
 
 #include <QFileInfo>
 
@@ -161,9 +160,8 @@ Analisis OrdenesLenguaje::comoValor(ControlNorvik& norvik) {
     const Lenguaje lenguaje = norvik.control().lenguaje();
     const std::u16string texto(norvik.caja().texto());
     Analisis analisis;
-    const VentanaDeAmbito<Procesando> aviso(sistema_, norvik.window(), Procesando::Aparece::SiTarda);
-    sistema_.trabaja(
-        [&](const std::stop_token& parada) { analisis = norvik::analiza(lenguaje, texto, {parada}); });
+    trabajaConAviso(sistema_, norvik.window(),
+                    [&](const auto& parada) { analisis = norvik::analiza(lenguaje, texto, {parada}); });
     return analisis;
 }
 
@@ -201,13 +199,10 @@ void OrdenesLenguaje::revisa() {
     limites.enTotal = 1'500ms; // a person waits for it
     const std::u16string especificacion = especificacionDe(elemento.norvik());
     std::vector<Hallazgo> hallazgos;
-    {
-        const VentanaDeAmbito<Procesando> aviso(sistema_, elemento.window(), Procesando::Aparece::SiTarda);
-        sistema_.trabaja([&](const std::stop_token& parada) {
-            limites.cancelacion = parada;
-            hallazgos = revisaConHistorias(especificacion, {{}, parada}, limites);
-        });
-    }
+    trabajaConAviso(sistema_, elemento.window(), [&](const std::stop_token& parada) {
+        limites.cancelacion = parada;
+        hallazgos = revisaConHistorias(especificacion, {{}, parada}, limites);
+    });
     revision_.muestra(elemento.nombre(), especificacion, hallazgos);
 }
 

@@ -167,8 +167,7 @@ void MuestraInforme(const gramatica& gramatica, const pilaTokens& lexico, Sistem
     std::unique_ptr<QTextDocument> automata;
     try {
         const QString texto = conSaltosDeQt(aQString(gramatica.textoAutomata()));
-        const VentanaDeAmbito<Procesando> aviso(sistema, padre, Procesando::Aparece::SiTarda);
-        sistema.trabaja([&](const std::stop_token& parada) { automata = documentoDe(texto, parada); });
+        trabajaConAviso(sistema, padre, [&](const auto& parada) { automata = documentoDe(texto, parada); });
     } catch (const OperacionCancelada&) {
         return;
     }

@@ -72,6 +72,12 @@ void Procesando::closeEvent(QCloseEvent* evento) {
     cancela();
 }
 
+void trabajaConAviso(SistemaQt& sistema, QWidget* sobre,
+                     const std::function<void(std::stop_token)>& trabajo) {
+    const VentanaDeAmbito<Procesando> aviso(sistema, sobre, Procesando::Aparece::SiTarda);
+    sistema.trabaja(trabajo);
+}
+
 void reconoceConAviso(ControlNorvik& norvik) {
     const VentanaDeAmbito<Procesando> aviso(norvik.sistema(), norvik.window(), Procesando::Aparece::SiTarda);
     norvik.control().reconoceTexto();

@@ -9,6 +9,9 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <functional>
+#include <stop_token>
+
 namespace norvik {
 
 /// The progress notice. It comes up without blocking or taking the focus, and stays above all other windows
@@ -41,6 +44,10 @@ private:
     AvisoDeTrabajo* const anterior_;
     QPushButton cancelar_;
 };
+
+/// Runs work of a system in another thread and waits for it, under a notice with which it can be cancelled
+/// once it takes long. Raises what the work raises.
+void trabajaConAviso(SistemaQt& sistema, QWidget* sobre, const std::function<void(std::stop_token)>& trabajo);
 
 /// Recognises the text of a control where it can be cancelled, and raises what that raises; the parse that
 /// comes next finds nothing there that it has to wait for.

@@ -72,9 +72,7 @@ void olvida(const ControlNorvik& control) {
 }
 
 void trabaja(ControlNorvik& control, const std::function<void(std::stop_token)>& trabajo) {
-    const VentanaDeAmbito<Procesando> aviso(control.sistema(), control.window(),
-                                            Procesando::Aparece::SiTarda);
-    control.sistema().trabaja(trabajo);
+    trabajaConAviso(control.sistema(), control.window(), trabajo);
 }
 
 } // namespace norvik::ventanasDelControl
