@@ -2,13 +2,15 @@
 
 // The exact SLR table of the same rules is made beside the classic one. Their states differ, so conflicts are
 // compared by what they choose from: a token and two actions. Sets are compared by head, texts by running the
-// classic table and Earley's recogniser side by side (frasesDistintas).
+// classic table and Earley's recogniser side by side (frasesDistintas): most grammars need not, since their
+// classic table is the exact one, and that is without conflicts.
 #include "norvik/checks/contrasteClasico.hpp"
 #include "norvik/checks/cuentaConflictos.hpp"
 
 #include "norvik/base/errores.hpp"
 #include "norvik/checks/curaConflicto.hpp"
 #include "norvik/checks/frasesDistintas.hpp"
+#include "norvik/checks/mismaTabla.hpp"
 #include "norvik/checks/pruebaTabla.hpp"
 #include "norvik/grammar/exacto/genera.hpp"
 #include "norvik/grammar/exacto/producciones.hpp"
@@ -117,6 +119,7 @@ private:
     }
 
     void contrastaFrases() {
+        if (exacta_.tabla.conflictos().empty() && esLaMismaTabla(clasica_.tabla, exacta_.tabla)) return;
         const exacto::Producciones producciones(exacta_.partidas, cancelacion_);
         const FrasesDistintas frases = buscaFrasesDistintas(clasica_.reglas, producciones, clasica_.tabla);
         if (frases.rechazada) anotaFrase(Codigo::FraseRechazada, *frases.rechazada);

@@ -8,8 +8,10 @@
 #include "apoyo/gramaticas.hpp"
 #include "norvik/base/texto.hpp"
 #include "norvik/checks/frasesDistintas.hpp"
+#include "norvik/checks/mismaTabla.hpp"
 #include "norvik/checks/pruebaTabla.hpp"
 #include "norvik/grammar/clasico/genera.hpp"
+#include "norvik/grammar/exacto/genera.hpp"
 
 #include <gtest/gtest.h>
 
@@ -81,6 +83,7 @@ TEST(Contraste, LasFrasesSonLasMasCortas) {
     std::mt19937 azar(1126);
     int rechazadas = 0;
     int deMas = 0;
+    int deLaMismaTabla = 0;
     for (int i = 0; i < pasos(300) && !::testing::Test::HasFailure(); ++i) {
         const std::u16string texto = apoyo::gramaticaAlAzar(azar);
         SCOPED_TRACE(aUtf8(texto));
@@ -91,9 +94,32 @@ TEST(Contraste, LasFrasesSonLasMasCortas) {
         compara(frases.deMas, aMano(g, false, 3), g, false);
         if (frases.rechazada) ++rechazadas;
         if (frases.deMas) ++deMas;
+        const GramaticaLR exacta = exacto::genera(g.reglas, {Metodo::Slr, {}});
+        if (!exacta.tabla.conflictos().empty() || !esLaMismaTabla(g.tabla, exacta.tabla)) continue;
+        ++deLaMismaTabla;
+        EXPECT_FALSE(frases.rechazada || frases.deMas);
     }
+    EXPECT_GT(deLaMismaTabla, 30);
     EXPECT_GT(rechazadas, 30);
     EXPECT_GT(deMas, 0);
+}
+
+TEST(Contraste, UnaCeldaHaceOtraTabla) {
+    const Reglas reglas = apoyo::reglasDe(u"S -> E; E -> E mas T | T; T -> T por F | F; F -> abre E cierra | num");
+    const TablaLR exacta = exacto::genera(reglas, {Metodo::Slr, {}}).tabla;
+    TablaLR clasica = clasico::genera(reglas).tabla;
+    EXPECT_TRUE(esLaMismaTabla(clasica, exacta));
+    for (std::int16_t fila = 1; fila <= clasica.filasVigentes(); ++fila)
+        for (std::int16_t columna = 1; columna <= clasica.columnasVigentes(); ++columna) {
+            const std::int16_t valor = clasica.celdas().en(fila, columna);
+            const std::int16_t leido = clasica.entrada(fila - 1, columna - 1);
+            for (const int otro : {0, 1, 3, -1, -2, int{TablaLR::aceptar}}) {
+                clasica.pon(fila, columna, static_cast<std::int16_t>(otro));
+                EXPECT_EQ(esLaMismaTabla(clasica, exacta), clasica.entrada(fila - 1, columna - 1) == leido)
+                    << fila << ' ' << columna << ' ' << otro;
+            }
+            clasica.pon(fila, columna, valor);
+        }
 }
 
 } // namespace
