@@ -3,6 +3,7 @@
 #include "dialogosQt.hpp"
 
 #include "norvik/platform/qt/fallos.hpp"
+#include "norvik/platform/qt/ventanaEnUso.hpp"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -16,7 +17,7 @@
 namespace norvik::taller {
 
 QWidget* DialogosQt::encimaDe() const {
-    QWidget* const activa = QApplication::activeWindow();
+    QWidget* const activa = ventanaEnUso();
     return activa != nullptr ? activa : ventana_.data();
 }
 
@@ -44,6 +45,7 @@ Choque DialogosQt::preguntaChoque(const QString& pregunta) {
 }
 
 std::optional<QString> DialogosQt::fichero(QFileDialog& dialogo, const QString& aceptar) {
+    dialogo.setIconProvider(&iconos_);
     dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
     dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre:"));
     dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));

@@ -5,9 +5,18 @@
 #include "dialogos.hpp"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QPointer>
 
 namespace norvik::taller {
+
+/// Qt has no Spanish word for a folder here.
+class IconosDeFichero final : public QFileIconProvider {
+public:
+    QString type(const QFileInfo& fichero) const override {
+        return fichero.isDir() ? QStringLiteral("Carpeta") : QFileIconProvider::type(fichero);
+    }
+};
 
 /// The questions as modal windows above another one.
 class DialogosQt final : public Dialogos {
@@ -28,6 +37,7 @@ private:
     std::optional<QString> fichero(QFileDialog& dialogo, const QString& aceptar);
 
     QPointer<QWidget> ventana_;
+    IconosDeFichero iconos_;
     QString carpeta_; ///< where the last file was chosen
 };
 

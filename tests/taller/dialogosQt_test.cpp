@@ -72,6 +72,22 @@ TEST_F(DialogosDePersona, AnteUnChoqueLaTeclaSinMirarNadaPierde) {
     }
 }
 
+/// Between a box and the next one the window manager has not yet said which window is used.
+TEST_F(DialogosDePersona, DosPreguntasSeguidasEstanSobreLaMismaVentana) {
+    QWidget otra, ventana;
+    dialogos.ponVentana(&otra);
+    for (QWidget* const suya : {&otra, &ventana}) suya->show();
+    QApplication::setActiveWindow(&ventana);
+    for (int vez = 0; vez < 2; ++vez) {
+        enElSiguiente<QMessageBox>([&](QMessageBox& caja) { EXPECT_EQ(caja.parentWidget(), &ventana); });
+        dialogos.pregunta("¿Sí?", "&Guardar", "&No guardar");
+        QApplication::setActiveWindow(nullptr);
+    }
+    ventana.hide();
+    enElSiguiente<QMessageBox>([&](QMessageBox& caja) { EXPECT_EQ(caja.parentWidget(), &otra); });
+    dialogos.pregunta("¿Sí?", "&Guardar", "&No guardar");
+}
+
 TEST_F(DialogosDePersona, ElFicheroQueNoSeAceptaNoSeElige) {
     const QString uno = pon("uno.txt"), otro = pon("otro.txt");
     const auto abre = [&](bool acepta) {
@@ -85,6 +101,7 @@ TEST_F(DialogosDePersona, ElFicheroQueNoSeAceptaNoSeElige) {
     EXPECT_EQ(abre(true), uno);
     enElSiguiente<QFileDialog>([&](QFileDialog& d) {
         EXPECT_EQ(d.directory().absolutePath(), QFileInfo(uno).absolutePath()); // where the last one was
+        EXPECT_EQ(d.iconProvider()->type(QFileInfo(d.directory().absolutePath())), "Carpeta");
         EXPECT_EQ(d.selectedFiles(), QStringList{otro});
         d.selectFile("nuevo");
         QTest::keyClick(d.findChild<QLineEdit*>(), Qt::Key_Return);

@@ -6,6 +6,7 @@
 #include "norvik/platform/qt/conversiones.hpp"
 #include "norvik/platform/qt/impresion.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
+#include "norvik/platform/qt/ventanaEnUso.hpp"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -113,8 +114,7 @@ bool acabado(const std::future<void>& trabajo) {
 Respuesta SistemaQt::muestraMensaje(const Mensaje& mensaje) {
     const QString titulo =
         mensaje.titulo.empty() ? QApplication::applicationDisplayName() : aQString(mensaje.titulo);
-    QWidget* encimaDe = QApplication::activeModalWidget();
-    if (encimaDe == nullptr) encimaDe = QApplication::activeWindow(); // the one to go on in
+    QWidget* const encimaDe = ventanaEnUso(); // the one to go on in
     const VentanaDeAmbito<QMessageBox> caja(iconoQt(mensaje.icono), titulo, aQString(mensaje.texto),
                                             QMessageBox::NoButton,
                                             encimaDe != nullptr ? encimaDe : ventana_.data());
