@@ -148,6 +148,7 @@ private:
         pon("font-family", texto.font().family());
         pon("font-size", QString::number(QFontInfo(texto.font()).pixelSize()));
         if (texto.font().bold()) pon("font-weight", QStringLiteral("bold"));
+        if (texto.font().italic()) pon("font-style", QStringLiteral("italic"));
         pon("textLength", QString::number(medidas.horizontalAdvance(texto.text()), 'f', 1));
         pon("fill", color(texto.brush()));
         xml_.writeCharacters(paraXml(texto.text()));
