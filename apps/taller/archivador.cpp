@@ -23,7 +23,8 @@ Archivado Archivador::guardaComo(DocumentoTexto& documento, const ComoSeGuarda& 
 
 bool Archivador::puedePerder(DocumentoTexto& documento, const ComoSeGuarda& como) const {
     if (!documento.modificado()) return true;
-    const QString pregunta = QStringLiteral("¿Quiere guardar los cambios de «%1»?").arg(documento.titulo());
+    const QString pregunta =
+        QStringLiteral("¿Quiere guardar los cambios %1«%2»?").arg(como.deQue, documento.titulo());
     return dialogos_.guardaOPierde(pregunta, [&] { return guarda(documento, como) != Archivado::No; });
 }
 

@@ -9,6 +9,7 @@ namespace norvik::taller {
 
 /// How a person is asked for the file of a document.
 struct ComoSeGuarda {
+    QString deQue; ///< in a question for its changes, before its name
     QString titulo;
     QString filtros;
     QString extension; ///< of what has none; empty when any will do

@@ -9,7 +9,7 @@ namespace norvik::taller {
 namespace {
 
 ComoSeGuarda comoUnTexto() {
-    return {QStringLiteral("Guardar texto"), todos, {}, {}};
+    return {QStringLiteral("de "), QStringLiteral("Guardar texto"), todos, {}, {}};
 }
 
 } // namespace

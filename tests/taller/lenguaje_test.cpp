@@ -3,6 +3,7 @@
 // The language window, driven as a person does: keys in the editors, clicks in the panels.
 #include "taller/conVentanaLenguaje.hpp"
 
+#include "lenguaje.hpp"
 #include "lenguaje/correspondencias.hpp"
 #include "lenguaje/enControl.hpp"
 #include "lenguaje/palabrasLR.hpp"
@@ -17,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 using namespace norvik;
@@ -125,6 +127,7 @@ TEST_F(LenguajeTest, CadaPanelEligeEnLosDemas) {
     cursor(texto, u"1+");
     EXPECT_EQ(camino(), "E › T › num");
     ventana.arbol().enUnaFila().setChecked(false);
+    EXPECT_EQ(camino(), "E › T › num"); // the rows are other ones, the node is not
     cursor(texto, u"1");
     EXPECT_EQ(camino(), "E › mas");
 
@@ -447,9 +450,19 @@ TEST(LenguajeDelTaller, VaALaVentanaYVuelve) {
     QTest::keyClicks(&taller.ventanaLenguaje().especificacion().norvik().caja().ventana(), "y");
     dialogos.toma();
     EXPECT_FALSE(taller.close()); // the language window asks, and nobody wants to lose anything
-    EXPECT_EQ(dialogos.toma(), QStringList{"&Guardar ¿Quiere guardar los cambios de «Sin título»?"});
+    EXPECT_EQ(dialogos.toma(),
+              QStringList{"&Guardar ¿Quiere guardar los cambios de la especificación «Sin título»?"});
     QTest::keyClick(&taller.ventanaLenguaje(), Qt::Key_4, Qt::ControlModifier);
     EXPECT_TRUE(taller.ventanaLenguaje().arbol().isAncestorOf(QApplication::focusWidget())); // and it goes so
+    QTest::keyClick(&taller.ventanaLenguaje(), Qt::Key_2, Qt::ControlModifier);
+    const auto etiquetas = taller.ventanaLenguaje().statusBar()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(
+        etiquetas, [](const QLabel* suya) { return suya->text() == "Texto: línea 1, columna 1"; }));
+    QTest::keyClick(&taller.ventanaLenguaje(), Qt::Key_N, Qt::ControlModifier); // asks, too
+    EXPECT_EQ(dialogos.toma().size(), 1);
+    dialogos.destinos = {Destino::Descartar};
+    QTest::keyClick(&taller.ventanaLenguaje(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(taller.ventanaLenguaje().especificacion().texto(), plantilla);
 }
 
 TEST_F(LenguajeTest, UnArregloEsUnSoloCambio) {

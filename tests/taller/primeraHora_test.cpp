@@ -131,7 +131,8 @@ TEST_F(PrimeraHoraTest, LoQueSeAbandonaEnLaPaginaDeInicioSePregunta) {
     QTest::keyClicks(&lenguaje.texto().norvik().caja().ventana(), "x");
     for (const char* otro : {"Vacío", "Visita guiada"}) {
         pulsa<QCommandLinkButton>(otro);
-        EXPECT_EQ(dialogos.toma(), QStringList{"&Guardar ¿Quiere guardar los cambios de «Sin título»?"});
+        EXPECT_EQ(dialogos.toma(),
+                  QStringList{"&Guardar ¿Quiere guardar los cambios del texto «Sin título»?"});
         EXPECT_TRUE(lenguaje.texto().texto().starts_with(u"x["));
     }
 }

@@ -130,6 +130,9 @@ void PaginaInicio::ponRecientes(const QStringList& ficheros) {
         fila.setData(Qt::UserRole, fichero);
         fila.setToolTip(ayudaLlana(fichero));
     }
+    if (recientes_.count() == 0)
+        norvik::nuevo<QListWidgetItem>(QStringLiteral("Todavía no hay ninguno"), &recientes_)
+            .setFlags(Qt::NoItemFlags);
 }
 
 } // namespace norvik::taller

@@ -38,13 +38,7 @@ PanelAnalisis::PanelAnalisis(Dialogos& dialogos, QWidget* padre)
 }
 
 void PanelAnalisis::conecta() {
-    connect(&enUnaFila_, &QCheckBox::toggled, this, [this] {
-        protege([this] {
-            abiertas_.clear(); // the rows are other ones
-            cerradas_.clear();
-            muestra();
-        });
-    });
+    connect(&enUnaFila_, &QCheckBox::toggled, this, [this] { protege([this] { cambiaCadenas(); }); });
     const auto elegida = [this](const QModelIndex& indice) { protege([&] { elige(indice); }); };
     connect(&vista_, &QTreeView::clicked, this, elegida);
     connect(&vista_, &QTreeView::activated, this, elegida);
@@ -158,6 +152,19 @@ void PanelAnalisis::muestra() {
     dibuja();
     camino_.setText(modelo_.rowCount() > 0 ? modelo_.camino(vista_.currentIndex())
                                            : QStringLiteral("El texto no tiene árbol."));
+}
+
+/// The rows are other ones, the nodes are not.
+void PanelAnalisis::cambiaCadenas() {
+    const auto nodo = nodo_;
+    abiertas_.clear();
+    cerradas_.clear();
+    muestra();
+    if (!nodo) return;
+    const QScopedValueRollback<bool> callado(callado_, true);
+    const QModelIndex indice = modelo_.indiceDe(*nodo);
+    vista_.setCurrentIndex(alAlcance(indice));
+    sigue(indice);
 }
 
 // ---- what is open

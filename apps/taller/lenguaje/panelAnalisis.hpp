@@ -64,6 +64,7 @@ private:
     void componeEsquema();
     void conecta();
     void muestra();
+    void cambiaCadenas();
     void abre();
     void mueve(const QModelIndex& indice, Movidas& alli, Movidas& otras) const;
     bool esDe(const Movidas& movidas, const QModelIndex& indice) const;

@@ -91,6 +91,7 @@ void PanelProblemas::compone() {
     detalle_.setTabChangesFocus(true);
     detalle_.setLineWrapMode(QPlainTextEdit::NoWrap);
     ponLetraDeDetalle();
+    detalle_.setPlaceholderText(QStringLiteral("Elija un problema: aquí se cuenta todo de él."));
     detalle_.setAccessibleName(QStringLiteral("Todo sobre el problema elegido"));
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&barra_);

@@ -132,6 +132,9 @@ QAction& VentanaLenguaje::accion(QMenu& menu, const QString& texto, const QKeySe
 
 void VentanaLenguaje::ponMenus() {
     for (QMenu* const menu : {&archivo_, &edicion_, &menuNombres_, &ver_}) menuBar()->addMenu(menu);
+    accion(archivo_, QStringLiteral("&Nuevo lenguaje"), QKeySequence::New, [this] {
+        if (sustituye(plantilla, {})) especificacion_.norvik().setFocus();
+    });
     accion(archivo_, QStringLiteral("&Abrir lenguaje…"), QStringLiteral("Ctrl+L"), [this] {
         const auto fichero = dialogos_.eligeParaAbrir(QStringLiteral("Abrir lenguaje"), filtroEspecificacion);
         if (fichero) abreEspecificacion(*fichero);
@@ -278,7 +281,10 @@ void VentanaLenguaje::conecta(EditorTexto& editor) {
     connect(qApp, &QApplication::focusChanged, &editor, [this, &editor](QWidget* /*antes*/, QWidget* ahora) {
         if (ahora == nullptr || !editor.isAncestorOf(ahora)) return;
         activo_ = &editor;
-        sinFallos([this] { actualizaFormato(); });
+        sinFallos([this] {
+            actualizaFormato();
+            actualizaLugar();
+        });
     });
 }
 
@@ -286,16 +292,18 @@ void VentanaLenguaje::conecta(EditorTexto& editor) {
 
 bool VentanaLenguaje::empieza(std::u16string_view especificacion, std::u16string_view texto) {
     bool hecho = false;
-    ejecuta([&] {
-        if (!puedePerder()) return;
-        especificacion_.documento().empieza(especificacion);
-        texto_.documento().empieza(texto);
-        CajaTextoQt& caja = especificacion_.norvik().caja();
-        if (caja.texto() == plantilla) // the language is written behind it
-            caja.atiende([&] { caja.selecciona(static_cast<std::int32_t>(plantilla.size()), 0); });
-        hecho = true;
-    });
+    ejecuta([&] { hecho = sustituye(especificacion, texto); });
     return hecho;
+}
+
+bool VentanaLenguaje::sustituye(std::u16string_view especificacion, std::u16string_view texto) {
+    if (!puedePerder()) return false;
+    especificacion_.documento().empieza(especificacion);
+    texto_.documento().empieza(texto);
+    CajaTextoQt& caja = especificacion_.norvik().caja();
+    if (caja.texto() == plantilla) // the language is written behind it
+        caja.atiende([&] { caja.selecciona(static_cast<std::int32_t>(plantilla.size()), 0); });
+    return true;
 }
 
 void VentanaLenguaje::abre(const QString& especificacion) {
@@ -345,8 +353,8 @@ bool VentanaLenguaje::puedePerder(EditorTexto& editor) {
 
 ComoSeGuarda VentanaLenguaje::como(const EditorTexto& editor) const {
     const QString titulo = QStringLiteral("Guardar: ") + editor.nombre();
-    if (&editor == &texto_) return {titulo, todos, {}, {}};
-    return {titulo, filtroEspecificacion, extensionEspecificacion,
+    if (&editor == &texto_) return {QStringLiteral("del texto "), titulo, todos, {}, {}};
+    return {QStringLiteral("de la especificación "), titulo, filtroEspecificacion, extensionEspecificacion,
             QStringLiteral("lenguaje.") + extensionEspecificacion};
 }
 
@@ -400,6 +408,15 @@ void VentanaLenguaje::actualizaTitulo() {
 
 void VentanaLenguaje::actualizaFormato() {
     formato_.setText(activo_->documento().nombreDelFormato());
+}
+
+/// A panel that is worked in leaves it as it is: the caret is still there.
+void VentanaLenguaje::actualizaLugar() {
+    const CajaTextoQt& caja = activo_->norvik().caja();
+    lugar_.setText(QStringLiteral("%1: línea %2, columna %3")
+                       .arg(activo_->nombre())
+                       .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
+                       .arg(activo_->norvik().control().ColumnaActual()));
 }
 
 void VentanaLenguaje::closeEvent(QCloseEvent* evento) {
@@ -502,11 +519,7 @@ void VentanaLenguaje::marca() {
 
 /// The panels show what the caret is at.
 void VentanaLenguaje::sigueCursor() {
-    const CajaTextoQt& caja = activo_->norvik().caja();
-    lugar_.setText(QStringLiteral("%1: línea %2, columna %3")
-                       .arg(activo_->nombre())
-                       .arg(caja.lineaDeCaracter(caja.inicioSeleccion()) + 1)
-                       .arg(activo_->norvik().control().ColumnaActual()));
+    actualizaLugar();
     if (eligiendo_ || mostrando() || !mostrado_ || mostrado_ != ultimo_ || !seguimiento_.alDia()) return;
     const QScopedValueRollback<bool> eligiendo(eligiendo_, true);
     reparte(enCursor(), nullptr);

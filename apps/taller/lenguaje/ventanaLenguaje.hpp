@@ -120,6 +120,7 @@ private:
     void conecta(Panel& panel);
 
     // The documents.
+    bool sustituye(std::u16string_view especificacion, std::u16string_view texto);
     void abreEspecificacion(const QString& fichero);
     void abreTextoDe(const QString& fichero);
     void abreSoltado(const QString& fichero);
@@ -130,6 +131,7 @@ private:
     bool puedePerder(EditorTexto& editor);
     void actualizaTitulo();
     void actualizaFormato();
+    void actualizaLugar();
 
     // What is known of them.
     void cambio();
