@@ -28,8 +28,7 @@ void HojaPropiedades::setProperty(int indice, const QVariant& valor) {
     const Propiedad* const p = publicada(propertyName(indice));
     if (p != nullptr && p->esNumero16())
         return corriente_.setProperty(indice, std::clamp<int>(valor.toInt(), Limites::min(), Limites::max()));
-    const bool enBytes = p != nullptr && p->esTexto() && valor.typeId() == QMetaType::QByteArray;
-    corriente_.setProperty(indice, enBytes ? QVariant(valor.toString()) : valor);
+    corriente_.setProperty(indice, valor);
 }
 
 } // namespace norvik::disenador
