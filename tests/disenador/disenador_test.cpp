@@ -9,6 +9,7 @@
 #include <QDesignerFormWindowManagerInterface>
 #include <QDesignerIntegration>
 #include <QDesignerMemberSheetExtension>
+#include <QDesignerPropertyEditorInterface>
 #include <QDesignerPropertySheetExtension>
 #include <QDesignerTaskMenuExtension>
 #include <QDesignerWidgetBoxInterface>
@@ -32,6 +33,27 @@ QStringList valores(const QWidget& control) {
     QStringList todos;
     for (const QString& o : opciones) todos << o + '=' + control.property(o.toLatin1()).toString();
     return todos;
+}
+
+/// A page with its margin and its tree, at every size.
+void seVeUnDibujo(const QIcon& icono) {
+    const auto color = [&](int lado, double x, double y) { // in a square of 24 units
+        const QImage imagen = icono.pixmap(lado).toImage();
+        return imagen.pixelColor(static_cast<int>(x * lado / 24), static_cast<int>(y * lado / 24))
+            .name(QColor::HexArgb);
+    };
+    for (const int lado : {16, 22, 24, 32, 48, 64}) EXPECT_EQ(color(lado, 4.2, 17.3), "#ffc82424") << lado;
+    const struct {
+        double x, y;
+        const char* color;
+    } puntos[] = {{0.2, 0.2, "#00000000"}, {12, 1.5, "#ff4a5560"},  {4, 8, "#ffdfe3e6"},
+                  {6.5, 8, "#ff4a5560"},   {20, 4, "#fffdfdf8"},    {14.5, 8, "#ff4a5560"},
+                  {10, 9.5, "#ff4a5560"},  {14, 3.6, "#ff000080"},  {9.5, 13, "#ff008080"},
+                  {14.5, 13, "#ff800000"}, {19.5, 13, "#ff008080"}, {10, 17.4, "#ff000080"},
+                  {17, 17.4, "#ff008080"}, {12, 20.4, "#ff008000"}};
+    for (const auto& p : puntos) EXPECT_EQ(color(48, p.x, p.y), p.color) << p.x << ' ' << p.y;
+    const QString esquina = color(48, 12, 3.5);
+    EXPECT_TRUE(esquina != "#ff000080" && esquina != "#fffdfdf8") << esquina.toStdString(); // round
 }
 
 struct DisenadorTest : testing::Test {
@@ -114,7 +136,7 @@ TEST_F(DisenadorTest, EstaEnLaCajaYTieneLoDeUnControlNuevo) {
     const auto* const ficha = base->item(base->indexOfClassName(clase));
     ASSERT_NE(ficha, nullptr);
     EXPECT_EQ(ficha->group(), "Norvik");
-    EXPECT_FALSE(ficha->icon().isNull());
+    seVeUnDibujo(ficha->icon());
     EXPECT_TRUE(ficha->whatsThis().contains("<b>MarcaErrorLinea</b>"));
     bool estaEnLaCaja = false;
     for (int i = 0; i < editor->widgetBox()->categoryCount(); ++i)
@@ -134,6 +156,11 @@ TEST_F(DisenadorTest, EstaEnLaCajaYTieneLoDeUnControlNuevo) {
     const auto* const miembros =
         qt_extension<QDesignerMemberSheetExtension*>(editor->extensionManager(), &control);
     EXPECT_TRUE(miembros->isSignal(miembros->indexOf("CambioDeLinea(qint16&)")));
+    editor->propertyEditor()->setObject(&control);
+    const auto* const lista = editor->propertyEditor()->findChild<QTreeWidget*>();
+    const auto filas = lista->findItems("ColorPR", Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(filas.size(), 1);
+    EXPECT_EQ(filas[0]->toolTip(0), "Color de las palabras reservadas.");
 }
 
 TEST_F(DisenadorTest, LoQueCambianLasPaginasSeDeshaceYSeGuarda) {
@@ -142,11 +169,18 @@ TEST_F(DisenadorTest, LoQueCambianLasPaginasSeDeshaceYSeGuarda) {
     formulario.cursor()->setWidgetProperty(&control, "ColorFechas", QColor(1, 2, 3));
     formulario.cursor()->setWidgetProperty(&control, "EspaciosXTAB", 100000);
     formulario.cursor()->setWidgetProperty(&control, "CodigoPrueba", "1\n\n2\r\n");
+    formulario.cursor()->setWidgetProperty(&control, "NomLenguaje", QByteArray("Año")); // as typed in its row
     formulario.setDirty(false);
     const QStringList antes = valores(control);
     EXPECT_EQ(antes[2], "EspaciosXTAB=32767");
+    EXPECT_EQ(antes[4], "NomLenguaje=Año");
     QDialog& paginas = propiedades(control);
+    QWidget otra;
+    otra.show();
+    otra.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&otra));
     EXPECT_EQ(&propiedades(control), &paginas);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&paginas));
     paginas.findChild<QCheckBox*>("chkBorde3D")->click();
     paginas.findChild<QComboBox*>("lenguaje")->setEditText("Sumas");
     EXPECT_EQ(valores(control), antes);
@@ -191,7 +225,7 @@ TEST_F(DisenadorTest, LoRotoSeDiceYNoCaeNada) {
     const auto nada = [](QWidget&) {};
     for (int i = 0; i < muchos; ++i) {
         QWidget& control = *formulario.findChild<QWidget*>(QString("editor%1").arg(i));
-        control.setProperty("CodigoPrueba", "a\fb");
+        control.setProperty("CodigoPrueba", QStringLiteral("a\fb\uFFFE"));
         QDialog& paginas = propiedades(control);
         mensajes.clear();
         conModal("", nada, [&] { pulsa(paginas, "Command6"); });
@@ -202,7 +236,7 @@ TEST_F(DisenadorTest, LoRotoSeDiceYNoCaeNada) {
         EXPECT_TRUE(mensajes.value(0).startsWith("Se ha producido el siguiente error")) << mensajes.size();
         conModal("", nada, [&] { paginas.close(); });
         EXPECT_EQ(control.property("ContenidoG"), QString("Token roto%1").arg(i));
-        EXPECT_EQ(control.property("CodigoPrueba"), "a b"); // what a form's file cannot hold
+        EXPECT_EQ(control.property("CodigoPrueba"), "a b "); // what a form's file cannot hold
     }
     EXPECT_TRUE(abre(formulario.contents()).findChild<QWidget*>("editor9") != nullptr);
 }
