@@ -35,25 +35,17 @@ QStringList valores(const QWidget& control) {
     return todos;
 }
 
-/// A page with its margin and its tree, at every size.
+/// A page with a tree on it, at every size.
 void seVeUnDibujo(const QIcon& icono) {
-    const auto color = [&](int lado, double x, double y) { // in a square of 24 units
+    for (const int lado : {16, 22, 24, 32, 48, 64}) {
         const QImage imagen = icono.pixmap(lado).toImage();
-        return imagen.pixelColor(static_cast<int>(x * lado / 24), static_cast<int>(y * lado / 24))
-            .name(QColor::HexArgb);
-    };
-    for (const int lado : {16, 22, 24, 32, 48, 64}) EXPECT_EQ(color(lado, 4.2, 17.3), "#ffc82424") << lado;
-    const struct {
-        double x, y;
-        const char* color;
-    } puntos[] = {{0.2, 0.2, "#00000000"}, {12, 1.5, "#ff4a5560"},  {4, 8, "#ffdfe3e6"},
-                  {6.5, 8, "#ff4a5560"},   {20, 4, "#fffdfdf8"},    {14.5, 8, "#ff4a5560"},
-                  {10, 9.5, "#ff4a5560"},  {14, 3.6, "#ff000080"},  {9.5, 13, "#ff008080"},
-                  {14.5, 13, "#ff800000"}, {19.5, 13, "#ff008080"}, {10, 17.4, "#ff000080"},
-                  {17, 17.4, "#ff008080"}, {12, 20.4, "#ff008000"}};
-    for (const auto& p : puntos) EXPECT_EQ(color(48, p.x, p.y), p.color) << p.x << ' ' << p.y;
-    const QString esquina = color(48, 12, 3.5);
-    EXPECT_TRUE(esquina != "#ff000080" && esquina != "#fffdfdf8") << esquina.toStdString(); // round
+        const auto color = [&](double x, double y) { // in a square of 24 units
+            return imagen.pixelColor(static_cast<int>(x * lado / 24), static_cast<int>(y * lado / 24));
+        };
+        EXPECT_EQ(color(0.2, 0.2).alpha(), 0) << lado;
+        EXPECT_EQ(color(20, 4).name(), "#fdfdf8") << lado;
+        EXPECT_EQ(color(4.2, 17.3).name(), "#c82424") << lado;
+    }
 }
 
 struct DisenadorTest : testing::Test {
