@@ -7,6 +7,7 @@
 #include "norvik/widget/controlNorvik.hpp"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QTimer>
 
 #include <chrono>
@@ -60,6 +61,7 @@ void Presentacion::pon(bool puesta) {
     if (puesta) {
         letra_ = QApplication::font();
         paleta_ = QApplication::palette();
+        anotaMedidas();
     }
     for (QWidget* const ventana : QApplication::topLevelWidgets())
         for (auto* const norvik : ventana->findChildren<ControlNorvik*>()) conservaElCursor(*norvik);
@@ -69,8 +71,29 @@ void Presentacion::pon(bool puesta) {
     QApplication::setPalette(puesta ? deProyector() : paleta_);
     for (const Antes& antes : std::exchange(antes_, {}))
         if (antes.norvik) antes.norvik->aumento(antes.aumento);
-    if (!puesta) return;
+    if (!puesta) return reponMedidas();
     for (QWidget* const ventana : QApplication::topLevelWidgets()) aplica(*ventana);
+}
+
+/// Of those tabbed together the one in front has the size of all.
+void Presentacion::anotaMedidas() {
+    for (QWidget* const ventana : QApplication::topLevelWidgets())
+        for (auto* const panel : ventana->findChildren<QDockWidget*>())
+            if (!panel->isFloating() && !panel->visibleRegion().isEmpty())
+                medidas_.push_back({panel, panel->size()});
+}
+
+/// Large letters have widened them, and small ones need no less room.
+void Presentacion::reponMedidas() {
+    for (const Medida& medida : std::exchange(medidas_, {})) {
+        if (!medida.panel) continue;
+        QTimer::singleShot(hastaColocarse, medida.panel, [panel = medida.panel.data(), antes = medida.antes] {
+            auto* const ventana = qobject_cast<QMainWindow*>(panel->parentWidget());
+            if (ventana == nullptr || panel->isFloating() || panel->isHidden()) return;
+            ventana->resizeDocks({panel}, {antes.width()}, Qt::Horizontal);
+            ventana->resizeDocks({panel}, {antes.height()}, Qt::Vertical);
+        });
+    }
 }
 
 void Presentacion::aplica(QWidget& ventana) {

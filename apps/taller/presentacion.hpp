@@ -30,11 +30,19 @@ private:
         QPointer<ControlNorvik> norvik;
         int aumento;
     };
+    struct Medida {
+        QPointer<QDockWidget> panel;
+        QSize antes;
+    };
+
+    void anotaMedidas();
+    void reponMedidas();
 
     bool puesta_ = false;
     QFont letra_; ///< before
     QPalette paleta_;
     std::vector<Antes> antes_;
+    std::vector<Medida> medidas_;
 };
 
 /// The title of a dock keeps the letters that the program had when the dock was made. With this it has those

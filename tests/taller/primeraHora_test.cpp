@@ -243,6 +243,8 @@ TEST_F(PrimeraHoraTest, LaPresentacionAgrandaYTodoVuelve) {
         return puntos;
     };
     const std::vector<int> antes = titulos();
+    QDockWidget& panel = ventana.ventanaLenguaje().arbol();
+    const int ancho = panel.width();
     ControlNorvik& norvik = ventana.ventanaLenguaje().texto().norvik();
     norvik.Text(QString(200, '\n'));
     QApplication::processEvents();
@@ -269,6 +271,7 @@ TEST_F(PrimeraHoraTest, LaPresentacionAgrandaYTodoVuelve) {
         EXPECT_EQ(QApplication::font(), letra);
         EXPECT_EQ(QApplication::palette(), paleta);
         EXPECT_EQ(ventana.ventanaLenguaje().texto().norvik().aumento(), 100);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == ancho; })) << panel.width() << ' ' << ancho;
     }
 }
 

@@ -4,28 +4,28 @@
 
 #include <QCommandLinkButton>
 #include <QPaintEvent>
-#include <QPainter>
 
 namespace norvik::taller {
 
-/// A command link that shows the focus, which Qt's own does not in every style.
+/// A command link that shows the focus and has the letters of the rest of the program: Qt's own does neither
+/// in every style.
 class EnlaceOrden final : public QCommandLinkButton {
     Q_OBJECT
 
 public:
     using QCommandLinkButton::QCommandLinkButton;
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+    int heightForWidth(int ancho) const override;
+
 protected:
-    void paintEvent(QPaintEvent* evento) override {
-        QCommandLinkButton::paintEvent(evento);
-        if (!hasFocus()) return;
-        constexpr qreal grueso = 2;
-        constexpr qreal redondeo = 3;
-        QPainter pintor(this);
-        pintor.setRenderHint(QPainter::Antialiasing);
-        pintor.setPen(QPen(palette().color(QPalette::Highlight), grueso));
-        pintor.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), redondeo, redondeo);
-    }
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    QFont letraDelTitulo() const;
+    /// Where its words stand, beside the icon.
+    QRect sitio(int ancho, int alto) const;
 };
 
 } // namespace norvik::taller

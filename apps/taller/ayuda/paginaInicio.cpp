@@ -6,22 +6,24 @@
 
 #include "norvik/tools/ventanas.hpp"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace norvik::taller {
 
 namespace {
 
-QLabel& rotulo(const QString& texto, double aumento) {
-    auto& etiqueta = nuevo<QLabel>(texto);
-    etiqueta.setTextFormat(Qt::PlainText);
-    QFont letra = etiqueta.font();
-    letra.setPointSizeF(letra.pointSizeF() * aumento);
-    letra.setBold(true);
-    etiqueta.setFont(letra);
-    return etiqueta;
+/// Two files of the same name are told apart by their folders.
+QString nombreEntre(const QString& fichero, const QStringList& todos) {
+    const QFileInfo suyo(fichero);
+    const auto tocayos = std::ranges::count_if(
+        todos, [&](const QString& otro) { return QFileInfo(otro).fileName() == suyo.fileName(); });
+    return tocayos > 1 ? suyo.fileName() + QStringLiteral(" — ") + suyo.absoluteDir().dirName()
+                       : suyo.fileName();
 }
 
 void ponLista(QVBoxLayout& columna, QListWidget& lista, const QString& titulo) {
@@ -35,7 +37,7 @@ void ponLista(QVBoxLayout& columna, QListWidget& lista, const QString& titulo) {
 
 } // namespace
 
-PaginaInicio::PaginaInicio(const QList<Ejemplo>& ejemplos, QWidget* padre) : QWidget(padre) {
+PaginaInicio::PaginaInicio(const QList<Ejemplo>& ejemplos, QWidget* padre) : QScrollArea(padre) {
     setAccessibleName(QStringLiteral("Página de inicio"));
     todo_.setContentsMargins(24, 16, 24, 12);
     ponTitulo();
@@ -45,7 +47,33 @@ PaginaInicio::PaginaInicio(const QList<Ejemplo>& ejemplos, QWidget* padre) : QWi
     ponEjemplos(ejemplos);
     ponRecientes();
     ponPie();
-    setLayout(&todo_);
+    dentro_.setLayout(&todo_);
+    setWidget(&dentro_);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+}
+
+QLabel& PaginaInicio::rotulo(const QString& texto, double aumento) {
+    auto& etiqueta = norvik::nuevo<QLabel>(texto);
+    etiqueta.setTextFormat(Qt::PlainText);
+    rotulos_.append({&etiqueta, aumento});
+    ponLetras();
+    return etiqueta;
+}
+
+/// Those of a title are its own, and do not follow the program's.
+void PaginaInicio::ponLetras() {
+    for (const auto& [etiqueta, aumento] : rotulos_) {
+        QFont letra = font();
+        letra.setPointSizeF(letra.pointSizeF() * aumento);
+        letra.setBold(true);
+        etiqueta->setFont(letra);
+    }
+}
+
+void PaginaInicio::changeEvent(QEvent* evento) {
+    QScrollArea::changeEvent(evento);
+    if (evento->type() == QEvent::FontChange) ponLetras();
 }
 
 void PaginaInicio::ponTitulo() {
@@ -126,7 +154,7 @@ void PaginaInicio::ponRecientes(const QStringList& ficheros) {
     recientes_.clear();
     for (const QString& fichero : ficheros) {
         if (!QFileInfo::exists(fichero)) continue;
-        auto& fila = norvik::nuevo<QListWidgetItem>(QFileInfo(fichero).fileName(), &recientes_);
+        auto& fila = norvik::nuevo<QListWidgetItem>(nombreEntre(fichero, ficheros), &recientes_);
         fila.setData(Qt::UserRole, fichero);
         fila.setToolTip(ayudaLlana(fichero));
     }

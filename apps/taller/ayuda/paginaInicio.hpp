@@ -9,15 +9,17 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QWidget>
 
 #include <functional>
+#include <utility>
 
 namespace norvik::taller {
 
 /// What a person can begin with: a new language, an example, what was open the last time, the tour.
-class PaginaInicio final : public QWidget {
+class PaginaInicio final : public QScrollArea {
     Q_OBJECT
 
 public:
@@ -41,7 +43,12 @@ signals:
     /// It is to be shown whenever the workbench starts.
     void siempre(bool siempre);
 
+protected:
+    void changeEvent(QEvent* evento) override;
+
 private:
+    QLabel& rotulo(const QString& texto, double aumento);
+    void ponLetras();
     void ponTitulo();
     void ponNuevos();
     void ponEjemplos(const QList<Ejemplo>& ejemplos);
@@ -51,9 +58,11 @@ private:
     void boton(QVBoxLayout& columna, const QString& titulo, const QString& explicacion,
                const std::function<void()>& orden);
 
+    QWidget dentro_;
     QVBoxLayout todo_;
     QGridLayout columnas_;
-    QLabel titulo_, lema_;
+    QLabel lema_;
+    QList<std::pair<QLabel*, double>> rotulos_; ///< and how much larger than the rest
     QListWidget recientes_;
     QCheckBox siempre_;
 };
