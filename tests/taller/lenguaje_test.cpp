@@ -115,15 +115,27 @@ TEST_F(LenguajeTest, LoQueNoCompilaDejaVerLoUltimoQueCompilo) {
     escribe(especificacion, " F -> ");
     EXPECT_FALSE(problemas(0).empty());
     EXPECT_EQ(ventana.conjuntos().tabla().rowCount(), 2);
-    EXPECT_EQ(ventana.conjuntos().windowTitle(), "Conjuntos (versión anterior)");
+    EXPECT_EQ(ventana.conjuntos().windowTitle(), "Conjuntos (anterior)");
     EXPECT_EQ(ventana.problemas().windowTitle(), "Problemas");
     escribe(especificacion, "num;");
     EXPECT_EQ(ventana.conjuntos().tabla().rowCount(), 3);
     EXPECT_EQ(ventana.conjuntos().windowTitle(), "Conjuntos");
 }
 
+TEST_F(LenguajeTest, SinNadaQueHayaCompiladoNoSeEnsenaNadaAnterior) {
+    empieza("E ->", "1");
+    EXPECT_EQ(ventana.tabla().windowTitle(), "Tabla");
+    EXPECT_EQ(ventana.tabla().palabras().text(), "Todavía no hay ninguna tabla.");
+    EXPECT_EQ(camino(), "Todavía no hay ningún árbol.");
+    const auto etiquetas = ventana.statusBar()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(
+        etiquetas, [](const QLabel* suya) { return suya->text() == "La especificación no compila"; }));
+}
+
 TEST_F(LenguajeTest, CadaPanelEligeEnLosDemas) {
     empieza(suma, "1+2");
+    ventana.arbol().vista().setFocus();
+    EXPECT_EQ(texto.norvik().SelText(), ""); // coming to the tree chooses nothing
     cursor(texto, u"1+");
     EXPECT_EQ(camino(), "E › T › num");
     ventana.arbol().enUnaFila().setChecked(false);

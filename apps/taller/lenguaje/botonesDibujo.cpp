@@ -17,20 +17,30 @@
 namespace norvik::taller {
 
 BotonesDibujo::BotonesDibujo(Panel& panel, Dialogos& dialogos, Dibujo dibujo)
-    : panel_(panel), dialogos_(dialogos), dibujo_(std::move(dibujo)) {
-    fila_.setContentsMargins(0, 0, 0, 0);
-    setLayout(&fila_);
+    : panel_(panel), dialogos_(dialogos), dibujo_(std::move(dibujo)),
+      filas_(dibujo_.estrecho ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight) {
+    filas_.setContentsMargins(0, 0, 0, 0);
+    setLayout(&filas_);
+    filas_.addLayout(&medidas_);
+    filas_.addLayout(&salidas_);
     if (VistaDibujo* const vista = dibujo_.vista; vista != nullptr) {
-        pon(ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn, [vista] { vista->amplia(); });
-        pon(reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut, [vista] { vista->reduce(); });
-        pon(encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0, [vista] { vista->encaja(); });
+        pon(medidas_, ampliar_, QStringLiteral("Ampliar"), QKeySequence::ZoomIn,
+            [vista] { vista->amplia(); });
+        pon(medidas_, reducir_, QStringLiteral("Reducir"), QKeySequence::ZoomOut,
+            [vista] { vista->reduce(); });
+        pon(medidas_, encajar_, QStringLiteral("Encajar"), Qt::CTRL | Qt::Key_0,
+            [vista] { vista->encaja(); });
     }
-    pon(copiar_, QStringLiteral("Copiar dibujo"), {}, [this] { copia(); });
-    pon(guardar_, QStringLiteral("Guardar dibujo…"), {}, [this] { guarda(); });
+    pon(salidas_, copiar_, QStringLiteral("Copiar dibujo"), {}, [this] { copia(); });
+    pon(salidas_, guardar_, QStringLiteral("Guardar dibujo…"), {}, [this] { guarda(); });
+    if (dibujo_.estrecho) {
+        medidas_.addStretch(1);
+        salidas_.addStretch(1);
+    }
     activa(false);
 }
 
-void BotonesDibujo::pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
+void BotonesDibujo::pon(QBoxLayout& fila, QAction& accion, const QString& texto, const QKeySequence& tecla,
                         const std::function<void()>& orden) {
     accion.setText(texto);
     accion.setShortcut(tecla);
@@ -42,7 +52,7 @@ void BotonesDibujo::pon(QAction& accion, const QString& texto, const QKeySequenc
     auto& boton = nuevo<QToolButton>(this);
     boton.setDefaultAction(&accion);
     boton.setFocusPolicy(Qt::StrongFocus);
-    fila_.addWidget(&boton);
+    fila.addWidget(&boton);
 }
 
 void BotonesDibujo::haz(const std::function<void()>& orden) {

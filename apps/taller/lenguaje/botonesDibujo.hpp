@@ -8,7 +8,7 @@
 #include "vistaDibujo.hpp"
 
 #include <QAction>
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QWidget>
 
 #include <functional>
@@ -26,6 +26,7 @@ public:
         QString fichero;                ///< proposed name, without an ending
         VistaDibujo* vista = nullptr;
         std::function<QString()> texto{}; ///< what programs without pictures take, if there is one
+        bool estrecho = false;            ///< the panel stands beside the texts, which want the room
     };
     /// Panel, dialogs and view outlive it. What fails is told by the panel.
     BotonesDibujo(Panel& panel, Dialogos& dialogos, Dibujo dibujo);
@@ -34,7 +35,7 @@ public:
     void activa(bool hay);
 
 private:
-    void pon(QAction& accion, const QString& texto, const QKeySequence& tecla,
+    void pon(QBoxLayout& fila, QAction& accion, const QString& texto, const QKeySequence& tecla,
              const std::function<void()>& orden);
     void haz(const std::function<void()>& orden);
     void copia();
@@ -43,7 +44,8 @@ private:
     Panel& panel_;
     Dialogos& dialogos_;
     const Dibujo dibujo_;
-    QHBoxLayout fila_;
+    QBoxLayout filas_;
+    QHBoxLayout medidas_, salidas_;
     QAction ampliar_, reducir_, encajar_, copiar_, guardar_;
 };
 

@@ -41,7 +41,7 @@ void Panel::ponTrabajando(bool trabajando) {
 
 void Panel::actualizaTitulo() {
     const bool viejo = atrasado_ || (trabajando_ && !espera_.isActive());
-    setWindowTitle(viejo ? titulo_ + QStringLiteral(" (versión anterior)") : titulo_);
+    setWindowTitle(viejo ? titulo_ + QStringLiteral(" (anterior)") : titulo_);
 }
 
 void Panel::changeEvent(QEvent* evento) {

@@ -32,7 +32,7 @@ PanelAnalisis::PanelAnalisis(Dialogos& dialogos, QWidget* padre)
     : Panel(QStringLiteral("arbol"), QStringLiteral("Árbol"), padre),
       enUnaFila_(QStringLiteral("&Cadenas de reglas en una fila")),
       dibujo_(QStringLiteral("Dibujo del árbol"), QStringLiteral("El esquema dice lo mismo")),
-      botones_(*this, dialogos, {[this] { return lamina(); }, QStringLiteral("arbol"), &dibujo_}) {
+      botones_(*this, dialogos, {[this] { return lamina(); }, QStringLiteral("arbol"), &dibujo_, {}, true}) {
     compone();
     conecta();
 }
@@ -79,6 +79,7 @@ void PanelAnalisis::compone() {
     enUnaFila_.setToolTip(
         QStringLiteral("E › T › F ocupa una sola fila, cuando cada una viene de una regla de un "
                        "símbolo"));
+    camino_.setText(QStringLiteral("Todavía no hay ningún árbol."));
     camino_.setAccessibleName(QStringLiteral("Camino desde la raíz"));
     camino_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     columna_.setContentsMargins(0, 0, 0, 0);
@@ -94,6 +95,9 @@ void PanelAnalisis::compone() {
     maneras_.addTab(&vista_, QStringLiteral("Esquema"));
     maneras_.addTab(&dibujada_, QStringLiteral("Dibujo"));
     maneras_.setDocumentMode(true);
+    const int pocasFilas = 2 * fontMetrics().lineSpacing(); // in a low window the texts need the room
+    for (QWidget* const manera : std::initializer_list<QWidget*>{&vista_, &dibujo_})
+        manera->setMinimumHeight(pocasFilas);
     columna_.addWidget(&maneras_, 1);
     columna_.addWidget(&camino_);
     centro_.setLayout(&columna_);
@@ -137,20 +141,23 @@ void PanelAnalisis::ponEstudio(std::shared_ptr<const Estudio> estudio) {
 void PanelAnalisis::muestra() {
     const QScopedValueRollback<bool> callado(callado_, true);
     constexpr std::size_t cerca = 60; // levels: to open more takes longer than a key may
-    const Lugar elegida = ModeloAnalisis::lugarDe(vista_.currentIndex());
+    const Lugar elegida = ModeloAnalisis::lugarDe(filaElegida());
     const int alto = vista_.verticalScrollBar()->value();
     const int lado = vista_.horizontalScrollBar()->value();
     modelo_.muestra(estudio_, enUnaFila_.isChecked() ? Cadenas::EnUnaFila : Cadenas::Enteras);
     nodo_.reset();
     abre();
     const QModelIndex fila = elegida.size() < cerca ? modelo_.filaEn(elegida) : QModelIndex();
-    if (fila.isValid() && fila == aLaVista(fila)) vista_.setCurrentIndex(fila);
+    if (fila.isValid() && fila == aLaVista(fila))
+        vista_.setCurrentIndex(fila);
+    else // coming here chooses nothing
+        vista_.selectionModel()->setCurrentIndex(modelo_.index(0, 0), QItemSelectionModel::NoUpdate);
     if (vista_.isVisible()) vista_.doItemsLayout(); // until then there is nothing to scroll
     vista_.verticalScrollBar()->setValue(alto);
     vista_.horizontalScrollBar()->setValue(lado);
     botones_.activa(modelo_.rowCount() > 0);
     dibuja();
-    camino_.setText(modelo_.rowCount() > 0 ? modelo_.camino(vista_.currentIndex())
+    camino_.setText(modelo_.rowCount() > 0 ? modelo_.camino(filaElegida())
                                            : QStringLiteral("El texto no tiene árbol."));
 }
 
@@ -165,6 +172,12 @@ void PanelAnalisis::cambiaCadenas() {
     const QModelIndex indice = modelo_.indiceDe(*nodo);
     vista_.setCurrentIndex(alAlcance(indice));
     sigue(indice);
+}
+
+/// The current one may be just where keys begin.
+QModelIndex PanelAnalisis::filaElegida() const {
+    const QModelIndex actual = vista_.currentIndex();
+    return vista_.selectionModel()->isSelected(actual) ? actual : QModelIndex();
 }
 
 // ---- what is open
@@ -237,7 +250,7 @@ void PanelAnalisis::selecciona(const Eleccion& eleccion) {
     } else if (regla) {
         seleccionaRegla(*regla);
     } else {
-        realza(vista_.currentIndex());
+        realza(filaElegida());
     }
 }
 
@@ -250,7 +263,7 @@ void PanelAnalisis::seleccionaRegla(std::int16_t regla) {
         vista_.setCurrentIndex(aLaVista(indice));
         sigue(indice);
     } else {
-        realza(vista_.currentIndex());
+        realza(filaElegida());
     }
     if (estudio_->arbol().esVacio()) return;
     const QString camino = nodo_ ? modelo_.camino(modelo_.indiceDe(*nodo_)) : QString();
@@ -327,7 +340,7 @@ void PanelAnalisis::dibuja() {
                [this](int nodo) { return modelo_.resaltado(static_cast<std::size_t>(nodo)); }},
               escena);
     });
-    realza(vista_.currentIndex());
+    realza(filaElegida());
 }
 
 /// The node, or the nearest one above it that is drawn.

@@ -65,6 +65,7 @@ private:
     void conecta();
     void muestra();
     void cambiaCadenas();
+    QModelIndex filaElegida() const;
     void abre();
     void mueve(const QModelIndex& indice, Movidas& alli, Movidas& otras) const;
     bool esDe(const Movidas& movidas, const QModelIndex& indice) const;

@@ -4,6 +4,7 @@
 
 #include "correspondencias.hpp"
 #include "palabrasConjuntos.hpp"
+#include "palabrasLR.hpp"
 
 #include "norvik/platform/qt/ayudaLlana.hpp"
 #include "norvik/platform/qt/nuevo.hpp"
@@ -46,6 +47,7 @@ PanelConjuntos::PanelConjuntos(QWidget* padre)
     tabla_.verticalHeader()->hide();
     tabla_.horizontalHeader()->setStretchLastSection(true);
     detalle_.setAccessibleName(QStringLiteral("Conjuntos y reglas de la variable elegida"));
+    detalle_.setPlainText(aQString(sinTabla));
     detalle_.setReadOnly(true);
     detalle_.setTabChangesFocus(true);
     centro_.addWidget(&tabla_);
@@ -72,7 +74,7 @@ void PanelConjuntos::llena() {
     const GramaticaLR* const g = estudio_->gramatica();
     const std::vector<Simbolo> variables = g == nullptr ? std::vector<Simbolo>() : variablesDe(g->partidas);
     tabla_.setRowCount(static_cast<int>(variables.size()));
-    if (variables.empty()) return detalle_.clear();
+    if (variables.empty()) return detalle_.setPlainText(aQString(sinTabla));
     bool hayOtroNombre = false;
     int fila = 0;
     for (const Simbolo variable : variables) hayOtroNombre = pon(fila++, variable) || hayOtroNombre;

@@ -4,6 +4,7 @@
 
 #include "correspondencias.hpp"
 #include "dibujoReglas.hpp"
+#include "palabrasLR.hpp"
 
 #include <utility>
 
@@ -20,6 +21,10 @@ PanelDiagramas::PanelDiagramas(Dialogos& dialogos, QWidget* padre)
                 QStringLiteral("reglas"), &vista_}) {
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addWidget(&botones_, 0, Qt::AlignLeft);
+    sinReglas_.setText(aQString(sinTabla));
+    sinReglas_.setTextFormat(Qt::PlainText);
+    sinReglas_.setWordWrap(true);
+    columna_.addWidget(&sinReglas_);
     columna_.addWidget(&vista_, 1);
     centro_.setLayout(&columna_);
     centro_.setFocusProxy(&vista_);
@@ -48,6 +53,7 @@ void PanelDiagramas::dibujaSiSeVe() {
     dibujado_ = estudio_->deLenguaje;
     elegida_ = 0;
     botones_.activa(dibujado_->gramatica() != nullptr);
+    sinReglas_.setVisible(dibujado_->gramatica() == nullptr);
     vista_.muestra(
         [this](const QPalette& colores, QGraphicsScene& escena) { pinta(elegida_)(colores, escena); });
 }

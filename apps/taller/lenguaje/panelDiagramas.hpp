@@ -7,6 +7,7 @@
 #include "panel.hpp"
 #include "vistaDibujo.hpp"
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include <cstdint>
@@ -43,6 +44,7 @@ private:
 
     QWidget centro_;
     QVBoxLayout columna_;
+    QLabel sinReglas_;
     VistaDibujo vista_;
     BotonesDibujo botones_;
 };

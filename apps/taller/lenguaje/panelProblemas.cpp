@@ -89,9 +89,7 @@ void PanelProblemas::compone() {
     lista_.header()->setSectionResizeMode(LugarDeProblemas, QHeaderView::ResizeToContents);
     detalle_.setReadOnly(true);
     detalle_.setTabChangesFocus(true);
-    detalle_.setLineWrapMode(QPlainTextEdit::NoWrap);
     ponLetraDeDetalle();
-    detalle_.setPlaceholderText(QStringLiteral("Elija un problema: aquí se cuenta todo de él."));
     detalle_.setAccessibleName(QStringLiteral("Todo sobre el problema elegido"));
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&barra_);
@@ -105,7 +103,7 @@ void PanelProblemas::compone() {
     ponDentro(centro_);
 }
 
-/// It has drawn trees.
+/// The stories of conflicts have drawn trees.
 void PanelProblemas::ponLetraDeDetalle() {
     QFont letra = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     if (font().pointSizeF() > 0) letra.setPointSizeF(font().pointSizeF());
@@ -134,7 +132,7 @@ void PanelProblemas::llena() {
     const QScopedValueRollback<bool> callado(callado_, true);
     lista_.clear();
     filas_.clear();
-    detalle_.clear();
+    detalle_.setPlainText(QStringLiteral("Elija un problema: aquí se cuenta todo de él."));
     llenaLado(Lado::Especificacion, QStringLiteral("Especificación"));
     llenaLado(Lado::Texto, QStringLiteral("Texto"));
     filasSinCuras_ = filas_.size();
@@ -284,6 +282,7 @@ PanelProblemas::Peticion PanelProblemas::arregla(Lado lado, std::int32_t lugar) 
 
 void PanelProblemas::detalla(const Fila& fila) {
     const Diagnostico& d = diagnosticos(fila.lado)[fila.diagnostico];
+    detalle_.setLineWrapMode(esConflicto(d) ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     QString texto = aQString(mensaje(d)) + QStringLiteral("\n\nCódigo: ") + aQString(nombreDe(d.codigo));
     if (fila.lado == Lado::Especificacion && esConflicto(d)) {
         const auto* const historias = historias_.de(fila.diagnostico);

@@ -69,6 +69,10 @@ void PanelTabla::compone() {
         boton->setFocusPolicy(Qt::StrongFocus);
         fila_.addWidget(boton);
     }
+    siguiente_.setText(QStringLiteral("Sin conflictos"));
+    siguiente_.setEnabled(false);
+    conflicto_.setEnabled(false);
+    palabras_.setText(QStringLiteral("Todavía no hay ninguna tabla."));
     fila_.addStretch();
     columna_.setContentsMargins(0, 0, 0, 0);
     columna_.addLayout(&fila_);

@@ -506,15 +506,17 @@ void VentanaLenguaje::marca() {
     const bool alDia = seguimiento_.alDia();
     const bool compila = ultimo_ && ultimo_->deLenguaje->lenguaje;
     for (Panel* const panel : paneles())
-        panel->ponAtrasado(!alDia || (!compila && !panel->muestraLoQueNoCompila()));
+        panel->ponAtrasado(estudioDe(*panel) && (!alDia || (!compila && !panel->muestraLoQueNoCompila())));
     if (seguimiento_.fallido())
         estado_.setText(QStringLiteral("No se ha podido estudiar lo escrito: se enseña lo anterior"));
     else if (!alDia)
         estado_.setText(QStringLiteral("Estudiando lo escrito…"));
     else if (compila)
         estado_.setText(QStringLiteral("Al día"));
-    else
+    else if (mostrado_)
         estado_.setText(QStringLiteral("La especificación no compila: se enseña la última que compiló"));
+    else
+        estado_.setText(QStringLiteral("La especificación no compila"));
 }
 
 /// The panels show what the caret is at.
