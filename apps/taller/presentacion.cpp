@@ -61,7 +61,7 @@ void Presentacion::pon(bool puesta) {
     if (puesta) {
         letra_ = QApplication::font();
         paleta_ = QApplication::palette();
-        anotaMedidas();
+        anotaAnchos();
     }
     for (QWidget* const ventana : QApplication::topLevelWidgets())
         for (auto* const norvik : ventana->findChildren<ControlNorvik*>()) conservaElCursor(*norvik);
@@ -71,27 +71,26 @@ void Presentacion::pon(bool puesta) {
     QApplication::setPalette(puesta ? deProyector() : paleta_);
     for (const Antes& antes : std::exchange(antes_, {}))
         if (antes.norvik) antes.norvik->aumento(antes.aumento);
-    if (!puesta) return reponMedidas();
+    if (!puesta) return reponAnchos();
     for (QWidget* const ventana : QApplication::topLevelWidgets()) aplica(*ventana);
 }
 
-/// Of those tabbed together the one in front has the size of all.
-void Presentacion::anotaMedidas() {
+/// Of those tabbed together the one in front has the width of all.
+void Presentacion::anotaAnchos() {
     for (QWidget* const ventana : QApplication::topLevelWidgets())
         for (auto* const panel : ventana->findChildren<QDockWidget*>())
             if (!panel->isFloating() && !panel->visibleRegion().isEmpty())
-                medidas_.push_back({panel, panel->size()});
+                anchos_.push_back({panel, panel->width()});
 }
 
 /// Large letters have widened them, and small ones need no less room.
-void Presentacion::reponMedidas() {
-    for (const Medida& medida : std::exchange(medidas_, {})) {
-        if (!medida.panel) continue;
-        QTimer::singleShot(hastaColocarse, medida.panel, [panel = medida.panel.data(), antes = medida.antes] {
+void Presentacion::reponAnchos() {
+    for (const Ancho& ancho : std::exchange(anchos_, {})) {
+        if (!ancho.panel) continue;
+        QTimer::singleShot(hastaColocarse, ancho.panel, [panel = ancho.panel.data(), antes = ancho.antes] {
             auto* const ventana = qobject_cast<QMainWindow*>(panel->parentWidget());
             if (ventana == nullptr || panel->isFloating() || panel->isHidden()) return;
-            ventana->resizeDocks({panel}, {antes.width()}, Qt::Horizontal);
-            ventana->resizeDocks({panel}, {antes.height()}, Qt::Vertical);
+            ventana->resizeDocks({panel}, {antes}, Qt::Horizontal);
         });
     }
 }

@@ -30,19 +30,19 @@ private:
         QPointer<ControlNorvik> norvik;
         int aumento;
     };
-    struct Medida {
+    struct Ancho {
         QPointer<QDockWidget> panel;
-        QSize antes;
+        int antes;
     };
 
-    void anotaMedidas();
-    void reponMedidas();
+    void anotaAnchos();
+    void reponAnchos();
 
     bool puesta_ = false;
     QFont letra_; ///< before
     QPalette paleta_;
     std::vector<Antes> antes_;
-    std::vector<Medida> medidas_;
+    std::vector<Ancho> anchos_;
 };
 
 /// The title of a dock keeps the letters that the program had when the dock was made. With this it has those

@@ -118,7 +118,7 @@ void VentanaLenguaje::colocaPaneles() {
         anterior = panel;
     }
     problemas_.raise();
-    resizeDocks({&arbol_}, {340}, Qt::Horizontal);
+    resizeDocks({&arbol_}, {width() / 3}, Qt::Horizontal);
     resizeDocks({&problemas_}, {340}, Qt::Vertical); // both trees of a conflict have room
 }
 
