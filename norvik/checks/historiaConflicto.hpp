@@ -81,7 +81,7 @@ struct LimitesHistorias {
     std::size_t pasosPorConflicto = 250'000;
     std::size_t pasosEnTotal = 4'000'000;
     std::chrono::milliseconds porConflicto{1'500};
-    std::chrono::milliseconds enTotal{4'000};
+    std::chrono::milliseconds enTotal{2'500};
     std::size_t contados = 200; ///< de los demás se dicen solo las acciones
     /// Desde que se pide, tampoco se cuentan los que falten. Si no se da ninguna, la de la compilación.
     std::stop_token cancelacion{};

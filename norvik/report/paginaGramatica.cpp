@@ -10,8 +10,12 @@
 #include "norvik/report/grafoEstados.hpp"
 #include "norvik/report/informe.hpp"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <set>
+#include <span>
 #include <unordered_map>
 #include <utility>
 
@@ -77,8 +81,20 @@ private:
             aTexto(g_.tabla.simbolos().terminales.totalElementos()), u" tokens, ",
             aTexto(g_.tabla.simbolos().variables.totalElementos()), u" variables, ",
             aTexto(static_cast<std::int64_t>(g_.automata.estados.size())), u" estados.</p>\n");
-        for (const Diagnostico& aviso : notas_.avisos)
+        for (const Diagnostico& aviso : lasPrimeras(notas_.avisos))
             pon(u"<p class=\"aviso\">Aviso: ", escapaHtml(mensaje(aviso)), u"</p>\n");
+        quedan(notas_.avisos.size(), u"avisos");
+    }
+
+    // Nobody reads more of one kind, and hundreds of thousands make a page that no browser shows.
+    static constexpr std::size_t maximo = 1'000;
+    template <typename Cosa>
+    static std::span<const Cosa> lasPrimeras(const std::vector<Cosa>& todas) {
+        return std::span(todas).first(std::min(todas.size(), maximo));
+    }
+    void quedan(std::size_t cuantas, std::u16string_view cosas) {
+        if (cuantas > maximo)
+            pon(u"<p>Otros ", cosas, u": ", aTexto(static_cast<std::int64_t>(cuantas - maximo)), u".</p>\n");
     }
 
     std::u16string_view nombreDelMetodo() const {
@@ -176,7 +192,7 @@ private:
     void conflictos() {
         titulo(2);
         pon(u"<p>Lo que dice la tabla:</p>\n<pre>", escapaHtml(textoProblemas(g_)), u"</pre>\n");
-        for (const HistoriaConflicto& historia : notas_.historias) {
+        for (const HistoriaConflicto& historia : lasPrimeras(notas_.historias)) {
             pon(u"<h3>");
             if (historia.estado != HistoriaConflicto::sinEstado)
                 pon(u"En el ", estado(historia.estado, u"estado " + aTexto(historia.estado)), u", ante «");
@@ -184,6 +200,7 @@ private:
                 pon(u"Callado por la tabla clásica, ante «");
             pon(escapaHtml(historia.simbolo), u"»</h3>\n", enHtml(historia));
         }
+        quedan(notas_.historias.size(), u"conflictos");
     }
 
     // Of states too many and too long to be looked at, items are shown by their numbers.

@@ -85,6 +85,24 @@ TEST(PaginaDeGramatica, LoQueDice) {
         EXPECT_NE(pagina.find(trozo), std::string::npos) << trozo << pagina;
 }
 
+TEST(PaginaDeGramatica, DeMuchosSeVenLosPrimerosYSeDiceCuantosQuedan) {
+    const GramaticaLR g = exacto::genera(apoyo::reglasDe(u"S -> a"), {Metodo::Lalr, {}});
+    const auto con = [&](std::size_t historias, std::size_t avisos) {
+        return aUtf8(paginaDeGramatica(g, {u"",
+                                           Metodo::Lalr,
+                                           std::vector<HistoriaConflicto>(historias),
+                                           std::vector<Diagnostico>(avisos),
+                                           {}}));
+    };
+    const std::string muchos = con(1003, 1002);
+    EXPECT_EQ(detras(muchos, "<section class=\"historia\"").size(), 1000U);
+    EXPECT_EQ(detras(muchos, "<p class=\"aviso\"").size(), 1000U);
+    EXPECT_NE(muchos.find("<p>Otros conflictos: 3.</p>"), std::string::npos);
+    EXPECT_NE(muchos.find("<p>Otros avisos: 2.</p>"), std::string::npos);
+    EXPECT_EQ(malCerrada(muchos), "");
+    EXPECT_EQ(con(1000, 1000).find("Otros"), std::string::npos);
+}
+
 TEST(PaginaDeGramatica, ElGrafoTieneUnaFlechaPorTransicion) {
     const GramaticaLR g = exacto::genera(apoyo::reglasDe(u"S -> S a\"\\ | b"), {Metodo::Lalr, {}});
     EXPECT_EQ(
