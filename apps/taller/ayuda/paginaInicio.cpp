@@ -129,8 +129,10 @@ void PaginaInicio::ponRecientes() {
     boton(suya, QStringLiteral("Abrir un lenguaje…"), QStringLiteral("Una especificación (.nvk)"),
           [this] { emit pideAbrir(); });
     ponLista(suya, recientes_, QStringLiteral("&Recientes:"));
-    connect(&recientes_, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* fila) { emit reciente(fila->data(Qt::UserRole).toString()); });
+    connect(&recientes_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* fila) {
+        const QString fichero = fila->data(Qt::UserRole).toString();
+        if (!fichero.isEmpty()) emit reciente(fichero);
+    });
 }
 
 void PaginaInicio::ponPie() {
@@ -160,7 +162,7 @@ void PaginaInicio::ponRecientes(const QStringList& ficheros) {
     }
     if (recientes_.count() == 0)
         norvik::nuevo<QListWidgetItem>(QStringLiteral("Todavía no hay ninguno"), &recientes_)
-            .setFlags(Qt::NoItemFlags);
+            .setFlags(Qt::ItemIsEnabled);
 }
 
 } // namespace norvik::taller
