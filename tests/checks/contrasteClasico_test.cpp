@@ -105,17 +105,20 @@ TEST(Contraste, LasFrasesSonLasMasCortas) {
 }
 
 TEST(Contraste, UnaCeldaHaceOtraTabla) {
-    const Reglas reglas = apoyo::reglasDe(u"S -> E; E -> E mas T | T; T -> T por F | F; F -> abre E cierra | num");
+    const Reglas reglas =
+        apoyo::reglasDe(u"S -> E; E -> E mas T | T; T -> T por F | F; F -> abre E cierra | num");
     const TablaLR exacta = exacto::genera(reglas, {Metodo::Slr, {}}).tabla;
     TablaLR clasica = clasico::genera(reglas).tabla;
     EXPECT_TRUE(esLaMismaTabla(clasica, exacta));
-    for (std::int16_t fila = 1; fila <= clasica.filasVigentes(); ++fila)
-        for (std::int16_t columna = 1; columna <= clasica.columnasVigentes(); ++columna) {
+    for (std::int16_t estado = 0; estado < clasica.filasVigentes(); ++estado)
+        for (std::int16_t codigo = 0; codigo < clasica.columnasVigentes(); ++codigo) {
+            const auto fila = static_cast<std::int16_t>(estado + 1);
+            const auto columna = static_cast<std::int16_t>(codigo + 1);
             const std::int16_t valor = clasica.celdas().en(fila, columna);
-            const std::int16_t leido = clasica.entrada(fila - 1, columna - 1);
+            const std::int16_t leido = clasica.entrada(estado, codigo);
             for (const int otro : {0, 1, 3, -1, -2, int{TablaLR::aceptar}}) {
                 clasica.pon(fila, columna, static_cast<std::int16_t>(otro));
-                EXPECT_EQ(esLaMismaTabla(clasica, exacta), clasica.entrada(fila - 1, columna - 1) == leido)
+                EXPECT_EQ(esLaMismaTabla(clasica, exacta), clasica.entrada(estado, codigo) == leido)
                     << fila << ' ' << columna << ' ' << otro;
             }
             clasica.pon(fila, columna, valor);
