@@ -28,8 +28,8 @@ bool esLaMismaTabla(const TablaLR& una, const TablaLR& otra) {
         if (codigos.back() < 0) return false;
     }
     constexpr std::int16_t ninguno = -1;
-    std::vector<std::int16_t> suyos(TablaLR::aceptar,
-                                    ninguno); // the states of the other, by those of the one
+    // The states of the other, by those of the one.
+    std::vector<std::int16_t> suyos(TablaLR::aceptar, ninguno);
     std::vector<std::int16_t> porVer{0};
     suyos[0] = 0;
     while (!porVer.empty()) {
