@@ -3,12 +3,12 @@
 #include "norvik/grammar/conjunto.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/huella.hpp"
 #include "norvik/base/numeros.hpp"
 #include "norvik/base/texto.hpp"
 
 #include <algorithm>
-#include <functional>
-#include <type_traits>
+#include <utility>
 
 // Members stand in a vector in order of insertion; an open-addressing table of their positions, a power of
 // two at most half full, finds them. Its room is made before the member, so that whoever has no memory for
@@ -25,6 +25,10 @@ bool esIgual(const conjunto::Valor& valor, std::u16string_view simbolo) {
 bool esIgual(const conjunto::Valor& valor, std::int16_t numero) {
     const auto* const otro = std::get_if<std::int16_t>(&valor);
     return otro != nullptr && *otro == numero;
+}
+
+std::size_t huella(std::int16_t numero) {
+    return static_cast<std::size_t>(numero);
 }
 
 // The string is made before the variant: that of libstdc++ 12 is undone wrongly when it is the one to find
@@ -49,7 +53,7 @@ conjunto& conjunto::operator=(const conjunto& otro) {
 template <typename Clave>
 std::size_t conjunto::ranura(const Clave& clave) const {
     const std::size_t mascara = ranuras_.size() - 1;
-    std::size_t i = std::hash<Clave>{}(clave)&mascara;
+    std::size_t i = huella(clave) & mascara;
     while (ranuras_[i] != 0 && !esIgual(elementos_[ranuras_[i] - 1], clave)) i = (i + 1) & mascara;
     return i;
 }
@@ -79,13 +83,25 @@ std::int16_t conjunto::totalElementos() const {
     return a16(elementos_.size());
 }
 
-void conjunto::insertar(const Valor& valor) {
+/// The slot of a member, or a free one with room left for others.
+std::uint32_t& conjunto::ranuraPara(const Valor& valor) {
     constexpr std::size_t minimo = 16;
     if ((elementos_.size() + 1) * 2 > ranuras_.size()) indexa(std::max(minimo, ranuras_.size() * 2));
-    const std::size_t sitio = ranuraDe(valor);
-    if (ranuras_[sitio] != 0) return;
+    return ranuras_[ranuraDe(valor)];
+}
+
+void conjunto::insertar(const Valor& valor) {
+    std::uint32_t& suya = ranuraPara(valor);
+    if (suya != 0) return;
     elementos_.push_back(copiaDe(valor));
-    ranuras_[sitio] = static_cast<std::uint32_t>(elementos_.size());
+    suya = static_cast<std::uint32_t>(elementos_.size());
+}
+
+void conjunto::insertar(Valor&& valor) {
+    std::uint32_t& suya = ranuraPara(valor);
+    if (suya != 0) return;
+    elementos_.push_back(std::move(valor));
+    suya = static_cast<std::uint32_t>(elementos_.size());
 }
 
 void conjunto::aniadeElementosConjunto(const conjunto& otro) {

@@ -39,6 +39,7 @@ public:
     void eliminaCadenaVacia();
     bool esVacio() const;
     void insertar(const Valor& valor);
+    void insertar(Valor&& valor);
     bool perteneceA(const Valor& valor) const;
     /// Lugar de un símbolo, desde 1; 0 si no está.
     std::int16_t posicion(std::u16string_view simbolo) const;
@@ -54,6 +55,7 @@ private:
     std::size_t busca(const Clave& clave) const;
     std::size_t buscaValor(const Valor& valor) const;
     std::size_t ranuraDe(const Valor& valor) const;
+    std::uint32_t& ranuraPara(const Valor& valor);
     void indexa(std::size_t ranuras);
 
     std::vector<Valor> elementos_;

@@ -3,38 +3,55 @@
 #include "norvik/grammar/reglasPartidas.hpp"
 
 #include "norvik/base/errores.hpp"
+#include "norvik/base/huella.hpp"
 #include "norvik/base/texto.hpp"
+
+#include <algorithm>
 
 namespace norvik::inline v0_2 {
 
 ReglasPartidas::ReglasPartidas(const Reglas& reglas, std::u16string_view otros) : reglas_(1) {
+    indexa();
     numera(cadenaVacia);
     numera(u"$");
+    reglas_.reserve(static_cast<std::size_t>(reglas.total()) + 1);
     for (const Regla& regla : reglas) parte(regla);
     paraCadaSimbolo(otros, [this](std::u16string_view simbolo) { numera(simbolo); });
 }
 
-ReglasPartidas::ReglasPartidas(const ReglasPartidas& otras)
-    : reglas_(otras.reglas_), simbolosDeCuerpos_(otras.simbolosDeCuerpos_), simbolos_(otras.simbolos_),
-      textos_(otras.textos_) {
-    for (std::size_t i = 0; i < simbolos_.size(); ++i) {
-        simbolos_[i].texto = textos_[i];
-        numeros_.emplace(textos_[i], static_cast<Simbolo>(i));
-    }
+/// Twice the slots.
+void ReglasPartidas::indexa() {
+    constexpr std::size_t minimo = 64;
+    ranuras_.assign(std::max(minimo, 2 * ranuras_.size()), sinSimbolo);
+    for (std::size_t i = 0; i < simbolos_.size(); ++i)
+        ranuras_[ranura(texto(simbolos_[i]))] = static_cast<Simbolo>(i);
+}
+
+/// The slot of a symbol, or the free one where it belongs.
+std::size_t ReglasPartidas::ranura(std::u16string_view buscado) const {
+    const std::size_t mascara = ranuras_.size() - 1;
+    std::size_t i = huella(buscado) & mascara;
+    while (ranuras_[i] != sinSimbolo && texto(ranuras_[i]) != buscado) i = (i + 1) & mascara;
+    return i;
 }
 
 Simbolo ReglasPartidas::simbolo(std::u16string_view texto) const {
-    const auto sitio = numeros_.find(texto);
-    return sitio == numeros_.end() ? sinSimbolo : sitio->second;
+    return ranuras_[ranura(texto)];
 }
 
 Simbolo ReglasPartidas::numera(std::u16string_view texto) {
-    if (const Simbolo conocido = simbolo(texto); conocido != sinSimbolo) return conocido;
+    std::size_t sitio = ranura(texto);
+    if (ranuras_[sitio] != sinSimbolo) return ranuras_[sitio];
+    if (2 * simbolos_.size() >= ranuras_.size()) {
+        indexa();
+        sitio = ranura(texto);
+    }
     const auto nuevo = static_cast<Simbolo>(simbolos_.size());
-    const std::u16string_view suyo = textos_.emplace_back(texto);
-    numeros_.emplace(suyo, nuevo);
-    simbolos_.push_back({.texto = suyo, .variable = !suyo.empty() && esMayusculaAZ(suyo.front())});
-    return nuevo;
+    simbolos_.push_back({.inicio = letras_.size(),
+                         .longitud = texto.size(),
+                         .variable = !texto.empty() && esMayusculaAZ(texto.front())});
+    letras_.insert(letras_.end(), texto.begin(), texto.end());
+    return ranuras_[sitio] = nuevo;
 }
 
 void ReglasPartidas::parte(const Regla& regla) {

@@ -6,11 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace norvik::inline v0_2 {
@@ -31,11 +29,6 @@ public:
     /// The symbols of another text are numbered too, after those of the rules. Rules that are added later
     /// change no number.
     explicit ReglasPartidas(const Reglas& reglas, std::u16string_view otros = {});
-    ReglasPartidas(const ReglasPartidas& otras);
-    ReglasPartidas& operator=(const ReglasPartidas& otras) { return *this = ReglasPartidas(otras); }
-    ReglasPartidas(ReglasPartidas&&) = default;
-    ReglasPartidas& operator=(ReglasPartidas&&) = default;
-    ~ReglasPartidas() = default;
 
     /// Number of a symbol, `sinSimbolo` when neither rules nor text have it.
     Simbolo simbolo(std::u16string_view texto) const;
@@ -52,7 +45,7 @@ public:
     bool esVacia(int regla) const { return cuerpo(regla).size() == 1 && cuerpo(regla)[0] == vacio; }
 
     std::size_t numSimbolos() const { return simbolos_.size(); }
-    std::u16string_view texto(Simbolo simbolo) const { return en(simbolos_, simbolo).texto; }
+    std::u16string_view texto(Simbolo simbolo) const { return texto(en(simbolos_, simbolo)); }
     /// Its first character is one of A … Z.
     bool esVariable(Simbolo simbolo) const { return en(simbolos_, simbolo).variable; }
     /// First run of consecutive rules with this head: `primera` … `fin` − 1; both 0 when there is none.
@@ -72,7 +65,8 @@ private:
         std::size_t longitud = 0;
     };
     struct DatosSimbolo {
-        std::u16string_view texto;
+        std::size_t inicio = 0; ///< of its text in `letras_`
+        std::size_t longitud = 0;
         bool variable = false;
         bool conVacia = false;
         int primera = 0;
@@ -83,15 +77,20 @@ private:
     static const T& en(const std::vector<T>& lista, int i) {
         return lista[static_cast<std::size_t>(i)];
     }
+    std::u16string_view texto(const DatosSimbolo& datos) const {
+        return {letras_.data() + datos.inicio, datos.longitud};
+    }
+    std::size_t ranura(std::u16string_view texto) const;
     Simbolo numera(std::u16string_view texto);
+    void indexa();
     void parte(const Regla& regla);
     void anotaCabeza(Simbolo cabeza, int regla, bool conVacia);
 
     std::vector<Partida> reglas_;
     std::vector<Simbolo> simbolosDeCuerpos_;
     std::vector<DatosSimbolo> simbolos_;
-    std::unordered_map<std::u16string_view, Simbolo> numeros_;
-    std::deque<std::u16string> textos_;
+    std::vector<char16_t> letras_; // of all symbols
+    std::vector<Simbolo> ranuras_; // open addressing by text, a power of two; `sinSimbolo` where free
 };
 
 /// Empty when every non-terminal used has a rule, else the message: it names the last that has none.
