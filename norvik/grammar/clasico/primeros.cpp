@@ -106,7 +106,8 @@ bool CalculoPrimeros::empiezaVacia(Simbolo simbolo) const {
 bool CalculoPrimeros::recorre(Cuerpo cuerpo, bool recursivo, int indice) {
     if (recursivo && indice != 0 && indice == pendientes_.actual) return true;
     exigeSeguir();
-    pila_.assign(1, Marco{.cuerpo = cuerpo, .indice = indice, .recursivo = recursivo});
+    pila_.clear();
+    pila_.emplace_back(cuerpo, indice, recursivo);
     while (!pila_.empty()) {
         Marco& marco = pila_.back();
         if (marco.hijo < marco.finHijos) {
@@ -138,8 +139,7 @@ bool CalculoPrimeros::entra(Marco& padre) {
     }
     situacion.progreso = Progreso::EnCurso;
     const int indice = reglas_.primera(padre.cuerpo[padre.posicion]);
-    pila_.push_back(
-        Marco{.cuerpo = reglas_.cuerpo(regla), .indice = indice, .recursivo = true, .situacion = numero});
+    pila_.emplace_back(reglas_.cuerpo(regla), indice, true, numero);
     return true;
 }
 
@@ -191,11 +191,12 @@ void CalculoPrimeros::acaba(const Marco& marco) {
 }
 
 void CalculoPrimeros::cierra() {
-    const Marco marco = pila_.back();
+    const std::size_t situacion = pila_.back().situacion;
+    const bool marca = pila_.back().marca;
     pila_.pop_back();
     if (pila_.empty()) return;
-    situaciones_[marco.situacion].progreso = marco.marca ? Progreso::HechaConMarca : Progreso::Hecha;
-    if (marco.marca) pila_.back().marca = true;
+    situaciones_[situacion].progreso = marca ? Progreso::HechaConMarca : Progreso::Hecha;
+    if (marca) pila_.back().marca = true;
 }
 
 void CalculoPrimeros::marca(Marco& marco, int indice) {
