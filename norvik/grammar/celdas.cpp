@@ -39,10 +39,10 @@ std::vector<std::int16_t>& Celdas::ensancha(int fila) {
 
 void Celdas::ponFila(int fila, std::span<const std::int16_t> valores) {
     compruebaFila(fila);
-    const auto fin =
-        std::find_if(valores.rbegin(), valores.rend(), [](std::int16_t v) { return v != 0; }).base();
-    reserva(static_cast<std::size_t>(fin - valores.begin()));
-    filaPara(fila).assign(valores.begin(), fin);
+    valores = valores.first(finSinCeros(valores));
+    reserva(valores.size());
+    if (filas_.empty()) filas_.reserve(static_cast<std::size_t>(numFilas_));
+    filaPara(fila).assign(valores.begin(), valores.end());
 }
 
 void Celdas::reserva(std::size_t celdas) {

@@ -72,17 +72,25 @@ private:
             throw SubindiceFueraDeIntervalo(u"en la tabla, la columna", columna, 1, columnas_);
     }
 
-    // Place of the first value other than 0, from a place on; the size if none. Most of a table is 0: it is
-    // read four values at a time.
-    static std::size_t saltaCeros(std::span<const std::int16_t> valores, std::size_t desde) {
+    // Most of a table is 0: it is read four values at a time.
+    static constexpr std::size_t paso = sizeof(std::uint64_t) / sizeof(std::int16_t);
+    static bool sonCeros(const std::int16_t* valores) {
         std::uint64_t cuatro = 0;
-        constexpr std::size_t paso = sizeof cuatro / sizeof(std::int16_t);
-        for (; desde + paso <= valores.size(); desde += paso) {
-            std::memcpy(&cuatro, valores.data() + desde, sizeof cuatro);
-            if (cuatro != 0) break;
-        }
+        std::memcpy(&cuatro, valores, sizeof cuatro);
+        return cuatro == 0;
+    }
+    // Place of the first value other than 0, from a place on; the size if none.
+    static std::size_t saltaCeros(std::span<const std::int16_t> valores, std::size_t desde) {
+        while (desde + paso <= valores.size() && sonCeros(valores.data() + desde)) desde += paso;
         while (desde < valores.size() && valores[desde] == 0) ++desde;
         return desde;
+    }
+    // Place behind the last value other than 0.
+    static std::size_t finSinCeros(std::span<const std::int16_t> valores) {
+        std::size_t fin = valores.size();
+        while (fin >= paso && sonCeros(valores.data() + (fin - paso))) fin -= paso;
+        while (fin > 0 && valores[fin - 1] == 0) --fin;
+        return fin;
     }
     std::vector<std::int16_t>& filaPara(int fila);
     std::vector<std::int16_t>& ensancha(int fila);
