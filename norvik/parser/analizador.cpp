@@ -185,8 +185,9 @@ Lexemas Analizador::lexemas(std::unique_ptr<TextoAnalizado> texto, const Opcione
             errores.push_back(caracteresIncorrectos(texto->texto, malos, finDeMalos, texto->lugares));
     };
     // As reading does it, save that it stays on comments.
+    Lectura lectura;
     for (std::int32_t posicion = 1;;) {
-        const Lectura lectura = leeDesde<Comentarios::SeLeen>(posicion, texto->texto, mapa_, definiciones);
+        leeDesde<Comentarios::SeLeen>(posicion, texto->texto, mapa_, definiciones, lectura);
         if (lectura.leido.definicion == TokenLeido::fin) break;
         const auto inicio = static_cast<std::size_t>(lectura.inicio) - 1;
         if (lectura.leido.definicion == TokenLeido::desconocido) {

@@ -173,7 +173,8 @@ void Analizador::anotaDelTexto(std::u16string_view texto, std::size_t posicion,
     const auto& definiciones = lexico_.tokensLenguaje();
     std::set<std::u16string_view> vistas;
     for (std::int32_t desde = 1;;) {
-        const Lectura l = leeDesde<Comentarios::SeLeen>(desde, texto, mapa_, definiciones);
+        Lectura l;
+        leeDesde<Comentarios::SeLeen>(desde, texto, mapa_, definiciones, l);
         if (l.leido.definicion == TokenLeido::fin) break;
         desde = l.fin;
         if (l.leido.definicion == TokenLeido::desconocido) {

@@ -23,7 +23,7 @@ public:
     const Lectura& lee() { return leeEn(lectura_.fin); }
     /// The same from a 1-based position on.
     const Lectura& leeEn(std::int32_t posicion) {
-        lectura_ = leeDesde(posicion, texto_, *mapa_, *definiciones_);
+        leeDesde(posicion, texto_, *mapa_, *definiciones_, lectura_);
         if (lectura_.leido.definicion == TokenLeido::fin) leeFinal();
         return lectura_;
     }

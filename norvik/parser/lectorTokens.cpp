@@ -20,35 +20,31 @@ void LectorTokens::inicializa(const FuenteTexto& fuente) {
     const auto texto = fuente.texto();
     if (texto.size() > maximoTexto) throw TextoDemasiadoLargo();
     lexico_.ReconoceTokens(texto, 1, static_cast<std::int16_t>(texto.size() + 1));
-    posLectura_ = 1;
+    lectura_.fin = 1;
 }
 
 void LectorTokens::lee(const FuenteTexto& fuente) {
-    const Lectura lectura =
-        leeDesde(posLectura_, fuente.texto(), lexico_.mapaTokens(), lexico_.tokensLenguaje());
-    leido_ = lectura.leido;
-    inicioToken_ = lectura.inicio;
-    posLectura_ = lectura.fin;
-    if (leido_.definicion == TokenLeido::fin) leeFinal();
+    leeDesde(lectura_.fin, fuente.texto(), lexico_.mapaTokens(), lexico_.tokensLenguaje(), lectura_);
+    if (leido().definicion == TokenLeido::fin) leeFinal();
 }
 
 void LectorTokens::leeFinal() {
     MapaTokens& mapa = lexico_.mapaTokens();
-    const auto token = mapa.ganadoraEn(posLectura_);
-    leido_ = token ? TokenLeido{token->patron, mapa.texto(posLectura_, *token)}
-                   : TokenLeido{TokenLeido::fin, tokenFin};
-    mapa.borra(posLectura_);
+    const auto token = mapa.ganadoraEn(posLectura());
+    lectura_.leido = token ? TokenLeido{token->patron, mapa.texto(posLectura(), *token)}
+                           : TokenLeido{TokenLeido::fin, tokenFin};
+    mapa.borra(posLectura());
 }
 
 std::u16string_view LectorTokens::nombreLeido() const {
-    if (leido_.definicion == TokenLeido::fin) return tokenFin;
-    if (leido_.definicion == TokenLeido::desconocido) return tokenError;
-    return lexico_.tokensLenguaje()[static_cast<std::size_t>(leido_.definicion)]->nomToken;
+    if (leido().definicion == TokenLeido::fin) return tokenFin;
+    if (leido().definicion == TokenLeido::desconocido) return tokenError;
+    return lexico_.tokensLenguaje()[static_cast<std::size_t>(leido().definicion)]->nomToken;
 }
 
 void LectorTokens::recuerda(const FuenteTexto& fuente) {
     ultimoToken_ = nombreLeido();
-    ultimoLexema_ = leido_.lexema;
+    ultimoLexema_ = leido().lexema;
     ultimaPosicion_ = posicionToken(fuente);
 }
 
@@ -65,8 +61,8 @@ parLT LectorTokens::devuelve(const FuenteTexto& fuente) {
 // The line services count from 0; the 1-based start is passed as it is, so that the line is that of the
 // character after the token's first.
 Posicion LectorTokens::posicionToken(const FuenteTexto& fuente) const {
-    const std::int32_t linea = fuente.lineaDeCaracter(inicioToken_);
-    const std::int32_t columna = inicioToken_ - fuente.inicioDeLinea(linea);
+    const std::int32_t linea = fuente.lineaDeCaracter(inicioToken());
+    const std::int32_t columna = inicioToken() - fuente.inicioDeLinea(linea);
     return {linea + 1, columna == 0 ? 1 : columna};
 }
 

@@ -56,8 +56,8 @@ public:
     const TextoInvisible& textoInvisible() const { return textoInvisible_; }
     const FuenteTexto& editor() const { return editor_; }
     /// 1-based positions: where reading continues, and where the last token starts.
-    std::int32_t posLectura() const { return posLectura_; }
-    std::int32_t inicioToken() const { return inicioToken_; }
+    std::int32_t posLectura() const { return lectura_.fin; }
+    std::int32_t inicioToken() const { return lectura_.inicio; }
     const std::u16string& ultimoToken() const { return ultimoToken_; }
     const std::u16string& ultimoLexema() const { return ultimoLexema_; }
 
@@ -65,7 +65,7 @@ public:
     /// and a driver that stops has its name, lexeme and place kept with `recuerda`.
     void inicializa(const FuenteTexto& fuente);
     void lee(const FuenteTexto& fuente);
-    const TokenLeido& leido() const { return leido_; }
+    const TokenLeido& leido() const { return lectura_.leido; }
     void recuerda(const FuenteTexto& fuente);
     /// The text of the last recognition; it stays until the next one.
     std::u16string_view textoReconocido() const;
@@ -79,9 +79,7 @@ private:
     pilaTokens& lexico_;
     const FuenteTexto& editor_;
     TextoInvisible textoInvisible_;
-    TokenLeido leido_;
-    std::int32_t posLectura_ = 1;
-    std::int32_t inicioToken_ = 1;
+    Lectura lectura_;
     std::u16string ultimoToken_;
     std::u16string ultimoLexema_;
     Posicion ultimaPosicion_;

@@ -49,32 +49,37 @@ constexpr std::size_t largoDeCaracter(std::u16string_view texto, std::size_t ind
 
 enum class Comentarios : std::uint8_t { SeSaltan, SeLeen };
 
-/// The token at a position of a recognised text or after it: blanks and comments are passed over, an empty
-/// match counts as absent, else reading would never leave it. A wrong character ends where it starts, so that
-/// reading stays there; at the end of the text stands `TokenLeido::fin`, whatever the map has there.
-// Inline, so that its body is put into the readers, which ask for it at each token.
+/// Reads the token at a position of a recognised text or after it: blanks and comments are passed over, an
+/// empty match counts as absent, else reading would never leave it. A wrong character ends where it starts,
+/// so that reading stays there; at the end of the text stands `TokenLeido::fin`, whatever the map has there.
+// Inline, so that its body is put into the readers, which ask for it at each token; and it fills what they
+// keep: a copy of it waits for what has just been written piece by piece.
 template <Comentarios comentarios = Comentarios::SeSaltan>
-inline Lectura leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
-                        const std::vector<const expresionRegular*>& definiciones) {
+inline void leeDesde(std::int32_t posicion, std::u16string_view texto, const MapaTokens& mapa,
+                     const std::vector<const expresionRegular*>& definiciones, Lectura& lectura) {
     constexpr auto esBlanco = [](char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; };
     while (posicion <= static_cast<std::int32_t>(texto.size())) {
         const auto token = mapa.ganadoraEn(posicion);
         if (!token || token->longitud == 0) {
             const std::size_t lugar = static_cast<std::size_t>(posicion) - 1;
-            if (!esBlanco(texto[lugar]))
-                return {{TokenLeido::desconocido, texto.substr(lugar, largoDeCaracter(texto, lugar))},
-                        posicion,
-                        posicion};
+            if (!esBlanco(texto[lugar])) {
+                const auto caracter = texto.substr(lugar, largoDeCaracter(texto, lugar));
+                lectura = {{TokenLeido::desconocido, caracter}, posicion, posicion};
+                return;
+            }
             ++posicion;
             continue;
         }
         const std::int16_t tipo = definiciones[static_cast<std::size_t>(token->patron)]->tipo;
         const std::int32_t fin = posicion + token->longitud;
-        if (comentarios == Comentarios::SeLeen || !esComentario(tipo))
-            return {{token->patron, sinDelimitadores(mapa.texto(posicion, *token), tipo)}, posicion, fin};
+        if (comentarios == Comentarios::SeLeen || !esComentario(tipo)) {
+            const auto lexema = sinDelimitadores(mapa.texto(posicion, *token), tipo);
+            lectura = {{token->patron, lexema}, posicion, fin};
+            return;
+        }
         posicion = fin;
     }
-    return {{TokenLeido::fin, {}}, posicion, posicion};
+    lectura = {{TokenLeido::fin, {}}, posicion, posicion};
 }
 
 } // namespace norvik::inline v0_2
