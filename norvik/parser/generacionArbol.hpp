@@ -30,9 +30,9 @@ public:
 
     /// Room for nodes side by side, which are constructed next.
     Arbol* reserva(std::size_t n) {
-        if (libres_.size() < n * sizeof(Arbol)) pasaDeBloque(n);
-        std::byte* const inicio = libres_.data();
-        libres_ = libres_.subspan(n * sizeof(Arbol));
+        if (libres() < n * sizeof(Arbol)) pasaDeBloque(n);
+        std::byte* const inicio = libre_;
+        libre_ += n * sizeof(Arbol);
         return reinterpret_cast<Arbol*>(inicio);
     }
     const FichaRegla& nuevaFicha(std::u16string_view nombre, std::u16string_view cuerpo,
@@ -44,7 +44,7 @@ public:
     /// Of the nodes that no rule produced.
     const FichaRegla& sinRegla() const { return *sinRegla_; }
 
-    bool vacia() const { return actual_ == 0 && libres_.size() == tamanioDe(0); }
+    bool vacia() const { return actual_ == 0 && libres() == tamanioDe(0); }
     std::size_t bytes() const { return bytes_; }
 
     /// The tree is complete: places that it has not used again hold initialised nodes for good.
@@ -69,7 +69,7 @@ public:
         turno_ = 1 - turno_;
         numFichas_ = 0;
         actual_ = 0;
-        libres_ = bloques_.empty() ? std::span<std::byte>() : bloques_.front().memoria();
+        if (!bloques_.empty()) entraEnBloque();
         sinRegla_ = &nuevaFicha({}, {}, -1);
     }
 
@@ -94,10 +94,16 @@ private:
     std::size_t tamanioDe(std::size_t bloque) const {
         return bloque < bloques_.size() ? bloques_[bloque].memoria().size() : 0;
     }
+    std::size_t libres() const { return static_cast<std::size_t>(fin_ - libre_); }
+    void entraEnBloque() {
+        const auto memoria = bloques_[actual_].memoria();
+        libre_ = memoria.data();
+        fin_ = libre_ + memoria.size();
+    }
     void apuntaUsados() {
         if (bloques_.empty()) return;
         Bloque& bloque = bloques_[actual_];
-        bloque.usados = bloque.cabida - libres_.size() / sizeof(Arbol);
+        bloque.usados = bloque.cabida - libres() / sizeof(Arbol);
         bloque.construidos = std::max(bloque.construidos, bloque.usados);
     }
     void pasaDeBloque(std::size_t n) {
@@ -107,7 +113,7 @@ private:
             bloques_[siguiente].usados = 0;
         if (siguiente == bloques_.size()) aniadeBloque(n);
         actual_ = siguiente;
-        libres_ = bloques_[actual_].memoria();
+        entraEnBloque();
     }
     void aniadeBloque(std::size_t n) {
         const std::size_t cabida = std::max(n, std::clamp(bytes_ / sizeof(Arbol), minimoNodos, maximoNodos));
@@ -122,8 +128,9 @@ private:
     std::size_t numFichas_ = 0;
     const FichaRegla* sinRegla_ = nullptr;
     std::vector<Bloque> bloques_;
-    std::size_t actual_ = 0;      ///< block under way
-    std::span<std::byte> libres_; ///< what is left of it
+    std::size_t actual_ = 0;     ///< block under way
+    std::byte* libre_ = nullptr; ///< what is left of it …
+    std::byte* fin_ = nullptr;   ///< … and its end
     std::size_t bytes_ = 0;
 };
 
