@@ -109,9 +109,11 @@ std::optional<fs::path> sigueEnlaces(fs::path fichero) {
 // The attributes of a file, lists of access among them. What the system alone gives, or does not know here,
 // is no loss.
 bool copiaAtributos(const fs::path& origen, int destino) {
-    std::string nombres(65536, '\0');
-    const ssize_t largo = listxattr(origen.c_str(), nombres.data(), nombres.size());
+    ssize_t largo = listxattr(origen.c_str(), nullptr, 0);
     if (largo < 0) return errno == ENOTSUP || errno == ENOSYS;
+    std::string nombres(static_cast<std::size_t>(largo), '\0');
+    if (largo > 0) largo = listxattr(origen.c_str(), nombres.data(), nombres.size());
+    if (largo < 0) return false;
     nombres.resize(static_cast<std::size_t>(largo));
     for (std::size_t i = 0; i < nombres.size(); i = nombres.find('\0', i) + 1) {
         const char* const nombre = &nombres[i];
