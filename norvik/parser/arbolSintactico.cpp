@@ -77,6 +77,7 @@ std::span<Arbol* const> ArbolSintactico::hazRegla(Arbol& nodo, const FichaRegla&
         std::construct_at(tabla + i, std::construct_at(hijos + i, Arbol::Clave{}, sinRegla(), &nodo));
     nodo.hijos_ = tabla;
     nodo.numHijos_ = static_cast<std::uint32_t>(numHijos) & Arbol::maximoHijos;
+    nodo.conSitio_ = 0;
     return {tabla, numHijos};
 }
 

@@ -48,6 +48,7 @@ public:
         nodo.regla_ = &regla;
         nodo.hijo_ = &hijo;
         nodo.numHijos_ = 1;
+        nodo.conSitio_ = 0;
         return hijo;
     }
 
