@@ -5,6 +5,7 @@
 #include "anfitrion.hpp"
 #include "dibujo.hpp"
 #include "json.hpp"
+#include "memoria.hpp"
 
 namespace norvik::orden {
 
@@ -25,6 +26,7 @@ void escribeArbol(const Arbol& raiz, FormatoArbol formato, Salida& salida) {
 
 int ejecuta(const Analiza& orden, Salida& salida) {
     const std::u16string texto = leeTextoDe(orden.texto);
+    pideMemoria(texto.size());
     Anfitrion anfitrion(salida);
     if (!anfitrion.cargaLenguaje(orden.lenguaje, orden.metodo)) return anfitrion.estado();
     anfitrion.control.Text(texto);

@@ -4,6 +4,7 @@
 
 #include "anfitrion.hpp"
 #include "coloreado.hpp"
+#include "memoria.hpp"
 
 #include "norvik/base/codificacion.hpp"
 #include "norvik/base/ficheros.hpp"
@@ -35,6 +36,7 @@ std::string escribeTexto(const CajaTexto& caja, const Colorea& orden, const Sali
 
 int ejecuta(const Colorea& orden, Salida& salida) {
     const std::u16string texto = leeTextoDe(orden.texto);
+    pideMemoria(texto.size());
     Anfitrion anfitrion(salida);
     if (!anfitrion.cargaLenguaje(orden.lenguaje, orden.metodo)) return anfitrion.estado();
     anfitrion.control.Text(texto);
