@@ -100,6 +100,8 @@ TEST_F(LenguajeTest, SigueLoQueSeEscribe) {
         pulsa(*lista().topLevelItem(1)->child(0)->child(0));
         espera();
         EXPECT_EQ(problemas(1), QStringList());
+        EXPECT_EQ(ventana.problemas().detalle().toPlainText(),
+                  "Ni la especificación ni el texto tienen problemas.");
         EXPECT_TRUE(texto.isAncestorOf(QApplication::focusWidget()));
         texto.norvik().accion(AccionNorvik::Deshacer)->trigger(); // the repair is one step
         EXPECT_EQ(texto.texto(), u"1++2");

@@ -54,8 +54,7 @@ const std::vector<Arreglo>& Historias::curas(std::size_t diagnostico) const {
 Historias::Contados Historias::cuenta(const LenguajeEstudiado& lenguaje, const std::stop_token& parada) {
     using namespace std::chrono_literals;
     LimitesHistorias limites;
-    limites.porConflicto = 500ms;
-    limites.enTotal = 3'000ms; // a person waits for it
+    limites.porConflicto = 500ms; // a person waits for it
     limites.cancelacion = parada;
     const CeldasPorAccion celdas(lenguaje);
     Contados contados;

@@ -136,6 +136,8 @@ void PanelProblemas::llena() {
     llenaLado(Lado::Especificacion, QStringLiteral("Especificación"));
     llenaLado(Lado::Texto, QStringLiteral("Texto"));
     filasSinCuras_ = filas_.size();
+    if (filas_.empty())
+        detalle_.setPlainText(QStringLiteral("Ni la especificación ni el texto tienen problemas."));
     cuentaFiltros();
     if (historias_.conocidas()) anadeCuras();
 }

@@ -107,7 +107,7 @@ bool CalculoPrimeros::recorre(Cuerpo cuerpo, bool recursivo, int indice) {
     if (recursivo && indice != 0 && indice == pendientes_.actual) return true;
     exigeSeguir();
     pila_.clear();
-    pila_.emplace_back(cuerpo, indice, recursivo);
+    pila_.emplace_back(cuerpo, indice, recursivo, 0U);
     while (!pila_.empty()) {
         Marco& marco = pila_.back();
         if (marco.hijo < marco.finHijos) {

@@ -33,10 +33,13 @@ public:
 private:
     /// One call of the recursion: the scan of a string.
     struct Marco {
+        Marco(Cuerpo suCuerpo, int suIndice, bool esRecursivo, std::size_t suSituacion)
+            : cuerpo(suCuerpo), indice(suIndice), recursivo(esRecursivo), situacion(suSituacion) {}
+
         Cuerpo cuerpo;
-        int indice = 0;
-        bool recursivo = false;
-        std::size_t situacion = 0; ///< slot in `situaciones_`, 0 for the outermost call
+        int indice;
+        bool recursivo;
+        std::size_t situacion; ///< slot in `situaciones_`, 0 for the outermost call
         std::size_t posicion = 0;
         int hijo = 0; ///< rules `hijo` … `finHijos` − 1 of a pending symbol are still to be entered
         int finHijos = 0;
