@@ -52,9 +52,10 @@ constexpr std::array palabrasDeCpp = {u"alignas"sv,       u"alignof"sv,      u"a
                                       u"void"sv,          u"volatile"sv,     u"wchar_t"sv,
                                       u"while"sv,         u"xor"sv,          u"xor_eq"sv};
 
-// Macros of the standard headers, which nearly every program includes.
-constexpr std::array macros = {u"EOF"sv,   u"INFINITY"sv, u"NAN"sv,    u"NULL"sv,  u"assert"sv,
-                               u"errno"sv, u"offsetof"sv, u"stderr"sv, u"stdin"sv, u"stdout"sv};
+// Macros of the standard headers, which nearly every program includes, and of compilers that are not asked
+// for the bare standard.
+constexpr std::array macros = {u"EOF"sv,   u"INFINITY"sv, u"NAN"sv,    u"NULL"sv,  u"assert"sv, u"errno"sv,
+                               u"linux"sv, u"offsetof"sv, u"stderr"sv, u"stdin"sv, u"stdout"sv, u"unix"sv};
 
 constexpr bool esCifra(char16_t c) {
     return c >= u'0' && c <= u'9';
@@ -89,10 +90,6 @@ std::u16string codifica(std::u16string_view nombre) {
     return resultado;
 }
 
-bool esReservado(const std::u16string& nombre) {
-    return nombre.empty() || esPalabraDeCpp(nombre) || std::ranges::binary_search(macros, nombre);
-}
-
 } // namespace
 
 std::u16string enHexadecimal(char16_t c) {
@@ -103,8 +100,8 @@ std::u16string enHexadecimal(char16_t c) {
     return texto;
 }
 
-bool esPalabraDeCpp(std::u16string_view nombre) {
-    return std::ranges::binary_search(palabrasDeCpp, nombre);
+bool esReservadoEnCpp(std::u16string_view nombre) {
+    return std::ranges::binary_search(palabrasDeCpp, nombre) || std::ranges::binary_search(macros, nombre);
 }
 
 std::u16string nombreUniversal(std::u16string_view nombre) {
@@ -115,7 +112,7 @@ std::u16string nombreUniversal(std::u16string_view nombre) {
 
 std::u16string identificadorCpp(std::u16string_view nombre) {
     std::u16string resultado = codifica(nombre);
-    if (esReservado(resultado)) resultado += u'_';
+    if (resultado.empty() || esReservadoEnCpp(resultado)) resultado += u'_';
     return resultado;
 }
 

@@ -7,8 +7,8 @@
 
 namespace norvik::inline v0_2 {
 
-/// One that no name of a C++ program may be.
-bool esPalabraDeCpp(std::u16string_view nombre);
+/// A word or a macro: no name of a C++ program can be it.
+bool esReservadoEnCpp(std::u16string_view nombre);
 
 /// A name spelt in C++, in ASCII: other characters as universal character names.
 std::u16string nombreUniversal(std::u16string_view nombre);

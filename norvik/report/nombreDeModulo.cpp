@@ -50,7 +50,8 @@ bool esNombreDeModulo(std::u16string_view nombre, LenguajeModulo lenguaje) {
     case LenguajeModulo::Vb:
         return !std::ranges::binary_search(palabrasDeVb, std::u16string_view(aMinusculas(nombre)));
     case LenguajeModulo::Cpp:
-        return !esPalabraDeCpp(nombre);
+        // The header's namespace would stand beside the function of that name.
+        return nombre != u"main" && !esReservadoEnCpp(nombre);
     }
     return false;
 }

@@ -152,7 +152,8 @@ TEST(Fallos, LosModulosTienenNombreDeModulo) {
         EXPECT_THROW(g.textoModuloCpp(nombre, lexico), ArgumentoNoValido) << aUtf8(nombre);
     }
     EXPECT_THROW(guarda(u"End"), ArgumentoNoValido);
-    EXPECT_THROW(guardaCpp(u"class"), ArgumentoNoValido);
+    for (const std::u16string_view nombre : {u"class", u"EOF", u"main"})
+        EXPECT_THROW(guardaCpp(nombre), ArgumentoNoValido) << aUtf8(nombre);
     EXPECT_EQ(carpeta.entradas(), 1U);
     EXPECT_TRUE(std::filesystem::is_empty(carpeta / "dentro"));
     guarda(u"class"); // each language has words of its own

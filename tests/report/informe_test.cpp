@@ -205,6 +205,7 @@ TEST(Modulo, EnCppCadaNombreTieneSuIdentificador) {
         {u"class", "class_"},
         {u"class_", "class_u005F"},
         {u"EOF", "EOF_"},
+        {u"linux", "linux_"},
         {u"", "_"},
         {u"_", "_u005F"},
         {u"_A", "_u005FA"},
