@@ -259,11 +259,16 @@ TEST(Ficheros, ListasDeAccesoYAtributosSeConservan) {
     for (const auto& [nombre, valor] : filas)
         if (setxattr(fichero.c_str(), nombre, valor.data(), valor.size(), 0) != 0)
             GTEST_SKIP() << "no such attributes here";
+    struct stat antes {};
+    struct stat ahora {};
+    ASSERT_EQ(stat(fichero.c_str(), &antes), 0);
     escribeBytes(fichero, "después", Durabilidad::EnDisco);
+    ASSERT_EQ(stat(fichero.c_str(), &ahora), 0);
+    EXPECT_NE(ahora.st_ino, antes.st_ino) << "another file that took its place";
     for (const auto& [nombre, valor] : filas) {
-        std::string ahora(100, '?');
-        const ssize_t largo = getxattr(fichero.c_str(), nombre, ahora.data(), ahora.size());
-        EXPECT_EQ(ahora.substr(0, static_cast<std::size_t>(std::max<ssize_t>(0, largo))), valor) << nombre;
+        std::string suyo(100, '?');
+        const ssize_t largo = getxattr(fichero.c_str(), nombre, suyo.data(), suyo.size());
+        EXPECT_EQ(suyo.substr(0, static_cast<std::size_t>(std::max<ssize_t>(0, largo))), valor) << nombre;
     }
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <unordered_set>
 #include <vector>
 
 using namespace norvik;
@@ -239,6 +240,18 @@ TEST(Arbol, UnNodoGuardadoPasaAlArbolDeAhora) {
     EXPECT_EQ(comoSeLee(hoja), u"'' (3, 4)\nhoja");
 }
 
+std::unordered_set<const Arbol*> nodosDe(const Arbol& raiz) {
+    std::unordered_set<const Arbol*> nodos;
+    std::vector<const Arbol*> pendientes{&raiz};
+    while (!pendientes.empty()) {
+        const Arbol* const nodo = pendientes.back();
+        pendientes.pop_back();
+        nodos.insert(nodo);
+        pendientes.insert(pendientes.end(), nodo->hijos().begin(), nodo->hijos().end());
+    }
+    return nodos;
+}
+
 // Whatever becomes of a reference that is held for long, it is to a node, and all nodes of trees are right.
 TEST(Arbol, UnNodoGuardadoMuchoTiempoEsUnNodo) {
     ArbolSintactico arbol;
@@ -246,10 +259,13 @@ TEST(Arbol, UnNodoGuardadoMuchoTiempoEsUnNodo) {
     std::vector<const Arbol*> guardados;
     for (int vez = 0; vez < 60; ++vez) {
         planta(arbol, 2 + (azar() % 3 == 0 ? azar() % 9000 : azar() % 50));
+        const auto suyos = nodosDe(arbol.raiz());
         for (const Arbol* const nodo : guardados) {
             const bool entero = nodo->GetNumRegla() == 7 && nodo->hijos().size() == 2;
-            EXPECT_TRUE(entero || nodo->GetEsHoja());
+            EXPECT_TRUE((entero && suyos.contains(nodo)) || nodo->GetEsHoja()) << vez;
         }
+        guardados.push_back(&arbol.raiz().GetNDescendienteEnDireccion(
+            static_cast<std::int16_t>(azar() % 3000), Norvik_Derecha));
         guardados.push_back(&arbol.raiz().GetUltimoDescendienteEnDireccion(Norvik_Derecha));
         guardados.push_back(&arbol.raiz().GetUltimoDescendienteEnDireccion(Norvik_Izquierda));
     }
