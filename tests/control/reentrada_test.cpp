@@ -183,7 +183,6 @@ TEST(Reentrada, UnReceptorQueFalla) {
                    });
 }
 
-/// A text of sums parses or not, but what parses gives a tree of one language.
 /// Whoever shows the control hears of the changes in their order, although a receiver makes one in the
 /// middle.
 TEST(Reentrada, ElContenedorOyeLosCambiosEnSuOrden) {
@@ -205,6 +204,7 @@ TEST(Reentrada, ElContenedorOyeLosCambiosEnSuOrden) {
     EXPECT_EQ(contenedor.oidos, (std::vector<std::int32_t>{2, 0}));
 }
 
+/// A text of sums parses or not, but what parses gives a tree of one language.
 TEST(Reentrada, UnReceptorQueAnaliza) {
     paraCadaSuceso(
         [](Reentrante& a) {
