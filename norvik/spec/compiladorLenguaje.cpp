@@ -48,14 +48,9 @@ public:
     }
 
     Compilacion compila() {
-        const bool completo = registra();
-        bool generable = completo;
-        if (usos_.empty() && rangos_.empty())
-            anota(Codigo::SinReglas, Gravedad::Aviso, {raiz_.rango().fin, raiz_.rango().fin},
-                  {{}, hayDefiniciones_ ? u"" : u"nada", {}, {}, {}});
-        else
-            generable = compruebaSimbolos() && completo;
-        if (generable && genera()) return {acaba(std::move(datos_)), std::move(diagnosticos_)};
+        // Of what was not read to its end nothing is known to be missing.
+        if (registra() && compruebaReglas() && genera())
+            return {acaba(std::move(datos_)), std::move(diagnosticos_)};
         return {std::nullopt, std::move(diagnosticos_)};
     }
 
@@ -119,6 +114,14 @@ private:
             [&](const NodoEspecificacion& alternativa) { rangos_.push_back(alternativa.rango()); });
         datos_->reglas.SetRegla(cabeza.lexema(), cuerpo, 0);
         cabezas_.insert(cabeza.lexema());
+    }
+
+    // False when a table cannot be built.
+    bool compruebaReglas() {
+        if (!usos_.empty() || !rangos_.empty()) return compruebaSimbolos();
+        anota(Codigo::SinReglas, Gravedad::Aviso, {raiz_.rango().fin, raiz_.rango().fin},
+              {{}, hayDefiniciones_ ? u"" : u"nada", {}, {}, {}});
+        return true;
     }
 
     // One diagnostic for each name that nothing defines, at its first place; false when a table cannot be

@@ -240,7 +240,7 @@ TEST(Arbol, UnNodoGuardadoPasaAlArbolDeAhora) {
     EXPECT_EQ(comoSeLee(hoja), u"'' (3, 4)\nhoja");
 }
 
-std::unordered_set<const Arbol*> nodosDe(const Arbol& raiz) {
+std::unordered_set<const Arbol*> nodosBajo(const Arbol& raiz) {
     std::unordered_set<const Arbol*> nodos;
     std::vector<const Arbol*> pendientes{&raiz};
     while (!pendientes.empty()) {
@@ -259,7 +259,7 @@ TEST(Arbol, UnNodoGuardadoMuchoTiempoEsUnNodo) {
     std::vector<const Arbol*> guardados;
     for (int vez = 0; vez < 60; ++vez) {
         planta(arbol, 2 + (azar() % 3 == 0 ? azar() % 9000 : azar() % 50));
-        const auto suyos = nodosDe(arbol.raiz());
+        const auto suyos = nodosBajo(arbol.raiz());
         for (const Arbol* const nodo : guardados) {
             const bool entero = nodo->GetNumRegla() == 7 && nodo->hijos().size() == 2;
             EXPECT_TRUE((entero && suyos.contains(nodo)) || nodo->GetEsHoja()) << vez;
