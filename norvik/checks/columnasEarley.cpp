@@ -14,7 +14,7 @@
 namespace norvik::inline v0_2 {
 
 ColumnasEarley::ColumnasEarley(const exacto::Producciones& producciones, const DerivacionesMinimas& minimas)
-    : producciones_(producciones), minimas_(minimas) {
+    : producciones_(producciones), minimas_(minimas), predichas_(producciones.numSimbolos()) {
     numeraItems();
     columnas_.emplace_back();
     largos_.push_back(0);
@@ -37,8 +37,7 @@ std::size_t ColumnasEarley::avanza(std::size_t columna, Simbolo token) {
     columnas_.emplace_back();
     largos_.push_back(largos_[columna] + 1);
     for (const Item& item : columnas_[columna])
-        if (tras(item) == token)
-            pon(nueva, {item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen});
+        if (item.siguiente == token) pon(nueva, pasado(item));
     cierra(nueva);
     return nueva;
 }
@@ -66,29 +65,29 @@ void ColumnasEarley::pon(std::size_t cual, Item item) {
     auto esta = puesto(item);
     if (esta) return;
     esta = true;
+    item.siguiente = tras(item);
     columnas_[cual].push_back(item);
     ++trabajo_;
 }
 
 void ColumnasEarley::predice(std::size_t cual, Simbolo variable) {
+    if (std::exchange(predichas_[exacto::Producciones::indice(variable)], cual + 1) == cual + 1) return;
     for (const std::int16_t regla : producciones_.de(variable))
-        if (minimas_.produce(producciones_.cuerpo(regla))) pon(cual, {regla, 0, cual});
+        if (minimas_.produce(producciones_.cuerpo(regla)))
+            pon(cual, {regla, 0, static_cast<std::uint32_t>(cual)});
 }
 
 void ColumnasEarley::cierra(std::size_t cual) {
     for (std::size_t i = 0; i < columnas_[cual].size(); ++i) {
         const Item item = columnas_[cual][i];
-        const Simbolo simbolo = tras(item);
-        const Item pasado{item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen};
-        if (simbolo == ReglasPartidas::sinSimbolo) {
+        if (item.siguiente == ReglasPartidas::sinSimbolo) {
             if (item.origen == cual) continue; // empty: whoever waits for it is past it
             const Simbolo cabeza = producciones_.reglas().cabeza(item.regla);
             for (const Item& espera : columnas_[item.origen])
-                if (tras(espera) == cabeza)
-                    pon(cual, {espera.regla, static_cast<std::int16_t>(espera.punto + 1), espera.origen});
-        } else if (producciones_.esVariable(simbolo)) {
-            predice(cual, simbolo);
-            if (producciones_.esAnulable(simbolo)) pon(cual, pasado);
+                if (espera.siguiente == cabeza) pon(cual, pasado(espera));
+        } else if (producciones_.esVariable(item.siguiente)) {
+            predice(cual, item.siguiente);
+            if (producciones_.esAnulable(item.siguiente)) pon(cual, pasado(item));
         }
     }
     for (const Item& item : columnas_[cual]) puesto(item) = false;
@@ -96,7 +95,7 @@ void ColumnasEarley::cierra(std::size_t cual) {
 
 bool ColumnasEarley::acepta(std::size_t columna) const {
     return std::ranges::any_of(columnas_[columna], [&](const Item& item) {
-        return item.origen == 0 && tras(item) == ReglasPartidas::sinSimbolo &&
+        return item.origen == 0 && item.siguiente == ReglasPartidas::sinSimbolo &&
                producciones_.reglas().cabeza(item.regla) == producciones_.inicial();
     });
 }
@@ -104,9 +103,8 @@ bool ColumnasEarley::acepta(std::size_t columna) const {
 std::set<Simbolo> ColumnasEarley::siguientes(std::size_t columna) const {
     std::set<Simbolo> tokens;
     for (const Item& item : columnas_[columna])
-        if (const Simbolo simbolo = tras(item);
-            simbolo != ReglasPartidas::sinSimbolo && !producciones_.esVariable(simbolo))
-            tokens.insert(simbolo);
+        if (item.siguiente != ReglasPartidas::sinSimbolo && !producciones_.esVariable(item.siguiente))
+            tokens.insert(item.siguiente);
     return tokens;
 }
 
@@ -130,13 +128,13 @@ std::vector<Simbolo> ColumnasEarley::completa(std::size_t columna) const {
         const Pedido pedido = pedidos[porMirar++];
         if (pedido == Pedido(0, producciones_.inicial())) respuestas[pedido].tokens = 0;
         for (const Item& espera : columnas_[pedido.first])
-            if (tras(espera) == pedido.second) pide(pedidoDe(espera));
+            if (espera.siguiente == pedido.second) pide(pedidoDe(espera));
     }
     for (bool mejora = true; mejora;) {
         mejora = false;
         for (const Pedido& pedido : pedidos)
             for (const Item& espera : columnas_[pedido.first]) {
-                if (tras(espera) != pedido.second) continue;
+                if (espera.siguiente != pedido.second) continue;
                 const std::int32_t coste =
                     minimas_.tokens(resto(espera, 1)) + respuestas[pedidoDe(espera)].tokens;
                 if (coste >= respuestas[pedido].tokens) continue;

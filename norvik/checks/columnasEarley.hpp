@@ -38,12 +38,16 @@ private:
     struct Item {
         std::int16_t regla;
         std::int16_t punto;
-        std::size_t origen; // column where it began
+        std::uint32_t origen;                           // column where it began
+        Simbolo siguiente = ReglasPartidas::sinSimbolo; // after its dot, none at the end
 
         bool operator==(const Item&) const = default;
     };
     using Columna = std::vector<Item>;
 
+    static Item pasado(const Item& item) {
+        return {item.regla, static_cast<std::int16_t>(item.punto + 1), item.origen};
+    }
     Simbolo tras(const Item& item) const;
     Cuerpo resto(const Item& item, std::size_t desde) const;
     void numeraItems();
@@ -57,6 +61,7 @@ private:
     std::vector<Columna> columnas_;
     std::vector<std::size_t> primerItem_; // of each rule, in the numbering of all items
     std::vector<std::size_t> largos_;     // of the beginning of each column
+    std::vector<std::size_t> predichas_;  // of each variable, the last column that it was begun in, from 1
     // Of each item, whether the column being made has it from a beginning of so many tokens.
     std::vector<std::vector<bool>> puestos_;
     std::size_t trabajo_ = 0;
