@@ -18,6 +18,8 @@
 
 namespace norvik::inline v0_2 {
 
+// Whoever hears of an event may delete the box, and with it what is connected here: each leaves to a member
+// what it does after that.
 void Edicion::conecta(std::weak_ptr<const void> duenio) {
     CajaTexto::Eventos& e = caja_->eventos;
     const auto libre = [this, &duenio](auto accion) {
@@ -26,17 +28,9 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
             if (vivo != nullptr && !callada_ && !lineas_.ocupado()) accion(argumentos...);
         };
     };
-    const auto alCambiarLibre = libre([this](const auto& cambio) { alCambiar(cambio); });
-    e.cambio = [this, duenio, alCambiarLibre](const CambioDeTexto& cambio) {
+    e.cambio = [this, duenio](const CambioDeTexto& cambio) {
         const auto vivo = duenio.lock();
-        if (vivo == nullptr) return;
-        PasosFirmes paso;
-        lineas_.siguePosiciones(cambio);
-        if (lineas_.ocupado()) paso([&] { historial_.corrige(cambio); });
-        textoPorAvisar_ = true;
-        paso([&] { contenedor_->cambioElTexto(cambio); }); // before who changes the text once more
-        paso([&] { alCambiarLibre(cambio); });
-        paso.acaba();
+        if (vivo != nullptr) alCambiarLaCaja(cambio);
     };
     e.cambioDeSeleccion = libre([this] { alCambiarLaSeleccion(); });
     e.teclaAbajo = libre([this](auto& codigo, auto& shift) { alBajarTecla(codigo, shift); });
@@ -46,12 +40,7 @@ void Edicion::conecta(std::weak_ptr<const void> duenio) {
     e.ratonMueve = libre([this](auto&... a) { avisa(eventos_.MouseMove, a...); });
     e.ratonArriba = libre([this](auto&... a) { avisa(eventos_.MouseUp, a...); });
     e.click = libre([this] { avisa(eventos_.Click); });
-    e.pierdeFoco = libre([this] {
-        PasosFirmes paso;
-        paso([this] { lineas_.alPerderElFoco(); });
-        paso([this] { avisaTexto(); });
-        paso.acaba();
-    });
+    e.pierdeFoco = libre([this] { alPerderElFoco(); });
     e.vaAPegar = libre([this] { lineas_.vaAPegar(); });
     e.empiezaPaso = libre([this] { historial_.empiezaPaso(); });
     e.acabaPaso = libre([this] { historial_.acabaPaso(); });
@@ -67,6 +56,16 @@ std::int32_t Edicion::columnaActual() const {
 }
 
 // --- Changes ---
+
+void Edicion::alCambiarLaCaja(const CambioDeTexto& cambio) {
+    PasosFirmes paso;
+    lineas_.siguePosiciones(cambio);
+    if (lineas_.ocupado()) paso([&] { historial_.corrige(cambio); });
+    textoPorAvisar_ = true;
+    paso([&] { contenedor_->cambioElTexto(cambio); }); // before who changes the text once more
+    if (!callada_ && !lineas_.ocupado()) paso([&] { alCambiar(cambio); });
+    paso.acaba();
+}
 
 void Edicion::alCambiar(const CambioDeTexto& cambio) {
     PasosFirmes paso;
@@ -101,6 +100,13 @@ void Edicion::avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& pas
     }
     lineas_.rangoVisto();
     if (historial_.grabaDeshacer()) paso([this] { avisa(eventos_.SelChange); });
+}
+
+void Edicion::alPerderElFoco() {
+    PasosFirmes paso;
+    paso([this] { lineas_.alPerderElFoco(); });
+    paso([this] { avisaTexto(); });
+    paso.acaba();
 }
 
 // --- Keys ---

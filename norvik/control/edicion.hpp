@@ -66,8 +66,10 @@ private:
     void avisa(const Evento& evento, Argumentos&... argumentos) const {
         if (evento && !callada_) evento(argumentos...);
     }
+    void alCambiarLaCaja(const CambioDeTexto& cambio);
     void alCambiar(const CambioDeTexto& cambio);
     void alCambiarLaSeleccion();
+    void alPerderElFoco();
     void avisaSeleccion(std::optional<std::int32_t> linea, PasosFirmes& paso);
     void alBajarTecla(std::int16_t& codigo, std::int16_t& shift);
     void alSubirTecla(std::int16_t& codigo, std::int16_t& shift);

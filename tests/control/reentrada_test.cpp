@@ -42,6 +42,7 @@ struct Reentrante {
     struct ContenedorConEventos : Contenedor {
         explicit ContenedorConEventos(Reentrante& anfitrion) : suyo(anfitrion) {}
         void cambioDePropiedad(std::u16string_view /*nombre*/) override { suyo.suceso(); }
+        void cambioElTexto(const CambioDeTexto& /*cambio*/) override { suyo.suceso(); }
         Reentrante& suyo;
     };
 
