@@ -7,14 +7,14 @@
 #include "memoria.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 #include <malloc.h>
+#include <string>
 #include <sys/mman.h>
 #include <unistd.h>
 
 namespace norvik::orden {
 
-void pideMemoria(std::size_t caracteres) {
+void pideMemoria([[maybe_unused]] std::size_t caracteres) {
 #if defined(__GLIBC__) && defined(MADV_HUGEPAGE)
     constexpr std::size_t textoLargo = 8192; // a shorter one would clear a large page in vain
     constexpr std::intptr_t paginaGrande = 2 << 20;
@@ -26,9 +26,8 @@ void pideMemoria(std::size_t caracteres) {
     const auto fin = reinterpret_cast<std::intptr_t>(sbrk(0));
     sbrk(paginaGrande - (fin + menudas) % paginaGrande);
     auto* const inicio = static_cast<std::byte*>(sbrk(0));
-    void* volatile primero = std::malloc(menudas / 2);
+    std::string().reserve(menudas / 2); // grows the heap
     madvise(inicio + menudas, tamanio, MADV_HUGEPAGE);
-    std::free(primero);
 #endif
 }
 
