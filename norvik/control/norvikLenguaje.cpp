@@ -26,9 +26,11 @@ void Norvik::SetPatron(std::u16string_view patron, std::u16string_view nomER, st
 }
 
 void Norvik::DistingueMayusculas() {
-    partes_->compruebaQueNadaCarga();
+    const auto partes = vivo();
+    partes->compruebaQueNadaCarga();
+    partes->lexico.distingueMayusculas = true;
     LenguajeSensible(true);
-    Lexico().distingueMayusculas = true;
+    partes->compruebaQueSigue();
 }
 
 void Norvik::SetPalabraReservada(std::u16string_view lexema, std::u16string& token,
@@ -74,9 +76,10 @@ void Norvik::SetElementoTablaSLR(std::int16_t posFilas, std::int16_t posColumnas
 }
 
 std::size_t Norvik::SetElementosTablaSLR(std::span<const CeldaSLR> celdas) {
-    partes_->compruebaQueNadaCarga();
-    const std::size_t puestas = Gramatica().SetElementosTablaSLR(celdas);
-    partes_->contenedor->otroLenguaje();
+    const auto partes = vivo();
+    partes->compruebaQueNadaCarga();
+    const std::size_t puestas = partes->laGramatica.SetElementosTablaSLR(celdas);
+    partes->avisaOtroLenguaje();
     return puestas;
 }
 

@@ -66,6 +66,10 @@ public:
     void ponAyudas(const Ayudas& otras);
     /// Raises `ArgumentoNoValido` while a language is being loaded or compiled.
     void compruebaQueNadaCarga() const;
+    /// Raises `ErrorNorvik` when a receiver has deleted the control: no call of its loading can follow.
+    void compruebaQueSigue() const;
+    /// Another language, in the middle of its loading. Raises likewise.
+    void avisaOtroLenguaje() const;
 
     Prestado<CajaTexto> caja;
     Prestado<Sistema> sistema;

@@ -77,13 +77,21 @@ void PartesControl::compruebaQueNadaCarga() const {
 
 /// Of a definition: it is there, or its error is shown.
 void PartesControl::alRegistrar(const std::u16string& mensaje) {
-    if (mensaje.empty()) return contenedor->otroLenguaje();
     const auto vivo = shared_from_this();
+    if (mensaje.empty()) return avisaOtroLenguaje();
     const Carga carga(*this);
     sistema->muestraMensaje(
         {mensaje, u"Norvik: Error en especificación léxica", Icono::Exclamacion, Botones::Aceptar});
-    if (edicion.callada())
-        throw ErrorNorvik(u"El control se ha destruido mientras cargaba un lenguaje"); // no call can follow
+    compruebaQueSigue();
+}
+
+void PartesControl::avisaOtroLenguaje() const {
+    contenedor->otroLenguaje();
+    compruebaQueSigue();
+}
+
+void PartesControl::compruebaQueSigue() const {
+    if (edicion.callada()) throw ErrorNorvik(u"El control se ha destruido mientras cargaba un lenguaje");
 }
 
 void PartesControl::SetER(std::u16string_view expresion, std::u16string_view nomER, bool esToken,

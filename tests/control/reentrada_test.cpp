@@ -43,6 +43,7 @@ struct Reentrante {
         explicit ContenedorConEventos(Reentrante& anfitrion) : suyo(anfitrion) {}
         void cambioDePropiedad(std::u16string_view /*nombre*/) override { suyo.suceso(); }
         void cambioElTexto(const CambioDeTexto& /*cambio*/) override { suyo.suceso(); }
+        void otroLenguaje() override { suyo.suceso(); }
         Reentrante& suyo;
     };
 
@@ -93,6 +94,8 @@ const std::pair<const char*, Operacion> operaciones[] = {
     {"CargaGramatica mala", [](Reentrante& a) { a.norvik->CargaGramatica(u"Token"); }},
     {"GeneraCompilador", [](Reentrante& a) { a.norvik->GeneraCompilador(); }},
     {"CargaModulo", [](Reentrante& a) { CargaModulo(moduloDudoso(), *a.norvik); }},
+    {"DistingueMayusculas", [](Reentrante& a) { a.norvik->DistingueMayusculas(); }},
+    {"SetElementosTablaSLR", [](Reentrante& a) { a.norvik->SetElementosTablaSLR({}); }},
     {"SetER", [](Reentrante& a) { a.norvik->SetER(u"[", u"x", true); }},
     {"SetComentarioLinea", [](Reentrante& a) { a.norvik->SetComentarioLinea(u"["); }},
     {"ConstruyeArbolSintactico",
@@ -267,7 +270,7 @@ TEST(Reentrada, DuranteLaCompilacionSeVeElLenguajeDeAntes) {
     };
     a.faltan = 1;
     EXPECT_TRUE(a.norvik->GeneraCompilador());
-    EXPECT_EQ(veces, 5);
+    EXPECT_EQ(veces, 6);
     EXPECT_EQ(enTexto(a.norvik->Gramatica().valores().tabla), tabla);
     a.accion = nullptr;
     EXPECT_TRUE(a.norvik->CargaGramatica(restas) && a.norvik->GeneraCompilador());
@@ -284,7 +287,7 @@ TEST(Reentrada, LosAvisosDeUnaCargaSeVenConElLenguajeNuevo) {
         a.norvik->MuestraMensajesDeError(false);
         a.norvik->ConstruyeArbolSintacticoTextoInvisible(); // its message is not that of the load
     };
-    a.faltan = 1;
+    a.faltan = 2; // the first one says that there will be another language
     EXPECT_TRUE(a.norvik->CargaGramatica(dudosas));
     EXPECT_EQ(veces, 3);
 }
