@@ -133,6 +133,7 @@ void Analizador::reconoceTexto(std::u16string_view texto, const OpcionesAnalisis
 std::optional<Diagnostico> Analizador::reconoce(const TextoAnalizado& texto,
                                                 const OpcionesAnalisis& opciones) {
     try {
+        exigeSeguir(opciones.cancelacion); // a short text does not ask again
         reconoceTexto(texto.texto, opciones);
     } catch (const BusquedaDesbocada& error) {
         Diagnostico diagnostico = sinLugar(Codigo::BusquedaDesbocada);

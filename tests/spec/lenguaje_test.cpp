@@ -255,8 +255,9 @@ TEST(Lenguaje, UnAnalisisSePuedeCancelar) {
     std::stop_source fuente;
     EXPECT_TRUE(analiza(lenguaje, entrada, {fuente.get_token()}));
     fuente.request_stop();
-    EXPECT_EQ(texto(analiza(lenguaje, entrada, {fuente.get_token()}).diagnosticos),
-              "error cancelado 1:1@0-1:1@0 La operación se ha cancelado.\n");
+    for (const std::string& cancelada : {entrada, std::string("1"), std::string()})
+        EXPECT_EQ(texto(analiza(lenguaje, cancelada, {fuente.get_token()}).diagnosticos),
+                  "error cancelado 1:1@0-1:1@0 La operación se ha cancelado.\n");
     EXPECT_TRUE(analiza(lenguaje, entrada));
 }
 
