@@ -132,12 +132,12 @@ void PanelProblemas::llena() {
     const QScopedValueRollback<bool> callado(callado_, true);
     lista_.clear();
     filas_.clear();
-    detalle_.setPlainText(QStringLiteral("Elija un problema: aquí se cuenta todo de él."));
     llenaLado(Lado::Especificacion, QStringLiteral("Especificación"));
     llenaLado(Lado::Texto, QStringLiteral("Texto"));
     filasSinCuras_ = filas_.size();
-    if (filas_.empty())
-        detalle_.setPlainText(QStringLiteral("Ni la especificación ni el texto tienen problemas."));
+    detalle_.setPlainText(filas_.empty()
+                              ? QStringLiteral("Ni la especificación ni el texto tienen problemas.")
+                              : QStringLiteral("Elija un problema: aquí se cuenta todo de él."));
     cuentaFiltros();
     if (historias_.conocidas()) anadeCuras();
 }
