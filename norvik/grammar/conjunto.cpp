@@ -83,25 +83,17 @@ std::int16_t conjunto::totalElementos() const {
     return a16(elementos_.size());
 }
 
-/// The slot of a member, or a free one with room left for others.
-std::uint32_t& conjunto::ranuraPara(const Valor& valor) {
-    constexpr std::size_t minimo = 16;
-    if ((elementos_.size() + 1) * 2 > ranuras_.size()) indexa(std::max(minimo, ranuras_.size() * 2));
-    return ranuras_[ranuraDe(valor)];
-}
-
 void conjunto::insertar(const Valor& valor) {
-    std::uint32_t& suya = ranuraPara(valor);
-    if (suya != 0) return;
-    elementos_.push_back(copiaDe(valor));
-    suya = static_cast<std::uint32_t>(elementos_.size());
+    if (!perteneceA(valor)) insertar(copiaDe(valor));
 }
 
 void conjunto::insertar(Valor&& valor) {
-    std::uint32_t& suya = ranuraPara(valor);
-    if (suya != 0) return;
+    constexpr std::size_t minimo = 16;
+    if ((elementos_.size() + 1) * 2 > ranuras_.size()) indexa(std::max(minimo, ranuras_.size() * 2));
+    const std::size_t sitio = ranuraDe(valor);
+    if (ranuras_[sitio] != 0) return;
     elementos_.push_back(std::move(valor));
-    suya = static_cast<std::uint32_t>(elementos_.size());
+    ranuras_[sitio] = static_cast<std::uint32_t>(elementos_.size());
 }
 
 void conjunto::aniadeElementosConjunto(const conjunto& otro) {

@@ -55,7 +55,6 @@ private:
     std::size_t busca(const Clave& clave) const;
     std::size_t buscaValor(const Valor& valor) const;
     std::size_t ranuraDe(const Valor& valor) const;
-    std::uint32_t& ranuraPara(const Valor& valor);
     void indexa(std::size_t ranuras);
 
     std::vector<Valor> elementos_;
